@@ -1,0 +1,41 @@
+#define VN_MODULO "avisos (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/avisos.h"
+#include "foundation/afirma.h"
+#include "foundation/error_interno_priv.h"
+#include "foundation/platform/consola.h"
+#include <atomic>
+#include <cstdlib>
+
+namespace {
+
+std::atomic<vnreceptor_avisos> el_receptor{nullptr};
+std::atomic<void *> los_datos{nullptr};
+
+vnbool da(vntipo_aviso tipo, const vnwchar *texto) {
+    const vnreceptor_avisos receptor = el_receptor.load(std::memory_order_acquire);
+    if (receptor != nullptr) return receptor(tipo, texto, los_datos.load(std::memory_order_acquire));
+    vn::escribe_linea_de_error(texto);
+    return FALSO;
+}
+
+} // namespace
+
+void assert_aviso(const vnwchar *texto) {
+    if (!AFIRMA_NO_NULO(texto)) return;
+    if (std::getenv("ENPRUEBA") != nullptr) da(VN_AVISO_DESARROLLO, texto);
+}
+
+void vnaviso_aviso_interno_como_error_u(const vnwchar *texto) {
+    if (AFIRMA_NO_NULO(texto)) da(VN_AVISO_ERROR, texto);
+}
+
+vnbool avisobas_pregunta_u(const vnwchar *texto) {
+    if (!AFIRMA_NO_NULO(texto)) return FALSO;
+    return da(VN_AVISO_PREGUNTA, texto) == CIERTO ? CIERTO : FALSO;
+}
+
+void avisos_instala_receptor(vnreceptor_avisos receptor, void *datos) {
+    el_receptor.store(nullptr, std::memory_order_release);
+    los_datos.store(datos, std::memory_order_release);
+    el_receptor.store(receptor, std::memory_order_release);
+}

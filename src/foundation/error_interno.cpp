@@ -1,0 +1,188 @@
+#define VN_MODULO "error_interno (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/error_interno.h"
+#include "foundation/error_interno_priv.h"
+#include "foundation/platform/consola.h"
+#include "foundation/vornspy.h"
+#include <atomic>
+#include <cstring>
+#include <exception>
+
+namespace {
+
+// Read without a lock: a report may come from anywhere.
+std::atomic<vnreceptor_informes> la_funcion{nullptr};
+std::atomic<void *> los_datos{nullptr};
+std::atomic<uint64_t> numero_de_informes{0};
+thread_local int trampas = 0;
+thread_local bool informando = false;
+thread_local char ultimo_fallo[vn::MAXIMO_LINEA_INFORME] = "";
+
+// Appends to a fixed line; what does not fit is cut at a character's boundary.
+class linea_fija {
+  public:
+    linea_fija(char *texto, size_t maximo) : texto_(texto), maximo_(maximo - 2) {}
+
+    void pon(const char *s) {
+        // ANSI texts of reports are ASCII but for details; bytes above 127 go through as Latin-1.
+        for (; s != nullptr && *s != '\0'; ++s) pon_punto_de_codigo(static_cast<unsigned char>(*s));
+    }
+    void pon_u(const vnwchar *s) {
+        for (; s != nullptr && *s != 0; ++s) {
+            uint32_t c = static_cast<uint16_t>(*s);
+            const uint32_t bajo = static_cast<uint16_t>(s[1]);
+            if (c >= 0xD800 && c < 0xDC00 && bajo >= 0xDC00 && bajo < 0xE000) {
+                c = 0x10000 + ((c - 0xD800) << 10) + (bajo - 0xDC00);
+                ++s;
+            } else if (c >= 0xD800 && c < 0xE000) {
+                c = 0xFFFD;
+            }
+            pon_punto_de_codigo(c);
+        }
+    }
+    void pon_numero(uint32_t n) {
+        char cifras[11];
+        char *p = cifras + sizeof cifras - 1;
+        *p = '\0';
+        do {
+            *--p = static_cast<char>('0' + n % 10);
+            n /= 10;
+        } while (n != 0);
+        pon(p);
+    }
+    size_t termina() {
+        texto_[n_++] = '\n';
+        texto_[n_] = '\0';
+        return n_;
+    }
+
+  private:
+    void pon_punto_de_codigo(uint32_t c) {
+        if (c < 0x20) c = ' ';
+        char u[4];
+        size_t k = 0;
+        if (c < 0x80) {
+            u[k++] = static_cast<char>(c);
+        } else if (c < 0x800) {
+            u[k++] = static_cast<char>(0xC0 | (c >> 6));
+            u[k++] = static_cast<char>(0x80 | (c & 0x3F));
+        } else if (c < 0x10000) {
+            u[k++] = static_cast<char>(0xE0 | (c >> 12));
+            u[k++] = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+            u[k++] = static_cast<char>(0x80 | (c & 0x3F));
+        } else {
+            u[k++] = static_cast<char>(0xF0 | (c >> 18));
+            u[k++] = static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+            u[k++] = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+            u[k++] = static_cast<char>(0x80 | (c & 0x3F));
+        }
+        if (n_ + k > maximo_) return;
+        std::memcpy(texto_ + n_, u, k);
+        n_ += k;
+    }
+
+    char *texto_;
+    size_t maximo_;
+    size_t n_ = 0;
+};
+
+void entrega_al_receptor(const vninforme &informe) {
+    const vnreceptor_informes funcion = la_funcion.load(std::memory_order_acquire);
+    if (funcion != nullptr) {
+        funcion(&informe, los_datos.load(std::memory_order_acquire));
+        return;
+    }
+    char linea[vn::MAXIMO_LINEA_INFORME];
+    vn::plat::escribe_error(linea, vn::linea_de_informe(informe, linea, sizeof linea));
+}
+
+} // namespace
+
+namespace vn {
+
+int &trampas_abiertas() { return trampas; }
+char *linea_del_ultimo_fallo() { return ultimo_fallo; }
+
+size_t linea_de_informe(const vninforme &informe, char *linea, size_t maximo) {
+    linea_fija l(linea, maximo);
+    l.pon(informe.modulo != nullptr ? informe.modulo : "?");
+    l.pon(", ");
+    l.pon_numero(informe.linea);
+    l.pon(": ");
+    if (informe.expresion_u != nullptr) l.pon_u(informe.expresion_u);
+    else l.pon(informe.expresion != nullptr ? informe.expresion : "default");
+    if (informe.detalle_u != nullptr) {
+        l.pon(": ");
+        l.pon_u(informe.detalle_u);
+    } else if (informe.detalle != nullptr) {
+        l.pon(": ");
+        l.pon(informe.detalle);
+    }
+    return l.termina();
+}
+
+void escribe_linea_de_error(const vnwchar *texto) {
+    char linea[4096];
+    linea_fija l(linea, sizeof linea);
+    l.pon_u(texto);
+    plat::escribe_error(linea, l.termina());
+}
+
+void entrega(const vninforme &informe) {
+    const plat::guarda_error guarda;
+    numero_de_informes.fetch_add(1, std::memory_order_relaxed);
+    // While an exception is already unwinding, a second one would end the process: the report is only counted.
+    if (trampas > 0) {
+        if (std::uncaught_exceptions() > 0) return;
+        linea_de_informe(informe, ultimo_fallo, sizeof ultimo_fallo);
+        throw fallo_atrapado{};
+    }
+    // A receiver that fails a check of its own must not report for ever.
+    if (informando) return;
+    informando = true;
+    entrega_al_receptor(informe);
+    informando = false;
+}
+
+} // namespace vn
+
+void error_interno(const char *expresion, const char *modulo, uint32_t linea, uint16_t clase) {
+    vn::entrega({.expresion = expresion, .modulo = modulo, .linea = linea, .clase = clase});
+}
+
+void error_interno_default_error(const char *expresion, const char *detalle, const char *modulo, uint32_t linea,
+                                 uint16_t clase) {
+    vn::entrega({.expresion = expresion, .detalle = detalle, .modulo = modulo, .linea = linea, .clase = clase});
+}
+
+void error_interno_msg(const char *expresion, const char *modulo, uint32_t linea, const char *detalle, uint16_t clase) {
+    vn::entrega({.expresion = expresion, .detalle = detalle, .modulo = modulo, .linea = linea, .clase = clase});
+}
+
+void error_interno_msg_u(const vnwchar *expresion, const char *modulo, uint32_t linea, const vnwchar *detalle,
+                         uint16_t clase) {
+    vn::entrega({.expresion_u = expresion, .detalle_u = detalle, .modulo = modulo, .linea = linea, .clase = clase});
+}
+
+void error_interno_liberando_mensaje_u(const vnwchar *expresion, const char *modulo, uint32_t linea, vnwchar *detalle,
+                                       uint16_t clase) {
+    // Freed on the way out, a trap's unwinding included.
+    struct libera {
+        vnwchar *texto;
+        ~libera() {
+            if (texto != nullptr) vornspy_nousar_free_pp(&texto, sizeof(vnwchar));
+        }
+    } const suelta{detalle};
+    error_interno_msg_u(expresion, modulo, linea, detalle, clase);
+}
+
+void error_interno_punto_2D(const char *expresion, const char *modulo, uint32_t linea, const Punto2D *punto) {
+    vn::entrega({.expresion = expresion, .punto = punto, .modulo = modulo, .linea = linea});
+}
+
+void error_interno_instala_receptor(vnreceptor_informes receptor, void *datos) {
+    la_funcion.store(nullptr, std::memory_order_release);
+    los_datos.store(datos, std::memory_order_release);
+    la_funcion.store(receptor, std::memory_order_release);
+}
+
+uint64_t error_interno_numero_de_informes(void) { return numero_de_informes.load(std::memory_order_relaxed); }

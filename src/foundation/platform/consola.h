@@ -1,0 +1,27 @@
+// The process's error stream, and what the platform remembers of its last error.
+#pragma once
+
+#include <cstddef>
+
+namespace vn::plat {
+
+// Writes the bytes to the error stream at once; failures are ignored. Allocates nothing.
+void escribe_error(const char *utf8, size_t n);
+
+// Keeps errno and the platform's last error over its life.
+class guarda_error {
+  public:
+    guarda_error();
+    ~guarda_error();
+    guarda_error(const guarda_error &) = delete;
+    guarda_error &operator=(const guarda_error &) = delete;
+
+  private:
+    int errno_;
+    unsigned long ultimo_;
+};
+
+// Keeps the library's code in memory until the process ends, so that exit cleaners can still be called.
+void fija_en_memoria();
+
+} // namespace vn::plat

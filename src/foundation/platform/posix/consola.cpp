@@ -1,0 +1,23 @@
+#include "foundation/platform/consola.h"
+#include <cerrno>
+#include <unistd.h>
+
+namespace vn::plat {
+
+void escribe_error(const char *utf8, size_t n) {
+    while (n > 0) {
+        const ssize_t k = ::write(STDERR_FILENO, utf8, n);
+        if (k < 0 && errno == EINTR) continue;
+        if (k <= 0) return;
+        utf8 += k;
+        n -= static_cast<size_t>(k);
+    }
+}
+
+guarda_error::guarda_error() : errno_(errno), ultimo_(0) {}
+guarda_error::~guarda_error() { errno = errno_; }
+
+// The library is linked with -z nodelete.
+void fija_en_memoria() {}
+
+} // namespace vn::plat

@@ -1,0 +1,318 @@
+#define VN_MODULO "vornspy (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/vornspy.h"
+#include "foundation/afirma.h"
+#include "foundation/error_interno_priv.h"
+#include "foundation/platform/consola.h"
+#include <algorithm>
+#include <atomic>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <new>
+#include <utility>
+
+// A block is the platform's own, with a 16-byte head before it that says who asked. Whether an address is a live
+// block stands apart, in a bit per 16 bytes of address space, so that any pointer may be asked about without following
+// it, no allocation takes a lock, and the live blocks can be walked.
+
+namespace {
+
+struct cabeza {
+    const char *modulo;
+    uint64_t linea_y_tamanyo; // line in the upper 20 bits, size in the lower 44
+};
+static_assert(sizeof(cabeza) == 16, "blocks keep the platform's alignment");
+
+constexpr unsigned BITS_TAMANYO = 44;
+constexpr uint64_t MAXIMO_TAMANYO = uint64_t{1} << (BITS_TAMANYO - 1);
+
+// The map of live blocks: a first level over the 47 bits of a user address, leaves made at first use.
+constexpr unsigned BITS_DIRECCION = 47, BITS_HOJA = 28, BITS_GRANO = 4;
+constexpr size_t PALABRAS_HOJA = size_t{1} << (BITS_HOJA - BITS_GRANO - 6);
+using palabra = std::atomic<uint64_t>;
+constinit std::atomic<palabra *> hojas[size_t{1} << (BITS_DIRECCION - BITS_HOJA)] = {};
+
+constinit std::atomic<vnfunc_permiso> el_permiso{nullptr};
+constinit std::atomic<void *> datos_del_permiso{nullptr};
+constinit std::atomic<bool> fugas_al_salir{false};
+
+palabra *hoja_de(uintptr_t direccion) {
+    if (direccion >> BITS_DIRECCION != 0) return nullptr;
+    return hojas[direccion >> BITS_HOJA].load(std::memory_order_acquire);
+}
+
+palabra *hoja_creada(uintptr_t direccion) {
+    if (direccion >> BITS_DIRECCION != 0) return nullptr;
+    std::atomic<palabra *> &sitio = hojas[direccion >> BITS_HOJA];
+    palabra *hoja = sitio.load(std::memory_order_acquire);
+    if (hoja != nullptr) [[likely]] return hoja;
+    auto *nueva = static_cast<palabra *>(std::calloc(PALABRAS_HOJA, sizeof(palabra)));
+    if (nueva == nullptr) return nullptr;
+    if (sitio.compare_exchange_strong(hoja, nueva, std::memory_order_acq_rel)) return nueva;
+    std::free(nueva);
+    return hoja;
+}
+
+struct bit {
+    palabra &en;
+    uint64_t mascara;
+};
+
+bit bit_de(palabra *hoja, uintptr_t direccion) {
+    const size_t grano = (direccion & ((uintptr_t{1} << BITS_HOJA) - 1)) >> BITS_GRANO;
+    return {hoja[grano >> 6], uint64_t{1} << (grano & 63)};
+}
+
+bool apunta(const void *p) {
+    const auto direccion = reinterpret_cast<uintptr_t>(p);
+    palabra *hoja = hoja_creada(direccion);
+    if (hoja == nullptr) return false;
+    const bit b = bit_de(hoja, direccion);
+    b.en.fetch_or(b.mascara, std::memory_order_relaxed);
+    return true;
+}
+
+// True when the block was alive; of two that race to free it, one wins.
+bool tacha(const void *p) {
+    const auto direccion = reinterpret_cast<uintptr_t>(p);
+    if (direccion & ((1u << BITS_GRANO) - 1)) return false;
+    palabra *hoja = hoja_de(direccion);
+    if (hoja == nullptr) return false;
+    const bit b = bit_de(hoja, direccion);
+    return (b.en.fetch_and(~b.mascara, std::memory_order_relaxed) & b.mascara) != 0;
+}
+
+bool esta_vivo(const void *p) {
+    const auto direccion = reinterpret_cast<uintptr_t>(p);
+    if (direccion & ((1u << BITS_GRANO) - 1)) return false;
+    palabra *hoja = hoja_de(direccion);
+    if (hoja == nullptr) return false;
+    const bit b = bit_de(hoja, direccion);
+    return (b.en.load(std::memory_order_relaxed) & b.mascara) != 0;
+}
+
+bool permitido(size_t tamanyo) {
+    const vnfunc_permiso permiso = el_permiso.load(std::memory_order_acquire);
+    return permiso == nullptr || permiso(tamanyo, datos_del_permiso.load(std::memory_order_acquire)) == CIERTO;
+}
+
+cabeza *cabeza_de(void *p) { return static_cast<cabeza *>(p) - 1; }
+
+// Fills the head and enters the block in the map; null hands null on.
+void *estrena(cabeza *c, size_t tamanyo, const char *modulo, uint32_t linea) {
+    if (c == nullptr) return nullptr;
+    c->modulo = modulo;
+    c->linea_y_tamanyo = (uint64_t{linea} << BITS_TAMANYO) | tamanyo;
+    if (apunta(c + 1)) [[likely]] return c + 1;
+    std::free(c);
+    return nullptr;
+}
+
+void *reserva(size_t tamanyo, const char *modulo, uint32_t linea) {
+    if (!permitido(tamanyo)) [[unlikely]] return nullptr;
+    return estrena(static_cast<cabeza *>(std::malloc(tamanyo + sizeof(cabeza))), tamanyo, modulo, linea);
+}
+
+void *reserva_a_cero(size_t tamanyo, const char *modulo, uint32_t linea) {
+    if (!permitido(tamanyo)) [[unlikely]] return nullptr;
+    return estrena(static_cast<cabeza *>(std::calloc(1, tamanyo + sizeof(cabeza))), tamanyo, modulo, linea);
+}
+
+// Nobody above can go on without the block: inside a trap the call unwinds, elsewhere the process ends with a line.
+[[noreturn, gnu::cold]] void sin_memoria(const char *modulo, uint32_t linea) {
+    if (vn::trampas_abiertas() > 0) throw std::bad_alloc();
+    error_interno_msg("memoria != NULL", modulo, linea, "memoria agotada", 0);
+    std::abort();
+}
+
+void *exige(void *p, const char *modulo, uint32_t linea) {
+    if (p == nullptr) [[unlikely]] sin_memoria(modulo, linea);
+    return p;
+}
+
+template <class F>
+void por_cada_vivo(F &&funcion) {
+    for (size_t h = 0; h < std::size(hojas); ++h) {
+        palabra *hoja = hojas[h].load(std::memory_order_acquire);
+        for (size_t w = 0; hoja != nullptr && w < PALABRAS_HOJA; ++w) {
+            uint64_t vivos = hoja[w].load(std::memory_order_relaxed);
+            for (; vivos != 0; vivos &= vivos - 1) {
+                const uintptr_t grano = (h << (BITS_HOJA - BITS_GRANO)) + (w << 6) + static_cast<size_t>(__builtin_ctzll(vivos));
+                auto *p = reinterpret_cast<void *>(grano << BITS_GRANO);
+                const cabeza *c = cabeza_de(p);
+                funcion(p, static_cast<size_t>(c->linea_y_tamanyo & ((uint64_t{1} << BITS_TAMANYO) - 1)), c->modulo,
+                        static_cast<uint32_t>(c->linea_y_tamanyo >> BITS_TAMANYO));
+            }
+        }
+    }
+}
+
+void *&puntero_en(void *pp) { return *static_cast<void **>(pp); }
+
+} // namespace
+
+void *vornspy_nousar_malloc(size_t tamanyo, const char *modulo, uint32_t linea) {
+    if (!AFIRMA(tamanyo <= MAXIMO_TAMANYO)) tamanyo = 0;
+    return exige(reserva(tamanyo, modulo, linea), modulo, linea);
+}
+
+void *vornspy_nousar_calloc(size_t num, size_t tamanyo, const char *modulo, uint32_t linea) {
+    if (!AFIRMA(tamanyo == 0 || num <= MAXIMO_TAMANYO / tamanyo)) num = 0;
+    return exige(reserva_a_cero(num * tamanyo, modulo, linea), modulo, linea);
+}
+
+void *vornspy_nousar_realloc(void *p, size_t tamanyo, const char *modulo, uint32_t linea) {
+    if (!AFIRMA(tamanyo <= MAXIMO_TAMANYO)) return p;
+    if (p == nullptr) return exige(reserva(tamanyo, modulo, linea), modulo, linea);
+    if (!AFIRMA(vornspy_es_memoria_reservada_valida(p) == CIERTO)) return nullptr;
+    if (!permitido(tamanyo)) sin_memoria(modulo, linea);
+    // Out of the map first: once the platform has moved the block, another thread may be given its old place.
+    tacha(p);
+    auto *c = static_cast<cabeza *>(std::realloc(cabeza_de(p), tamanyo + sizeof(cabeza)));
+    if (c == nullptr) {
+        apunta(p);
+        sin_memoria(modulo, linea);
+    }
+    return exige(estrena(c, tamanyo, modulo, linea), modulo, linea);
+}
+
+void *vornspy_reserva_seguro(size_t num, size_t tamanyo, vnbool a_cero, const char *modulo, uint32_t linea) {
+    if (!AFIRMA_LOGICO(a_cero)) a_cero = CIERTO;
+    if (tamanyo != 0 && num > MAXIMO_TAMANYO / tamanyo) return nullptr;
+    return a_cero == CIERTO ? reserva_a_cero(num * tamanyo, modulo, linea) : reserva(num * tamanyo, modulo, linea);
+}
+
+void vornspy_nousar_free_pp(void *p, size_t) {
+    if (!AFIRMA_NO_NULO(p)) return;
+    void *bloque = std::exchange(puntero_en(p), nullptr);
+    if (!AFIRMA_TEXTO(bloque != nullptr, "(*p) != NULL")) return;
+    if (!AFIRMA_TEXTO(tacha(bloque), "vornspy_es_memoria_reservada_valida(*p) == CIERTO")) return;
+    std::free(cabeza_de(bloque));
+}
+
+void *vornspy_nousar_asigna_doble_puntero_no_null(void *p) {
+    if (!AFIRMA_NO_NULO(p)) return nullptr;
+    if (!AFIRMA_TEXTO(puntero_en(p) != nullptr, "(*p) != NULL")) return nullptr;
+    return std::exchange(puntero_en(p), nullptr);
+}
+
+void *vornspy_nousar_asigna_doble_puntero(void *p) {
+    if (!AFIRMA_NO_NULO(p)) return nullptr;
+    return std::exchange(puntero_en(p), nullptr);
+}
+
+void *vornspy_nousar_copia_puntero_opcional(const void *p, vnfunc_copia copiador) {
+    if (!AFIRMA_NO_NULO(copiador)) return nullptr;
+    return p == nullptr ? nullptr : copiador(p);
+}
+
+void vornspy_nousar_destruye_puntero_opcional(void *p, vnfunc_destruye destructor) {
+    if (!AFIRMA_NO_NULO(p) || !AFIRMA_NO_NULO(destructor)) return;
+    if (puntero_en(p) != nullptr) destructor(p);
+}
+
+vnbool vornspy_es_memoria_reservada_valida(const void *p) { return esta_vivo(p) ? CIERTO : FALSO; }
+
+// ---------------------------------------------------------------- packs of values
+
+struct vnparametros {
+    uint32_t numero;
+    uint8_t tamanyo[16];
+    uint64_t valor[16];
+};
+
+vnparametros *vornspy_parametro(int n, ...) {
+    if (!AFIRMA(n >= 1 && n <= 16)) n = 0;
+    auto *pack = static_cast<vnparametros *>(vornspy_calloc(1, sizeof(vnparametros)));
+    va_list args;
+    va_start(args, n);
+    for (int i = 0; i < n; ++i) {
+        const int tamanyo = va_arg(args, int);
+        if (!AFIRMA(tamanyo == 1 || tamanyo == 2 || tamanyo == 4 || tamanyo == 8)) break;
+        // Narrow values travel as int.
+        pack->valor[i] = tamanyo == 8 ? va_arg(args, uint64_t)
+                                      : va_arg(args, unsigned) & (~uint64_t{0} >> (64 - 8 * tamanyo));
+        pack->tamanyo[i] = static_cast<uint8_t>(tamanyo);
+        pack->numero = static_cast<uint32_t>(i) + 1;
+    }
+    va_end(args);
+    return pack;
+}
+
+void *vornspy_parametro_puntero(const vnparametros *parametros, uint32_t i) {
+    if (!AFIRMA_NO_NULO(parametros) || !AFIRMA(i < parametros->numero)) return nullptr;
+    if (!AFIRMA(parametros->tamanyo[i] == sizeof(void *))) return nullptr;
+    return reinterpret_cast<void *>(static_cast<uintptr_t>(parametros->valor[i]));
+}
+
+uint64_t vornspy_parametro_entero(const vnparametros *parametros, uint32_t i) {
+    if (!AFIRMA_NO_NULO(parametros) || !AFIRMA(i < parametros->numero)) return 0;
+    return parametros->valor[i];
+}
+
+void vornspy_destruye_parametros(vnparametros **parametros) {
+    if (!AFIRMA_NO_NULO(parametros)) return;
+    vornspy_free_pp(parametros, sizeof(vnparametros));
+}
+
+// ---------------------------------------------------------------- what is alive
+
+void vornspy_recorre_bloques_vivos(vnfunc_bloque funcion, void *datos) {
+    if (!AFIRMA_NO_NULO(funcion)) return;
+    por_cada_vivo([&](const void *p, size_t tamanyo, const char *modulo, uint32_t linea) {
+        funcion(p, tamanyo, modulo, linea, datos);
+    });
+}
+
+uint64_t vornspy_bloques_vivos(uint64_t *bytes) {
+    uint64_t bloques = 0, suma = 0;
+    por_cada_vivo([&](const void *, size_t tamanyo, const char *, uint32_t) {
+        ++bloques;
+        suma += tamanyo;
+    });
+    if (bytes != nullptr) *bytes = suma;
+    return bloques;
+}
+
+uint64_t vornspy_informa_de_fugas(void) {
+    struct cuenta {
+        uint64_t bloques = 0, bytes = 0;
+    };
+    std::map<std::pair<const char *, uint32_t>, cuenta> por_sitio;
+    uint64_t total = 0;
+    por_cada_vivo([&](const void *, size_t tamanyo, const char *modulo, uint32_t linea) {
+        cuenta &c = por_sitio[{modulo, linea}];
+        ++c.bloques;
+        c.bytes += tamanyo;
+        ++total;
+    });
+    for (const auto &[sitio, c] : por_sitio) {
+        char texto[256];
+        const int n = std::snprintf(texto, sizeof texto, "%s, %u: %llu bloques sin liberar, %llu bytes\n",
+                                    sitio.first != nullptr ? sitio.first : "?", sitio.second,
+                                    static_cast<unsigned long long>(c.bloques), static_cast<unsigned long long>(c.bytes));
+        if (n > 0) vn::plat::escribe_error(texto, std::min(static_cast<size_t>(n), sizeof texto - 1));
+    }
+    return total;
+}
+
+void vornspy_informa_de_fugas_al_salir(vnbool activo) {
+    if (!AFIRMA_LOGICO(activo)) return;
+    static std::atomic<bool> registrado{false};
+    fugas_al_salir = activo == CIERTO;
+    // Registered before the exit list is, so that it runs after it.
+    if (activo == CIERTO && !registrado.exchange(true)) {
+        vn::plat::fija_en_memoria();
+        std::atexit([] {
+            if (fugas_al_salir) vornspy_informa_de_fugas();
+        });
+    }
+}
+
+void vornspy_instala_permiso(vnfunc_permiso permiso, void *datos) {
+    el_permiso.store(nullptr, std::memory_order_release);
+    datos_del_permiso.store(datos, std::memory_order_release);
+    el_permiso.store(permiso, std::memory_order_release);
+}

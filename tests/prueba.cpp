@@ -1,0 +1,171 @@
+#include "prueba.h"
+#include <atomic>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+namespace fs = std::filesystem;
+
+namespace vn {
+namespace {
+
+std::mutex cerrojo;
+std::vector<informe_anotado> informes;
+std::vector<std::string> avisos;
+std::atomic<vnbool> respuesta_a_preguntas{FALSO};
+std::string directorio_de_la_prueba;
+
+fs::path ruta(const std::string &utf8) { return fs::path(std::u8string(utf8.begin(), utf8.end())); }
+
+void anota_informe(const vninforme *i, void *) {
+    const std::lock_guard guarda(cerrojo);
+    informes.push_back({i->expresion_u != nullptr ? utf8_de(i->expresion_u) : i->expresion != nullptr ? i->expresion : "",
+                        i->detalle_u != nullptr ? utf8_de(i->detalle_u) : i->detalle != nullptr ? i->detalle : "",
+                        i->modulo != nullptr ? i->modulo : "", i->linea, i->clase});
+}
+
+vnbool anota_aviso(vntipo_aviso, const vnwchar *texto, void *) {
+    const std::lock_guard guarda(cerrojo);
+    avisos.push_back(utf8_de(texto));
+    return respuesta_a_preguntas;
+}
+
+void describe_bloque(const void *, size_t tamanyo, const char *modulo, uint32_t linea, void *datos) {
+    auto &texto = *static_cast<std::string *>(datos);
+    if (texto.size() < 4000)
+        texto += "  " + std::string(modulo != nullptr ? modulo : "?") + ", " + std::to_string(linea) + ": " +
+                 std::to_string(tamanyo) + " bytes\n";
+}
+
+} // namespace
+
+std::string utf8_de(const vnwchar *texto) {
+    std::string u;
+    for (; texto != nullptr && *texto != 0; ++texto) {
+        uint32_t c = static_cast<uint16_t>(*texto);
+        const uint32_t bajo = static_cast<uint16_t>(texto[1]);
+        if (c >= 0xD800 && c < 0xDC00 && bajo >= 0xDC00 && bajo < 0xE000) {
+            c = 0x10000 + ((c - 0xD800) << 10) + (bajo - 0xDC00);
+            ++texto;
+        }
+        if (c < 0x80) u += static_cast<char>(c);
+        else if (c < 0x800) (u += static_cast<char>(0xC0 | c >> 6)) += static_cast<char>(0x80 | (c & 63));
+        else if (c < 0x10000)
+            ((u += static_cast<char>(0xE0 | c >> 12)) += static_cast<char>(0x80 | (c >> 6 & 63))) += static_cast<char>(0x80 | (c & 63));
+        else
+            (((u += static_cast<char>(0xF0 | c >> 18)) += static_cast<char>(0x80 | (c >> 12 & 63))) +=
+             static_cast<char>(0x80 | (c >> 6 & 63))) += static_cast<char>(0x80 | (c & 63));
+    }
+    return u;
+}
+
+std::u16string u16_de(const vnwchar *texto) {
+    std::u16string u;
+    for (; texto != nullptr && *texto != 0; ++texto) u += static_cast<char16_t>(*texto);
+    return u;
+}
+
+std::basic_string<vnwchar> ancho(std::string_view utf8) {
+    std::basic_string<vnwchar> u;
+    for (size_t i = 0; i < utf8.size();) {
+        const auto b = static_cast<unsigned char>(utf8[i]);
+        const size_t n = b < 0x80 ? 1 : b < 0xE0 ? 2 : b < 0xF0 ? 3 : 4;
+        uint32_t c = n == 1 ? b : b & (0xFFu >> (n + 1));
+        for (size_t k = 1; k < n && i + k < utf8.size(); ++k) c = c << 6 | (static_cast<unsigned char>(utf8[i + k]) & 63u);
+        i += n;
+        if (c < 0x10000) u += static_cast<vnwchar>(c);
+        else (u += static_cast<vnwchar>(0xD800 + ((c - 0x10000) >> 10))) += static_cast<vnwchar>(0xDC00 + ((c - 0x10000) & 0x3FF));
+    }
+    return u;
+}
+
+std::string lee_fichero(const std::string &nombre) {
+    std::ifstream f(ruta(nombre), std::ios::binary);
+    EXPECT_TRUE(f.good()) << nombre;
+    return {std::istreambuf_iterator<char>(f), {}};
+}
+
+void graba_fichero(const std::string &nombre, std::string_view contenido) {
+    std::ofstream f(ruta(nombre), std::ios::binary | std::ios::trunc);
+    f.write(contenido.data(), static_cast<std::streamsize>(contenido.size()));
+    f.close();
+    EXPECT_TRUE(f.good()) << nombre;
+}
+
+bool existe(const std::string &nombre) { return fs::exists(ruta(nombre)); }
+
+void espera_informes(std::initializer_list<std::string_view> textos, const char *fichero, int linea) {
+    const auto hay = Prueba::toma_informes();
+    std::string esperados, vistos;
+    for (const auto t : textos) (esperados += t) += '\n';
+    for (const auto &i : hay) (vistos += i.expresion) += '\n';
+    if (esperados != vistos) ADD_FAILURE_AT(fichero, linea) << "expected reports:\n" << esperados << "seen:\n" << vistos;
+}
+
+std::vector<informe_anotado> Prueba::toma_informes() {
+    const std::lock_guard guarda(cerrojo);
+    return std::exchange(informes, {});
+}
+
+std::vector<std::string> Prueba::toma_avisos() {
+    const std::lock_guard guarda(cerrojo);
+    return std::exchange(avisos, {});
+}
+
+void Prueba::responde(vnbool respuesta) { respuesta_a_preguntas = respuesta; }
+
+const std::string &Prueba::directorio() {
+    if (directorio_de_la_prueba.empty()) {
+        const auto *info = ::testing::UnitTest::GetInstance()->current_test_info();
+        static std::atomic<unsigned> serie{0};
+        // The seed tells apart programs that run at the same time.
+        const fs::path d = fs::temp_directory_path() /
+                           (std::string("nucleos_") + info->test_suite_name() + "_" + info->name() + "_" +
+                            std::to_string(std::random_device{}()) + "_" + std::to_string(serie++));
+        fs::create_directories(d);
+        const auto u = d.generic_u8string();
+        directorio_de_la_prueba.assign(u.begin(), u.end());
+    }
+    return directorio_de_la_prueba;
+}
+
+void Prueba::SetUp() {
+    error_interno_instala_receptor(anota_informe, nullptr);
+    avisos_instala_receptor(anota_aviso, nullptr);
+    responde(FALSO);
+    toma_informes();
+    toma_avisos();
+    bloques_al_empezar_ = vornspy_bloques_vivos(nullptr);
+}
+
+void Prueba::TearDown() {
+    for (const auto &i : toma_informes())
+        ADD_FAILURE() << "unexpected report: " << i.modulo << ", " << i.linea << ": " << i.expresion << " " << i.detalle;
+    for (const auto &a : toma_avisos()) ADD_FAILURE() << "unexpected warning: " << a;
+    if (const uint64_t vivos = vornspy_bloques_vivos(nullptr); vivos > bloques_al_empezar_) {
+        std::string texto;
+        vornspy_recorre_bloques_vivos(describe_bloque, &texto);
+        ADD_FAILURE() << vivos - bloques_al_empezar_ << " blocks not freed; all that is alive:\n" << texto;
+    }
+    if (!directorio_de_la_prueba.empty()) {
+        std::error_code e;
+        fs::remove_all(ruta(directorio_de_la_prueba), e);
+        directorio_de_la_prueba.clear();
+    }
+    error_interno_instala_receptor(nullptr, nullptr);
+    avisos_instala_receptor(nullptr, nullptr);
+}
+
+} // namespace vn
+
+// A filter that selects nothing is a mistake in the list of tests.
+int main(int argc, char **argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    const int resultado = RUN_ALL_TESTS();
+    if (::testing::UnitTest::GetInstance()->test_to_run_count() == 0) {
+        std::fprintf(stderr, "no test selected\n");
+        return 1;
+    }
+    return resultado;
+}

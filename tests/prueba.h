@@ -1,0 +1,67 @@
+// The fixture of every test: reports and warnings are recorded; a test fails when it ends with one that it did not
+// expect, or with a block of the tracked heap that it did not free.
+#pragma once
+
+#include "foundation/avisos.h"
+#include "foundation/error_interno.h"
+#include "foundation/trapable.h"
+#include "foundation/vornspy.h"
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vn {
+
+// A report as the fixture keeps it; wide texts in UTF-8.
+struct informe_anotado {
+    std::string expresion, detalle, modulo;
+    uint32_t linea;
+    uint16_t clase;
+};
+
+class Prueba : public ::testing::Test {
+  public:
+    // The reports since the last call, oldest first. What is taken is no longer unexpected.
+    static std::vector<informe_anotado> toma_informes();
+    // The user's and developer's texts since the last call, UTF-8.
+    static std::vector<std::string> toma_avisos();
+    // What the next questions are answered (FALSO until set).
+    static void responde(vnbool respuesta);
+    // A new empty directory of this test's, UTF-8, no separator at the end; removed with all in it when the test ends.
+    static const std::string &directorio();
+
+  protected:
+    void SetUp() override;
+    void TearDown() override;
+
+  private:
+    uint64_t bloques_al_empezar_ = 0;
+};
+
+std::string utf8_de(const vnwchar *texto);
+std::u16string u16_de(const vnwchar *texto);
+// Wide text of a UTF-8 one; .c_str() is a vnwchar text.
+std::basic_string<vnwchar> ancho(std::string_view utf8);
+// Whole content of a file, given by its UTF-8 name; fails the test if it cannot be read.
+std::string lee_fichero(const std::string &nombre);
+void graba_fichero(const std::string &nombre, std::string_view contenido);
+bool existe(const std::string &nombre);
+// Checks that exactly the reports named have been made since the last check, in order.
+void espera_informes(std::initializer_list<std::string_view> textos, const char *fichero, int linea);
+
+} // namespace vn
+
+// PRUEBA(module, name): a test of the fixture above. The module is the test's suite and its ctest entry.
+#define PRUEBA(modulo, nombre) GTEST_TEST_(modulo, nombre, ::vn::Prueba, ::testing::internal::GetTypeId<::vn::Prueba>())
+
+// ESPERA_INFORME("text", expression): the expression makes exactly this one report; its value is the macro's.
+#define ESPERA_INFORME(texto, ...)                                                                                     \
+    [&]() -> decltype(auto) {                                                                                          \
+        struct al_salir {                                                                                              \
+            ~al_salir() { ::vn::espera_informes({texto}, __FILE__, __LINE__); }                                        \
+        } comprueba_al_salir;                                                                                          \
+        return __VA_ARGS__;                                                                                            \
+    }()
