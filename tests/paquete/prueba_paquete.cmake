@@ -1,0 +1,57 @@
+# Installs the built tree, moves the copy, and builds and runs the first host out of it in a tree of its own.
+# -DARBOL=build tree  -DMODO=cmake|pkgconfig  -DCOMPILADOR=cc  [-DCADENA=toolchain]  [-DEMULADOR=program]
+get_filename_component(aqui ${CMAKE_CURRENT_LIST_FILE} DIRECTORY)
+set(trabajo ${ARBOL}/paquete_${MODO})
+file(REMOVE_RECURSE ${trabajo})
+
+function(ejecuta)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE estado OUTPUT_VARIABLE salida ERROR_VARIABLE salida)
+  message("${salida}")
+  if(NOT estado EQUAL 0)
+    message(FATAL_ERROR "${estado}: ${ARGN}")
+  endif()
+endfunction()
+
+ejecuta(${CMAKE_COMMAND} --install ${ARBOL} --prefix ${trabajo}/instalado)
+# A name with a blank: paths must be quoted on the way.
+file(RENAME ${trabajo}/instalado "${trabajo}/otro sitio")
+set(raiz "${trabajo}/otro sitio")
+file(GLOB_RECURSE de_mas "${raiz}/*_priv.h" "${raiz}/*afirma.h" "${raiz}/*consola.h")
+if(de_mas)
+  message(FATAL_ERROR "private headers installed: ${de_mas}")
+endif()
+# No file but a binary's debug data may remember where it was built or installed.
+file(GLOB_RECURSE textos "${raiz}/*.cmake" "${raiz}/*.pc" "${raiz}/*.h")
+foreach(texto ${textos})
+  file(STRINGS ${texto} rastros REGEX "paquete_${MODO}|/build/")
+  if(rastros)
+    message(FATAL_ERROR "${texto} remembers a path: ${rastros}")
+  endif()
+endforeach()
+
+set(programa ${trabajo}/programa/primer_host)
+if(MODO STREQUAL "cmake")
+  set(opciones -DCMAKE_C_COMPILER=${COMPILADOR})
+  if(CADENA)
+    # The toolchain looks for packages below the cross compiler's root only.
+    set(opciones -DCMAKE_TOOLCHAIN_FILE=${CADENA} "-Dnucleos_DIR=${raiz}/lib/cmake/nucleos")
+    set(programa ${programa}.exe)
+  endif()
+  ejecuta(${CMAKE_COMMAND} -G Ninja -S ${aqui} -B ${trabajo}/programa ${opciones} "-DCMAKE_PREFIX_PATH=${raiz}")
+  ejecuta(${CMAKE_COMMAND} --build ${trabajo}/programa)
+  if(CADENA)
+    file(GLOB bibliotecas "${raiz}/bin/*.dll")
+    file(COPY ${bibliotecas} DESTINATION ${trabajo}/programa)
+  endif()
+else()
+  file(GLOB_RECURSE pc "${raiz}/nucleos.pc")
+  get_filename_component(pc "${pc}" DIRECTORY)
+  file(MAKE_DIRECTORY ${trabajo}/programa)
+  # pkg-config escapes the blank for a shell: a shell reads it.
+  file(WRITE ${trabajo}/construye.sh "set -e\nexport PKG_CONFIG_PATH='${pc}'\n"
+    "pkg-config --modversion nucleos\n"
+    "eval \"set -- $(pkg-config --cflags --libs nucleos) -Wl,-rpath,$(pkg-config --variable=libdir nucleos)\"\n"
+    "'${COMPILADOR}' -std=c11 -Wall -Wextra -Wpedantic -Werror '${aqui}/primer_host.c' -o '${programa}' \"$@\"\n")
+  ejecuta(sh ${trabajo}/construye.sh)
+endif()
+ejecuta(${EMULADOR} ${programa})
