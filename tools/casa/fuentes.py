@@ -1,0 +1,132 @@
+#!/usr/bin/python3
+"""Rules that the text of the tree keeps: layers, platform, module names, sorted lists, sizes. No argument; status 1 and
+one line per fault."""
+import os
+import re
+import subprocess
+import sys
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
+from lee_cabeceras import RAIZ, lista_de_exportaciones, sin_comentarios
+
+# Each folder of src/ and what it may include beside itself, lowest layer first. A folder that is not here is a fault.
+BASE = {"foundation"}
+MEDIOS = BASE | {"frame"}
+ALTOS = MEDIOS | {"persistence", "units", "geometry", "time", "text"}
+CAPAS = {
+    "foundation": set(),
+    "frame": BASE,
+    "persistence": MEDIOS, "geometry": MEDIOS, "time": MEDIOS, "text": MEDIOS,
+    "units": MEDIOS | {"time"},  # number text follows the regional data
+    "mesh": ALTOS, "colour": ALTOS,
+    "drawing": ALTOS | {"mesh", "colour"},
+    "environment": ALTOS | {"mesh", "colour", "drawing"},
+}
+# What may be included with angle brackets outside platform/: the standard libraries of the two languages.
+ESTANDAR = set("""
+assert.h complex.h ctype.h errno.h fenv.h float.h inttypes.h iso646.h limits.h locale.h math.h setjmp.h signal.h
+stdalign.h stdarg.h stdatomic.h stdbool.h stddef.h stdint.h stdio.h stdlib.h stdnoreturn.h string.h tgmath.h threads.h
+time.h uchar.h wchar.h wctype.h
+algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes climits
+clocale cmath codecvt compare complex concepts condition_variable coroutine csetjmp csignal cstdarg cstddef cstdint
+cstdio cstdlib cstring ctime cuchar cwchar cwctype deque exception execution filesystem format forward_list fstream
+functional future initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map memory
+memory_resource mutex new numbers numeric optional ostream queue random ranges ratio regex scoped_allocator semaphore
+set shared_mutex source_location span sstream stack stdexcept stop_token streambuf string string_view strstream
+syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility valarray
+variant vector version""".split())
+# Libraries made for the job, by folder of the tree.
+OTRAS = {"src": ("Eigen/",), "tests": ("gtest/",), "bench": ("benchmark/", "Q"), "fuzz": (), "examples": ("dxflib/", "cairo")}
+PLATAFORMA = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(_WIN32|_WIN64|WIN32|__linux__|__unix__|__MINGW\w*|__APPLE__|"
+                        r"__CYGWIN__|_POSIX_\w+)\b")
+# Text-mode differences and processes of their own are what these tests are about.
+TESTS_CON_SISTEMA = ("tests/plataforma/",)
+MAXIMO_LINEAS = 800
+
+faltas = []
+
+
+def falta(ruta, linea, que):
+    faltas.append(f"{ruta}:{linea}: {que}")
+
+
+def es_de_plataforma(ruta):
+    return ruta.startswith("src/foundation/platform/") or ruta.startswith(TESTS_CON_SISTEMA)
+
+
+def es_tabla(lineas):
+    """Rows of data: most lines of code are braces, rows or calls of an X-macro, not statements."""
+    codigo = [l.strip() for l in lineas if l.strip() and not l.strip().startswith(("//", "/*", "*"))]
+    filas = [l for l in codigo if re.match(r'(\{.*\},?|[A-Z][A-Z0-9_]*\(.*\)[,;\\]?\s*\\?|\{.*|".*|VNU\(.*|.*\},?|[-+.\dx]+[,f].*)$', l)]
+    return len(filas) > 0.7 * len(codigo)
+
+
+def mira_inclusiones(ruta, lineas, limpias):
+    carpeta = ruta.split("/")[1] if ruta.startswith("src/") else None
+    if carpeta is not None and carpeta not in CAPAS:
+        falta(ruta, 1, f"the folder {carpeta} has no row in the table of layers of {os.path.basename(__file__)}")
+        return
+    for n, (linea, limpia) in enumerate(zip(lineas, limpias), 1):
+        m = re.match(r'\s*#\s*include\s*([<"])([^>"]+)[>"]', linea)
+        if m is None or not limpia.strip():
+            continue
+        que = m[2]
+        if m[1] == '"' and carpeta is not None:
+            otra = que.split("/")[0]
+            if "/" not in que:
+                falta(ruta, n, f'"{que}": includes name their folder')
+            elif otra != carpeta and otra not in CAPAS[carpeta]:
+                falta(ruta, n, f"{carpeta} may not include {otra}: {que}")
+        if m[1] == "<" and not es_de_plataforma(ruta) and que not in ESTANDAR and \
+                not que.startswith(OTRAS.get(ruta.split("/")[0], ())):
+            falta(ruta, n, f"<{que}>: only platform/ includes what is not a standard header")
+    if not es_de_plataforma(ruta):
+        for n, limpia in enumerate(limpias, 1):
+            m = PLATAFORMA.match(limpia)
+            if m:
+                falta(ruta, n, f"#if of a platform ({m[1]}) outside platform/")
+
+
+def mira_modulo(ruta, lineas):
+    """A source names itself before its first include and includes its own public header first."""
+    m = re.match(r'#define VN_MODULO "(\w+) \((NUCLEOS(?:_FOUNDATION)?)\.DLL\)"$', lineas[0])
+    if m is None:
+        falta(ruta, 1, 'the first line is not #define VN_MODULO "<module> (NUCLEOS.DLL)"')
+        return
+    if (m[2] == "NUCLEOS_FOUNDATION") != ruta.startswith("src/foundation/"):
+        falta(ruta, 1, f"{m[2]}.DLL is not the library of this folder")
+    primera = next((l for l in lineas if l.startswith("#include")), "")
+    nombre = os.path.basename(ruta)[:-4]
+    cabecera = ruta[4:-4] + ".h"
+    if os.path.exists(os.path.join(RAIZ, "src", cabecera)) and primera != f'#include "{cabecera}"':
+        falta(ruta, lineas.index(primera) + 1 if primera else 1, f"the first include of {nombre}.cpp is not its own header {cabecera}")
+
+
+def main():
+    rutas = subprocess.run(["git", "-C", RAIZ, "ls-files", "-co", "--exclude-standard", "src", "tests", "fuzz", "bench",
+                            "examples"], capture_output=True, text=True, check=True).stdout.split()
+    for ruta in rutas:
+        if not ruta.endswith((".h", ".cpp", ".c", ".inl")) or not os.path.exists(os.path.join(RAIZ, ruta)):
+            continue
+        with open(os.path.join(RAIZ, ruta), encoding="utf-8") as f:
+            texto = f.read()
+        lineas = texto.split("\n")
+        limpias = sin_comentarios(texto).split("\n")
+        mira_inclusiones(ruta, lineas, limpias)
+        if ruta.startswith("src/") and ruta.endswith(".cpp") and "/platform/" not in ruta:
+            mira_modulo(ruta, lineas)
+        if len(lineas) - 1 > MAXIMO_LINEAS and not es_tabla(lineas):
+            falta(ruta, len(lineas) - 1, f"more than {MAXIMO_LINEAS} lines: it is two things")
+        for n, linea in enumerate(lineas, 1):
+            if re.search(r"\b(TODO|FIXME|XXX)\b", linea):
+                falta(ruta, n, "unfinished")
+    for lista in ("foundation", "nucleos"):
+        nombres = lista_de_exportaciones(lista)
+        if nombres != sorted(set(nombres)):
+            falta(f"src/exports/{lista}.txt", 1, "not sorted and unique (LC_ALL=C sort -u)")
+    print("\n".join(faltas) or f"{len(rutas)} files in order")
+    return 1 if faltas else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
