@@ -1,4 +1,5 @@
 #include "prueba.h"
+#include "plataforma/proceso.h"
 #include <atomic>
 #include <cstdio>
 #include <filesystem>
@@ -161,6 +162,7 @@ void Prueba::TearDown() {
 
 // A filter that selects nothing is a mistake in the list of tests.
 int main(int argc, char **argv) {
+    if (const auto resultado = vn::corre_hijo(argc, argv)) return *resultado;
     ::testing::InitGoogleTest(&argc, argv);
     const int resultado = RUN_ALL_TESTS();
     if (::testing::UnitTest::GetInstance()->test_to_run_count() == 0) {

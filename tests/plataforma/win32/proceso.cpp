@@ -1,0 +1,74 @@
+#include "plataforma/proceso.h"
+#include <windows.h>
+#include <shellapi.h>
+
+namespace vn {
+namespace {
+
+std::wstring ancho(const std::string &utf8) {
+    const int n = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), nullptr, 0);
+    std::wstring w(static_cast<size_t>(n), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), w.data(), n);
+    return w;
+}
+
+// One argument as the parser of command lines takes it back.
+std::wstring entre_comillas(const std::wstring &a) {
+    std::wstring r = L"\"";
+    size_t barras = 0;
+    for (const wchar_t c : a) {
+        if (c == L'"') r.append(barras + 1, L'\\');
+        barras = c == L'\\' ? barras + 1 : 0;
+        r += c;
+    }
+    return r.append(barras, L'\\') + L'"';
+}
+
+} // namespace
+
+void muere() {
+    for (;;) TerminateProcess(GetCurrentProcess(), proceso::MUERTO);
+}
+
+namespace plataforma {
+
+intptr_t lanza(const std::vector<std::string> &args) {
+    std::wstring programa(32768, L'\0');
+    programa.resize(GetModuleFileNameW(nullptr, programa.data(), 32768));
+    std::wstring linea = entre_comillas(programa);
+    for (const auto &a : args) linea += L' ' + entre_comillas(ancho(a));
+    STARTUPINFOW inicio{};
+    inicio.cb = sizeof inicio;
+    PROCESS_INFORMATION p{};
+    if (!CreateProcessW(programa.c_str(), linea.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &inicio, &p)) return 0;
+    CloseHandle(p.hThread);
+    return reinterpret_cast<intptr_t>(p.hProcess);
+}
+
+std::optional<int> espera(intptr_t id, uint32_t milisegundos) {
+    const auto h = reinterpret_cast<HANDLE>(id);
+    DWORD codigo = 0;
+    if (WaitForSingleObject(h, milisegundos) != WAIT_OBJECT_0) return std::nullopt;
+    GetExitCodeProcess(h, &codigo);
+    return static_cast<int>(codigo);
+}
+
+void mata(intptr_t id) { TerminateProcess(reinterpret_cast<HANDLE>(id), proceso::MUERTO); }
+void suelta(intptr_t id) { CloseHandle(reinterpret_cast<HANDLE>(id)); }
+
+std::vector<std::string> argumentos(int, char **) {
+    int n = 0;
+    LPWSTR *anchos = CommandLineToArgvW(GetCommandLineW(), &n);
+    std::vector<std::string> r;
+    for (int i = 0; i < n; ++i) {
+        std::string u(static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, nullptr, 0, nullptr, nullptr)), '\0');
+        WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, u.data(), static_cast<int>(u.size()), nullptr, nullptr);
+        u.pop_back();
+        r.push_back(u);
+    }
+    LocalFree(anchos);
+    return r;
+}
+
+} // namespace plataforma
+} // namespace vn
