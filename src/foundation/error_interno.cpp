@@ -1,5 +1,7 @@
 #define VN_MODULO "error_interno (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/error_interno.h"
+#include "foundation/contexto.h"
+#include "foundation/contexto_priv.h"
 #include "foundation/error_interno_priv.h"
 #include "foundation/platform/consola.h"
 #include "foundation/vornspy.h"
@@ -116,6 +118,11 @@ size_t linea_de_informe(const vninforme &informe, char *linea, size_t maximo) {
     } else if (informe.detalle != nullptr) {
         l.pon(": ");
         l.pon(informe.detalle);
+    }
+    if (vn::nivel_de_contexto() > 0) {
+        l.pon(" [");
+        l.pon_u(contexto_actual_u());
+        l.pon("]");
     }
     return l.termina();
 }

@@ -1,6 +1,7 @@
 #define VN_MODULO "trapable (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/trapable.h"
 #include "foundation/afirma.h"
+#include "foundation/contexto_priv.h"
 #include "foundation/error_interno_priv.h"
 #include <cstring>
 #include <new>
@@ -17,13 +18,17 @@ class trampa {
 };
 
 bool ejecuta(vnfunc_trapable funcion, void *datos) {
+    // A call that unwinds leaves the contexts that it had entered.
+    const uint32_t contextos = vn::nivel_de_contexto();
     try {
         const trampa abierta;
         funcion(datos);
         return true;
     } catch (const vn::fallo_atrapado &) {
+        vn::nivel_de_contexto() = contextos;
         return false;
     } catch (const std::bad_alloc &) {
+        vn::nivel_de_contexto() = contextos;
         std::strcpy(vn::linea_del_ultimo_fallo(), "memoria agotada\n");
         return false;
     }

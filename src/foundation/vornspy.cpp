@@ -3,6 +3,7 @@
 #include "foundation/afirma.h"
 #include "foundation/error_interno_priv.h"
 #include "foundation/platform/consola.h"
+#include "foundation/vnatexit.h"
 #include <algorithm>
 #include <atomic>
 #include <cstdarg>
@@ -302,10 +303,11 @@ void vornspy_informa_de_fugas_al_salir(vnbool activo) {
     if (!AFIRMA_LOGICO(activo)) return;
     static std::atomic<bool> registrado{false};
     fugas_al_salir = activo == CIERTO;
-    // Registered before the exit list is, so that it runs after it.
     if (activo == CIERTO && !registrado.exchange(true)) {
         vn::plat::fija_en_memoria();
         std::atexit([] {
+            // Whichever of the two was registered first, the list runs before its blocks are counted.
+            vnatexit_ejecuta();
             if (fugas_al_salir) vornspy_informa_de_fugas();
         });
     }

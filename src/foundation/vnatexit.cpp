@@ -1,0 +1,87 @@
+#define VN_MODULO "vnatexit (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/vnatexit.h"
+#include "foundation/afirma.h"
+#include "foundation/platform/consola.h"
+#include <atomic>
+#include <cstdlib>
+
+// The list takes no lock: at the end of a Windows process the other threads are gone, with whatever they held.
+
+namespace {
+
+struct entrada {
+    vnfunc_atexit funcion;
+    vnparametros *parametros;
+    entrada *anterior;
+};
+
+constinit std::atomic<entrada *> la_ultima{nullptr};
+constinit std::atomic<bool> registrada{false};
+
+// Puts a chain, from its newest to its oldest entry, on top of the list.
+void apila(entrada *nueva, entrada *vieja) {
+    vieja->anterior = la_ultima.load(std::memory_order_relaxed);
+    while (!la_ultima.compare_exchange_weak(vieja->anterior, nueva, std::memory_order_release, std::memory_order_relaxed)) {}
+}
+
+// What has been taken off the list and not yet run; what is left goes back if a call unwinds to a trap.
+class tomadas {
+  public:
+    tomadas() = default;
+    ~tomadas() {
+        if (primera_ == nullptr) return;
+        entrada *vieja = primera_;
+        while (vieja->anterior != nullptr) vieja = vieja->anterior;
+        apila(primera_, vieja);
+    }
+    tomadas(const tomadas &) = delete;
+    tomadas &operator=(const tomadas &) = delete;
+
+    // The newest entry of all, the ones added meanwhile before the ones taken earlier; null at the end.
+    entrada *toma() {
+        if (entrada *nuevas = la_ultima.exchange(nullptr, std::memory_order_acquire)) {
+            entrada *vieja = nuevas;
+            while (vieja->anterior != nullptr) vieja = vieja->anterior;
+            vieja->anterior = primera_;
+            primera_ = nuevas;
+        }
+        entrada *e = primera_;
+        if (e != nullptr) primera_ = e->anterior;
+        return e;
+    }
+
+  private:
+    entrada *primera_ = nullptr;
+};
+
+struct suelta {
+    entrada *e;
+    ~suelta() {
+        if (e->parametros != nullptr) vornspy_destruye_parametros(&e->parametros);
+        vornspy_free_pp(&e, sizeof(entrada));
+    }
+};
+
+} // namespace
+
+void nousar_atexit_anade(vnfunc_atexit funcion, vnparametros *parametros, const char *modulo, uint32_t linea) {
+    if (!AFIRMA_NO_NULO(funcion)) {
+        if (parametros != nullptr) vornspy_destruye_parametros(&parametros);
+        return;
+    }
+    if (!registrada.exchange(true)) {
+        vn::plat::fija_en_memoria();
+        std::atexit(vnatexit_ejecuta);
+    }
+    auto *e = static_cast<entrada *>(vornspy_nousar_malloc(sizeof(entrada), modulo, linea));
+    *e = {funcion, parametros, nullptr};
+    apila(e, e);
+}
+
+void vnatexit_ejecuta(void) {
+    tomadas lista;
+    while (entrada *e = lista.toma()) {
+        const suelta al_acabar{e};
+        e->funcion(e->parametros);
+    }
+}
