@@ -1,5 +1,6 @@
 #include "prueba.h"
 #include "plataforma/proceso.h"
+#include "foundation/vnatexit.h"
 #include <atomic>
 #include <cstdio>
 #include <filesystem>
@@ -144,6 +145,9 @@ void Prueba::TearDown() {
     for (const auto &i : toma_informes())
         ADD_FAILURE() << "unexpected report: " << i.modulo << ", " << i.linea << ": " << i.expresion << " " << i.detalle;
     for (const auto &a : toma_avisos()) ADD_FAILURE() << "unexpected warning: " << a;
+    // What modules made at first use goes with the exit list, as when a process ends, and is made again by the next test.
+    vnatexit_ejecuta();
+    for (const auto &i : toma_informes()) ADD_FAILURE() << "report of an exit cleaner: " << i.expresion << " " << i.detalle;
     if (const uint64_t vivos = vornspy_bloques_vivos(nullptr); vivos > bloques_al_empezar_) {
         std::string texto;
         vornspy_recorre_bloques_vivos(describe_bloque, &texto);

@@ -1,10 +1,11 @@
 #define VN_MODULO "avisos (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/avisos.h"
 #include "foundation/afirma.h"
+#include "foundation/entorno.h"
 #include "foundation/error_interno_priv.h"
-#include "foundation/platform/consola.h"
+#include "foundation/lastwin.h"
+#include "foundation/platform/cuadro.h"
 #include <atomic>
-#include <cstdlib>
 
 namespace {
 
@@ -14,6 +15,10 @@ std::atomic<void *> los_datos{nullptr};
 vnbool da(vntipo_aviso tipo, const vnwchar *texto) {
     const vnreceptor_avisos receptor = el_receptor.load(std::memory_order_acquire);
     if (receptor != nullptr) return receptor(tipo, texto, los_datos.load(std::memory_order_acquire));
+    if (void *ventana = lastwin_win_GetWinMain(); ventana != nullptr && tipo != VN_AVISO_DESARROLLO) {
+        const vn::plat::respuesta r = vn::plat::muestra_cuadro(ventana, texto, tipo == VN_AVISO_PREGUNTA);
+        if (r != vn::plat::respuesta::nadie) return r == vn::plat::respuesta::si ? CIERTO : FALSO;
+    }
     vn::escribe_linea_de_error(texto);
     return FALSO;
 }
@@ -22,7 +27,7 @@ vnbool da(vntipo_aviso tipo, const vnwchar *texto) {
 
 void assert_aviso(const vnwchar *texto) {
     if (!AFIRMA_NO_NULO(texto)) return;
-    if (std::getenv("ENPRUEBA") != nullptr) da(VN_AVISO_DESARROLLO, texto);
+    if (env_esta_definido_ENPRUEBA() == CIERTO) da(VN_AVISO_DESARROLLO, texto);
 }
 
 void vnaviso_aviso_interno_como_error_u(const vnwchar *texto) {

@@ -1,0 +1,17 @@
+#include "foundation/platform/cuadro.h"
+#include <windows.h>
+
+namespace vn::plat {
+
+respuesta muestra_cuadro(void *ventana, const vnwchar *texto, bool pregunta) {
+    const auto padre = static_cast<HWND>(ventana);
+    if (!IsWindow(padre)) return respuesta::nadie;
+    wchar_t titulo[256] = L"";
+    GetWindowTextW(padre, titulo, 256);
+    const UINT estilo = pregunta ? MB_YESNO | MB_ICONQUESTION : MB_OK | MB_ICONERROR;
+    const int boton = MessageBoxW(padre, texto, titulo, estilo);
+    if (boton == 0) return respuesta::nadie;
+    return boton == IDYES || boton == IDOK ? respuesta::si : respuesta::no;
+}
+
+} // namespace vn::plat

@@ -1,0 +1,28 @@
+#include "foundation/entorno.h"
+#include "foundation/lastwin.h"
+#include "prueba.h"
+
+PRUEBA(entorno, el_producto_escalado_redondea_como_windows) {
+    const struct {
+        int a, b, c, esperado;
+    } filas[] = {
+        {254, 96, 2540, 10}, {1, 1, 2, 1},   {-1, 1, 2, -1},  {1, -1, -2, 1},         {-5, 1, 3, -2},
+        {5, 1, 3, 2},        {1, 1, 0, -1},  {4, 1, -3, -1},  {0, 7, 3, 0},           {2147483647, 2147483647, 2147483647, 2147483647},
+        {2147483647, 2, 1, -1}, {-2147483647 - 1, -1, 1, -1}, {-2147483647 - 1, 2147483647, -2147483647 - 1, 2147483647},
+        {-2147483647 - 1, 1, 1, -2147483647 - 1},
+    };
+    for (const auto &f : filas) {
+        EXPECT_EQ(vornwin_MulDiv(f.a, f.b, f.c), f.esperado) << f.a << " * " << f.b << " / " << f.c;
+        EXPECT_EQ(vornwin_MulDiv_long(f.a, f.b, f.c), f.esperado);
+    }
+}
+
+// A window that is none, as one already closed, must not swallow a warning nor block the program.
+PRUEBA(entorno, sin_cuadro_que_mostrar_la_pregunta_se_contesta_que_no) {
+    avisos_instala_receptor(nullptr, nullptr);
+    int no_es_una_ventana = 0;
+    lastwin_win_SetWinMain(&no_es_una_ventana);
+    EXPECT_EQ(avisobas_pregunta_u(VNU("¿sí?")), FALSO);
+    EXPECT_EQ(lastwin_win_GetWinMain(), &no_es_una_ventana);
+    lastwin_win_SetWinMain(nullptr);
+}

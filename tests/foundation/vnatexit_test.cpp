@@ -1,0 +1,56 @@
+#include "foundation/vnatexit.h"
+#include "prueba.h"
+#include <atomic>
+#include <thread>
+
+namespace {
+
+std::string orden;
+
+void anota(vnparametros *parametros) { orden += static_cast<char>(vornspy_parametro_entero(parametros, 0)); }
+void anade_otra(vnparametros *parametros) {
+    anota(parametros);
+    atexit_anade(anota, vornspy_parametro(1, 4, 'x'));
+}
+void falla(vnparametros *) { error_interno("cleaner", "prueba", 1, 0); }
+void ejecuta(void *) { vnatexit_ejecuta(); }
+
+std::atomic<int> veces{0};
+void cuenta(vnparametros *) { ++veces; }
+
+} // namespace
+
+PRUEBA(vnatexit, la_ultima_es_la_primera_y_lo_que_se_anade_entonces_va_a_continuacion) {
+    orden.clear();
+    atexit_anade(anota, vornspy_parametro(1, 4, 'a'));
+    atexit_anade(anade_otra, vornspy_parametro(1, 4, 'b'));
+    atexit_anade(anota, vornspy_parametro(1, 4, 'c'));
+    vnatexit_ejecuta();
+    EXPECT_EQ(orden, "cbxa");
+    vnatexit_ejecuta();
+    EXPECT_EQ(orden, "cbxa");
+}
+
+PRUEBA(vnatexit, una_llamada_que_falla_en_una_trampa_no_pierde_las_demas) {
+    orden.clear();
+    atexit_anade(anota, vornspy_parametro(1, 4, 'a'));
+    atexit_anade(falla, nullptr);
+    EXPECT_EQ(trapable_nousar_recursivo_ejecuta_funcion_segura(ejecuta, nullptr, nullptr), FALSO);
+    vnatexit_ejecuta();
+    EXPECT_EQ(orden, "a");
+}
+
+PRUEBA(vnatexit, muchas_hebras_registran_y_ejecutan_a_la_vez) {
+    veces = 0;
+    std::vector<std::thread> hebras;
+    for (int h = 0; h < 4; ++h)
+        hebras.emplace_back([h] {
+            for (int i = 0; i < 500; ++i) {
+                atexit_anade(cuenta, nullptr);
+                if (h == 0 && i % 50 == 0) vnatexit_ejecuta();
+            }
+        });
+    for (auto &h : hebras) h.join();
+    vnatexit_ejecuta();
+    EXPECT_EQ(veces, 2000);
+}
