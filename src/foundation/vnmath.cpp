@@ -16,6 +16,12 @@ constexpr double TOLERANCIA_COCIENTE = 1e-9;
 
 vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 
+// Not std::round: some platforms add a half and truncate, which takes the number just below a half up.
+double redondeado(double x) {
+    const double entero = std::trunc(x);
+    return std::fabs(x - entero) >= 0.5 ? entero + std::copysign(1., x) : entero;
+}
+
 // a == b first: two infinities of one sign have no difference.
 bool iguales(double a, double b, double t) { return a == b || std::fabs(a - b) <= t; }
 bool mayor(double a, double b, double t) { return a - b > t; }
@@ -25,7 +31,7 @@ double tolerancia_buena(double tolerancia) { return AFIRMA(tolerancia >= 0.) ? t
 
 template <class Entero>
 Entero redondea_a(double x) {
-    const double r = std::round(x);
+    const double r = redondeado(x);
     constexpr double minimo = std::numeric_limits<Entero>::min(), maximo = std::numeric_limits<Entero>::max();
     const bool cabe = std::is_signed_v<Entero> ? AFIRMA_TEXTO(r >= minimo && r <= maximo, "x >= LONG_MIN && x <= LONG_MAX")
                                                : AFIRMA_TEXTO(r >= minimo && r <= maximo, "x >= 0. && x <= ULONG_MAX");
@@ -44,7 +50,7 @@ double redondea_al_paso(double x, double paso, F &&entero) {
 // The whole number that `q` is to within the tolerance, or else what `f` makes of it.
 template <class F>
 double entero_perdonando(double q, F &&f) {
-    const double cercano = std::round(q);
+    const double cercano = redondeado(q);
     return std::fabs(q - cercano) <= TOLERANCIA_COCIENTE ? cercano : f(q);
 }
 
@@ -79,7 +85,7 @@ double RAIZ(double x) {
 
 int32_t roundtol(double x) { return redondea_a<int32_t>(x); }
 uint32_t roundtul(double x) { return redondea_a<uint32_t>(x); }
-double defmath_round(double x) { return std::round(x); }
+double defmath_round(double x) { return redondeado(x); }
 double defmath_trunc(double x) { return std::trunc(x); }
 vnbool defmath_es_numero_valido(double x) { return logico(std::isfinite(x)); }
 

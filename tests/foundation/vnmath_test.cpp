@@ -53,6 +53,8 @@ PRUEBA(vnmath, lo_que_no_es_un_numero_no_es_igual_a_nada_pero_se_ordena) {
 PRUEBA(vnmath, el_redondeo_a_entero_se_queda_en_el_tipo) {
     EXPECT_EQ(roundtol(-2.5), -3);
     EXPECT_EQ(roundtol(0.49999999999999994), 0); // adding 0.5 first would give 1
+    EXPECT_EQ(defmath_round(4503599627370497.), 4503599627370497.);
+    EXPECT_EQ(defmath_round(-INF), -INF);
     EXPECT_EQ(roundtul(4294967295.4), 4294967295u);
     EXPECT_EQ(roundtol(-2147483648.4), INT32_MIN);
     EXPECT_EQ(ESPERA_INFORME("x >= 0. && x <= ULONG_MAX", roundtul(-0.5)), 0u);
