@@ -27,8 +27,8 @@ struct sitio {
 // clang-format off
 #define AFIRMA_TEXTO_CLASE(cond, texto, clase)                                                                         \
     (__builtin_expect(static_cast<bool>(cond), 1) ? true : vn::informa([]() -> vn::sitio & {                           \
-         static constinit vn::sitio s{texto, VN_MODULO, __LINE__, clase, 0};                                           \
-         return s;                                                                                                     \
+         static constinit vn::sitio sitio_{texto, VN_MODULO, __LINE__, clase, 0};                                      \
+         return sitio_;                                                                                                \
      }()))
 /** AFIRMA(cond): reports the text of the condition. */
 #define AFIRMA(cond) AFIRMA_TEXTO_CLASE(cond, #cond, 0)

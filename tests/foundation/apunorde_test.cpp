@@ -1,0 +1,85 @@
+#define VN_MODULO "apunorde_test"
+#include "foundation/apunorde.h"
+#include "prueba.h"
+#include <cmath>
+
+namespace {
+
+struct nudo {
+    double x;
+    int destruidos_al_morir;
+};
+int destruidos = 0;
+
+nudo *nuevo(double x) {
+    auto *n = static_cast<nudo *>(vornspy_malloc(sizeof(nudo)));
+    *n = {x, 1};
+    return n;
+}
+void destruye(nudo **n) {
+    destruidos += (*n)->destruidos_al_morir;
+    vornspy_free_pp(n, sizeof(nudo));
+}
+// The datum is the tolerance.
+int compara(const nudo *a, const nudo *b, double *tolerancia) {
+    if (std::fabs(a->x - b->x) <= *tolerancia) return 0;
+    return a->x < b->x ? -1 : 1;
+}
+int compara_clave(const double *x, const nudo *n) { return (*x > n->x) - (*x < n->x); }
+
+} // namespace
+
+PRUEBA(apunorde, guarda_el_orden_del_comparador) {
+    double tolerancia = 0.1;
+    destruidos = 0;
+    apunorde *a = apunorde_crea(nudo, double, compara, &tolerancia, destruye);
+    uint32_t pos = 99;
+    for (int i = 0; i < 1000; ++i) apunorde_inserta_original(a, nuevo(i * 617 % 1000), nudo, &pos);
+    EXPECT_EQ(apunorde_numelems(a, nudo), 1000u);
+    for (uint32_t i = 0; i < 1000; ++i) ASSERT_EQ(apunorde_get(a, i, nudo)->x, i);
+    // An equal one is told and destroyed; the one that was there stays.
+    ESPERA_INFORME("existe == FALSO", apunorde_inserta_original(a, nuevo(500.05), nudo, &pos));
+    EXPECT_EQ(pos, 500u);
+    EXPECT_EQ(destruidos, 1);
+    EXPECT_EQ(apunorde_get(a, 500, nudo)->x, 500.0);
+
+    nudo cerca{700.05, 0}, entre{700.5, 0};
+    EXPECT_EQ(apunorde_existe_elemento(a, &cerca, nudo, &pos), CIERTO);
+    EXPECT_EQ(pos, 700u);
+    EXPECT_EQ(apunorde_existe_elemento(a, &entre, nudo, &pos), FALSO);
+    EXPECT_EQ(pos, 701u);
+
+    double clave = 321;
+    nudo *n = apunorde_busca(a, &clave, double, nudo, compara_clave);
+    EXPECT_EQ(n, apunorde_get(a, 321, nudo));
+    EXPECT_EQ(apunorde_quita(a, 321, nudo), n);
+    destruye(&n);
+    EXPECT_EQ(apunorde_busca(a, &clave, double, nudo, compara_clave), nullptr);
+    EXPECT_EQ(ESPERA_INFORME("existe == CIERTO", apunorde_dame(a, &clave, double, nudo, compara_clave)), nullptr);
+    EXPECT_EQ(apunorde_existe(a, &clave, double, nudo, compara_clave, &pos), FALSO);
+    EXPECT_EQ(pos, 321u);
+    clave = 999;
+    EXPECT_EQ(apunorde_dame(a, &clave, double, nudo, compara_clave)->x, 999.0);
+    EXPECT_EQ(ESPERA_INFORME("i < num_elementos", apunorde_get(a, 999, nudo)), nullptr);
+    apunorde_destruye(&a, nudo);
+    EXPECT_EQ(destruidos, 1001);
+}
+
+PRUEBA(apunorde, sin_destructor_los_elementos_no_son_suyos) {
+    double tolerancia = 0;
+    nudo en_pila[2] = {{2, 0}, {1, 0}};
+    apunorde *a = apunorde_crea(nudo, double, compara, &tolerancia, nullptr);
+    for (nudo &n : en_pila) apunorde_inserta_original(a, &n, nudo, nullptr);
+    EXPECT_EQ(apunorde_get(a, 0, nudo), &en_pila[1]);
+    // The report of an equal element unwinds; nothing of the set's changes.
+    const vnbool bien = trapable_ejecuta_funcion_segura(
+        apunorde,
+        [](apunorde *q) {
+            nudo n = *apunorde_get(q, 1, nudo);
+            apunorde_inserta_original(q, &n, nudo, nullptr);
+        },
+        a, nullptr);
+    EXPECT_EQ(bien, FALSO);
+    EXPECT_EQ(apunorde_numelems(a, nudo), 2u);
+    apunorde_destruye(&a, nudo);
+}
