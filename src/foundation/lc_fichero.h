@@ -121,10 +121,11 @@ const vnwchar *lc_nombre_fichero(const vnfichero *f);
     another stream, of this or another process, holds part of it or it cannot be done. The zone may lie beyond the end.
     What is read afterwards is read from the file anew. An exclusive lock needs a stream that writes, a shared one a
     stream that reads. */
-vnbool lc_bloquea_zona_fichero(vnfichero *f, VN_RANGO(0, 9223372036854775807) int64_t inicio, uint32_t tamanyo,
-                               VN_RANGO(0, 3) uint32_t modo);
+vnbool lc_bloquea_zona_fichero(vnfichero *f, VN_RANGO(0, 9223372036854775807) int64_t inicio,
+                               VN_RANGO(1, 4294967295) uint32_t tamanyo, VN_RANGO(0, 3) uint32_t modo);
 /** Unlocks a zone that was locked with this very start and size, having handed to the system what was written. */
-vnbool lc_desbloquea_zona_fichero(vnfichero *f, VN_RANGO(0, 9223372036854775807) int64_t inicio, uint32_t tamanyo);
+vnbool lc_desbloquea_zona_fichero(vnfichero *f, VN_RANGO(0, 9223372036854775807) int64_t inicio,
+                                  VN_RANGO(1, 4294967295) uint32_t tamanyo);
 
 VN_C_FIN
 

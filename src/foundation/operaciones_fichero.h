@@ -50,7 +50,7 @@ typedef struct vnoperaciones_fichero {
     vnerror_fichero (*abre)(const vnwchar *nombre, uint32_t como, vnid_fichero *id);
     /** Up to `n` bytes at `posicion`; `*leidos` 0 is the end. */
     vnerror_fichero (*lee)(vnid_fichero id, int64_t posicion, void *destino, size_t n, size_t *leidos);
-    /** Up to `n` bytes at `posicion`, or at the end if opened with VN_ABRE_ANADE; fewer may be written. */
+    /** Up to `n` bytes at `posicion`, -1 being the end of a file opened with VN_ABRE_ANADE; fewer may be written. */
     vnerror_fichero (*escribe)(vnid_fichero id, int64_t posicion, const void *origen, size_t n, size_t *escritos);
     /** To the disk itself. After a failure what was written is lost: it is not to be tried again. */
     vnerror_fichero (*vuelca)(vnid_fichero id);
@@ -66,6 +66,8 @@ typedef struct vnoperaciones_fichero {
     /** In one step, replacing what `nuevo` names; both in one file system. */
     vnerror_fichero (*renombra)(const vnwchar *existente, const vnwchar *nuevo);
     vnerror_fichero (*borra)(const vnwchar *nombre);
+    /** Gives the second file the rights of the first, where rights go with the file and not with the directory. */
+    vnerror_fichero (*copia_permisos)(const vnwchar *origen, const vnwchar *destino);
     /** Makes the names in the directory that holds `nombre` last. */
     vnerror_fichero (*vuelca_directorio)(const vnwchar *nombre);
     /** Waits between two tries. */

@@ -10,8 +10,8 @@ VN_C_INICIO
 /** The finished temporary, closed, becomes `destino`, in the same directory: it is flushed to the disk, what `destino`
     was becomes the safety copy, one rename replaces, and the directory is flushed. CIERTO only when the new content is
     in place and on the disk. A failure is reported as "lc_error_escribiendo_fichero" with the name `destino`, which then
-    has its old content still (the new one if only the directory's flush failed), and the temporary stays. Not to be
-    called when a write, a flush or the close of the temporary has failed. */
+    has its old content still (the new one if only the last flush, the directory's, failed), and the temporary is
+    removed. Not to be called when a write, a flush or the close of the temporary has failed. */
 vnbool vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(const vnwchar *destino,
                                                                             const vnwchar *temporal);
 /** Opens a temporary beside `nombre` (the name with "_TM$" appended, overwritten if one was left) for binary writing; null,
@@ -28,7 +28,7 @@ vnbool vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(VN_CONSU
 vnbool vf_copyfile_seguro(const char *origen, const char *destino);
 vnbool vf_copyfile_seguro_u(const vnwchar *origen, const vnwchar *destino);
 /** Appends the content of `origen` to `destino`, made if it is not there. FALSO on failure, which the stream reports. */
-vnbool vf_appendfile_u(const vnwchar *destino, const vnwchar *origen);
+vnbool vf_appendfile_u(const vnwchar *origen, const vnwchar *destino);
 
 VN_C_FIN
 

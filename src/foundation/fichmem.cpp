@@ -1,0 +1,92 @@
+#define VN_MODULO "fichmem (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/fichmem.h"
+#include "foundation/afirma.h"
+#include "foundation/lc_fichero_priv.h"
+#include "foundation/vornspy.h"
+#include <cstring>
+#include <utility>
+
+namespace {
+
+struct libera {
+    void operator()(fichmem *m) const { fichmem_destruye(&m); }
+};
+using propio = std::unique_ptr<fichmem, libera>;
+
+propio vacio() {
+    propio m(static_cast<fichmem *>(vornspy_malloc(sizeof(fichmem))));
+    *m = {};
+    return m;
+}
+
+} // namespace
+
+fichmem *fichmem_crea32(const void *datos, uint32_t longitud) {
+    if (!AFIRMA(datos != nullptr || longitud == 0)) longitud = 0;
+    propio m = vacio();
+    if (longitud == 0) return m.release();
+    m->datos = static_cast<unsigned char *>(vornspy_malloc(longitud));
+    m->longitud = longitud;
+    std::memcpy(m->datos, datos, longitud);
+    return m.release();
+}
+
+fichmem *fichmem_crea_original32(unsigned char **datos, uint32_t longitud) {
+    if (!AFIRMA_NO_NULO(datos)) return nullptr;
+    if (!AFIRMA(*datos != nullptr || longitud == 0)) longitud = 0;
+    propio m = vacio();
+    m->datos = std::exchange(*datos, nullptr);
+    m->longitud = longitud;
+    return m.release();
+}
+
+fichmem *fichmem_crea_desde_cadena(const char *texto) {
+    if (!AFIRMA_NO_NULO(texto)) return nullptr;
+    const size_t n = std::strlen(texto);
+    if (!AFIRMA(n <= UINT32_MAX)) return nullptr;
+    return fichmem_crea32(texto, static_cast<uint32_t>(n));
+}
+
+fichmem *fichmem_copia(const fichmem *m) {
+    return AFIRMA_NO_NULO(m) ? fichmem_crea32(m->datos, m->longitud) : nullptr;
+}
+
+char *fichmem_copia_contenido_como_cadena(const fichmem *m) {
+    if (!AFIRMA_NO_NULO(m)) return nullptr;
+    const void *fin = m->longitud == 0 ? nullptr : std::memchr(m->datos, 0, m->longitud);
+    const size_t n = fin == nullptr ? m->longitud : static_cast<size_t>(static_cast<const unsigned char *>(fin) - m->datos);
+    auto *texto = static_cast<char *>(vornspy_malloc(n + 1));
+    if (n > 0) std::memcpy(texto, m->datos, n);
+    texto[n] = '\0';
+    return texto;
+}
+
+void fichmem_destruye(fichmem **m) {
+    if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(*m)) return;
+    if ((*m)->datos != nullptr) vornspy_free_pp(&(*m)->datos, 1);
+    vornspy_free_pp(m, sizeof(fichmem));
+}
+
+vnbool fichmem_graba_unicode(const fichmem *m, const vnwchar *nombre) {
+    if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(nombre)) return FALSO;
+    vn::flujo_abierto f(f_lc_fopen_u(nombre, VNU("wb"), VN_AQUI));
+    if (f == nullptr) return FALSO;
+    f_lc_fwrite(m->datos, 1, m->longitud, f.get(), VN_AQUI);
+    return lc_fclose(f.release());
+}
+
+fichmem *fichmem_lee_unicode(const vnwchar *nombre) {
+    if (!AFIRMA_NO_NULO(nombre)) return nullptr;
+    vn::flujo_abierto f(f_lc_fopen_u(nombre, VNU("rb"), VN_AQUI));
+    if (f == nullptr) return nullptr;
+    const int64_t n = lc_bytes_restantes(f.get());
+    propio m = vacio();
+    if (n > 0 && n <= UINT32_MAX)
+        m->datos = static_cast<unsigned char *>(vornspy_reserva_seguro(static_cast<size_t>(n), 1, FALSO, VN_AQUI));
+    if (n > 0 && m->datos == nullptr) {
+        lc_error_leyendo_fichero(f.get());
+        return nullptr;
+    }
+    m->longitud = static_cast<uint32_t>(n);
+    return f_lc_fread(m->datos, 1, m->longitud, f.get(), VN_AQUI) == m->longitud ? m.release() : nullptr;
+}

@@ -1,0 +1,62 @@
+// A stream from inside.
+#pragma once
+
+#include "foundation/lc_fichero.h"
+#include "foundation/operaciones_fichero_priv.h"
+#include <memory>
+
+// The buffer holds the bytes of the file from `base` on. Reading, those up to `fin` are valid, and the window is the
+// whole of the rest or, in text, ends at the next CR. Writing, those up to `fin` or `pos`, whichever lies further, are not
+// yet in the file, and the window is all the room there is (none in text that is translated). Neither: it is empty, and
+// `base` is the position.
+struct vnfichero {
+    vnfichero_ventana v;
+    unsigned char *buffer;
+    unsigned char *fin;
+    int64_t base;
+    int64_t tamanyo; // as last seen
+    vnid_fichero id;
+    vnwchar *nombre;
+    uint32_t lectura_siguiente; // how much the next filling of the buffer asks for
+    enum estado_t : uint8_t { NADA, LEYENDO, ESCRIBIENDO } estado;
+    bool lee, escribe, anade, traduce, con_posicion;
+    bool al_final, fallo_lectura, fallo_escritura, informado;
+};
+
+namespace vn {
+
+inline constexpr size_t TAMANYO_BUFFER = 64 * 1024;
+// After a jump the buffer is filled by so much, and then by twice as much each time.
+inline constexpr uint32_t PRIMERA_LECTURA = 8 * 1024;
+
+inline int64_t posicion(const vnfichero &f) { return f.base + (f.v.pos - f.buffer); }
+// How much of the buffer is valid, or waits to be written.
+inline int64_t ocupado(const vnfichero &f) { return (f.v.pos > f.fin ? f.v.pos : f.fin) - f.buffer; }
+// Leaves the buffer empty at a position; what it held is forgotten.
+void situa(vnfichero &f, int64_t nueva_posicion);
+// Opens the window over what is left of a buffer that has been read.
+void abre_ventana_de_lectura(vnfichero &f);
+// Hands what waits in the buffer to the system, and leaves it empty. False after any failure to write.
+bool vacia(vnfichero &f);
+// As vacia, reporting the stream's first failure.
+bool vacia_informando(vnfichero &f);
+// Size of the file, with what waits in the buffer.
+int64_t tamanyo_actual(vnfichero &f);
+void informa_escritura(vnfichero &f, const char *modulo, uint32_t linea);
+
+// Closes the file and keeps the record, whose name a report may need.
+struct libera_flujo {
+    void operator()(vnfichero *f) const;
+};
+using flujo = std::unique_ptr<vnfichero, libera_flujo>;
+
+// An owner that closes on the way out of a failure; what it holds is closed by hand when all is well.
+struct cierra_callando {
+    void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
+};
+using flujo_abierto = std::unique_ptr<vnfichero, cierra_callando>;
+
+// Reports that a file, by its name, could not be written.
+void informa_que_no_se_escribe(const vnwchar *nombre);
+
+} // namespace vn

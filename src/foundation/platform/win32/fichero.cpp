@@ -1,0 +1,204 @@
+#include "foundation/platform/fichero.h"
+#include "foundation/platform/win32/ruta.h"
+#include <algorithm>
+#include <windows.h>
+
+namespace vn::plat {
+
+extern const bool lineas_con_retorno = true;
+
+namespace {
+
+constexpr size_t MAXIMO_DE_UNA_VEZ = size_t{1} << 30;
+constexpr DWORD TODOS = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+// ERROR_DISK_QUOTA_EXCEEDED, which not every winerror.h has.
+constexpr DWORD CUOTA_AGOTADA = 1295;
+
+constexpr struct {
+    DWORD del_sistema;
+    vnerror_fichero error;
+} ERRORES[] = {
+    {ERROR_DISK_FULL, VN_FICH_SIN_ESPACIO},
+    {ERROR_HANDLE_DISK_FULL, VN_FICH_SIN_ESPACIO},
+    {CUOTA_AGOTADA, VN_FICH_SIN_ESPACIO},
+    {ERROR_FILE_TOO_LARGE, VN_FICH_SIN_ESPACIO},
+    {ERROR_ACCESS_DENIED, VN_FICH_SIN_PERMISO},
+    {ERROR_WRITE_PROTECT, VN_FICH_SIN_PERMISO},
+    {ERROR_PRIVILEGE_NOT_HELD, VN_FICH_SIN_PERMISO},
+    {ERROR_FILE_NOT_FOUND, VN_FICH_NO_EXISTE},
+    {ERROR_PATH_NOT_FOUND, VN_FICH_NO_EXISTE},
+    {ERROR_INVALID_NAME, VN_FICH_NO_EXISTE},
+    {ERROR_BAD_PATHNAME, VN_FICH_NO_EXISTE},
+    {ERROR_BAD_NETPATH, VN_FICH_NO_EXISTE},
+    {ERROR_FILE_EXISTS, VN_FICH_YA_EXISTE},
+    {ERROR_ALREADY_EXISTS, VN_FICH_YA_EXISTE},
+    {ERROR_SHARING_VIOLATION, VN_FICH_COMPARTIDO},
+    {ERROR_LOCK_VIOLATION, VN_FICH_COMPARTIDO},
+    {ERROR_IO_PENDING, VN_FICH_COMPARTIDO},
+    {ERROR_USER_MAPPED_FILE, VN_FICH_COMPARTIDO},
+    {ERROR_INVALID_FUNCTION, VN_FICH_NO_ADMITIDO},
+    {ERROR_NOT_SUPPORTED, VN_FICH_NO_ADMITIDO},
+    {ERROR_INVALID_PARAMETER, VN_FICH_NO_ADMITIDO},
+    {ERROR_TOO_MANY_LINKS, VN_FICH_NO_ADMITIDO},
+    {ERROR_NOT_SAME_DEVICE, VN_FICH_NO_ADMITIDO},
+    {ERROR_CRC, VN_FICH_ES},
+    {ERROR_IO_DEVICE, VN_FICH_ES},
+    {ERROR_WRITE_FAULT, VN_FICH_ES},
+    {ERROR_READ_FAULT, VN_FICH_ES},
+    {ERROR_GEN_FAILURE, VN_FICH_ES},
+};
+
+vnerror_fichero error_de(DWORD del_sistema) {
+    for (const auto &fila : ERRORES)
+        if (fila.del_sistema == del_sistema) return fila.error;
+    return VN_FICH_OTRO;
+}
+
+vnerror_fichero resultado(BOOL r) { return r ? VN_FICH_BIEN : error_de(GetLastError()); }
+HANDLE handle(vnid_fichero id) { return reinterpret_cast<HANDLE>(id); }
+
+OVERLAPPED en(int64_t posicion) {
+    OVERLAPPED o = {};
+    o.Offset = static_cast<DWORD>(posicion);
+    o.OffsetHigh = static_cast<DWORD>(static_cast<uint64_t>(posicion) >> 32);
+    return o;
+}
+
+vnerror_fichero trunca(vnid_fichero id, int64_t tamanyo) {
+    FILE_END_OF_FILE_INFO fin;
+    fin.EndOfFile.QuadPart = tamanyo;
+    return resultado(SetFileInformationByHandle(handle(id), FileEndOfFileInfo, &fin, sizeof fin));
+}
+
+vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
+    *id = VN_FICHERO_NINGUNO;
+    const std::wstring ruta = ruta_del_sistema(nombre);
+    const DWORD acceso = ((como & VN_ABRE_LECTURA) != 0 ? GENERIC_READ : 0) | ((como & VN_ABRE_ESCRITURA) != 0 ? GENERIC_WRITE : 0);
+    const DWORD otros = (como & VN_ABRE_EXCLUSIVO) != 0 ? TODOS & ~static_cast<DWORD>(FILE_SHARE_WRITE) : TODOS;
+    const DWORD manera = (como & VN_ABRE_CREA) == 0 ? OPEN_EXISTING : (como & VN_ABRE_NUEVO) != 0 ? CREATE_NEW : OPEN_ALWAYS;
+    const HANDLE h = CreateFileW(ruta.c_str(), acceso, otros, nullptr, manera, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (h == INVALID_HANDLE_VALUE) {
+        const DWORD error = GetLastError();
+        const DWORD atributos = error == ERROR_ACCESS_DENIED ? GetFileAttributesW(ruta.c_str()) : INVALID_FILE_ATTRIBUTES;
+        return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY) != 0 ? VN_FICH_ES_DIRECTORIO
+                                                                                                  : error_de(error);
+    }
+    const vnid_fichero nuevo = reinterpret_cast<vnid_fichero>(h);
+    if ((como & VN_ABRE_TRUNCA) != 0) {
+        if (const vnerror_fichero e = trunca(nuevo, 0); e != VN_FICH_BIEN) {
+            CloseHandle(h);
+            return e;
+        }
+    }
+    *id = nuevo;
+    return VN_FICH_BIEN;
+}
+
+vnerror_fichero lee(vnid_fichero id, int64_t posicion, void *destino, size_t n, size_t *leidos) {
+    OVERLAPPED o = en(posicion);
+    DWORD k = 0;
+    const BOOL bien = ReadFile(handle(id), destino, static_cast<DWORD>(std::min(n, MAXIMO_DE_UNA_VEZ)), &k, &o);
+    *leidos = bien ? k : 0;
+    if (bien) return VN_FICH_BIEN;
+    const DWORD error = GetLastError();
+    return error == ERROR_HANDLE_EOF || error == ERROR_BROKEN_PIPE ? VN_FICH_BIEN : error_de(error);
+}
+
+// The position -1 is the end of the file for the system too.
+vnerror_fichero escribe(vnid_fichero id, int64_t posicion, const void *origen, size_t n, size_t *escritos) {
+    OVERLAPPED o = en(posicion);
+    DWORD k = 0;
+    const BOOL bien = WriteFile(handle(id), origen, static_cast<DWORD>(std::min(n, MAXIMO_DE_UNA_VEZ)), &k, &o);
+    *escritos = bien ? k : 0;
+    return resultado(bien);
+}
+
+vnerror_fichero vuelca(vnid_fichero id) { return resultado(FlushFileBuffers(handle(id))); }
+
+vnerror_fichero estado_abierto(vnid_fichero id, vnestado_fichero *estado) {
+    *estado = {};
+    if (GetFileType(handle(id)) != FILE_TYPE_DISK) return VN_FICH_BIEN;
+    LARGE_INTEGER n;
+    if (!GetFileSizeEx(handle(id), &n)) return resultado(FALSE);
+    estado->es_normal = CIERTO;
+    estado->tamanyo = static_cast<uint64_t>(n.QuadPart);
+    return VN_FICH_BIEN;
+}
+
+vnerror_fichero estado(const vnwchar *nombre, vnestado_fichero *e) {
+    *e = {};
+    WIN32_FILE_ATTRIBUTE_DATA d;
+    if (!GetFileAttributesExW(ruta_del_sistema(nombre).c_str(), GetFileExInfoStandard, &d)) return resultado(FALSE);
+    e->es_directorio = (d.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? CIERTO : FALSO;
+    e->es_normal = (d.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0 ? CIERTO : FALSO;
+    if (e->es_normal == CIERTO) e->tamanyo = static_cast<uint64_t>(d.nFileSizeHigh) << 32 | d.nFileSizeLow;
+    return VN_FICH_BIEN;
+}
+
+vnerror_fichero bloquea(vnid_fichero id, int64_t inicio, int64_t tamanyo, uint32_t modo) {
+    OVERLAPPED o = en(inicio);
+    const DWORD banderas = ((modo & VN_ZONA_COMPARTIDA) != 0 ? 0 : LOCKFILE_EXCLUSIVE_LOCK) |
+                           ((modo & VN_ZONA_ESPERA) != 0 ? 0 : LOCKFILE_FAIL_IMMEDIATELY);
+    return resultado(LockFileEx(handle(id), banderas, 0, static_cast<DWORD>(tamanyo),
+                                static_cast<DWORD>(static_cast<uint64_t>(tamanyo) >> 32), &o));
+}
+
+vnerror_fichero desbloquea(vnid_fichero id, int64_t inicio, int64_t tamanyo) {
+    OVERLAPPED o = en(inicio);
+    return resultado(UnlockFileEx(handle(id), 0, static_cast<DWORD>(tamanyo),
+                                  static_cast<DWORD>(static_cast<uint64_t>(tamanyo) >> 32), &o));
+}
+
+vnerror_fichero cierra(vnid_fichero id) { return resultado(CloseHandle(handle(id))); }
+
+vnerror_fichero enlaza(const vnwchar *existente, const vnwchar *nuevo) {
+    return resultado(CreateHardLinkW(ruta_del_sistema(nuevo).c_str(), ruta_del_sistema(existente).c_str(), nullptr));
+}
+
+vnerror_fichero renombra(const vnwchar *existente, const vnwchar *nuevo) {
+    const std::wstring final = ruta_del_sistema(nuevo);
+    if (MoveFileExW(ruta_del_sistema(existente).c_str(), final.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        return VN_FICH_BIEN;
+    const DWORD error = GetLastError();
+    // A target that somebody holds open is refused as if by rights; unless rights forbid it, that may pass.
+    if (error == ERROR_ACCESS_DENIED) {
+        const DWORD atributos = GetFileAttributesW(final.c_str());
+        if (atributos != INVALID_FILE_ATTRIBUTES && (atributos & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0)
+            return VN_FICH_COMPARTIDO;
+    }
+    return error_de(error);
+}
+
+vnerror_fichero borra(const vnwchar *nombre) { return resultado(DeleteFileW(ruta_del_sistema(nombre).c_str())); }
+
+// A new file has its rights from the directory.
+vnerror_fichero copia_permisos(const vnwchar *, const vnwchar *) { return VN_FICH_NO_ADMITIDO; }
+
+// The rename was written through.
+vnerror_fichero vuelca_directorio(const vnwchar *) { return VN_FICH_BIEN; }
+
+void espera(uint32_t milisegundos) { Sleep(milisegundos); }
+
+} // namespace
+
+extern const vnoperaciones_fichero operaciones_de_fichero = {
+    .abre = abre,
+    .lee = lee,
+    .escribe = escribe,
+    .vuelca = vuelca,
+    .trunca = trunca,
+    .estado_abierto = estado_abierto,
+    .bloquea = bloquea,
+    .desbloquea = desbloquea,
+    .cierra = cierra,
+    .estado = estado,
+    .enlaza = enlaza,
+    .renombra = renombra,
+    .borra = borra,
+    .copia_permisos = copia_permisos,
+    .vuelca_directorio = vuelca_directorio,
+    .espera = espera,
+};
+
+} // namespace vn::plat
