@@ -1,3 +1,4 @@
+#define VN_MODULO "numero (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/numero_priv.h"
 #include <charconv>
 #include <cmath>

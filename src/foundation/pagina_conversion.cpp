@@ -1,3 +1,4 @@
+#define VN_MODULO "pagina (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/pagina_priv.h"
 
 namespace vn {
