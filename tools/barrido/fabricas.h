@@ -1,0 +1,207 @@
+// Objects, call-backs and files that the swept operations are given. Inline, so that what no swept operation needs asks
+// nothing of the libraries.
+#pragma once
+
+#include "barrido.h"
+#include "environment/ultfichsel.h"
+#include "foundation/acadorde.h"
+#include "foundation/apunorde.h"
+#include "foundation/arr.h"
+#include "foundation/avisos.h"
+#include "foundation/callback.h"
+#include "foundation/dirwin.h"
+#include "foundation/error_interno.h"
+#include "foundation/fichmem.h"
+#include "foundation/lc_fichero.h"
+#include "foundation/msglocal.h"
+#include "foundation/vnlongpath.h"
+#include "foundation/vnmutex.h"
+#include "foundation/vornspy.h"
+#include "persistence/vornsave.h"
+#include <cstring>
+#include <deque>
+
+namespace barrido {
+
+// ---------------------------------------------------------------- kinds that only generated code names
+
+template <class F> void (*como_general(F *f))() { return reinterpret_cast<void (*)()>(f); }
+
+// The number of elements of a buffer: what fits, none, one, and what its range forbids.
+template <class T> parametro longitud(const char *nombre) {
+    parametro p{nombre};
+    for (const int64_t i : {16, 0, 1, 2}) pon_entero(p, calidad::libre, i, false);
+    return p;
+}
+template <class T, class A, class B> parametro longitud(const char *nombre, A a, B b) {
+    parametro p{nombre};
+    for (const int64_t i : {int64_t{16}, static_cast<int64_t>(a), int64_t{1}, int64_t{2}})
+        if (i >= static_cast<int64_t>(a)) pon_entero(p, calidad::buena, i, false);
+    for (const valor &v : entero_en<T>(nombre, a, b).valores)
+        if (v.cal == calidad::mala) pon_entero(p, calidad::mala, v.d.i, false);
+    return p;
+}
+
+// A text that the operation changes where it stands.
+template <class C> parametro texto_cambiable(const char *nombre, unsigned opciones) {
+    static const C claro[32] = {'a', 'b', ' ', '1', '2', ' '};
+    static const C vacio[32] = {};
+    parametro p = registro(nombre, claro, sizeof claro, opciones);
+    p.valores.insert(p.valores.begin() + 1, {"\"\"", calidad::libre, clase_valor::copia, {.p = const_cast<C *>(vacio)}});
+    return p;
+}
+
+// An address that is only kept, or led to nothing that the sweep could make; it holds null pointers.
+inline parametro direccion_fija(const char *nombre, unsigned opciones) {
+    static void *sitio[8];
+    parametro p = dato_ajeno(nombre);
+    p.valores[0].d.p = sitio;
+    if (!(opciones & OPCIONAL)) p.valores[1].cal = calidad::mala;
+    return p;
+}
+
+template <class T> parametro registro_de(const char *nombre, const T &bueno, unsigned opciones) {
+    static std::deque<T> todos; // as long as the program
+    return registro(nombre, &todos.emplace_back(bueno), sizeof(T), opciones);
+}
+
+template <class C> parametro fichero(const char *nombre, unsigned opciones) {
+    if constexpr (sizeof(C) == 1) return nombre_fichero(nombre, opciones);
+    else return nombre_fichero_u(nombre, opciones);
+}
+template <class C> parametro modo_de_abrir(const char *nombre) {
+    if constexpr (sizeof(C) == 1) return textos(nombre, {"rb", "w", "a+", "r+b", "", "%s", "rw"});
+    else return textos_u(nombre, {u"rb", u"w", u"a+", u"r+b", u"", u"%s", u"rw"});
+}
+template <class C> parametro patron_de_ficheros(const char *nombre) {
+    if constexpr (sizeof(C) == 1) return textos(nombre, {"./*.bin", "", "*", "no_esta/*", "[%s"});
+    else return textos_u(nombre, {u"./*.bin", u"", u"*", u"no_esta/*", u"[%s"});
+}
+
+// ---------------------------------------------------------------- texts and blocks
+
+inline char *nuevo_texto() { return static_cast<char *>(std::memcpy(vornspy_malloc(4), "abc", 4)); }
+inline vnwchar *nuevo_texto_u() {
+    return static_cast<vnwchar *>(std::memcpy(vornspy_malloc(4 * sizeof(vnwchar)), VNU("abc"), 4 * sizeof(vnwchar)));
+}
+inline void *nuevo_bloque() { return vornspy_calloc(8, 8); }
+
+// ---------------------------------------------------------------- streams and what stands on them
+
+inline vnfichero *flujo(const char *nombre, const char *modo) {
+    return f_lc_fopen_seguro(nombre, modo, "barrido", 0);
+}
+inline vnfichero *flujo_binario() { return flujo("flujo.bin", "r+b"); }
+inline vnfichero *flujo_texto() { return flujo("flujo.txt", "r+"); }
+
+// The stream of a protocol object outlives it, whoever frees the object.
+struct flujo_prestado {
+    vnfichero *f = nullptr;
+    ~flujo_prestado() { cierra(); }
+    void cierra() {
+        if (f != nullptr && vornspy_es_memoria_reservada_valida(f) == CIERTO) lc_fclose_seguro(f);
+        f = nullptr;
+    }
+};
+inline flujo_prestado &el_flujo() {
+    static flujo_prestado p;
+    return p;
+}
+inline vornsave *protocolo() {
+    el_flujo().cierra();
+    return vornsave_registra_bin(el_flujo().f = flujo_binario());
+}
+inline void destruye_protocolo(vornsave *v) {
+    vornsave_set_tipo_status_lectura(v, 1, nullptr); // blocks may be open
+    vornsave_libera(&v);
+    el_flujo().cierra();
+}
+
+// ---------------------------------------------------------------- containers of three elements
+
+template <class T> T *con(T *a, void (*anade)(T *)) {
+    if (a != nullptr) anade(a);
+    return a;
+}
+inline arrBIT *bits() { return arr_CreaBIT(3); }
+inline arrCADENA *cadenas() {
+    arrCADENA *a = arr_CreaCADENA(0);
+    for (const char *s : {"a", "b", "c"}) arr_AppendCADENA(a, s);
+    return a;
+}
+inline arrCADENA_u *cadenas_u() {
+    arrCADENA_u *a = arr_CreaCADENA_u(0);
+    for (const vnwchar *s : {VNU("a"), VNU("b"), VNU("c")}) arr_AppendCADENA_u(a, s);
+    return a;
+}
+// The elements of arrays of pointers: nobody frees them.
+inline int64_t *elemento(int i) {
+    static int64_t tres[3] = {1, 2, 3};
+    return &tres[i];
+}
+inline arrPuntero *punteros() {
+    arrPuntero *a = arr_CreaPunteroConTipo(3);
+    for (uint32_t i = 0; i < 3; ++i) arr_SetPunteroConTipo(a, i, elemento(static_cast<int>(i)));
+    return a;
+}
+inline arrPuntero *punteros_a_arrays() {
+    arrPuntero *a = arr_CreaPunteroConTipo(0);
+    for (int i = 0; i < 2; ++i) arr_AppendPunteroConTipo(a, punteros());
+    return a;
+}
+inline void destruye_punteros_a_arrays(arrPuntero *a) {
+    arr_DestruyeEstructurasArrayConTipo(&a, reinterpret_cast<vnfunc_destruye>(&arr_DestruyePunteroConTipo));
+}
+inline arrPuntero *ultimos_ficheros() {
+    arrPuntero *a = ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados();
+    ultfichsel_registra_nombre_fichero(a, "a", VNU("C:\\x"), VNU("C:\\x\\y"));
+    return a;
+}
+inline arulong *arulong_de_tres() {
+    arulong *a = arulong_crea();
+    for (uint32_t i = 0; i < 3; ++i) arulong_append(a, i);
+    return a;
+}
+inline arulong64 *arulong64_de_tres() {
+    arulong64 *a = arulong64_crea();
+    for (uint64_t i = 0; i < 3; ++i) arulong64_append(a, i);
+    return a;
+}
+inline acadorde *acadorde_de_tres() {
+    acadorde *a = acadorde_crea(CIERTO);
+    for (const char *s : {"a", "b", "c"}) acadorde_inserta(a, s);
+    return a;
+}
+inline acadordeu *acadordeu_de_tres() {
+    acadordeu *a = acadordeu_crea(CIERTO);
+    for (const vnwchar *s : {VNU("a"), VNU("b"), VNU("c")}) acadordeu_inserta(a, s);
+    return a;
+}
+inline int compara_direcciones(const void *a, const void *b, void *) { return (a > b) - (a < b); }
+inline apunorde *apunorde_de_tres() {
+    apunorde *a = apunorde_nousar_crea(compara_direcciones, nullptr, nullptr);
+    for (int i = 0; i < 3; ++i) apunorde_nousar_inserta_original(a, elemento(i), nullptr);
+    return a;
+}
+
+// ---------------------------------------------------------------- call-backs that do something
+
+inline void *copia_igual(const void *p) { return const_cast<void *>(p); }
+inline void anula(void *pp) {
+    void *nulo = nullptr;
+    std::memcpy(pp, &nulo, sizeof nulo);
+}
+inline void libera(void *pp) { vornspy_nousar_free_pp(pp, 1); }
+inline void con_parametros(vnparametros *, void *) {}
+inline void mensaje_u(vnmensaje *m) {
+    m->nombre = "barrido.msg";
+    m->ancho_id = 3;
+    for (const void *&t : m->textos) t = VNU("<1>a");
+}
+inline void mensaje_ansi(vnmensaje *m) {
+    mensaje_u(m);
+    for (const void *&t : m->textos) t = "<1>a";
+}
+inline char *lee_texto(vornsave *) { return nuevo_texto(); }
+
+} // namespace barrido

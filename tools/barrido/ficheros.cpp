@@ -1,0 +1,25 @@
+// The files that the swept operations meet in the working directory.
+#include "barrido.h"
+#include <filesystem>
+#include <fstream>
+
+namespace barrido {
+
+void prepara_ficheros() {
+    const std::string ceros(64, '\0');
+    const struct {
+        const char *nombre;
+        std::string contenido;
+    } ficheros[] = {{"flujo.bin", ceros + "abc\r\n12 1.5\r\n" + ceros},
+                    {"flujo.txt", "12 1.5 abc\n1\n0\nabc\n"},
+                    {"entrada.bin", ceros + "1 2.5 abc\n" + ceros}};
+    std::error_code e;
+    for (const auto &f : ficheros) {
+        if (std::filesystem::exists(f.nombre, e)) continue;
+        std::ofstream s(f.nombre, std::ios::binary);
+        s << f.contenido;
+    }
+    std::filesystem::create_directory("carpeta", e);
+}
+
+} // namespace barrido

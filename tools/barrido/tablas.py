@@ -1,0 +1,115 @@
+"""What the sweep of arguments knows beyond the headers, one fact a row. A type or an operation that no row fits stops the
+build with its name."""
+
+# Handle -> (new object, destroyer of T *, number of elements for VN_INDICE). Expressions of fabricas.h; a row with a third
+# column is for the operations whose name matches it, and stands before the general one.
+MANEJOS = [
+    # type, operations, creator, destroyer, elements
+    ("vnfichero", r"(?!vtxt_|vornsave_registra_txt|vornsave_registra_texto)", "flujo_binario()", "lc_fclose_seguro(p)", 0),
+    ("vnfichero", r"", "flujo_texto()", "lc_fclose_seguro(p)", 0),
+    ("fichmem", r"", "fichmem_crea32(\"abc\", 3)", "fichmem_destruye(&p)", 3),
+    ("arrBIT", r"", "bits()", "arr_DestruyeBIT(&p)", 3),
+    ("arrCADENA", r"", "cadenas()", "arr_DestruyeCADENA(&p)", 3),
+    ("arrCADENA_u", r"", "cadenas_u()", "arr_DestruyeCADENA_u(&p)", 3),
+    ("arrPunto2DXPriv", r"", "arr_CreaPunto2DXPriv(3)", "arr_DestruyePunto2DXPriv(&p, nullptr)", 3),
+    ("arrPuntero", r"ultfichsel_", "ultimos_ficheros()", "ultfichsel_destruye(&p)", 1),
+    ("arrPuntero", r"vornsave_.*arr_punteros_array", "punteros_a_arrays()", "destruye_punteros_a_arrays(p)", 2),
+    ("arrPuntero", r"", "punteros()", "arr_DestruyePunteroConTipo(&p)", 3),
+    (r"arr(\w+)", r"", r"arr_Crea\1(3)", r"arr_Destruye\1(&p)", 3),
+    (r"(arulong(?:64)?)", r"", r"\1_de_tres()", r"\1_destruye(&p)", 3),
+    (r"(acadorde)", r"", r"\1_de_tres()", r"\1_destruye(&p)", 3),
+    (r"(acadordeu)", r"", r"\1_de_tres()", r"\1_destruye(&p)", 3),
+    ("apunorde", r"", "apunorde_de_tres()", "apunorde_nousar_destruye(&p)", 3),
+    ("dirwin", r"", "dirwin_crea_UNICODE(VNU(\"./*\"))", "dirwin_destruye_UNICODE(&p)", 0),
+    ("vnmutex", r"", "vnmutex_crea(\"barrido\")", "vnmutex_destruye_saliendo(&p)", 0),
+    ("vncallback", r"", "callback_nousar_crea(con_parametros, nullptr)", "callback_nousar_destruye(&p)", 0),
+    ("vnparametros", r"", "vornspy_parametro(2, 4, 1, 4, 2)", "vornspy_destruye_parametros(&p)", 2),
+    ("vornsave", r"", "protocolo()", "destruye_protocolo(p)", 0),
+    # Owned texts and blocks.
+    ("char", r"", "nuevo_texto()", "vornspy_free_pp(&p, 1)", 0),
+    ("vnwchar", r"", "nuevo_texto_u()", "vornspy_free_pp(&p, sizeof(vnwchar))", 0),
+    (r"(?:unsigned char|uint8_t|void|double|Punto2D|vnbool|float|u?int\d+_t)", r"", "nuevo_bloque()",
+     "vornspy_free_pp(&p, 1)", 0),
+    (r"(?:char|vnwchar) \*", r"", "nuevo_bloque()", "vornspy_free_pp(&p, 1)", 0),
+]
+
+# Types that are only declared so far: no object of theirs can exist, an address stands for one.
+SIN_OBJETOS = {"idxdatos", "insocket"}
+
+# Record -> a good value of it. One that is not here and has only numbers is all zero.
+REGISTROS = {
+    "vnoperaciones_fichero": "*operaciones_fichero_del_sistema()",
+    "dirwin_dato": "dirwin_dato{}",
+    "fichmem": None,  # through its factory
+}
+
+# Type of call-back -> function of fabricas.h. One that is not here does nothing and returns nothing.
+LLAMADAS_DE_VUELTA = [
+    # type, operations, function
+    ("vnfunc_copia", r"", "copia_igual"),
+    ("vnfunc_destruye", r"vornspy_nousar_destruye_puntero_opcional", "libera"),
+    ("vnfunc_destruye", r"", "anula"),
+    ("vnfunc_mensaje", r".*(_u|textomsgu_obtener_mensaje)$", "mensaje_u"),
+    ("vnfunc_mensaje", r"", "mensaje_ansi"),
+    ("vnfunc_lee_texto", r"", "lee_texto"),
+]
+
+# Parameters whose kind the declaration does not tell: operation, parameter, expression of barrido.h ({n} is the name).
+PARAMETROS = [
+    (r".*", r"modulo", "modulo({n})"),
+    (r".*", r"linea", "linea({n})"),
+    # The address of a pointer of any type.
+    (r"vornspy_nousar_(free_pp|asigna_doble_puntero_no_null)", r"p", "hueco({n}, fab_void, EXIGE)"),
+    (r"vornspy_nousar_(asigna_doble_puntero|destruye_puntero_opcional)", r"p", "hueco({n}, fab_void, HUECO_OPCIONAL)"),
+    # The address of a variable that lives until the exit.
+    (r"alsalir_.*", r"cadena|dato", "direccion_fija({n}, EXIGE)"),
+    (r"apunorde_nousar_(inserta_original|existe_elemento)", r"p", "direccion_fija({n}, EXIGE)"),
+    # Room as the sizes say.
+    (r"f_lc_f(read|write).*", r"destino|origen", "bufer({n}, 1, 4096, -1, EXIGE)"),
+    (r"f_lc_f(read|write).*|lc_quedan", r"tamanyo|numero", "enteros({n}, {{1, 0, 3, 16}})"),
+    (r"vornspy_(nousar_calloc|reserva_seguro)", r"num|tamanyo", "enteros({n}, {{1, 0, 3, 1000}})"),
+    (r"vornspy_parametro", r"n", "enteros({n}, {{1, 3, 16}})"),
+    # Texts of a form.
+    (r".*", r"modo", 'modo_de_abrir<{t}>({n})'),
+    (r".*", r"patron", 'patron_de_ficheros<{t}>({n})'),
+    # Names of files and directories.
+    (r".*", r"nomfich|fichero|nombre_fichero|nombre_fichero_obra|ruta|rutas?_\w+|path|path_\w+|directorio|obra", "fichero<{t}>"),
+    (r"(f_lc_fopen|vdir_|vorndir_|fichmem_|fichconf_|vnlongpath_|timefich_|vf_|vornfile_|tmpfich).*",
+     r"nombre|origen|destino|fich\w*", "fichero<{t}>"),
+]
+
+# Calls that need more than their parameters: operation -> expression over a[0], a[1]...
+LLAMADAS = {
+    # Pairs of a size and a value, as many as the greatest count.
+    "vornspy_parametro": "r.p = vornspy_parametro(static_cast<int>(a[0].i), " + ", ".join(["4, 1"] * 16) + ")",
+    # Not on the heap: closed here.
+    "vnlongpath_CreateFileW": "vnlongpath_CloseHandle(vnlongpath_CreateFileW({argumentos}))",
+}
+
+# Results that are T * and stay another's.
+PRESTADOS = [
+    r"arr_GetBuffer\w+", r"arr_GetPunteroConTipo", r"apunorde_nousar_(get|quita|busca|dame)", r"vornspy_parametro_puntero",
+    r"vornspy_nousar_copia_puntero_opcional", r"lc_fgetws", r"vtxt_lee_linea",
+]
+
+# Memory that stays on purpose after the calls.
+RETIENE = [
+    (r"alsalir_.*|nousar_atexit_anade", "the registry keeps it until the exit"),
+    (r"contexto_dentroDeContexto_u", "the thread stays inside"),
+]
+
+# Broken values that the documentation accepts: operation, parameter, value.
+DEJA_PASAR = [
+]
+
+# Operations that cannot be called blindly, each with its reason.
+EXCLUIDAS = [
+]
+
+# What an operation may have set for the whole process, and how it is brought back: operation, expression.
+RESTAURA = [
+    ("operaciones_fichero_instala", "operaciones_fichero_instala(nullptr)"),
+    ("msidioma_establece_idioma", "msidioma_establece_idioma(0)"),
+    ("fichconf_establece_directorio_base", "fichconf_establece_directorio_base(nullptr)"),
+    ("vnmutex_establece_plazo", "vnmutex_establece_plazo(100)"),
+]
