@@ -339,7 +339,7 @@ void barredor::nombra_fuga(size_t tope) {
 }
 
 // Operations between two looks at what is alive: a look walks the map of live blocks, which a sanitizer scatters.
-constexpr size_t LOTE = SANEADO ? 32 : 1;
+size_t tamanyo_de_lote() { return SANEADO && todas().front()->size() > 50 ? 32 : 1; }
 
 struct lote {
     std::vector<const operacion *> ops;
@@ -412,7 +412,7 @@ int main(int argc, char **argv) {
             if (habla ? solo == op.nombre : k >= desde && k % partes == parte) {
                 barre_una(k, op, tope);
                 este.ops.push_back(&op);
-                if (este.ops.size() == LOTE) mira_fugas(este, tope);
+                if (este.ops.size() == tamanyo_de_lote()) mira_fugas(este, tope);
             }
             ++k;
         }

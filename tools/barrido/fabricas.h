@@ -88,11 +88,8 @@ inline void *nuevo_bloque() { return vornspy_calloc(8, 8); }
 
 // ---------------------------------------------------------------- streams and what stands on them
 
-inline vnfichero *flujo(const char *nombre, const char *modo) {
-    return f_lc_fopen_seguro(nombre, modo, "barrido", 0);
-}
-inline vnfichero *flujo_binario() { return flujo("flujo.bin", "r+b"); }
-inline vnfichero *flujo_texto() { return flujo("flujo.txt", "r+"); }
+inline vnfichero *flujo_binario() { return f_lc_fopen_seguro_u(VNU("flujo.bin"), VNU("r+b"), "barrido", 0); }
+inline vnfichero *flujo_texto() { return f_lc_fopen_seguro_u(VNU("flujo.txt"), VNU("r+"), "barrido", 0); }
 
 // The stream of a protocol object outlives it, whoever frees the object.
 struct flujo_prestado {

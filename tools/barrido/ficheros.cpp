@@ -15,7 +15,8 @@ void prepara_ficheros() {
                     {"entrada.bin", ceros + "1 2.5 abc\n" + ceros}};
     std::error_code e;
     for (const auto &f : ficheros) {
-        if (std::filesystem::exists(f.nombre, e)) continue;
+        // Another's leavings may be in the way.
+        if (std::filesystem::is_directory(f.nombre, e)) std::filesystem::remove_all(f.nombre, e);
         std::ofstream s(f.nombre, std::ios::binary);
         s << f.contenido;
     }

@@ -65,7 +65,7 @@ PARAMETROS = [
     (r"alsalir_.*", r"cadena|dato", "direccion_fija({n}, EXIGE)"),
     (r"apunorde_nousar_(inserta_original|existe_elemento)", r"p", "direccion_fija({n}, EXIGE)"),
     # Room as the sizes say.
-    (r"f_lc_f(read|write).*", r"destino|origen", "bufer({n}, 1, 4096, -1, EXIGE)"),
+    (r"f_lc_f(read|write).*", r"destino|origen", "bufer({n}, 1, 4096, -1, OPCIONAL)"),
     (r"f_lc_f(read|write).*|lc_quedan", r"tamanyo|numero", "enteros({n}, {{1, 0, 3, 16}})"),
     (r"vornspy_(nousar_calloc|reserva_seguro)", r"num|tamanyo", "enteros({n}, {{1, 0, 3, 1000}})"),
     (r"vornspy_parametro", r"n", "enteros({n}, {{1, 3, 16}})"),
