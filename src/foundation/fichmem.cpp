@@ -47,14 +47,13 @@ fichmem *fichmem_crea_desde_cadena(const char *texto) {
     return fichmem_crea32(texto, static_cast<uint32_t>(n));
 }
 
-fichmem *fichmem_copia(const fichmem *m) {
-    return AFIRMA_NO_NULO(m) ? fichmem_crea32(m->datos, m->longitud) : nullptr;
-}
+fichmem *fichmem_copia(const fichmem *m) { return AFIRMA_NO_NULO(m) ? fichmem_crea32(m->datos, m->longitud) : nullptr; }
 
 char *fichmem_copia_contenido_como_cadena(const fichmem *m) {
     if (!AFIRMA_NO_NULO(m)) return nullptr;
     const void *fin = m->longitud == 0 ? nullptr : std::memchr(m->datos, 0, m->longitud);
-    const size_t n = fin == nullptr ? m->longitud : static_cast<size_t>(static_cast<const unsigned char *>(fin) - m->datos);
+    const size_t n =
+        fin == nullptr ? m->longitud : static_cast<size_t>(static_cast<const unsigned char *>(fin) - m->datos);
     auto *texto = static_cast<char *>(vornspy_malloc(n + 1));
     if (n > 0) std::memcpy(texto, m->datos, n);
     texto[n] = '\0';

@@ -21,15 +21,25 @@ struct modo_de_apertura {
 bool analiza(const vnwchar *modo, modo_de_apertura &m) {
     m = {0, true};
     switch (modo[0]) {
-    case 'r': m.como = VN_ABRE_LECTURA; break;
-    case 'w': m.como = VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_TRUNCA; break;
-    case 'a': m.como = VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_ANADE; break;
-    default: return false;
+    case 'r':
+        m.como = VN_ABRE_LECTURA;
+        break;
+    case 'w':
+        m.como = VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_TRUNCA;
+        break;
+    case 'a':
+        m.como = VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_ANADE;
+        break;
+    default:
+        return false;
     }
     for (const vnwchar *p = modo + 1; *p != 0; ++p) {
-        if (*p == '+') m.como |= VN_ABRE_LECTURA | VN_ABRE_ESCRITURA;
-        else if (*p == 'b') m.texto = false;
-        else if (*p != 't') return false;
+        if (*p == '+')
+            m.como |= VN_ABRE_LECTURA | VN_ABRE_ESCRITURA;
+        else if (*p == 'b')
+            m.texto = false;
+        else if (*p != 't')
+            return false;
     }
     return true;
 }
@@ -203,8 +213,10 @@ size_t lee_directamente(vnfichero &f, unsigned char *p, size_t n) {
     situa(f, posicion(f));
     f.estado = vnfichero::LEYENDO;
     size_t k = 0;
-    if (lee_todo(f.id, f.base, p, n, &k) != VN_FICH_BIEN) f.fallo_lectura = true;
-    else if (k < n) f.al_final = true;
+    if (lee_todo(f.id, f.base, p, n, &k) != VN_FICH_BIEN)
+        f.fallo_lectura = true;
+    else if (k < n)
+        f.al_final = true;
     situa(f, f.base + static_cast<int64_t>(k));
     f.estado = vnfichero::LEYENDO;
     f.lectura_siguiente = TAMANYO_BUFFER;
@@ -363,12 +375,14 @@ size_t f_lc_fread_sin_error(void *destino, size_t tamanyo, size_t numero, vnfich
     return bytes == 0 ? numero : lee(*f, destino, bytes) / tamanyo;
 }
 
-size_t f_lc_fwrite(const void *origen, size_t tamanyo, size_t numero, vnfichero *f, const char *modulo, uint32_t linea) {
+size_t f_lc_fwrite(const void *origen, size_t tamanyo, size_t numero, vnfichero *f, const char *modulo,
+                   uint32_t linea) {
     size_t bytes = 0;
     if (!bytes_de(tamanyo, numero, bytes) || !AFIRMA_BUFFER(origen) || !AFIRMA_NO_NULO(f)) return 0;
     if (bytes == 0) return numero;
     const auto *p = static_cast<const unsigned char *>(origen);
-    if (prepara_escritura(*f) && (f->traduce ? escribe_lineas(*f, p, bytes) : escribe_tal_cual(*f, p, bytes))) return numero;
+    if (prepara_escritura(*f) && (f->traduce ? escribe_lineas(*f, p, bytes) : escribe_tal_cual(*f, p, bytes)))
+        return numero;
     // Nothing more is taken: the window stays shut.
     situa(*f, posicion(*f));
     informa_escritura(*f, modulo, linea);

@@ -1,8 +1,8 @@
 /* Streams: buffered files of 64-bit size and position, and the typed store of small values.
 
    A stream belongs to one thread at a time. It remembers its first failure (lc_ha_fallado). Reading and writing may
-   alternate freely on a stream opened for both. A mode is "r", "w" or "a" (at the end), then any of "+" (both ways), "b"
-   and "t", in any order; without "b" it is text, which differs on Windows alone: there a line ends in CR LF in the file
+   alternate freely on a stream opened for both. A mode is "r", "w" or "a" (at the end), then any of "+" (both ways),
+   "b" and "t", in any order; without "b" it is text, which differs on Windows alone: there a line ends in CR LF in the file
    and in LF for the program. No byte is taken for the end of a file. Positions count the bytes of the file. */
 #ifndef VN_LC_FICHERO_H
 #define VN_LC_FICHERO_H
@@ -45,7 +45,7 @@ vnfichero *f_lc_fopen_seguro_u(const vnwchar *nombre, const vnwchar *modo, VN_OP
 vnfichero *f_lc_fopen_un_solo_intento_u(const vnwchar *nombre, const vnwchar *modo, VN_OPC const char *modulo,
                                         uint32_t linea);
 /** Opens a file to write, in a single try, as its only writer: null when another stream or program has it open to
-    write, and nobody else can open it to write until it is closed. `modo` writes. A failure is reported if `informa`. */
+    write, and nobody else can open it to write until it is closed. `modo` writes. `informa`: report a failure. */
 vnfichero *f_lc_fopen_modo_escritura_u(const vnwchar *nombre, const vnwchar *modo, vnbool informa,
                                        VN_OPC const char *modulo, uint32_t linea);
 /** Closes the stream and frees it. CIERTO when everything that was written has reached the system. A failure to write
@@ -92,8 +92,8 @@ void lc_borra_error(vnfichero *f);
 int32_t lc_ftell(const vnfichero *f);
 int64_t vornio_ftell_i64(const vnfichero *f);
 int64_t vio_telli64(const vnfichero *f);
-/** Moves to a position, counted from an origin: 0 the start, 1 the position, 2 the end. Beyond the end is allowed. FALSO,
-    without a report or a move, for one before the start or a file that cannot be moved in. */
+/** Moves to a position, counted from an origin: 0 the start, 1 the position, 2 the end. Beyond the end is allowed.
+    FALSO, without a report or a move, for one before the start or a file that cannot be moved in. */
 vnbool lc_fseek(vnfichero *f, int32_t posicion, VN_RANGO(0, 2) int origen);
 vnbool vornio_fseek_i64(vnfichero *f, int64_t posicion, VN_RANGO(0, 2) int origen);
 

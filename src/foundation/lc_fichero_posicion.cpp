@@ -16,7 +16,8 @@ int64_t tamanyo_actual(vnfichero &f) {
 namespace {
 
 bool mueve(vnfichero &f, int64_t destino) {
-    if (f.estado != vnfichero::NADA && destino >= f.base && destino <= f.base + ocupado(f) && !(f.anade && f.estado == vnfichero::ESCRIBIENDO)) {
+    if (f.estado != vnfichero::NADA && destino >= f.base && destino <= f.base + ocupado(f) &&
+        !(f.anade && f.estado == vnfichero::ESCRIBIENDO)) {
         f.fin = f.buffer + ocupado(f);
         f.v.pos = f.buffer + (destino - f.base);
         if (f.estado == vnfichero::LEYENDO) abre_ventana_de_lectura(f);
@@ -29,7 +30,7 @@ bool mueve(vnfichero &f, int64_t destino) {
 }
 
 bool mueve_desde(vnfichero &f, int64_t posicion_pedida, int origen) {
-    const int64_t desde = origen == VN_DESDE_EL_PRINCIPIO    ? 0
+    const int64_t desde = origen == VN_DESDE_EL_PRINCIPIO  ? 0
                           : origen == VN_DESDE_LA_POSICION ? posicion(f)
                                                            : tamanyo_actual(f);
     int64_t destino = 0;

@@ -40,8 +40,7 @@ vnerror_fichero escribe_todo(vnid_fichero id, int64_t posicion, const void *orig
     const auto *p = static_cast<const unsigned char *>(origen);
     while (n > 0) {
         size_t k = 0;
-        const vnerror_fichero e =
-            con_paciencia(UNA_VEZ, [&] { return operaciones().escribe(id, posicion, p, n, &k); });
+        const vnerror_fichero e = con_paciencia(UNA_VEZ, [&] { return operaciones().escribe(id, posicion, p, n, &k); });
         if (e != VN_FICH_BIEN) return e;
         if (k == 0 || k > n) return VN_FICH_ES;
         p += k;
@@ -70,12 +69,10 @@ vnerror_fichero copia_fichero(const vnwchar *origen, const vnwchar *destino) {
     constexpr size_t TROZO = 256 * 1024;
     const auto trozo = std::make_unique_for_overwrite<unsigned char[]>(TROZO);
     vnid_fichero de = VN_FICHERO_NINGUNO, a = VN_FICHERO_NINGUNO;
-    vnerror_fichero e =
-        con_paciencia(UN_SEGUNDO, [&] { return operaciones().abre(origen, VN_ABRE_LECTURA, &de); });
+    vnerror_fichero e = con_paciencia(UN_SEGUNDO, [&] { return operaciones().abre(origen, VN_ABRE_LECTURA, &de); });
     if (e != VN_FICH_BIEN) return e;
-    e = con_paciencia(UN_SEGUNDO, [&] {
-        return operaciones().abre(destino, VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_TRUNCA, &a);
-    });
+    e = con_paciencia(
+        UN_SEGUNDO, [&] { return operaciones().abre(destino, VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_TRUNCA, &a); });
     if (e != VN_FICH_BIEN) {
         operaciones().cierra(de);
         return e;

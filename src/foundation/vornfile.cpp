@@ -24,8 +24,8 @@ vnerror_fichero prueba_a_abrir(const vnwchar *nombre, uint32_t como) {
 // To the disk. What fails is not tried again: the system may then say that all is well of data that are gone.
 vnerror_fichero vuelca(const vnwchar *nombre) {
     vnid_fichero id = VN_FICHERO_NINGUNO;
-    const vnerror_fichero e = con_paciencia(
-        UN_SEGUNDO, [&] { return operaciones().abre(nombre, VN_ABRE_LECTURA | VN_ABRE_ESCRITURA, &id); });
+    const vnerror_fichero e =
+        con_paciencia(UN_SEGUNDO, [&] { return operaciones().abre(nombre, VN_ABRE_LECTURA | VN_ABRE_ESCRITURA, &id); });
     if (e != VN_FICH_BIEN) return e;
     const vnerror_fichero al_volcar = operaciones().vuelca(id);
     const vnerror_fichero al_cerrar = operaciones().cierra(id);
@@ -86,8 +86,10 @@ vnbool vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(cons
                                                                             const vnwchar *temporal) {
     if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(temporal)) return FALSO;
     vnerror_fichero e = vuelca(temporal);
-    if (e == VN_FICH_BIEN) e = reemplaza(destino, temporal);
-    else operaciones().borra(temporal);
+    if (e == VN_FICH_BIEN)
+        e = reemplaza(destino, temporal);
+    else
+        operaciones().borra(temporal);
     return informado(e, destino);
 }
 
@@ -133,7 +135,8 @@ vnbool vf_appendfile_u(const vnwchar *origen, const vnwchar *destino) {
     int64_t falta = lc_tamanyo_fichero_i64(de.get());
     while (falta > 0) {
         const auto n = static_cast<size_t>(falta < TROZO ? falta : TROZO);
-        if (f_lc_fread(trozo, 1, n, de.get(), VN_AQUI) != n || f_lc_fwrite(trozo, 1, n, a.get(), VN_AQUI) != n) return FALSO;
+        if (f_lc_fread(trozo, 1, n, de.get(), VN_AQUI) != n || f_lc_fwrite(trozo, 1, n, a.get(), VN_AQUI) != n)
+            return FALSO;
         falta -= static_cast<int64_t>(n);
     }
     return lc_fclose(a.release());

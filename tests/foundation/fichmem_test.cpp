@@ -6,7 +6,8 @@ using namespace vn;
 PRUEBA(fichmem, contents_come_and_go) {
     const auto nombre = ancho(directorio() + "/memoria");
     for (const std::string &contenido : {std::string(), std::string("uno\0dos", 7), std::string(300000, 'm')}) {
-        fichmem *m = fichmem_crea32(contenido.empty() ? nullptr : contenido.data(), static_cast<uint32_t>(contenido.size()));
+        fichmem *m =
+            fichmem_crea32(contenido.empty() ? nullptr : contenido.data(), static_cast<uint32_t>(contenido.size()));
         EXPECT_EQ(fichmem_graba_unicode(m, nombre.c_str()), CIERTO);
         EXPECT_TRUE(lee_fichero(directorio() + "/memoria") == contenido);
         fichmem *leido = fichmem_lee_unicode(nombre.c_str());
@@ -38,6 +39,7 @@ PRUEBA(fichmem, ownership_and_failures) {
     fichmem_destruye(&m);
     graba_fichero(directorio() + "/memoria", std::string(1000, 'x'));
     vornspy_instala_permiso([](size_t n, void *) { return n < 1000 || n > 2000 ? CIERTO : FALSO; }, nullptr);
-    EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", fichmem_lee_unicode(ancho(directorio() + "/memoria").c_str())), nullptr);
+    EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", fichmem_lee_unicode(ancho(directorio() + "/memoria").c_str())),
+              nullptr);
     vornspy_instala_permiso(nullptr, nullptr);
 }

@@ -1,5 +1,5 @@
-#include "foundation/lc_fichero.h"
 #include "foundation/fichmem.h"
+#include "foundation/lc_fichero.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
 #include <algorithm>
@@ -20,7 +20,9 @@ struct cierra {
 };
 using flujo = std::unique_ptr<vnfichero, cierra>;
 
-flujo abre(const char *corto, const char *modo) { return flujo(lc_fopen_u(nombre(corto).c_str(), ancho(modo).c_str())); }
+flujo abre(const char *corto, const char *modo) {
+    return flujo(lc_fopen_u(nombre(corto).c_str(), ancho(modo).c_str()));
+}
 
 std::string toma(const flujo &f, size_t n) {
     std::string s(n, '\0');
@@ -43,13 +45,14 @@ bool salta() { return trampa.veces > 0 && trampa.veces-- > 0; }
 const vnoperaciones_fichero &sistema() { return *operaciones_fichero_del_sistema(); }
 
 const vnoperaciones_fichero CON_TRAMPA = {
-    .abre = [](const vnwchar *n, uint32_t como, vnid_fichero *id) { return salta() ? trampa.error : sistema().abre(n, como, id); },
-    .lee = [](vnid_fichero id, int64_t p, void *d, size_t n, size_t *k) {
-        return salta() ? trampa.error : sistema().lee(id, p, d, std::min(n, trampa.maximo), k);
-    },
-    .escribe = [](vnid_fichero id, int64_t p, const void *d, size_t n, size_t *k) {
-        return salta() ? trampa.error : sistema().escribe(id, p, d, std::min(n, trampa.maximo), k);
-    },
+    .abre = [](const vnwchar *n, uint32_t como,
+               vnid_fichero *id) { return salta() ? trampa.error : sistema().abre(n, como, id); },
+    .lee = [](vnid_fichero id, int64_t p, void *d, size_t n,
+              size_t *k) { return salta() ? trampa.error : sistema().lee(id, p, d, std::min(n, trampa.maximo), k); },
+    .escribe =
+        [](vnid_fichero id, int64_t p, const void *d, size_t n, size_t *k) {
+            return salta() ? trampa.error : sistema().escribe(id, p, d, std::min(n, trampa.maximo), k);
+        },
     .vuelca = [](vnid_fichero id) { return salta() ? trampa.error : sistema().vuelca(id); },
     .espera = [](uint32_t) { ++trampa.esperas; },
 };
@@ -80,8 +83,10 @@ PRUEBA(lc_fichero, random_steps_agree_with_a_model) {
             case 0:
             case 1: {
                 std::string s(n, static_cast<char>('a' + paso % 26));
-                if (n < 16) vnfichero_pon(f.get(), s.data(), n, VN_AQUI);
-                else pon(f, s);
+                if (n < 16)
+                    vnfichero_pon(f.get(), s.data(), n, VN_AQUI);
+                else
+                    pon(f, s);
                 if (n == 0) break;
                 if (modelo.size() < aqui + n) modelo.resize(aqui + n);
                 modelo.replace(aqui, n, s);
@@ -110,9 +115,11 @@ PRUEBA(lc_fichero, random_steps_agree_with_a_model) {
 
 PRUEBA(lc_fichero, modes) {
     const struct {
-        const char *modo, *al_abrir, *despues; // the file's content once "XY" is written after opening, null: not opened
-    } filas[] = {{"wb", "12345", "XY"},   {"w+b", "12345", "XY"},      {"rb+", "12345", "XY345"}, {"r+b", "12345", "XY345"},
-                 {"ab", "12345", "12345XY"}, {"a+t", "12345", "12345XY"}, {"wt", nullptr, "XY"},     {"ab", nullptr, "XY"}};
+        const char *modo, *al_abrir,
+            *despues; // the file's content once "XY" is written after opening, null: not opened
+    } filas[] = {{"wb", "12345", "XY"},     {"w+b", "12345", "XY"},     {"rb+", "12345", "XY345"},
+                 {"r+b", "12345", "XY345"}, {"ab", "12345", "12345XY"}, {"a+t", "12345", "12345XY"},
+                 {"wt", nullptr, "XY"},     {"ab", nullptr, "XY"}};
     for (const auto &fila : filas) {
         if (fila.al_abrir != nullptr) graba_fichero(ruta("modo"), fila.al_abrir);
         pon(abre("modo", fila.modo), "XY");
@@ -154,8 +161,10 @@ PRUEBA(lc_fichero, text_lines) {
     while (texto.size() < 200000) texto += std::string(texto.size() % 131, 'x') + "\n";
     pon(abre("texto", "wt"), texto);
     const std::string crudo = lee_fichero(ruta("texto"));
-    if (EN_WINDOWS) EXPECT_EQ(crudo.substr(0, 22), "uno\r\ndos\r\n\r\n\x1A tres\r\r\r\n");
-    else EXPECT_TRUE(crudo == texto);
+    if (EN_WINDOWS)
+        EXPECT_EQ(crudo.substr(0, 22), "uno\r\ndos\r\n\r\n\x1A tres\r\r\r\n");
+    else
+        EXPECT_TRUE(crudo == texto);
     flujo f = abre("texto", "rt");
     std::string leido;
     std::vector<std::pair<size_t, int32_t>> sitios;
@@ -247,7 +256,10 @@ PRUEBA(lc_fichero, interruptions_and_holders_are_waited_for_within_bounds) {
         vnfichero *(*abre)(const vnwchar *, const vnwchar *, const char *, uint32_t);
         int intentos;
         bool informa;
-    } filas[] = {{f_lc_fopen_u, 6, true}, {f_lc_fopen_seguro_u, 6, false}, {f_lc_fopen_en_varios_intentos_u, 21, true}, {f_lc_fopen_un_solo_intento_u, 1, false}};
+    } filas[] = {{f_lc_fopen_u, 6, true},
+                 {f_lc_fopen_seguro_u, 6, false},
+                 {f_lc_fopen_en_varios_intentos_u, 21, true},
+                 {f_lc_fopen_un_solo_intento_u, 1, false}};
     for (const auto &fila : filas) {
         trampa = {VN_FICH_COMPARTIDO, fila.intentos - 1, 0, SIZE_MAX};
         vnfichero *g = fila.abre(nombre("paciencia").c_str(), VNU("rb"), VN_AQUI);
@@ -287,9 +299,13 @@ PRUEBA(lc_fichero, counts_against_what_is_left) {
     graba_fichero(ruta("cuenta"), std::string(100, 'c'));
     flujo f = abre("cuenta", "rb"), crece = abre("cuenta", "ab");
     EXPECT_EQ(toma(f, 20).size(), 20u);
-    for (const auto &[numero, tamanyo, caben] :
-         {std::tuple<uint64_t, uint64_t, vnbool>{10, 8, CIERTO}, {11, 8, FALSO}, {0, 8, CIERTO}, {uint64_t{1} << 61, 8, FALSO},
-          {UINT64_MAX, UINT64_MAX, FALSO}, {UINT64_MAX, 1, FALSO}, {UINT64_MAX, 0, CIERTO}})
+    for (const auto &[numero, tamanyo, caben] : {std::tuple<uint64_t, uint64_t, vnbool>{10, 8, CIERTO},
+                                                 {11, 8, FALSO},
+                                                 {0, 8, CIERTO},
+                                                 {uint64_t{1} << 61, 8, FALSO},
+                                                 {UINT64_MAX, UINT64_MAX, FALSO},
+                                                 {UINT64_MAX, 1, FALSO},
+                                                 {UINT64_MAX, 0, CIERTO}})
         EXPECT_EQ(lc_quedan(f.get(), numero, tamanyo), caben) << numero;
     pon(crece, std::string(100, 'd'));
     lc_fflush(crece.get());
@@ -301,7 +317,8 @@ PRUEBA(lc_fichero, counts_against_what_is_left) {
 
 // Names of any length and any character, lone surrogates included, lead to the file that was made by them.
 PRUEBA(lc_fichero, names) {
-    std::vector<std::basic_string<vnwchar>> nombres = {ancho(directorio() + "/ñ 日本 😀 Ω.obr"), ancho(directorio() + "/" + std::string(240, 'l'))};
+    std::vector<std::basic_string<vnwchar>> nombres = {ancho(directorio() + "/ñ 日本 😀 Ω.obr"),
+                                                       ancho(directorio() + "/" + std::string(240, 'l'))};
     // What wide names on Windows may hold of surrogates is the file system's affair.
     if (!EN_WINDOWS)
         nombres.push_back(ancho(directorio() + "/lone ") + static_cast<vnwchar>(0xDC80) + static_cast<vnwchar>(0xD800));
@@ -329,7 +346,9 @@ HIJO(lc_fichero_retiene) {
 
 PRUEBA(lc_fichero, only_writer_and_zones_between_programs) {
     graba_fichero(ruta("zona"), std::string(100, 'z'));
-    const auto escritor = [](const char *modo) { return f_lc_fopen_modo_escritura_u(nombre("zona").c_str(), ancho(modo).c_str(), FALSO, VN_AQUI); };
+    const auto escritor = [](const char *modo) {
+        return f_lc_fopen_modo_escritura_u(nombre("zona").c_str(), ancho(modo).c_str(), FALSO, VN_AQUI);
+    };
     proceso otro("lc_fichero_retiene", {ruta("zona")});
     for (int i = 0; i < 600 && !existe(ruta("zona.listo")); ++i) operaciones_fichero_del_sistema()->espera(50);
     EXPECT_EQ(escritor("r+b"), nullptr);
@@ -349,7 +368,9 @@ PRUEBA(lc_fichero, only_writer_and_zones_between_programs) {
     ASSERT_NE(a, nullptr);
     EXPECT_EQ(escritor("r+b"), nullptr);
     EXPECT_EQ(ESPERA_INFORME("modo de escritura", escritor("rb")), nullptr);
-    EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", f_lc_fopen_modo_escritura_u(nombre("zona").c_str(), VNU("ab"), CIERTO, VN_AQUI)), nullptr);
+    EXPECT_EQ(
+        ESPERA_INFORME("f_lc_fopen", f_lc_fopen_modo_escritura_u(nombre("zona").c_str(), VNU("ab"), CIERTO, VN_AQUI)),
+        nullptr);
 }
 
 // Locks belong to the stream: the closing of another one drops none, and what is read under a lock is read anew.
@@ -389,16 +410,19 @@ PRUEBA(lc_fichero, a_failure_inside_a_trap_unwinds) {
     flujo f = abre("trampa", "rb");
     vnbool resultado = CIERTO;
     trapable_ejecuta_funcion_segura(
-        vnfichero, +[](vnfichero *g) {
+        vnfichero,
+        +[](vnfichero *g) {
             uint64_t v;
             vnfichero_toma(g, &v, sizeof v, VN_AQUI);
             ADD_FAILURE() << "went on";
-        }, f.get(), &resultado);
+        },
+        f.get(), &resultado);
     EXPECT_EQ(resultado, FALSO);
     const con_trampa puesta;
     vnfichero *g = lc_fopen_u(nombre("otro").c_str(), VNU("wb"));
     lc_fwrite("x", 1, 1, g);
     trampa = {VN_FICH_ES, 1, 0, SIZE_MAX};
-    trapable_ejecuta_funcion_segura(vnfichero, +[](vnfichero *h) { lc_fclose(h); }, g, &resultado);
+    trapable_ejecuta_funcion_segura(
+        vnfichero, +[](vnfichero *h) { lc_fclose(h); }, g, &resultado);
     EXPECT_EQ(resultado, FALSO);
 }

@@ -74,15 +74,20 @@ vnerror_fichero trunca(vnid_fichero id, int64_t tamanyo) {
 vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     *id = VN_FICHERO_NINGUNO;
     const std::wstring ruta = ruta_del_sistema(nombre);
-    const DWORD acceso = ((como & VN_ABRE_LECTURA) != 0 ? GENERIC_READ : 0) | ((como & VN_ABRE_ESCRITURA) != 0 ? GENERIC_WRITE : 0);
+    const DWORD acceso =
+        ((como & VN_ABRE_LECTURA) != 0 ? GENERIC_READ : 0) | ((como & VN_ABRE_ESCRITURA) != 0 ? GENERIC_WRITE : 0);
     const DWORD otros = (como & VN_ABRE_EXCLUSIVO) != 0 ? TODOS & ~static_cast<DWORD>(FILE_SHARE_WRITE) : TODOS;
-    const DWORD manera = (como & VN_ABRE_CREA) == 0 ? OPEN_EXISTING : (como & VN_ABRE_NUEVO) != 0 ? CREATE_NEW : OPEN_ALWAYS;
+    const DWORD manera = (como & VN_ABRE_CREA) == 0    ? OPEN_EXISTING
+                         : (como & VN_ABRE_NUEVO) != 0 ? CREATE_NEW
+                                                       : OPEN_ALWAYS;
     const HANDLE h = CreateFileW(ruta.c_str(), acceso, otros, nullptr, manera, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (h == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
-        const DWORD atributos = error == ERROR_ACCESS_DENIED ? GetFileAttributesW(ruta.c_str()) : INVALID_FILE_ATTRIBUTES;
-        return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY) != 0 ? VN_FICH_ES_DIRECTORIO
-                                                                                                  : error_de(error);
+        const DWORD atributos =
+            error == ERROR_ACCESS_DENIED ? GetFileAttributesW(ruta.c_str()) : INVALID_FILE_ATTRIBUTES;
+        return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY) != 0
+                   ? VN_FICH_ES_DIRECTORIO
+                   : error_de(error);
     }
     const vnid_fichero nuevo = reinterpret_cast<vnid_fichero>(h);
     if ((como & VN_ABRE_TRUNCA) != 0) {
@@ -158,13 +163,15 @@ vnerror_fichero enlaza(const vnwchar *existente, const vnwchar *nuevo) {
 
 vnerror_fichero renombra(const vnwchar *existente, const vnwchar *nuevo) {
     const std::wstring final = ruta_del_sistema(nuevo);
-    if (MoveFileExW(ruta_del_sistema(existente).c_str(), final.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+    if (MoveFileExW(ruta_del_sistema(existente).c_str(), final.c_str(),
+                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
         return VN_FICH_BIEN;
     const DWORD error = GetLastError();
     // A target that somebody holds open is refused as if by rights; unless rights forbid it, that may pass.
     if (error == ERROR_ACCESS_DENIED) {
         const DWORD atributos = GetFileAttributesW(final.c_str());
-        if (atributos != INVALID_FILE_ATTRIBUTES && (atributos & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0)
+        if (atributos != INVALID_FILE_ATTRIBUTES &&
+            (atributos & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0)
             return VN_FICH_COMPARTIDO;
     }
     return error_de(error);

@@ -1,0 +1,349 @@
+#include "fallos.h"
+#include "foundation/operaciones_fichero.h"
+#include "plataforma/proceso.h"
+#include "prueba.h"
+#include <algorithm>
+#include <filesystem>
+#include <initializer_list>
+#include <map>
+#include <optional>
+
+namespace fs = std::filesystem;
+
+namespace vn {
+namespace {
+
+plan_de_fallos el_plan;
+std::vector<operacion> las_hechas;
+std::vector<std::string> los_riesgos;
+bool nombres_sin_volcar;
+std::map<vnid_fichero, std::string> abiertos;
+std::map<std::string, bool> sucios; // by name: written and not flushed
+
+const vnoperaciones_fichero &sistema() { return *operaciones_fichero_del_sistema(); }
+
+bool toma_sitio(operacion o) {
+    return o == operacion::abre || o == operacion::escribe || o == operacion::vuelca || o == operacion::enlaza ||
+           o == operacion::trunca;
+}
+
+// The operation under the plan; `a_medias` does half of it.
+template <typename F, typename G>
+vnerror_fichero intenta(operacion o, F de_verdad, G a_medias) {
+    const size_t k = las_hechas.size();
+    las_hechas.push_back(o);
+    const auto hace = [&] { return el_plan.sin_enlaces && o == operacion::enlaza ? VN_FICH_NO_ADMITIDO : de_verdad(); };
+    if (el_plan.que == fallo::sin_espacio_siempre && k >= el_plan.donde && toma_sitio(o)) return VN_FICH_SIN_ESPACIO;
+    if (k != el_plan.donde) return hace();
+    switch (el_plan.que) {
+    case fallo::muere_antes:
+        muere();
+    case fallo::muere_a_medias:
+        a_medias();
+        muere();
+    case fallo::muere_despues:
+        hace();
+        muere();
+    case fallo::sin_espacio_una_vez:
+        a_medias();
+        return VN_FICH_SIN_ESPACIO;
+    case fallo::error_una_vez:
+        if (o == operacion::cierra) hace();
+        return VN_FICH_ES;
+    case fallo::escribe_poco:
+        return a_medias();
+    case fallo::interrumpe:
+        return VN_FICH_INTERRUMPIDA;
+    case fallo::compartido:
+        return VN_FICH_COMPARTIDO;
+    case fallo::sin_permiso:
+        return VN_FICH_SIN_PERMISO;
+    case fallo::sin_espacio_siempre:
+    case fallo::ninguno:
+        break;
+    }
+    return hace();
+}
+
+// One entry of the table: counts, fails, or calls the system's.
+template <operacion O, auto Miembro>
+struct envuelta;
+template <operacion O, typename... A, vnerror_fichero (*vnoperaciones_fichero::*Miembro)(A...)>
+struct envuelta<O, Miembro> {
+    static vnerror_fichero f(A... a) {
+        const auto hace = [&] { return (sistema().*Miembro)(a...); };
+        return intenta(O, hace, [] { return VN_FICH_BIEN; });
+    }
+};
+#define ENVUELTA(nombre) (envuelta<operacion::nombre, &vnoperaciones_fichero::nombre>::f)
+
+// The entries that do more than count.
+namespace entrada {
+
+vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
+    const vnerror_fichero e = ENVUELTA(abre)(nombre, como, id);
+    if (e != VN_FICH_BIEN) return e;
+    abiertos[*id] = utf8_de(nombre);
+    if ((como & VN_ABRE_TRUNCA) != 0) sucios[utf8_de(nombre)] = true;
+    return e;
+}
+
+vnerror_fichero lee(vnid_fichero id, int64_t p, void *d, size_t n, size_t *k) {
+    return intenta(
+        operacion::lee, [&] { return sistema().lee(id, p, d, n, k); },
+        [&] { return sistema().lee(id, p, d, n / 2 + n % 2, k); });
+}
+
+vnerror_fichero escribe(vnid_fichero id, int64_t p, const void *d, size_t n, size_t *k) {
+    sucios[abiertos[id]] = true;
+    return intenta(
+        operacion::escribe, [&] { return sistema().escribe(id, p, d, n, k); },
+        [&] { return sistema().escribe(id, p, d, n / 2 + n % 2, k); });
+}
+
+// No test can see whether the disk was reached, so the real flush, which is slow, is left out.
+vnerror_fichero no_hace_nada() { return VN_FICH_BIEN; }
+
+vnerror_fichero vuelca(vnid_fichero id) {
+    const vnerror_fichero e = intenta(operacion::vuelca, no_hace_nada, no_hace_nada);
+    if (e == VN_FICH_BIEN) sucios[abiertos[id]] = false;
+    return e;
+}
+
+vnerror_fichero enlaza(const vnwchar *de, const vnwchar *a) {
+    const vnerror_fichero e = ENVUELTA(enlaza)(de, a);
+    if (e == VN_FICH_BIEN) sucios[utf8_de(a)] = sucios[utf8_de(de)];
+    return e;
+}
+
+vnerror_fichero renombra(const vnwchar *de, const vnwchar *a) {
+    const vnerror_fichero e = ENVUELTA(renombra)(de, a);
+    if (e != VN_FICH_BIEN) return e;
+    if (sucios[utf8_de(de)]) los_riesgos.push_back(utf8_de(de) + " was renamed before it was flushed");
+    sucios[utf8_de(a)] = sucios[utf8_de(de)];
+    nombres_sin_volcar = true;
+    return e;
+}
+
+vnerror_fichero vuelca_directorio(const vnwchar *) {
+    const vnerror_fichero e = intenta(operacion::vuelca_directorio, no_hace_nada, no_hace_nada);
+    if (e == VN_FICH_BIEN) nombres_sin_volcar = false;
+    return e;
+}
+
+} // namespace entrada
+
+const vnoperaciones_fichero TABLA = {
+    .abre = entrada::abre,
+    .lee = entrada::lee,
+    .escribe = entrada::escribe,
+    .vuelca = entrada::vuelca,
+    .trunca = ENVUELTA(trunca),
+    .estado_abierto = ENVUELTA(estado_abierto),
+    .bloquea = ENVUELTA(bloquea),
+    .desbloquea = ENVUELTA(desbloquea),
+    .cierra = ENVUELTA(cierra),
+    .estado = ENVUELTA(estado),
+    .enlaza = entrada::enlaza,
+    .renombra = entrada::renombra,
+    .borra = ENVUELTA(borra),
+    .copia_permisos = ENVUELTA(copia_permisos),
+    .vuelca_directorio = entrada::vuelca_directorio,
+    .espera = [](uint32_t) {},
+};
+
+std::map<std::string, funcion_guarda> &guardados() {
+    static std::map<std::string, funcion_guarda> m;
+    return m;
+}
+
+// A failure, the operations that it can befall, and whether the save must succeed all the same.
+using enum operacion;
+const struct fila_de_fallos {
+    fallo que;
+    std::vector<operacion> cuales;
+    bool no_importa;
+} FALLOS[] = {
+    {fallo::sin_espacio_una_vez, {escribe, enlaza}, false},
+    {fallo::sin_espacio_siempre, {abre, escribe, vuelca, enlaza}, false},
+    {fallo::error_una_vez,
+     {abre, lee, escribe, vuelca, trunca, estado_abierto, cierra, estado, enlaza, renombra, borra, copia_permisos,
+      vuelca_directorio},
+     false},
+    {fallo::sin_permiso, {abre, renombra}, false},
+    {fallo::sin_permiso, {enlaza}, true},
+    {fallo::escribe_poco, {escribe, lee}, true},
+    {fallo::interrumpe, {abre, lee, escribe, renombra}, true},
+    {fallo::compartido, {abre, renombra}, true},
+};
+const std::vector<operacion> MORTALES = {abre,   escribe,  vuelca, trunca,         cierra,
+                                         enlaza, renombra, borra,  copia_permisos, vuelca_directorio};
+
+bool esta(const std::vector<operacion> &v, operacion o) { return std::find(v.begin(), v.end(), o) != v.end(); }
+
+class conductor {
+  public:
+    explicit conductor(const char *guardado) : nombre_(guardado), guarda_(guardados().at(guardado)) {
+        fs::create_directories(carpeta());
+        for (int edicion = 0; edicion < 4; ++edicion) {
+            limpia();
+            EXPECT_TRUE(guarda_(fichero(), edicion));
+            bytes_[edicion] = lee_fichero(fichero());
+            for (int otra = 0; otra < edicion; ++otra) EXPECT_FALSE(bytes_[otra] == bytes_[edicion]);
+        }
+    }
+
+    void conduce() {
+        for (const bool habia : {false, true})
+            for (const bool sin_enlaces : {false, true}) {
+                // Without an old file there is nothing to link.
+                if (sin_enlaces && !habia) continue;
+                habia_ = habia;
+                plan_ = {fallo::ninguno, SIZE_MAX, sin_enlaces};
+                conduce_una();
+            }
+    }
+
+  private:
+    fs::path carpeta() const { return fs::path(u8(Prueba::directorio())) / "guardado"; }
+    static std::u8string u8(const std::string &s) { return {s.begin(), s.end()}; }
+    std::string fichero() const { return Prueba::directorio() + "/guardado/obra"; }
+    std::string copia() const { return fichero() + ".bak"; }
+    void limpia() const {
+        for (const auto &e : fs::directory_iterator(carpeta())) fs::remove(e);
+    }
+    // The old file is edition 1, its safety copy edition 0.
+    void prepara() const {
+        limpia();
+        if (!habia_) return;
+        graba_fichero(fichero(), bytes_[1]);
+        graba_fichero(copia(), bytes_[0]);
+    }
+
+    void conduce_una() {
+        const std::vector<operacion> ops = en_este_proceso();
+        for (const fila_de_fallos &fila : FALLOS)
+            for (size_t k = 0; k < ops.size(); ++k)
+                if (esta(fila.cuales, ops[k])) {
+                    plan_.que = fila.que;
+                    plan_.donde = k;
+                    falla(ops[k], fila.no_importa);
+                }
+        size_t ultima = 0;
+        for (size_t k = 0; k < ops.size(); ++k)
+            if (esta(MORTALES, ops[k])) {
+                mata(fallo::muere_antes, k, ops[k]);
+                if (ops[k] == escribe) mata(fallo::muere_a_medias, k, ops[k]);
+                ultima = k;
+            }
+        mata(fallo::muere_despues, ultima, ops[ultima]);
+    }
+
+    std::string caso(operacion o) const {
+        return "failure " + std::to_string(static_cast<int>(plan_.que)) + " at operation " +
+               std::to_string(plan_.donde) + " (kind " + std::to_string(static_cast<int>(o)) + "), " +
+               (habia_ ? "an old file" : "no file") + (plan_.sin_enlaces ? ", no links" : "");
+    }
+
+    // The save without a failure: what it does, and that it does it in an order that a power failure cannot harm.
+    std::vector<operacion> en_este_proceso() {
+        prepara();
+        std::vector<operacion> ops;
+        {
+            const con_fallos puestos(plan_);
+            EXPECT_TRUE(guarda_(fichero(), 2));
+            EXPECT_EQ(puestos.riesgos(), std::vector<std::string>{});
+            EXPECT_FALSE(puestos.directorio_sin_volcar());
+            ops = puestos.hechas();
+        }
+        juzga(true, false);
+        return ops;
+    }
+
+    void falla(operacion o, bool no_importa) {
+        SCOPED_TRACE(caso(o));
+        prepara();
+        bool dicho = false;
+        {
+            const con_fallos puestos(plan_);
+            dicho = guarda_(fichero(), 2);
+            EXPECT_EQ(puestos.riesgos(), std::vector<std::string>{});
+            EXPECT_TRUE(!dicho || !puestos.directorio_sin_volcar());
+        }
+        const size_t informes = Prueba::toma_informes().size();
+        EXPECT_TRUE(dicho || !no_importa);
+        EXPECT_EQ(informes, dicho ? 0u : 1u);
+        juzga(dicho, o == vuelca_directorio);
+    }
+
+    void mata(fallo que, size_t k, operacion o) {
+        plan_.que = que;
+        plan_.donde = k;
+        SCOPED_TRACE(caso(o));
+        prepara();
+        proceso hijo("guarda_con_fallos", {nombre_, fichero(), std::to_string(static_cast<int>(que)), std::to_string(k),
+                                           plan_.sin_enlaces ? "1" : "0"});
+        EXPECT_EQ(hijo.espera(60000), proceso::MUERTO);
+        juzga(std::nullopt, true);
+    }
+
+    // What is on the disk, after a save that told this of itself or told nothing.
+    void juzga(std::optional<bool> dicho, bool puede_ser_nuevo) {
+        const bool hay = existe(fichero());
+        const std::string contenido = hay ? lee_fichero(fichero()) : "";
+        const bool nuevo = hay && contenido == bytes_[2];
+        const bool viejo = habia_ ? hay && contenido == bytes_[1] : !hay;
+        EXPECT_TRUE(nuevo || viejo) << "neither the old file nor the new one: " << contenido.size() << " bytes";
+        EXPECT_TRUE(!dicho || (*dicho ? nuevo : viejo || puede_ser_nuevo)) << "it told " << dicho.value_or(false);
+        EXPECT_EQ(existe(copia()), habia_);
+        if (habia_ && existe(copia())) {
+            const std::string guardada = lee_fichero(copia());
+            EXPECT_TRUE(guardada == bytes_[1] || (!nuevo && guardada == bytes_[0])) << "the safety copy is neither";
+        }
+        // The next save puts everything in order.
+        const con_fallos ninguno({});
+        EXPECT_TRUE(guarda_(fichero(), 3));
+        EXPECT_TRUE(lee_fichero(fichero()) == bytes_[3]);
+        EXPECT_EQ(existe(copia()), hay);
+        EXPECT_TRUE(!existe(copia()) || lee_fichero(copia()) == contenido);
+        for (const auto &e : fs::directory_iterator(carpeta())) {
+            const auto u = e.path().filename().u8string();
+            const std::string resto(u.begin(), u.end());
+            EXPECT_TRUE(resto == "obra" || resto == "obra.bak") << resto << " was left";
+        }
+    }
+
+    std::string nombre_;
+    funcion_guarda guarda_;
+    std::string bytes_[4];
+    bool habia_ = false;
+    plan_de_fallos plan_;
+};
+
+} // namespace
+
+con_fallos::con_fallos(const plan_de_fallos &plan) {
+    el_plan = plan;
+    las_hechas.clear();
+    los_riesgos.clear();
+    abiertos.clear();
+    sucios.clear();
+    nombres_sin_volcar = false;
+    operaciones_fichero_instala(&TABLA);
+}
+
+con_fallos::~con_fallos() { operaciones_fichero_instala(nullptr); }
+const std::vector<operacion> &con_fallos::hechas() const { return las_hechas; }
+const std::vector<std::string> &con_fallos::riesgos() const { return los_riesgos; }
+bool con_fallos::directorio_sin_volcar() const { return nombres_sin_volcar; }
+
+registra_guardado::registra_guardado(const char *nombre, funcion_guarda funcion) { guardados()[nombre] = funcion; }
+
+HIJO(guarda_con_fallos) {
+    const con_fallos puestos({static_cast<fallo>(std::stoi(args.at(2))), std::stoul(args.at(3)), args.at(4) == "1"});
+    return guardados().at(args.at(0))(args.at(1), 2) ? 0 : 1;
+}
+
+void comprueba_guardado(const char *guardado) { conductor(guardado).conduce(); }
+
+} // namespace vn

@@ -1,0 +1,73 @@
+// A save under every failure: the file operations of the library are wrapped so that one of them, by its number, fails
+// or is the last before the process dies, and what is left on the disk is judged.
+//
+//   GUARDADO(mi_guardado) { return save(fichero, edicion); } // bool (const std::string &fichero, int edicion)
+//   vn::comprueba_guardado("mi_guardado");                   // inside a PRUEBA
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace vn {
+
+enum class operacion : uint8_t {
+    abre, lee, escribe, vuelca, trunca, estado_abierto, bloquea, desbloquea, cierra, estado, enlaza, renombra, borra,
+    copia_permisos, vuelca_directorio
+};
+
+enum class fallo : uint8_t {
+    ninguno,
+    muere_antes,         // the process dies instead of the operation
+    muere_a_medias,      // half of a write is done, then the process dies
+    muere_despues,
+    sin_espacio_una_vez,
+    sin_espacio_siempre, // from there on, for all that takes room
+    error_una_vez,       // of the device
+    escribe_poco,        // half of a transfer is done
+    interrumpe,          // nothing is done, once
+    compartido,          // another holder is in the way, once
+    sin_permiso
+};
+
+struct plan_de_fallos {
+    fallo que = fallo::ninguno;
+    size_t donde = SIZE_MAX;  // number of the operation, from 0
+    bool sin_enlaces = false; // the file system has no hard links
+};
+
+// From here to the end of its life the library's file operations are counted, and fail as planned. Waits are skipped.
+class con_fallos {
+  public:
+    explicit con_fallos(const plan_de_fallos &plan);
+    ~con_fallos();
+    con_fallos(const con_fallos &) = delete;
+    con_fallos &operator=(const con_fallos &) = delete;
+
+    // What was called so far, in order.
+    const std::vector<operacion> &hechas() const;
+    // What a power failure could have turned into a loss: a rename of data that had not been flushed to the disk.
+    const std::vector<std::string> &riesgos() const;
+    // Whether a name was changed after the last flush of the directory.
+    bool directorio_sin_volcar() const;
+};
+
+// A save of one of the editions of a file's content, 0 to 3; its result is what it tells of itself. The bytes of an
+// edition are always the same, whatever they replace.
+using funcion_guarda = bool (*)(const std::string &fichero, int edicion);
+struct registra_guardado {
+    registra_guardado(const char *nombre, funcion_guarda funcion);
+};
+
+// Drives every boundary of the save over an old file with its safety copy and over none, with hard links and without,
+// through every failure. In every case: the file is the old one or the new one, whole; what the save told is true;
+// the safety copy is whole and never missing; the next save succeeds and leaves the file and its safety copy alone.
+void comprueba_guardado(const char *guardado);
+
+} // namespace vn
+
+#define GUARDADO(nombre)                                                                                               \
+    static bool guardado_##nombre(const std::string &fichero, int edicion);                                            \
+    static const ::vn::registra_guardado registra_guardado_##nombre(#nombre, guardado_##nombre);                       \
+    static bool guardado_##nombre(const std::string &fichero, int edicion)
