@@ -47,8 +47,8 @@ vnbool alsalir_mutex_entra(vnmutex **mutex, const vnwchar *nombre, const char *m
     return vnmutex_entra(*mutex);
 }
 
-// Holds one of the mutexes over a registration. One that cannot be had in time is gone without: a text that is not
-// registered would be a leak for certain, two that meet only might lose one.
+// Holds one of the mutexes over a registration. When it cannot be had in time the registration is made all the same: not
+// to make it would surely lose the text, and two that meet may lose one.
 class dentro {
   public:
     dentro(vnmutex **mutex, const vnwchar *nombre, const char *modulo, uint32_t linea)
@@ -77,14 +77,10 @@ void limpia_lista(arrPuntero **lista, vnfunc_destruye destructor) {
     arr_DestruyePunteroConTipo(lista);
 }
 
+template <vnfunc_destruye DESTRUCTOR>
 void limpia_cadenas(vnparametros *parametros) {
     auto **lista = static_cast<arrPuntero **>(vornspy_parametro_puntero(parametros, 0));
-    if (lista != nullptr && *lista != nullptr) limpia_lista(lista, destruye_cadena);
-}
-
-void limpia_cadenas_u(vnparametros *parametros) {
-    auto **lista = static_cast<arrPuntero **>(vornspy_parametro_puntero(parametros, 0));
-    if (lista != nullptr && *lista != nullptr) limpia_lista(lista, widestr_fun_destruye);
+    if (lista != nullptr && *lista != nullptr) limpia_lista(lista, DESTRUCTOR);
 }
 
 void limpia_dato(vnparametros *parametros) {
@@ -109,13 +105,13 @@ void registra(arrPuntero **lista, vnfunc_atexit limpiador, void *variable, const
 void alsalir_nousar_destruye_cadena(char **cadena, const char *modulo, uint32_t linea) {
     if (!AFIRMA_NO_NULO(cadena)) return;
     const dentro guardado(&mutex_cadena, VNU("ALSALIR_ID_MUTEX_CADENA"), modulo, linea);
-    registra(&las_cadenas, limpia_cadenas, cadena, modulo, linea);
+    registra(&las_cadenas, limpia_cadenas<destruye_cadena>, cadena, modulo, linea);
 }
 
 void alsalir_nousar_destruye_cadena_u(vnwchar **cadena, const char *modulo, uint32_t linea) {
     if (!AFIRMA_NO_NULO(cadena)) return;
     const dentro guardado(&mutex_cadena_u, VNU("ALSALIR_ID_MUTEX_CADENA_U"), modulo, linea);
-    registra(&las_cadenas_u, limpia_cadenas_u, cadena, modulo, linea);
+    registra(&las_cadenas_u, limpia_cadenas<widestr_fun_destruye>, cadena, modulo, linea);
 }
 
 void alsalir_nousar_destruye_dato(void *dato, vnfunc_destruye funcDestruyeDato, const char *modulo, uint32_t linea) {
