@@ -3,6 +3,7 @@
 #include "foundation/msglocal.h"
 #include "foundation/widestr.h"
 #include "prueba.h"
+#include <algorithm>
 
 namespace {
 
