@@ -163,7 +163,8 @@ PRUEBA(vnstdc, las_fechas_salen_en_ingles_y_las_semanas_segun_la_norma) {
 
 PRUEBA(vnstdc, la_hora_local_es_de_cada_hebra_y_las_variables_llevan_cualquier_caracter) {
     int64_t ahora = 0;
-    EXPECT_EQ(vnstdc__time64(&ahora), ahora);
+    const int64_t devuelto = vnstdc__time64(&ahora);
+    EXPECT_EQ(devuelto, ahora);
     EXPECT_GT(ahora, 1700000000);
     const int64_t antes = -86400 * 2; // 30 December 1969, at least
     const struct tm *t = vnstdc__localtime64(&antes);
