@@ -27,7 +27,7 @@ std::basic_string<vnwchar> ruta_ancha(std::string_view bytes) {
     for (size_t i = 0; i < bytes.size();) {
         uint32_t c = 0;
         const size_t n = secuencia(bytes.substr(i), c);
-        if (n == 0) {
+        if (n == 0 || c == '\\') {
             u += static_cast<vnwchar>(0xDC00 + static_cast<unsigned char>(bytes[i++]));
             continue;
         }
@@ -51,8 +51,8 @@ std::string ruta_del_sistema(std::basic_string_view<vnwchar> ruta) {
         if (c >= 0xD800 && c < 0xDC00 && i + 1 < ruta.size() && ruta[i + 1] >= 0xDC00 && ruta[i + 1] < 0xE000)
             c = 0x10000 + ((c - 0xD800) << 10) + (ruta[++i] - 0xDC00u);
         if (c < 0x80) {
-            pon(c);
-        } else if (c >= 0xDC80 && c < 0xDD00) {
+            pon(c == '\\' ? '/' : c);
+        } else if ((c >= 0xDC80 && c < 0xDD00) || c == 0xDC00 + '\\') {
             pon(c - 0xDC00);
         } else if (c < 0x800) {
             pon(0xC0 | c >> 6);
