@@ -8,10 +8,10 @@ typedef struct dirwin dirwin;
 
 /** What a walk meets: a file or a directory. */
 typedef struct dirwin_dato {
-    vnwchar nombre[256];   /**< without path */
-    uint32_t atributos;    /**< VNLONGPATH_FILE_ATTRIBUTE_* of vnlongpath.h */
-    uint64_t tamanyo;      /**< bytes; 0 for a directory */
-    int64_t fecha_UTC;     /**< last change, seconds since 1970-01-01 */
+    vnwchar nombre[256]; /**< without path */
+    uint32_t atributos;  /**< VNLONGPATH_FILE_ATTRIBUTE_* of vnlongpath.h */
+    uint64_t tamanyo;    /**< bytes; 0 for a directory */
+    int64_t fecha_UTC;   /**< last change, seconds since 1970-01-01 */
 } dirwin_dato;
 
 VN_C_INICIO

@@ -1,6 +1,7 @@
 #define VN_MODULO "vnmutex (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/vnmutex.h"
 #include "foundation/afirma.h"
+#include "foundation/eterno_priv.h"
 #include "foundation/platform/cerrojo.h"
 #include "foundation/vornspy.h"
 #include <atomic>
@@ -34,20 +35,16 @@ struct nucleo {
     std::optional<vn::plat::cerrojo> entre_programas; // used by the thread that is `dueno` alone
 };
 
-// By kind and name, those that a handle uses. Never destroyed: exit cleaners may still come.
+// By kind and name, those that a handle uses.
 struct registro {
     std::mutex cerrojo, creacion;
     std::map<std::string, std::weak_ptr<nucleo>> por_nombre;
 };
 
-registro &el_registro() {
-    alignas(registro) static std::byte sitio[sizeof(registro)];
-    static registro *const r = new (sitio) registro;
-    return *r;
-}
+registro &el_registro() { return vn::eterno<registro>(); }
 
-// A text that is the name of a file and of a system object everywhere: other bytes in hexadecimal, a long one cut and
-// told apart by its hash.
+// A text that is the name of a file and of a system object everywhere: other bytes in hexadecimal, a long one
+// cut and told apart by its hash.
 std::string nombre_sencillo(const std::string &nombre) {
     constexpr char CIFRAS[] = "0123456789ABCDEF";
     constexpr size_t MAXIMO = 100;
@@ -57,8 +54,10 @@ std::string nombre_sencillo(const std::string &nombre) {
         const auto b = static_cast<unsigned char>(c);
         resumen = (resumen ^ b) * 0x100000001b3u;
         const auto letra = static_cast<unsigned char>(b | 32);
-        if ((letra >= 'a' && letra <= 'z') || (b >= '0' && b <= '9') || b == '_' || b == '-') r += c;
-        else ((r += '%') += CIFRAS[b >> 4]) += CIFRAS[b & 15];
+        if ((letra >= 'a' && letra <= 'z') || (b >= '0' && b <= '9') || b == '_' || b == '-')
+            r += c;
+        else
+            ((r += '%') += CIFRAS[b >> 4]) += CIFRAS[b & 15];
     }
     if (r.size() <= MAXIMO) return r;
     r.resize(MAXIMO);
@@ -185,7 +184,7 @@ void vnmutex_sal(vnmutex *m) {
 }
 
 vnbool vnmutex_entra_creando_entre_aplicaciones_si_es_necesario(vnmutex **m, const char *nombre) {
-    if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(nombre)) return FALSO;
+    if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(nombre) || !AFIRMA(nombre[0] != 0)) return FALSO;
     vnmutex *el_mutex = nullptr;
     {
         const std::lock_guard guarda(el_registro().creacion);

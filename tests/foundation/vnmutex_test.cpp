@@ -39,7 +39,8 @@ uint64_t lee_cuenta(const std::string &fichero) {
 }
 
 bool espera_fichero(const std::string &fichero) {
-    for (int i = 0; i < 2000 && !vn::existe(fichero); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    for (int i = 0; i < 2000 && !vn::existe(fichero); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     return vn::existe(fichero);
 }
 
@@ -107,7 +108,8 @@ PRUEBA(vnmutex, varias_hebras_entre_aplicaciones) {
     vnmutex_destruye(&m);
 }
 
-// Arguments: name of the mutex, file of the count, file of what was done, how often, and the turn in which to die inside.
+// Arguments: name of the mutex, file of the count, file of what was done, how often, and the turn in which to
+// die inside.
 HIJO(cuenta_bajo_mutex) {
     vnmutex *m = vnmutex_crea_entre_aplicaciones(args.at(0).c_str());
     std::ofstream hecho(args.at(2), std::ios::app);
@@ -133,9 +135,10 @@ PRUEBA(vnmutex, varios_programas_cuentan_y_algunos_mueren_dentro) {
     std::vector<vn::proceso> hijos;
     for (int i = 0; i < PROGRAMAS; ++i) {
         const bool muere = i % 2 == 1;
-        hijos.emplace_back("cuenta_bajo_mutex",
-                           std::vector<std::string>{nombre, cuenta, directorio() + "/hecho" + std::to_string(i),
-                                                    std::to_string(VECES), muere ? std::to_string(7 * i) : "-1"});
+        hijos.emplace_back(
+            "cuenta_bajo_mutex",
+            std::vector<std::string>{nombre, cuenta, directorio() + "/hecho" + std::to_string(i),
+                                     std::to_string(VECES), muere ? std::to_string(7 * i) : "-1"});
     }
     for (int i = 0; i < PROGRAMAS; ++i) {
         const auto r = hijos[static_cast<size_t>(i)].espera(60000);

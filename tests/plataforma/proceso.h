@@ -1,5 +1,5 @@
-// Child processes of a test, the same on every platform: the test program starts itself again and runs, instead of
-// tests, one function written beside them.
+// Child processes of a test, the same on every platform: the test program starts itself again and runs,
+// instead of tests, one function written beside them.
 //
 //   HIJO(escribe) { return args.size() == 1 ? 0 : 1; }       // int (const std::vector<std::string> &args)
 //   vn::proceso p("escribe", {"fichero"});
@@ -56,7 +56,7 @@ std::vector<std::string> argumentos(int argc, char **argv);
 
 } // namespace vn
 
-#define HIJO(nombre)                                                                                                   \
-    static int hijo_##nombre(const std::vector<std::string> &args);                                                    \
-    static const ::vn::registra_hijo registra_hijo_##nombre(#nombre, hijo_##nombre);                                   \
+#define HIJO(nombre)                                                                                         \
+    static int hijo_##nombre(const std::vector<std::string> &args);                                          \
+    static const ::vn::registra_hijo registra_hijo_##nombre(#nombre, hijo_##nombre);                         \
     static int hijo_##nombre([[maybe_unused]] const std::vector<std::string> &args)

@@ -6,7 +6,8 @@
 
 namespace vn::plat {
 
-// The lock of a name, not taken. Taken and freed by the same thread, once each in turn; a process that dies frees it.
+// The lock of a name, not taken. Taken and freed by the same thread, once each in turn; a process that dies
+// frees it.
 class cerrojo {
   public:
     enum class toma { bien, abandonado, no };

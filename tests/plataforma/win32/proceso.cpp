@@ -1,5 +1,6 @@
 #include "plataforma/proceso.h"
 #include <windows.h>
+
 #include <shellapi.h>
 
 namespace vn {
@@ -40,7 +41,9 @@ intptr_t lanza(const std::vector<std::string> &args) {
     STARTUPINFOW inicio{};
     inicio.cb = sizeof inicio;
     PROCESS_INFORMATION p{};
-    if (!CreateProcessW(programa.c_str(), linea.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &inicio, &p)) return 0;
+    if (!CreateProcessW(programa.c_str(), linea.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &inicio,
+                        &p))
+        return 0;
     CloseHandle(p.hThread);
     return reinterpret_cast<intptr_t>(p.hProcess);
 }
@@ -61,8 +64,11 @@ std::vector<std::string> argumentos(int, char **) {
     LPWSTR *anchos = CommandLineToArgvW(GetCommandLineW(), &n);
     std::vector<std::string> r;
     for (int i = 0; i < n; ++i) {
-        std::string u(static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, nullptr, 0, nullptr, nullptr)), '\0');
-        WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, u.data(), static_cast<int>(u.size()), nullptr, nullptr);
+        std::string u(
+            static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, nullptr, 0, nullptr, nullptr)),
+            '\0');
+        WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, u.data(), static_cast<int>(u.size()), nullptr,
+                            nullptr);
         u.pop_back();
         r.push_back(u);
     }

@@ -14,10 +14,12 @@ namespace {
 using namespace std::chrono_literals;
 using reloj = std::chrono::steady_clock;
 
-// A directory that this user alone may write: nobody else can hold a lock of ours, or lead us elsewhere by a link.
+// A directory that this user alone may write: nobody else can hold a lock of ours, or lead us elsewhere by a
+// link.
 bool es_solo_mio(const std::string &ruta) {
     struct stat s {};
-    return ::lstat(ruta.c_str(), &s) == 0 && S_ISDIR(s.st_mode) && s.st_uid == ::geteuid() && (s.st_mode & 022) == 0;
+    return ::lstat(ruta.c_str(), &s) == 0 && S_ISDIR(s.st_mode) && s.st_uid == ::geteuid() &&
+           (s.st_mode & 022) == 0;
 }
 
 // The user's run-time directory, which programs started without its variable know too, or a private one.
@@ -35,8 +37,8 @@ std::string directorio_de_cerrojos() {
     return es_solo_mio(d) ? d : std::string();
 }
 
-// Belongs to the open file, not to the process: closing another opening of it does not drop it, and threads that have an opening
-// each exclude one another.
+// Belongs to the open file, not to the process: closing another opening of it does not drop it. A child
+// process that does not go on to run another program shares it, and keeps it if the parent dies inside.
 int bloquea(int fd, short modo) {
     struct flock z {};
     z.l_type = modo;

@@ -1,0 +1,14 @@
+// Files by handle, as vnlongpath.h has them.
+#pragma once
+
+#include "foundation/platform/directorio.h"
+#include "foundation/vnlongpath.h"
+
+namespace vn::plat {
+
+vnlongpath_handle abre_fichero(const texto &nombre, uint32_t acceso, uint32_t comparticion, void *seguridad,
+                               uint32_t disposicion, uint32_t atributos, void *plantilla);
+bool cierra_fichero(vnlongpath_handle fichero);
+uint32_t atributos_de(const texto &nombre);
+
+} // namespace vn::plat

@@ -1,0 +1,58 @@
+#include "foundation/platform/longpath.h"
+#include "foundation/platform/posix/ruta.h"
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace vn::plat {
+namespace {
+
+// By disposition, from 1: how an existing file and a missing one are met.
+constexpr int DISPOSICIONES[] = {0, O_CREAT | O_EXCL, O_CREAT | O_TRUNC, 0, O_CREAT, O_TRUNC};
+
+vnlongpath_handle como_handle(int fd) {
+    return reinterpret_cast<vnlongpath_handle>(static_cast<intptr_t>(fd));
+}
+
+} // namespace
+
+vnlongpath_handle abre_fichero(const texto &nombre, uint32_t acceso, uint32_t, void *, uint32_t disposicion,
+                               uint32_t atributos, void *) {
+    const bool lee = (acceso & VNLONGPATH_GENERIC_READ) != 0,
+               escribe = (acceso & VNLONGPATH_GENERIC_WRITE) != 0;
+    const std::string ruta = ruta_del_sistema(nombre);
+    if (disposicion == VNLONGPATH_TRUNCATE_EXISTING && !escribe) {
+        errno = EINVAL;
+        return VNLONGPATH_INVALID_HANDLE;
+    }
+    int modo = O_CLOEXEC | DISPOSICIONES[disposicion] | (escribe ? (lee ? O_RDWR : O_WRONLY) : O_RDONLY);
+    if ((atributos & VNLONGPATH_FILE_FLAG_WRITE_THROUGH) != 0) modo |= O_DSYNC;
+    const mode_t permisos = (atributos & VNLONGPATH_FILE_ATTRIBUTE_READONLY) != 0 ? 0444 : 0666;
+    const int abierto = ::open(ruta.c_str(), modo, permisos);
+    if (abierto < 0) return VNLONGPATH_INVALID_HANDLE;
+    // Never 0, which is no handle.
+    const int fd = abierto > 0 ? abierto : ::fcntl(abierto, F_DUPFD_CLOEXEC, 3);
+    if (abierto == 0) ::close(abierto);
+    struct stat s {};
+    if (fd > 0 && ::fstat(fd, &s) == 0 && S_ISDIR(s.st_mode) &&
+        (atributos & VNLONGPATH_FILE_FLAG_BACKUP_SEMANTICS) == 0) {
+        ::close(fd);
+        errno = EISDIR;
+        return VNLONGPATH_INVALID_HANDLE;
+    }
+    if (fd > 0 && (atributos & VNLONGPATH_FILE_FLAG_DELETE_ON_CLOSE) != 0) ::unlink(ruta.c_str());
+    return como_handle(fd);
+}
+
+bool cierra_fichero(vnlongpath_handle fichero) {
+    const auto fd = static_cast<int>(reinterpret_cast<intptr_t>(fichero));
+    return fd > 0 && ::close(fd) == 0;
+}
+
+uint32_t atributos_de(const texto &nombre) {
+    ficha f;
+    return consulta(nombre, f) || f.es_enlace ? f.atributos : VNLONGPATH_INVALID_FILE_ATTRIBUTES;
+}
+
+} // namespace vn::plat

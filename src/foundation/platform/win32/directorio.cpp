@@ -1,0 +1,261 @@
+#include "foundation/platform/directorio.h"
+#include "foundation/platform/win32/ruta.h"
+#include "foundation/vnlongpath.h"
+#include <shlobj.h>
+#include <windows.h>
+
+namespace vn::plat {
+
+const vnwchar SEPARADOR = L'\\';
+
+vnwchar para_comparar(vnwchar c) {
+    // A value below 65536 in the place of the pointer is one character, and comes back so.
+    return static_cast<vnwchar>(
+        reinterpret_cast<uintptr_t>(CharUpperW(reinterpret_cast<LPWSTR>(static_cast<uintptr_t>(c)))));
+}
+
+namespace {
+
+struct cierra_handle {
+    using pointer = HANDLE;
+    void operator()(HANDLE h) const { CloseHandle(h); }
+};
+using handle = std::unique_ptr<void, cierra_handle>;
+
+// Opens what is there without getting in anybody's way; null if it cannot be.
+handle abre(const texto &ruta, DWORD acceso) {
+    const HANDLE h = CreateFileW(ruta_del_sistema(ruta).c_str(), acceso,
+                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                 OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    return handle(h == INVALID_HANDLE_VALUE ? nullptr : h);
+}
+
+int64_t segundos(FILETIME t) {
+    const auto pasos = static_cast<int64_t>(static_cast<uint64_t>(t.dwHighDateTime) << 32 | t.dwLowDateTime);
+    return (pasos - 116444736000000000) / 10000000; // from 1601, in steps of 100 ns
+}
+
+// The attributes and sizes that three records of the system name alike.
+template <class T>
+void copia(const T &d, ficha &f) {
+    f.atributos = d.dwFileAttributes;
+    f.es_directorio = (d.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    f.tamanyo = f.es_directorio ? 0 : static_cast<uint64_t>(d.nFileSizeHigh) << 32 | d.nFileSizeLow;
+    f.fecha = segundos(d.ftLastWriteTime);
+}
+
+bool sigue_enlace(const texto &ruta, ficha &f) {
+    const handle h = abre(ruta, FILE_READ_ATTRIBUTES);
+    BY_HANDLE_FILE_INFORMATION d{};
+    if (!h || !GetFileInformationByHandle(h.get(), &d)) return false;
+    copia(d, f);
+    f.atributos |= FILE_ATTRIBUTE_REPARSE_POINT;
+    return true;
+}
+
+// Of the records that replace a file, those that lead elsewhere; a file kept by a cloud service does not.
+bool lleva_a_otro(const WIN32_FIND_DATAW &d) {
+    return (d.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+           IsReparseTagNameSurrogate(d.dwReserved0);
+}
+
+bool busca(const texto &patron, WIN32_FIND_DATAW &d, HANDLE &h) {
+    h = FindFirstFileExW(ruta_del_sistema(patron).c_str(), FindExInfoBasic, &d, FindExSearchNameMatch,
+                         nullptr, 0);
+    return h != INVALID_HANDLE_VALUE;
+}
+
+texto sin_separador_final(texto t) {
+    while (!t.empty() && (t.back() == L'\\' || t.back() == L'/')) t.pop_back();
+    return t;
+}
+
+bool se_crea_en(const texto &raiz) {
+    const texto prueba = raiz + L"\\~nucleos" + std::to_wstring(GetCurrentProcessId());
+    return CreateDirectoryW(prueba.c_str(), nullptr) && RemoveDirectoryW(prueba.c_str());
+}
+
+// Grows the room until the call, which answers the length that it needs or has written, fits.
+template <class F>
+texto con_sitio(F llama) {
+    texto t(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD n = llama(t.data(), static_cast<DWORD>(t.size()));
+        if (n < t.size()) {
+            t.resize(n);
+            return t;
+        }
+        t.resize(n > t.size() ? n : t.size() * 2);
+    }
+}
+
+} // namespace
+
+bool es_enlace(const texto &ruta) {
+    const texto limpia = sin_separador_final(ruta);
+    if ((GetFileAttributesW(ruta_del_sistema(limpia).c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+        return false;
+    WIN32_FIND_DATAW d{};
+    HANDLE h = nullptr;
+    if (!busca(limpia, d, h)) return false;
+    FindClose(h);
+    return lleva_a_otro(d);
+}
+
+bool consulta(const texto &ruta, ficha &f) {
+    f = {};
+    WIN32_FILE_ATTRIBUTE_DATA d{};
+    if (!GetFileAttributesExW(ruta_del_sistema(ruta).c_str(), GetFileExInfoStandard, &d)) return false;
+    if ((d.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && es_enlace(ruta)) {
+        f.es_enlace = true;
+        return sigue_enlace(ruta, f);
+    }
+    copia(d, f);
+    return true;
+}
+
+struct recorrido::interior {
+    texto directorio;
+    HANDLE busqueda;
+    WIN32_FIND_DATAW dato;
+    bool pendiente;
+};
+
+recorrido::recorrido(const texto &directorio, bool) : interior_(std::make_unique<interior>()) {
+    interior_->directorio = directorio;
+    texto &d = interior_->directorio;
+    if (!d.empty() && d.back() != L'\\' && d.back() != L'/' && d.back() != L':') d += L'\\';
+    interior_->pendiente = busca(d + L"*", interior_->dato, interior_->busqueda);
+    // The root of an empty disk is a directory with nothing in it.
+    if (!interior_->pendiente && GetLastError() == ERROR_FILE_NOT_FOUND) interior_->busqueda = nullptr;
+}
+
+recorrido::~recorrido() {
+    if (interior_->busqueda != INVALID_HANDLE_VALUE && interior_->busqueda != nullptr)
+        FindClose(interior_->busqueda);
+}
+
+bool recorrido::abierto() const { return interior_->busqueda != INVALID_HANDLE_VALUE; }
+
+bool recorrido::siguiente(ficha &f) {
+    interior &i = *interior_;
+    while (i.pendiente) {
+        const WIN32_FIND_DATAW d = i.dato;
+        i.pendiente = FindNextFileW(i.busqueda, &i.dato) != 0;
+        const vista nombre = d.cFileName;
+        if (nombre == L"." || nombre == L"..") continue;
+        f = {};
+        copia(d, f);
+        if (lleva_a_otro(d)) {
+            const bool es_directorio = f.es_directorio;
+            f.es_enlace = true;
+            sigue_enlace(i.directorio + texto(nombre), f);
+            f.es_directorio = es_directorio;
+        }
+        f.nombre = nombre;
+        return true;
+    }
+    return false;
+}
+
+bool crea_directorio(const texto &ruta) {
+    const std::wstring r = ruta_del_sistema(ruta);
+    if (CreateDirectoryW(r.c_str(), nullptr)) return true;
+    const DWORD a = GetFileAttributesW(r.c_str());
+    return a != INVALID_FILE_ATTRIBUTES && (a & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+bool borra_directorio(const texto &ruta) { return RemoveDirectoryW(ruta_del_sistema(ruta).c_str()) != 0; }
+
+void quita_proteccion(const texto &fichero) {
+    const std::wstring r = ruta_del_sistema(fichero);
+    const DWORD a = GetFileAttributesW(r.c_str());
+    if (a != INVALID_FILE_ATTRIBUTES && (a & FILE_ATTRIBUTE_READONLY) != 0)
+        SetFileAttributesW(r.c_str(), a & ~FILE_ATTRIBUTE_READONLY);
+}
+
+bool puede_leer(const texto &fichero) { return abre(fichero, GENERIC_READ) != nullptr; }
+bool puede_escribir(const texto &fichero) { return abre(fichero, GENERIC_WRITE) != nullptr; }
+bool es_ejecutable(const texto &) { return true; }
+
+std::optional<texto> variable(const char *nombre) {
+    const std::wstring n(nombre, nombre + strlen(nombre));
+    texto v = con_sitio([&](LPWSTR p, DWORD k) { return GetEnvironmentVariableW(n.c_str(), p, k); });
+    if (v.empty()) return std::nullopt;
+    return v;
+}
+
+texto directorio_temporal() {
+    return sin_separador_final(con_sitio([](LPWSTR p, DWORD k) { return GetTempPathW(k, p); }));
+}
+
+texto ruta_del_programa() {
+    return con_sitio([](LPWSTR p, DWORD k) { return GetModuleFileNameW(nullptr, p, k); });
+}
+
+std::optional<texto> base_de_configuracion() {
+    if (auto v = variable("APPDATA")) return sin_separador_final(*v);
+    std::wstring sitio(MAX_PATH, L'\0');
+    if (FAILED(SHGetFolderPathW(nullptr, CSIDL_APPDATA | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT,
+                                sitio.data())))
+        return std::nullopt;
+    return sin_separador_final(texto(sitio.c_str()));
+}
+
+texto unidad_escribible() {
+    const texto programa = ruta_del_programa();
+    if (programa.size() > 2 && programa[1] == L':' && se_crea_en(programa.substr(0, 2)))
+        return programa.substr(0, 2);
+    const texto sistema = con_sitio([](LPWSTR p, DWORD k) { return GetWindowsDirectoryW(p, k); });
+    return sistema.size() > 1 && sistema[1] == L':' ? sistema.substr(0, 2) : texto(L"C:");
+}
+
+namespace {
+
+std::vector<texto> separados(const texto &todos) {
+    std::vector<texto> r;
+    const texto t = todos + L";";
+    for (size_t i = 0, j = 0; (j = t.find(L';', i)) != texto::npos; i = j + 1) {
+        texto uno = t.substr(i, j - i);
+        std::erase(uno, L'"');
+        if (!uno.empty()) r.push_back(uno);
+    }
+    return r;
+}
+
+} // namespace
+
+// As the system looks for a program: beside this one, in its own directories, then along the variable.
+std::vector<texto> directorios_de_programas() {
+    const texto programa = ruta_del_programa();
+    std::vector<texto> r{programa.substr(0, programa.find_last_of(L"\\/")),
+                         con_sitio([](LPWSTR p, DWORD k) { return GetSystemDirectoryW(p, k); }),
+                         con_sitio([](LPWSTR p, DWORD k) { return GetWindowsDirectoryW(p, k); })};
+    for (texto &d : separados(variable("PATH").value_or(texto()))) r.push_back(std::move(d));
+    return r;
+}
+
+std::vector<texto> terminaciones_de_programas() {
+    std::vector<texto> r{texto()};
+    for (texto &t : separados(variable("PATHEXT").value_or(texto(L".COM;.EXE;.BAT;.CMD"))))
+        r.push_back(std::move(t));
+    return r;
+}
+
+int64_t hora_local(int64_t utc, bool &verano) {
+    verano = false;
+    const int64_t pasos = utc * 10000000 + 116444736000000000;
+    FILETIME t{static_cast<DWORD>(pasos & 0xFFFFFFFF), static_cast<DWORD>(pasos >> 32)}, aqui{};
+    SYSTEMTIME s{}, local{};
+    TIME_ZONE_INFORMATION zona{};
+    if (pasos < 0 || !FileTimeToSystemTime(&t, &s) || !SystemTimeToTzSpecificLocalTime(nullptr, &s, &local) ||
+        !SystemTimeToFileTime(&local, &aqui))
+        return utc;
+    const int64_t diferencia = segundos(aqui) - utc;
+    if (GetTimeZoneInformation(&zona) != TIME_ZONE_ID_INVALID && zona.DaylightDate.wMonth != 0)
+        verano = diferencia == -60 * static_cast<int64_t>(zona.Bias + zona.DaylightBias) &&
+                 zona.DaylightBias != zona.StandardBias;
+    return utc + diferencia;
+}
+
+} // namespace vn::plat

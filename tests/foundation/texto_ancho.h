@@ -1,0 +1,40 @@
+// Wide results of the library as UTF-8 text, and paths as a test writes them.
+#pragma once
+
+#include "foundation/arr.h"
+#include "foundation/vornspy.h"
+#include "prueba.h"
+#include <algorithm>
+#include <filesystem>
+
+namespace vn {
+
+constexpr bool EN_WINDOWS = std::filesystem::path::preferred_separator == '\\';
+
+// Takes over a text that an operation returned.
+inline std::string toma(vnwchar *t) {
+    const std::string r = t != nullptr ? utf8_de(t) : "(null)";
+    if (t != nullptr) vornspy_free_pp(&t, 1);
+    return r;
+}
+inline std::string toma(char *t) {
+    const std::string r = t != nullptr ? t : "(null)";
+    if (t != nullptr) vornspy_free_pp(&t, 1);
+    return r;
+}
+// Takes over a list, as one line: "a|b|c".
+inline std::string toma(arrCADENA_u *a) {
+    std::string r;
+    for (uint32_t i = 0; i < arr_NumElemsCADENA_u(a); ++i)
+        r += (i > 0 ? "|" : "") + utf8_de(arr_GetCADENA_u(a, i));
+    arr_DestruyeCADENA_u(&a);
+    return r;
+}
+// The path with the platform's separators.
+inline std::string propia(std::string ruta) {
+    std::replace_if(
+        ruta.begin(), ruta.end(), [](char c) { return c == '\\' || c == '/'; }, EN_WINDOWS ? '\\' : '/');
+    return ruta;
+}
+
+} // namespace vn
