@@ -186,6 +186,7 @@ void barredor::prepara(const indices &cuales, std::vector<argumento> &args, std:
         }
         args[i].bytes = elementos * p.tamanyo;
         d[i].p = args[i].bloque = reserva_bloque(args[i].bytes);
+        for (size_t k = 0; p.lleno && k < args[i].bytes; k += p.tamanyo) static_cast<char *>(d[i].p)[k] = 'a';
     }
 }
 

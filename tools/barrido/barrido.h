@@ -56,6 +56,7 @@ struct parametro {
     int longitud_de = -1;         // bufer: the argument that is its number of elements
     size_t elementos = 1;         // bufer: their number where no argument says it
     size_t tamanyo = 1;           // bufer, copia: bytes of an element
+    bool lleno = false;           // bufer: of letters rather than of zeros
 };
 using parametros = std::vector<parametro>;
 
@@ -68,7 +69,7 @@ struct operacion {
     const char *deja_pasar;   // parameter and value that it is documented to accept, "name=value", or null
 };
 
-enum opcion : unsigned { EXIGE = 0, OPCIONAL = 1, CONSUME = 2, HUECO_OPCIONAL = 4, HUECO_VACIO = 8, DEJA_HUECO_NULO = 16 };
+enum opcion : unsigned { EXIGE = 0, OPCIONAL = 1, CONSUME = 2, HUECO_OPCIONAL = 4, HUECO_VACIO = 8, LLENO = 16 };
 
 // ---------------------------------------------------------------- kinds of parameter
 

@@ -86,6 +86,22 @@ inline vnwchar *nuevo_texto_u() {
 }
 inline void *nuevo_bloque() { return vornspy_calloc(8, 8); }
 
+// Frees a list of texts with them, as many as its block holds.
+inline void destruye_lista(void *lista) {
+    struct busca {
+        const void *p;
+        size_t bytes;
+    } b{lista, 0};
+    vornspy_recorre_bloques_vivos(
+        [](const void *p, size_t tamanyo, const char *, uint32_t, void *datos) {
+            if (auto *de = static_cast<busca *>(datos); de->p == p) de->bytes = tamanyo;
+        },
+        &b);
+    for (size_t i = 0; i < b.bytes / sizeof(void *); ++i)
+        if (void *&texto = static_cast<void **>(lista)[i]; texto != nullptr) vornspy_free_pp(&texto, 1);
+    vornspy_free_pp(&lista, sizeof(void *));
+}
+
 // ---------------------------------------------------------------- streams and what stands on them
 
 inline vnfichero *flujo_binario() { return f_lc_fopen_seguro_u(VNU("flujo.bin"), VNU("r+b"), "barrido", 0); }

@@ -104,6 +104,8 @@ class Generador:
             cuanto = p.anotaciones["longitud"][0]
             es_parametro = any(q.nombre == cuanto for q in f.parametros)
             medida = "1" if a.kind == TypeKind.VOID else f"sizeof({t})"
+            if fijo and t in TEXTOS:
+                o += " | LLENO"
             return f"bufer({n}, {medida}, {'1' if es_parametro else cuanto}, {indice_de(f, cuanto) if es_parametro else -1}, {o})"
         if p.tiene("formato"):
             return f"formato{'_u' if t == 'vnwchar' else ''}({n})"

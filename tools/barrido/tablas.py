@@ -23,14 +23,15 @@ MANEJOS = [
     ("dirwin", r"", "dirwin_crea_UNICODE(VNU(\"./*\"))", "dirwin_destruye_UNICODE(&p)", 0),
     ("vnmutex", r"", "vnmutex_crea(\"barrido\")", "vnmutex_destruye_saliendo(&p)", 0),
     ("vncallback", r"", "callback_nousar_crea(con_parametros, nullptr)", "callback_nousar_destruye(&p)", 0),
-    ("vnparametros", r"", "vornspy_parametro(2, 4, 1, 4, 2)", "vornspy_destruye_parametros(&p)", 2),
+    ("vnparametros", r"", "vornspy_parametro(2, 8, static_cast<void *>(nullptr), 4, 2)", "vornspy_destruye_parametros(&p)", 2),
     ("vornsave", r"", "protocolo()", "destruye_protocolo(p)", 0),
     # Owned texts and blocks.
     ("char", r"", "nuevo_texto()", "vornspy_free_pp(&p, 1)", 0),
     ("vnwchar", r"", "nuevo_texto_u()", "vornspy_free_pp(&p, sizeof(vnwchar))", 0),
     (r"(?:unsigned char|uint8_t|void|double|Punto2D|vnbool|float|u?int\d+_t)", r"", "nuevo_bloque()",
      "vornspy_free_pp(&p, 1)", 0),
-    (r"(?:char|vnwchar) \*", r"", "nuevo_bloque()", "vornspy_free_pp(&p, 1)", 0),
+    # A list of texts.
+    (r"(?:char|vnwchar) \*", r"", "nuevo_bloque()", "destruye_lista(p)", 0),
 ]
 
 # Types that are only declared so far: no object of theirs can exist, an address stands for one.
@@ -39,7 +40,7 @@ SIN_OBJETOS = {"idxdatos", "insocket"}
 # Record -> a good value of it. One that is not here and has only numbers is all zero.
 REGISTROS = {
     "vnoperaciones_fichero": "*operaciones_fichero_del_sistema()",
-    "dirwin_dato": "dirwin_dato{}",
+    "tm": "tm{}",  # a platform's may have pointers
     "fichmem": None,  # through its factory
 }
 
@@ -61,6 +62,9 @@ PARAMETROS = [
     # The address of a pointer of any type.
     (r"vornspy_nousar_(free_pp|asigna_doble_puntero_no_null)", r"p", "hueco({n}, fab_void, EXIGE)"),
     (r"vornspy_nousar_(asigna_doble_puntero|destruye_puntero_opcional)", r"p", "hueco({n}, fab_void, HUECO_OPCIONAL)"),
+    (r"widestr_fun_destruye", r"s", "hueco({n}, fab_void, EXIGE)"),
+    # The list that the factory makes has eight.
+    (r"\w+_destruyeListaCadenas", r"n", "enteros({n}, {{8, 0, 3}})"),
     # The address of a variable that lives until the exit.
     (r"alsalir_.*", r"cadena|dato", "direccion_fija({n}, EXIGE)"),
     (r"apunorde_nousar_(inserta_original|existe_elemento)", r"p", "direccion_fija({n}, EXIGE)"),
@@ -69,8 +73,12 @@ PARAMETROS = [
     (r"f_lc_f(read|write).*|lc_quedan", r"tamanyo|numero", "enteros({n}, {{1, 0, 3, 16}})"),
     (r"vornspy_(nousar_calloc|reserva_seguro)", r"num|tamanyo", "enteros({n}, {{1, 0, 3, 1000}})"),
     (r"vornspy_parametro", r"n", "enteros({n}, {{1, 3, 16}})"),
+    (r"vornspy_parametro_\w+", r"i", "enteros({n}, {{0, 1, 2, 4294967295}})"),
+    (r"arr_AumentaTamanyoBIT", r"n", "enteros({n}, {{8, 3, 2, 0, 1000000}})"),
     # Texts of a form.
+    (r"f_lc_fopen_modo_escritura_u", r"modo", 'textos_u({n}, {{u"w", u"r", u"r+b", u"", u"%s"}})'),
     (r".*", r"modo", 'modo_de_abrir<{t}>({n})'),
+    (r"vornstrhex_.*", r"texto", 'textos({n}, {{"6162", "", "6", "zz", "0g", "%s"}})'),
     (r".*", r"patron", 'patron_de_ficheros<{t}>({n})'),
     # Names of files and directories.
     (r".*", r"nomfich|fichero|nombre_fichero|nombre_fichero_obra|ruta|rutas?_\w+|path|path_\w+|directorio|obra", "fichero<{t}>"),

@@ -204,7 +204,7 @@ parametro hueco(const char *nombre, const fabrica &f, unsigned opciones) {
         p.valores = {vacio};
     } else {
         p.valores = {lleno};
-        if (!(opciones & DEJA_HUECO_NULO)) p.valores.push_back(vacio);
+        p.valores.push_back(vacio);
     }
     pon_nulo(p, opciones);
     p.consume = true;
@@ -218,6 +218,7 @@ parametro bufer(const char *nombre, size_t tamanyo, size_t elementos, int longit
     p.tamanyo = tamanyo;
     p.elementos = elementos;
     p.longitud_de = longitud_de;
+    p.lleno = (opciones & LLENO) != 0;
     return p;
 }
 
