@@ -1,6 +1,8 @@
 #define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/arr.h"
 #include "foundation/arreglo_priv.h"
+#include "foundation/cad.h"
+#include "foundation/widestr.h"
 
 // The operations of both widths, one expansion each; arr.h spells their names.
 
@@ -9,6 +11,8 @@ struct arrCADENA_u : vn::arreglo<vnwchar *> {};
 
 namespace {
 
+bool iguales_may_o_min(const char *a, const char *b) { return cad_cadenas_iguales_may_o_min(a, b) == CIERTO; }
+bool iguales_may_o_min(const vnwchar *a, const vnwchar *b) { return widestr_cadenas_iguales_may_o_min(a, b) == CIERTO; }
 
 template <class A>
 using caracter = std::remove_pointer_t<typename A::elemento>;
@@ -89,6 +93,12 @@ vnbool existe(const A *a, const caracter<A> *s, uint32_t *pos) {
     return vn::existe(a, pos, 0, [t = std::basic_string_view<C>(s)](const C *e) { return e != nullptr && t == e; });
 }
 
+template <class A>
+vnbool existe_may_o_min(const A *a, const caracter<A> *s, uint32_t *pos) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
+    return vn::existe(a, pos, 0, [s](const caracter<A> *e) { return e != nullptr && iguales_may_o_min(e, s); });
+}
+
 } // namespace
 
 #define FAMILIA(S, C, ORIGINAL)                                                                                        \
@@ -133,6 +143,7 @@ vnbool existe(const A *a, const caracter<A> *s, uint32_t *pos) {
         return pos;                                                                                                    \
     }                                                                                                                  \
     vnbool arr_Existe##S(const arr##S *a, const C *s, uint32_t *pos) { return existe(a, s, pos); }                     \
+    vnbool arr_ExisteMayMin##S(const arr##S *a, const C *s, uint32_t *pos) { return existe_may_o_min(a, s, pos); }     \
     const C *const *arr_GetBufferConst##S(const arr##S *a) { return vn::bloque_de(a); }                                \
     void nousar_Recorre##S(const arr##S *a, void (*funcion)(const C *, void *), void *datos, const char *, uint32_t) { \
         if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(funcion)) return;                                                    \

@@ -1,7 +1,9 @@
 #define VN_MODULO "apunorde_test"
 #include "foundation/apunorde.h"
 #include "prueba.h"
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -81,5 +83,39 @@ PRUEBA(apunorde, sin_destructor_los_elementos_no_son_suyos) {
         a, nullptr);
     EXPECT_EQ(bien, FALSO);
     EXPECT_EQ(apunorde_numelems(a, nudo), 2u);
+    apunorde_destruye(&a, nudo);
+}
+
+PRUEBA(apunorde, mezclando_operaciones_es_un_vector_ordenado) {
+    double tolerancia = 0;
+    apunorde *a = apunorde_crea(nudo, double, compara, &tolerancia, destruye);
+    std::vector<double> modelo;
+    uint32_t azar = 12345;
+    const auto siguiente = [&azar](uint32_t n) { return (azar = azar * 1664525u + 1013904223u) / 65536u % n; };
+    for (int paso = 0; paso < 20000; ++paso) {
+        const double x = siguiente(3000);
+        const auto sitio = std::ranges::lower_bound(modelo, x);
+        const bool esta = sitio != modelo.end() && *sitio == x;
+        const auto indice = static_cast<uint32_t>(sitio - modelo.begin());
+        uint32_t pos = 0;
+        ASSERT_EQ(apunorde_existe(a, &x, double, nudo, compara_clave, &pos) == CIERTO, esta);
+        ASSERT_EQ(pos, indice);
+        if (!esta) {
+            apunorde_inserta_original(a, nuevo(x), nudo, &pos);
+            ASSERT_EQ(pos, indice);
+            modelo.insert(sitio, x);
+        } else if (siguiente(8) == 0) {
+            nudo *n = apunorde_quita(a, indice, nudo);
+            ASSERT_EQ(n->x, x);
+            destruye(&n);
+            modelo.erase(sitio);
+        }
+        ASSERT_EQ(apunorde_numelems(a, nudo), modelo.size());
+        if (siguiente(50) == 0 && !modelo.empty()) {
+            const uint32_t i = siguiente(static_cast<uint32_t>(modelo.size()));
+            ASSERT_EQ(apunorde_get(a, i, nudo)->x, modelo[i]);
+        }
+    }
+    for (uint32_t i = 0; i < modelo.size(); ++i) ASSERT_EQ(apunorde_get(a, i, nudo)->x, modelo[i]);
     apunorde_destruye(&a, nudo);
 }

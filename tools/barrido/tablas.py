@@ -104,6 +104,7 @@ PRESTADOS = [
 RETIENE = [
     (r"alsalir_.*|nousar_atexit_anade", "the registry keeps it until the exit"),
     (r"contexto_dentroDeContexto_u", "the thread stays inside"),
+    (r"vtxt_trata_cadena\w*", "reading stores a new text; what the owner held before is the caller's still"),
 ]
 
 # Broken values that the documentation accepts: operation, parameter, value.
