@@ -39,6 +39,12 @@ template <class C> C *copia(vista<C> v, quien q) {
 
 template <class C> void destruye(C **s) { vornspy_nousar_free_pp(s, sizeof(C)); }
 
+// Holds a text while something may still report, inside a trap.
+struct libera {
+    template <class C> void operator()(C *s) const { destruye(&s); }
+};
+template <class C> using propio = std::unique_ptr<C, libera>;
+
 // The steps and the letter case of a width. Steps are whole characters of the ANSI page, single units of wide text.
 template <class C> struct juego;
 template <> struct juego<char> {
@@ -119,11 +125,16 @@ template <class C> vista<C> sin_blancos_detras(vista<C> s) {
     return s.substr(0, n);
 }
 
+// Whether `p` leads into the text, its terminator included.
+template <class C> bool esta_dentro(vista<C> s, const C *p) {
+    const std::less_equal<const C *> antes;
+    return antes(s.data(), p) && antes(p, s.data() + s.size());
+}
+
 // Makes `*s` longer by `t`, at its beginning or end. `t` may lie in `*s`.
 template <class C> void alarga(C **s, vista<C> t, bool delante, quien q) {
     const size_t n = std::char_traits<C>::length(*s);
-    const std::less_equal<const C *> antes;
-    const bool dentro = antes(*s, t.data()) && antes(t.data(), *s + n);
+    const bool dentro = esta_dentro(vista<C>(*s, n), t.data());
     const size_t desde = dentro ? static_cast<size_t>(t.data() - *s) : 0;
     *s = static_cast<C *>(vornspy_nousar_realloc(*s, (n + t.size() + 1) * sizeof(C), q.modulo, q.linea));
     if (delante) {
@@ -144,16 +155,14 @@ template <class C> void deja(C *s, vista<C> v) {
 template <class C> void suprime(C *s, vista<C> t) {
     if (t.empty()) return;
     const vista<C> v(s);
-    size_t i = busca(v, t, 0, false);
-    if (i == NO_ESTA) return;
-    // What is searched for may lie in the text that changes.
-    const std::basic_string<C> buscado(t);
+    std::basic_string<C> guardado;
+    if (esta_dentro(v, t.data())) t = guardado = t; // the text that changes
     C *donde = s;
     size_t desde = 0;
-    for (; i != NO_ESTA; i = busca(v, vista<C>(buscado), desde, false)) {
+    for (size_t i = busca(v, t, 0, false); i != NO_ESTA; i = busca(v, t, desde, false)) {
         std::char_traits<C>::move(donde, s + desde, i - desde);
         donde += i - desde;
-        desde = i + buscado.size();
+        desde = i + t.size();
     }
     std::char_traits<C>::move(donde, s + desde, v.size() - desde + 1);
 }
@@ -171,7 +180,8 @@ template <class C> void reemplaza(C **s, vista<C> a, vista<C> b, quien q) {
     size_t veces = 0;
     for (size_t i = busca(v, a, 0, false); i != NO_ESTA; i = busca(v, a, i + a.size(), false)) ++veces;
     if (veces == 0) return;
-    C *n = nuevo<C>(v.size() - veces * a.size() + veces * b.size(), q), *p = n;
+    propio<C> n(nuevo<C>(v.size() - veces * a.size() + veces * b.size(), q));
+    C *p = n.get();
     const auto pon = [&p](vista<C> trozo) {
         std::char_traits<C>::copy(p, trozo.data(), trozo.size());
         p += trozo.size();
@@ -184,7 +194,7 @@ template <class C> void reemplaza(C **s, vista<C> a, vista<C> b, quien q) {
     }
     pon(v.substr(desde));
     destruye(s);
-    *s = n;
+    *s = n.release();
 }
 
 // Calls `con` with each piece of `s` between the units that `separa` says; returns how many.
@@ -214,18 +224,12 @@ template <class C> void destruye_lista(uint32_t n, C ***lista) {
 
 template <class C, class S> uint32_t lista(vista<C> s, S separa, C ***destino, quien q) {
     const uint32_t n = trocea(s, separa, [](vista<C>) {});
-    // Held until it is whole: memory may run out inside a trap.
-    struct guarda {
-        uint32_t n;
-        C **lista;
-        ~guarda() {
-            if (lista != nullptr) destruye_lista(n, &lista);
-        }
-    } g{n, static_cast<C **>(vornspy_nousar_calloc(n, sizeof(C *), q.modulo, q.linea))};
-    uint32_t i = 0;
-    trocea(s, separa, [&](vista<C> trozo) { g.lista[i++] = copia(trozo, q); });
-    *destino = g.lista;
-    g.lista = nullptr;
+    const auto libera_lista = [n](C **l) { destruye_lista(n, &l); };
+    std::unique_ptr<C *, decltype(libera_lista)> l(
+        static_cast<C **>(vornspy_nousar_calloc(n, sizeof(C *), q.modulo, q.linea)), libera_lista);
+    C **p = l.get();
+    trocea(s, separa, [&](vista<C> trozo) { *p++ = copia(trozo, q); });
+    *destino = l.release();
     return n;
 }
 
@@ -249,19 +253,9 @@ template <class C> int compara(vista<C> a, vista<C> b) {
 
 // A text of known length that ought to hold no zero; `sin_ceros` reports when it does.
 template <class C, class F> C *de_unidades(const C *str, uint32_t len, quien q, F sin_ceros) {
-    C *s = copia(vista<C>(str, len), q);
-    const bool iguales_longitudes = std::char_traits<C>::length(s) == len;
-    if (!iguales_longitudes) {
-        struct guarda {
-            C *s;
-            ~guarda() {
-                if (s != nullptr) destruye(&s);
-            }
-        } g{s};
-        sin_ceros();
-        g.s = nullptr;
-    }
-    return s;
+    propio<C> s(copia(vista<C>(str, len), q));
+    if (std::char_traits<C>::length(s.get()) != len) sin_ceros();
+    return s.release();
 }
 
 } // namespace vn::texto

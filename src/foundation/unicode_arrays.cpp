@@ -56,9 +56,9 @@ arrCADENA_u *utunicode_cadenas_ANSI_a_UNICODE(const arrCADENA *a) {
 
 arrCADENA_u *utunicode_cadenas_ANSI_a_UNICODE_destruyendo(arrCADENA **a) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(*a)) return nullptr;
-    arrCADENA_u *r = ancha(*a, unicode_convierte_ANSI_a_UNICODE);
+    std::unique_ptr<arrCADENA_u, libera> r(ancha(*a, unicode_convierte_ANSI_a_UNICODE));
     arr_DestruyeCADENA(a);
-    return r;
+    return r.release();
 }
 
 arrCADENA *utunicode_cadenas_UNICODE_a_ANSI(const arrCADENA_u *a) {
@@ -68,16 +68,16 @@ arrCADENA *utunicode_cadenas_UNICODE_a_ANSI(const arrCADENA_u *a) {
 
 arrCADENA *utunicode_cadenas_UNICODE_a_ANSI_destruyendo(arrCADENA_u **a) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(*a)) return nullptr;
-    arrCADENA *r = estrecha(*a, unicode_UNICODE_a_ANSI);
+    std::unique_ptr<arrCADENA, libera> r(estrecha(*a, unicode_UNICODE_a_ANSI));
     arr_DestruyeCADENA_u(a);
-    return r;
+    return r.release();
 }
 
 arrCADENA_u *utunicode_cadenas_UTF8_a_UNICODE_destruyendo(arrCADENA **a) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(*a)) return nullptr;
-    arrCADENA_u *r = ancha(*a, unicode_convierte_UTF8_a_UNICODE);
+    std::unique_ptr<arrCADENA_u, libera> r(ancha(*a, unicode_convierte_UTF8_a_UNICODE));
     arr_DestruyeCADENA(a);
-    return r;
+    return r.release();
 }
 
 void utunicode_destruye_cadenas_UNICODE(arrCADENA_u **a) {

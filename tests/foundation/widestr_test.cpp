@@ -1,5 +1,6 @@
 #define VN_MODULO "widestr_test"
 #include "foundation/widestr.h"
+#include "foundation/cad.h"
 #include "foundation/unicode.h"
 #include "prueba.h"
 
@@ -140,4 +141,41 @@ PRUEBA(widestr, mapas_de_letras_iguales_en_todas_partes) {
     digiere(tras(utf8.c_str(), [](vnwchar *s) { widestr_convertir_a_minusculas(s); }));
     digiere(tras(utf8.c_str(), [](vnwchar *s) { widestr_convertir_cadena_sin_acentos(s); }));
     EXPECT_EQ(h, 9815241886362381049u);
+}
+
+// Each allocation of each of these fails in its turn, inside a trap: nothing is lost and no text is left half changed.
+PRUEBA(widestr, sin_memoria_no_se_pierde_nada) {
+    using operacion = void (*)(vnwchar **);
+    const operacion operaciones[] = {
+        [](vnwchar **s) { widestr_concatena(s, VNU("0123456789012345678901234567890123456789")); },
+        [](vnwchar **s) { widestr_inserta_al_principio(s, *s); },
+        [](vnwchar **s) { widestr_reemplaza_todas_cadenas(s, VNU("a"), VNU("aaaa")); },
+        [](vnwchar **s) {
+            vnwchar **lista = nullptr;
+            const uint32_t n = widestr_lista_de_subcadenas_un_separador(*s, ',', &lista);
+            widestr_destruyeListaCadenas(n, &lista);
+        },
+        [](vnwchar **s) {
+            char *ansi = utunicode_UNICODE_a_ANSI_destruyendo(s);
+            *s = utunicode_ANSI_a_UNICODE_destruyendo_p(ansi);
+        },
+        [](vnwchar **s) {
+            vnwchar *t = copiaforu_formatea(VNU("%s%900d"), *s, 1);
+            widestr_destruye(&t);
+        },
+    };
+    for (const operacion &o : operaciones)
+        for (int falla = 0; falla < 8; ++falla) {
+            struct caso {
+                operacion o;
+                vnwchar *s;
+                int quedan;
+            } c{o, nueva("a,b,a,c"), falla};
+            vornspy_instala_permiso([](size_t, void *d) { return static_cast<vnbool>(static_cast<caso *>(d)->quedan-- != 0); }, &c);
+            const vnbool ido = trapable_ejecuta_funcion_segura(caso, [](caso *d) { d->o(&d->s); }, &c, nullptr);
+            vornspy_instala_permiso(nullptr, nullptr);
+            EXPECT_TRUE(ido == CIERTO || c.s == nullptr || utf8_de(c.s) == "a,b,a,c");
+            toma_informes();
+            widestr_destruye_opcional(&c.s);
+        }
 }
