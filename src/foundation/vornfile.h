@@ -11,7 +11,8 @@ VN_C_INICIO
     was becomes the safety copy, one rename replaces, and the directory is flushed. CIERTO only when the new content is
     in place and on the disk. A failure is reported as "lc_error_escribiendo_fichero" with the name `destino`, which
     then has its old content still (the new one if only the last flush, the directory's, failed), and the temporary is
-    removed. Not to be called when a write, a flush or the close of the temporary has failed. */
+    removed. A file that may not be written, or that has an only writer (f_lc_fopen_modo_escritura_u), is not replaced.
+    Not to be called when a write, a flush or the close of the temporary has failed. */
 vnbool vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(const vnwchar *destino,
                                                                             const vnwchar *temporal);
 /** Opens a temporary beside `nombre` (the name with "_TM$" appended, overwritten if one was left) for binary writing;
