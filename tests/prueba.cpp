@@ -1,5 +1,6 @@
 #include "prueba.h"
 #include "plataforma/proceso.h"
+#include "foundation/msglocal.h"
 #include "foundation/vnatexit.h"
 #include <atomic>
 #include <cstdio>
@@ -133,6 +134,7 @@ const std::string &Prueba::directorio() {
 }
 
 void Prueba::SetUp() {
+    msidioma_establece_idioma(0); // Spanish, whatever the user's language
     error_interno_instala_receptor(anota_informe, nullptr);
     avisos_instala_receptor(anota_aviso, nullptr);
     responde(FALSO);

@@ -2,8 +2,8 @@
 
    A stream belongs to one thread at a time. It remembers its first failure (lc_ha_fallado). Reading and writing may
    alternate freely on a stream opened for both. A mode is "r", "w" or "a" (at the end), then any of "+" (both ways),
-   "b" and "t", in any order; without "b" it is text, which differs on Windows alone: there a line ends in CR LF in the file
-   and in LF for the program. No byte is taken for the end of a file. Positions count the bytes of the file. */
+   "b" and "t", in any order; without "b" it is text, which differs on Windows alone: there a line ends in CR LF in the
+   file and in LF for the program. No byte is taken for the end of a file. Positions count the bytes of the file. */
 #ifndef VN_LC_FICHERO_H
 #define VN_LC_FICHERO_H
 
@@ -120,7 +120,8 @@ const vnwchar *lc_nombre_fichero(const vnfichero *f);
 /** Locks a zone of the file: `modo` is VN_ZONA_EXCLUSIVA or VN_ZONA_COMPARTIDA, plus VN_ZONA_ESPERA to wait; FALSO when
     another stream, of this or another process, holds part of it or it cannot be done. The zone may lie beyond the end.
     What is read afterwards is read from the file anew. An exclusive lock needs a stream that writes, a shared one a
-    stream that reads. */
+    stream that reads. On Windows others can neither read nor write what is locked against them; elsewhere they are
+    only refused the lock. */
 vnbool lc_bloquea_zona_fichero(vnfichero *f, VN_RANGO(0, 9223372036854775807) int64_t inicio,
                                VN_RANGO(1, 4294967295) uint32_t tamanyo, VN_RANGO(0, 3) uint32_t modo);
 /** Unlocks a zone that was locked with this very start and size, having handed to the system what was written. */

@@ -7,8 +7,8 @@
 
 // The buffer holds the bytes of the file from `base` on. Reading, those up to `fin` are valid, and the window is the
 // whole of the rest or, in text, ends at the next CR. Writing, those up to `fin` or `pos`, whichever lies further, are
-// not yet in the file, and the window is all the room there is (none in text that is translated). Neither: it is empty, and
-// `base` is the position.
+// not yet in the file, and the window is all the room there is (none in text that is translated). Neither: it is empty,
+// and `base` is the position.
 struct vnfichero {
     vnfichero_ventana v;
     unsigned char *buffer;

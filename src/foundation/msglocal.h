@@ -29,7 +29,7 @@ typedef void (*vnfunc_mensaje)(vnmensaje *mensaje);
 VN_C_INICIO
 
 /** The message in the active language, without its id. Borrowed: valid until the process ends (a decoded "FFFF" text of
-    the ANSI reader: until the exit list runs). A column without text gives the Spanish one, or an empty text when there is
+    the ANSI reader: until the exit list runs). Empty if `rellena` is null. A column without text gives the Spanish one, or an empty text when there is
     none; a text that lacks the id is given whole; a badly coded "FFFF" text is given as it stands. */
 const vnwchar *nousar_msglocal_original_u(vnfunc_mensaje rellena);
 const char *nousar_msglocal_original(vnfunc_mensaje rellena);
@@ -37,7 +37,7 @@ const char *nousar_msglocal_original(vnfunc_mensaje rellena);
 const vnwchar *nousar_original_u(vnfunc_mensaje rellena);
 const char *nousar_original(vnfunc_mensaje rellena);
 /** The message in the active language, formatted with the arguments that follow (a wide `%s` takes wide text). The
-    text is new and the caller's. */
+    text is new and the caller's; null if `rellena` is null. */
 vnwchar *textomsgu_obtener_mensaje(vnfunc_mensaje rellena, ...);
 
 /** The active language's index: 0 Spanish, 1 French, 2 Portuguese of Brazil, 3 Catalan, 4 Italian, 5 Portuguese of
@@ -48,7 +48,7 @@ vnwchar *textomsgu_obtener_mensaje(vnfunc_mensaje rellena, ...);
 int msidioma_dame_idioma(void);
 /** Sets the active language, process-wide. An index that is none is reported and changes nothing. */
 void msidioma_establece_idioma(VN_RANGO(0, 40) int idioma);
-/** Whether the active language shows English. */
+/** Whether the active language is English (8). */
 vnbool msidioma_es_idioma_ingles(void);
 
 VN_C_FIN

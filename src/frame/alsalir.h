@@ -6,8 +6,9 @@
 
 VN_C_INICIO
 
-/** At exit the text that `*cadena` then leads to is destroyed and `*cadena` is left null; null is passed over. `cadena` is
-    the address of a variable that lives until then. Registering it twice destroys it once. */
+/** At exit the text that `*cadena` then leads to is destroyed and `*cadena` is left null; null, and a text that is gone
+    already, are passed over. `cadena` is the address of a variable that lives until then. Registering it twice destroys
+    the text once. */
 void alsalir_nousar_destruye_cadena(VN_OPC char **cadena, VN_OPC const char *modulo, uint32_t linea);
 void alsalir_nousar_destruye_cadena_u(VN_OPC vnwchar **cadena, VN_OPC const char *modulo, uint32_t linea);
 /** At exit `funcDestruyeDato(dato)` is called if the block that `*dato` then leads to is alive; one that its owner has

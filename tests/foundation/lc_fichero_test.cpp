@@ -1,5 +1,6 @@
 #include "foundation/fichmem.h"
 #include "foundation/lc_fichero.h"
+#include "foundation/vornfile.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
 #include <algorithm>
@@ -425,4 +426,32 @@ PRUEBA(lc_fichero, a_failure_inside_a_trap_unwinds) {
     trapable_ejecuta_funcion_segura(
         vnfichero, +[](vnfichero *h) { lc_fclose(h); }, g, &resultado);
     EXPECT_EQ(resultado, FALSO);
+}
+
+// The ANSI names and modes of all modules, with a letter that is another byte in each encoding.
+PRUEBA(lc_fichero, ansi_names_and_old_text) {
+    const std::string corto = directorio() + "/a\xF1o", ancho_utf8 = directorio() + "/a\u00F1o";
+    vnfichero *f = lc_fopen(corto.c_str(), "wb");
+    ASSERT_NE(f, nullptr);
+    EXPECT_EQ(utf8_de(lc_nombre_fichero(f)), ancho_utf8);
+    lc_fwrite("a\xA4o\0\xA0", 1, 5, f);
+    EXPECT_EQ(lc_fclose(f), CIERTO);
+    for (const uint16_t version : {uint16_t{3}, uint16_t{4}}) {
+        char b[5];
+        f = version == 3 ? f_lc_fopen_seguro(corto.c_str(), "rb", VN_AQUI)
+                         : f_lc_fopen_en_varios_intentos(corto.c_str(), "rb", VN_AQUI);
+        EXPECT_EQ(f_lc_fread_ansi_ascii(b, 1, 5, f, version, 3, VN_AQUI), 5u);
+        EXPECT_EQ(std::string(b, 5), version == 3 ? std::string("a\xF1o\0\xE1", 5) : std::string("a\xA4o\0\xA0", 5));
+        EXPECT_EQ(lc_fclose(f), CIERTO);
+    }
+    fichmem *m = fichmem_lee(corto.c_str());
+    EXPECT_EQ(m->longitud, 5u);
+    fichmem_destruye(&m);
+    f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar(corto.c_str());
+    lc_fwrite("x", 1, 1, f);
+    EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar(f, corto.c_str()), CIERTO);
+    EXPECT_EQ(vf_copyfile_seguro(corto.c_str(), (corto + "2").c_str()), CIERTO);
+    EXPECT_EQ(lee_fichero(ancho_utf8 + "2"), "x");
+    EXPECT_EQ(lee_fichero(ancho_utf8 + ".bak").size(), 5u);
+    EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", lc_fopen((corto + "3").c_str(), "rb")), nullptr);
 }

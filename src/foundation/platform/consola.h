@@ -1,4 +1,4 @@
-// The process's error stream, and what the platform remembers of its last error.
+// The process's error stream and standard output, and what the platform remembers of its last error.
 #pragma once
 
 #include <cstddef>
@@ -7,6 +7,8 @@ namespace vn::plat {
 
 // Writes the bytes to the error stream at once; failures are ignored. Allocates nothing.
 void escribe_error(const char *utf8, size_t n);
+// The same to the standard output.
+void escribe_salida(const char *utf8, size_t n);
 
 // Keeps errno and the platform's last error over its life.
 class guarda_error {

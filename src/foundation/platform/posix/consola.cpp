@@ -4,15 +4,20 @@
 
 namespace vn::plat {
 
-void escribe_error(const char *utf8, size_t n) {
+namespace {
+void escribe(int salida, const char *utf8, size_t n) {
     while (n > 0) {
-        const ssize_t k = ::write(STDERR_FILENO, utf8, n);
+        const ssize_t k = ::write(salida, utf8, n);
         if (k < 0 && errno == EINTR) continue;
         if (k <= 0) return;
         utf8 += k;
         n -= static_cast<size_t>(k);
     }
 }
+} // namespace
+
+void escribe_error(const char *utf8, size_t n) { escribe(STDERR_FILENO, utf8, n); }
+void escribe_salida(const char *utf8, size_t n) { escribe(STDOUT_FILENO, utf8, n); }
 
 guarda_error::guarda_error() : errno_(errno), ultimo_(0) {}
 guarda_error::~guarda_error() { errno = errno_; }

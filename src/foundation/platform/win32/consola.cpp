@@ -4,12 +4,17 @@
 
 namespace vn::plat {
 
-void escribe_error(const char *utf8, size_t n) {
-    const HANDLE salida = GetStdHandle(STD_ERROR_HANDLE);
+namespace {
+void escribe(DWORD cual, const char *utf8, size_t n) {
+    const HANDLE salida = GetStdHandle(cual);
     if (salida == nullptr || salida == INVALID_HANDLE_VALUE) return;
     DWORD escritos = 0;
     WriteFile(salida, utf8, static_cast<DWORD>(n), &escritos, nullptr);
 }
+} // namespace
+
+void escribe_error(const char *utf8, size_t n) { escribe(STD_ERROR_HANDLE, utf8, n); }
+void escribe_salida(const char *utf8, size_t n) { escribe(STD_OUTPUT_HANDLE, utf8, n); }
 
 guarda_error::guarda_error() : errno_(errno), ultimo_(GetLastError()) {}
 guarda_error::~guarda_error() {

@@ -1,0 +1,10 @@
+#include "foundation/platform/hora.h"
+
+namespace vn::plat {
+
+bool hora_local(int64_t segundos, std::tm &t) {
+    const time_t s = segundos;
+    return localtime_r(&s, &t) != nullptr;
+}
+
+} // namespace vn::plat

@@ -1,0 +1,230 @@
+#define VN_MODULO "vnstdc (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/afirma.h"
+#include "foundation/platform/hora.h"
+#include "foundation/platform/variables.h"
+#include "foundation/propio_priv.h"
+#include "foundation/unicode.h"
+#include "foundation/vnstdc.h"
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace {
+
+// ---------------------------------------------------------------- text of a time
+
+constexpr std::string_view DIAS[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
+constexpr std::string_view MESES[] = {"January", "February", "March", "April", "May", "June", "July", "August", "September",
+                                      "October", "November", "December"};
+
+template <size_t N>
+std::string_view nombre_de(const std::string_view (&nombres)[N], int i, size_t maximo) {
+    return i >= 0 && i < static_cast<int>(N) ? nombres[i].substr(0, maximo) : std::string_view("?");
+}
+
+std::string numero(int64_t n, size_t ancho, char relleno = '0') {
+    const std::string cifras = std::to_string(std::abs(n));
+    std::string texto = n < 0 ? "-" : "";
+    texto.append(cifras.size() < ancho ? ancho - cifras.size() : 0, relleno);
+    return texto + cifras;
+}
+
+bool es_bisiesto(int64_t anyo) { return anyo % 4 == 0 && (anyo % 100 != 0 || anyo % 400 == 0); }
+
+// Year and week by ISO 8601: the first week is the one with the year's first Thursday.
+struct semana_iso {
+    int64_t anyo;
+    int semana;
+};
+semana_iso semana_iso_de(const std::tm &t) {
+    const int dia = (t.tm_wday + 6) % 7; // from Monday
+    const auto semana = [dia](int yday) { return (yday - dia + 10) / 7; };
+    // Weeks that a year has: 53 when it begins on a Thursday, or on a Wednesday and is a leap year.
+    const auto semanas = [](int64_t anyo, int primer_dia) { return primer_dia == 3 || (primer_dia == 2 && es_bisiesto(anyo)) ? 53 : 52; };
+    const int64_t anyo = int64_t{t.tm_year} + 1900;
+    const int primer_dia = ((dia - t.tm_yday) % 7 + 7) % 7;
+    const int s = semana(t.tm_yday);
+    if (s < 1) {
+        const int dias = es_bisiesto(anyo - 1) ? 366 : 365;
+        return {anyo - 1, semanas(anyo - 1, ((primer_dia - dias) % 7 + 7) % 7)};
+    }
+    return s > semanas(anyo, primer_dia) ? semana_iso{anyo + 1, 1} : semana_iso{anyo, s};
+}
+
+// Minutes that the local time of `t` is ahead of UTC.
+int64_t minutos_sobre_utc(const std::tm &t) {
+    std::tm copia = t;
+    const int64_t segundos = std::mktime(&copia);
+    if (segundos == -1) return 0;
+    using namespace std::chrono;
+    const auto dia = sys_days(year(copia.tm_year + 1900) / (copia.tm_mon + 1) / copia.tm_mday);
+    const int64_t como_utc = dia.time_since_epoch().count() * int64_t{86400} + copia.tm_hour * 3600 + copia.tm_min * 60 + copia.tm_sec;
+    return (como_utc - segundos) / 60;
+}
+
+std::string fecha(std::string_view formato, const std::tm &t);
+
+// What one letter stands for; the C locale's words and forms. An unknown one stands for itself.
+std::string campo(char letra, const std::tm &t) {
+    const int64_t anyo = int64_t{t.tm_year} + 1900;
+    const int hora12 = t.tm_hour % 12 == 0 ? 12 : t.tm_hour % 12;
+    switch (letra) {
+    case 'a': return std::string(nombre_de(DIAS, t.tm_wday, 3));
+    case 'A': return std::string(nombre_de(DIAS, t.tm_wday, 9));
+    case 'b': case 'h': return std::string(nombre_de(MESES, t.tm_mon, 3));
+    case 'B': return std::string(nombre_de(MESES, t.tm_mon, 9));
+    case 'c': return fecha("%a %b %e %H:%M:%S %Y", t);
+    case 'C': return numero(anyo / 100, 2);
+    case 'd': return numero(t.tm_mday, 2);
+    case 'D': case 'x': return fecha("%m/%d/%y", t);
+    case 'e': return numero(t.tm_mday, 2, ' ');
+    case 'F': return fecha("%Y-%m-%d", t);
+    case 'g': return numero(semana_iso_de(t).anyo % 100, 2);
+    case 'G': return numero(semana_iso_de(t).anyo, 4);
+    case 'H': return numero(t.tm_hour, 2);
+    case 'I': return numero(hora12, 2);
+    case 'j': return numero(int64_t{t.tm_yday} + 1, 3);
+    case 'm': return numero(int64_t{t.tm_mon} + 1, 2);
+    case 'M': return numero(t.tm_min, 2);
+    case 'n': return "\n";
+    case 'p': return t.tm_hour < 0 || t.tm_hour > 23 ? "?" : t.tm_hour < 12 ? "AM" : "PM";
+    case 'r': return fecha("%I:%M:%S %p", t);
+    case 'R': return fecha("%H:%M", t);
+    case 'S': return numero(t.tm_sec, 2);
+    case 't': return "\t";
+    case 'T': case 'X': return fecha("%H:%M:%S", t);
+    case 'u': return numero(t.tm_wday == 0 ? 7 : t.tm_wday, 1);
+    case 'U': return numero((int64_t{t.tm_yday} + 7 - t.tm_wday) / 7, 2);
+    case 'V': return numero(semana_iso_de(t).semana, 2);
+    case 'w': return numero(t.tm_wday, 1);
+    case 'W': return numero((int64_t{t.tm_yday} + 7 - (t.tm_wday + 6) % 7) / 7, 2);
+    case 'y': return numero(anyo % 100, 2);
+    case 'Y': return numero(anyo, 1);
+    case 'z': {
+        const int64_t m = minutos_sobre_utc(t);
+        return (m < 0 ? "-" : "+") + numero(std::abs(m) / 60, 2) + numero(std::abs(m) % 60, 2);
+    }
+    case 'Z': return "";
+    case '%': return "%";
+    default: return std::string("%") + letra;
+    }
+}
+
+std::string fecha(std::string_view formato, const std::tm &t) {
+    std::string texto;
+    for (size_t i = 0; i < formato.size(); ++i) {
+        if (formato[i] == '%' && i + 1 < formato.size()) texto += campo(formato[++i], t);
+        else texto += formato[i];
+    }
+    return texto;
+}
+
+// A record whose fields no arithmetic overflows.
+std::tm acotada(std::tm t) {
+    for (int *campo : {&t.tm_sec, &t.tm_min, &t.tm_hour, &t.tm_mday, &t.tm_mon, &t.tm_year, &t.tm_wday, &t.tm_yday})
+        *campo = std::clamp(*campo, -100000000, 100000000);
+    return t;
+}
+
+template <class C>
+size_t escribe_fecha(C *destino, size_t n, const C *formato, const std::tm &sin_acotar) {
+    const std::tm t = acotada(sin_acotar);
+    size_t longitud = 0;
+    const auto pon = [&](C c) {
+        if (longitud < n) destino[longitud] = c;
+        ++longitud;
+    };
+    for (const C *p = formato; *p != 0 && longitud < n; ++p) {
+        if (*p != '%' || p[1] == 0 || p[1] >= 0x80 || p[1] < 0) {
+            pon(*p);
+            continue;
+        }
+        // The E and O modifiers change nothing here.
+        if ((p[1] == 'E' || p[1] == 'O') && p[2] > 0 && p[2] < 0x80) ++p;
+        for (const char c : campo(static_cast<char>(*++p), t)) pon(static_cast<C>(c));
+    }
+    if (longitud >= n) {
+        if (n > 0) destino[0] = 0;
+        return 0;
+    }
+    destino[longitud] = 0;
+    return longitud;
+}
+
+// ---------------------------------------------------------------- environment
+
+template <class C>
+using texto_de = std::basic_string<C>;
+
+// What this thread has been lent, by name.
+template <class C>
+C *presta(const texto_de<C> &nombre, const texto_de<C> &valor) {
+    thread_local std::map<texto_de<C>, texto_de<C>> prestados;
+    texto_de<C> &prestado = prestados[nombre];
+    prestado = valor;
+    return prestado.data();
+}
+
+bool nombre_posible(const vnwchar *nombre) {
+    const std::basic_string_view<vnwchar> n(nombre);
+    return !n.empty() && n.find(VNU('=')) == n.npos;
+}
+
+int asigna(const vnwchar *asignacion) {
+    const std::basic_string<vnwchar> a(asignacion);
+    const size_t igual = a.find(VNU('='));
+    if (igual == 0 || igual == a.npos) return -1;
+    return vn::plat::establece_variable(a.substr(0, igual).c_str(), a.c_str() + igual + 1) ? 0 : -1;
+}
+
+} // namespace
+
+size_t vnstdc_strftime(char *destino, size_t n, const char *formato, const struct tm *t) {
+    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(formato) || !AFIRMA_NO_NULO(t)) return 0;
+    return escribe_fecha(destino, n, formato, *t);
+}
+
+size_t vnstdc_wcsftime(vnwchar *destino, size_t n, const vnwchar *formato, const struct tm *t) {
+    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(formato) || !AFIRMA_NO_NULO(t)) return 0;
+    return escribe_fecha(destino, n, formato, *t);
+}
+
+int64_t vnstdc__time64(int64_t *t) {
+    using namespace std::chrono;
+    const int64_t ahora = floor<seconds>(system_clock::now()).time_since_epoch().count();
+    if (t != nullptr) *t = ahora;
+    return ahora;
+}
+
+struct tm *vnstdc__localtime64(const int64_t *t) {
+    thread_local std::tm local;
+    if (!AFIRMA_NO_NULO(t)) return nullptr;
+    return vn::plat::hora_local(*t, local) ? &local : nullptr;
+}
+
+char *vnstdc_getenv(const char *nombre) {
+    if (!AFIRMA_NO_NULO(nombre)) return nullptr;
+    const vn::propio<vnwchar> ancho(unicode_convierte_ANSI_a_UNICODE(nombre));
+    std::basic_string<vnwchar> valor;
+    if (!nombre_posible(ancho.get()) || !vn::plat::lee_variable(ancho.get(), valor)) return nullptr;
+    const vn::propio<char> ansi(unicode_UNICODE_a_ANSI(valor.c_str()));
+    return presta<char>(nombre, ansi.get());
+}
+
+vnwchar *vnstdc__wgetenv(const vnwchar *nombre) {
+    if (!AFIRMA_NO_NULO(nombre)) return nullptr;
+    std::basic_string<vnwchar> valor;
+    if (!nombre_posible(nombre) || !vn::plat::lee_variable(nombre, valor)) return nullptr;
+    return presta<vnwchar>(nombre, valor);
+}
+
+int vnstdc_putenv(const char *asignacion) {
+    if (!AFIRMA_NO_NULO(asignacion)) return -1;
+    const vn::propio<vnwchar> ancho(unicode_convierte_ANSI_a_UNICODE(asignacion));
+    return asigna(ancho.get());
+}
+
+int vnstdc__wputenv(const vnwchar *asignacion) { return AFIRMA_NO_NULO(asignacion) ? asigna(asignacion) : -1; }

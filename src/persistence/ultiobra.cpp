@@ -1,0 +1,248 @@
+#define VN_MODULO "ultiobra (NUCLEOS.DLL)"
+#include "persistence/ultiobra.h"
+#include "foundation/afirma.h"
+#include "foundation/arr.h"
+#include "foundation/avisos.h"
+#include "foundation/lc_fichero.h"
+#include "foundation/trapable.h"
+#include "foundation/unicode.h"
+#include "foundation/vdir.h"
+#include "foundation/vornfile.h"
+#include "foundation/vtxt.h"
+#include "foundation/widestr.h"
+#include "persistence/ultiobra_msg_priv.h"
+#include <algorithm>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+namespace {
+
+constexpr uint16_t VERSION_NOMBRE_OBRA = 5;
+// Version 0 was written by programs that still used the OEM code page.
+constexpr uint16_t ULTIMA_VERSION_ASCII = 0;
+constexpr uint32_t MAXIMO_OBRAS = 32;
+constexpr uint32_t SIN_INDICE = UINT32_MAX;
+
+struct destruye_lista {
+    void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
+};
+struct destruye_texto {
+    void operator()(vnwchar *s) const { widestr_destruye(&s); }
+};
+struct cierra_callando {
+    void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
+};
+using lista_propia = std::unique_ptr<arrCADENA_u, destruye_lista>;
+using texto_propio = std::unique_ptr<vnwchar, destruye_texto>;
+using fichero_propio = std::unique_ptr<vnfichero, cierra_callando>;
+
+struct obras {
+    lista_propia lista{arr_CreaCADENA_u(0)};
+    vnbool finalizada = FALSO;
+};
+
+void anade(obras &o, texto_propio texto) {
+    vnwchar *s = texto.release();
+    arr_AppendCADENAOriginal_u(o.lista.get(), &s);
+}
+
+// ---------------------------------------------------------------- the file
+
+struct lectura {
+    vnfichero *fichero;
+    obras leidas;
+};
+
+// Runs inside a trap: whatever the file holds that it should not comes back as a failure.
+void lee_fichero(lectura *l) {
+    vnfichero *f = l->fichero;
+    obras o;
+    const uint16_t version = vtxt_lee_ushrt_y_salta(f);
+    if (!AFIRMA(version <= VERSION_NOMBRE_OBRA)) return;
+    if (version < 2) {
+        char *nombre = vtxt_lee_cadena_ansi_ascii(f, version, ULTIMA_VERSION_ASCII);
+        anade(o, texto_propio(utunicode_ANSI_a_UNICODE_destruyendo_p(nombre)));
+        o.finalizada = CIERTO;
+        l->leidas = std::move(o);
+        return;
+    }
+    o.finalizada = version >= 3 ? vtxt_leer_BOOL(f) : CIERTO;
+    const uint32_t numFicheros = vtxt_lee_ulong_y_salta(f);
+    if (!AFIRMA(numFicheros > 0)) return;
+    for (uint32_t i = 0; i < std::min(numFicheros, MAXIMO_OBRAS); ++i)
+        anade(o, texto_propio(version < 5 ? vtxt_lee_cadena_ansi_a_unicode(f) : vtxt_lee_cadena_unicode(f)));
+    l->leidas = std::move(o);
+}
+
+// The list as it stands in the file; empty, and the file deleted, if it is damaged.
+obras lee(const vnwchar *path_lista) {
+    uint64_t tamanyo = 0;
+    if (path_lista == nullptr || vdir_existe_fichero_UNICODE(path_lista) != CIERTO) return {};
+    if (vdir_longitud_fichero_seguro_u(path_lista, &tamanyo) == CIERTO && tamanyo == 0) {
+        vdir_borra_fichero_con_comprobacion_UNICODE(path_lista);
+        return {};
+    }
+    fichero_propio f(f_lc_fopen_seguro_u(path_lista, VNU("rb"), VN_AQUI));
+    // A file that another program holds for the moment is not a damaged one.
+    if (f == nullptr) return {};
+    lectura l{f.get(), {}};
+    const vnbool bien = trapable_ejecuta_funcion_segura(lectura, lee_fichero, &l, nullptr);
+    f.reset();
+    if (bien == CIERTO) return std::move(l.leidas);
+    vdir_borra_fichero_con_comprobacion_UNICODE(path_lista);
+    return {};
+}
+
+struct escritura {
+    const vnwchar *path;
+    const obras *o;
+};
+
+// Runs inside a trap: a list that cannot be written stays as it was.
+void escribe_fichero(escritura *e) {
+    const arrCADENA_u *lista = e->o->lista.get();
+    const uint32_t num = arr_NumElemsCADENA_u(lista);
+    if (num == 0) {
+        vdir_borra_fichero_si_existe_UNICODE(e->path);
+        return;
+    }
+    fichero_propio f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->path));
+    if (f == nullptr) return;
+    vtxt_escr_ushrt(VERSION_NOMBRE_OBRA, f.get());
+    vtxt_escr_string("; version", f.get());
+    vtxt_escr_BOOL(e->o->finalizada, f.get());
+    vtxt_escr_ulong(num, f.get());
+    vtxt_escr_string("; n\xFAmero de ficheros", f.get());
+    for (uint32_t i = 0; i < num; ++i) vtxt_escr_cadena_unicode(arr_GetCADENA_u(lista, i), f.get());
+    vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), e->path);
+}
+
+void escribe(const vnwchar *path_lista, const obras &o) {
+    escritura e{path_lista, &o};
+    trapable_ejecuta_funcion_segura(escritura, escribe_fichero, &e, nullptr);
+}
+
+// ---------------------------------------------------------------- the filter
+
+// The path of an entry: a work held in a bracketed form has it behind the brackets.
+const vnwchar *ruta_de(const vnwchar *entrada) {
+    if (entrada[0] != VNU('[')) return entrada;
+    const vnwchar *fin = widestr_strchr(entrada, VNU(']'));
+    return fin != nullptr ? fin + 1 : entrada + 1;
+}
+
+bool pasa(const vnwchar *entrada, const arrCADENA_u *extensiones) {
+    const std::basic_string_view<vnwchar> ruta(ruta_de(entrada));
+    if (ruta.empty() || vdir_es_path_valido_UNICODE(ruta.data(), 0) != CIERTO) return false;
+    if (extensiones == nullptr) return true;
+    if (ruta.back() == VNU('\\')) return false;
+    const texto_propio extension(vdir_extension_fichero_UNICODE(ruta.data()));
+    return arr_ExisteMayMinCADENA_u(extensiones, extension.get(), nullptr) == CIERTO;
+}
+
+obras lee_filtrada(const vnwchar *path_lista, const arrCADENA_u *extensiones) {
+    obras o = lee(path_lista);
+    for (uint32_t i = arr_NumElemsCADENA_u(o.lista.get()); i-- > 0;)
+        if (!pasa(arr_GetCADENA_u(o.lista.get(), i), extensiones)) arr_BorrarCADENA_u(o.lista.get(), i);
+    if (arr_NumElemsCADENA_u(o.lista.get()) == 0) o.finalizada = FALSO;
+    return o;
+}
+
+// ---------------------------------------------------------------- whether a work exists
+
+uint32_t busca(const arrCADENA_u *lista, const vnwchar *nombre_opcional, uint32_t indice_obra_opcional) {
+    if (nombre_opcional == nullptr)
+        return indice_obra_opcional < arr_NumElemsCADENA_u(lista) ? indice_obra_opcional : SIN_INDICE;
+    if (!AFIRMA_TEXTO(indice_obra_opcional == SIN_INDICE, "indice_obra_opcional == ULONG_MAX")) return SIN_INDICE;
+    return arr_BuscarCADENA_u(lista, nombre_opcional);
+}
+
+// Takes an entry out of the list as it stands in the file, so that what a filter hides is not lost.
+void elimina(const vnwchar *path_lista, const vnwchar *entrada) {
+    const obras o = lee(path_lista);
+    const uint32_t i = arr_BuscarCADENA_u(o.lista.get(), entrada);
+    if (i == SIN_INDICE) return;
+    arr_BorrarCADENA_u(o.lista.get(), i);
+    escribe(path_lista, o);
+}
+
+vnbool existe_obra(const vnwchar *path_lista, const vnwchar *nombre_opcional, uint32_t indice_obra_opcional,
+                   const arrCADENA_u *extensiones, ultiobra_func_existe_obra funcionExisteObra, vnwchar **nombre_obra,
+                   vnbool *eliminada) {
+    if (nombre_obra != nullptr) *nombre_obra = nullptr;
+    if (eliminada != nullptr) *eliminada = FALSO;
+    if (!AFIRMA_NO_NULO(funcionExisteObra)) return FALSO;
+    const obras o = lee_filtrada(path_lista, extensiones);
+    const uint32_t indice = busca(o.lista.get(), nombre_opcional, indice_obra_opcional);
+    if (indice == SIN_INDICE) return FALSO;
+    const vnwchar *entrada = arr_GetCADENA_u(o.lista.get(), indice);
+    if (funcionExisteObra(entrada) == CIERTO) {
+        if (nombre_obra != nullptr) *nombre_obra = widestr_copia(entrada);
+        return CIERTO;
+    }
+    if (ultiobra_pregunta_eliminar_obra_reciente(entrada) == CIERTO) {
+        elimina(path_lista, entrada);
+        if (eliminada != nullptr) *eliminada = CIERTO;
+    }
+    return FALSO;
+}
+
+} // namespace
+
+void ultiobra_guarda_nombre_ultima_obra_u(const vnwchar *nombre, const vnwchar *path_lista) {
+    if (path_lista == nullptr) return;
+    obras o = lee(path_lista);
+    arrCADENA_u *lista = o.lista.get();
+    uint32_t i = 0;
+    if (nombre != nullptr) {
+        while (arr_ExisteMayMinCADENA_u(lista, nombre, &i) == CIERTO) arr_BorrarCADENA_u(lista, i);
+        // An empty head says "no work open"; there is one now.
+        if (arr_NumElemsCADENA_u(lista) > 0 && *arr_GetCADENA_u(lista, 0) == 0) arr_SetCADENA_u(lista, 0, nombre);
+        else arr_InsertarCADENA_u(lista, 0, nombre);
+    } else if (arr_NumElemsCADENA_u(lista) > 0) {
+        arr_InsertarCADENA_u(lista, 0, VNU(""));
+    }
+    while (arr_NumElemsCADENA_u(lista) > MAXIMO_OBRAS) arr_BorrarCADENA_u(lista, arr_NumElemsCADENA_u(lista) - 1);
+    o.finalizada = FALSO;
+    escribe(path_lista, o);
+}
+
+void ultiobra_finaliza_ultima_obra_u(const vnwchar *path_lista) {
+    if (path_lista == nullptr) return;
+    obras o = lee(path_lista);
+    o.finalizada = CIERTO;
+    escribe(path_lista, o);
+}
+
+arrCADENA_u *ultiobra_lee_ultimas_obras_u(const vnwchar *path_lista, const arrCADENA_u *extensiones) {
+    return lee_filtrada(path_lista, extensiones).lista.release();
+}
+
+vnwchar *ultiobra_lee_nombre_ultima_obra_finalizada_u(const vnwchar *path_lista, const arrCADENA_u *extensiones) {
+    const obras o = lee_filtrada(path_lista, extensiones);
+    return o.finalizada == CIERTO ? arr_GetCopiaCADENA_u(o.lista.get(), 0) : nullptr;
+}
+
+vnbool ultiobra_indice_existe_obra_reciente(const vnwchar *path_lista, uint32_t indice, const arrCADENA_u *extensiones,
+                                            ultiobra_func_existe_obra funcionExisteObra, vnwchar **nombre_obra,
+                                            vnbool *eliminada) {
+    return existe_obra(path_lista, nullptr, indice, extensiones, funcionExisteObra, nombre_obra, eliminada);
+}
+
+vnbool ultiobra_nombre_existe_obra_reciente(const vnwchar *path_lista, const vnwchar *nombre_fichero_obra,
+                                            ultiobra_func_existe_obra funcionExisteObra, vnwchar **nombre_obra,
+                                            vnbool *eliminada) {
+    if (nombre_obra != nullptr) *nombre_obra = nullptr;
+    if (eliminada != nullptr) *eliminada = FALSO;
+    if (!AFIRMA_NO_NULO(nombre_fichero_obra)) return FALSO;
+    return existe_obra(path_lista, nombre_fichero_obra, SIN_INDICE, nullptr, funcionExisteObra, nombre_obra, eliminada);
+}
+
+vnbool ultiobra_pregunta_eliminar_obra_reciente(const vnwchar *nombre_fichero_obra) {
+    if (!AFIRMA_NO_NULO(nombre_fichero_obra)) return FALSO;
+    const texto_propio motivo(textomsgu_obtener_mensaje(ultiobra_msg_160946, nombre_fichero_obra));
+    const texto_propio pregunta(
+        copiaforu_nousar_formatea(VNU("%s\n%s"), motivo.get(), nousar_msglocal_original_u(ultiobra_msg_160947)));
+    return avisobas_pregunta_u(pregunta.get());
+}

@@ -1,0 +1,62 @@
+#include "frame/alsalir.h"
+#include "foundation/cad.h"
+#include "foundation/vnatexit.h"
+#include "foundation/widestr.h"
+#include "prueba.h"
+
+namespace {
+
+struct viga {
+    int n;
+};
+
+int vigas_destruidas = 0;
+void destruye_viga(viga **v) {
+    ++vigas_destruidas;
+    vornspy_free_pp(v, sizeof(viga));
+}
+
+char *texto = nullptr;
+char *texto_sin_usar = nullptr;
+vnwchar *texto_u = nullptr;
+viga *una = nullptr, *otra = nullptr, *ninguna = nullptr;
+
+viga *crea_viga() { return static_cast<viga *>(vornspy_calloc(1, sizeof(viga))); }
+
+} // namespace
+
+PRUEBA(alsalir, al_salir_se_destruye_una_vez_lo_que_siga_vivo) {
+    texto = cad_copia_cadena("hola");
+    alsalir_destruye_cadena(&texto);
+    alsalir_destruye_cadena(&texto); // the second visit finds null
+    alsalir_destruye_cadena(&texto_sin_usar);
+    alsalir_destruye_cadena_u(&texto_u);
+    // What is there at exit counts, not what was there at registration.
+    texto_u = widestr_copia(VNU("adiós"));
+    vigas_destruidas = 0;
+    una = crea_viga();
+    otra = crea_viga();
+    alsalir_destruye_dato(viga, &una, destruye_viga);
+    alsalir_destruye_dato(viga, &otra, destruye_viga);
+    alsalir_destruye_dato(viga, &ninguna, destruye_viga);
+    viga *copia = otra; // its owner frees it and leaves `otra` dangling
+    vornspy_free_pp(&copia, sizeof(viga));
+
+    vnatexit_ejecuta();
+    EXPECT_EQ(vigas_destruidas, 1);
+    EXPECT_TRUE(texto == nullptr && texto_u == nullptr && una == nullptr && otra == nullptr);
+}
+
+PRUEBA(alsalir, sin_registros_no_hay_nada_y_tras_salir_se_vuelve_a_empezar) {
+    uint64_t antes = vornspy_bloques_vivos(nullptr);
+    vnatexit_ejecuta();
+    EXPECT_EQ(vornspy_bloques_vivos(nullptr), antes);
+    for (int vuelta = 0; vuelta < 2; ++vuelta) {
+        texto = cad_copia_cadena("otra vez");
+        alsalir_destruye_cadena(&texto);
+        vnatexit_ejecuta();
+        EXPECT_EQ(texto, nullptr);
+        EXPECT_EQ(vornspy_bloques_vivos(nullptr), antes);
+    }
+    ESPERA_INFORME("(funcDestruyeDato) != NULL", alsalir_nousar_destruye_dato(&una, nullptr, VN_AQUI));
+}

@@ -1,0 +1,134 @@
+#include "persistence/ultiobra.h"
+#include "foundation/arr.h"
+#include "foundation/msglocal.h"
+#include "foundation/widestr.h"
+#include "prueba.h"
+#include <algorithm>
+
+namespace {
+
+std::string fichero() { return vn::Prueba::directorio() + "/últimas.txt"; }
+std::basic_string<vnwchar> lista() { return vn::ancho(fichero()); }
+
+void guarda(const char *nombre) { ultiobra_guarda_nombre_ultima_obra_u(vn::ancho(nombre).c_str(), lista().c_str()); }
+
+std::string junta(arrCADENA_u *a) {
+    std::string texto;
+    for (uint32_t i = 0; i < arr_NumElemsCADENA_u(a); ++i) texto += vn::utf8_de(arr_GetCADENA_u(a, i)) + "|";
+    arr_DestruyeCADENA_u(&a);
+    return texto;
+}
+
+arrCADENA_u *extensiones(std::initializer_list<const vnwchar *> textos) {
+    arrCADENA_u *a = arr_CreaCADENA_u(0);
+    for (const vnwchar *t : textos) arr_AppendCADENA_u(a, t);
+    return a;
+}
+
+std::string obras() { return junta(ultiobra_lee_ultimas_obras_u(lista().c_str(), nullptr)); }
+
+std::string ultima_finalizada() {
+    vnwchar *nombre = ultiobra_lee_nombre_ultima_obra_finalizada_u(lista().c_str(), nullptr);
+    const std::string texto = nombre == nullptr ? "-" : vn::utf8_de(nombre);
+    widestr_destruye_opcional(&nombre);
+    return texto;
+}
+
+vnbool existe_la_b(const vnwchar *nombre) { return nombre[0] == VNU('b') ? CIERTO : FALSO; }
+
+} // namespace
+
+PRUEBA(ultiobra, el_ultimo_va_delante_una_vez_y_los_viejos_se_pierden) {
+    guarda("a.obr");
+    guarda("Ñandú 日.obr");
+    guarda("A.OBR");
+    EXPECT_EQ(obras(), "A.OBR|Ñandú 日.obr|");
+    EXPECT_EQ(vn::lee_fichero(fichero()).substr(0, 14), "5 ; version\n0\n");
+    for (int i = 0; i < 33; ++i) guarda(("obra" + std::to_string(i) + ".obr").c_str());
+    const std::string todas = obras();
+    EXPECT_EQ(std::count(todas.begin(), todas.end(), '|'), 32);
+    EXPECT_EQ(todas.substr(0, 11), "obra32.obr|");
+    EXPECT_EQ(todas.substr(todas.size() - 10), "|obra1.obr|");
+}
+
+PRUEBA(ultiobra, la_marca_de_obra_cerrada_y_la_de_ninguna_abierta) {
+    ultiobra_guarda_nombre_ultima_obra_u(nullptr, lista().c_str());
+    EXPECT_FALSE(vn::existe(fichero()));
+    guarda("a.obr");
+    EXPECT_EQ(ultima_finalizada(), "-");
+    ultiobra_finaliza_ultima_obra_u(lista().c_str());
+    EXPECT_EQ(ultima_finalizada(), "a.obr");
+    ultiobra_guarda_nombre_ultima_obra_u(nullptr, lista().c_str());
+    EXPECT_NE(vn::lee_fichero(fichero()).find("\n2 ;"), std::string::npos);
+    EXPECT_EQ(obras(), "a.obr|");
+    guarda("b.obr"); // takes the place of the mark
+    EXPECT_NE(vn::lee_fichero(fichero()).find("\n2 ;"), std::string::npos);
+    EXPECT_EQ(obras(), "b.obr|a.obr|");
+    // Closed, but with nothing that passes.
+    vn::graba_fichero(fichero(), "5 ; version\n1\n1 ; n\nno<valida\n");
+    EXPECT_EQ(obras(), "");
+    EXPECT_EQ(ultima_finalizada(), "-");
+    ultiobra_guarda_nombre_ultima_obra_u(VNU("x"), nullptr);
+}
+
+PRUEBA(ultiobra, cada_version_se_lee_y_lo_danyado_se_borra_sin_ruido) {
+    const struct {
+        const char *contenido, *obras, *finalizada;
+    } filas[] = {
+        {"0 ; version\nn\xA4o.obr\n", "nño.obr|", "nño.obr"}, // OEM code page
+        {"1 ; version\nn\xF1o.obr\n", "nño.obr|", "nño.obr"},
+        {"2 ; version\n2 ; n\na.obr\nb.obr\n", "a.obr|b.obr|", "a.obr"},
+        {"3 ; version\r\n0\r\n1 ; n\r\nn\xF1o.obr\r\n", "nño.obr|", "-"},
+        {"5 ; version\n1\n1 ; n\nn\xC3\xB1o.obr\n", "nño.obr|", "nño.obr"},
+        {"5 ; version\n1\n4000000000 ; n\na.obr\n", "", nullptr},
+        {"5 ; version\n1\n0 ; n\n", "", nullptr},
+        {"6 ; version\n1\n1 ; n\na.obr\n", "", nullptr},
+        {"", "", nullptr},
+        {"\x01\xFF\xFE garbage", "", nullptr},
+        {"5 ; version\n7\n1 ; n\na.obr\n", "", nullptr},
+        {"5", "", nullptr},
+    };
+    for (const auto &f : filas) {
+        SCOPED_TRACE(f.contenido);
+        vn::graba_fichero(fichero(), f.contenido);
+        EXPECT_EQ(obras(), f.obras);
+        EXPECT_EQ(vn::existe(fichero()), f.finalizada != nullptr);
+        if (f.finalizada != nullptr) EXPECT_EQ(ultima_finalizada(), f.finalizada);
+    }
+}
+
+PRUEBA(ultiobra, el_filtro_mira_la_ruta_detras_de_los_corchetes) {
+    vn::graba_fichero(fichero(), "5 ; version\n1\n8 ; n\n[red]a.obr\n[b.obr\n\n[]\nc.OBR\nd.txt\ncarpeta\\\nmal*.obr\n");
+    EXPECT_EQ(obras(), "[red]a.obr|[b.obr|c.OBR|d.txt|carpeta\\|");
+    arrCADENA_u *ext = extensiones({VNU("obr"), VNU("xyz")});
+    EXPECT_EQ(junta(ultiobra_lee_ultimas_obras_u(lista().c_str(), ext)), "[red]a.obr|[b.obr|c.OBR|");
+    arr_DestruyeCADENA_u(&ext);
+}
+
+PRUEBA(ultiobra, la_obra_que_falta_se_quita_si_el_usuario_quiere) {
+    for (const char *nombre : {"c.txt", "b.obr", "a.obr"}) guarda(nombre);
+    msidioma_establece_idioma(8);
+    arrCADENA_u *ext = extensiones({VNU("obr")});
+    vnwchar *nombre = nullptr;
+    vnbool eliminada = CIERTO;
+    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 1, ext, existe_la_b, &nombre, &eliminada), CIERTO);
+    EXPECT_EQ(vn::utf8_de(nombre), "b.obr");
+    EXPECT_EQ(eliminada, FALSO);
+    widestr_destruye(&nombre);
+
+    vn::Prueba::responde(FALSO);
+    EXPECT_EQ(ultiobra_nombre_existe_obra_reciente(lista().c_str(), VNU("a.obr"), existe_la_b, &nombre, &eliminada), FALSO);
+    EXPECT_TRUE(nombre == nullptr && eliminada == FALSO);
+    const auto avisos = vn::Prueba::toma_avisos();
+    ASSERT_EQ(avisos.size(), 1u);
+    EXPECT_EQ(avisos[0], "The file or files of 'a.obr' in the list of recently opened files no longer exist or cannot be "
+                         "accessed.\nDo you want to delete this entry from the list?");
+
+    vn::Prueba::responde(CIERTO);
+    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 0, ext, existe_la_b, nullptr, &eliminada), FALSO);
+    EXPECT_EQ(eliminada, CIERTO);
+    EXPECT_EQ(vn::Prueba::toma_avisos().size(), 1u);
+    EXPECT_EQ(obras(), "b.obr|c.txt|"); // what the filter hid is still there
+    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 9, ext, existe_la_b, nullptr, nullptr), FALSO);
+    arr_DestruyeCADENA_u(&ext);
+}
