@@ -1,0 +1,93 @@
+#include "environment/ultfichsel.h"
+#include "foundation/arr.h"
+#include "foundation/fichconf.h"
+#include "foundation/widestr.h"
+#include "prueba.h"
+#include <filesystem>
+
+namespace {
+
+// The user's configuration, in the directory of the test; the path of the module's file in it, UTF-8.
+std::string prepara() {
+    fichconf_establece_directorio_base(vn::ancho(vn::Prueba::directorio()).c_str());
+    vnwchar *ruta = fichconf_dame_ruta_fichero_en_directorio_configuracion(VNU("pnlselfic.cfg"));
+    const std::string texto = vn::utf8_de(ruta);
+    widestr_destruye(&ruta);
+    return texto;
+}
+
+arrPuntero *lee() { return ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados(); }
+
+void registra(arrPuntero *lista, const char *clave, const char *raiz, const char *nombre) {
+    ultfichsel_registra_nombre_fichero(lista, clave, vn::ancho(raiz).c_str(), vn::ancho(nombre).c_str());
+}
+
+std::string ultimo(const arrPuntero *lista, const char *clave, const char *raiz) {
+    vnwchar *nombre = nullptr;
+    if (ultfichsel_ultimo_fichero_seleccionado_si_existe(lista, clave, vn::ancho(raiz).c_str(), &nombre) != CIERTO) {
+        EXPECT_EQ(nombre, nullptr);
+        return "-";
+    }
+    const std::string texto = vn::utf8_de(nombre);
+    widestr_destruye(&nombre);
+    return texto;
+}
+
+uint32_t numero(const arrPuntero *lista) { return arr_NumElemsPuntero(lista); }
+
+} // namespace
+
+PRUEBA(ultfichsel, lo_registrado_se_guarda_y_sigue_a_la_obra_que_se_mueve) {
+    prepara();
+    arrPuntero *lista = lee();
+    EXPECT_EQ(numero(lista), 0u);
+    registra(lista, "plano", "C:\\Obra", "C:\\Obra\\p.dxf");
+    registra(lista, "n\xF1", "", "D:\\日\\x.ifc");
+    registra(lista, "plano", "C:\\Obra", "C:\\Obra\\otro\\q.dxf");
+    ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(lista);
+    ultfichsel_destruye(&lista);
+    lista = lee();
+    EXPECT_EQ(numero(lista), 2u);
+    EXPECT_EQ(ultimo(lista, "plano", "c:\\obra"), "C:\\Obra\\otro\\q.dxf"); // the same root
+    EXPECT_EQ(ultimo(lista, "plano", "E:\\Nueva"), "E:\\Nueva\\otro\\q.dxf");
+    EXPECT_EQ(ultimo(lista, "plano", ""), "C:\\Obra\\otro\\q.dxf");
+    EXPECT_EQ(ultimo(lista, "n\xF1", "E:\\Nueva"), "D:\\日\\x.ifc");
+    EXPECT_EQ(ultimo(lista, "PLANO", ""), "-");
+    ultfichsel_destruye(&lista);
+    fichconf_establece_directorio_base(nullptr);
+}
+
+PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
+    const std::string fichero = prepara();
+    std::filesystem::create_directories(std::filesystem::path(vn::u16_de(vn::ancho(fichero).c_str())).parent_path());
+    arrPuntero *lista = lee();
+    registra(lista, "k", "r", "n");
+    ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(lista);
+    ultfichsel_destruye(&lista);
+    const std::string actual = vn::lee_fichero(fichero);
+    // Of the stored form: a count, then per record its version and the key with its length.
+    const std::string clave = actual.substr(5, actual.find('k') - 5 + 1);
+    const auto ansi = [&](char c) { return clave.substr(0, clave.size() - 1) + c; };
+    const std::string cuenta = actual.substr(0, 4);
+    const struct {
+        std::string contenido, obtenido;
+    } filas[] = {
+        {cuenta + '\0' + clave + ansi('n'), "n"},
+        {cuenta + '\1' + clave + ansi('r') + ansi('n'), "n"},
+        {actual, "n"},
+        {actual.substr(0, actual.size() - 1), "-"},
+        {std::string("\xFF\xFF\xFF\xFF\3", 5), "-"},
+        {"", "-"},
+    };
+    for (const auto &f : filas) {
+        vn::graba_fichero(fichero, f.contenido);
+        lista = lee();
+        EXPECT_EQ(ultimo(lista, "k", ""), f.obtenido) << f.contenido.size();
+        ultfichsel_destruye(&lista);
+    }
+    vn::graba_fichero(fichero, cuenta + '\4' + clave + ansi('r') + ansi('n'));
+    lista = ESPERA_INFORME("version <= i_VERSION_FICHERO", lee());
+    EXPECT_EQ(numero(lista), 0u);
+    ultfichsel_destruye(&lista);
+    fichconf_establece_directorio_base(nullptr);
+}
