@@ -48,7 +48,7 @@ PRUEBA(ultiobra, el_ultimo_va_delante_una_vez_y_los_viejos_se_pierden) {
     const std::string todas = obras();
     EXPECT_EQ(std::count(todas.begin(), todas.end(), '|'), 32);
     EXPECT_EQ(todas.substr(0, 11), "obra32.obr|");
-    EXPECT_EQ(todas.substr(todas.size() - 10), "|obra1.obr|");
+    EXPECT_EQ(todas.substr(todas.size() - 11), "|obra1.obr|");
 }
 
 PRUEBA(ultiobra, la_marca_de_obra_cerrada_y_la_de_ninguna_abierta) {
@@ -93,7 +93,7 @@ PRUEBA(ultiobra, cada_version_se_lee_y_lo_danyado_se_borra_sin_ruido) {
         vn::graba_fichero(fichero(), f.contenido);
         EXPECT_EQ(obras(), f.obras);
         EXPECT_EQ(vn::existe(fichero()), f.finalizada != nullptr);
-        if (f.finalizada != nullptr) EXPECT_EQ(ultima_finalizada(), f.finalizada);
+        if (f.finalizada != nullptr) { EXPECT_EQ(ultima_finalizada(), f.finalizada); }
     }
 }
 
