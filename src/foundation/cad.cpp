@@ -126,7 +126,13 @@ vnbool cad_es_subcadena_final(const char *s, const char *t) {
 
 char *cad_subcadena_inicial(const char *s, uint32_t n) {
     if (!AFIRMA_NO_NULO(s)) return nullptr;
-    return copia(vista(s, strnlen(s, n)));
+    const vista v(s, strnlen(s, n));
+    const texto::juego<char> j;
+    if (j.de_uno_en_uno()) return copia(v);
+    size_t entero = 0; // a character of two bytes is not cut
+    while (entero < v.size() && entero + j.paso(s + entero, s + entero + 2) <= v.size())
+        entero += j.paso(s + entero, s + entero + 2);
+    return copia(v.substr(0, entero));
 }
 
 char *cad_subcadena_anterior(const char *s, const char *t) {

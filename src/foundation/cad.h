@@ -1,6 +1,7 @@
 /* ANSI text: 8 bits, zero-terminated, in the active ANSI code page (unicode.h). Texts that are returned are new blocks
    of the tracked heap, freed with vornstr_destruye. Two-byte characters of the pages that have them are never cut, and a
-   search does not find a match inside one. Letter case follows the active page, not ASCII alone. */
+   search does not find a match inside one. Letter case follows the active page, not ASCII alone; characters of more
+   than one byte have no case. */
 #ifndef VN_CAD_H
 #define VN_CAD_H
 
@@ -47,7 +48,7 @@ vnbool cad_es_subcadena_inicial(const char *s, const char *t);
 vnbool cad_es_subcadena_inicial_may_o_min(const char *s, const char *t);
 vnbool cad_es_subcadena_final(const char *s, const char *t);
 
-/** New text: the first `n` bytes of `s`, or all of it when it is shorter. */
+/** New text: the first `n` bytes of `s` (one less where that would cut a character), or all of it when it is shorter. */
 char *cad_subcadena_inicial(const char *s, uint32_t n);
 /** New text: what stands in `s` before the first `t`; all of `s` when `t` is not there. */
 char *cad_subcadena_anterior(const char *s, const char *t);

@@ -14,6 +14,12 @@
     (__builtin_expect((p) != nullptr, 1) ? true                                                                        \
                                          : (error_interno("(" #p ") != NULL", modulo, linea, 0), false))
 
+// Whether one of them is null, and told.
+#define NULOS1(a) (!AFIRMA_NO_NULO_DE(a))
+#define NULOS2(a, b) (!AFIRMA_NO_NULO_DE(a) || !AFIRMA_NO_NULO_DE(b))
+#define NULOS3(a, b, c) (!AFIRMA_NO_NULO_DE(a) || !AFIRMA_NO_NULO_DE(b) || !AFIRMA_NO_NULO_DE(c))
+#define QUIEN (vn::texto::quien{modulo, linea})
+
 namespace vn::texto {
 
 // Who asks: named in the reports and in the tracked heap.

@@ -9,16 +9,7 @@
 using namespace vn;
 using vista = std::basic_string_view<vnwchar>;
 
-namespace {
-
-constexpr uint32_t MAX_TEXTO = 1u << 30;
-#define QUIEN (texto::quien{modulo, linea})
-// Checks that speak for the caller.
-#define NULOS1(a) (!AFIRMA_NO_NULO_DE(a))
-#define NULOS2(a, b) (!AFIRMA_NO_NULO_DE(a) || !AFIRMA_NO_NULO_DE(b))
-#define NULOS3(a, b, c) (!AFIRMA_NO_NULO_DE(a) || !AFIRMA_NO_NULO_DE(b) || !AFIRMA_NO_NULO_DE(c))
-
-} // namespace
+static constexpr uint32_t MAX_TEXTO = 1u << 30;
 
 vnwchar *widestr_nousar_creacadena(uint32_t n, const char *modulo, uint32_t linea) {
     if (!AFIRMA(n <= MAX_TEXTO)) return nullptr;

@@ -13,11 +13,6 @@ using vista = std::basic_string_view<vnwchar>;
 
 namespace {
 
-#define QUIEN (texto::quien{modulo, linea})
-// Checks that speak for the caller.
-#define NULOS1(a) (!AFIRMA_NO_NULO_DE(a))
-#define NULOS2(a, b) (!AFIRMA_NO_NULO_DE(a) || !AFIRMA_NO_NULO_DE(b))
-
 // The next unit as a word list sees it: no case, no accents; 0 at the end.
 uint32_t letra(const vnwchar *&s) {
     while (es_acento_suelto(*s)) ++s;
@@ -153,7 +148,7 @@ vnwchar *widestr_nousar_extrae_token(const vnwchar *s, const vnwchar *separadore
 
 uint32_t widestr_nousar_lista_de_subcadenas_sin_eliminar_blancos(const vnwchar *s, const vnwchar *separadores,
                                                                  vnwchar ***lista, const char *modulo, uint32_t linea) {
-    if (NULOS2(s, separadores) || !AFIRMA_NO_NULO_DE(lista)) return 0;
+    if (NULOS3(s, separadores, lista)) return 0;
     const vista cortes(separadores);
     return texto::lista<vnwchar>(s, [cortes](vnwchar c) { return cortes.find(c) != NO_ESTA; }, lista, QUIEN);
 }

@@ -132,6 +132,8 @@ PRUEBA(cad, letras_de_cada_pagina) {
     EXPECT_EQ(cad_es_subcadena_final("\x83\x5C", "\\"), FALSO);
     EXPECT_EQ(cad_es_subcadena_final("\x83\x5C\\", "\\"), CIERTO);
     EXPECT_EQ(tras("\x83\x5C\\x", [](char **s) { cad_reemplaza_todas_cadenas(s, "\\", "/"); }), "\x83\x5C/x");
+    EXPECT_EQ(toma(cad_subcadena_inicial("a\x83\x5Cz", 2)), "a");
+    EXPECT_EQ(toma(cad_subcadena_inicial("a\x83\x5Cz", 3)), "a\x83\x5C");
     char **lista = nullptr;
     const uint32_t n = cad_lista_de_subcadenas("\x83\x7C|a", '|', &lista);
     EXPECT_EQ(n, 2u);

@@ -120,6 +120,6 @@ PRUEBA(formato, no_depende_del_idioma_de_la_biblioteca_de_c) {
     EXPECT_EQ(cad_atof("1,5"), 1.0);
     EXPECT_EQ(widestr_atof(VNU("-2.25e1")), -22.5);
     std::setlocale(LC_ALL, antes.c_str());
-    // Where one was made for this test, it must have been in force.
-    EXPECT_TRUE(con_coma || std::getenv("LOCPATH") == nullptr);
+    // Where there is one for this test, it must have been in force.
+    EXPECT_TRUE(con_coma || std::getenv("VN_HAY_LOCALE_CON_COMA") == nullptr);
 }
