@@ -4,9 +4,8 @@
 
 #include "foundation/tipos.h"
 
-/** On Windows a HANDLE; on Linux the file descriptor as a pointer, never 0. */
-typedef void *vnlongpath_handle;
-#define VNLONGPATH_INVALID_HANDLE ((vnlongpath_handle)(intptr_t)-1)
+/* A handle is a HANDLE on Windows; on Linux the file descriptor as a pointer, never 0. This one is none. */
+#define VNLONGPATH_INVALID_HANDLE ((void *)(intptr_t)-1)
 
 /* `acceso`. On Linux any other bit is ignored. */
 #define VNLONGPATH_GENERIC_READ 0x80000000u
@@ -22,8 +21,7 @@ typedef void *vnlongpath_handle;
 #define VNLONGPATH_OPEN_ALWAYS 4u
 #define VNLONGPATH_TRUNCATE_EXISTING 5u
 /* Attributes and flags. On Linux `atributos` may ask for READONLY (of a new file), WRITE_THROUGH,
-   DELETE_ON_CLOSE (the name goes at once) and BACKUP_SEMANTICS (a directory opens too); the rest is ignored.
- */
+   DELETE_ON_CLOSE (the name goes at once) and BACKUP_SEMANTICS (a directory opens too); the rest is ignored. */
 #define VNLONGPATH_FILE_ATTRIBUTE_READONLY 0x1u
 #define VNLONGPATH_FILE_ATTRIBUTE_HIDDEN 0x2u
 #define VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY 0x10u
@@ -38,11 +36,11 @@ VN_C_INICIO
 
 /** Opens or creates a file. VNLONGPATH_INVALID_HANDLE if it cannot be; then GetLastError on Windows, errno on Linux,
     says why. `seguridad` and `plantilla` are those of Win32; Linux ignores them. */
-vnlongpath_handle vnlongpath_CreateFileW(const vnwchar *nombre, uint32_t acceso, uint32_t comparticion,
-                                         VN_DATO void *seguridad, VN_RANGO(1, 5) uint32_t disposicion,
-                                         uint32_t atributos, VN_DATO void *plantilla);
+void *vnlongpath_CreateFileW(const vnwchar *nombre, uint32_t acceso, uint32_t comparticion,
+                             VN_DATO void *seguridad, VN_RANGO(1, 5) uint32_t disposicion,
+                             uint32_t atributos, VN_DATO void *plantilla);
 /** Closes what vnlongpath_CreateFileW opened; FALSO if it is not open. */
-vnbool vnlongpath_CloseHandle(VN_DATO vnlongpath_handle fichero);
+vnbool vnlongpath_CloseHandle(VN_DATO void *fichero);
 /** Attributes of a file or directory; VNLONGPATH_INVALID_FILE_ATTRIBUTES if it is not there. On Linux: DIRECTORY,
     READONLY (this user may not write it), HIDDEN (its name begins with a full stop), REPARSE_POINT (a link), else
     NORMAL. */

@@ -16,7 +16,7 @@ auto en(const std::string &nombre) { return ancho(vn::Prueba::directorio() + "/"
 
 // A new file of so many bytes, through a call that any name and any length of path suit.
 bool crea_fichero(const std::basic_string<vnwchar> &ruta) {
-    const vnlongpath_handle h =
+    void *const h =
         vnlongpath_CreateFileW(ruta.c_str(), VNLONGPATH_GENERIC_WRITE, 0, nullptr, VNLONGPATH_CREATE_NEW,
                                VNLONGPATH_FILE_ATTRIBUTE_NORMAL, nullptr);
     return vnlongpath_CloseHandle(h) == CIERTO;

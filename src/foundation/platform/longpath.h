@@ -6,9 +6,9 @@
 
 namespace vn::plat {
 
-vnlongpath_handle abre_fichero(const texto &nombre, uint32_t acceso, uint32_t comparticion, void *seguridad,
-                               uint32_t disposicion, uint32_t atributos, void *plantilla);
-bool cierra_fichero(vnlongpath_handle fichero);
+void *abre_fichero(const texto &nombre, uint32_t acceso, uint32_t comparticion, void *seguridad,
+                   uint32_t disposicion, uint32_t atributos, void *plantilla);
+bool cierra_fichero(void *fichero);
 uint32_t atributos_de(const texto &nombre);
 
 } // namespace vn::plat

@@ -1,6 +1,7 @@
 #include "foundation/platform/longpath.h"
 #include "foundation/platform/posix/ruta.h"
 #include <cerrno>
+#include <climits>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,14 +12,12 @@ namespace {
 // By disposition, from 1: how an existing file and a missing one are met.
 constexpr int DISPOSICIONES[] = {0, O_CREAT | O_EXCL, O_CREAT | O_TRUNC, 0, O_CREAT, O_TRUNC};
 
-vnlongpath_handle como_handle(int fd) {
-    return reinterpret_cast<vnlongpath_handle>(static_cast<intptr_t>(fd));
-}
+void *como_handle(int fd) { return reinterpret_cast<void *>(static_cast<intptr_t>(fd)); }
 
 } // namespace
 
-vnlongpath_handle abre_fichero(const texto &nombre, uint32_t acceso, uint32_t, void *, uint32_t disposicion,
-                               uint32_t atributos, void *) {
+void *abre_fichero(const texto &nombre, uint32_t acceso, uint32_t, void *, uint32_t disposicion,
+                   uint32_t atributos, void *) {
     const bool lee = (acceso & VNLONGPATH_GENERIC_READ) != 0,
                escribe = (acceso & VNLONGPATH_GENERIC_WRITE) != 0;
     const std::string ruta = ruta_del_sistema(nombre);
@@ -45,9 +44,9 @@ vnlongpath_handle abre_fichero(const texto &nombre, uint32_t acceso, uint32_t, v
     return como_handle(fd);
 }
 
-bool cierra_fichero(vnlongpath_handle fichero) {
-    const auto fd = static_cast<int>(reinterpret_cast<intptr_t>(fichero));
-    return fd > 0 && ::close(fd) == 0;
+bool cierra_fichero(void *fichero) {
+    const auto fd = reinterpret_cast<intptr_t>(fichero);
+    return fd > 0 && fd <= INT_MAX && ::close(static_cast<int>(fd)) == 0;
 }
 
 uint32_t atributos_de(const texto &nombre) {
