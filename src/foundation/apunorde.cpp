@@ -45,12 +45,12 @@ void apunorde_nousar_destruye(apunorde **a) {
 
 void apunorde_nousar_inserta_original(apunorde *a, void *p, uint32_t *pos) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(p)) return;
+    // The set took it: what it does not keep is destroyed, also when the comparer or the heap unwinds.
+    const auto destruye = [a](void *q) { destruye_elemento(a, q); };
+    std::unique_ptr<void, decltype(destruye)> propio(p, destruye);
     const auto sitio = busca_elemento(a, p);
     const bool existe = responde(sitio, pos) == CIERTO;
-    if (!existe && vn::inserta_en(a, sitio, p)) return;
-    // The set took it, so it goes before the report, which may unwind.
-    destruye_elemento(a, p);
-    static_cast<void>(AFIRMA_TEXTO(!existe, "existe == FALSO"));
+    if (AFIRMA_TEXTO(!existe, "existe == FALSO") && vn::inserta_en(a, sitio, p)) static_cast<void>(propio.release());
 }
 
 uint32_t apunorde_nousar_numelems(const apunorde *a) { return vn::total(a); }

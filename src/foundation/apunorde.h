@@ -1,4 +1,5 @@
-/* Sorted set of pointers, kept by a comparer of the caller's. Call it through the wrappers at the end. */
+/* Sorted set of pointers, kept by a comparer of the caller's. It belongs to one thread at a time, also while it is
+   only asked. Call it through the wrappers at the end. */
 #ifndef VN_APUNORDE_H
 #define VN_APUNORDE_H
 

@@ -1,5 +1,7 @@
 #define VN_MODULO "arr_test"
 #include "foundation/arr.h"
+#include "foundation/acadorde.h"
+#include "foundation/apunorde.h"
 #include "foundation/arr_priv.h"
 #include "foundation/punto.h"
 #include "prueba.h"
@@ -286,4 +288,59 @@ PRUEBA(arr, un_array_de_arrays_y_el_paseo_que_lo_cambia) {
     EXPECT_EQ(arulong64_get_buffer_const(u)[50], ~uint64_t{50});
     ESPERA_INFORME("i < num_elementos", arulong64_get(u, 100));
     arulong64_destruye(&u);
+}
+
+// Each allocation fails in its turn, inside a trap: what was there stays as it was, or has grown by whole elements, and
+// nothing that was being made is lost.
+PRUEBA(arr, sin_memoria_no_se_pierde_nada) {
+    struct caso {
+        arrCADENA *textos = arr_CreaCADENA(0);
+        arrPuntero *vigas = arr_CreaPunteroST(0, viga);
+        acadorde *conjunto = acadorde_crea(FALSO);
+        apunorde *orden = apunorde_crea(viga, void, [](const viga *v, const viga *w, void *) { return compara(v, w); },
+                                        static_cast<void *>(nullptr), destruye);
+    };
+    using operacion = void (*)(caso *);
+    const operacion operaciones[] = {
+        [](caso *c) { arr_AppendCADENA(c->textos, "uno"); },
+        [](caso *c) { arr_InsertarCADENA(c->textos, 0, "cero"); },
+        [](caso *c) { arr_ConcatenaCADENA(c->textos, c->textos); },
+        [](caso *c) {
+            arrCADENA *d = arr_CopiaCADENA(c->textos);
+            arr_DestruyeCADENA(&d);
+        },
+        [](caso *c) {
+            char *s = nuevo("dos");
+            arr_AppendCADENAOriginal(c->textos, &s);
+        },
+        [](caso *c) { arr_QSortPunteroST(c->vigas, viga, compara); },
+        [](caso *c) { acadorde_inserta(c->conjunto, "Dos"); },
+        [](caso *c) { apunorde_inserta_original(c->orden, nueva(3), viga, nullptr); },
+    };
+    for (const operacion &o : operaciones)
+        for (int falla = 0; falla < 4; ++falla) {
+            caso c;
+            for (int i = 0; i < 8; ++i) { // 8 is full: the next one grows
+                arr_AppendCADENA(c.textos, "texto");
+                arr_AppendPunteroST(c.vigas, nueva(9 - i), viga);
+                acadorde_inserta(c.conjunto, std::string(static_cast<size_t>(i + 1), 'e').c_str());
+                apunorde_inserta_original(c.orden, nueva(10 * i), viga, nullptr);
+            }
+            struct ensayo {
+                operacion o;
+                caso *c;
+                int quedan;
+            } e{o, &c, falla};
+            vornspy_instala_permiso([](size_t, void *d) { return static_cast<ensayo *>(d)->quedan-- > 0 ? CIERTO : FALSO; }, &e);
+            trapable_ejecuta_funcion_segura(ensayo, [](ensayo *q) { q->o(q->c); }, &e, nullptr);
+            vornspy_instala_permiso(nullptr, nullptr);
+            EXPECT_GE(arr_NumElemsCADENA(c.textos), 8u);
+            EXPECT_GE(acadorde_numelems(c.conjunto), 8u);
+            EXPECT_STREQ(arr_GetCADENA(c.textos, arr_NumElemsCADENA(c.textos) - 2), "texto");
+            EXPECT_EQ(apunorde_get(c.orden, apunorde_numelems(c.orden, viga) - 1, viga)->clave, 70);
+            arr_DestruyeCADENA(&c.textos);
+            arr_DestruyeEstructurasST(&c.vigas, viga, destruye);
+            acadorde_destruye(&c.conjunto);
+            apunorde_destruye(&c.orden, viga);
+        }
 }
