@@ -3,15 +3,15 @@
 #ifndef VN_VORNBIN_H
 #define VN_VORNBIN_H
 
-#include "foundation/tipos.h"
+#include "foundation/lc_fichero.h"
 
-typedef struct vnfichero vnfichero;
+/** Array of wide texts (arr.h). */
 typedef struct arrCADENA_u arrCADENA_u;
 
 VN_C_INICIO
 
 /* Values. A writer takes the value first and the stream last; a reader takes the stream and returns the value. A failed
-   write or a short read is reported by the stream; what could not be read comes back as zero. In a file of the debug
+   write or a short read is reported by the stream; the bytes that were missing are zero. In a file of the debug
    form one letter before each value tells its kind, and a wrong letter is reported as a read error. */
 
 /** One byte, 0 or 1. Another truth value is reported, and its low byte written. */
@@ -88,17 +88,17 @@ void bin_lee_buffer_uchar(VN_SALIDA VN_LON(tamanyo) uint8_t *destino, uint32_t t
 /** Fills `destino` with `tamanyo` wide characters; no terminator is added. */
 void bin_lee_buffer_u(VN_SALIDA VN_LON(tamanyo) vnwchar *destino, uint32_t tamanyo, vnfichero *f);
 
-/** Old texts in the OEM code page, converted to ANSI. The buffer is converted up to its first zero. */
+/** Old texts in the OEM code page, converted to ANSI as they are read. */
 char *bin_lee_cadena_ASCII(vnfichero *f);
 char bin_lee_char_ASCII(vnfichero *f);
 void bin_lee_buffer_ascii(VN_SALIDA VN_LON(tamanyo) char *destino, uint32_t tamanyo, vnfichero *f);
 /** ANSI if `version` is greater than `version_ascii`, the last version that wrote the OEM code page; else converted
     from it. */
-char *bin_lee_cadena_ansi_ascii(vnfichero *f, uint32_t version, uint32_t version_ascii);
-char bin_lee_char_ansi_ascii(vnfichero *f, uint32_t version, uint32_t version_ascii);
-char *bin_lee_null_ansi_ascii(vnfichero *f, uint32_t version, uint32_t version_ascii);
+char *bin_lee_cadena_ansi_ascii(vnfichero *f, uint16_t version, uint16_t version_ascii);
+char bin_lee_char_ansi_ascii(vnfichero *f, uint16_t version, uint16_t version_ascii);
+char *bin_lee_null_ansi_ascii(vnfichero *f, uint16_t version, uint16_t version_ascii);
 void bin_lee_buffer_ansi_ascii(VN_SALIDA VN_LON(tamanyo) char *destino, uint32_t tamanyo, vnfichero *f,
-                               uint32_t version, uint32_t version_ascii);
+                               uint16_t version, uint16_t version_ascii);
 
 /** The number read through vncopro_filtra_double_con_posible_error: a bad one is replaced, and the two truth values say
     so. */
@@ -140,8 +140,8 @@ void bin_trata_double(double *dato, vnfichero *f, vnbool graba);
 void bin_trata_cadena(VN_OPC char **dato, vnfichero *f, vnbool graba);
 void bin_trata_cadena_u(VN_OPC vnwchar **dato, vnfichero *f, vnbool graba);
 /** Reads as bin_lee_cadena_ansi_ascii, writes as bin_graba_cadena. */
-void bin_trata_cadena_ansi_ascii(VN_OPC char **dato, vnfichero *f, vnbool graba, uint32_t version,
-                                 uint32_t version_ascii);
+void bin_trata_cadena_ansi_ascii(VN_OPC char **dato, vnfichero *f, vnbool graba, uint16_t version,
+                                 uint16_t version_ascii);
 /** x, then y, of the point at `pto`. */
 void bin_trata_punto(Punto2D *pto, vnfichero *f, vnbool graba);
 
@@ -195,8 +195,8 @@ vnfichero *vornbin_abre_fichero_para_lectura_u(const vnwchar *nomfich, VN_SALIDA
 vnfichero *vornbin_abre_fichero_para_lectura_unicode(const vnwchar *nomfich, VN_OPC const vnwchar *obra);
 /** Opens for reading a file with header and prologue. `version_actual` is the newest format version that the caller
     reads, `version_ascii` the last one with texts in the OEM code page. `*titulo` is new. A newer file sets
-    `*version_superior` and is read on, or is reported when that is null; so is another signature. Null, with nothing
-    left open, when the file or its header cannot be read. */
+    `*version_superior` and is read on; when that is null it is reported, as another signature and an invalid header are,
+    and gives null, with nothing left open and `*titulo` null. */
 vnfichero *vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(
     const vnwchar *nomfich, uint16_t version_actual, const char *firma, VN_OPC const vnwchar *obra,
     VN_SALIDA uint16_t *version, VN_SALIDA vnwchar **titulo, uint16_t version_ascii, VN_SALIDA_OPC vnbool *es_ejemplo,

@@ -1,10 +1,22 @@
-// What the binary layer shares inside the library: the debug form's flags and the transfer of whole arrays.
+// What the binary layer shares inside the library: owners, the debug form's flags, the transfer of whole arrays.
 #pragma once
 
+#include "foundation/vornspy.h"
 #include "persistence/vornbin.h"
 #include <atomic>
+#include <memory>
 
 namespace vn {
+
+// Owners on the way of a report: a trap unwinds through them.
+struct libera_bloque {
+    template <class T> void operator()(T *p) const { vornspy_free_pp(&p, 1); }
+};
+template <class T> using bloque = std::unique_ptr<T, libera_bloque>;
+struct cierra_fichero {
+    void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
+};
+using fichero = std::unique_ptr<vnfichero, cierra_fichero>;
 
 // Process-wide, set when a file is opened: each value carries the letter of its kind before it.
 extern std::atomic<bool> bin_etiquetas_al_escribir;
@@ -15,10 +27,10 @@ void bin_graba_modo_debug(vnfichero *f);
 // Reads it, quietly; false for a byte that is neither 0 nor 1 and at the end of the file.
 bool bin_lee_modo_debug(vnfichero *f);
 
-// Whole arrays: the same bytes, tags and reports as one call of the scalar operation per element, in one transfer where
-// no tag goes between. `n` elements at `datos`, which may be null if `n` is 0. Callers bound `n` by what is left.
+// Whole arrays: the bytes, the tags and the checks of one call of the scalar operation per element, in one transfer where
+// no tag goes between; a short read is reported once and the rest is zero. `n` elements at `datos`, which may be null if
+// `n` is 0. Readers are called with an `n` that lc_quedan has accepted.
 #define VN_BIN_BLOQUES(X)                                                                                              \
-    X(bool, vnbool)                                                                                                    \
     X(byte, uint8_t)                                                                                                   \
     X(char, char)                                                                                                      \
     X(uchar, uint8_t)                                                                                                  \
@@ -33,6 +45,8 @@ bool bin_lee_modo_debug(vnfichero *f);
 #define X(nombre, tipo)                                                                                                \
     void bin_graba_bloque_##nombre(const tipo *datos, uint32_t n, vnfichero *f);                                       \
     void bin_lee_bloque_##nombre(tipo *datos, uint32_t n, vnfichero *f);
+void bin_graba_bloque_bool(const vnbool *datos, uint32_t n, vnfichero *f);
+void bin_lee_bloque_bool(vnbool *datos, uint32_t n, vnfichero *f);
 VN_BIN_BLOQUES(X)
 #undef X
 

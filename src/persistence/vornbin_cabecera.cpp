@@ -1,0 +1,215 @@
+#define VN_MODULO "vornbin (NUCLEOS.DLL)"
+#include "persistence/vornbin_cabecera_priv.h"
+#include "foundation/afirma.h"
+#include "foundation/cad.h"
+#include "foundation/unicode.h"
+#include "foundation/version.h"
+#include "foundation/vnstdc.h"
+#include <algorithm>
+
+namespace vn {
+namespace {
+
+constexpr uint8_t COMIENZO[2] = {2, 1};
+constexpr uint8_t MARCA_LISTAS[2] = {0xFD, 0xFE};
+constexpr uint16_t LIMITE_IDENTIFICACION = 200;
+constexpr uint8_t FORMA_ACTUAL = 1, FORMA_LISTAS_SEGUIDAS = 2;
+
+bool lee_exacto(vnfichero *f, void *destino, size_t n) { return f_lc_fread_sin_error(destino, 1, n, f) == n; }
+
+bool es_letra(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+// "MASK-version-revision": exactly three pieces, a known mask, and a revision of one character or beginning with a letter.
+bool interpreta_identificacion(std::string_view texto, cabecera &c) {
+    texto = texto.substr(0, texto.find('\0'));
+    if (std::count(texto.begin(), texto.end(), '-') != 2) return false;
+    const size_t primero = texto.find('-'), segundo = texto.rfind('-');
+    const std::string_view mascara = texto.substr(0, primero), revision = texto.substr(segundo + 1);
+    if (mascara != i_MASCARA_VORN && mascara != i_MASCARA_EJEMPLO_VORN) return false;
+    if (revision.empty() || (revision.size() > 1 && !es_letra(revision.front()))) return false;
+    c.es_ejemplo = mascara == i_MASCARA_EJEMPLO_VORN;
+    c.version = texto.substr(primero + 1, segundo - primero - 1);
+    c.revision = revision;
+    return true;
+}
+
+bool lee_identificacion(vnfichero *f, cabecera &c) {
+    uint8_t comienzo = 0;
+    for (const uint8_t esperado : COMIENZO)
+        if (!lee_exacto(f, &comienzo, 1) || comienzo != esperado) return false;
+    uint16_t longitud = 0;
+    char texto[LIMITE_IDENTIFICACION];
+    return lee_exacto(f, &longitud, sizeof longitud) && longitud < LIMITE_IDENTIFICACION &&
+           lee_exacto(f, texto, longitud) && interpreta_identificacion({texto, longitud}, c);
+}
+
+// Whether lists follow the form byte; files of the first years have none, and no mark.
+bool hay_listas(vnfichero *f, uint8_t forma) {
+    if (forma == FORMA_LISTAS_SEGUIDAS) return true;
+    const int64_t pos = vornio_ftell_i64(f);
+    uint8_t marca[sizeof MARCA_LISTAS];
+    if (lee_exacto(f, marca, sizeof marca) && std::equal(marca, marca + sizeof marca, MARCA_LISTAS)) return true;
+    vornio_fseek_i64(f, pos, VN_DESDE_EL_PRINCIPIO);
+    return false;
+}
+
+void graba_bytes(vnfichero *f, const void *p, size_t n) { f_lc_fwrite(p, 1, n, f, VN_AQUI); }
+
+void graba_identificacion(vnfichero *f, const char *identificacion) {
+    graba_bytes(f, COMIENZO, sizeof COMIENZO);
+    bin_graba_cadena(identificacion, f);
+}
+
+void graba_cuerpo(vnfichero *f, uint8_t forma, const listas_cabecera &listas) {
+    graba_bytes(f, &forma, 1);
+    if (forma != FORMA_LISTAS_SEGUIDAS) graba_bytes(f, MARCA_LISTAS, sizeof MARCA_LISTAS);
+    listas.graba(f);
+}
+
+} // namespace
+
+const char i_MASCARA_VORN[] = "VORN";
+const char i_MASCARA_EJEMPLO_VORN[] = "WENK";
+
+void listas_cabecera::vacia() {
+    bytes_.assign(2 * TAM_NUMERO, 0);
+    fin_campos_ = TAM_NUMERO;
+}
+
+bool listas_cabecera::anexa(vnfichero *f, size_t n) {
+    if (lc_quedan(f, n, 1) == FALSO) return false;
+    bytes_.resize(bytes_.size() + n);
+    return lee_exacto(f, bytes_.data() + bytes_.size() - n, n);
+}
+
+bool listas_cabecera::anexa_numero(vnfichero *f, size_t tamanyo_elemento, uint32_t *n) {
+    if (!anexa(f, TAM_NUMERO)) return false;
+    *n = numero_en(bytes_.size() - TAM_NUMERO);
+    return lc_quedan(f, *n, tamanyo_elemento) == CIERTO;
+}
+
+bool listas_cabecera::anexa_texto(vnfichero *f) {
+    uint32_t n = 0;
+    return anexa_numero(f, sizeof(vnwchar), &n) && anexa(f, n * sizeof(vnwchar));
+}
+
+bool listas_cabecera::lee(vnfichero *f) {
+    // The least that a pair of texts, or an entry of a number and a text, takes.
+    constexpr size_t MINIMO_ELEMENTO = 8;
+    bytes_.clear();
+    uint32_t n = 0;
+    bool bien = anexa_numero(f, MINIMO_ELEMENTO, &n);
+    for (; bien && n != 0; --n) bien = anexa_texto(f) && anexa_texto(f);
+    fin_campos_ = bytes_.size();
+    bien = bien && anexa_numero(f, MINIMO_ELEMENTO, &n);
+    for (; bien && n != 0; --n) bien = anexa(f, TAM_NUMERO) && anexa_texto(f);
+    if (!bien) vacia();
+    return bien;
+}
+
+void listas_cabecera::graba(vnfichero *f) const { graba_bytes(f, bytes_.data(), bytes_.size()); }
+
+uint32_t listas_cabecera::numero_en(size_t pos) const {
+    uint32_t n = 0;
+    memcpy(&n, bytes_.data() + pos, sizeof n);
+    return n;
+}
+
+texto_u listas_cabecera::texto_en(size_t &pos) const {
+    texto_u texto(numero_en(pos), 0);
+    memcpy(texto.data(), bytes_.data() + pos + TAM_NUMERO, texto.size() * sizeof(vnwchar));
+    pos += TAM_NUMERO + texto.size() * sizeof(vnwchar);
+    return texto;
+}
+
+void listas_cabecera::pon_campo(vista_u nombre, vista_u valor) {
+    const auto inserta_texto = [this](size_t pos, vista_u texto) {
+        const auto n = static_cast<uint32_t>(texto.size());
+        unsigned char longitud[TAM_NUMERO];
+        memcpy(longitud, &n, sizeof n);
+        const auto *p = reinterpret_cast<const unsigned char *>(texto.data());
+        bytes_.insert(bytes_.begin() + static_cast<ptrdiff_t>(pos), p, p + texto.size() * sizeof(vnwchar));
+        bytes_.insert(bytes_.begin() + static_cast<ptrdiff_t>(pos), longitud, longitud + sizeof longitud);
+        fin_campos_ += TAM_NUMERO + texto.size() * sizeof(vnwchar);
+    };
+    uint32_t n = num_campos();
+    for (size_t pos = TAM_NUMERO, i = n; i != 0; --i) {
+        const texto_u este = texto_en(pos);
+        const size_t comienzo = pos;
+        texto_en(pos);
+        if (este != nombre) continue;
+        bytes_.erase(bytes_.begin() + static_cast<ptrdiff_t>(comienzo), bytes_.begin() + static_cast<ptrdiff_t>(pos));
+        fin_campos_ -= pos - comienzo;
+        return inserta_texto(comienzo, valor);
+    }
+    inserta_texto(fin_campos_, nombre);
+    inserta_texto(fin_campos_, valor);
+    ++n;
+    memcpy(bytes_.data(), &n, sizeof n);
+}
+
+void listas_cabecera::blanquea() {
+    const auto blanquea_texto = [this](size_t &pos) {
+        const texto_u blancos(texto_en(pos).size(), ' ');
+        const size_t n = blancos.size() * sizeof(vnwchar);
+        if (n != 0) memcpy(bytes_.data() + pos - n, blancos.data(), n);
+    };
+    size_t pos = TAM_NUMERO;
+    while (pos != fin_campos_) blanquea_texto(pos);
+    for (pos += TAM_NUMERO; pos != bytes_.size();) {
+        memset(bytes_.data() + pos, 0, TAM_NUMERO);
+        pos += TAM_NUMERO;
+        blanquea_texto(pos);
+    }
+}
+
+cabecera lee_cabecera(vnfichero *f) {
+    cabecera c;
+    const int64_t comienzo = vornio_ftell_i64(f);
+    if (!lee_identificacion(f, c)) {
+        vornio_fseek_i64(f, comienzo, VN_DESDE_EL_PRINCIPIO);
+        return c;
+    }
+    c.hay = true;
+    c.truncada = !lee_exacto(f, &c.forma, 1);
+    c.valida = !c.truncada && c.forma <= FORMA_LISTAS_SEGUIDAS;
+    if (c.valida && hay_listas(f, c.forma)) {
+        c.con_listas = c.valida = c.listas.lee(f);
+        c.truncada = !c.valida;
+    }
+    return c;
+}
+
+void graba_cabecera(vnfichero *f, const listas_cabecera &listas) {
+    const bloque<char> identificacion(
+        nousar_formatea("%s-%s-%c", i_MASCARA_VORN, version_versionMayor(), version_revision()));
+    graba_identificacion(f, identificacion.get());
+    graba_cuerpo(f, FORMA_ACTUAL, listas);
+}
+
+void graba_cabecera_copiada(vnfichero *f, const cabecera &c) {
+    const char *mascara = c.es_ejemplo ? i_MASCARA_EJEMPLO_VORN : i_MASCARA_VORN;
+    graba_identificacion(f, (mascara + ("-" + c.version) + "-" + c.revision).c_str());
+    graba_cuerpo(f, c.forma, c.listas);
+}
+
+void graba_mascara_de_ejemplo(vnfichero *f) {
+    // clang-format off
+    if (!AFIRMA(vnstdc_strlen(i_MASCARA_EJEMPLO_VORN) == vnstdc_strlen(i_MASCARA_VORN))) return;
+    // clang-format on
+    vornio_fseek_i64(f, sizeof COMIENZO + sizeof(uint16_t), VN_DESDE_EL_PRINCIPIO);
+    graba_bytes(f, i_MASCARA_EJEMPLO_VORN, LONGITUD_MASCARA);
+}
+
+texto_u nombre_temporal(const vnwchar *nomfich) { return texto_u(nomfich) + VNU("_TM$"); }
+
+fichero abre_para_leer(const vnwchar *nomfich) {
+    bin_etiquetas_al_leer = false;
+    return fichero(f_lc_fopen_u(nomfich, VNU("rb"), VN_AQUI));
+}
+
+bloque<vnwchar> ancho_opcional(const char *texto) {
+    return bloque<vnwchar>(texto != nullptr ? utunicode_ANSI_a_UNICODE(texto) : nullptr);
+}
+
+} // namespace vn

@@ -1,0 +1,95 @@
+// The header of a binary file: who wrote it, named fields, the reserved list.
+#pragma once
+
+#include "persistence/vornbin_priv.h"
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vn {
+
+using texto_u = std::basic_string<vnwchar>;
+using vista_u = std::basic_string_view<vnwchar>;
+
+// The named fields and the reserved list, kept as the bytes of the file: no more memory than the file has.
+class listas_cabecera {
+  public:
+    listas_cabecera() { vacia(); }
+    void vacia();
+    // Reads both, quietly; false, and empty, when the file does not hold them whole.
+    bool lee(vnfichero *f);
+    void graba(vnfichero *f) const;
+    uint32_t num_campos() const { return numero_en(0); }
+    // Calls funcion(name, value) for each field.
+    template <class F> void recorre_campos(F &&funcion) const {
+        size_t pos = TAM_NUMERO;
+        for (uint32_t i = num_campos(); i != 0; --i) {
+            const texto_u nombre = texto_en(pos);
+            funcion(nombre, texto_en(pos));
+        }
+    }
+    // Gives a field its value, in its place or at the end.
+    void pon_campo(vista_u nombre, vista_u valor);
+    // Every text becomes as many spaces, every number of the reserved list 0.
+    void blanquea();
+
+  private:
+    static constexpr size_t TAM_NUMERO = 4;
+    bool anexa(vnfichero *f, size_t n);
+    bool anexa_numero(vnfichero *f, size_t tamanyo_elemento, uint32_t *n);
+    bool anexa_texto(vnfichero *f);
+    uint32_t numero_en(size_t pos) const;
+    texto_u texto_en(size_t &pos) const;
+
+    std::vector<unsigned char> bytes_;
+    size_t fin_campos_ = 0;
+};
+
+struct cabecera {
+    bool hay = false;       // there is one; without it the stream stands where it stood
+    bool valida = true;     // none, or of a known form and whole
+    bool truncada = false;  // not valid because the file ends inside it or counts more than it holds
+    bool es_ejemplo = false;
+    bool con_listas = false;
+    uint8_t forma = 0;
+    std::string version, revision;
+    listas_cabecera listas;
+};
+
+inline constexpr size_t LONGITUD_MASCARA = 4;
+extern const char i_MASCARA_VORN[LONGITUD_MASCARA + 1];
+extern const char i_MASCARA_EJEMPLO_VORN[LONGITUD_MASCARA + 1];
+
+// Reads the header at the position of the stream; reports nothing.
+cabecera lee_cabecera(vnfichero *f);
+// Writes the header of this program, or that of another file with its form and its mask.
+void graba_cabecera(vnfichero *f, const listas_cabecera &listas);
+void graba_cabecera_copiada(vnfichero *f, const cabecera &c);
+// Overwrites the mask of a file that has a header, leaving the position anywhere.
+void graba_mascara_de_ejemplo(vnfichero *f);
+
+// Removes a file on the way out unless it is let go.
+class temporal_propio {
+  public:
+    explicit temporal_propio(texto_u nombre) : nombre_(std::move(nombre)) {}
+    ~temporal_propio() {
+        if (!nombre_.empty()) operaciones_fichero_actuales()->borra(nombre_.c_str());
+    }
+    temporal_propio(const temporal_propio &) = delete;
+    temporal_propio &operator=(const temporal_propio &) = delete;
+    const vnwchar *nombre() const { return nombre_.c_str(); }
+    void suelta() { nombre_.clear(); }
+
+  private:
+    texto_u nombre_;
+};
+
+texto_u nombre_temporal(const vnwchar *nomfich);
+// Opens for reading, reported; clears the tags.
+fichero abre_para_leer(const vnwchar *nomfich);
+bool esta_en_directorio_ejemplos(const vnwchar *ruta);
+
+// Wide copy of an ANSI name, null for null.
+bloque<vnwchar> ancho_opcional(const char *texto);
+
+} // namespace vn

@@ -1,0 +1,105 @@
+#define VN_MODULO "vornbin (NUCLEOS.DLL)"
+#include "foundation/afirma.h"
+#include "foundation/widestr.h"
+#include "persistence/vornbin_cabecera_priv.h"
+#include <algorithm>
+
+namespace vn {
+namespace {
+
+texto_u directorio_ejemplos;
+
+// Without lists the mask is all that changes: written in place.
+bool marca_en_su_sitio(const vnwchar *nomfich) {
+    fichero f(f_lc_fopen_u(nomfich, VNU("rb+"), VN_AQUI));
+    if (f == nullptr) return false;
+    graba_mascara_de_ejemplo(f.get());
+    return lc_vuelca_a_disco(f.get()) == CIERTO && lc_fclose(f.release()) == CIERTO;
+}
+
+// The rest of `origen`, from its position to its end.
+bool copia_resto(vnfichero *origen, vnfichero *destino) {
+    unsigned char trozo[1024];
+    const int64_t len = lc_tamanyo_fichero_i64(origen);
+    int64_t pos = vornio_ftell_i64(origen);
+    if (!AFIRMA(len >= pos)) return false;
+    while (pos < len) {
+        const auto n = static_cast<size_t>(std::min<int64_t>(len - pos, sizeof trozo));
+        if (f_lc_fread(trozo, 1, n, origen, VN_AQUI) != n || f_lc_fwrite(trozo, 1, n, destino, VN_AQUI) != n)
+            return false;
+        pos += static_cast<int64_t>(n);
+    }
+    return true;
+}
+
+// The file as a sample, its texts blanked, under another name; the position in both is told to stay the same.
+bool graba_copia_de_ejemplo(vnfichero *origen, cabecera *c, const vnwchar *nombre) {
+    fichero destino(f_lc_fopen_u(nombre, VNU("wb"), VN_AQUI));
+    if (destino == nullptr) return false;
+    c->listas.blanquea();
+    c->es_ejemplo = true;
+    graba_cabecera_copiada(destino.get(), *c);
+    const int64_t pos_cabecera_target = vornio_ftell_i64(destino.get());
+    const int64_t pos_cabecera_source = vornio_ftell_i64(origen);
+    if (!AFIRMA(pos_cabecera_target == pos_cabecera_source) || !copia_resto(origen, destino.get())) return false;
+    const int64_t longitud1 = lc_tamanyo_fichero_i64(origen);
+    const int64_t longitud2 = lc_tamanyo_fichero_i64(destino.get());
+    return AFIRMA(longitud1 == longitud2) && lc_vuelca_a_disco(destino.get()) == CIERTO &&
+           lc_fclose(destino.release()) == CIERTO;
+}
+
+// No safety copy: it would keep the texts that are blanked.
+bool reemplaza(const vnwchar *nomfich, const vnwchar *nuevo) {
+    const vnoperaciones_fichero *operaciones = operaciones_fichero_actuales();
+    if (operaciones->renombra(nuevo, nomfich) != VN_FICH_BIEN) {
+        error_interno_msg_u(VNU("lc_error_escribiendo_fichero"), VN_AQUI, nomfich, 0);
+        return false;
+    }
+    operaciones->vuelca_directorio(nomfich);
+    return true;
+}
+
+bool marca_con_listas(fichero origen, cabecera *c, const vnwchar *nomfich) {
+    temporal_propio temporal(texto_u(nomfich) + VNU(".TM@"));
+    if (!graba_copia_de_ejemplo(origen.get(), c, temporal.nombre())) return false;
+    origen.reset();
+    if (!reemplaza(nomfich, temporal.nombre())) return false;
+    temporal.suelta();
+    return true;
+}
+
+} // namespace
+
+bool esta_en_directorio_ejemplos(const vnwchar *ruta) {
+    return !directorio_ejemplos.empty() &&
+           widestr_es_subcadena_inicial_may_o_min(ruta, directorio_ejemplos.c_str()) == CIERTO;
+}
+
+} // namespace vn
+
+void vornbin_establece_directorio_ejemplos_u(const vnwchar *directorio) {
+    vn::directorio_ejemplos = directorio != nullptr ? directorio : VNU("");
+}
+
+vnbool vornbin_es_directorio_ejemplos(const char *ruta) {
+    if (!AFIRMA_NO_NULO(ruta)) return FALSO;
+    return vn::esta_en_directorio_ejemplos(vn::ancho_opcional(ruta).get());
+}
+
+vnbool vornbin_marca_fichero_ejemplo_u(const vnwchar *nomfich) {
+    if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
+    vn::fichero f = vn::abre_para_leer(nomfich);
+    if (f == nullptr) return FALSO;
+    vn::cabecera c = vn::lee_cabecera(f.get());
+    const vnbool hay_cabecera = c.hay ? CIERTO : FALSO;
+    if (!AFIRMA(hay_cabecera == CIERTO)) return FALSO;
+    if (c.truncada) {
+        lc_error_leyendo_fichero(f.get());
+        return FALSO;
+    }
+    if (!c.con_listas) f.reset();
+    if (!(c.con_listas ? vn::marca_con_listas(std::move(f), &c, nomfich) : vn::marca_en_su_sitio(nomfich))) return FALSO;
+    // What a save that died may have left: it has the texts that are blanked here.
+    const vn::temporal_propio resto(vn::nombre_temporal(nomfich));
+    return CIERTO;
+}

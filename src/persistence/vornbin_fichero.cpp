@@ -1,0 +1,325 @@
+#define VN_MODULO "vornbin (NUCLEOS.DLL)"
+#include "foundation/afirma.h"
+#include "foundation/arr.h"
+#include "foundation/cad.h"
+#include "foundation/unicode.h"
+#include "foundation/vornfile.h"
+#include "persistence/ultiobra.h"
+#include "persistence/vornbin_cabecera_priv.h"
+
+namespace vn {
+namespace {
+
+// No tags until a prologue says so.
+fichero abre_temporal(const vnwchar *nomfich) {
+    bin_etiquetas_al_escribir = false;
+    return fichero(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nomfich));
+}
+
+// The lists of the file that is about to be replaced. A header that is damaged has none: it must not stand in the way
+// of saving. False, reported, if there is a file that cannot be read: saving would lose what it holds.
+bool lee_listas_existentes(const vnwchar *nomfich, listas_cabecera *listas) {
+    vnestado_fichero estado{};
+    const vnerror_fichero error = operaciones_fichero_actuales()->estado(nomfich, &estado);
+    if (error == VN_FICH_NO_EXISTE || (error == VN_FICH_BIEN && estado.es_directorio == CIERTO)) return true;
+    const fichero f(f_lc_fopen_u(nomfich, VNU("rb"), VN_AQUI));
+    if (f == nullptr) return false;
+    *listas = lee_cabecera(f.get()).listas;
+    if (lc_ha_fallado(f.get()) == FALSO) return true;
+    lc_error_leyendo_fichero(f.get());
+    return false;
+}
+
+fichero abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra, const arrCADENA_u *nombres,
+                          const arrCADENA_u *valores) {
+    ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
+    listas_cabecera listas;
+    if (!lee_listas_existentes(nomfich, &listas)) return nullptr;
+    for (uint32_t i = 0; nombres != nullptr && i < arr_NumElemsCADENA_u(nombres); ++i) {
+        const vnwchar *nombre = arr_GetCADENA_u(nombres, i), *valor = arr_GetCADENA_u(valores, i);
+        listas.pon_campo(nombre != nullptr ? nombre : VNU(""), valor != nullptr ? valor : VNU(""));
+    }
+    fichero f = abre_temporal(nomfich);
+    if (f != nullptr) graba_cabecera(f.get(), listas);
+    return f;
+}
+
+void graba_prologo(vnfichero *f, uint16_t version, const char *firma, const vnwchar *titulo) {
+    const bloque<char> titulo_ansi(unicode_UNICODE_a_ANSI(titulo));
+    bin_graba_modo_debug(f);
+    bin_graba_ushort(version, f);
+    bin_graba_cadena(firma, f);
+    bin_graba_cadena(titulo_ansi.get(), f);
+}
+
+vnfichero *abre_con_cabecera_y_prologo(const vnwchar *nomfich, uint16_t version, const char *firma,
+                                       const vnwchar *titulo, const arrCADENA_u *nombres, const arrCADENA_u *valores,
+                                       const vnwchar *obra) {
+    fichero f = abre_con_cabecera(nomfich, obra, nombres, valores);
+    if (f != nullptr) graba_prologo(f.get(), version, firma, titulo);
+    return f.release();
+}
+
+// Saving over a sample keeps it a sample.
+bool debe_seguir_siendo_ejemplo(const vnwchar *nomfich) {
+    if (!esta_en_directorio_ejemplos(nomfich)) return false;
+    const fichero f(f_lc_fopen_seguro_u(nomfich, VNU("rb"), VN_AQUI));
+    return f != nullptr && lee_cabecera(f.get()).es_ejemplo;
+}
+
+vnbool cierra_como_ejemplo(fichero f, const vnwchar *nomfich) {
+    temporal_propio temporal(nombre_temporal(nomfich));
+    if (lc_fclose(f.release()) == FALSO) return FALSO;
+    f.reset(f_lc_fopen_u(temporal.nombre(), VNU("rb+"), VN_AQUI));
+    if (f == nullptr) return FALSO;
+    const bool hay = lee_cabecera(f.get()).hay;
+    if (lc_ha_fallado(f.get()) == CIERTO) {
+        lc_error_leyendo_fichero(f.get());
+        return FALSO;
+    }
+    if (hay) graba_mascara_de_ejemplo(f.get());
+    if (lc_fclose(f.release()) == FALSO) return FALSO;
+    const texto_u nombre(temporal.nombre());
+    temporal.suelta();
+    return vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(nomfich, nombre.c_str());
+}
+
+vnbool cierra_y_reemplaza(fichero f, const vnwchar *nomfich) {
+    if (debe_seguir_siendo_ejemplo(nomfich)) return cierra_como_ejemplo(std::move(f), nomfich);
+    return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), nomfich);
+}
+
+// Reads a text of the prologue; null after a failure to read.
+bloque<char> lee_texto_del_prologo(vnfichero *f, uint16_t version, uint16_t version_ascii) {
+    bloque<char> texto(bin_lee_cadena_ansi_ascii(f, version, version_ascii));
+    if (lc_ha_fallado(f) == CIERTO) texto.reset();
+    return texto;
+}
+
+// The stream behind its header, or closed where that is no valid one.
+fichero abre_tras_cabecera(const vnwchar *nomfich, cabecera *c) {
+    fichero f = abre_para_leer(nomfich);
+    if (f == nullptr) return f;
+    *c = lee_cabecera(f.get());
+    if (c->truncada) {
+        lc_error_leyendo_fichero(f.get());
+        f.reset();
+        return f;
+    }
+    const vnbool valido = c->valida ? CIERTO : FALSO;
+    if (!AFIRMA(valido == CIERTO)) f.reset();
+    return f;
+}
+
+void da_texto(char **destino, const std::string &texto, bool hay) {
+    if (destino != nullptr) *destino = hay ? cad_copia_cadena(texto.c_str()) : nullptr;
+}
+
+template <class T> void inicia(T *salida, T valor) {
+    if (salida != nullptr) *salida = valor;
+}
+
+} // namespace
+} // namespace vn
+
+vnfichero *vornbin_abre_fichero_para_escritura_u(const vnwchar *nomfich, const vnwchar *obra) {
+    if (!AFIRMA_NO_NULO(nomfich)) return nullptr;
+    return vn::abre_con_cabecera(nomfich, obra, nullptr, nullptr).release();
+}
+
+vnfichero *vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(const vnwchar *nomfich, uint16_t version,
+                                                                           const char *firma, const vnwchar *titulo,
+                                                                           const vnwchar *obra) {
+    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(titulo)) return nullptr;
+    return vn::abre_con_cabecera_y_prologo(nomfich, version, firma, titulo, nullptr, nullptr, obra);
+}
+
+vnfichero *vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(
+    const vnwchar *nomfich, uint16_t version, const char *firma, const vnwchar *titulo, const arrCADENA_u *nombres,
+    const arrCADENA_u *valores, const vnwchar *obra) {
+    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(titulo) || !AFIRMA_NO_NULO(nombres) ||
+        !AFIRMA_NO_NULO(valores) || !AFIRMA(arr_NumElemsCADENA_u(nombres) == arr_NumElemsCADENA_u(valores)))
+        return nullptr;
+    return vn::abre_con_cabecera_y_prologo(nomfich, version, firma, titulo, nombres, valores, obra);
+}
+
+vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(const vnwchar *nomfich,
+                                                                               uint16_t version, const char *firma,
+                                                                               const vnwchar *titulo,
+                                                                               const vnwchar *obra) {
+    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(titulo)) return nullptr;
+    ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
+    vn::fichero f = vn::abre_temporal(nomfich);
+    if (f != nullptr) vn::graba_prologo(f.get(), version, firma, titulo);
+    return f.release();
+}
+
+vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera(const char *nomfich, const char *obra) {
+    if (!AFIRMA_NO_NULO(nomfich)) return nullptr;
+    ultiobra_guarda_nombre_ultima_obra_u(nullptr, vn::ancho_opcional(obra).get());
+    return vn::abre_temporal(vn::ancho_opcional(nomfich).get()).release();
+}
+
+vnfichero *vornbin_abre_basico_fichero_para_escritura(const char *nomfich) {
+    return vornbin_abre_fichero_para_escritura_sin_cabecera(nomfich, nullptr);
+}
+
+vnbool vornbin_cierra_fichero_abierto_para_escritura_u(vnfichero *f, const vnwchar *nomfich, const vnwchar *obra) {
+    if (!AFIRMA_NO_NULO(f)) return FALSO;
+    vn::fichero abierto(f);
+    if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
+    const vnbool grabado = vn::cierra_y_reemplaza(std::move(abierto), nomfich);
+    if (grabado == CIERTO) ultiobra_guarda_nombre_ultima_obra_u(nomfich, obra);
+    return grabado;
+}
+
+vnbool vornbin_cierra_fichero_abierto_para_escritura(vnfichero *f, const char *nomfich, const char *obra) {
+    if (!AFIRMA_NO_NULO(f)) return FALSO;
+    vn::fichero abierto(f);
+    if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
+    const vn::bloque<vnwchar> nombre = vn::ancho_opcional(nomfich), obra_ancho = vn::ancho_opcional(obra);
+    return vornbin_cierra_fichero_abierto_para_escritura_u(abierto.release(), nombre.get(), obra_ancho.get());
+}
+
+vnbool vornbin_cierra_basico_fichero_abierto_para_escritura(vnfichero *f, const char *nomfich) {
+    return vornbin_cierra_fichero_abierto_para_escritura(f, nomfich, nullptr);
+}
+
+void vornbin_abandona_fichero_abierto_para_escritura_u(vnfichero *f, const vnwchar *nomfich) {
+    if (!AFIRMA_NO_NULO(f)) return;
+    lc_fclose_seguro(f);
+    if (!AFIRMA_NO_NULO(nomfich)) return;
+    const vn::temporal_propio temporal(vn::nombre_temporal(nomfich));
+}
+
+vnfichero *vornbin_abre_fichero_para_lectura_u(const vnwchar *nomfich, char **version_texto, char **revision_texto,
+                                               vnbool *es_ejemplo) {
+    vn::inicia<char *>(version_texto, nullptr);
+    vn::inicia<char *>(revision_texto, nullptr);
+    vn::inicia(es_ejemplo, FALSO);
+    if (!AFIRMA_NO_NULO(nomfich)) return nullptr;
+    vn::cabecera c;
+    vn::fichero f = vn::abre_tras_cabecera(nomfich, &c);
+    if (f == nullptr) return nullptr;
+    vn::da_texto(version_texto, c.version, c.hay);
+    vn::da_texto(revision_texto, c.revision, c.hay);
+    vn::inicia(es_ejemplo, static_cast<vnbool>(c.es_ejemplo));
+    return f.release();
+}
+
+vnfichero *vornbin_abre_fichero_para_lectura_unicode(const vnwchar *nomfich, const vnwchar *obra) {
+    if (!AFIRMA_NO_NULO(nomfich)) return nullptr;
+    ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
+    return vornbin_abre_fichero_para_lectura_u(nomfich, nullptr, nullptr, nullptr);
+}
+
+vnfichero *vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(
+    const vnwchar *nomfich, uint16_t version_actual, const char *firma, const vnwchar *obra, uint16_t *version,
+    vnwchar **titulo, uint16_t version_ascii, vnbool *es_ejemplo, vnbool *version_superior) {
+    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(version) || !AFIRMA_NO_NULO(titulo))
+        return nullptr;
+    *version = 0;
+    *titulo = nullptr;
+    vn::inicia(es_ejemplo, FALSO);
+    vn::inicia(version_superior, FALSO);
+    ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
+
+    vn::cabecera c;
+    vn::fichero f = vn::abre_tras_cabecera(nomfich, &c);
+    if (f == nullptr) return nullptr;
+    vn::inicia(es_ejemplo, static_cast<vnbool>(c.es_ejemplo));
+    vn::bin_lee_modo_debug(f.get());
+    *version = bin_lee_ushort(f.get());
+    if (lc_ha_fallado(f.get()) == CIERTO) return nullptr;
+    if (*version > version_actual && version_superior != nullptr) *version_superior = CIERTO;
+    else if (!AFIRMA(*version <= version_actual)) return nullptr;
+
+    const vn::bloque<char> buf = vn::lee_texto_del_prologo(f.get(), *version, version_ascii);
+    if (buf == nullptr) return nullptr;
+    if (cad_cadenas_iguales(buf.get(), firma) == FALSO) {
+        error_interno_msg_u(VNU("cad_cadenas_iguales(buf, firma)"), VN_AQUI, nomfich, 0);
+        return nullptr;
+    }
+    const vn::bloque<char> titulo_ansi = vn::lee_texto_del_prologo(f.get(), *version, version_ascii);
+    if (titulo_ansi == nullptr) return nullptr;
+    *titulo = unicode_convierte_ANSI_a_UNICODE(titulo_ansi.get());
+    return f.release();
+}
+
+namespace vn {
+namespace {
+
+enum class resultado { bien, no_se_lee, version_superior, otra_firma };
+
+// The prologue of a file without header. The stream is open only after `bien`.
+resultado abre_tras_prologo(const vnwchar *nomfich, uint16_t version_actual, const char *firma, uint16_t version_ascii,
+                            fichero *f, uint16_t *version, bloque<char> *titulo) {
+    fichero abierto = abre_para_leer(nomfich);
+    if (abierto == nullptr) return resultado::no_se_lee;
+    bin_lee_modo_debug(abierto.get());
+    *version = bin_lee_ushort(abierto.get());
+    if (lc_ha_fallado(abierto.get()) == CIERTO) return resultado::no_se_lee;
+    if (*version > version_actual) return resultado::version_superior;
+    const bloque<char> buf = lee_texto_del_prologo(abierto.get(), *version, version_ascii);
+    if (buf == nullptr) return resultado::no_se_lee;
+    if (cad_cadenas_iguales(buf.get(), firma) == FALSO) return resultado::otra_firma;
+    *titulo = lee_texto_del_prologo(abierto.get(), *version, version_ascii);
+    if (*titulo == nullptr) return resultado::no_se_lee;
+    *f = std::move(abierto);
+    return resultado::bien;
+}
+
+} // namespace
+} // namespace vn
+
+vnfichero *vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(
+    const vnwchar *nomfich, uint16_t version_actual, const char *firma, const vnwchar *obra, uint16_t *version,
+    char **titulo, uint16_t version_ascii) {
+    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(version) || !AFIRMA_NO_NULO(titulo))
+        return nullptr;
+    *version = 0;
+    *titulo = nullptr;
+    ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
+    vn::fichero f;
+    vn::bloque<char> titulo_leido;
+    switch (vn::abre_tras_prologo(nomfich, version_actual, firma, version_ascii, &f, version, &titulo_leido)) {
+    case vn::resultado::bien: *titulo = titulo_leido.release(); return f.release();
+    case vn::resultado::version_superior:
+        error_interno_msg_u(VNU("*version <= version_actual"), VN_AQUI, nomfich, 0);
+        return nullptr;
+    case vn::resultado::otra_firma:
+        error_interno_msg_u(VNU("cad_cadenas_iguales(buf, firma)"), VN_AQUI, nomfich, 0);
+        return nullptr;
+    case vn::resultado::no_se_lee: break;
+    }
+    return nullptr;
+}
+
+vnbool vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(
+    const vnwchar *nomfich, uint16_t version_actual, const char *firma, const vnwchar *obra, uint16_t version_ascii,
+    vnfichero **f, uint16_t *version, char **titulo) {
+    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(version) ||
+        !AFIRMA_NO_NULO(titulo))
+        return FALSO;
+    *f = nullptr;
+    *version = UINT16_MAX;
+    *titulo = nullptr;
+    vn::fichero abierto;
+    vn::bloque<char> titulo_leido;
+    uint16_t version_leida = 0;
+    if (vn::abre_tras_prologo(nomfich, version_actual, firma, version_ascii, &abierto, &version_leida, &titulo_leido) !=
+        vn::resultado::bien)
+        return FALSO;
+    ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
+    *version = version_leida;
+    *titulo = titulo_leido.release();
+    *f = abierto.release();
+    return CIERTO;
+}
+
+void vornbin_cierra_fichero_abierto_para_lectura_u(vnfichero *f, const vnwchar *nomfich, const vnwchar *obra) {
+    if (!AFIRMA_NO_NULO(f)) return;
+    lc_fclose(f);
+    if (!AFIRMA_NO_NULO(nomfich)) return;
+    ultiobra_guarda_nombre_ultima_obra_u(nomfich, obra);
+}

@@ -1,0 +1,172 @@
+#define VN_MODULO "vornbin (NUCLEOS.DLL)"
+#include "foundation/afirma.h"
+#include "foundation/arr.h"
+#include "foundation/avisos.h"
+#include "foundation/cad.h"
+#include "foundation/vnstdc.h"
+#include "foundation/widestr.h"
+#include "persistence/vornbin_cabecera_priv.h"
+#include "persistence/vornbin_msg_priv.h"
+
+namespace vn {
+namespace {
+
+struct libera_textos {
+    void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
+};
+using textos = std::unique_ptr<arrCADENA_u, libera_textos>;
+
+// Opens a file and reads its header; false, reported, when there is no file to read.
+bool abre_y_lee_cabecera(const vnwchar *nomfich, fichero *f, cabecera *c) {
+    *f = abre_para_leer(nomfich);
+    if (!AFIRMA_NO_NULO(*f)) return false;
+    *c = lee_cabecera(f->get());
+    return true;
+}
+
+// The length of a text of the prologue, without a tag, read only if the file goes on.
+bool lee_longitud(vnfichero *f, uint16_t *n) { return f_lc_fread_sin_error(n, sizeof *n, 1, f) == 1; }
+
+// A text of `n` bytes by the ANSI or ASCII rule; null where the file ends before.
+bloque<char> lee_texto(vnfichero *f, uint16_t n, uint16_t version, uint16_t version_ascii) {
+    if (lc_quedan(f, n, 1) == FALSO) return nullptr;
+    bloque<char> texto(creacadena(n));
+    f_lc_fread_ansi_ascii(texto.get(), 1, n, f, version, version_ascii, VN_AQUI);
+    return texto;
+}
+
+// The title of a file that can be read, null for any other.
+bloque<char> titulo_si_es_valido(vnfichero *f, uint16_t version_actual, const char *firma, uint16_t version_ascii) {
+    // The debug byte, the version and the lengths of two texts.
+    constexpr int64_t MINIMO = 7;
+    const auto n = static_cast<int64_t>(strlen(firma));
+    if (lc_tamanyo_fichero_i64(f) < n + MINIMO) return nullptr;
+    if (!lee_cabecera(f).valida || !bin_lee_modo_debug(f) || lc_quedan(f, sizeof(uint16_t), 1) == FALSO) return nullptr;
+    const uint16_t version = bin_lee_ushort(f);
+    if (version > version_actual) return nullptr;
+    uint16_t longitud_firma = 0, longitud_titulo = 0;
+    if (!lee_longitud(f, &longitud_firma) || longitud_firma != n) return nullptr;
+    const bloque<char> leida = lee_texto(f, longitud_firma, version, version_ascii);
+    if (leida == nullptr || cad_cadenas_iguales(leida.get(), firma) == FALSO) return nullptr;
+    if (!lee_longitud(f, &longitud_titulo)) return nullptr;
+    return lee_texto(f, longitud_titulo, version, version_ascii);
+}
+
+bool comprueba_marca(const char *id, vnfichero *f) {
+    const size_t n = strlen(id);
+    auto *v = reinterpret_cast<vnfichero_ventana *>(f);
+    if (v->fin_lectura - v->pos >= static_cast<ptrdiff_t>(n)) {
+        if (memcmp(v->pos, id, n) != 0) return false;
+        v->pos += n;
+        return true;
+    }
+    const int64_t pos = vornio_ftell_i64(f);
+    for (; *id != 0; ++id) {
+        if (vnfichero_toma_byte(f) == static_cast<unsigned char>(*id)) continue;
+        vornio_fseek_i64(f, pos, VN_DESDE_EL_PRINCIPIO);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+} // namespace vn
+
+vnbool vornbin_hay_cabecera_en_fichero_u(const vnwchar *nomfich, char **version_texto, char **revision_texto,
+                                         vnbool *es_ejemplo) {
+    if (version_texto != nullptr) *version_texto = nullptr;
+    if (revision_texto != nullptr) *revision_texto = nullptr;
+    if (es_ejemplo != nullptr) *es_ejemplo = FALSO;
+    if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
+    vn::fichero f;
+    vn::cabecera c;
+    if (!vn::abre_y_lee_cabecera(nomfich, &f, &c)) return FALSO;
+    const vnbool fichero_valido = c.valida ? CIERTO : FALSO;
+    if (!AFIRMA(fichero_valido == CIERTO) || !c.hay) return FALSO;
+    if (version_texto != nullptr) *version_texto = cad_copia_cadena(c.version.c_str());
+    if (revision_texto != nullptr) *revision_texto = cad_copia_cadena(c.revision.c_str());
+    if (es_ejemplo != nullptr) *es_ejemplo = c.es_ejemplo;
+    return CIERTO;
+}
+
+vnbool vornbin_es_fichero_vorn_valido(const char *nomfich) {
+    if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
+    vn::fichero f;
+    vn::cabecera c;
+    return vn::abre_y_lee_cabecera(vn::ancho_opcional(nomfich).get(), &f, &c) && c.valida;
+}
+
+vnbool bin_fichero_valido(vnfichero *f, uint16_t version_actual, const char *firma, char **titulo,
+                          uint16_t version_ascii) {
+    if (titulo != nullptr) *titulo = nullptr;
+    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(firma)) return FALSO;
+    vn::bloque<char> leido = vn::titulo_si_es_valido(f, version_actual, firma, version_ascii);
+    if (leido == nullptr) return FALSO;
+    if (titulo != nullptr) *titulo = leido.release();
+    return CIERTO;
+}
+
+vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, const char *firma,
+                            uint32_t tamanyo_titulo, char *titulo, uint16_t version_ascii) {
+    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma)) return FALSO;
+    const vn::fichero f = vn::abre_para_leer(nomfich);
+    const vn::bloque<char> leido =
+        f != nullptr ? vn::titulo_si_es_valido(f.get(), version_actual, firma, version_ascii) : nullptr;
+    if (leido == nullptr) {
+        const vn::bloque<vnwchar> mensaje(textomsgu_obtener_mensaje(vornbin_msg_32342, nomfich));
+        vnaviso_aviso_interno_como_error_u(mensaje.get());
+        return FALSO;
+    }
+    if (titulo != nullptr) vnstdc_strncpy(titulo, leido.get(), tamanyo_titulo);
+    return CIERTO;
+}
+
+vnbool vornbin_lee_datos_cabecera_debug_soporte(const char *nomfich, char **version_texto, char **revision_texto,
+                                                vnbool *es_ejemplo, vnwchar **contenido) {
+    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(version_texto) || !AFIRMA_NO_NULO(revision_texto) ||
+        !AFIRMA_NO_NULO(es_ejemplo) || !AFIRMA_NO_NULO(contenido))
+        return FALSO;
+    *version_texto = *revision_texto = nullptr;
+    *es_ejemplo = FALSO;
+    *contenido = nullptr;
+    vn::cabecera c;
+    if (const vn::fichero f = vn::abre_para_leer(vn::ancho_opcional(nomfich).get()); f != nullptr)
+        c = vn::lee_cabecera(f.get());
+    if (!c.hay || !c.valida) {
+        *contenido = widestr_copia(!c.hay ? VNU("ERROR - No hay cabecera") : VNU("ERROR - El fichero no es válido"));
+        return FALSO;
+    }
+    vn::texto_u texto;
+    c.listas.recorre_campos([&texto](const vn::texto_u &nombre, const vn::texto_u &valor) {
+        texto.append(nombre).append(VNU("=")).append(valor).append(VNU("\n"));
+    });
+    *contenido = widestr_copia(texto.c_str());
+    *version_texto = cad_copia_cadena(c.version.c_str());
+    *revision_texto = cad_copia_cadena(c.revision.c_str());
+    *es_ejemplo = c.es_ejemplo;
+    return CIERTO;
+}
+
+vnbool vornbin_lee_campos_cabecera_u(const vnwchar *nomfich, arrCADENA_u **nombres, arrCADENA_u **valores) {
+    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(nombres) || !AFIRMA_NO_NULO(valores)) return FALSO;
+    *nombres = *valores = nullptr;
+    vn::textos leidos_nombres(arr_CreaCADENA_u(0)), leidos_valores(arr_CreaCADENA_u(0));
+    const vn::fichero f = vn::abre_para_leer(nomfich);
+    const vn::cabecera c = f != nullptr ? vn::lee_cabecera(f.get()) : vn::cabecera{};
+    if (c.valida)
+        c.listas.recorre_campos([&](const vn::texto_u &nombre, const vn::texto_u &valor) {
+            arr_AppendCADENA_u(leidos_nombres.get(), nombre.c_str());
+            arr_AppendCADENA_u(leidos_valores.get(), valor.c_str());
+        });
+    *nombres = leidos_nombres.release();
+    *valores = leidos_valores.release();
+    return c.hay && c.valida;
+}
+
+vnbool vornbin_se_comprueba_marca(const char *id, vnfichero *f) {
+    return AFIRMA_NO_NULO(id) && AFIRMA_NO_NULO(f) && vn::comprueba_marca(id, f);
+}
+
+vnbool vornbin_se_comprueba_marca64(const char *id, vnfichero *f) {
+    return AFIRMA_NO_NULO(id) && AFIRMA_NO_NULO(f) && vn::comprueba_marca(id, f);
+}

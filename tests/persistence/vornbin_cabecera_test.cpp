@@ -1,0 +1,527 @@
+#include "foundation/arr.h"
+#include "foundation/unicode.h"
+#include "foundation/version.h"
+#include "foundation/vnstdc.h"
+#include "persistence/ultiobra.h"
+#include "persistence/vornbin.h"
+#include "prueba.h"
+
+namespace {
+
+using namespace std::string_literals;
+using ancho_t = std::basic_string<vnwchar>;
+
+std::string u16le(std::string_view ascii) {
+    std::string s;
+    for (const char c : ascii) (s += c) += '\0';
+    return s;
+}
+std::string numero(uint32_t n) { return {static_cast<char>(n), static_cast<char>(n >> 8), static_cast<char>(n >> 16), static_cast<char>(n >> 24)}; }
+std::string texto_u(std::string_view ascii) { return numero(static_cast<uint32_t>(ascii.size())) + u16le(ascii); }
+std::string texto(std::string_view s) { return numero(static_cast<uint32_t>(s.size())).substr(0, 2) + std::string(s); }
+
+const std::string ID = "\2\1"s + texto("VORN-9-a");
+const std::string SIN_LISTAS = numero(0) + numero(0);
+// One field, two entries of the reserved list.
+const std::string LISTAS = numero(1) + texto_u("obra") + texto_u("puente") + numero(2) + numero(7) + texto_u("x") + numero(9) + texto_u("");
+const std::string MARCA = "\xFD\xFE";
+
+// A file of the test's, by its names of both widths.
+struct archivo {
+    explicit archivo(const char *nombre = "obra.vrn") : ruta(vn::Prueba::directorio() + "/" + nombre), ruta_u(vn::ancho(ruta)) {}
+    const vnwchar *u() const { return ruta_u.c_str(); }
+    const char *ansi() const { return ruta.c_str(); }
+    void graba(std::string_view bytes) const { vn::graba_fichero(ruta, bytes); }
+    std::string lee() const { return vn::lee_fichero(ruta); }
+    bool hay(const char *sufijo = "") const { return vn::existe(ruta + sufijo); }
+    std::string ruta;
+    ancho_t ruta_u;
+};
+
+std::string toma(char *p) {
+    const std::string s = p != nullptr ? p : "(null)";
+    if (p != nullptr) vornspy_free_pp(&p, 1);
+    return s;
+}
+std::string toma(vnwchar *p) {
+    const std::string s = p != nullptr ? vn::utf8_de(p) : "(null)";
+    if (p != nullptr) vornspy_free_pp(&p, 1);
+    return s;
+}
+std::string toma(arrCADENA_u *a) {
+    std::string s;
+    for (uint32_t i = 0; i < arr_NumElemsCADENA_u(a); ++i) s += vn::utf8_de(arr_GetCADENA_u(a, i)) + ";";
+    arr_DestruyeCADENA_u(&a);
+    return s;
+}
+
+std::string campos(const archivo &a) {
+    arrCADENA_u *nombres = nullptr, *valores = nullptr;
+    const vnbool hay = vornbin_lee_campos_cabecera_u(a.u(), &nombres, &valores);
+    const std::string n = toma(nombres), v = toma(valores);
+    return hay == CIERTO ? n + "=" + v : "no";
+}
+
+// Saves over `a` with header and prologue, and one byte of data.
+vnbool guarda(const archivo &a, char dato = 'D') {
+    vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(a.u(), 3, "FIRMA", VNU("Título"), nullptr);
+    if (f == nullptr) return FALSO;
+    bin_graba_char(dato, f);
+    return vornbin_cierra_fichero_abierto_para_escritura_u(f, a.u(), nullptr);
+}
+
+const std::string PROLOGO = "\0\3\0"s + texto("FIRMA") + texto("T\xEDtulo");
+
+// The identity of the program and the code page while a test runs.
+class identidad {
+  public:
+    identidad() {
+        version_establece_u(VNU("9.1"), VNU("9"), 'a');
+        unicode_establece_pagina_ANSI(1252);
+    }
+    ~identidad() {
+        version_establece_u(VNU("1.0"), VNU("1"), 'a');
+        unicode_establece_pagina_ANSI(pagina_);
+        vornbin_establece_directorio_ejemplos_u(nullptr);
+        operaciones_fichero_instala(nullptr);
+    }
+    identidad(const identidad &) = delete;
+    identidad &operator=(const identidad &) = delete;
+
+  private:
+    uint32_t pagina_ = unicode_pagina_ANSI();
+};
+
+// Runs, and checks that it made the one report named, or none for null.
+template <class F> void con_informe(const char *informe, F &&funcion) {
+    funcion();
+    if (informe != nullptr) vn::espera_informes({informe}, __FILE__, __LINE__);
+    else vn::espera_informes({}, __FILE__, __LINE__);
+}
+
+struct apertura {
+    std::string resultado; // "open", "closed"
+    uint16_t version = 0;
+    std::string titulo, resto;
+    vnbool ejemplo = FALSO;
+};
+
+apertura abre_completo(const archivo &a, uint16_t version_actual, vnbool *superior, uint16_t version_ascii = 0) {
+    apertura r;
+    vnwchar *titulo = nullptr;
+    vnfichero *f = vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(a.u(), version_actual, "FIRMA", nullptr, &r.version, &titulo,
+                                                                                version_ascii, &r.ejemplo, superior);
+    r.resultado = f != nullptr ? "open" : "closed";
+    r.titulo = toma(titulo);
+    if (f == nullptr) return r;
+    r.resto.resize(static_cast<size_t>(lc_bytes_restantes(f)));
+    f_lc_fread_sin_error(r.resto.data(), 1, r.resto.size(), f);
+    lc_fclose(f);
+    return r;
+}
+
+} // namespace
+
+PRUEBA(vornbin_cabecera, las_cuatro_formas_de_fichero_al_byte) {
+    const identidad i;
+    const archivo a;
+    const auto cierra = [&](vnfichero *f) {
+        bin_graba_char('D', f);
+        EXPECT_FALSE(a.hay());
+        EXPECT_TRUE(a.hay("_TM$"));
+        EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(f, a.u(), nullptr), CIERTO);
+        const std::string bytes = a.lee();
+        EXPECT_FALSE(a.hay("_TM$"));
+        std::remove(a.ansi());
+        return bytes;
+    };
+    EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(a.u(), 3, "FIRMA", VNU("Título"), nullptr)),
+              ID + "\1" + MARCA + SIN_LISTAS + PROLOGO + "D");
+    EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_u(a.u(), nullptr)), ID + "\1" + MARCA + SIN_LISTAS + "D");
+    EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(a.u(), 3, "FIRMA", VNU("Título"), nullptr)), PROLOGO + "D");
+    EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_sin_cabecera(a.ansi(), nullptr)), "D");
+    EXPECT_EQ(cierra(vornbin_abre_basico_fichero_para_escritura(a.ansi())), "D");
+    // The ANSI forms of the close.
+    EXPECT_EQ(vornbin_cierra_basico_fichero_abierto_para_escritura(vornbin_abre_basico_fichero_para_escritura(a.ansi()), a.ansi()), CIERTO);
+    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura(vornbin_abre_basico_fichero_para_escritura(a.ansi()), a.ansi(), nullptr), CIERTO);
+    EXPECT_EQ(a.lee(), "");
+}
+
+PRUEBA(vornbin_cabecera, que_identificaciones_y_formas_se_aceptan) {
+    const auto con_id = [](const std::string &id) { return "\2\1" + texto(id) + "\1" + MARCA + SIN_LISTAS + "datos"; };
+    const struct {
+        const char *que;
+        std::string bytes;
+        bool hay, valido;
+        std::string version, revision;
+        bool ejemplo;
+        size_t pos; // where the data begin
+    } filas[] = {
+        {"plain", con_id("VORN-9-a"), true, true, "9", "a", false, 23},
+        {"sample", con_id("WENK-2026-b"), true, true, "2026", "b", true, 26},
+        {"revision of one digit", con_id("VORN-9-7"), true, true, "9", "7", false, 23},
+        {"longer revision", con_id("VORN-9-ab"), true, true, "9", "ab", false, 24},
+        {"longer revision that begins with a digit", con_id("VORN-9-7x"), false, true, "", "", false, 0},
+        {"four pieces", con_id("VORN-9-a-b"), false, true, "", "", false, 0},
+        {"two pieces", con_id("VORN-9"), false, true, "", "", false, 0},
+        {"no revision", con_id("VORN-9-"), false, true, "", "", false, 0},
+        {"another mask", con_id("VORM-9-a"), false, true, "", "", false, 0},
+        {"no version text", con_id("VORN--a"), true, true, "", "a", false, 22},
+        {"199 characters", con_id("VORN-" + std::string(192, '1') + "-a"), true, true, std::string(192, '1'), "a", false, 214},
+        {"200 characters", con_id("VORN-" + std::string(193, '1') + "-a"), false, true, "", "", false, 0},
+        {"empty file", "", false, true, "", "", false, 0},
+        {"two bytes", "\2\1", false, true, "", "", false, 0},
+        {"length of 200 and nothing else", "\2\1\xC8\0"s, false, true, "", "", false, 0},
+        {"text cut short", "\2\1\10\0VORN-9-"s, false, true, "", "", false, 0},
+        {"another first byte", "\1" + con_id("VORN-9-a").substr(1), false, true, "", "", false, 0},
+        {"form 0 with lists", ID + "\0"s + MARCA + LISTAS, true, true, "9", "a", false, 15 + LISTAS.size()},
+        {"form 1 of the first years", ID + "\1" "datos", true, true, "9", "a", false, 13},
+        {"form 0 of the first years", ID + "\0datos"s, true, true, "9", "a", false, 13},
+        {"form 1 at the end of the file", ID + "\1", true, true, "9", "a", false, 13},
+        {"half the mark", ID + "\1\xFD", true, true, "9", "a", false, 13},
+        {"form 2, lists at once", ID + "\2" + LISTAS + "datos", true, true, "9", "a", false, 13 + LISTAS.size()},
+        {"form 3", ID + "\3", true, false, "", "", false, 0},
+        {"no form byte", ID, true, false, "", "", false, 0},
+    };
+    const archivo a;
+    for (const auto &fila : filas) {
+        a.graba(fila.bytes);
+        char *version = nullptr, *revision = nullptr;
+        vnbool ejemplo = 7;
+        vnbool hay = FALSO;
+        if (fila.valido) hay = vornbin_hay_cabecera_en_fichero_u(a.u(), &version, &revision, &ejemplo);
+        else ESPERA_INFORME("fichero_valido == CIERTO", vornbin_hay_cabecera_en_fichero_u(a.u(), &version, &revision, &ejemplo));
+        EXPECT_EQ(hay, fila.hay && fila.valido) << fila.que;
+        EXPECT_EQ(vornbin_es_fichero_vorn_valido(a.ansi()), fila.valido) << fila.que;
+        EXPECT_EQ(toma(version), hay ? fila.version : "(null)") << fila.que;
+        EXPECT_EQ(toma(revision), hay ? fila.revision : "(null)") << fila.que;
+        if (fila.valido) {
+            EXPECT_EQ(ejemplo, fila.ejemplo) << fila.que;
+        }
+        if (!fila.valido) continue;
+        vnfichero *f = vornbin_abre_fichero_para_lectura_unicode(a.u(), nullptr);
+        ASSERT_NE(f, nullptr) << fila.que;
+        EXPECT_EQ(lc_ftell(f), static_cast<int32_t>(fila.pos)) << fila.que;
+        lc_fclose(f);
+    }
+}
+
+PRUEBA(vornbin_cabecera, los_campos_y_la_lista_reservada_pasan_de_un_guardado_a_otro) {
+    const identidad i;
+    const archivo a;
+    EXPECT_EQ(guarda(a), CIERTO);
+    EXPECT_EQ(campos(a), "=");
+    for (const std::string &forma : {"\1" + MARCA, "\0"s + MARCA, "\2"s}) {
+        a.graba("\2\1" + texto("VORN-1-z") + forma + LISTAS + PROLOGO + "viejo");
+        EXPECT_EQ(guarda(a), CIERTO);
+        EXPECT_EQ(guarda(a), CIERTO);
+        EXPECT_EQ(a.lee(), ID + "\1" + MARCA + LISTAS + PROLOGO + "D");
+        EXPECT_EQ(campos(a), "obra;=puente;");
+    }
+    // A host gives fields: one in its place, one at the end, twice the same the last one.
+    const auto da = [&](std::initializer_list<const vnwchar *> nombres, std::initializer_list<const vnwchar *> valores) {
+        arrCADENA_u *n = arr_CreaCADENA_u(0), *v = arr_CreaCADENA_u(0);
+        for (auto t : nombres) arr_AppendCADENA_u(n, t);
+        for (auto t : valores) arr_AppendCADENA_u(v, t);
+        vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "FIRMA", VNU("Título"), n, v, nullptr);
+        arr_DestruyeCADENA_u(&n);
+        arr_DestruyeCADENA_u(&v);
+        return f;
+    };
+    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(da({VNU("obra"), VNU("autor")}, {VNU("túnel largo"), VNU("")}), a.u(), nullptr), CIERTO);
+    EXPECT_EQ(campos(a), "obra;autor;=túnel largo;;");
+    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(da({VNU("obra"), VNU("obra")}, {VNU(""), VNU("fin")}), a.u(), nullptr), CIERTO);
+    EXPECT_EQ(campos(a), "obra;autor;=fin;;");
+    EXPECT_NE(a.lee().find(numero(2) + numero(7) + texto_u("x") + numero(9) + texto_u("") + PROLOGO), std::string::npos);
+    EXPECT_EQ(ESPERA_INFORME("arr_NumElemsCADENA_u(nombres) == arr_NumElemsCADENA_u(valores)", da({VNU("obra")}, {})), nullptr);
+    // A damaged header does not stand in the way of saving over it.
+    a.graba(ID + "\1" + MARCA + numero(0x40000000) + "x");
+    EXPECT_EQ(campos(a), "no");
+    EXPECT_EQ(guarda(a), CIERTO);
+    EXPECT_EQ(a.lee(), ID + "\1" + MARCA + SIN_LISTAS + PROLOGO + "D");
+}
+
+PRUEBA(vornbin_cabecera, la_lectura_estricta_se_niega_con_el_nombre_del_fichero) {
+    const identidad i;
+    const archivo a;
+    guarda(a);
+    vnbool superior = 7;
+    apertura r = abre_completo(a, 3, &superior);
+    EXPECT_EQ(r.resultado + r.titulo + r.resto, "openTítuloD");
+    EXPECT_TRUE(r.version == 3 && superior == FALSO && r.ejemplo == FALSO);
+    // A newer file: read on when the caller asks to be told.
+    r = abre_completo(a, 2, &superior);
+    EXPECT_EQ(r.resultado + r.titulo + r.resto, "openTítuloD");
+    EXPECT_TRUE(r.version == 3 && superior == CIERTO);
+    r = ESPERA_INFORME("*version <= version_actual", abre_completo(a, 2, nullptr));
+    EXPECT_EQ(r.resultado + r.titulo, "closed(null)");
+    // Title of an old version, in the OEM page; no header is no fault.
+    a.graba("\0\3\0"s + texto("FIRMA") + texto("T\xA1tulo") + "D");
+    EXPECT_EQ(abre_completo(a, 3, nullptr, 3).titulo, "Título");
+    EXPECT_EQ(abre_completo(a, 3, nullptr, 2).titulo, "T¡tulo");
+    a.graba("\0\3\0"s + texto("OTRA") + texto("T") + "D");
+    r = abre_completo(a, 3, nullptr);
+    const auto informes = vn::Prueba::toma_informes();
+    ASSERT_EQ(informes.size(), 1u);
+    EXPECT_EQ(informes[0].expresion, "cad_cadenas_iguales(buf, firma)");
+    EXPECT_EQ(informes[0].detalle, a.ruta);
+    a.graba(ID + "\3" + PROLOGO);
+    r = ESPERA_INFORME("valido == CIERTO", abre_completo(a, 3, nullptr));
+    EXPECT_EQ(r.resultado, "closed");
+    r = ESPERA_INFORME("f_lc_fopen", abre_completo(archivo("no_hay"), 3, nullptr));
+    EXPECT_EQ(r.resultado, "closed");
+}
+
+PRUEBA(vornbin_cabecera, el_prologo_solo_se_lee_de_forma_estricta_y_tolerante) {
+    const archivo a;
+    const struct {
+        const char *que;
+        std::string bytes;
+        const char *informe_estricto, *informe_tolerante;
+    } filas[] = {
+        {"good", "\0\3\0"s + texto("FIRMA") + texto("t") + "D", nullptr, nullptr},
+        {"newer", "\0\4\0"s + texto("FIRMA") + texto("t"), "*version <= version_actual", nullptr},
+        {"another signature", "\0\3\0"s + texto("FIRMB") + texto("t"), "cad_cadenas_iguales(buf, firma)", nullptr},
+        {"cut in the version", "\0\3"s, "lc_error_leyendo_fichero", "lc_error_leyendo_fichero"},
+        {"cut in the title", "\0\3\0"s + texto("FIRMA") + "\5\0t"s, "lc_error_leyendo_fichero", "lc_error_leyendo_fichero"},
+    };
+    for (const auto &fila : filas) {
+        a.graba(fila.bytes);
+        uint16_t version = 7;
+        char *titulo = nullptr;
+        vnfichero *f = nullptr;
+        const auto estricto = [&] { f = vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(a.u(), 3, "FIRMA", nullptr, &version, &titulo, 0); };
+        const auto tolerante = [&] { return vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(a.u(), 3, "FIRMA", nullptr, 0, &f, &version, &titulo); };
+        con_informe(fila.informe_estricto, estricto);
+        const bool bien = fila.informe_estricto == nullptr;
+        EXPECT_EQ(toma(titulo), bien ? "t" : "(null)") << fila.que;
+        EXPECT_EQ(f != nullptr, bien) << fila.que;
+        if (f != nullptr) {
+            EXPECT_EQ(bin_lee_char(f), 'D');
+            vornbin_cierra_fichero_abierto_para_lectura_u(f, a.u(), nullptr);
+        }
+        vnbool abierto = 7;
+        con_informe(fila.informe_tolerante, [&] { abierto = tolerante(); });
+        EXPECT_EQ(abierto, bien) << fila.que;
+        EXPECT_EQ(version, bien ? 3 : 65535) << fila.que;
+        EXPECT_EQ(toma(titulo), bien ? "t" : "(null)") << fila.que;
+        EXPECT_EQ(f != nullptr, bien) << fila.que;
+        if (f != nullptr) lc_fclose(f);
+    }
+}
+
+PRUEBA(vornbin_cabecera, un_fichero_que_no_se_puede_leer_se_dice_al_usuario) {
+    const identidad i;
+    const archivo a;
+    const std::string bueno = ID + "\1" + MARCA + LISTAS + PROLOGO + "D";
+    const struct {
+        const char *que;
+        std::string bytes;
+        uint16_t version_actual;
+        bool valido;
+    } filas[] = {
+        {"full", bueno, 3, true},
+        {"prologue only", PROLOGO, 3, true},
+        {"newer", bueno, 2, false},
+        {"another signature of that length", "\0\3\0"s + texto("FIRMO") + texto("t"), 3, false},
+        {"longer signature", "\0\3\0"s + texto("FIRMA2") + texto("t"), 3, false},
+        {"debug byte of 2", "\2" + PROLOGO.substr(1), 3, false},
+        {"form 3", ID + "\3" + PROLOGO, 3, false},
+        {"title cut", PROLOGO.substr(0, PROLOGO.size() - 1), 3, false},
+        {"one byte less than the least", PROLOGO.substr(0, 11), 3, false},
+        {"nothing behind the header", ID + "\1", 3, false},
+    };
+    for (const auto &fila : filas) {
+        a.graba(fila.bytes);
+        char titulo[8] = "-------";
+        EXPECT_EQ(bin_fichero_valido_u(a.u(), fila.version_actual, "FIRMA", 7, titulo, 0), fila.valido) << fila.que;
+        EXPECT_EQ(titulo, fila.valido ? "T\xEDtulo"s : "-------"s) << fila.que;
+        const auto avisos = vn::Prueba::toma_avisos();
+        EXPECT_EQ(avisos.size(), fila.valido ? 0u : 1u) << fila.que;
+        if (!avisos.empty()) {
+            EXPECT_NE(avisos[0].find(a.ruta), std::string::npos) << avisos[0];
+        }
+        // The same test on a stream says nothing and leaves it at the data.
+        char *nuevo = nullptr;
+        vnfichero *f = f_lc_fopen_u(a.u(), VNU("rb"), "prueba", 1);
+        EXPECT_EQ(bin_fichero_valido(f, fila.version_actual, "FIRMA", &nuevo, 0), fila.valido) << fila.que;
+        EXPECT_EQ(toma(nuevo), fila.valido ? "T\xEDtulo" : "(null)") << fila.que;
+        if (fila.valido) {
+            EXPECT_EQ(lc_bytes_restantes(f), static_cast<int64_t>(fila.bytes.size() - fila.bytes.rfind("tulo") - 4)) << fila.que;
+        }
+        lc_fclose(f);
+    }
+    a.graba(bueno);
+    char corto[4] = "...";
+    EXPECT_EQ(bin_fichero_valido_u(a.u(), 3, "FIRMA", 3, corto, 0), CIERTO);
+    EXPECT_EQ(std::string(corto), "T\xEDt");
+}
+
+PRUEBA(vornbin_cabecera, la_forma_de_depuracion_marca_la_version_y_los_datos_pero_no_los_textos) {
+    const identidad i;
+    const archivo a;
+    vnstdc_putenv("GRABARCONDEBUG=1");
+    EXPECT_EQ(guarda(a), CIERTO);
+    vnstdc_putenv("GRABARCONDEBUG=");
+    EXPECT_EQ(a.lee(), ID + "\1" + MARCA + SIN_LISTAS + "\1u\3\0"s + PROLOGO.substr(3) + "cD");
+    EXPECT_EQ(bin_fichero_valido_u(a.u(), 3, "FIRMA", 0, nullptr, 0), CIERTO);
+    EXPECT_EQ(abre_completo(a, 3, nullptr).resto, "cD");
+    // The next file is plain again, and so is reading it.
+    EXPECT_EQ(guarda(a), CIERTO);
+    EXPECT_EQ(a.lee(), ID + "\1" + MARCA + SIN_LISTAS + PROLOGO + "D");
+    vnfichero *f = vornbin_abre_fichero_para_lectura_u(a.u(), nullptr, nullptr, nullptr);
+    EXPECT_EQ(bin_lee_byte(f), 0);
+    EXPECT_EQ(bin_lee_ushort(f), 3);
+    lc_fclose(f);
+}
+
+PRUEBA(vornbin_cabecera, un_ejemplo_sigue_siendo_ejemplo_y_un_fichero_se_hace_ejemplo) {
+    const identidad i;
+    const archivo a;
+    const std::string directorio = vn::Prueba::directorio(), ejemplo = "\2\1" + texto("WENK-9-a");
+    std::string mayusculas = directorio;
+    for (char &c : mayusculas)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
+    // In the directory of the samples, in any case; elsewhere the mask is that of any file.
+    a.graba("\2\1" + texto("WENK-8-b") + "\1" + PROLOGO);
+    EXPECT_EQ(vornbin_es_directorio_ejemplos(a.ansi()), FALSO);
+    vornbin_establece_directorio_ejemplos_u(vn::ancho(mayusculas).c_str());
+    EXPECT_EQ(vornbin_es_directorio_ejemplos(a.ansi()), CIERTO);
+    EXPECT_EQ(vornbin_es_directorio_ejemplos("otro"), FALSO);
+    EXPECT_EQ(guarda(a), CIERTO);
+    EXPECT_EQ(a.lee(), ejemplo + "\1" + MARCA + SIN_LISTAS + PROLOGO + "D");
+    EXPECT_EQ(abre_completo(a, 3, nullptr).ejemplo, CIERTO);
+    EXPECT_FALSE(a.hay("_TM$"));
+    vornbin_establece_directorio_ejemplos_u(nullptr);
+    EXPECT_EQ(guarda(a), CIERTO);
+    EXPECT_EQ(a.lee(), ID + "\1" + MARCA + SIN_LISTAS + PROLOGO + "D");
+
+    const std::string datos(5000, 'd'), blancas = numero(1) + texto_u("    ") + texto_u("      ") + numero(2) + numero(0) + texto_u(" ") + numero(0) + texto_u("");
+    const struct {
+        std::string antes, despues;
+    } filas[] = {
+        {ID + "\1" + datos, ejemplo + "\1" + datos},
+        {ID + "\1" + MARCA + LISTAS + datos, ejemplo + "\1" + MARCA + blancas + datos},
+        {ID + "\0"s + MARCA + LISTAS + datos, ejemplo + "\0"s + MARCA + blancas + datos},
+        {ID + "\2" + LISTAS, ejemplo + "\2" + blancas},
+    };
+    for (const auto &fila : filas) {
+        a.graba(fila.antes);
+        archivo("obra.vrn_TM$").graba("x");
+        EXPECT_EQ(vornbin_marca_fichero_ejemplo_u(a.u()), CIERTO);
+        EXPECT_EQ(a.lee(), fila.despues);
+        EXPECT_FALSE(a.hay("_TM$") || a.hay(".TM@"));
+    }
+    a.graba("sin cabecera");
+    EXPECT_EQ(ESPERA_INFORME("hay_cabecera == CIERTO", vornbin_marca_fichero_ejemplo_u(a.u())), FALSO);
+    EXPECT_EQ(a.lee(), "sin cabecera");
+}
+
+PRUEBA(vornbin_cabecera, la_herramienta_de_soporte_ve_la_cabecera) {
+    const archivo a;
+    char *version = nullptr, *revision = nullptr;
+    vnbool ejemplo = 7;
+    vnwchar *contenido = nullptr;
+    const auto ve = [&](const std::string &bytes) {
+        a.graba(bytes);
+        const vnbool bien = vornbin_lee_datos_cabecera_debug_soporte(a.ansi(), &version, &revision, &ejemplo, &contenido);
+        std::string r = std::to_string(bien);
+        for (char *p : {version, revision}) r += "|" + toma(p);
+        return r + "|" + std::to_string(ejemplo) + "|" + toma(contenido);
+    };
+    EXPECT_EQ(ve(ID + "\1" + MARCA + LISTAS), "1|9|a|0|obra=puente\n");
+    EXPECT_EQ(ve("nada"), "0|(null)|(null)|0|ERROR - No hay cabecera");
+    EXPECT_EQ(ve(ID + "\3"), "0|(null)|(null)|0|ERROR - El fichero no es válido");
+}
+
+PRUEBA(vornbin_cabecera, los_ultimos_trabajos_se_enteran) {
+    const identidad i;
+    const archivo a, lista("obras.txt");
+    const auto trabajos = [&] { return toma(ultiobra_lee_ultimas_obras_u(lista.u(), nullptr)); };
+    vnfichero *f = vornbin_abre_fichero_para_escritura_u(a.u(), lista.u());
+    EXPECT_EQ(trabajos(), "");
+    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(f, a.u(), lista.u()), CIERTO);
+    EXPECT_EQ(trabajos(), a.ruta + ";");
+    f = vornbin_abre_fichero_para_lectura_unicode(a.u(), nullptr);
+    vornbin_cierra_fichero_abierto_para_lectura_u(f, a.u(), lista.u());
+    EXPECT_EQ(trabajos(), a.ruta + ";");
+    f = vornbin_abre_fichero_para_escritura_sin_cabecera(a.ansi(), nullptr);
+    vornbin_cierra_fichero_abierto_para_escritura(f, a.ansi(), lista.ansi());
+    EXPECT_EQ(trabajos(), a.ruta + ";");
+}
+
+PRUEBA(vornbin_cabecera, un_guardado_que_falla_deja_el_fichero_de_antes) {
+    const identidad i;
+    const archivo a;
+    guarda(a, '1');
+    const std::string antes = a.lee();
+    // Given up by the host.
+    vnfichero *f = vornbin_abre_fichero_para_escritura_u(a.u(), nullptr);
+    bin_graba_long(1, f);
+    vornbin_abandona_fichero_abierto_para_escritura_u(f, a.u());
+    EXPECT_FALSE(a.hay("_TM$"));
+    EXPECT_EQ(a.lee(), antes);
+    // A full disk, a refused flush, a refused rename: one report each, and the truth as the result.
+    vnoperaciones_fichero lleno = *operaciones_fichero_del_sistema(), sin_volcado = lleno, sin_cambio = lleno;
+    lleno.escribe = [](vnid_fichero, int64_t, const void *, size_t, size_t *n) { *n = 0; return VN_FICH_SIN_ESPACIO; };
+    sin_volcado.vuelca = [](vnid_fichero) { return VN_FICH_ES; };
+    sin_cambio.renombra = [](const vnwchar *, const vnwchar *) { return VN_FICH_SIN_PERMISO; };
+    for (const auto *tabla : {&lleno, &sin_volcado, &sin_cambio}) {
+        operaciones_fichero_instala(tabla);
+        EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero", guarda(a, '2')), FALSO);
+        operaciones_fichero_instala(nullptr);
+        EXPECT_EQ(a.lee(), antes);
+    }
+    EXPECT_EQ(guarda(a, '3'), CIERTO);
+    EXPECT_FALSE(a.hay("_TM$"));
+    EXPECT_EQ(a.lee().back(), '3');
+    // The blanking of a sample is whole or nothing too.
+    a.graba(ID + "\1" + MARCA + LISTAS);
+    for (const auto *tabla : {&lleno, &sin_volcado, &sin_cambio}) {
+        operaciones_fichero_instala(tabla);
+        EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero", vornbin_marca_fichero_ejemplo_u(a.u())), FALSO);
+        operaciones_fichero_instala(nullptr);
+        EXPECT_EQ(a.lee(), ID + "\1" + MARCA + LISTAS);
+        EXPECT_FALSE(a.hay(".TM@"));
+    }
+}
+
+namespace {
+
+// Every reader of a header on the same bytes, each in a trap as a careful host calls it.
+void lee_de_todas_las_formas(void *p) {
+    const archivo &a = *static_cast<const archivo *>(p);
+    static_cast<void>(vornbin_es_fichero_vorn_valido(a.ansi()));
+    static_cast<void>(campos(a));
+    static_cast<void>(bin_fichero_valido_u(a.u(), 3, "FIRMA", 0, nullptr, 0));
+    static_cast<void>(abre_completo(a, 3, nullptr));
+}
+
+} // namespace
+
+PRUEBA(vornbin_cabecera, una_cabecera_estropeada_no_rompe_ni_pide_memoria) {
+    const archivo a;
+    const std::string bueno = ID + "\1" + MARCA + LISTAS + PROLOGO + "D";
+    size_t mayor = 0;
+    vornspy_instala_permiso([](size_t n, void *p) { auto &m = *static_cast<size_t *>(p); m = std::max(m, n); return CIERTO; }, &mayor);
+    const auto prueba = [&](const std::string &bytes) {
+        a.graba(bytes);
+        trapable_nousar_recursivo_ejecuta_funcion_segura(lee_de_todas_las_formas, const_cast<archivo *>(&a), nullptr);
+    };
+    int aceptados = 0;
+    for (size_t n = 0; n <= bueno.size(); ++n) prueba(bueno.substr(0, n));
+    for (size_t n = 0; n < bueno.size() * 8; ++n) {
+        std::string bytes = bueno;
+        bytes[n / 8] = static_cast<char>(bytes[n / 8] ^ (1 << n % 8));
+        prueba(bytes);
+        aceptados += vornbin_es_fichero_vorn_valido(a.ansi());
+    }
+    // Counts at the edges, in every place where four bytes fit.
+    for (size_t n = 0; n + 4 <= bueno.size(); ++n)
+        for (const uint32_t cuenta : {0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu, 0x20000001u}) prueba(std::string(bueno).replace(n, 4, numero(cuenta)));
+    vornspy_instala_permiso(nullptr, nullptr);
+    vn::Prueba::toma_informes();
+    vn::Prueba::toma_avisos();
+    EXPECT_GT(aceptados, 100);
+    EXPECT_LT(mayor, 300000u); // a stream and its buffer
+}
