@@ -1,0 +1,352 @@
+#define VN_MODULO "vornsave (NUCLEOS.DLL)"
+#include "persistence/vornsave_priv.h"
+
+// Blocks and sections, the stack of open ones, marks of files and comments.
+using namespace vn;
+
+namespace {
+
+// ---- The stack
+
+using dueno_marca = std::unique_ptr<i_marca_t, suelta<destruye_marca>>;
+
+void empuja_marca(vornsave *d, const char *id, const i_marca_t &posiciones) {
+    dueno_marca marca(new (vornspy_malloc(sizeof(i_marca_t))) i_marca_t(posiciones));
+    marca->id_marca = nullptr;
+    marca->id_marca = cad_copia_cadena(id);
+    arr_AppendPunteroST(d->pila_marcas, marca.get(), i_marca_t);
+    static_cast<void>(marca.release());
+}
+constexpr i_marca_t marca_inicial(clase_marca clase, int64_t posicion) {
+    return clase == MARCA_32 ? i_marca_t{nullptr, clase, static_cast<int32_t>(posicion), LARGO_MAX, 0, 0}
+                             : i_marca_t{nullptr, clase, 0, 0, posicion, LARGO64_MAX};
+}
+constexpr i_marca_t marca_final(int32_t posicion) {
+    return {nullptr, MARCA_32, LARGO_MAX, posicion, 0, 0};
+}
+
+i_marca_t *ultima_marca(const vornsave *d) {
+    const uint32_t num_marcas = arr_NumElemsPunteroST(d->pila_marcas, i_marca_t);
+    if (!AFIRMA(num_marcas > 0)) return nullptr;
+    i_marca_t *marca = arr_GetPunteroST(d->pila_marcas, num_marcas - 1, i_marca_t);
+    return AFIRMA_NO_NULO(marca) ? marca : nullptr;
+}
+void quita_ultima_marca(vornsave *d) {
+    arr_BorrarEstructuraST(d->pila_marcas, arr_NumElemsPunteroST(d->pila_marcas, i_marca_t) - 1, i_marca_t, destruye_marca);
+}
+
+#define ES_LARGO_MAX(campo) AFIRMA_TEXTO(marca->campo == LARGO_MAX, "marca->" #campo " == LONG_MAX")
+#define NO_ES_LARGO_MAX(campo) AFIRMA_TEXTO(marca->campo != LARGO_MAX, "marca->" #campo " != LONG_MAX")
+#define ES_I64_MAX(campo) AFIRMA_TEXTO(marca->campo == LARGO64_MAX, "marca->" #campo " == _I64_MAX")
+#define NO_ES_I64_MAX(campo) AFIRMA_TEXTO(marca->campo != LARGO64_MAX, "marca->" #campo " != _I64_MAX")
+
+// Closes a block, or a section being written: gives where its length goes through the pointer of its kind. False when
+// there was none, or it is of the other kind. A wrong identifier is reported, and the mark goes all the same.
+bool saca_marca(vornsave *d, const char *id_marca, int32_t *posicion_inicial_marca_opc,
+                int64_t *posicion_inicial_marca64_opc) {
+    const i_marca_t *marca = ultima_marca(d);
+    if (marca == nullptr) return false;
+    AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO);
+    bool dada = false;
+    switch (marca->clase) {
+    case MARCA_32:
+        NO_ES_LARGO_MAX(posicion_inicial);
+        ES_LARGO_MAX(posicion_final);
+        AFIRMA(marca->posicion_inicial64 == 0);
+        AFIRMA(marca->posicion_final64 == 0);
+        AFIRMA_TEXTO(posicion_inicial_marca64_opc == nullptr, "posicion_inicial_marca64_opc == NULL");
+        dada = posicion_inicial_marca_opc != nullptr;
+        if (dada) *posicion_inicial_marca_opc = marca->posicion_inicial;
+        break;
+    case MARCA_64:
+        AFIRMA(marca->posicion_inicial == 0);
+        AFIRMA(marca->posicion_final == 0);
+        NO_ES_I64_MAX(posicion_inicial64);
+        ES_I64_MAX(posicion_final64);
+        AFIRMA_TEXTO(posicion_inicial_marca_opc == nullptr, "posicion_inicial_marca_opc == NULL");
+        dada = posicion_inicial_marca64_opc != nullptr;
+        if (dada) *posicion_inicial_marca64_opc = marca->posicion_inicial64;
+        break;
+    default:
+        AFIRMA_DEFECTO();
+    }
+    quita_ultima_marca(d);
+    return dada;
+}
+
+// Closes a section that has been read.
+void saca_marca_de_seccion(vornsave *d, const char *id_marca) {
+    const i_marca_t *marca = ultima_marca(d);
+    if (marca == nullptr) return;
+    AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO);
+    switch (marca->clase) {
+    case MARCA_32:
+        ES_LARGO_MAX(posicion_inicial);
+        NO_ES_LARGO_MAX(posicion_final);
+        AFIRMA(marca->posicion_inicial64 == 0);
+        AFIRMA(marca->posicion_final64 == 0);
+        break;
+    case MARCA_64:
+        AFIRMA(marca->posicion_inicial == 0);
+        AFIRMA(marca->posicion_final == 0);
+        ES_I64_MAX(posicion_inicial64);
+        NO_ES_I64_MAX(posicion_final64);
+        break;
+    default:
+        AFIRMA_DEFECTO();
+    }
+    quita_ultima_marca(d);
+}
+
+// ---- Positions of either width
+
+int64_t posicion(const vornsave *d, clase_marca clase) {
+    return clase == MARCA_32 ? d->fncptr_get_posicion(d->datos_destino) : d->fncptr_get_posicion64(d->datos_destino);
+}
+void ve_a(const vornsave *d, clase_marca clase, int64_t donde) {
+    if (clase == MARCA_32)
+        d->fncptr_set_posicion(d->datos_destino, static_cast<int32_t>(donde));
+    else
+        d->fncptr_set_posicion64(d->datos_destino, donde);
+}
+void graba_posicion(vornsave *d, clase_marca clase, int64_t valor) {
+    if (clase == MARCA_32)
+        graba<GRABAR(long)>(d, static_cast<int32_t>(valor));
+    else
+        vornsave_graba_int64(valor, d);
+}
+bool hay_posiciones(const vornsave *vornsave_datos, clase_marca clase) {
+    return clase == MARCA_32 ? AFIRMA_NO_NULO(vornsave_datos->fncptr_get_posicion) &&
+                                   AFIRMA_NO_NULO(vornsave_datos->fncptr_set_posicion)
+                             : AFIRMA_NO_NULO(vornsave_datos->fncptr_get_posicion64) &&
+                                   AFIRMA_NO_NULO(vornsave_datos->fncptr_set_posicion64);
+}
+// Whether a stored end lies between here and the end of what is open, and of the source.
+bool fin_valido(const vornsave *d, int64_t fin) {
+    if (d->fncptr_get_posicion64 == nullptr && d->fncptr_get_posicion == nullptr) return true;
+    const int64_t aqui = posicion(d, d->fncptr_get_posicion64 != nullptr ? MARCA_64 : MARCA_32);
+    const uint32_t n = arr_NumElemsPunteroST(d->pila_marcas, i_marca_t);
+    int64_t limite = LARGO64_MAX;
+    if (n > 0) {
+        const i_marca_t *abierta = arr_GetPunteroST(d->pila_marcas, n - 1, i_marca_t);
+        limite = abierta->clase == MARCA_64                ? abierta->posicion_inicial64
+                 : abierta->posicion_inicial == LARGO_MAX ? abierta->posicion_final
+                                                           : abierta->posicion_inicial;
+    }
+    return aqui >= 0 && fin >= aqui && fin <= limite && quedan(d, static_cast<uint64_t>(fin - aqui), 1);
+}
+
+// ---- Writing
+
+enum forma { BLOQUE, SECCION };
+
+using fncptr_marca = void (*)(const char *id, void *destino);
+
+// What writes the mark of that form; null, reported, where the destination takes no marks.
+fncptr_marca puede_marcar(const char *id, const vornsave *vornsave_datos, forma f, clase_marca clase) {
+    if (!AFIRMA_NO_NULO(id)) return nullptr;
+    if (clase == MARCA_32 ? !puede_grabar<GRABAR(long)>(vornsave_datos) : !puede_grabar<GRABAR(ulong)>(vornsave_datos))
+        return nullptr;
+    if (!AFIRMA_NO_NULO(vornsave_datos->fncptr_graba_cabecera_bloque)) return nullptr;
+    if (!hay_posiciones(vornsave_datos, clase)) return nullptr;
+    const fncptr_marca fncptr_graba_marca = f == BLOQUE ? vornsave_datos->fncptr_graba_cabecera_bloque
+                                                         : vornsave_datos->fncs_grabar->fncptr_graba_cadena;
+    return AFIRMA_NO_NULO(fncptr_graba_marca) ? fncptr_graba_marca : nullptr;
+}
+
+void graba_inicio(const char *id, vornsave *d, forma f, clase_marca clase) {
+    const fncptr_marca graba_marca = puede_marcar(id, d, f, clase);
+    if (graba_marca == nullptr) return;
+    graba_marca(id, d->datos_destino);
+    empuja_marca(d, id, marca_inicial(clase, posicion(d, clase)));
+    graba_posicion(d, clase, 0);
+}
+
+void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
+    const fncptr_marca graba_marca = puede_marcar(id, d, f, clase);
+    if (graba_marca == nullptr) return;
+    const int64_t p_fin = posicion(d, clase);
+    graba_marca(id, d->datos_destino);
+    const int64_t p_sig = posicion(d, clase);
+    int32_t hueco = 0;
+    int64_t hueco64 = 0;
+    if (!saca_marca(d, id, clase == MARCA_32 ? &hueco : nullptr, clase == MARCA_64 ? &hueco64 : nullptr)) return;
+    const int64_t donde = clase == MARCA_32 ? hueco : hueco64;
+    if (donde < 0 || p_fin < 0 || p_sig < 0) return; // beyond what 32 bits hold: reported, and nothing is overwritten
+    ve_a(d, clase, donde);
+    graba_posicion(d, clase, p_fin);
+    ve_a(d, clase, p_sig);
+}
+
+// ---- Reading
+
+bool puede_leer_bloques(const char *id, const vornsave *vornsave_datos, clase_marca clase) {
+    if (!AFIRMA_NO_NULO(id)) return false;
+    return clase == MARCA_32
+               ? puede_leer<LEER(long)>(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncptr_se_lee_inicio_bloque)
+               : puede_leer<LEER(ulong)>(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncptr_se_lee_inicio_bloque64);
+}
+vnbool se_lee_marca(const char *id, const vornsave *d, clase_marca clase) {
+    return (clase == MARCA_32 ? d->fncptr_se_lee_inicio_bloque : d->fncptr_se_lee_inicio_bloque64)(id, d->datos_destino);
+}
+int64_t lee_posicion(vornsave *d, clase_marca clase) {
+    return clase == MARCA_32 ? lee<LEER(long)>(d) : vornsave_lee_int64(d);
+}
+
+vnbool se_inicia_lectura(const char *id, vornsave *d, clase_marca clase) {
+    if (!puede_leer_bloques(id, d, clase) || se_lee_marca(id, d, clase) != CIERTO) return FALSO;
+    empuja_marca(d, id, marca_inicial(clase, lee_posicion(d, clase)));
+    return CIERTO;
+}
+
+void lee_final(const char *id, vornsave *d, clase_marca clase) {
+    if (!puede_leer_bloques(id, d, clase)) return;
+    const vnbool se_lee_final_bloque = se_lee_marca(id, d, clase);
+    AFIRMA(se_lee_final_bloque == CIERTO);
+    int32_t largo = 0;
+    int64_t largo64 = 0;
+    saca_marca(d, id, clase == MARCA_32 ? &largo : nullptr, clase == MARCA_64 ? &largo64 : nullptr);
+}
+
+vnbool se_salta(const char *id, vornsave *d, clase_marca clase) {
+    if (!puede_leer_bloques(id, d, clase) || !hay_posiciones(d, clase)) return FALSO;
+    if (se_lee_marca(id, d, clase) != CIERTO) return FALSO;
+    const int64_t fin = lee_posicion(d, clase);
+    vnbool se_lee_fin_bloque = FALSO;
+    if (fin >= posicion(d, clase)) { // never back: a walk over damaged blocks must end
+        ve_a(d, clase, fin);
+        se_lee_fin_bloque = se_lee_marca(id, d, clase);
+    }
+    AFIRMA(se_lee_fin_bloque == CIERTO);
+    return CIERTO;
+}
+
+} // namespace
+
+void vn::destruye_marca(i_marca_t **marca) {
+    if (!AFIRMA_NO_NULO(marca)) return;
+    if (!AFIRMA_NO_NULO(*marca)) return;
+    vornstr_destruye_opcional(&(*marca)->id_marca);
+    vornspy_free_pp(marca, sizeof(i_marca_t));
+}
+
+vnbool vornsave_es_posible_marcar_bloques(const vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return FALSO;
+    return vornsave_datos->fncptr_graba_cabecera_bloque != nullptr ? CIERTO : FALSO;
+}
+
+void vornsave_graba_inicio_bloque(const char *id, vornsave *vornsave_datos) {
+    graba_inicio(id, vornsave_datos, BLOQUE, MARCA_32);
+}
+
+void vornsave_graba_fin_bloque(const char *id, vornsave *vornsave_datos) {
+    graba_fin(id, vornsave_datos, BLOQUE, MARCA_32);
+}
+
+void vornsave_graba_inicio_bloque64(const char *id, vornsave *vornsave_datos) {
+    graba_inicio(id, vornsave_datos, BLOQUE, MARCA_64);
+}
+
+void vornsave_graba_fin_bloque64(const char *id, vornsave *vornsave_datos) {
+    graba_fin(id, vornsave_datos, BLOQUE, MARCA_64);
+}
+
+void vornsave_graba_inicio_seccion(const char *id, vornsave *vornsave_datos) {
+    graba_inicio(id, vornsave_datos, SECCION, MARCA_32);
+}
+
+void vornsave_graba_fin_seccion(const char *id, vornsave *vornsave_datos) {
+    graba_fin(id, vornsave_datos, SECCION, MARCA_32);
+}
+
+vnbool vornsave_se_inicia_lectura_bloque(const char *id, vornsave *vornsave_datos) {
+    return se_inicia_lectura(id, vornsave_datos, MARCA_32);
+}
+
+vnbool vornsave_se_inicia_lectura_bloque64(const char *id, vornsave *vornsave_datos) {
+    return se_inicia_lectura(id, vornsave_datos, MARCA_64);
+}
+
+void vornsave_lee_final_bloque(const char *id, vornsave *vornsave_datos) {
+    lee_final(id, vornsave_datos, MARCA_32);
+}
+
+void vornsave_lee_final_bloque64(const char *id, vornsave *vornsave_datos) {
+    lee_final(id, vornsave_datos, MARCA_64);
+}
+
+vnbool vornsave_se_salta_bloque(const char *id, vornsave *vornsave_datos) {
+    return se_salta(id, vornsave_datos, MARCA_32);
+}
+
+vnbool vornsave_se_salta_bloque64(const char *id, vornsave *vornsave_datos) {
+    return se_salta(id, vornsave_datos, MARCA_64);
+}
+
+char *vornsave_lee_seccion(vornsave *vornsave_datos) {
+    if (!puede_leer<LEER(cadena)>(vornsave_datos) || !puede_leer<LEER(long)>(vornsave_datos)) return nullptr;
+    const vigia guarda(vornsave_datos);
+    dueno_cadena id(lee<LEER(cadena)>(vornsave_datos));
+    if (id == nullptr || !guarda.sigue()) return nullptr;
+    const int32_t fin = lee<LEER(long)>(vornsave_datos);
+    if (!guarda.sigue()) return nullptr;
+    if (!fin_valido(vornsave_datos, fin)) {
+        error_leyendo(vornsave_datos);
+        return nullptr;
+    }
+    empuja_marca(vornsave_datos, id.get(), marca_final(fin));
+    return id.release();
+}
+
+void vornsave_ir_final_seccion(const char *id_seccion, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(id_seccion)) return;
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return;
+    const i_marca_t *marca = ultima_marca(vornsave_datos);
+    if (marca == nullptr) return;
+    AFIRMA(cad_cadenas_iguales(marca->id_marca, id_seccion) == CIERTO);
+    switch (marca->clase) {
+    case MARCA_32:
+        if (hay_posiciones(vornsave_datos, MARCA_32)) ve_a(vornsave_datos, MARCA_32, marca->posicion_final);
+        break;
+    case MARCA_64:
+        if (hay_posiciones(vornsave_datos, MARCA_64)) ve_a(vornsave_datos, MARCA_64, marca->posicion_final64);
+        break;
+    default:
+        AFIRMA_DEFECTO();
+    }
+}
+
+void vornsave_lee_final_seccion(const char *id_seccion, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(id_seccion)) return;
+    if (!puede_leer<LEER(cadena)>(vornsave_datos)) return;
+    const dueno_cadena final(lee<LEER(cadena)>(vornsave_datos));
+    const char *id_seccion_final = final != nullptr ? final.get() : "";
+    AFIRMA(cad_cadenas_iguales(id_seccion_final, id_seccion) == CIERTO);
+    saca_marca_de_seccion(vornsave_datos, id_seccion);
+}
+
+vnbool vornsave_comprueba_marca_fichero(const char *marca, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(marca)) return FALSO;
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return FALSO;
+    if (!AFIRMA_NO_NULO(vornsave_datos->fncptr_se_comprueba_marca_fichero)) return FALSO;
+    return vornsave_datos->fncptr_se_comprueba_marca_fichero(marca, vornsave_datos->datos_destino);
+}
+
+vnbool vornsave_se_comprueba_cabecera_bin(const char *marca, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(marca)) return FALSO;
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return FALSO;
+    if (!AFIRMA(vornsave_datos->tipo == BIN)) return FALSO;
+    return vornsave_comprueba_marca_fichero(marca, vornsave_datos);
+}
+
+void vornsave_graba_comentario(const char *comentario, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(comentario)) return;
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return;
+    if (vornsave_datos->con_comentarios == CIERTO)
+        vornsave_datos->graba_comentario(comentario, vornsave_datos->datos_destino);
+}
+
+void vornsave_salta_comentario(vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return;
+    if (vornsave_datos->con_comentarios == CIERTO) vornsave_datos->salta_linea(vornsave_datos->datos_destino);
+}

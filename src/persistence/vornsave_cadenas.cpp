@@ -1,0 +1,167 @@
+#define VN_MODULO "vornsave (NUCLEOS.DLL)"
+#include "persistence/vornsave_priv.h"
+
+#include "foundation/fichmem.h"
+#include "foundation/unicode.h"
+#include <algorithm>
+#include <cstring>
+
+using namespace vn;
+
+namespace {
+
+// The largest piece in which a memory file goes.
+constexpr uint32_t i_TAMANO_TROZO_FICHMEM = 65534;
+
+char *lee_cadena_de(vornsave *vornsave_datos, bool ansi) {
+    return ansi ? lee<LEER(cadena)>(vornsave_datos) : lee<LEER(cadena_ASCII)>(vornsave_datos);
+}
+
+} // namespace
+
+dueno_bloque vn::lee_bytes(vornsave *vornsave_datos, uint32_t &tamanyo, uint32_t trozo) {
+    tamanyo = acota(vornsave_datos, tamanyo, 1);
+    const auto nuevo = [](uint32_t n) { return static_cast<uint8_t *>(vornspy_calloc(size_t(n) + 1, 1)); };
+    uint32_t caben = primer_paso(vornsave_datos, tamanyo), hechos = 0;
+    dueno_bloque bytes(nuevo(caben));
+    for (const vigia guarda(vornsave_datos); hechos < tamanyo;) {
+        const uint32_t n = std::min({trozo, tamanyo - hechos, std::max(caben, 1u)});
+        if (caben - hechos < n) { // the source cannot tell its size: what has come doubles the room
+            caben = static_cast<uint32_t>(std::min<uint64_t>(tamanyo, uint64_t(caben) * 2 + n));
+            dueno_bloque mayor(nuevo(caben));
+            std::memcpy(mayor.get(), bytes.get(), hechos);
+            bytes = std::move(mayor);
+        }
+        vornsave_datos->fncs_leer->fncptr_lee_buffer(bytes.get() + hechos, n, vornsave_datos->datos_destino);
+        hechos += n;
+        if (!guarda.sigue()) break;
+    }
+    return bytes;
+}
+
+// ---- ANSI texts
+
+void vornsave_graba_cadena(const char *valor, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(valor)) return;
+    graba<GRABAR(cadena), CON_PROGRESO>(vornsave_datos, valor);
+}
+
+char *vornsave_lee_cadena(vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return nullptr;
+    return vornsave_datos->ANSI == CIERTO ? lee<LEER(cadena), CON_PROGRESO>(vornsave_datos)
+                                          : lee<LEER(cadena_ASCII), CON_PROGRESO>(vornsave_datos);
+}
+
+void vornsave_salta_cadena(vornsave *vornsave_datos) {
+    const dueno_cadena texto(vornsave_lee_cadena(vornsave_datos));
+}
+
+char *vornsave_lee_cadena_ANSI_ASCII(vornsave *vornsave_datos, uint32_t version, uint32_t version_ascii) {
+    return lee_cadena_de(vornsave_datos, version > version_ascii);
+}
+
+char *vornsave_lee_cadena_ascii(vornsave *vornsave_datos) {
+    return lee_cadena_de(vornsave_datos, false);
+}
+
+void vornsave_graba_cadena_campo(const char *valor, const char *campo, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(valor)) return;
+    if (!AFIRMA_NO_NULO(campo)) return;
+    graba<GRABAR(cadena_campo)>(vornsave_datos, valor, campo);
+}
+
+char *vornsave_lee_cadena_campo(vornsave *vornsave_datos, const char *campo) {
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return nullptr;
+    if (!AFIRMA_NO_NULO(campo)) return nullptr;
+    AFIRMA(vornsave_datos->ANSI == CIERTO); // fields were born after the OEM texts
+    return lee<LEER(cadena_campo)>(vornsave_datos, campo);
+}
+
+void vornsave_salta_cadena_campo(vornsave *vornsave_datos, const char *campo) {
+    const dueno_cadena texto(vornsave_lee_cadena_campo(vornsave_datos, campo));
+}
+
+// ---- Wide texts
+
+void vornsave_graba_cadena_unicode(const vnwchar *valor, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(valor)) return;
+    graba<GRABAR(cadena_unicode), CON_PROGRESO>(vornsave_datos, valor);
+}
+
+vnwchar *vornsave_lee_cadena_unicode(vornsave *vornsave_datos) {
+    return lee<LEER(cadena_unicode), CON_PROGRESO>(vornsave_datos);
+}
+
+void vornsave_salta_cadena_unicode(vornsave *vornsave_datos) {
+    const dueno_cadena_u texto(vornsave_lee_cadena_unicode(vornsave_datos));
+}
+
+vnwchar *vornsave_lee_cadena_ANSI_a_unicode(vornsave *vornsave_datos) {
+    const dueno_cadena texto(vornsave_lee_cadena(vornsave_datos));
+    return texto != nullptr ? unicode_convierte_ANSI_a_UNICODE(texto.get()) : nullptr;
+}
+
+void vornsave_graba_cadena_UTF8(const vnwchar *texto, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(texto)) return;
+    if (!puede_grabar<GRABAR(cadena)>(vornsave_datos)) return;
+    const dueno_cadena utf8(unicode_convierte_UNICODE_a_UTF8(texto));
+    vornsave_graba_cadena(utf8.get(), vornsave_datos);
+}
+
+vnwchar *vornsave_lee_cadena_UTF8(vornsave *vornsave_datos) {
+    const dueno_cadena utf8(vornsave_lee_cadena(vornsave_datos));
+    return utf8 != nullptr ? unicode_convierte_UTF8_a_UNICODE(utf8.get()) : nullptr;
+}
+
+// ---- Bytes
+
+void vornsave_graba_cadena_como_buffer(const char *texto, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(texto)) return;
+    if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(buffer)>(vornsave_datos)) return;
+    const uint32_t longitud = cad_longitud_cadena(texto);
+    graba<GRABAR(ulong)>(vornsave_datos, longitud);
+    if (longitud > 0) graba<GRABAR(buffer)>(vornsave_datos, static_cast<const void *>(texto), longitud);
+}
+
+char *vornsave_lee_cadena_como_buffer(vornsave *vornsave_datos) {
+    if (!puede_leer<LEER(ulong)>(vornsave_datos) || !puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
+    uint32_t longitud = lee<LEER(ulong)>(vornsave_datos);
+    return reinterpret_cast<char *>(lee_bytes(vornsave_datos, longitud, UINT32_MAX).release());
+}
+
+void vornsave_graba_buffer(const void *datos_buffer, uint32_t tamanyo, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(datos_buffer)) return;
+    graba<GRABAR(buffer), CON_PROGRESO>(vornsave_datos, datos_buffer, tamanyo);
+}
+
+uint8_t *vornsave_lee_buffer(uint32_t tamanyo, vornsave *vornsave_datos) {
+    if (!puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
+    return lee_bytes(vornsave_datos, tamanyo, UINT32_MAX).release();
+}
+
+void vornsave_salta_buffer(uint32_t tamanyo, vornsave *vornsave_datos) {
+    const dueno_bloque bytes(vornsave_lee_buffer(tamanyo, vornsave_datos));
+}
+
+void vornsave_graba_fichmem(const fichmem *fichero, vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(fichero)) return;
+    if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(buffer)>(vornsave_datos)) return;
+    graba<GRABAR(ulong)>(vornsave_datos, fichero->longitud);
+    uint32_t n = 0;
+    for (uint32_t hechos = 0; hechos < fichero->longitud; hechos += n) {
+        n = std::min(i_TAMANO_TROZO_FICHMEM, fichero->longitud - hechos);
+        graba<GRABAR(buffer)>(vornsave_datos, static_cast<const void *>(fichero->datos + hechos), n);
+    }
+}
+
+fichmem *vornsave_lee_fichmem(vornsave *vornsave_datos) {
+    if (!puede_leer<LEER(ulong)>(vornsave_datos) || !puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
+    progreso_al_leer(vornsave_datos);
+    uint32_t longitud = lee<LEER(ulong)>(vornsave_datos);
+    dueno_bloque bytes = lee_bytes(vornsave_datos, longitud, i_TAMANO_TROZO_FICHMEM);
+    if (longitud == 0) return fichmem_crea32(nullptr, 0);
+    unsigned char *datos = bytes.get();
+    fichmem *fichero = fichmem_crea_original32(&datos, longitud);
+    static_cast<void>(bytes.release());
+    return fichero;
+}
