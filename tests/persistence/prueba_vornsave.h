@@ -1,0 +1,76 @@
+// The destinations over which the suites of the save protocol run, and a file to write and to read through each.
+#pragma once
+
+#include "foundation/lc_fichero.h"
+#include "persistence/vornsave.h"
+#include "prueba.h"
+#include <functional>
+
+namespace vn {
+
+struct destino_de_prueba {
+    const char *nombre;
+    bool texto, comentarios;
+};
+inline constexpr destino_de_prueba EN_BIN{"BIN", false, false}, EN_TXT{"TXT", true, false},
+    EN_TXT_CON{"TXT with comments", true, true};
+inline constexpr destino_de_prueba DESTINOS[] = {EN_BIN, EN_TXT, EN_TXT_CON};
+
+// A file of the test's directory, open as a destination until it goes out of scope; so it does in a trapped call.
+class abierto {
+  public:
+    abierto(const destino_de_prueba &d, const char *modo)
+        : f_(lc_fopen_u(ancho(ruta()).c_str(), ancho(std::string(modo) + (d.texto ? "t" : "b")).c_str())),
+          datos_(d.texto ? vornsave_registra_txt(f_, d.comentarios ? CIERTO : FALSO) : vornsave_registra_bin(f_)) {}
+    ~abierto() {
+        // What a damaged file leaves open is not this fixture's affair.
+        if (std::uncaught_exceptions() > 0) vornsave_set_tipo_status_lectura(datos_, 1, nullptr);
+        if (datos_ != nullptr) vornsave_libera(&datos_);
+        lc_fclose_seguro(f_);
+    }
+    abierto(const abierto &) = delete;
+    abierto &operator=(const abierto &) = delete;
+    operator vornsave *() const { return datos_; }
+    vornsave **direccion() { return &datos_; }
+    vnfichero *fichero() const { return f_; }
+    static std::string ruta() { return Prueba::directorio() + "/datos"; }
+
+  private:
+    vnfichero *f_;
+    vornsave *datos_;
+};
+
+// What `escribe` writes there, as bytes.
+inline std::string grabado(const destino_de_prueba &d, const std::function<void(vornsave *)> &escribe) {
+    {
+        const abierto a(d, "w");
+        escribe(a);
+    }
+    return lee_fichero(abierto::ruta());
+}
+// Reads those bytes.
+inline void leido(const destino_de_prueba &d, std::string_view bytes, const std::function<void(vornsave *)> &lee) {
+    graba_fichero(abierto::ruta(), bytes);
+    const abierto a(d, "r");
+    lee(a);
+}
+// Bytes of a text with zeros in it: bytes("ab\0c").
+template <size_t N> std::string bytes(const char (&s)[N]) {
+    return {s, N - 1};
+}
+inline std::string hex(const std::string &b) {
+    std::string t;
+    for (const unsigned char c : b) {
+        t += "0123456789abcdef"[c >> 4];
+        t += "0123456789abcdef"[c & 15];
+    }
+    return t;
+}
+
+// Runs `lee` inside a trap; whether it came to its end.
+inline bool atrapado(const std::function<void()> &lee) {
+    return trapable_ejecuta_funcion_segura(
+               const std::function<void()>, [](const std::function<void()> *f) { (*f)(); }, &lee, nullptr) == CIERTO;
+}
+
+} // namespace vn

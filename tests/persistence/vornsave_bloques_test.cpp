@@ -1,0 +1,194 @@
+#include "persistence/prueba_vornsave.h"
+#include "foundation/cad.h"
+
+using namespace vn;
+
+namespace {
+
+std::string texto(char *s) {
+    std::string t = s != nullptr ? s : "(null)";
+    vornstr_destruye_opcional(&s);
+    return t;
+}
+
+// Two sections, the second with one inside, and a word after them.
+void graba_secciones(vornsave *d) {
+    vornsave_graba_inicio_seccion("UNO", d);
+    vornsave_graba_long(11, d);
+    vornsave_graba_fin_seccion("UNO", d);
+    vornsave_graba_inicio_seccion("DOS", d);
+    vornsave_graba_inicio_seccion("dentro", d);
+    vornsave_graba_double(2.5, d);
+    vornsave_graba_fin_seccion("dentro", d);
+    vornsave_graba_fin_seccion("DOS", d);
+    vornsave_graba_cadena("fin", d);
+}
+
+} // namespace
+
+PRUEBA(vornsave_bloques, bytes_de_un_bloque_y_de_una_seccion) {
+    const std::string cien(100, 'x');
+    EXPECT_EQ(grabado(EN_BIN,
+                      [&](vornsave *d) {
+                          vornsave_graba_buffer(cien.data(), 100, d);
+                          vornsave_graba_inicio_bloque("ABC", d);
+                          vornsave_graba_fin_bloque("ABC", d);
+                      }),
+              cien + bytes("ABC\0\x6c\0\0\0ABC\0"));
+    EXPECT_EQ(grabado(EN_BIN,
+                      [](vornsave *d) {
+                          vornsave_graba_inicio_bloque64("A", d);
+                          vornsave_graba_uchar(9, d);
+                          vornsave_graba_fin_bloque64("A", d);
+                      }),
+              bytes("A\0\0\0\0\0\xb\0\0\0\x9"
+                    "A\0"));
+    EXPECT_EQ(grabado(EN_BIN,
+                      [](vornsave *d) {
+                          vornsave_graba_inicio_seccion("AB", d);
+                          vornsave_graba_uchar(9, d);
+                          vornsave_graba_fin_seccion("AB", d);
+                      }),
+              bytes("\2\0AB\x9\0\0\0\x9\2\0AB"));
+}
+
+PRUEBA(vornsave_bloques, un_bloque_se_abre_se_salta_o_no_esta) {
+    const std::string datos = grabado(EN_BIN, [](vornsave *d) {
+        vornsave_graba_inicio_bloque("EXTRA", d);
+        vornsave_graba_inicio_bloque64("dentro", d);
+        vornsave_graba_long(7, d);
+        vornsave_graba_fin_bloque64("dentro", d);
+        vornsave_graba_fin_bloque("EXTRA", d);
+        vornsave_graba_long(1, d);
+    });
+    leido(EN_BIN, datos, [](vornsave *d) {
+        EXPECT_EQ(vornsave_se_inicia_lectura_bloque("OTRO", d), FALSO);
+        EXPECT_EQ(vornsave_se_salta_bloque("OTRO", d), FALSO);
+        EXPECT_EQ(vornsave_get_posicion(d), 0);
+        EXPECT_EQ(vornsave_se_inicia_lectura_bloque("EXTRA", d), CIERTO);
+        EXPECT_EQ(vornsave_se_inicia_lectura_bloque64("dentro", d), CIERTO);
+        EXPECT_EQ(vornsave_lee_long(d), 7);
+        vornsave_lee_final_bloque64("dentro", d);
+        vornsave_lee_final_bloque("EXTRA", d);
+        EXPECT_EQ(vornsave_lee_long(d), 1);
+        EXPECT_EQ(vornsave_se_inicia_lectura_bloque("EXTRA", d), FALSO); // at the end of the stream
+    });
+    leido(EN_BIN, datos, [](vornsave *d) {
+        EXPECT_EQ(vornsave_se_salta_bloque("EXTRA", d), CIERTO);
+        EXPECT_EQ(vornsave_lee_long(d), 1);
+        vornsave_set_posicion(d, 10);
+        EXPECT_EQ(vornsave_se_salta_bloque64("dentro", d), CIERTO);
+        // A name that goes on where this one ends.
+        vornsave_set_posicion(d, 0);
+        EXPECT_EQ(ESPERA_INFORME("fin_cadena == '\\0'", vornsave_se_inicia_lectura_bloque("EXT", d)), FALSO);
+        EXPECT_EQ(vornsave_get_posicion(d), 0);
+        EXPECT_EQ(vornsave_comprueba_marca_fichero("EXT", d), CIERTO);
+        EXPECT_EQ(vornsave_se_comprueba_cabecera_bin("RA", d), CIERTO);
+        EXPECT_EQ(vornsave_comprueba_marca_fichero("X", d), FALSO);
+        EXPECT_EQ(vornsave_get_posicion(d), 5);
+    });
+}
+
+PRUEBA(vornsave_bloques, un_lector_recorre_secciones_que_no_conoce) {
+    leido(EN_BIN, grabado(EN_BIN, graba_secciones), [](vornsave *d) {
+        EXPECT_EQ(texto(vornsave_lee_seccion(d)), "UNO");
+        vornsave_ir_final_seccion("UNO", d);
+        vornsave_lee_final_seccion("UNO", d);
+        EXPECT_EQ(texto(vornsave_lee_seccion(d)), "DOS");
+        EXPECT_EQ(texto(vornsave_lee_seccion(d)), "dentro");
+        EXPECT_EQ(vornsave_lee_double(d), 2.5);
+        vornsave_lee_final_seccion("dentro", d);
+        vornsave_lee_final_seccion("DOS", d);
+        EXPECT_EQ(texto(vornsave_lee_cadena(d)), "fin");
+    });
+}
+
+PRUEBA(vornsave_bloques, los_cierres_equivocados_se_informan) {
+    const abierto a(EN_BIN, "w+");
+    ESPERA_INFORME("num_marcas > 0", vornsave_graba_fin_bloque("B", a));
+    // Another name: reported, and closed all the same.
+    vornsave_graba_inicio_bloque("B", a);
+    ESPERA_INFORME("cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO", vornsave_graba_fin_bloque("C", a));
+    // The other width.
+    vornsave_graba_inicio_bloque("B", a);
+    ESPERA_INFORME("posicion_inicial_marca64_opc == NULL", vornsave_graba_fin_bloque64("B", a));
+    vornsave_graba_inicio_bloque64("B", a);
+    ESPERA_INFORME("posicion_inicial_marca_opc == NULL", vornsave_graba_fin_bloque("B", a));
+    // A block being written, closed as a section that was read; that section, closed as a block.
+    vornsave_set_posicion(a, 0);
+    vornsave_graba_inicio_seccion("S", a);
+    vornsave_graba_fin_seccion("S", a);
+    vornsave_set_posicion(a, 0);
+    EXPECT_EQ(texto(vornsave_lee_seccion(a)), "S");
+    ESPERA_INFORME("cad_cadenas_iguales(marca->id_marca, id_seccion) == CIERTO", vornsave_ir_final_seccion("T", a));
+    vornsave_set_posicion(a, 7);
+    vornsave_graba_fin_bloque("S", a);
+    espera_informes({"marca->posicion_inicial != LONG_MAX", "marca->posicion_final == LONG_MAX"}, __FILE__, __LINE__);
+    vornsave_graba_inicio_seccion("S", a);
+    vornsave_set_posicion(a, 0);
+    vornsave_lee_final_seccion("S", a);
+    espera_informes({"marca->posicion_inicial == LONG_MAX", "marca->posicion_final != LONG_MAX"}, __FILE__, __LINE__);
+    vornsave_graba_inicio_bloque64("S", a);
+    vornsave_set_posicion(a, 0);
+    vornsave_lee_final_seccion("S", a);
+    espera_informes({"marca->posicion_inicial64 == _I64_MAX", "marca->posicion_final64 != _I64_MAX"}, __FILE__, __LINE__);
+    // What is there is not the end mark.
+    ESPERA_INFORME("num_marcas > 0", vornsave_ir_final_seccion("S", a));
+    vornsave_set_posicion(a, 0);
+    EXPECT_EQ(texto(vornsave_lee_seccion(a)), "S");
+    vornsave_set_posicion(a, 3);
+    vornsave_graba_cadena("Z", a);
+    vornsave_set_posicion(a, 3);
+    ESPERA_INFORME("cad_cadenas_iguales(id_seccion_final, id_seccion) == CIERTO", vornsave_lee_final_seccion("S", a));
+}
+
+PRUEBA(vornsave_bloques, los_finales_danyados_no_hacen_dar_vueltas) {
+    // Ends before their own body, below zero, beyond the file.
+    for (const char *fin : {"\0\0\0\0", "\xf0\xff\xff\xff", "\xff\xff\0\0", "\xff\xff\xff\x7f"}) {
+        const std::string final(fin, 4);
+        leido(EN_BIN, bytes("B\0") + final + bytes("B\0xyz"), [](vornsave *d) {
+            int vueltas = 0;
+            while (vornsave_se_salta_bloque("B", d) == CIERTO) ASSERT_LT(++vueltas, 5);
+            const auto informes = toma_informes();
+            ASSERT_FALSE(informes.empty());
+            EXPECT_EQ(informes[0].expresion, "se_lee_fin_bloque == CIERTO");
+        });
+        leido(EN_BIN, bytes("\1\0S") + final + bytes("\1\0S\1\0S"), [](vornsave *d) {
+            EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_lee_seccion(d)), nullptr);
+        });
+    }
+    // A section that ends after the one that holds it.
+    std::string datos = grabado(EN_BIN, graba_secciones);
+    datos[datos.find("dentro") + 6] = static_cast<char>(datos.size() - 1);
+    leido(EN_BIN, datos, [](vornsave *d) {
+        vornsave_set_posicion(d, 18);
+        EXPECT_EQ(texto(vornsave_lee_seccion(d)), "DOS");
+        EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_lee_seccion(d)), nullptr);
+        vornsave_set_tipo_status_lectura(d, 1, nullptr);
+    });
+    // The end mark is not there; the end of the file.
+    leido(EN_BIN, bytes("B\0\6\0\0\0C\0"), [](vornsave *d) {
+        EXPECT_EQ(vornsave_se_inicia_lectura_bloque("B", d), CIERTO);
+        ESPERA_INFORME("se_lee_final_bloque == CIERTO", vornsave_lee_final_bloque("B", d));
+    });
+    leido(EN_BIN, "", [](vornsave *d) {
+        EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_lee_seccion(d)), nullptr);
+    });
+}
+
+PRUEBA(vornsave_bloques, posiciones_de_mas_de_31_bits) {
+    const abierto a(EN_BIN, "w+");
+    const int64_t lejos = (int64_t(1) << 32) + 5;
+    ASSERT_EQ(vornio_fseek_i64(a.fichero(), lejos, VN_DESDE_EL_PRINCIPIO), CIERTO);
+    vornsave_graba_inicio_bloque64("L", a);
+    vornsave_graba_long(3, a);
+    vornsave_graba_fin_bloque64("L", a);
+    vornio_fseek_i64(a.fichero(), lejos, VN_DESDE_EL_PRINCIPIO);
+    EXPECT_EQ(vornsave_se_salta_bloque64("L", a), CIERTO);
+    EXPECT_EQ(vornio_ftell_i64(a.fichero()), lejos + 16);
+    ESPERA_INFORME("posicion <= LONG_MAX", vornsave_get_posicion(a));
+    vornsave_graba_inicio_bloque("C", a);
+    vornsave_graba_fin_bloque("C", a);
+    espera_informes({"posicion <= LONG_MAX", "posicion <= LONG_MAX", "posicion <= LONG_MAX"}, __FILE__, __LINE__);
+    EXPECT_EQ(vornio_ftell_i64(a.fichero()), lejos + 24);
+}
