@@ -181,19 +181,39 @@ template <auto ENTRADA> inline bool puede_leer(const vornsave *vornsave_datos) {
            AFIRMA_TEXTO(vornsave_datos->fncs_leer->*ENTRADA != nullptr, TEXTO_ENTRADA<ENTRADA>);
 }
 
-// The dispatchers: checks, progress where the member has it, one indirect call.
-template <auto ENTRADA, progreso PROGRESO = SIN_PROGRESO, class... A>
-inline void graba(vornsave *vornsave_datos, A... valores) {
+// The dispatchers: checks, progress where the member has it, one indirect call. Whatever is not that call is out of the
+// way, so that the call is a jump.
+template <auto ENTRADA, progreso PROGRESO, class... A>
+[[gnu::cold, gnu::noinline]] void graba_despacio(vornsave *vornsave_datos, A... valores) {
     if (!puede_grabar<ENTRADA>(vornsave_datos)) return;
     if constexpr (PROGRESO == CON_PROGRESO) progreso_al_grabar(vornsave_datos);
     (vornsave_datos->fncs_grabar->*ENTRADA)(valores..., vornsave_datos->datos_destino);
 }
 template <auto ENTRADA, progreso PROGRESO = SIN_PROGRESO, class... A>
-inline auto lee(vornsave *vornsave_datos, A... extras) {
-    using resultado = decltype((vornsave_datos->fncs_leer->*ENTRADA)(vornsave_datos->datos_destino, extras...));
-    if (!puede_leer<ENTRADA>(vornsave_datos)) return resultado();
+inline void graba(vornsave *vornsave_datos, A... valores) {
+    if (vornsave_datos != nullptr && vornsave_datos->fncs_grabar != nullptr) [[likely]] {
+        const auto entrada = vornsave_datos->fncs_grabar->*ENTRADA;
+        if (entrada != nullptr && (PROGRESO == SIN_PROGRESO || vornsave_datos->con_progreso == FALSO)) [[likely]]
+            return entrada(valores..., vornsave_datos->datos_destino);
+    }
+    graba_despacio<ENTRADA, PROGRESO>(vornsave_datos, valores...);
+}
+template <auto ENTRADA, class... A>
+using resultado_de = decltype((std::declval<fncs_leer_t>().*ENTRADA)(nullptr, std::declval<A>()...));
+template <auto ENTRADA, progreso PROGRESO, class... A>
+[[gnu::cold, gnu::noinline]] resultado_de<ENTRADA, A...> lee_despacio(vornsave *vornsave_datos, A... extras) {
+    if (!puede_leer<ENTRADA>(vornsave_datos)) return {};
     if constexpr (PROGRESO == CON_PROGRESO) progreso_al_leer(vornsave_datos);
     return (vornsave_datos->fncs_leer->*ENTRADA)(vornsave_datos->datos_destino, extras...);
+}
+template <auto ENTRADA, progreso PROGRESO = SIN_PROGRESO, class... A>
+inline resultado_de<ENTRADA, A...> lee(vornsave *vornsave_datos, A... extras) {
+    if (vornsave_datos != nullptr && vornsave_datos->fncs_leer != nullptr) [[likely]] {
+        const auto entrada = vornsave_datos->fncs_leer->*ENTRADA;
+        if (entrada != nullptr && (PROGRESO == SIN_PROGRESO || vornsave_datos->con_progreso == FALSO)) [[likely]]
+            return entrada(vornsave_datos->datos_destino, extras...);
+    }
+    return lee_despacio<ENTRADA, PROGRESO>(vornsave_datos, extras...);
 }
 
 #define GRABAR(entrada) (&::vn::fncs_grabar_t::fncptr_graba_##entrada)

@@ -73,7 +73,9 @@ void comprueba_registro(vornsave *d, bool con_float) {
     EXPECT_EQ(vornsave_lee_double(d), -1.0 / 3);
     vornsave_salta_comentario(d);
     EXPECT_EQ(vornsave_lee_double(d), 2.75);
-    if (con_float) EXPECT_EQ(vornsave_lee_float(d), 1.5f);
+    if (con_float) {
+        EXPECT_EQ(vornsave_lee_float(d), 1.5f);
+    }
     Punto2D *pto = vornsave_lee_punto(d);
     EXPECT_TRUE(pto->x == 1e-300 && pto->y == -7.25);
     vornspy_free_pp(&pto, sizeof *pto);
@@ -230,7 +232,10 @@ PRUEBA(vornsave, lo_que_falta_en_cada_destino) {
         [](vornsave *d) { vornsave_lee_long64(d); },
         [](vornsave *d) { vornsave_lee_double(d); },
         [](vornsave *d) { vornsave_lee_double_con_posible_error_en_binario(d, &v1, &v2); },
-        [](vornsave *d) { EXPECT_EQ(vornsave_lee_arr_double_con_posible_error(d, &v1, &v2), nullptr); },
+        [](vornsave *d) {
+            arrDouble *a = vornsave_lee_arr_double_con_posible_error(d, &v1, &v2);
+            if (a != nullptr) arr_DestruyeDouble(&a);
+        },
         [](vornsave *d) { vornsave_lee_float(d); },
         [](vornsave *d) { vornsave_lee_uchar(d); },
         [](vornsave *d) { vornsave_lee_ushort(d); },
@@ -277,7 +282,7 @@ PRUEBA(vornsave, lo_que_falta_en_cada_destino) {
 }
 
 PRUEBA(vornsave, los_destinos_sin_modulo_se_informan) {
-    const char *const INFORME = "vornsave: el destino no forma parte de la biblioteca";
+    static constexpr char INFORME[] = "vornsave: el destino no forma parte de la biblioteca";
     const abierto a(EN_TXT, "w");
     int socket = 0;
     fichmem vacio{nullptr, 0};
