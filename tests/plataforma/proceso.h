@@ -35,6 +35,8 @@ class proceso {
     std::optional<int> resultado_;
 };
 
+// Sets a variable of the environment, for this process and the children to come.
+void pon_variable(const char *nombre, const std::string &valor);
 // Ends the calling process as mata() would.
 [[noreturn]] void muere();
 

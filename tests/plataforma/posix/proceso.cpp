@@ -2,6 +2,7 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <thread>
@@ -10,6 +11,8 @@
 extern char **environ;
 
 namespace vn {
+
+void pon_variable(const char *nombre, const std::string &valor) { ::setenv(nombre, valor.c_str(), 1); }
 
 void muere() {
     for (;;) ::kill(::getpid(), SIGKILL);

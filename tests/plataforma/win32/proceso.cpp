@@ -27,6 +27,10 @@ std::wstring entre_comillas(const std::wstring &a) {
 
 } // namespace
 
+void pon_variable(const char *nombre, const std::string &valor) {
+    SetEnvironmentVariableW(ancho(nombre).c_str(), ancho(valor).c_str());
+}
+
 void muere() {
     for (;;) TerminateProcess(GetCurrentProcess(), proceso::MUERTO);
 }
