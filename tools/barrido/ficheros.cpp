@@ -12,7 +12,8 @@ void prepara_ficheros() {
         std::string contenido;
     } ficheros[] = {{"flujo.bin", ceros + "abc\r\n12 1.5\r\n" + ceros},
                     {"flujo.txt", "12 1.5 abc\n1\n0\nabc\n"},
-                    {"entrada.bin", ceros + "1 2.5 abc\n" + ceros}};
+                    {"entrada.bin", ceros + "1 2.5 abc\n" + ceros},
+                    {"obra.bin", std::string("\2\1\10\0VORN-9-a\1", 13) + ceros}};
     std::error_code e;
     for (const auto &f : ficheros) {
         // Another's leavings may be in the way.

@@ -81,6 +81,7 @@ PARAMETROS = [
     (r"vornstrhex_.*", r"texto", 'textos({n}, {{"6162", "", "6", "zz", "0g", "%s"}})'),
     (r".*", r"patron", 'patron_de_ficheros<{t}>({n})'),
     # Names of files and directories.
+    (r"vornbin_marca_fichero_ejemplo_u", r"nomfich", 'textos_u({n}, {{u"obra.bin", u"entrada.bin", u"no_hay", u"carpeta", u""}})'),
     (r".*", r"nomfich|fichero|nombre_fichero|nombre_fichero_obra|ruta|rutas?_\w+|path|path_\w+|directorio|obra", "fichero<{t}>"),
     (r"(f_lc_fopen|vdir_|vorndir_|fichmem_|fichconf_|vnlongpath_|timefich_|vf_|vornfile_|tmpfich).*",
      r"nombre|origen|destino|fich\w*", "fichero<{t}>"),
@@ -104,7 +105,7 @@ PRESTADOS = [
 RETIENE = [
     (r"alsalir_.*|nousar_atexit_anade", "the registry keeps it until the exit"),
     (r"contexto_dentroDeContexto_u", "the thread stays inside"),
-    (r"vtxt_trata_cadena\w*", "reading stores a new text; what the owner held before is the caller's still"),
+    (r"(vtxt|bin)_trata_cadena\w*", "reading stores a new text; what the owner held before is the caller's still"),
 ]
 
 # Broken values that the documentation accepts: operation, parameter, value.
