@@ -32,6 +32,13 @@ struct libera_texto {
 };
 using texto_propio = std::unique_ptr<vnwchar, libera_texto>;
 
+} // namespace
+
+namespace vn {
+
+// Not of the unnamed namespace: the compiler knows the three calls and would take the check of the mutex away.
+vnbool alsalir_mutex_entra(vnmutex **mutex, const vnwchar *nombre, const char *modulo, uint32_t linea);
+
 // Enters a mutex, which is made first if it is null.
 vnbool alsalir_mutex_entra(vnmutex **mutex, const vnwchar *nombre, const char *modulo, uint32_t linea) {
     if (!AFIRMA_NO_NULO(mutex)) return FALSO;
@@ -47,12 +54,16 @@ vnbool alsalir_mutex_entra(vnmutex **mutex, const vnwchar *nombre, const char *m
     return vnmutex_entra(*mutex);
 }
 
+} // namespace vn
+
+namespace {
+
 // Holds one of the mutexes over a registration. When it cannot be had in time the registration is made all the same: not
 // to make it would surely lose the text, and two that meet may lose one.
 class dentro {
   public:
     dentro(vnmutex **mutex, const vnwchar *nombre, const char *modulo, uint32_t linea)
-        : mutex_(alsalir_mutex_entra(mutex, nombre, modulo, linea) == CIERTO ? *mutex : nullptr) {}
+        : mutex_(vn::alsalir_mutex_entra(mutex, nombre, modulo, linea) == CIERTO ? *mutex : nullptr) {}
     ~dentro() {
         if (mutex_ != nullptr) vnmutex_sal(mutex_);
     }

@@ -1,7 +1,9 @@
 #include "frame/alsalir.h"
 #include "foundation/cad.h"
+#include "foundation/lc_fichero.h"
 #include "foundation/vnatexit.h"
 #include "foundation/widestr.h"
+#include "plataforma/proceso.h"
 #include "prueba.h"
 
 namespace {
@@ -20,6 +22,15 @@ char *texto = nullptr;
 char *texto_sin_usar = nullptr;
 vnwchar *texto_u = nullptr;
 viga *una = nullptr, *otra = nullptr, *ninguna = nullptr;
+
+// Leaves a file behind, with the library's own streams, when it is destroyed.
+std::basic_string<vnwchar> *fichero_de_despedida = nullptr;
+void se_despide(viga **v) {
+    destruye_viga(v);
+    vnfichero *f = lc_fopen_u(fichero_de_despedida->c_str(), VNU("wb"));
+    lc_fwrite("adios", 1, 5, f);
+    lc_fclose(f);
+}
 
 viga *crea_viga() { return static_cast<viga *>(vornspy_calloc(1, sizeof(viga))); }
 
@@ -59,4 +70,22 @@ PRUEBA(alsalir, sin_registros_no_hay_nada_y_tras_salir_se_vuelve_a_empezar) {
         EXPECT_EQ(vornspy_bloques_vivos(nullptr), antes);
     }
     ESPERA_INFORME("(funcDestruyeDato) != NULL", alsalir_nousar_destruye_dato(&una, nullptr, VN_AQUI));
+}
+
+HIJO(acaba_con_registros) {
+    static std::basic_string<vnwchar> nombre;
+    nombre = vn::ancho(args.at(0));
+    fichero_de_despedida = &nombre;
+    una = crea_viga();
+    alsalir_destruye_dato(viga, &una, se_despide);
+    texto = cad_copia_cadena("hasta el final");
+    alsalir_destruye_cadena(&texto);
+    return 0;
+}
+
+PRUEBA(alsalir, un_proceso_que_acaba_por_si_mismo_ejecuta_lo_registrado) {
+    const std::string fichero = directorio() + "/adiós";
+    vn::proceso hijo("acaba_con_registros", {fichero});
+    EXPECT_EQ(hijo.espera(20000), 0);
+    EXPECT_EQ(vn::existe(fichero) ? vn::lee_fichero(fichero) : "", "adios");
 }
