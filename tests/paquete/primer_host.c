@@ -1,28 +1,30 @@
 #include "foundation/error_interno.h"
-#include "foundation/trapable.h"
-#include "foundation/vornspy.h"
+#include "persistence/vornbin.h"
+#include "persistence/vornsave.h"
 #include <stdio.h>
 
-typedef struct viga { double luz, canto; } viga;
-
-static void cuenta(const vninforme *informe, void *datos) {
-    printf("reported: %s\n", informe->expresion);
-    ++*(int *)datos;
-}
-static void sin_canto(viga *v) {
-    if (v->canto <= 0.0) error_interno("v->canto > 0.0", VN_AQUI, 0);
-    v->luz = 0.0; /* not reached: the report goes to the trap */
-}
-
 int main(void) {
-    int informes = 0;
-    error_interno_instala_receptor(cuenta, &informes);
-    viga *v = vornspy_calloc(1, sizeof *v);
-    v->luz = 6.0;
-    if (trapable_ejecuta_funcion_segura(viga, sin_canto, v, NULL) == FALSO)
-        printf("trapped: %s", trapable_texto_del_ultimo_fallo());
-    vornspy_nousar_free_pp(NULL, 1); /* a fault: reported, and the program goes on */
-    printf("span %.1f m, %d report\n", v->luz, informes);
-    vornspy_free_pp(&v, sizeof *v);
-    return informes == 1 && v == NULL && vornspy_bloques_vivos(NULL) == 0 ? 0 : 1;
+    const vnwchar *obra = VNU("puente.obra");
+    vnfichero *f = vornbin_abre_fichero_para_escritura_u(obra, NULL);
+    vornsave *s = vornsave_registra_bin(f);
+    vornsave_graba_inicio_seccion("vigas", s); /* a reader may pass over what it does not know */
+    vornsave_graba_double(6.5, s);             /* span, m */
+    vornsave_graba_cadena("dintel", s);
+    vornsave_graba_fin_seccion("vigas", s);
+    vornsave_graba_double(1.0, NULL); /* a fault: reported on the error stream, and the program goes on */
+    vornsave_libera(&s);
+    if (vornbin_cierra_fichero_abierto_para_escritura_u(f, obra, NULL) == FALSO) return 1; /* the old file stays */
+
+    f = vornbin_abre_fichero_para_lectura_unicode(obra, NULL);
+    s = vornsave_registra_bin(f);
+    char *seccion = vornsave_lee_seccion(s);
+    const double luz = vornsave_lee_double(s);
+    char *nombre = vornsave_lee_cadena(s);
+    vornsave_lee_final_seccion(seccion, s);
+    printf("%s: %s, %.1f m\n", seccion, nombre, luz);
+    vornspy_free_pp(&seccion, 1);
+    vornspy_free_pp(&nombre, 1);
+    vornsave_libera(&s);
+    vornbin_cierra_fichero_abierto_para_lectura_u(f, obra, NULL);
+    return luz == 6.5 && vornspy_bloques_vivos(NULL) == 0 && error_interno_numero_de_informes() == 1 ? 0 : 1;
 }

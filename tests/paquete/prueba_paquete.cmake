@@ -3,9 +3,10 @@
 get_filename_component(aqui ${CMAKE_CURRENT_LIST_FILE} DIRECTORY)
 set(trabajo ${ARBOL}/paquete_${MODO})
 file(REMOVE_RECURSE ${trabajo})
+file(MAKE_DIRECTORY ${trabajo})
 
 function(ejecuta)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE estado OUTPUT_VARIABLE salida ERROR_VARIABLE salida)
+  execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${trabajo} RESULT_VARIABLE estado OUTPUT_VARIABLE salida ERROR_VARIABLE salida)
   message("${salida}")
   if(NOT estado EQUAL 0)
     message(FATAL_ERROR "${estado}: ${ARGN}")

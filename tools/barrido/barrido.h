@@ -27,6 +27,7 @@ enum class calidad : uint8_t { buena, mala, libre };
 struct fabrica {
     void *(*crea)();
     void (*destruye)(void *p);
+    void (*despues)() = nullptr; // after the object is gone, whoever destroyed it
 };
 
 enum class clase_valor : uint8_t {
@@ -67,6 +68,7 @@ struct operacion {
     void (*suelta)(void *p);  // of an owned result; null when there is none
     const char *retiene;      // why memory may stay after its calls, or null
     const char *deja_pasar;   // parameter and value that it is documented to accept, "name=value", or null
+    bool deja_el_anterior = false; // what an owner's slot held stays the caller's when a new object takes its place
 };
 
 enum opcion : unsigned { EXIGE = 0, OPCIONAL = 1, CONSUME = 2, HUECO_OPCIONAL = 4, HUECO_VACIO = 8, LLENO = 16 };

@@ -14,9 +14,11 @@
 #include "foundation/fichmem.h"
 #include "foundation/lc_fichero.h"
 #include "foundation/msglocal.h"
+#include "foundation/vdir.h"
 #include "foundation/vnlongpath.h"
 #include "foundation/vnmutex.h"
 #include "foundation/vornspy.h"
+#include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
 #include <cstring>
 #include <deque>
@@ -68,6 +70,12 @@ template <class T> parametro registro_de(const char *nombre, const T &bueno, uns
 template <class C> parametro fichero(const char *nombre, unsigned opciones) {
     if constexpr (sizeof(C) == 1) return nombre_fichero(nombre, opciones);
     else return nombre_fichero_u(nombre, opciones);
+}
+// By default a file that is not there.
+template <class C> parametro fichero_nuevo(const char *nombre, unsigned opciones) {
+    parametro p = fichero<C>(nombre, opciones);
+    std::swap(p.valores[0], p.valores[2]);
+    return p;
 }
 template <class C> parametro modo_de_abrir(const char *nombre) {
     if constexpr (sizeof(C) == 1) return textos(nombre, {"rb", "w", "a+", "r+b", "", "%s", "rw"});
@@ -127,7 +135,14 @@ inline vornsave *protocolo() {
 inline void destruye_protocolo(vornsave *v) {
     vornsave_set_tipo_status_lectura(v, 1, nullptr); // blocks may be open
     vornsave_libera(&v);
-    el_flujo().cierra();
+}
+
+// A project file, whole, beside the files that are none.
+inline void prepara_proyecto() {
+    if (vdir_existe_fichero_UNICODE(VNU("proyecto.bin")) == CIERTO) return;
+    vnfichero *f = vornbin_abre_fichero_para_escritura_u(VNU("proyecto.bin"), nullptr);
+    bin_graba_long(1, f);
+    vornbin_cierra_fichero_abierto_para_escritura_u(f, VNU("proyecto.bin"), nullptr);
 }
 
 // ---------------------------------------------------------------- containers of three elements

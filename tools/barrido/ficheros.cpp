@@ -22,6 +22,7 @@ void prepara_ficheros() {
         s << f.contenido;
     }
     std::filesystem::create_directory("carpeta", e);
+    std::filesystem::remove_all("no_esta.txt", e);
 }
 
 } // namespace barrido

@@ -168,7 +168,7 @@ class Generador:
                 if expresion == "modulo({n})" and t != "char" or expresion == "linea({n})" and p.tipo.kind == TypeKind.POINTER:
                     continue
                 if expresion.startswith("fichero"):
-                    return f"fichero<{t}>({n}, {self.opciones(p)})"
+                    return f"{expresion.format(t=t)}({n}, {self.opciones(p)})"
                 expresion = expresion.format(n=n, t=t)
                 if "fab_void" in expresion:
                     self.fabrica("void", f)
@@ -218,14 +218,15 @@ class Generador:
             llama = f"r.p = const_cast<void *>(static_cast<const void *>({f.nombre}({argumentos})))"
         else:
             llama = f"{f.nombre}({argumentos})"
-        if c.kind == TypeKind.POINTER and not es_funcion(r) and not r.get_pointee().is_const_qualified() and \
+        if "r.p = " in llama and c.kind == TypeKind.POINTER and not es_funcion(r) and not r.get_pointee().is_const_qualified() and \
                 not any(re.fullmatch(x, f.nombre) for x in tablas.PRESTADOS) and base(r.get_pointee()) not in ("tm",):
             suelta = self.fabrica(base(r.get_pointee()), f) + ".destruye"
         retiene = next((f'"{por}"' for patron, por in tablas.RETIENE if re.fullmatch(patron, f.nombre)), "nullptr")
         pasan = ";".join(f"{p}={v}" for patron, p, v in tablas.DEJA_PASAR if re.fullmatch(patron, f.nombre))
+        anterior = "true" if any(re.fullmatch(x, f.nombre) for x in tablas.DEJAN_EL_ANTERIOR) else "false"
         pasan = f'"{pasan}"' if pasan else "nullptr"
         return (f'    {{"{f.nombre}", [](const dato *a, dato &r) {{ (void)a, (void)r; {llama}; }},\n'
-                f"     [] {{ return parametros{{{params}}}; }}, {suelta}, {retiene}, {pasan}}},\n")
+                f"     [] {{ return parametros{{{params}}}; }}, {suelta}, {retiene}, {pasan}, {anterior}}},\n")
 
     def todas(self):
         for f in self.funciones:
@@ -260,7 +261,8 @@ def main():
     fabricas = "".join(f"extern const fabrica {n};\n" for n, _, _ in generador.fabricas.values())
     escribe(os.path.join(salida, "barrido_fabricas.h"), cabeza + "namespace barrido {\n" + fabricas + "}\n")
     definiciones = "".join(
-        f"const fabrica {n}{{[]() -> void * {{ return {crea}; }}, [](void *q) {{ auto *p = static_cast<{t} *>(q); {destruye}; }}}};\n"
+        f"const fabrica {n}{{[]() -> void * {{ return {crea}; }}, [](void *q) {{ auto *p = static_cast<{t} *>(q); {destruye}; }}"
+        f"{', [] { ' + tablas.DESPUES[t] + '; }' if t in tablas.DESPUES else ''}}};\n"
         for (t, _), (n, crea, destruye) in generador.fabricas.items())
     for i in range(trozos):
         escribe(os.path.join(salida, f"barrido_{i}.cpp"),

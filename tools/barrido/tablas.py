@@ -34,6 +34,9 @@ MANEJOS = [
     (r"(?:char|vnwchar) \*", r"", "nuevo_bloque()", "destruye_lista(p)", 0),
 ]
 
+# What an object stood on, which goes after it, whoever destroyed it.
+DESPUES = {"vornsave": "el_flujo().cierra()"}
+
 # Types that are only declared so far: no object of theirs can exist, an address stands for one.
 SIN_OBJETOS = {"idxdatos", "insocket"}
 
@@ -68,6 +71,7 @@ PARAMETROS = [
     # The address of a variable that lives until the exit.
     (r"alsalir_.*", r"cadena|dato", "direccion_fija({n}, EXIGE)"),
     (r"apunorde_nousar_(inserta_original|existe_elemento)", r"p", "direccion_fija({n}, EXIGE)"),
+    (r"bin_graba_SN", r"dato", "enteros({n}, {{'S', 'N', 0, -1}})"),
     # Room as the sizes say.
     (r"f_lc_f(read|write).*", r"destino|origen", "bufer({n}, 1, 4096, -1, OPCIONAL)"),
     (r"f_lc_f(read|write).*|lc_quedan", r"tamanyo|numero", "enteros({n}, {{1, 0, 3, 16}})"),
@@ -82,7 +86,8 @@ PARAMETROS = [
     (r".*", r"patron", 'patron_de_ficheros<{t}>({n})'),
     # Names of files and directories.
     (r"vornbin_marca_fichero_ejemplo_u", r"nomfich", 'textos_u({n}, {{u"obra.bin", u"entrada.bin", u"no_hay", u"carpeta", u""}})'),
-    (r".*", r"nomfich|fichero|nombre_fichero|nombre_fichero_obra|ruta|rutas?_\w+|path|path_\w+|directorio|obra", "fichero<{t}>"),
+    (r".*", r"obra|path_lista", "fichero_nuevo<{t}>"),
+    (r".*", r"nomfich|fichero|nombre_fichero|nombre_fichero_obra|ruta|rutas?_\w+|path|path_\w+|directorio", "fichero<{t}>"),
     (r"(f_lc_fopen|vdir_|vorndir_|fichmem_|fichconf_|vnlongpath_|timefich_|vf_|vornfile_|tmpfich).*",
      r"nombre|origen|destino|fich\w*", "fichero<{t}>"),
 ]
@@ -105,8 +110,10 @@ PRESTADOS = [
 RETIENE = [
     (r"alsalir_.*|nousar_atexit_anade", "the registry keeps it until the exit"),
     (r"contexto_dentroDeContexto_u", "the thread stays inside"),
-    (r"(vtxt|bin)_trata_cadena\w*", "reading stores a new text; what the owner held before is the caller's still"),
 ]
+
+# Operations that put a new object into an owner's slot and leave what was there to the caller.
+DEJAN_EL_ANTERIOR = [r"(vtxt|bin)_trata_cadena\w*"]
 
 # Broken values that the documentation accepts: operation, parameter, value.
 DEJA_PASAR = [
@@ -122,4 +129,5 @@ RESTAURA = [
     ("msidioma_establece_idioma", "msidioma_establece_idioma(0)"),
     ("fichconf_establece_directorio_base", "fichconf_establece_directorio_base(nullptr)"),
     ("vnmutex_establece_plazo", "vnmutex_establece_plazo(100)"),
+    ("vornbin_abre_fichero_para_escritura_u", "prepara_proyecto()"),
 ]

@@ -145,6 +145,7 @@ parametro nombre_fichero(const char *nombre, unsigned opciones) {
     pon_texto(p, calidad::buena, "entrada.bin");
     pon_texto(p, c, "");
     pon_texto(p, c, "no_esta.txt");
+    pon_texto(p, c, "proyecto.bin");
     pon_texto(p, c, "carpeta");
     pon_texto(p, c, "no\\hay/a%s\xF1.txt");
     pon_texto(p, c, std::string(LARGO, 'x'));
@@ -158,6 +159,7 @@ parametro nombre_fichero_u(const char *nombre, unsigned opciones) {
     pon_texto_u(p, calidad::buena, u"entrada.bin");
     pon_texto_u(p, c, u"");
     pon_texto_u(p, c, u"no_esta.txt");
+    pon_texto_u(p, c, u"proyecto.bin");
     pon_texto_u(p, c, u"carpeta");
     pon_texto_u(p, c, u"no\\hay/a%s\U0001F3D7\xDC00.txt");
     pon_texto_u(p, c, std::u16string(LARGO, u'x'));
