@@ -1,5 +1,6 @@
 #include "foundation/entorno.h"
 #include "foundation/lastwin.h"
+#include "foundation/version.h"
 #include "prueba.h"
 
 PRUEBA(entorno, el_producto_escalado_redondea_como_windows) {
@@ -25,4 +26,14 @@ PRUEBA(entorno, sin_cuadro_que_mostrar_la_pregunta_se_contesta_que_no) {
     EXPECT_EQ(avisobas_pregunta_u(VNU("¿sí?")), FALSO);
     EXPECT_EQ(lastwin_win_GetWinMain(), &no_es_una_ventana);
     lastwin_win_SetWinMain(nullptr);
+}
+
+PRUEBA(entorno, la_identidad_que_declara_el_programa_sale_en_los_dos_anchos) {
+    EXPECT_STREQ(version_versionAplicacion(), "1.0");
+    version_establece_u(VNU("2026.ñ"), VNU("2026"), 'b');
+    EXPECT_STREQ(version_versionAplicacion(), "2026.\xF1");
+    EXPECT_EQ(vn::utf8_de(version_versionAplicacion_u()), "2026.ñ");
+    EXPECT_STREQ(version_versionMayor(), "2026");
+    EXPECT_EQ(version_revision(), 'b');
+    version_establece_u(VNU("1.0"), VNU("1"), 'a');
 }
