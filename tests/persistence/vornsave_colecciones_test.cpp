@@ -1,6 +1,8 @@
 #include "persistence/prueba_vornsave.h"
 #include "foundation/cad.h"
 #include "foundation/widestr.h"
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <numeric>
 
@@ -89,7 +91,7 @@ std::string junta(arrCADENA_u *a) {
 std::string junta(arrDouble *a) {
     std::string t;
     for (uint32_t i = 0; a != nullptr && i < arr_NumElemsDouble(a); ++i)
-        t += std::to_string(static_cast<int>(arr_GetDouble(a, i))) + " ";
+        t += std::to_string(std::lround(std::clamp(arr_GetDouble(a, i), -99., 99.))) + " "; // damaged ones can be any
     if (a != nullptr) arr_DestruyeDouble(&a);
     return t;
 }
