@@ -13,8 +13,9 @@ function(vn_exporta objetivo lista)
     string(TOUPPER ${objetivo} raiz)
     list(JOIN nombres ";\n    " texto)
     file(CONFIGURE OUTPUT ${salida} CONTENT "@raiz@_0 {\n  global:\n    @texto@;\n  local: *;\n};\n" @ONLY)
-    # A registered exit cleaner is code of the library: it stays mapped until the process ends.
-    target_link_options(${objetivo} PRIVATE -Wl,--version-script=${salida} -Wl,-z,nodelete)
+    # A registered exit cleaner is code of the library: it stays mapped until the process ends. The library calls its own
+    # operations directly: one per value is written or read.
+    target_link_options(${objetivo} PRIVATE -Wl,--version-script=${salida} -Wl,-z,nodelete -Wl,-Bsymbolic-functions)
     set_property(TARGET ${objetivo} APPEND PROPERTY LINK_DEPENDS ${salida})
   endif()
 endfunction()

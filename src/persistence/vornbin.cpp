@@ -221,8 +221,6 @@ void bin_trata_punto(Punto2D *pto, vnfichero *f, vnbool graba) {
 namespace vn {
 namespace {
 
-// Elements looked at before they are written: they are still in the cache then.
-constexpr uint32_t TROZO = 32768;
 // Truth values turned to bytes and back, on the stack.
 constexpr uint32_t TROZO_LOGICOS = 1024;
 
@@ -235,13 +233,28 @@ template <class T> void graba_bloque(void (*graba)(T, vnfichero *), const T *dat
     else f_lc_fwrite(datos, sizeof(T), n, f, VN_AQUI);
 }
 
+// es_numero_valido of each, four at a time: an exponent of ones reaches the sign bit when one is added to it.
+bool son_numeros_validos(const double *d, uint32_t n) {
+    typedef uint64_t par __attribute__((vector_size(16)));
+    constexpr par EXPONENTE = {0x7FF0000000000000u, 0x7FF0000000000000u}, UNO = {uint64_t(1) << 52, uint64_t(1) << 52};
+    par malos[2] = {};
+    uint32_t i = 0;
+    for (; n - i >= 4; i += 4) {
+        par bits[2];
+        memcpy(bits, d + i, sizeof bits);
+        malos[0] |= (bits[0] & EXPONENTE) + UNO;
+        malos[1] |= (bits[1] & EXPONENTE) + UNO;
+    }
+    malos[0] |= malos[1];
+    bool validos = (malos[0][0] | malos[0][1]) >> 63 == 0;
+    for (; i < n; ++i) validos &= es_numero_valido(d[i]);
+    return validos;
+}
+
+// One look over all of them, and one write: pieces would not meet the pages of the file.
 template <> void graba_bloque(void (*graba)(double, vnfichero *), const double *datos, uint32_t n, vnfichero *f) {
-    por_trozos(datos, n, TROZO, [=](const double *d, uint32_t k) {
-        bool validos = !bin_etiquetas_al_escribir;
-        for (uint32_t i = 0; i < k; ++i) validos &= es_numero_valido(d[i]);
-        if (validos) f_lc_fwrite(d, sizeof *d, k, f, VN_AQUI);
-        else std::for_each_n(d, k, [=](double dato) { graba(dato, f); });
-    });
+    if (!bin_etiquetas_al_escribir && son_numeros_validos(datos, n)) f_lc_fwrite(datos, sizeof *datos, n, f, VN_AQUI);
+    else std::for_each_n(datos, n, [=](double dato) { graba(dato, f); });
 }
 
 template <class T> void lee_bloque(T (*lee)(vnfichero *), T *datos, uint32_t n, vnfichero *f) {
