@@ -1,0 +1,41 @@
+// The list of recent works: whatever the file holds, it is read or thrown away, and what was read can be saved.
+#include "objetivo.h"
+#include "foundation/arr.h"
+#include "foundation/widestr.h"
+#include "persistence/ultiobra.h"
+
+namespace {
+
+const std::basic_string<vnwchar> NOMBRE(fuzz::FICHERO, fuzz::FICHERO + std::char_traits<char>::length(fuzz::FICHERO));
+
+void guarda(std::initializer_list<const vnwchar *> obras, bool finaliza) {
+    for (const vnwchar *o : obras) ultiobra_guarda_nombre_ultima_obra_u(o, NOMBRE.c_str());
+    if (finaliza) ultiobra_finaliza_ultima_obra_u(NOMBRE.c_str());
+}
+
+void lee() {
+    arrCADENA_u *lista = ultiobra_lee_ultimas_obras_u(NOMBRE.c_str(), nullptr);
+    const uint32_t n = arr_NumElemsCADENA_u(lista);
+    fuzz::exige(n < 100000, "a list within reason");
+    arr_DestruyeCADENA_u(&lista);
+    vnwchar *ultima = ultiobra_lee_nombre_ultima_obra_finalizada_u(NOMBRE.c_str(), nullptr);
+    widestr_destruye_opcional(&ultima);
+    ultiobra_guarda_nombre_ultima_obra_u(VNU("mem/nueva.obr"), NOMBRE.c_str());
+    lista = ultiobra_lee_ultimas_obras_u(NOMBRE.c_str(), nullptr);
+    const uint32_t despues = arr_NumElemsCADENA_u(lista);
+    fuzz::exige(despues >= 1 && despues <= 32, "between one and 32 works after a save");
+    arr_DestruyeCADENA_u(&lista);
+}
+
+} // namespace
+
+std::vector<std::string> fuzz::semillas() {
+    return {lo_que_graba([] { guarda({VNU("mem/a.obr"), VNU("mem/\u00f1\u4e2d.obr"), VNU("[x]mem/b.obr")}, true); }),
+            lo_que_graba([] { guarda({VNU("mem/a.obr"), nullptr}, false); }),
+            "1\nmem/vieja.obr\n", "2\n2\nmem/a.obr\nmem/b.obr\n", "4\n; version\n1\n1\n; n\nmem/a.obr\n"};
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {
+    fuzz::con_fichero(datos, n, 5 * fuzz::cota(n), lee);
+    return 0;
+}
