@@ -163,6 +163,12 @@ void listas_cabecera::blanquea() {
     }
 }
 
+void da_textos(const cabecera &c, char **version_texto, char **revision_texto) {
+    bloque<char> version(cad_copia_cadena(c.version.c_str())), revision(cad_copia_cadena(c.revision.c_str()));
+    if (version_texto != nullptr) *version_texto = version.release();
+    if (revision_texto != nullptr) *revision_texto = revision.release();
+}
+
 cabecera lee_cabecera(vnfichero *f) {
     cabecera c;
     const int64_t comienzo = vornio_ftell_i64(f);

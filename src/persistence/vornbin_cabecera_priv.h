@@ -60,6 +60,9 @@ inline constexpr size_t LONGITUD_MASCARA = 4;
 extern const char i_MASCARA_VORN[LONGITUD_MASCARA + 1];
 extern const char i_MASCARA_EJEMPLO_VORN[LONGITUD_MASCARA + 1];
 
+// New texts of the version and the revision, to those that are asked for: all or none, if memory runs out between.
+void da_textos(const cabecera &c, char **version_texto, char **revision_texto);
+
 // Reads the header at the position of the stream; reports nothing.
 cabecera lee_cabecera(vnfichero *f);
 // Writes the header of this program, or that of another file with its form and its mask.

@@ -111,10 +111,6 @@ fichero abre_tras_cabecera(const vnwchar *nomfich, cabecera *c) {
     return f;
 }
 
-void da_texto(char **destino, const std::string &texto, bool hay) {
-    if (destino != nullptr) *destino = hay ? cad_copia_cadena(texto.c_str()) : nullptr;
-}
-
 template <class T> void inicia(T *salida, T valor) {
     if (salida != nullptr) *salida = valor;
 }
@@ -201,8 +197,7 @@ vnfichero *vornbin_abre_fichero_para_lectura_u(const vnwchar *nomfich, char **ve
     vn::cabecera c;
     vn::fichero f = vn::abre_tras_cabecera(nomfich, &c);
     if (f == nullptr) return nullptr;
-    vn::da_texto(version_texto, c.version, c.hay);
-    vn::da_texto(revision_texto, c.revision, c.hay);
+    if (c.hay) vn::da_textos(c, version_texto, revision_texto);
     vn::inicia(es_ejemplo, static_cast<vnbool>(c.es_ejemplo));
     return f.release();
 }

@@ -83,8 +83,7 @@ vnbool vornbin_hay_cabecera_en_fichero_u(const vnwchar *nomfich, char **version_
     if (!vn::abre_y_lee_cabecera(nomfich, &f, &c)) return FALSO;
     const vnbool fichero_valido = c.valida ? CIERTO : FALSO;
     if (!AFIRMA(fichero_valido == CIERTO) || !c.hay) return FALSO;
-    if (version_texto != nullptr) *version_texto = cad_copia_cadena(c.version.c_str());
-    if (revision_texto != nullptr) *revision_texto = cad_copia_cadena(c.revision.c_str());
+    vn::da_textos(c, version_texto, revision_texto);
     if (es_ejemplo != nullptr) *es_ejemplo = c.es_ejemplo;
     return CIERTO;
 }
@@ -140,9 +139,9 @@ vnbool vornbin_lee_datos_cabecera_debug_soporte(const char *nomfich, char **vers
     c.listas.recorre_campos([&texto](const vn::texto_u &nombre, const vn::texto_u &valor) {
         texto.append(nombre).append(VNU("=")).append(valor).append(VNU("\n"));
     });
-    *contenido = widestr_copia(texto.c_str());
-    *version_texto = cad_copia_cadena(c.version.c_str());
-    *revision_texto = cad_copia_cadena(c.revision.c_str());
+    vn::bloque<vnwchar> copia(widestr_copia(texto.c_str()));
+    vn::da_textos(c, version_texto, revision_texto);
+    *contenido = copia.release();
     *es_ejemplo = c.es_ejemplo;
     return CIERTO;
 }
