@@ -1,4 +1,5 @@
 #include "prueba.h"
+#include "foundation/operaciones_fichero.h"
 #include "plataforma/proceso.h"
 #include "foundation/msglocal.h"
 #include "foundation/vnatexit.h"
@@ -134,6 +135,11 @@ const std::string &Prueba::directorio() {
 }
 
 void Prueba::SetUp() {
+    // Waiting for the disk is most of what a save takes; the tests of the order of a save install their own table.
+    vnoperaciones_fichero sin_disco = *operaciones_fichero_del_sistema();
+    sin_disco.vuelca = [](vnid_fichero) { return VN_FICH_BIEN; };
+    sin_disco.vuelca_directorio = [](const vnwchar *) { return VN_FICH_BIEN; };
+    operaciones_fichero_instala(&sin_disco);
     msidioma_establece_idioma(0); // Spanish, whatever the user's language
     error_interno_instala_receptor(anota_informe, nullptr);
     avisos_instala_receptor(anota_aviso, nullptr);
@@ -144,6 +150,7 @@ void Prueba::SetUp() {
 }
 
 void Prueba::TearDown() {
+    operaciones_fichero_instala(nullptr);
     for (const auto &i : toma_informes())
         ADD_FAILURE() << "unexpected report: " << i.modulo << ", " << i.linea << ": " << i.expresion << " " << i.detalle;
     for (const auto &a : toma_avisos()) ADD_FAILURE() << "unexpected warning: " << a;

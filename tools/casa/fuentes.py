@@ -39,8 +39,8 @@ variant vector version""".split())
 OTRAS = {"src": ("Eigen/",), "tests": ("gtest/",), "bench": ("benchmark/", "Q"), "fuzz": (), "examples": ("dxflib/", "cairo")}
 PLATAFORMA = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(_WIN32|_WIN64|WIN32|__linux__|__unix__|__MINGW\w*|__APPLE__|"
                         r"__CYGWIN__|_POSIX_\w+)\b")
-# Text-mode differences and processes of their own are what these tests are about.
-TESTS_CON_SISTEMA = ("tests/plataforma/",)
+# Outside the library too, what differs between platforms stands in a folder of its own.
+OTRAS_PLATAFORMAS = ("tests/plataforma/", "bench/plataforma/", "examples/obra/plataforma/")
 MAXIMO_LINEAS = 800
 
 faltas = []
@@ -51,7 +51,7 @@ def falta(ruta, linea, que):
 
 
 def es_de_plataforma(ruta):
-    return ruta.startswith("src/foundation/platform/") or ruta.startswith(TESTS_CON_SISTEMA)
+    return ruta.startswith("src/foundation/platform/") or ruta.startswith(OTRAS_PLATAFORMAS)
 
 
 def es_tabla(lineas):

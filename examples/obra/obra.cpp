@@ -1,0 +1,98 @@
+// obra: a small host of the library, the way a real one is written.
+//   obra importa PLANO.dxf OBRA [CAMPO=VALOR...]   a drawing into a project file
+//   obra informa OBRA                              what a project file holds
+// A failure is one line on the error stream and exit status 1; nothing is lost or left half written.
+#include "dxf.h"
+#include "foundation/avisos.h"
+#include "foundation/error_interno.h"
+#include "foundation/unicode.h"
+#include "foundation/vdir.h"
+#include "foundation/version.h"
+#include "foundation/vornspy.h"
+#include "informe.h"
+#include "mensajes.h"
+#include "plataforma/argumentos.h"
+#include "posesion.h"
+#include <cstdio>
+
+namespace {
+
+using namespace obra;
+
+texto ancho(const std::string &utf8) {
+    const dueno_ancho t(unicode_convierte_UTF8_a_UNICODE(utf8.c_str()));
+    return t ? texto(t.get()) : texto();
+}
+
+int falla(const std::string &fichero, const std::string &que) {
+    std::fprintf(stderr, "obra: %s: %s\n", fichero.c_str(), que.c_str());
+    return 1;
+}
+
+int uso() {
+    std::fprintf(stderr, "%s\n", di(mensaje::uso).c_str());
+    return 2;
+}
+
+// The reports of the library are for its developers: this program says its own line, and shows them when asked to.
+void recibe_informe(const vninforme *, void *) {}
+
+// 0, or the exit status when there is no such file to read.
+int comprueba_que_se_lee(const std::string &nombre) {
+    const texto u = ancho(nombre);
+    if (vdir_existe_directorio_UNICODE(u.c_str()) == CIERTO) return falla(nombre, di(mensaje::es_directorio));
+    if (vdir_se_puede_leer_UNICODE(u.c_str()) == FALSO) return falla(nombre, di(mensaje::no_existe));
+    return 0;
+}
+
+int importa(const std::vector<std::string> &args) {
+    const std::string &dxf = args[2], &destino = args[3];
+    campos_t campos;
+    for (size_t i = 4; i < args.size(); ++i) {
+        const size_t igual = args[i].find('=');
+        if (igual == std::string::npos || igual == 0) return uso();
+        campos.emplace_back(ancho(args[i].substr(0, igual)), ancho(args[i].substr(igual + 1)));
+    }
+    if (const int e = comprueba_que_se_lee(dxf); e != 0) return e;
+    if (vdir_existe_directorio_UNICODE(ancho(destino).c_str()) == CIERTO) return falla(destino, di(mensaje::es_directorio));
+    plano p;
+    switch (lee_dxf(dxf, p)) {
+    case lectura_dxf::bien: break;
+    case lectura_dxf::no_se_abre: return falla(dxf, di(mensaje::sin_lector));
+    case lectura_dxf::no_es_dxf: return falla(dxf, di(mensaje::no_es_dxf));
+    case lectura_dxf::demasiado_grande: return falla(dxf, di(mensaje::demasiado));
+    }
+    const size_t barra = dxf.find_last_of("/\\");
+    const texto titulo = ancho(barra == std::string::npos ? dxf : dxf.substr(barra + 1));
+    if (!graba_obra(ancho(destino), p, titulo, campos)) return falla(destino, di(mensaje::no_se_graba));
+    std::printf("%s: %s %s\n", dxf.c_str(), di(mensaje::importado).c_str(), destino.c_str());
+    return 0;
+}
+
+int informa(const std::string &nombre) {
+    if (const int e = comprueba_que_se_lee(nombre); e != 0) return e;
+    obra_leida o;
+    std::string motivo;
+    switch (lee_obra(ancho(nombre), o, motivo)) {
+    case lectura_obra::bien: break;
+    case lectura_obra::version_superior: return falla(nombre, di(mensaje::superior));
+    case lectura_obra::no_es_obra: return falla(nombre, di(mensaje::no_es_obra));
+    }
+    std::fputs(informe_de(nombre, o).c_str(), stdout);
+    return 0;
+}
+
+int ejecuta(const std::vector<std::string> &args) {
+    if (args.size() >= 4 && args[1] == "importa") return importa(args);
+    if (args.size() == 3 && args[1] == "informa") return informa(args[2]);
+    return uso();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    prepara_consola();
+    error_interno_instala_receptor(recibe_informe, nullptr);
+    const int salida = ejecuta(argumentos_utf8(argc, argv));
+    return std::fflush(stdout) == 0 ? salida : 1;
+}

@@ -1,0 +1,63 @@
+// Extents of the drawing's curves, exact: an arc counts by its ends and by the quadrants that it goes through.
+#include "plano.h"
+#include <cmath>
+#include <numbers>
+
+namespace obra {
+namespace {
+
+constexpr double DOS_PI = 2 * std::numbers::pi;
+
+// Points of a curve centre + u cos t + v sin t where x or y turns, for t from `desde` counter-clockwise to `hasta`.
+void anade_curva(extension &e, Punto2D centro, Punto2D u, Punto2D v, double desde, double hasta) {
+    const auto anade = [&](double t) {
+        e.anade(centro.x + u.x * std::cos(t) + v.x * std::sin(t), centro.y + u.y * std::cos(t) + v.y * std::sin(t));
+    };
+    double barrido = std::fmod(hasta - desde, DOS_PI);
+    if (barrido <= 0) barrido += DOS_PI;
+    if (!std::isfinite(barrido)) return;
+    anade(desde);
+    anade(desde + barrido);
+    for (const double t0 : {std::atan2(v.x, u.x), std::atan2(v.y, u.y)}) {
+        for (const double t : {t0, t0 + std::numbers::pi}) {
+            double paso = std::fmod(t - desde, DOS_PI);
+            if (paso < 0) paso += DOS_PI;
+            if (paso < barrido) anade(t);
+        }
+    }
+}
+
+void anade_tramo(extension &e, Punto2D a, Punto2D b, double curvatura) {
+    e.anade(a.x, a.y);
+    e.anade(b.x, b.y);
+    if (curvatura == 0) return;
+    // Centre of the arc whose bulge is the tangent of a quarter of its angle.
+    const double dx = b.x - a.x, dy = b.y - a.y, k = (1 - curvatura * curvatura) / (4 * curvatura);
+    const Punto2D c = {(a.x + b.x) / 2 - dy * k, (a.y + b.y) / 2 + dx * k};
+    const double r = std::hypot(a.x - c.x, a.y - c.y);
+    const double ta = std::atan2(a.y - c.y, a.x - c.x), tb = std::atan2(b.y - c.y, b.x - c.x);
+    anade_curva(e, c, {r, 0}, {0, r}, curvatura > 0 ? ta : tb, curvatura > 0 ? tb : ta);
+}
+
+} // namespace
+
+extension extension_de(const capa &c) {
+    extension e;
+    for (const linea &l : c.lineas) e.anade(l.a.x, l.a.y), e.anade(l.b.x, l.b.y);
+    for (const circulo &k : c.circulos) {
+        e.anade(k.centro.x - k.radio, k.centro.y - k.radio);
+        e.anade(k.centro.x + k.radio, k.centro.y + k.radio);
+    }
+    for (const arco &a : c.arcos) anade_curva(e, a.centro, {a.radio, 0}, {0, a.radio}, a.desde, a.hasta);
+    for (const elipse &k : c.elipses)
+        anade_curva(e, k.centro, k.eje, {-k.eje.y * k.razon, k.eje.x * k.razon}, k.desde, k.hasta);
+    for (const polilinea &p : c.polilineas) {
+        const size_t n = p.vertices.size();
+        if (n == 1) e.anade(p.vertices[0].x, p.vertices[0].y);
+        for (size_t i = 0; i + 1 < n + (p.cerrada && n > 1 ? 1 : 0); ++i)
+            anade_tramo(e, p.vertices[i], p.vertices[(i + 1) % n], i < p.curvaturas.size() ? p.curvaturas[i] : 0);
+    }
+    return e;
+}
+
+} // namespace obra

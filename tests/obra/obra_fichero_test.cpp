@@ -1,0 +1,248 @@
+// Project files of the sample host: what is saved comes back, and what has been damaged is refused whole.
+#include "foundation/operaciones_fichero.h"
+#include "informe.h"
+#include "persistence/vornbin.h"
+#include "plano_fichero.h"
+#include "prueba.h"
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+using namespace obra;
+
+namespace {
+
+plano plano_de_prueba() {
+    plano p;
+    p.version_dxf = vn::ancho("AC1027");
+    p.metros_por_unidad = 0.001;
+    p.tipos_de_linea = {vn::ancho("CONTINUOUS"), vn::ancho("EJES")};
+    p.sin_importar = {{"HATCH", 3}, {"SPLINE", 1}};
+    capa muros{.nombre = vn::ancho("Muros \u00f1\u4e2d\U0001F600"), .tipo_linea = vn::ancho("CONTINUOUS"), .color = 1};
+    for (int i = 0; i < 40; ++i) {
+        muros.lineas.push_back({{i * 1.5, 0}, {i * 1.5, 10.0 + i}});
+        muros.color_lineas.push_back(256);
+    }
+    muros.color_lineas[7] = 0x1000000 + 0xABCDEF;
+    muros.circulos = {{{1, 2}, 3}};
+    muros.color_circulos = {5};
+    muros.arcos = {{{0, 0}, 2, 0.5, 1.5}, {{100, 100}, 1, 3, -3}};
+    muros.color_arcos = {1, 1};
+    capa vacia{.nombre = vn::ancho("0"), .apagada = true};
+    capa resto{.nombre = vn::ancho("Resto"), .tipo_linea = vn::ancho("EJES"), .color = 0x1FFFFFF};
+    resto.polilineas = {{true, {{0, 0}, {1, 0}, {1, 1}}, {0, 0.5, 0}}, {false, {{5, 5}}, {0}}, {false, {}, {}}};
+    resto.color_polilineas = {1, 2, 3};
+    resto.elipses = {{{0, 0}, {2, 1}, -0.5, 0, 3}};
+    resto.color_elipses = {0};
+    resto.rotulos = {{{1, 1}, 0.25, 0, vn::ancho("Cota \u00b10,00")}, {{2, 1}, 0.25, 0.1, vn::ancho("")}};
+    resto.color_rotulos = {7, 7};
+    p.capas = {muros, vacia, resto};
+    return p;
+}
+
+// Everything that a file tells, as text: equal texts are equal drawings.
+std::string todo(const obra_leida &o) {
+    std::string s = informe_de("x", o);
+    char n[64];
+    const auto d = [&](double x) { std::snprintf(n, sizeof n, "%a ", x), s += n; };
+    for (const capa &c : o.p.capas) {
+        s += utf8(c.nombre) + utf8(c.tipo_linea);
+        for (const linea &l : c.lineas) d(l.a.x), d(l.a.y), d(l.b.x), d(l.b.y);
+        for (const circulo &k : c.circulos) d(k.centro.x), d(k.centro.y), d(k.radio);
+        for (const arco &a : c.arcos) d(a.centro.x), d(a.centro.y), d(a.radio), d(a.desde), d(a.hasta);
+        for (const elipse &e : c.elipses) d(e.centro.x), d(e.eje.x), d(e.eje.y), d(e.razon), d(e.desde), d(e.hasta);
+        for (const polilinea &p : c.polilineas) {
+            s += p.cerrada ? "C" : "A";
+            for (size_t i = 0; i < p.vertices.size(); ++i) d(p.vertices[i].x), d(p.vertices[i].y), d(p.curvaturas[i]);
+        }
+        for (const rotulo &r : c.rotulos) d(r.en.x), d(r.altura), d(r.angulo), s += utf8(r.letras);
+        for (const colores *k : {&c.color_lineas, &c.color_circulos, &c.color_arcos, &c.color_elipses, &c.color_polilineas, &c.color_rotulos})
+            for (const uint32_t x : *k) d(x);
+    }
+    return s;
+}
+
+struct Fichero {
+    std::string utf8 = vn::Prueba::directorio() + "/obra de prueba.obr";
+    texto ancho = vn::ancho(utf8);
+};
+
+bool graba(const Fichero &f, const campos_t &campos = {}) {
+    return graba_obra(f.ancho, plano_de_prueba(), vn::ancho("Un t\u00edtulo"), campos);
+}
+
+uint64_t fnv(std::string_view s) {
+    uint64_t h = 14695981039346656037ull;
+    for (const char c : s) h = (h ^ static_cast<unsigned char>(c)) * 1099511628211ull;
+    return h;
+}
+
+// Bytes that the tracked heap is asked for, freed or not: more than its peak.
+std::atomic<uint64_t> pedidos{0};
+vnbool cuenta_pedidos(size_t n, void *) {
+    pedidos += n;
+    return CIERTO;
+}
+
+// Reads damaged bytes: never a crash, a leak or memory without bound. Returns whether they were taken.
+bool lee_bytes(const Fichero &f, const std::string &bytes) {
+    vn::graba_fichero(f.utf8, bytes);
+    pedidos = 0;
+    vornspy_instala_permiso(cuenta_pedidos, nullptr);
+    obra_leida o;
+    std::string motivo;
+    const lectura_obra r = lee_obra(f.ancho, o, motivo);
+    vornspy_instala_permiso(nullptr, nullptr);
+    // 16 MiB for the run-coded arrays, of which the file has several; 1 MiB where they are as they were written.
+    EXPECT_LE(pedidos.load(), (r == lectura_obra::bien ? 1u << 20 : 16u << 20) + 8 * bytes.size()) << motivo;
+    EXPECT_EQ(r == lectura_obra::no_es_obra, !motivo.empty());
+    EXPECT_EQ(r == lectura_obra::bien, !o.secciones.empty());
+    return r == lectura_obra::bien;
+}
+
+vnoperaciones_fichero con_disco_lleno(vnerror_fichero (*escribe)(vnid_fichero, int64_t, const void *, size_t, size_t *)) {
+    vnoperaciones_fichero t = *operaciones_fichero_del_sistema();
+    t.escribe = escribe;
+    return t;
+}
+
+} // namespace
+
+PRUEBA(obra_fichero, lo_que_se_graba_se_lee_y_los_campos_se_conservan) {
+    const Fichero f;
+    ASSERT_TRUE(graba(f, {{vn::ancho("autor"), vn::ancho("Ñandú")}, {vn::ancho("fase"), vn::ancho("1")}}));
+    obra_leida o;
+    std::string motivo;
+    ASSERT_EQ(lee_obra(f.ancho, o, motivo), lectura_obra::bien) << motivo;
+    obra_leida esperada = o;
+    esperada.p = plano_de_prueba();
+    EXPECT_EQ(todo(o), todo(esperada));
+    EXPECT_EQ(utf8(o.titulo), "Un título");
+    ASSERT_EQ(o.secciones.size(), 4u);
+    EXPECT_EQ(o.secciones[0].nombre, "PLANO");
+    // A second save gives one field anew and keeps the other.
+    ASSERT_TRUE(graba(f, {{vn::ancho("fase"), vn::ancho("2")}}));
+    ASSERT_EQ(lee_obra(f.ancho, o, motivo), lectura_obra::bien) << motivo;
+    ASSERT_EQ(o.campos.size(), 2u);
+    EXPECT_EQ(utf8(o.campos[0].second), "Ñandú");
+    EXPECT_EQ(utf8(o.campos[1].second), "2");
+    EXPECT_TRUE(vn::existe(f.utf8 + ".bak"));
+    EXPECT_FALSE(vn::existe(f.utf8 + "_TM$"));
+}
+
+// The same records give the same bytes on every platform: this number is of them all.
+PRUEBA(obra_fichero, los_bytes_son_los_mismos_en_toda_plataforma) {
+    const Fichero f;
+    ASSERT_TRUE(graba(f, {{vn::ancho("autor"), vn::ancho("Ñandú")}}));
+    const std::string bytes = vn::lee_fichero(f.utf8);
+    EXPECT_EQ(bytes.size(), 2346u);
+    EXPECT_EQ(fnv(bytes), 2748994739658136108u);
+}
+
+PRUEBA(obra_fichero, cortado_en_cada_byte_se_rechaza) {
+    const Fichero f;
+    ASSERT_TRUE(graba(f, {{vn::ancho("autor"), vn::ancho("A")}}));
+    const std::string bytes = vn::lee_fichero(f.utf8);
+    for (size_t n = 0; n < bytes.size(); ++n) ASSERT_FALSE(lee_bytes(f, bytes.substr(0, n))) << n;
+    ASSERT_TRUE(lee_bytes(f, bytes));
+    ASSERT_FALSE(lee_bytes(f, bytes + "x"));
+}
+
+PRUEBA(obra_fichero, con_bits_cambiados_o_cuentas_falsas_se_lee_o_se_rechaza) {
+    const Fichero f;
+    ASSERT_TRUE(graba(f));
+    const std::string bytes = vn::lee_fichero(f.utf8);
+    for (size_t i = 0; i < bytes.size(); ++i) {
+        std::string otro = bytes;
+        otro[i] = static_cast<char>(otro[i] ^ (1 << i % 8));
+        lee_bytes(f, otro);
+    }
+    constexpr uint32_t LIMITES[] = {0, 1, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 0x10000, 0xFFFFFFF0};
+    for (size_t i = 0; i + 4 <= bytes.size(); i += 3) {
+        std::string otro = bytes;
+        std::memcpy(otro.data() + i, &LIMITES[i / 3 % std::size(LIMITES)], 4);
+        lee_bytes(f, otro);
+    }
+}
+
+PRUEBA(obra_fichero, otra_firma_una_version_superior_y_lo_que_no_es_un_fichero) {
+    const Fichero f;
+    obra_leida o;
+    std::string motivo;
+    ASSERT_TRUE(graba(f));
+    const std::string bytes = vn::lee_fichero(f.utf8);
+    std::string otro = bytes;
+    const size_t firma = otro.find(FIRMA);
+    ASSERT_NE(firma, std::string::npos);
+    otro[firma] = 'X';
+    EXPECT_FALSE(lee_bytes(f, otro));
+    otro = bytes;
+    otro[firma - 4] = 99; // the version stands before the signature's length
+    vn::graba_fichero(f.utf8, otro);
+    EXPECT_EQ(lee_obra(f.ancho, o, motivo), lectura_obra::version_superior);
+    EXPECT_EQ(lee_obra(vn::ancho(directorio()), o, motivo), lectura_obra::no_es_obra);
+    EXPECT_EQ(lee_obra(vn::ancho(directorio() + "/no est\u00e1"), o, motivo), lectura_obra::no_es_obra);
+}
+
+PRUEBA(obra_fichero, con_el_disco_lleno_queda_el_anterior) {
+    const Fichero f;
+    ASSERT_TRUE(graba(f));
+    const std::string antes = vn::lee_fichero(f.utf8);
+    static int64_t cabe;
+    for (cabe = 0; cabe < static_cast<int64_t>(antes.size()); cabe += 97) {
+        const vnoperaciones_fichero t =
+            con_disco_lleno([](vnid_fichero id, int64_t posicion, const void *origen, size_t n, size_t *escritos) {
+                const int64_t queda = cabe - posicion;
+                if (queda <= 0) return VN_FICH_SIN_ESPACIO;
+                return operaciones_fichero_del_sistema()->escribe(id, posicion, origen,
+                                                                  std::min(n, static_cast<size_t>(queda)), escritos);
+            });
+        operaciones_fichero_instala(&t);
+        EXPECT_FALSE(graba(f)) << cabe;
+        operaciones_fichero_instala(nullptr);
+        EXPECT_EQ(toma_informes().size(), 1u) << cabe;
+        ASSERT_EQ(vn::lee_fichero(f.utf8), antes) << cabe;
+    }
+    EXPECT_TRUE(graba(f));
+    EXPECT_FALSE(vn::existe(f.utf8 + "_TM$"));
+}
+
+// Memory runs out at the k-th allocation, once or from there on: the trap gets it, nothing is lost or left behind.
+PRUEBA(obra_fichero, sin_memoria_en_cada_reserva) {
+    struct fallo {
+        uint64_t en, van = 0;
+        bool para_siempre;
+    };
+    const auto permiso = [](size_t, void *datos) -> vnbool {
+        auto *q = static_cast<fallo *>(datos);
+        const uint64_t n = q->van++;
+        return n == q->en || (n > q->en && q->para_siempre) ? FALSO : CIERTO;
+    };
+    struct trabajo {
+        Fichero f;
+        bool hecho;
+    } t{{}, false};
+    ASSERT_TRUE(graba(t.f));
+    const std::string antes = vn::lee_fichero(t.f.utf8);
+    const auto graba_y_lee = [](trabajo *q) {
+        obra_leida o;
+        std::string motivo;
+        q->hecho = graba(q->f) && lee_obra(q->f.ancho, o, motivo) == lectura_obra::bien;
+    };
+    for (const bool para_siempre : {false, true}) {
+        bool acabado = false;
+        for (uint64_t k = 0; !acabado; ++k) {
+            fallo q{k, 0, para_siempre};
+            t.hecho = false;
+            const uint64_t vivos = vornspy_bloques_vivos(nullptr);
+            vornspy_instala_permiso(permiso, &q);
+            trapable_ejecuta_funcion_segura(trabajo, +graba_y_lee, &t, nullptr);
+            vornspy_instala_permiso(nullptr, nullptr);
+            acabado = q.van <= k;
+            EXPECT_EQ(t.hecho, acabado) << k;
+            ASSERT_EQ(vornspy_bloques_vivos(nullptr), vivos) << k;
+            ASSERT_EQ(vn::lee_fichero(t.f.utf8), antes) << k;
+        }
+    }
+    EXPECT_FALSE(vn::existe(t.f.utf8 + "_TM$"));
+}
