@@ -1,6 +1,7 @@
 #define VN_MODULO "callback (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/callback.h"
 #include "foundation/afirma.h"
+#include "foundation/propio_priv.h"
 
 struct vncallback {
     vnfunc_callback funcion;
@@ -8,12 +9,10 @@ struct vncallback {
 };
 
 vncallback *callback_nousar_crea(vnfunc_callback funcion, vnparametros *parametros) {
-    if (!AFIRMA_NO_NULO(funcion)) {
-        if (parametros != nullptr) vornspy_destruye_parametros(&parametros);
-        return nullptr;
-    }
+    vn::propio<vnparametros> suyos(parametros); // whatever happens from here on
+    if (!AFIRMA_NO_NULO(funcion)) return nullptr;
     auto *c = static_cast<vncallback *>(vornspy_malloc(sizeof(vncallback)));
-    *c = {funcion, parametros};
+    *c = {funcion, suyos.release()};
     return c;
 }
 

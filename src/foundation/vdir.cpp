@@ -1,6 +1,7 @@
 #define VN_MODULO "vdir (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/vdir.h"
 #include "foundation/afirma.h"
+#include "foundation/propio_priv.h"
 #include "foundation/unicode.h"
 #include "foundation/vdir_priv.h"
 #include "foundation/vornspy.h"
@@ -146,16 +147,13 @@ vnwchar *nuevo(vista t) {
 char *nuevo_ansi(const texto &t) { return unicode_UNICODE_a_ANSI(t.c_str()); }
 
 char *nuevo_ansi_fiel(const texto &t) {
-    char *s = nuevo_ansi(t);
-    if (s != nullptr && de_ansi(s) != t) vornspy_free_pp(&s, 1);
-    return s;
+    propio<char> s(nuevo_ansi(t));
+    return s != nullptr && de_ansi(s.get()) == t ? s.release() : nullptr;
 }
 
 texto de_ansi(const char *s) {
-    vnwchar *p = unicode_convierte_ANSI_a_UNICODE(s);
-    texto t(p != nullptr ? p : VNU(""));
-    if (p != nullptr) vornspy_free_pp(&p, 1);
-    return t;
+    const propio<vnwchar> p(unicode_convierte_ANSI_a_UNICODE(s));
+    return p != nullptr ? p.get() : VNU("");
 }
 
 } // namespace vn

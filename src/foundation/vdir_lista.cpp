@@ -4,6 +4,7 @@
 #include "foundation/vdir_priv.h"
 #include "foundation/vornspy.h"
 #include <algorithm>
+#include <memory>
 
 namespace vn {
 
@@ -17,9 +18,13 @@ bool nombres_en(const texto &directorio, vista mascara, clase que, std::vector<t
 }
 
 arrCADENA_u *nueva_lista(const std::vector<texto> &textos) {
-    arrCADENA_u *a = arr_CreaCADENA_u(0);
-    for (const texto &t : textos) arr_AppendCADENA_u(a, t.c_str());
-    return a;
+    // Held until it is whole: memory may run out inside a trap.
+    struct destruye {
+        void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
+    };
+    std::unique_ptr<arrCADENA_u, destruye> a(arr_CreaCADENA_u(0));
+    for (const texto &t : textos) arr_AppendCADENA_u(a.get(), t.c_str());
+    return a.release();
 }
 
 } // namespace vn

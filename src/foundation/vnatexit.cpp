@@ -2,6 +2,7 @@
 #include "foundation/vnatexit.h"
 #include "foundation/afirma.h"
 #include "foundation/platform/consola.h"
+#include "foundation/propio_priv.h"
 #include <atomic>
 #include <cstdlib>
 
@@ -65,16 +66,14 @@ struct suelta {
 } // namespace
 
 void nousar_atexit_anade(vnfunc_atexit funcion, vnparametros *parametros, const char *modulo, uint32_t linea) {
-    if (!AFIRMA_NO_NULO(funcion)) {
-        if (parametros != nullptr) vornspy_destruye_parametros(&parametros);
-        return;
-    }
+    vn::propio<vnparametros> suyos(parametros); // whatever happens from here on
+    if (!AFIRMA_NO_NULO(funcion)) return;
     if (!registrada.exchange(true)) {
         vn::plat::fija_en_memoria();
         std::atexit(vnatexit_ejecuta);
     }
     auto *e = static_cast<entrada *>(vornspy_nousar_malloc(sizeof(entrada), modulo, linea));
-    *e = {funcion, parametros, nullptr};
+    *e = {funcion, suyos.release(), nullptr};
     apila(e, e);
 }
 

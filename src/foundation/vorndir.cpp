@@ -2,6 +2,7 @@
 #include "foundation/vorndir.h"
 #include "foundation/afirma.h"
 #include "foundation/operaciones_fichero.h"
+#include "foundation/propio_priv.h"
 #include "foundation/vdir_priv.h"
 #include "foundation/vornspy.h"
 #include <algorithm>
@@ -142,7 +143,7 @@ vnbool vorndir_lista_de_fichero(const char *patron, arrCADENA **lista) {
     const bool leido = ficheros_de(de_ansi(patron), rutas);
     *lista = arr_CreaCADENA(0);
     for (const texto &r : rutas)
-        if (char *s = nuevo_ansi_fiel(r)) arr_AppendCADENAOriginal(*lista, &s);
+        if (const propio<char> s(nuevo_ansi_fiel(r)); s != nullptr) arr_AppendCADENA(*lista, s.get());
     return leido ? CIERTO : FALSO;
 }
 

@@ -143,10 +143,8 @@ arrCADENA *vornsave_lee_arr_cadenas_ANSI_ASCII(vornsave *vornsave_datos, uint32_
 }
 
 arrCADENA_u *vornsave_lee_arr_cadenas_ansi_unicode(vornsave *vornsave_datos) {
-    ansi::dueno_arr array(vornsave_lee_arr_cadenas(vornsave_datos));
-    if (array == nullptr) return nullptr;
-    arrCADENA *textos = array.release();
-    return utunicode_cadenas_ANSI_a_UNICODE_destruyendo(&textos);
+    const ansi::dueno_arr array(vornsave_lee_arr_cadenas(vornsave_datos));
+    return array == nullptr ? nullptr : utunicode_cadenas_ANSI_a_UNICODE(array.get());
 }
 
 arrCADENA_u *vornsave_lee_arr_cadenas_unicode(vornsave *vornsave_datos) {

@@ -18,6 +18,7 @@ int64_t *bloque(const dato *a) { return static_cast<int64_t *>(a[0].p); }
 parametros un_bloque() { return {objeto("b", fab_bloque, EXIGE)}; }
 parametros bloque_y_logico() { return {objeto("b", fab_bloque, EXIGE), logico("v")}; }
 parametros bloque_y_numero() { return {objeto("b", fab_bloque, EXIGE), entero_en<uint32_t>("n", 1, 3)}; }
+parametros que_consume() { return {objeto("b", fab_bloque, CONSUME)}; }
 parametros solo_bufer() { return {bufer("s", 1, 4, -1, OPCIONAL)}; }
 parametros un_hueco() { return {hueco("h", fab_bloque, EXIGE)}; }
 
@@ -63,6 +64,17 @@ const std::vector<operacion> malas{
      [](const dato *a, dato &) {
          exige(a[0].p != nullptr, "(b) != NULL");
          if (void *p = a[0].p; p != nullptr) vornspy_free_pp(&p, 1);
+     },
+     un_bloque, nullptr, nullptr, nullptr},
+    {"no_se_lo_queda", [](const dato *a, dato &) { exige(a[0].p != nullptr, "(b) != NULL"); }, que_consume, nullptr, nullptr,
+     nullptr},
+    // What it holds when its second allocation fails is lost.
+    {"pierde_sin_memoria",
+     [](const dato *a, dato &) {
+         exige(a[0].p != nullptr, "(b) != NULL");
+         void *p = vornspy_malloc(8), *q = vornspy_malloc(8);
+         vornspy_free_pp(&p, 1);
+         vornspy_free_pp(&q, 1);
      },
      un_bloque, nullptr, nullptr, nullptr},
     {"deja_colgando",

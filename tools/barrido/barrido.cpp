@@ -55,7 +55,7 @@ class barredor {
     // Names the first call that leaves blocks behind.
     void nombra_fuga(size_t tope);
 
-    uint64_t llamadas = 0, anotaciones = 0;
+    uint64_t llamadas = 0, anotaciones = 0, agotamientos = 0;
     bool defecto_limpio = true;
     std::string informe_del_defecto;
 
@@ -70,6 +70,7 @@ class barredor {
     template <class F> void recorre(size_t tope, F &&f);
     void prueba(const indices &cuales, bool solo);
     bool llama(const indices &cuales, bool atrapada, uint64_t &informes);
+    void agota_la_memoria();
     void prepara(const indices &cuales, std::vector<argumento> &args, std::vector<dato> &d);
     void recoge(const indices &cuales, std::vector<argumento> &args, const std::vector<dato> &d, dato r, bool informado);
     std::string describe(const indices &cuales, bool atrapada) const;
@@ -78,6 +79,7 @@ class barredor {
 
     const operacion &op_;
     parametros params_;
+    bool agotando_ = false;
     std::set<std::string> faltas_;
 };
 
@@ -104,14 +106,27 @@ void anota_informe(const vninforme *i, void *) {
 
 vnbool responde_no(vntipo_aviso, const vnwchar *, void *) { return FALSO; }
 
-// No block of a swept call needs more.
-vnbool hasta_un_limite(size_t tamanyo, void *) { return tamanyo <= (size_t{64} << 20) ? CIERTO : FALSO; }
+// The allocations of the call that are still allowed; the next one fails, and so do all after it if `para_siempre`.
+struct {
+    bool armado = false, para_siempre = false, llegado = false;
+    uint64_t quedan = 0;
+} agotamiento;
+
+vnbool hay_memoria(size_t tamanyo, void *) {
+    if (agotamiento.armado && agotamiento.quedan-- == 0) {
+        agotamiento.llegado = true;
+        if (agotamiento.para_siempre) agotamiento.quedan = 0;
+        else agotamiento.armado = false;
+        return FALSO;
+    }
+    return tamanyo <= (size_t{64} << 20) ? CIERTO : FALSO; // no swept call needs more in one block
+}
 
 // The swept operations may have taken them away.
 void instala_receptores() {
     error_interno_instala_receptor(anota_informe, nullptr);
     avisos_instala_receptor(responde_no, nullptr);
-    vornspy_instala_permiso(hasta_un_limite, nullptr);
+    vornspy_instala_permiso(hay_memoria, nullptr);
 }
 
 std::string barredor::describe(const indices &cuales, bool atrapada) const {
@@ -119,7 +134,9 @@ std::string barredor::describe(const indices &cuales, bool atrapada) const {
     s += '(';
     for (size_t i = 0; i < params_.size(); ++i)
         s += std::string(i ? ", " : "") + params_[i].nombre + '=' + params_[i].valores[cuales[i]].nombre;
-    return s + (atrapada ? "), trapped" : ")");
+    s += atrapada ? "), trapped" : ")";
+    if (agotando_) s += ", memory out at allocation " + std::to_string(agotamiento.quedan + 1);
+    return s;
 }
 
 void barredor::falta(const indices &cuales, bool atrapada, const std::string &que) {
@@ -215,6 +232,8 @@ void barredor::recoge(const indices &cuales, std::vector<argumento> &args, const
         if (a.v->clase == clase_valor::objeto) {
             // A registry keeps what it took until the exit.
             if (vivo(a.objeto) && params_[i].consume && op_.retiene != nullptr && !informado) continue;
+            if (vivo(a.objeto) && params_[i].consume && !op_.deja_el_anterior)
+                falta(cuales, false, std::string("does not take ") + params_[i].nombre + " over");
             if (vivo(a.objeto)) a.v->fab->destruye(a.objeto);
             else if (!params_[i].consume) falta(cuales, false, std::string("destroys its argument ") + params_[i].nombre);
         }
@@ -238,13 +257,15 @@ bool barredor::llama(const indices &cuales, bool atrapada, uint64_t &informes) {
     numero_de_llamada.fetch_add(1, std::memory_order_relaxed);
     ++llamadas;
     dato r{};
-    bool hay_memoria = true;
+    bool alcanza = true;
     const uint64_t antes = error_interno_numero_de_informes();
     if (atrapada) {
+        agotamiento.armado = agotando_;
         en_trampa e{&op_, d.data(), &r};
         const bool bien = trapable_nousar_recursivo_ejecuta_funcion_segura(llama_en_trampa, &e, nullptr) == CIERTO;
+        agotamiento.armado = false;
         informes = error_interno_numero_de_informes() - antes;
-        hay_memoria = bien || informes != 0;
+        alcanza = bien || informes != 0;
     } else {
         op_.llama(d.data(), r);
         informes = error_interno_numero_de_informes() - antes;
@@ -253,7 +274,7 @@ bool barredor::llama(const indices &cuales, bool atrapada, uint64_t &informes) {
     instala_receptores();
     recoge(cuales, args, d, r, informes != 0);
     ultimo_informe = del_informe;
-    return hay_memoria;
+    return alcanza;
 }
 
 void barredor::prueba(const indices &cuales, bool solo) {
@@ -317,8 +338,25 @@ template <class F> void barredor::recorre(size_t tope, F &&f) {
         }
 }
 
+// The call with good values while each of its allocations fails, alone and with all after it: what is lost shows as a leak.
+void barredor::agota_la_memoria() {
+    constexpr uint64_t MAXIMO = 60;
+    const indices bien(params_.size(), 0);
+    agotando_ = true;
+    for (const bool para_siempre : {false, true})
+        for (uint64_t n = 0; n < MAXIMO; ++n) {
+            agotamiento = {false, para_siempre, false, n};
+            uint64_t informes = 0;
+            llama(bien, true, informes);
+            if (!agotamiento.llegado) break;
+            ++agotamientos;
+        }
+    agotando_ = false;
+}
+
 void barredor::barre(size_t tope) {
     recorre(tope, [this](const indices &cuales, bool solo) { prueba(cuales, solo); });
+    agota_la_memoria();
 }
 
 bool barredor::crece(size_t tope) {
@@ -338,7 +376,11 @@ void barredor::nombra_fuga(size_t tope) {
             falta(cuales, false, "leaves " + std::to_string(ahora - antes) + " blocks behind");
         }
     });
-    if (!hallada) falta(indices(params_.size(), 0), false, "leaves blocks behind");
+    if (hallada) return;
+    const uint64_t antes = vornspy_bloques_vivos(nullptr);
+    agota_la_memoria();
+    falta(indices(params_.size(), 0), true, vornspy_bloques_vivos(nullptr) > antes ? "leaves blocks behind when memory runs out"
+                                                                                    : "leaves blocks behind");
 }
 
 // Operations between two looks at what is alive: a look walks the map of live blocks, which a sanitizer scatters.
@@ -356,8 +398,9 @@ void barre_una(size_t k, const operacion &op, size_t tope) {
     b.barre(tope);
     prepara_ficheros();
     restaura_lo_establecido();
-    std::fprintf(salida, "R\t%zu\t%s\t%llu\t%llu\t%d\t%s\n", k, op.nombre, static_cast<unsigned long long>(b.llamadas),
-                 static_cast<unsigned long long>(b.anotaciones), b.defecto_limpio ? 1 : 0, b.informe_del_defecto.c_str());
+    std::fprintf(salida, "R\t%zu\t%s\t%llu\t%llu\t%d\t%s\t%llu\n", k, op.nombre, static_cast<unsigned long long>(b.llamadas),
+                 static_cast<unsigned long long>(b.anotaciones), b.defecto_limpio ? 1 : 0, b.informe_del_defecto.c_str(),
+                 static_cast<unsigned long long>(b.agotamientos));
     std::fflush(salida);
 }
 

@@ -112,8 +112,9 @@ RETIENE = [
     (r"contexto_dentroDeContexto_u", "the thread stays inside"),
 ]
 
-# Operations that put a new object into an owner's slot and leave what was there to the caller.
-DEJAN_EL_ANTERIOR = [r"(vtxt|bin)_trata_cadena\w*"]
+# Operations that put a new object into an owner's slot and leave what was there to the caller, or that hand back what they
+# were given when they fail.
+DEJAN_EL_ANTERIOR = [r"(vtxt|bin)_trata_cadena\w*", r"vornspy_nousar_realloc"]
 
 # Broken values that the documentation accepts: operation, parameter, value.
 DEJA_PASAR = [
