@@ -66,6 +66,12 @@ const std::vector<operacion> malas{
          if (void *p = a[0].p; p != nullptr) vornspy_free_pp(&p, 1);
      },
      un_bloque, nullptr, nullptr, nullptr},
+    {"no_es_neutra",
+     [](const dato *a, dato &r) {
+         exige(a[0].p != nullptr, "(b) != NULL");
+         r.i = 7;
+     },
+     un_bloque, nullptr, nullptr, nullptr},
     {"no_se_lo_queda", [](const dato *a, dato &) { exige(a[0].p != nullptr, "(b) != NULL"); }, que_consume, nullptr, nullptr,
      nullptr},
     // What it holds when its second allocation fails is lost.

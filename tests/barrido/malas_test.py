@@ -15,6 +15,7 @@ ESPERADAS = {
     "pierde_en_la_trampa": ("leaves 1 blocks behind",),
     "se_sale": ("writes beyond the room of s", "ends the process"),
     "destruye_lo_ajeno": ("destroys its argument b",),
+    "no_es_neutra": ("b=null does not give the neutral value back",),
     "no_se_lo_queda": ("does not take b over",),
     "pierde_sin_memoria": ("leaves blocks behind when memory runs out",),
     "deja_colgando": ("leaves h leading to a freed block",),

@@ -69,13 +69,14 @@ class barredor {
 
     template <class F> void recorre(size_t tope, F &&f);
     void prueba(const indices &cuales, bool solo);
-    bool llama(const indices &cuales, bool atrapada, uint64_t &informes);
+    bool llama(const indices &cuales, bool atrapada, uint64_t &informes, bool *neutro = nullptr);
     void agota_la_memoria();
     void prepara(const indices &cuales, std::vector<argumento> &args, std::vector<dato> &d);
     void recoge(const indices &cuales, std::vector<argumento> &args, const std::vector<dato> &d, dato r, bool informado);
     std::string describe(const indices &cuales, bool atrapada) const;
     void falta(const indices &cuales, bool atrapada, const std::string &que);
     bool deja_pasar(size_t i, const valor &v) const;
+    bool es_neutro(const std::vector<dato> &d, dato r) const;
 
     const operacion &op_;
     parametros params_;
@@ -149,6 +150,13 @@ bool barredor::deja_pasar(size_t i, const valor &v) const {
     if (op_.deja_pasar == nullptr) return false;
     const std::string este = std::string(";") + params_[i].nombre + '=' + v.nombre + ';';
     return (std::string(";") + op_.deja_pasar + ';').find(este) != std::string::npos;
+}
+
+bool barredor::es_neutro(const std::vector<dato> &d, dato r) const {
+    const std::string_view esperado = op_.neutro;
+    if (esperado == "*") return true;
+    if (esperado == "first") return r.p == d[0].p;
+    return std::to_string(r.i) == esperado;
 }
 
 // Room of exactly `bytes`, so that a sanitizer sees the first byte beyond; elsewhere a sentinel does.
@@ -245,7 +253,7 @@ void barredor::recoge(const indices &cuales, std::vector<argumento> &args, const
 }
 
 // One call; false when it was trapped and memory ran out. Says how many reports it made.
-bool barredor::llama(const indices &cuales, bool atrapada, uint64_t &informes) {
+bool barredor::llama(const indices &cuales, bool atrapada, uint64_t &informes, bool *neutro) {
     std::vector<argumento> args;
     std::vector<dato> d;
     prepara(cuales, args, d);
@@ -270,6 +278,7 @@ bool barredor::llama(const indices &cuales, bool atrapada, uint64_t &informes) {
         op_.llama(d.data(), r);
         informes = error_interno_numero_de_informes() - antes;
     }
+    if (neutro != nullptr) *neutro = es_neutro(d, r);
     const std::string del_informe = ultimo_informe;
     instala_receptores();
     recoge(cuales, args, d, r, informes != 0);
@@ -293,10 +302,12 @@ void barredor::prueba(const indices &cuales, bool solo) {
     // What asks for more memory than there is may only unwind to a trap.
     if (enorme && !llama(cuales, true, informes)) return;
     ultimo_informe.clear();
-    llama(cuales, false, informes);
+    bool neutro = true;
+    llama(cuales, false, informes, &neutro);
     if (roto != nullptr) {
         const std::string cual = std::string(params_[parametro_roto].nombre) + '=' + roto->nombre;
         if (informes == 0) falta(cuales, false, cual + " is not reported");
+        if (solo && informes != 0 && !neutro) falta(cuales, false, cual + " does not give the neutral value back");
         if (solo) {
             ++anotaciones;
             // The same report on its way through a trap: what was held must be freed.

@@ -69,6 +69,7 @@ struct operacion {
     const char *retiene;      // why memory may stay after its calls, or null
     const char *deja_pasar;   // parameter and value that it is documented to accept, "name=value", or null
     bool deja_el_anterior = false; // what an owner's slot held stays the caller's when a new object takes its place
+    const char *neutro = "0";      // the result after a report: a number, "first" for the first argument, "*" for any
 };
 
 enum opcion : unsigned { EXIGE = 0, OPCIONAL = 1, CONSUME = 2, HUECO_OPCIONAL = 4, HUECO_VACIO = 8, LLENO = 16 };

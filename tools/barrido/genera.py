@@ -216,6 +216,10 @@ class Generador:
             llama = tablas.LLAMADAS[f.nombre].format(argumentos=argumentos)
         elif c.kind == TypeKind.POINTER and not es_funcion(r):
             llama = f"r.p = const_cast<void *>(static_cast<const void *>({f.nombre}({argumentos})))"
+        elif c.kind in ENTEROS or c.kind == TypeKind.ENUM:
+            llama = f"r.i = static_cast<int64_t>({f.nombre}({argumentos}))"
+        elif c.kind in (TypeKind.DOUBLE, TypeKind.FLOAT):
+            llama = f"r.d = {f.nombre}({argumentos})"
         else:
             llama = f"{f.nombre}({argumentos})"
         if "r.p = " in llama and c.kind == TypeKind.POINTER and not es_funcion(r) and not r.get_pointee().is_const_qualified() and \
@@ -224,9 +228,10 @@ class Generador:
         retiene = next((f'"{por}"' for patron, por in tablas.RETIENE if re.fullmatch(patron, f.nombre)), "nullptr")
         pasan = ";".join(f"{p}={v}" for patron, p, v in tablas.DEJA_PASAR if re.fullmatch(patron, f.nombre))
         anterior = "true" if any(re.fullmatch(x, f.nombre) for x in tablas.DEJAN_EL_ANTERIOR) else "false"
+        neutro = next((f'"{v}"' for patron, v, _ in tablas.NEUTROS if re.fullmatch(patron, f.nombre)), '"0"')
         pasan = f'"{pasan}"' if pasan else "nullptr"
         return (f'    {{"{f.nombre}", [](const dato *a, dato &r) {{ (void)a, (void)r; {llama}; }},\n'
-                f"     [] {{ return parametros{{{params}}}; }}, {suelta}, {retiene}, {pasan}, {anterior}}},\n")
+                f"     [] {{ return parametros{{{params}}}; }}, {suelta}, {retiene}, {pasan}, {anterior}, {neutro}}},\n")
 
     def todas(self):
         for f in self.funciones:

@@ -116,6 +116,21 @@ RETIENE = [
 # were given when they fail.
 DEJAN_EL_ANTERIOR = [r"(vtxt|bin)_trata_cadena\w*", r"vornspy_nousar_realloc"]
 
+# What comes back after a report where it is not 0, null or FALSO: operation, values ("first" is the first argument, "*" what
+# the third column says).
+NEUTROS = [
+    (r"cambtipo_.*", "*", "the nearest value of the type"),
+    (r"arr_(Buscar(CADENA|Puntero|Unica)|InsertarPunteroOrdenado).*", "4294967295", ""),
+    (r"lc_ftell|vornio_ftell_i64|vio_telli64|f_getc_sin_error|vnstdc__?w?putenv", "-1", ""),
+    (r"vnlongpath_GetFileAttributesW", "4294967295", ""),
+    (r"vnlongpath_CreateFileW", "*", "closed by the sweep"),
+    (r"vnstdc_(str|wcs|mem)(n?cpy|cat)", "first", ""),
+    (r"nousar_(msglocal_)?original(_u)?", "*", "an empty text"),
+    (r"vornspy_(nousar_(malloc|calloc|realloc)|reserva_seguro)", "*", "a block all the same"),
+    (r"unicode_pagina_ANSI_idioma", "1252", ""),
+    (r"f_lc_fopen_modo_escritura_u", "*", "a stream all the same"),
+]
+
 # Broken values that the documentation accepts: operation, parameter, value.
 DEJA_PASAR = [
 ]
