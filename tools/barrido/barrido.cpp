@@ -1,9 +1,9 @@
-// The sweep of arguments: calls every exported operation with each good and bad value of each parameter, alone and in
-// pairs, and holds the answers to what the headers promise. One process runs operation after operation; when it dies
-// or hangs, barrido.py names the call and goes on with the next.
+// The sweep of arguments: calls every exported operation with each good and bad value of each parameter,
+// alone and in pairs, and holds the answers to what the headers promise. One process runs operation after
+// operation; when it dies or hangs, barrido.py names the call and goes on with the next.
 //
-// usage: barrido OUTPUT PAIRS SECONDS FROM PART PARTS [NAME]: operations k >= FROM with k mod PARTS = PART; with NAME, only
-// that one, telling each call. SECONDS: how long a call may take.
+// usage: barrido OUTPUT PAIRS SECONDS FROM PART PARTS [NAME]: operations k >= FROM with k mod PARTS = PART;
+// with NAME, only that one, telling each call. SECONDS: how long a call may take.
 #include "barrido.h"
 #include "foundation/avisos.h"
 #include "foundation/error_interno.h"
@@ -62,17 +62,19 @@ class barredor {
   private:
     struct argumento {
         const valor *v;
-        void *objeto = nullptr;  // fresh object
-        void *bloque = nullptr;  // slot, buffer or copy
-        size_t bytes = 0;        // of the block
+        void *objeto = nullptr; // fresh object
+        void *bloque = nullptr; // slot, buffer or copy
+        size_t bytes = 0;       // of the block
     };
 
-    template <class F> void recorre(size_t tope, F &&f);
+    template <class F>
+    void recorre(size_t tope, F &&f);
     void prueba(const indices &cuales, bool solo);
     bool llama(const indices &cuales, bool atrapada, uint64_t &informes, bool *neutro = nullptr);
     void agota_la_memoria();
     void prepara(const indices &cuales, std::vector<argumento> &args, std::vector<dato> &d);
-    void recoge(const indices &cuales, std::vector<argumento> &args, const std::vector<dato> &d, dato r, bool informado);
+    void recoge(const indices &cuales, std::vector<argumento> &args, const std::vector<dato> &d, dato r,
+                bool informado);
     std::string describe(const indices &cuales, bool atrapada) const;
     void falta(const indices &cuales, bool atrapada, const std::string &que);
     bool deja_pasar(size_t i, const valor &v) const;
@@ -107,7 +109,8 @@ void anota_informe(const vninforme *i, void *) {
 
 vnbool responde_no(vntipo_aviso, const vnwchar *, void *) { return FALSO; }
 
-// The allocations of the call that are still allowed; the next one fails, and so do all after it if `para_siempre`.
+// The allocations of the call that are still allowed; the next one fails, and so do all after it if
+// `para_siempre`.
 struct {
     bool armado = false, para_siempre = false, llegado = false;
     uint64_t quedan = 0;
@@ -116,8 +119,10 @@ struct {
 vnbool hay_memoria(size_t tamanyo, void *) {
     if (agotamiento.armado && agotamiento.quedan-- == 0) {
         agotamiento.llegado = true;
-        if (agotamiento.para_siempre) agotamiento.quedan = 0;
-        else agotamiento.armado = false;
+        if (agotamiento.para_siempre)
+            agotamiento.quedan = 0;
+        else
+            agotamiento.armado = false;
         return FALSO;
     }
     return tamanyo <= (size_t{64} << 20) ? CIERTO : FALSO; // no swept call needs more in one block
@@ -185,7 +190,9 @@ void barredor::prepara(const indices &cuales, std::vector<argumento> &args, std:
         const valor &v = params_[i].valores[cuales[i]];
         args[i].v = &v;
         switch (v.clase) {
-        case clase_valor::objeto: d[i].p = args[i].objeto = v.fab->crea(); break;
+        case clase_valor::objeto:
+            d[i].p = args[i].objeto = v.fab->crea();
+            break;
         case clase_valor::hueco:
             args[i].objeto = v.d.i != 0 ? v.fab->crea() : nullptr;
             args[i].bytes = sizeof(void *);
@@ -197,8 +204,10 @@ void barredor::prepara(const indices &cuales, std::vector<argumento> &args, std:
             d[i].p = args[i].bloque = reserva_bloque(args[i].bytes);
             std::memcpy(args[i].bloque, v.d.p, args[i].bytes);
             break;
-        case clase_valor::bufer: break;
-        default: d[i] = v.d;
+        case clase_valor::bufer:
+            break;
+        default:
+            d[i] = v.d;
         }
     }
     for (size_t i = 0; i < n; ++i) {
@@ -216,7 +225,7 @@ void barredor::prepara(const indices &cuales, std::vector<argumento> &args, std:
 }
 
 void barredor::recoge(const indices &cuales, std::vector<argumento> &args, const std::vector<dato> &d, dato r,
-                       bool informado) {
+                      bool informado) {
     const uint64_t antes = error_interno_numero_de_informes();
     if (op_.suelta != nullptr && vivo(r.p)) {
         bool suyo = true;
@@ -230,7 +239,8 @@ void barredor::recoge(const indices &cuales, std::vector<argumento> &args, const
         if (a.v->clase != clase_valor::hueco) continue;
         void *p = nullptr;
         std::memcpy(&p, a.bloque, sizeof p);
-        if (vivo(p)) a.v->fab->destruye(p);
+        if (vivo(p))
+            a.v->fab->destruye(p);
         else if (p != nullptr && p == a.objeto)
             falta(cuales, false, std::string("leaves ") + params_[i].nombre + " leading to a freed block");
         if (op_.deja_el_anterior && p != a.objeto && vivo(a.objeto)) a.v->fab->destruye(a.objeto);
@@ -242,8 +252,10 @@ void barredor::recoge(const indices &cuales, std::vector<argumento> &args, const
             if (vivo(a.objeto) && params_[i].consume && op_.retiene != nullptr && !informado) continue;
             if (vivo(a.objeto) && params_[i].consume && !op_.deja_el_anterior)
                 falta(cuales, false, std::string("does not take ") + params_[i].nombre + " over");
-            if (vivo(a.objeto)) a.v->fab->destruye(a.objeto);
-            else if (!params_[i].consume) falta(cuales, false, std::string("destroys its argument ") + params_[i].nombre);
+            if (vivo(a.objeto))
+                a.v->fab->destruye(a.objeto);
+            else if (!params_[i].consume)
+                falta(cuales, false, std::string("destroys its argument ") + params_[i].nombre);
         }
         std::free(a.bloque);
         if (a.v->fab != nullptr && a.v->fab->despues != nullptr) a.v->fab->despues();
@@ -270,7 +282,8 @@ bool barredor::llama(const indices &cuales, bool atrapada, uint64_t &informes, b
     if (atrapada) {
         agotamiento.armado = agotando_;
         en_trampa e{&op_, d.data(), &r};
-        const bool bien = trapable_nousar_recursivo_ejecuta_funcion_segura(llama_en_trampa, &e, nullptr) == CIERTO;
+        const bool bien =
+            trapable_nousar_recursivo_ejecuta_funcion_segura(llama_en_trampa, &e, nullptr) == CIERTO;
         agotamiento.armado = false;
         informes = error_interno_numero_de_informes() - antes;
         alcanza = bien || informes != 0;
@@ -307,7 +320,8 @@ void barredor::prueba(const indices &cuales, bool solo) {
     if (roto != nullptr) {
         const std::string cual = std::string(params_[parametro_roto].nombre) + '=' + roto->nombre;
         if (informes == 0) falta(cuales, false, cual + " is not reported");
-        if (solo && informes != 0 && !neutro) falta(cuales, false, cual + " does not give the neutral value back");
+        if (solo && informes != 0 && !neutro)
+            falta(cuales, false, cual + " does not give the neutral value back");
         if (solo) {
             ++anotaciones;
             // The same report on its way through a trap: what was held must be freed.
@@ -317,12 +331,14 @@ void barredor::prueba(const indices &cuales, bool solo) {
     } else if (solo && informes != 0 && cuales == indices(cuales.size(), 0)) {
         defecto_limpio = false;
         informe_del_defecto = ultimo_informe;
-        if (ultimo_informe.find("!= NULL") != std::string::npos || ultimo_informe.find("== CIERTO ||") != std::string::npos)
+        if (ultimo_informe.find("!= NULL") != std::string::npos ||
+            ultimo_informe.find("== CIERTO ||") != std::string::npos)
             falta(cuales, false, "the call with good values reports: " + ultimo_informe);
     }
 }
 
-template <class F> void barredor::recorre(size_t tope, F &&f) {
+template <class F>
+void barredor::recorre(size_t tope, F &&f) {
     const size_t n = params_.size();
     indices cuales(n, 0);
     f(cuales, true);
@@ -332,7 +348,8 @@ template <class F> void barredor::recorre(size_t tope, F &&f) {
     }
     size_t pares = 0;
     for (size_t i = 0; i < n; ++i)
-        for (size_t j = i + 1; j < n; ++j) pares += (params_[i].valores.size() - 1) * (params_[j].valores.size() - 1);
+        for (size_t j = i + 1; j < n; ++j)
+            pares += (params_[i].valores.size() - 1) * (params_[j].valores.size() - 1);
     // An odd step over the list of pairs touches every row and column of it.
     const size_t paso = pares <= tope ? 1 : (pares / tope + 1) | 1;
     size_t k = 0;
@@ -349,7 +366,8 @@ template <class F> void barredor::recorre(size_t tope, F &&f) {
         }
 }
 
-// The call with good values while each of its allocations fails, alone and with all after it: what is lost shows as a leak.
+// The call with good values while each of its allocations fails, alone and with all after it: what is lost
+// shows as a leak.
 void barredor::agota_la_memoria() {
     constexpr uint64_t MAXIMO = 60;
     const indices bien(params_.size(), 0);
@@ -390,11 +408,13 @@ void barredor::nombra_fuga(size_t tope) {
     if (hallada) return;
     const uint64_t antes = vornspy_bloques_vivos(nullptr);
     agota_la_memoria();
-    falta(indices(params_.size(), 0), true, vornspy_bloques_vivos(nullptr) > antes ? "leaves blocks behind when memory runs out"
-                                                                                    : "leaves blocks behind");
+    falta(indices(params_.size(), 0), true,
+          vornspy_bloques_vivos(nullptr) > antes ? "leaves blocks behind when memory runs out"
+                                                 : "leaves blocks behind");
 }
 
-// Operations between two looks at what is alive: a look walks the map of live blocks, which a sanitizer scatters.
+// Operations between two looks at what is alive: a look walks the map of live blocks, which a sanitizer
+// scatters.
 size_t tamanyo_de_lote() { return SANEADO && todas().front()->size() > 50 ? 32 : 1; }
 
 struct lote {
@@ -409,8 +429,9 @@ void barre_una(size_t k, const operacion &op, size_t tope) {
     b.barre(tope);
     prepara_ficheros();
     restaura_lo_establecido();
-    std::fprintf(salida, "R\t%zu\t%s\t%llu\t%llu\t%d\t%s\t%llu\n", k, op.nombre, static_cast<unsigned long long>(b.llamadas),
-                 static_cast<unsigned long long>(b.anotaciones), b.defecto_limpio ? 1 : 0, b.informe_del_defecto.c_str(),
+    std::fprintf(salida, "R\t%zu\t%s\t%llu\t%llu\t%d\t%s\t%llu\n", k, op.nombre,
+                 static_cast<unsigned long long>(b.llamadas), static_cast<unsigned long long>(b.anotaciones),
+                 b.defecto_limpio ? 1 : 0, b.informe_del_defecto.c_str(),
                  static_cast<unsigned long long>(b.agotamientos));
     std::fflush(salida);
 }

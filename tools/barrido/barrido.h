@@ -1,5 +1,6 @@
-// The sweep of arguments: what a swept operation is made of. The generated sources state one `operacion` per exported
-// function; the kinds of parameter below carry the good and the bad values; barrido.cpp calls them all.
+// The sweep of arguments: what a swept operation is made of. The generated sources state one `operacion` per
+// exported function; the kinds of parameter below carry the good and the bad values; barrido.cpp calls them
+// all.
 #pragma once
 
 #include <cstddef>
@@ -19,8 +20,8 @@ union dato {
     void (*f)();
 };
 
-// What a value promises: good ones must pass the checks of pointers and truth values, bad ones must be reported, free
-// ones may be reported or not. None may crash, hang or leak.
+// What a value promises: good ones must pass the checks of pointers and truth values, bad ones must be
+// reported, free ones may be reported or not. None may crash, hang or leak.
 enum class calidad : uint8_t { buena, mala, libre };
 
 // Makes and destroys the object that a pointer leads to. Each call gets a fresh one.
@@ -65,14 +66,23 @@ struct operacion {
     const char *nombre;
     void (*llama)(const dato *a, dato &r);
     parametros (*da_parametros)();
-    void (*suelta)(void *p);  // of an owned result; null when there is none
-    const char *retiene;      // why memory may stay after its calls, or null
-    const char *deja_pasar;   // parameter and value that it is documented to accept, "name=value", or null
-    bool deja_el_anterior = false; // what an owner's slot held stays the caller's when a new object takes its place
-    const char *neutro = "0";      // the result after a report: a number, "first" for the first argument, "*" for any
+    void (*suelta)(void *p); // of an owned result; null when there is none
+    const char *retiene;     // why memory may stay after its calls, or null
+    const char *deja_pasar;  // parameter and value that it is documented to accept, "name=value", or null
+    bool deja_el_anterior =
+        false; // what an owner's slot held stays the caller's when a new object takes its place
+    const char *neutro =
+        "0"; // the result after a report: a number, "first" for the first argument, "*" for any
 };
 
-enum opcion : unsigned { EXIGE = 0, OPCIONAL = 1, CONSUME = 2, HUECO_OPCIONAL = 4, HUECO_VACIO = 8, LLENO = 16 };
+enum opcion : unsigned {
+    EXIGE = 0,
+    OPCIONAL = 1,
+    CONSUME = 2,
+    HUECO_OPCIONAL = 4,
+    HUECO_VACIO = 8,
+    LLENO = 16
+};
 
 // ---------------------------------------------------------------- kinds of parameter
 
@@ -105,7 +115,8 @@ parametro dato_ajeno(const char *nombre);
 void pon_entero(parametro &p, calidad c, int64_t i, bool enorme);
 
 // A whole number without a stated range: its ends too.
-template <class T> parametro entero(const char *nombre) {
+template <class T>
+parametro entero(const char *nombre) {
     parametro p{nombre};
     using lim = std::numeric_limits<T>;
     pon_entero(p, calidad::libre, 1, false);
@@ -118,7 +129,8 @@ template <class T> parametro entero(const char *nombre) {
 }
 
 // A whole number that must lie in [a, b]: the ends and the first beyond them.
-template <class T, class A, class B> parametro entero_en(const char *nombre, A a_, B b_) {
+template <class T, class A, class B>
+parametro entero_en(const char *nombre, A a_, B b_) {
     parametro p{nombre};
     using lim = std::numeric_limits<T>;
     const T a = static_cast<T>(a_), b = static_cast<T>(b_);
@@ -138,7 +150,8 @@ template <class T, class A, class B> parametro entero_en(const char *nombre, A a
 }
 
 // An index into a container that the factory makes with `n` elements.
-template <class T> parametro indice(const char *nombre, int64_t n) {
+template <class T>
+parametro indice(const char *nombre, int64_t n) {
     parametro p{nombre};
     pon_entero(p, calidad::buena, 0, false);
     pon_entero(p, calidad::buena, n - 1, false);
@@ -149,11 +162,14 @@ template <class T> parametro indice(const char *nombre, int64_t n) {
 }
 
 // A call-back of any type that does nothing and returns nothing.
-template <class F> struct generica;
-template <class R, class... A> struct generica<R (*)(A...)> {
+template <class F>
+struct generica;
+template <class R, class... A>
+struct generica<R (*)(A...)> {
     static R f(A...) { return R(); }
 };
-template <class F> void (*sin_efecto())() {
+template <class F>
+void (*sin_efecto())() {
     return reinterpret_cast<void (*)()>(&generica<F>::f);
 }
 
@@ -161,7 +177,8 @@ template <class F> void (*sin_efecto())() {
 
 const std::vector<const std::vector<operacion> *> &todas();
 
-// The files that the factories and the names of files stand on, in the working directory; before the first call.
+// The files that the factories and the names of files stand on, in the working directory; before the first
+// call.
 void prepara_ficheros();
 // Brings back what an operation may have set for the whole process; before the first one and after each.
 void restaura_lo_establecido();

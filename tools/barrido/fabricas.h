@@ -1,5 +1,5 @@
-// Objects, call-backs and files that the swept operations are given. Inline, so that what no swept operation needs asks
-// nothing of the libraries.
+// Objects, call-backs and files that the swept operations are given. Inline, so that what no swept operation
+// needs asks nothing of the libraries.
 #pragma once
 
 #include "barrido.h"
@@ -27,15 +27,20 @@ namespace barrido {
 
 // ---------------------------------------------------------------- kinds that only generated code names
 
-template <class F> void (*como_general(F *f))() { return reinterpret_cast<void (*)()>(f); }
+template <class F>
+void (*como_general(F *f))() {
+    return reinterpret_cast<void (*)()>(f);
+}
 
 // The number of elements of a buffer: what fits, none, one, and what its range forbids.
-template <class T> parametro longitud(const char *nombre) {
+template <class T>
+parametro longitud(const char *nombre) {
     parametro p{nombre};
     for (const int64_t i : {16, 0, 1, 2}) pon_entero(p, calidad::libre, i, false);
     return p;
 }
-template <class T, class A, class B> parametro longitud(const char *nombre, A a, B b) {
+template <class T, class A, class B>
+parametro longitud(const char *nombre, A a, B b) {
     parametro p{nombre};
     for (const int64_t i : {int64_t{16}, static_cast<int64_t>(a), int64_t{1}, int64_t{2}})
         if (i >= static_cast<int64_t>(a)) pon_entero(p, calidad::buena, i, false);
@@ -45,11 +50,13 @@ template <class T, class A, class B> parametro longitud(const char *nombre, A a,
 }
 
 // A text that the operation changes where it stands.
-template <class C> parametro texto_cambiable(const char *nombre, unsigned opciones) {
+template <class C>
+parametro texto_cambiable(const char *nombre, unsigned opciones) {
     static const C claro[32] = {'a', 'b', ' ', '1', '2', ' '};
     static const C vacio[32] = {};
     parametro p = registro(nombre, claro, sizeof claro, opciones);
-    p.valores.insert(p.valores.begin() + 1, {"\"\"", calidad::libre, clase_valor::copia, {.p = const_cast<C *>(vacio)}});
+    p.valores.insert(p.valores.begin() + 1,
+                     {"\"\"", calidad::libre, clase_valor::copia, {.p = const_cast<C *>(vacio)}});
     return p;
 }
 
@@ -62,35 +69,47 @@ inline parametro direccion_fija(const char *nombre, unsigned opciones) {
     return p;
 }
 
-template <class T> parametro registro_de(const char *nombre, const T &bueno, unsigned opciones) {
+template <class T>
+parametro registro_de(const char *nombre, const T &bueno, unsigned opciones) {
     static std::deque<T> todos; // as long as the program
     return registro(nombre, &todos.emplace_back(bueno), sizeof(T), opciones);
 }
 
-template <class C> parametro fichero(const char *nombre, unsigned opciones) {
-    if constexpr (sizeof(C) == 1) return nombre_fichero(nombre, opciones);
-    else return nombre_fichero_u(nombre, opciones);
+template <class C>
+parametro fichero(const char *nombre, unsigned opciones) {
+    if constexpr (sizeof(C) == 1)
+        return nombre_fichero(nombre, opciones);
+    else
+        return nombre_fichero_u(nombre, opciones);
 }
 // By default a file that is not there.
-template <class C> parametro fichero_nuevo(const char *nombre, unsigned opciones) {
+template <class C>
+parametro fichero_nuevo(const char *nombre, unsigned opciones) {
     parametro p = fichero<C>(nombre, opciones);
     std::swap(p.valores[0], p.valores[2]);
     return p;
 }
-template <class C> parametro modo_de_abrir(const char *nombre) {
-    if constexpr (sizeof(C) == 1) return textos(nombre, {"rb", "w", "a+", "r+b", "", "%s", "rw"});
-    else return textos_u(nombre, {u"rb", u"w", u"a+", u"r+b", u"", u"%s", u"rw"});
+template <class C>
+parametro modo_de_abrir(const char *nombre) {
+    if constexpr (sizeof(C) == 1)
+        return textos(nombre, {"rb", "w", "a+", "r+b", "", "%s", "rw"});
+    else
+        return textos_u(nombre, {u"rb", u"w", u"a+", u"r+b", u"", u"%s", u"rw"});
 }
-template <class C> parametro patron_de_ficheros(const char *nombre) {
-    if constexpr (sizeof(C) == 1) return textos(nombre, {"./*.bin", "", "*", "no_esta/*", "[%s"});
-    else return textos_u(nombre, {u"./*.bin", u"", u"*", u"no_esta/*", u"[%s"});
+template <class C>
+parametro patron_de_ficheros(const char *nombre) {
+    if constexpr (sizeof(C) == 1)
+        return textos(nombre, {"./*.bin", "", "*", "no_esta/*", "[%s"});
+    else
+        return textos_u(nombre, {u"./*.bin", u"", u"*", u"no_esta/*", u"[%s"});
 }
 
 // ---------------------------------------------------------------- texts and blocks
 
 inline char *nuevo_texto() { return static_cast<char *>(std::memcpy(vornspy_malloc(4), "abc", 4)); }
 inline vnwchar *nuevo_texto_u() {
-    return static_cast<vnwchar *>(std::memcpy(vornspy_malloc(4 * sizeof(vnwchar)), VNU("abc"), 4 * sizeof(vnwchar)));
+    return static_cast<vnwchar *>(
+        std::memcpy(vornspy_malloc(4 * sizeof(vnwchar)), VNU("abc"), 4 * sizeof(vnwchar)));
 }
 inline void *nuevo_bloque() { return vornspy_calloc(8, 8); }
 
@@ -147,7 +166,8 @@ inline void prepara_proyecto() {
 
 // ---------------------------------------------------------------- containers of three elements
 
-template <class T> T *con(T *a, void (*anade)(T *)) {
+template <class T>
+T *con(T *a, void (*anade)(T *)) {
     if (a != nullptr) anade(a);
     return a;
 }

@@ -187,7 +187,9 @@ parametro formato(const char *nombre) {
     return p;
 }
 
-parametro formato_u(const char *nombre) { return textos_u(nombre, {u"a", u"", u"100 %%", u"%", u"\u00F1%%\n"}); }
+parametro formato_u(const char *nombre) {
+    return textos_u(nombre, {u"a", u"", u"100 %%", u"%", u"\u00F1%%\n"});
+}
 
 parametro objeto(const char *nombre, const fabrica &f, unsigned opciones) {
     parametro p{nombre};
@@ -200,8 +202,11 @@ parametro objeto(const char *nombre, const fabrica &f, unsigned opciones) {
 parametro hueco(const char *nombre, const fabrica &f, unsigned opciones) {
     parametro p{nombre};
     const valor lleno{"owner", calidad::buena, clase_valor::hueco, {.i = 1}, &f};
-    const valor vacio{"owner of null", opciones & (HUECO_OPCIONAL | HUECO_VACIO) ? calidad::buena : calidad::mala,
-                      clase_valor::hueco, {.i = 0}, &f};
+    const valor vacio{"owner of null",
+                      opciones & (HUECO_OPCIONAL | HUECO_VACIO) ? calidad::buena : calidad::mala,
+                      clase_valor::hueco,
+                      {.i = 0},
+                      &f};
     if (opciones & HUECO_VACIO) {
         p.valores = {vacio};
     } else {
@@ -235,7 +240,8 @@ parametro registro(const char *nombre, const void *bueno, size_t tamanyo, unsign
 parametro llamada(const char *nombre, void (*f)(), unsigned opciones) {
     parametro p{nombre};
     p.valores.push_back({"function", calidad::buena, clase_valor::funcion, {.f = f}});
-    p.valores.push_back({"null", opciones & OPCIONAL ? calidad::buena : calidad::mala, clase_valor::funcion, {.f = nullptr}});
+    p.valores.push_back(
+        {"null", opciones & OPCIONAL ? calidad::buena : calidad::mala, clase_valor::funcion, {.f = nullptr}});
     return p;
 }
 

@@ -58,8 +58,7 @@ def mira_pe(ruta, lista, version):
     visto = re.search("FileVersion".encode("utf-16-le") + rb"(?:\0\0)+((?:[^\0]\0)+)", contenido)
     if visto is None or visto[1].decode("utf-16-le") != version:
         yield f"the version resource says {visto and visto[1].decode('utf-16-le')}, not {version}"
-    if re.search(r"^\s*\d+ \.debug_", salida(PREFIJO_MINGW + "objdump", "-h", ruta), re.M) and \
-            os.path.getsize(ruta) > 200_000_000:
+    if re.search(r"^\s*\d+ \.debug_", salida(PREFIJO_MINGW + "objdump", "-h", ruta), re.M):
         yield "ships its debug data"
     importacion = os.path.join(os.path.dirname(ruta), "..", "lib", f"lib{os.path.basename(ruta)}.a")
     if not os.path.exists(importacion):
