@@ -322,12 +322,7 @@ void barredor::prueba(const indices &cuales, bool solo) {
         if (informes == 0) falta(cuales, false, cual + " is not reported");
         if (solo && informes != 0 && !neutro)
             falta(cuales, false, cual + " does not give the neutral value back");
-        if (solo) {
-            ++anotaciones;
-            // The same report on its way through a trap: what was held must be freed.
-            llama(cuales, true, informes);
-            if (informes == 0) falta(cuales, true, cual + " is not reported");
-        }
+        if (solo) ++anotaciones;
     } else if (solo && informes != 0 && cuales == indices(cuales.size(), 0)) {
         defecto_limpio = false;
         informe_del_defecto = ultimo_informe;
@@ -335,6 +330,11 @@ void barredor::prueba(const indices &cuales, bool solo) {
             ultimo_informe.find("== CIERTO ||") != std::string::npos)
             falta(cuales, false, "the call with good values reports: " + ultimo_informe);
     }
+    // The same report on its way through a trap: what was held must be freed.
+    if (informes == 0) return;
+    llama(cuales, true, informes);
+    if (roto != nullptr && informes == 0)
+        falta(cuales, true, std::string(params_[parametro_roto].nombre) + '=' + roto->nombre + " is not reported");
 }
 
 template <class F>

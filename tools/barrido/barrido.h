@@ -104,6 +104,8 @@ parametro textos_u(const char *nombre, std::vector<std::u16string> valores);
 parametro formato(const char *nombre);
 parametro formato_u(const char *nombre);
 parametro objeto(const char *nombre, const fabrica &f, unsigned opciones);
+// The same with a second object, of another state.
+parametro tambien(parametro p, const fabrica &f);
 parametro hueco(const char *nombre, const fabrica &f, unsigned opciones);
 // A buffer of `elementos`, or of as many as the argument number `longitud_de` says.
 parametro bufer(const char *nombre, size_t tamanyo, size_t elementos, int longitud_de, unsigned opciones);

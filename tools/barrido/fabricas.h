@@ -133,6 +133,9 @@ inline void destruye_lista(void *lista) {
 
 inline vnfichero *flujo_binario() { return f_lc_fopen_seguro_u(VNU("flujo.bin"), VNU("r+b"), "barrido", 0); }
 inline vnfichero *flujo_texto() { return f_lc_fopen_seguro_u(VNU("flujo.txt"), VNU("r+"), "barrido", 0); }
+inline vnfichero *flujo_que_no_escribe() {
+    return f_lc_fopen_seguro_u(VNU("flujo.bin"), VNU("rb"), "barrido", 0);
+}
 
 // The stream of a protocol object outlives it, whoever frees the object.
 struct flujo_prestado {
@@ -150,6 +153,10 @@ inline flujo_prestado &el_flujo() {
 inline vornsave *protocolo() {
     el_flujo().cierra();
     return vornsave_registra_bin(el_flujo().f = flujo_binario());
+}
+inline vornsave *protocolo_de_texto() {
+    el_flujo().cierra();
+    return vornsave_registra_txt(el_flujo().f = flujo_texto(), CIERTO);
 }
 inline void destruye_protocolo(vornsave *v) {
     vornsave_set_tipo_status_lectura(v, 1, nullptr); // blocks may be open

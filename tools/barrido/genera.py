@@ -62,6 +62,16 @@ class Generador:
             self.fabricas[clave] = (nombre, crea, destruye)
         return self.fabricas[clave][0]
 
+    def con_otro(self, tipo, f, expresion):
+        """The kind, with the handle's second object if it has one."""
+        for patron, operaciones, crea, destruye in tablas.OTROS:
+            m = re.fullmatch(patron, tipo)
+            if m and re.match(operaciones, f.nombre):
+                nombre = "otro_" + re.sub(r"\W+", "_", tipo) + ("_" if operaciones else "")
+                self.fabricas[(tipo, "otro" + operaciones)] = (nombre, m.expand(crea), m.expand(destruye))
+                return f"tambien({expresion}, {nombre})"
+        return expresion
+
     def opciones(self, p):
         o = []
         if p.tiene("opcional", "salida_opcional", "opcional_doble", "dato"):
@@ -147,7 +157,7 @@ class Generador:
             if t in tablas.REGISTROS and tablas.REGISTROS[t]:
                 return f"registro_de({n}, {tablas.REGISTROS[t]}, {o})"
             if fila_de_manejo(t, f.nombre) and t not in ("Punto2D",):
-                return f"objeto({n}, {self.fabrica(t, f)}, {o})"
+                return self.con_otro(t, f, f"objeto({n}, {self.fabrica(t, f)}, {o})")
             if declaracion.is_definition() or declaracion.get_definition():
                 campos = list(a.get_fields())
                 if p.tiene("salida", "salida_opcional") or not any(

@@ -34,6 +34,22 @@ MANEJOS = [
     (r"(?:char|vnwchar) \*", r"", "nuevo_bloque()", "destruye_lista(p)", 0),
 ]
 
+# A second object of a handle, in another state: empty, of another kind, or one that refuses. As above.
+OTROS = [
+    ("vnfichero", r"", "flujo_que_no_escribe()", "lc_fclose_seguro(p)"),
+    ("vornsave", r"", "protocolo_de_texto()", "destruye_protocolo(p)"),
+    ("fichmem", r"", "fichmem_crea32(nullptr, 0)", "fichmem_destruye(&p)"),
+    ("arrPunto2DXPriv", r"", "arr_CreaPunto2DXPriv(0)", "arr_DestruyePunto2DXPriv(&p, nullptr)"),
+    ("arrPuntero", r"(?!ultfichsel_)", "arr_CreaPunteroConTipo(0)", "arr_DestruyePunteroConTipo(&p)"),
+    ("arrPuntero", r"", "ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados()", "ultfichsel_destruye(&p)"),
+    (r"arr(CADENA(?:_u)?)", r"", r"arr_Crea\1(2)", r"arr_Destruye\1(&p)"),  # of null texts
+    (r"arr(\w+)", r"", r"arr_Crea\1(0)", r"arr_Destruye\1(&p)"),
+    (r"(arulong(?:64)?)", r"", r"\1_crea()", r"\1_destruye(&p)"),
+    (r"(acadordeu?)", r"", r"\1_crea(FALSO)", r"\1_destruye(&p)"),
+    ("apunorde", r"", "apunorde_nousar_crea(compara_direcciones, nullptr, nullptr)", "apunorde_nousar_destruye(&p)"),
+    ("vnparametros", r"", "vornspy_parametro(1, 4, 1)", "vornspy_destruye_parametros(&p)"),
+]
+
 # What an object stood on, which goes after it, whoever destroyed it.
 DESPUES = {"vornsave": "el_flujo().cierra()"}
 

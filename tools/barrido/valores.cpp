@@ -199,6 +199,11 @@ parametro objeto(const char *nombre, const fabrica &f, unsigned opciones) {
     return p;
 }
 
+parametro tambien(parametro p, const fabrica &f) {
+    p.valores.insert(p.valores.begin() + 1, {"other", calidad::buena, clase_valor::objeto, {}, &f});
+    return p;
+}
+
 parametro hueco(const char *nombre, const fabrica &f, unsigned opciones) {
     parametro p{nombre};
     const valor lleno{"owner", calidad::buena, clase_valor::hueco, {.i = 1}, &f};
