@@ -92,8 +92,8 @@ int64_t vnstdc__time64(VN_SALIDA_OPC int64_t *t);
 /** Local time of `*t`. Borrowed: one record per thread. Null when the year cannot be told. */
 struct tm *vnstdc__localtime64(const int64_t *t);
 
-/** Value of an environment variable, or null. Borrowed until this thread asks for the same variable again in the same
-    width. The ANSI form is in the active code page. */
+/** Value of an environment variable, or null. Borrowed, good until the process ends; not to be written on. The
+    ANSI form is in the active code page. */
 char *vnstdc_getenv(const char *nombre);
 vnwchar *vnstdc__wgetenv(const vnwchar *nombre);
 /** Sets a variable of this process from "NAME=value"; "NAME=" takes it away. 0, or -1 for a text of another form. */

@@ -6,11 +6,13 @@
 #include "foundation/unicode.h"
 #include "foundation/vnstdc.h"
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <cstdlib>
-#include <map>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -159,13 +161,21 @@ size_t escribe_fecha(C *destino, size_t n, const C *formato, const std::tm &sin_
 template <class C>
 using texto_de = std::basic_string<C>;
 
-// What this thread has been lent, by name.
+// Each value that has been lent, once: exit cleaners and other threads may still hold it, so that none goes.
 template <class C>
-C *presta(const texto_de<C> &nombre, const texto_de<C> &valor) {
-    thread_local std::map<texto_de<C>, texto_de<C>> prestados;
-    texto_de<C> &prestado = prestados[nombre];
-    prestado = valor;
-    return prestado.data();
+C *presta(texto_de<C> valor) {
+    struct prestado {
+        texto_de<C> valor;
+        prestado *anterior;
+    };
+    static constinit std::atomic<prestado *> el_ultimo{nullptr};
+    for (prestado *p = el_ultimo.load(std::memory_order_acquire); p != nullptr; p = p->anterior)
+        if (p->valor == valor) return p->valor.data();
+    auto *nuevo = std::make_unique<prestado>().release();
+    nuevo->valor = std::move(valor);
+    nuevo->anterior = el_ultimo.load(std::memory_order_relaxed);
+    while (!el_ultimo.compare_exchange_weak(nuevo->anterior, nuevo, std::memory_order_release, std::memory_order_relaxed)) {}
+    return nuevo->valor.data();
 }
 
 bool nombre_posible(const vnwchar *nombre) {
@@ -211,14 +221,14 @@ char *vnstdc_getenv(const char *nombre) {
     std::basic_string<vnwchar> valor;
     if (!nombre_posible(ancho.get()) || !vn::plat::lee_variable(ancho.get(), valor)) return nullptr;
     const vn::propio<char> ansi(unicode_UNICODE_a_ANSI(valor.c_str()));
-    return presta<char>(nombre, ansi.get());
+    return presta<char>(ansi.get());
 }
 
 vnwchar *vnstdc__wgetenv(const vnwchar *nombre) {
     if (!AFIRMA_NO_NULO(nombre)) return nullptr;
     std::basic_string<vnwchar> valor;
     if (!nombre_posible(nombre) || !vn::plat::lee_variable(nombre, valor)) return nullptr;
-    return presta<vnwchar>(nombre, valor);
+    return presta(std::move(valor));
 }
 
 int vnstdc_putenv(const char *asignacion) {

@@ -176,8 +176,14 @@ PRUEBA(vnstdc, la_hora_local_es_de_cada_hebra_y_las_variables_llevan_cualquier_c
     EXPECT_EQ(vnstdc__wputenv(VNU("VN_PRUEBA_ENTORNO=caf\u00E9 \u65E5=x")), 0);
     EXPECT_EQ(vn::utf8_de(vnstdc__wgetenv(VNU("VN_PRUEBA_ENTORNO"))), "café 日=x");
     EXPECT_STREQ(vnstdc_getenv("VN_PRUEBA_ENTORNO"), "caf\xE9 ?=x");
+    // What was lent outlives its thread, the variable and its next values: an exit cleaner may still hold it.
+    const char *prestado = nullptr;
+    std::thread([&] { prestado = vnstdc_getenv("VN_PRUEBA_ENTORNO"); }).join();
+    EXPECT_EQ(vnstdc_putenv("VN_PRUEBA_ENTORNO=otro"), 0);
+    EXPECT_STREQ(vnstdc_getenv("VN_PRUEBA_ENTORNO"), "otro");
     EXPECT_EQ(vnstdc_putenv("VN_PRUEBA_ENTORNO="), 0);
     EXPECT_EQ(vnstdc_getenv("VN_PRUEBA_ENTORNO"), nullptr);
+    EXPECT_STREQ(prestado, "caf\xE9 ?=x");
     EXPECT_EQ(vnstdc_putenv("=x"), -1);
     EXPECT_EQ(vnstdc_putenv("SIN_IGUAL"), -1);
     EXPECT_EQ(vnstdc_getenv(""), nullptr);
