@@ -6,6 +6,7 @@
 #include "foundation/platform/consola.h"
 #include "foundation/vornspy.h"
 #include <atomic>
+#include <charconv>
 #include <cstring>
 #include <exception>
 
@@ -41,15 +42,11 @@ class linea_fija {
             pon_punto_de_codigo(c);
         }
     }
-    void pon_numero(uint32_t n) {
-        char cifras[11];
-        char *p = cifras + sizeof cifras - 1;
-        *p = '\0';
-        do {
-            *--p = static_cast<char>('0' + n % 10);
-            n /= 10;
-        } while (n != 0);
-        pon(p);
+    template <class T>
+    void pon_numero(T n) {
+        char cifras[32];
+        *std::to_chars(cifras, cifras + sizeof cifras - 1, n).ptr = '\0';
+        pon(cifras);
     }
     size_t termina() {
         texto_[n_++] = '\n';
@@ -118,6 +115,13 @@ size_t linea_de_informe(const vninforme &informe, char *linea, size_t maximo) {
     } else if (informe.detalle != nullptr) {
         l.pon(": ");
         l.pon(informe.detalle);
+    }
+    if (informe.punto != nullptr) {
+        l.pon(": (");
+        l.pon_numero(informe.punto->x);
+        l.pon(", ");
+        l.pon_numero(informe.punto->y);
+        l.pon(")");
     }
     if (vn::nivel_de_contexto() > 0) {
         l.pon(" [");

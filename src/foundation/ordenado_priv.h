@@ -76,7 +76,7 @@ bool inserta_en(A *a, const sitio_ordenado<typename A::elemento> &sitio, typenam
 // that a constant one may be asked.
 template <class A>
 bool hay_ordenado(const A *a, uint32_t i) {
-    if (!AFIRMA_TEXTO(i < total(a), "i < num_elementos")) return false;
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_TEXTO(i < a->num + a->cola.num, "i < num_elementos")) return false;
     if (a->cola.num > 0) asienta(const_cast<A *>(a));
     return true;
 }

@@ -142,7 +142,9 @@ template <class C> void alarga(C **s, vista<C> t, bool delante, quien q) {
     const size_t n = std::char_traits<C>::length(*s);
     const bool dentro = esta_dentro(vista<C>(*s, n), t.data());
     const size_t desde = dentro ? static_cast<size_t>(t.data() - *s) : 0;
-    *s = static_cast<C *>(vornspy_nousar_realloc(*s, (n + t.size() + 1) * sizeof(C), q.modulo, q.linea));
+    auto *mayor = static_cast<C *>(vornspy_nousar_realloc(*s, (n + t.size() + 1) * sizeof(C), q.modulo, q.linea));
+    if (mayor == nullptr) return; // reported: not a block of the heap
+    *s = mayor;
     if (delante) {
         std::char_traits<C>::move(*s + t.size(), *s, n + 1);
         std::char_traits<C>::copy(*s, dentro ? *s + t.size() + desde : t.data(), t.size());

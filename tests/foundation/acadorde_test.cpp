@@ -19,6 +19,7 @@ PRUEBA(acadorde, distinguiendo_ordena_por_bytes_y_no_repite) {
     EXPECT_EQ(pos, 4u);
     EXPECT_EQ(acadorde_distingue_may_y_min(a), CIERTO);
     EXPECT_EQ(ESPERA_INFORME("i < num_elementos", acadorde_get(a, 6)), nullptr);
+    EXPECT_EQ(ESPERA_INFORME("(a) != NULL", acadorde_get(nullptr, 0)), nullptr);
     acadorde_destruye(&a);
     EXPECT_EQ(ESPERA_INFORME("distingue_may_y_min == CIERTO || distingue_may_y_min == FALSO", acadorde_crea(2)), nullptr);
 }

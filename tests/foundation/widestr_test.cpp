@@ -40,6 +40,9 @@ PRUEBA(widestr, crecen_y_se_copian) {
     widestr_fun_destruye(&t);
     widestr_destruye(&s);
     EXPECT_EQ(s, nullptr);
+    vnwchar ajena[] = VNU("ab"), *p = ajena; // not of the heap: it stays
+    ESPERA_INFORME("vornspy_es_memoria_reservada_valida(p) == CIERTO", widestr_concatena(&p, VNU("c")));
+    EXPECT_EQ(utf8_de(p), "ab");
     EXPECT_EQ(toma(widestr_creacadena_con_caracter(3, 0x20AC)), "€€€");
     EXPECT_EQ(toma(widestr_crea_de_unidades(VNU("abc"), 2)), "ab");
     EXPECT_EQ(toma(ESPERA_INFORME("widestr_longitud(str)==len", widestr_crea_de_unidades(VNU("a\0b"), 3))), "a");
