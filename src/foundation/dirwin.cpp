@@ -1,6 +1,7 @@
 #define VN_MODULO "dirwin (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/dirwin.h"
 #include "foundation/afirma.h"
+#include "foundation/propio_priv.h"
 #include "foundation/vdir_priv.h"
 #include "foundation/vnlongpath.h"
 #include "foundation/vornspy.h"
@@ -17,7 +18,10 @@ struct dirwin {
 
 dirwin *dirwin_crea_UNICODE(const vnwchar *patron) {
     if (!AFIRMA_NO_NULO(patron)) return nullptr;
-    return new (vornspy_malloc(sizeof(dirwin))) dirwin(vn::descompone(patron));
+    vn::propio<void> sitio(vornspy_malloc(sizeof(dirwin)));
+    auto *d = new (sitio.get()) dirwin(vn::descompone(patron));
+    static_cast<void>(sitio.release());
+    return d;
 }
 
 vnbool dirwin_findnextfile_UNICODE(dirwin *d, dirwin_dato *dato) {

@@ -130,15 +130,14 @@ const char *texto_ansi(const char *celda, uint32_t ancho_id, int indice) {
     if (!texto.starts_with(MARCA) || !descodifica(texto.substr(MARCA.size()), ancho)) return sin_id(celda, ancho_id);
     descodificados &d = los_descodificados.dame();
     const std::lock_guard<std::mutex> dentro(d.cerrojo);
-    const auto [sitio, nuevo] = d.textos.try_emplace({indice, celda});
-    if (nuevo) {
-        const vn::propio<char> ansi(
-            unicode_convierte_UNICODE_a_ANSI_idioma(sin_id(ancho.c_str(), ancho_id), static_cast<uint32_t>(indice), nullptr));
-        sitio->second = ansi.get();
-        if (!d.registrado) atexit_anade(olvida_los_descodificados, nullptr);
-        d.registrado = true;
-    }
-    return sitio->second.c_str();
+    const std::pair clave(indice, std::string(celda));
+    if (const auto sitio = d.textos.find(clave); sitio != d.textos.end()) return sitio->second.c_str();
+    // Kept once it is whole: inside a trap the heap may unwind out of any of this.
+    const vn::propio<char> ansi(
+        unicode_convierte_UNICODE_a_ANSI_idioma(sin_id(ancho.c_str(), ancho_id), static_cast<uint32_t>(indice), nullptr));
+    if (!d.registrado) atexit_anade(olvida_los_descodificados, nullptr);
+    d.registrado = true;
+    return d.textos.emplace(clave, ansi.get()).first->second.c_str();
 }
 
 const vnwchar *lee_u(vnfunc_mensaje rellena, int indice) {

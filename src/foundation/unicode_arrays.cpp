@@ -16,6 +16,7 @@ struct libera {
 // An array of each text that `convierte` makes; null elements stay null.
 template <class F> arrCADENA_u *ancha(const arrCADENA *a, F convierte) {
     std::unique_ptr<arrCADENA_u, libera> r(arr_CreaCADENA_u(arr_NumElemsCADENA(a)));
+    if (r == nullptr) return nullptr;
     const char *const *textos = arr_GetBufferConstCADENA(a);
     for (uint32_t i = 0, n = arr_NumElemsCADENA(a); i < n; ++i) {
         vnwchar *s = textos[i] != nullptr ? convierte(textos[i]) : nullptr;
@@ -26,6 +27,7 @@ template <class F> arrCADENA_u *ancha(const arrCADENA *a, F convierte) {
 
 template <class F> arrCADENA *estrecha(const arrCADENA_u *a, F convierte) {
     std::unique_ptr<arrCADENA, libera> r(arr_CreaCADENA(arr_NumElemsCADENA_u(a)));
+    if (r == nullptr) return nullptr;
     const vnwchar *const *textos = arr_GetBufferConstCADENA_u(a);
     for (uint32_t i = 0, n = arr_NumElemsCADENA_u(a); i < n; ++i) {
         char *s = textos[i] != nullptr ? convierte(textos[i]) : nullptr;

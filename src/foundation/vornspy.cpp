@@ -3,6 +3,7 @@
 #include "foundation/afirma.h"
 #include "foundation/error_interno_priv.h"
 #include "foundation/platform/consola.h"
+#include "foundation/propio_priv.h"
 #include "foundation/vnatexit.h"
 #include <algorithm>
 #include <atomic>
@@ -226,7 +227,7 @@ struct vnparametros {
 
 vnparametros *vornspy_parametro(int n, ...) {
     if (!AFIRMA(n >= 1 && n <= 16)) n = 0;
-    auto *pack = static_cast<vnparametros *>(vornspy_calloc(1, sizeof(vnparametros)));
+    vn::propio<vnparametros> pack(static_cast<vnparametros *>(vornspy_calloc(1, sizeof(vnparametros))));
     va_list args;
     va_start(args, n);
     for (int i = 0; i < n; ++i) {
@@ -239,7 +240,7 @@ vnparametros *vornspy_parametro(int n, ...) {
         pack->numero = static_cast<uint32_t>(i) + 1;
     }
     va_end(args);
-    return pack;
+    return pack.release();
 }
 
 void *vornspy_parametro_puntero(const vnparametros *parametros, uint32_t i) {
