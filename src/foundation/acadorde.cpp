@@ -35,7 +35,7 @@ void pliega(vnwchar *s) { widestr_convertir_a_mayusculas(s); }
 template <class A>
 struct clave_de {
     using C = typename A::caracter;
-    vn::bloque<C> plegada;
+    vn::propio<C> plegada;
     std::basic_string_view<C> texto;
     clave_de(const A *a, const C *s) : texto(s) {
         if (a->distingue == CIERTO) return;
@@ -76,7 +76,7 @@ vnbool inserta(A *a, const typename A::caracter *s) {
     clave_de<A> clave(a, s);
     const auto sitio = busca_texto(a, clave);
     if (sitio.elemento != nullptr) return FALSO;
-    vn::bloque<typename A::caracter> texto(vn::copia_texto(s));
+    vn::propio<typename A::caracter> texto(vn::copia_texto(s));
     auto *con_clave = clave.plegada != nullptr ? clave.plegada.get() : texto.get();
     if (!vn::inserta_en(a, sitio, {texto.get(), con_clave})) return FALSO;
     static_cast<void>(texto.release());

@@ -67,13 +67,13 @@ void reemplaza(A *a, uint32_t i, caracter<A> *s) {
 
 // The text that the caller hands over, freed should it not arrive.
 template <class C>
-vn::bloque<C> toma_texto(C **s) {
-    return vn::bloque<C>(std::exchange(*s, nullptr));
+vn::propio<C> toma_texto(C **s) {
+    return vn::propio<C>(std::exchange(*s, nullptr));
 }
 
 template <class A>
 void inserta_copia(A *a, uint32_t i, const caracter<A> *s) {
-    vn::bloque<caracter<A>> c(vn::copia_texto(s));
+    vn::propio<caracter<A>> c(vn::copia_texto(s));
     if (vn::inserta(a, i, c.get())) static_cast<void>(c.release());
 }
 
@@ -119,7 +119,7 @@ vnbool existe_may_o_min(const A *a, const caracter<A> *s, uint32_t *pos) {
     }                                                                                                                  \
     void arr_Append##ORIGINAL(arr##S *a, C **s) {                                                                      \
         if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return;                                                          \
-        vn::bloque<C> c = toma_texto(s);                                                                               \
+        vn::propio<C> c = toma_texto(s);                                                                               \
         if (vn::anade(a, c.get())) static_cast<void>(c.release());                                                     \
     }                                                                                                                  \
     void arr_Insertar##S(arr##S *a, uint32_t i, const C *s) {                                                          \

@@ -4,6 +4,7 @@
 
 #include "foundation/afirma.h"
 #include "foundation/arr.h"
+#include "foundation/propio_priv.h"
 #include <algorithm>
 #include <cstring>
 #include <memory>
@@ -22,17 +23,10 @@ struct arreglo {
 constexpr uint32_t MAXIMO_AL_CREAR = 1u << 28;
 constexpr uint32_t MAXIMO = ~uint32_t{0};
 
-struct libera_bloque {
-    void operator()(void *p) const { vornspy_free_pp(&p, 1); }
-};
-// A block of the tracked heap with an owner.
-template <class T>
-using bloque = std::unique_ptr<T, libera_bloque>;
-
 // Room for `n` elements that comes from outside: none is reported, and gives null.
 template <class T>
-bloque<T> pide(uint32_t n) {
-    bloque<T> p(static_cast<T *>(vornspy_reserva_seguro(n, sizeof(T), CIERTO, VN_AQUI)));
+propio<T> pide(uint32_t n) {
+    propio<T> p(static_cast<T *>(vornspy_reserva_seguro(n, sizeof(T), CIERTO, VN_AQUI)));
     if (!AFIRMA_TEXTO(p != nullptr, "memoria != NULL")) return nullptr;
     return p;
 }
@@ -40,7 +34,7 @@ bloque<T> pide(uint32_t n) {
 template <class A>
 A *crea(uint32_t n) {
     if (!AFIRMA_TEXTO(n <= MAXIMO_AL_CREAR, "n <= 268435456")) return nullptr;
-    bloque<typename A::elemento> datos;
+    propio<typename A::elemento> datos;
     if (n > 0 && (datos = pide<typename A::elemento>(n)) == nullptr) return nullptr;
     auto *a = static_cast<A *>(vornspy_calloc(1, sizeof(A)));
     a->datos = datos.release();
@@ -77,7 +71,7 @@ bool asegura(A *a, uint32_t extra) {
     if (extra == 1) {
         a->datos = static_cast<T *>(vornspy_realloc(a->datos, size_t{nueva} * sizeof(T)));
     } else {
-        bloque<T> datos = pide<T>(nueva);
+        propio<T> datos = pide<T>(nueva);
         if (datos == nullptr) return false;
         if (a->num > 0) std::memcpy(static_cast<void *>(datos.get()), a->datos, size_t{a->num} * sizeof(T));
         if (a->datos != nullptr) vornspy_free_pp(&a->datos, sizeof(T));

@@ -2,6 +2,7 @@
 #include "foundation/contexto.h"
 #include "foundation/afirma.h"
 #include "foundation/contexto_priv.h"
+#include "foundation/utf_priv.h"
 #include <algorithm>
 #include <string_view>
 
@@ -20,7 +21,7 @@ thread_local vnwchar todo[NIVELES * (UNIDADES + 3)];
 vista recortada(const vnwchar *texto) {
     size_t n = 0;
     while (n < UNIDADES - 1 && texto[n] != 0) ++n;
-    if (n > 0 && texto[n] != 0 && (texto[n - 1] & 0xFC00) == 0xD800) --n;
+    if (n > 0 && texto[n] != 0 && vn::es_alto(texto[n - 1])) --n;
     return {texto, n};
 }
 

@@ -4,11 +4,13 @@
 #include "foundation/contexto_priv.h"
 #include "foundation/error_interno_priv.h"
 #include "foundation/platform/consola.h"
-#include "foundation/vornspy.h"
+#include "foundation/propio_priv.h"
+#include "foundation/utf_priv.h"
 #include <atomic>
 #include <charconv>
 #include <cstring>
 #include <exception>
+#include <string_view>
 
 namespace {
 
@@ -30,16 +32,11 @@ class linea_fija {
         for (; s != nullptr && *s != '\0'; ++s) pon_punto_de_codigo(static_cast<unsigned char>(*s));
     }
     void pon_u(const vnwchar *s) {
-        for (; s != nullptr && *s != 0; ++s) {
-            uint32_t c = static_cast<uint16_t>(*s);
-            const uint32_t bajo = static_cast<uint16_t>(s[1]);
-            if (c >= 0xD800 && c < 0xDC00 && bajo >= 0xDC00 && bajo < 0xE000) {
-                c = 0x10000 + ((c - 0xD800) << 10) + (bajo - 0xDC00);
-                ++s;
-            } else if (c >= 0xD800 && c < 0xE000) {
-                c = 0xFFFD;
-            }
-            pon_punto_de_codigo(c);
+        if (s == nullptr) return;
+        const std::basic_string_view<vnwchar> v(s);
+        for (size_t i = 0; i < v.size();) {
+            const uint32_t c = vn::lee_utf16(v, i);
+            pon_punto_de_codigo(vn::es_alto(c) || vn::es_bajo(c) ? vn::REEMPLAZO : c);
         }
     }
     template <class T>
@@ -56,24 +53,8 @@ class linea_fija {
 
   private:
     void pon_punto_de_codigo(uint32_t c) {
-        if (c < 0x20) c = ' ';
         char u[4];
-        size_t k = 0;
-        if (c < 0x80) {
-            u[k++] = static_cast<char>(c);
-        } else if (c < 0x800) {
-            u[k++] = static_cast<char>(0xC0 | (c >> 6));
-            u[k++] = static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            u[k++] = static_cast<char>(0xE0 | (c >> 12));
-            u[k++] = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            u[k++] = static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            u[k++] = static_cast<char>(0xF0 | (c >> 18));
-            u[k++] = static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-            u[k++] = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            u[k++] = static_cast<char>(0x80 | (c & 0x3F));
-        }
+        const size_t k = vn::escribe_utf8(c < 0x20 ? ' ' : c, u);
         if (n_ + k > maximo_) return;
         std::memcpy(texto_ + n_, u, k);
         n_ += k;
@@ -177,12 +158,7 @@ void error_interno_msg_u(const vnwchar *expresion, const char *modulo, uint32_t 
 void error_interno_liberando_mensaje_u(const vnwchar *expresion, const char *modulo, uint32_t linea, vnwchar *detalle,
                                        uint16_t clase) {
     // Freed on the way out, a trap's unwinding included.
-    struct libera {
-        vnwchar *texto;
-        ~libera() {
-            if (texto != nullptr) vornspy_nousar_free_pp(&texto, sizeof(vnwchar));
-        }
-    } const suelta{detalle};
+    const vn::propio<vnwchar> suyo(detalle);
     error_interno_msg_u(expresion, modulo, linea, detalle, clase);
 }
 

@@ -2,7 +2,8 @@
 #include "foundation/afirma.h"
 #include "foundation/cad.h"
 #include "foundation/fichmem.h"
-#include "foundation/lc_fichero.h"
+#include "foundation/lc_fichero_priv.h"
+#include "foundation/propio_priv.h"
 #include "foundation/unicode.h"
 #include "foundation/vornfile.h"
 
@@ -10,36 +11,23 @@
 
 namespace {
 
-// A text in wide form, freed on every way out.
-class ancho {
-  public:
-    explicit ancho(const char *ansi) : texto_(utunicode_ANSI_a_UNICODE(ansi)) {}
-    ~ancho() {
-        if (texto_ != nullptr) utunicode_destruye_UNICODE(&texto_);
-    }
-    ancho(const ancho &) = delete;
-    ancho &operator=(const ancho &) = delete;
-    operator const vnwchar *() const { return texto_; }
-
-  private:
-    vnwchar *texto_;
-};
+vn::propio<vnwchar> ancho(const char *ansi) { return vn::propio<vnwchar>(utunicode_ANSI_a_UNICODE(ansi)); }
 
 } // namespace
 
 vnfichero *f_lc_fopen(const char *nombre, const char *modo, const char *modulo, uint32_t linea) {
     if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(modo)) return nullptr;
-    return f_lc_fopen_u(ancho(nombre), ancho(modo), modulo, linea);
+    return f_lc_fopen_u(ancho(nombre).get(), ancho(modo).get(), modulo, linea);
 }
 
 vnfichero *f_lc_fopen_en_varios_intentos(const char *nombre, const char *modo, const char *modulo, uint32_t linea) {
     if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(modo)) return nullptr;
-    return f_lc_fopen_en_varios_intentos_u(ancho(nombre), ancho(modo), modulo, linea);
+    return f_lc_fopen_en_varios_intentos_u(ancho(nombre).get(), ancho(modo).get(), modulo, linea);
 }
 
 vnfichero *f_lc_fopen_seguro(const char *nombre, const char *modo, const char *modulo, uint32_t linea) {
     if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(modo)) return nullptr;
-    return f_lc_fopen_seguro_u(ancho(nombre), ancho(modo), modulo, linea);
+    return f_lc_fopen_seguro_u(ancho(nombre).get(), ancho(modo).get(), modulo, linea);
 }
 
 size_t f_lc_fread_ansi_ascii(void *destino, size_t tamanyo, size_t numero, vnfichero *f, uint16_t version,
@@ -58,20 +46,22 @@ size_t f_lc_fread_ansi_ascii(void *destino, size_t tamanyo, size_t numero, vnfic
 }
 
 fichmem *fichmem_lee(const char *nombre) {
-    return AFIRMA_NO_NULO(nombre) ? fichmem_lee_unicode(ancho(nombre)) : nullptr;
+    return AFIRMA_NO_NULO(nombre) ? fichmem_lee_unicode(ancho(nombre).get()) : nullptr;
 }
 
 vnfichero *vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar(const char *nombre) {
     if (!AFIRMA_NO_NULO(nombre)) return nullptr;
-    return vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(ancho(nombre));
+    return vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(ancho(nombre).get());
 }
 
 vnbool vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar(vnfichero *f, const char *nombre) {
+    vn::flujo_abierto mio(f); // closed, whatever comes
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(nombre)) return FALSO;
-    return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, ancho(nombre));
+    const auto destino = ancho(nombre);
+    return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(mio.release(), destino.get());
 }
 
 vnbool vf_copyfile_seguro(const char *origen, const char *destino) {
     if (!AFIRMA_NO_NULO(origen) || !AFIRMA_NO_NULO(destino)) return FALSO;
-    return vf_copyfile_seguro_u(ancho(origen), ancho(destino));
+    return vf_copyfile_seguro_u(ancho(origen).get(), ancho(destino).get());
 }

@@ -1,8 +1,9 @@
 #define VN_MODULO "msglocal (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/msglocal.h"
 #include "foundation/afirma.h"
+#include "foundation/eterno_priv.h"
 #include "foundation/formato_priv.h"
-#include "foundation/inmortal_priv.h"
+#include "foundation/numero_priv.h"
 #include "foundation/platform/variables.h"
 #include "foundation/propio_priv.h"
 #include "foundation/unicode.h"
@@ -84,21 +85,15 @@ const C *sin_id(const C *texto, uint32_t ancho_id) {
     return texto[ancho_id - 1] == '>' ? texto + ancho_id : texto;
 }
 
-int cifra_hexadecimal(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    const char minuscula = static_cast<char>(c | 0x20);
-    return minuscula >= 'a' && minuscula <= 'f' ? minuscula - 'a' + 10 : -1;
-}
-
 // The units of a text coded as UTF-16LE in hexadecimal; false when it is not one.
 bool descodifica(std::string_view hexadecimal, std::basic_string<vnwchar> &texto) {
     if (hexadecimal.empty() || hexadecimal.size() % 4 != 0) return false;
     for (size_t i = 0; i < hexadecimal.size(); i += 4) {
         unsigned unidad = 0;
         for (const size_t j : {i + 2, i + 3, i, i + 1}) {
-            const int cifra = cifra_hexadecimal(hexadecimal[j]);
-            if (cifra < 0) return false;
-            unidad = unidad * 16 + static_cast<unsigned>(cifra);
+            const uint32_t cifra = vn::cifra_hexadecimal(static_cast<unsigned char>(hexadecimal[j]));
+            if (cifra > 15) return false;
+            unidad = unidad * 16 + cifra;
         }
         if (unidad == 0) return false;
         texto += static_cast<vnwchar>(unidad);
@@ -112,10 +107,9 @@ struct descodificados {
     std::map<std::pair<int, std::string>, std::string> textos;
     bool registrado = false;
 };
-constinit vn::inmortal<descodificados> los_descodificados;
 
 void olvida_los_descodificados(vnparametros *) {
-    descodificados &d = los_descodificados.dame();
+    descodificados &d = vn::eterno<descodificados>();
     // At the end of a Windows process the lock may be held by a thread that is gone.
     const std::unique_lock<std::mutex> dentro(d.cerrojo, std::try_to_lock);
     if (!dentro) return;
@@ -128,7 +122,7 @@ const char *texto_ansi(const char *celda, uint32_t ancho_id, int indice) {
     const std::string_view texto(celda);
     std::basic_string<vnwchar> ancho;
     if (!texto.starts_with(MARCA) || !descodifica(texto.substr(MARCA.size()), ancho)) return sin_id(celda, ancho_id);
-    descodificados &d = los_descodificados.dame();
+    descodificados &d = vn::eterno<descodificados>();
     const std::lock_guard<std::mutex> dentro(d.cerrojo);
     const std::pair clave(indice, std::string(celda));
     if (const auto sitio = d.textos.find(clave); sitio != d.textos.end()) return sitio->second.c_str();

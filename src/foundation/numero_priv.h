@@ -21,6 +21,13 @@ template <class C> leido<double> lee_double(const C *s, size_t n);
 // base 16 too). A minus before an unsigned type overflows unless the number is 0.
 template <class T, class C> leido<T> lee_entero(const C *s, size_t n, int base = 10);
 
+// The value of a hexadecimal digit of either case, or a value above 15.
+constexpr uint32_t cifra_hexadecimal(uint32_t c) {
+    if (c - '0' < 10) return c - '0';
+    const uint32_t m = (c | 0x20) - 'a';
+    return m < 6 ? m + 10 : 16;
+}
+
 // Of a zero-terminated text.
 template <class C> leido<double> lee_double(const C *s) { return lee_double(s, std::char_traits<C>::length(s)); }
 template <class T, class C> leido<T> lee_entero(const C *s, int base = 10) {

@@ -1,5 +1,6 @@
 #define VN_MODULO "pagina (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/pagina_priv.h"
+#include "foundation/utf_priv.h"
 
 namespace vn {
 namespace {
@@ -16,56 +17,25 @@ template <class C> struct pluma {
     }
 };
 
-constexpr uint32_t REEMPLAZO = 0xFFFD;
-
-bool es_alto(uint32_t u) { return u >= 0xD800 && u < 0xDC00; }
-bool es_bajo(uint32_t u) { return u >= 0xDC00 && u < 0xE000; }
-
-// The character at `i`, which moves past it; a half of a pair alone is U+FFFD.
+// The character at `i`, which moves past it. What is none is U+FFFD: half of a pair alone, and each longest piece of UTF-8
+// that begins no character, as Unicode recommends.
 uint32_t siguiente(vista_u s, size_t &i) {
-    const uint32_t u = static_cast<uint16_t>(s[i++]);
-    if (u < 0xD800 || u >= 0xE000) return u;
-    if (!es_alto(u) || i == s.size() || !es_bajo(static_cast<uint16_t>(s[i]))) return REEMPLAZO;
-    return 0x10000 + ((u - 0xD800) << 10) + (static_cast<uint16_t>(s[i++]) - 0xDC00u);
+    const uint32_t c = lee_utf16(s, i);
+    return es_alto(c) || es_bajo(c) ? REEMPLAZO : c;
 }
-
-// The same of UTF-8: U+FFFD for each longest piece that begins no character, as Unicode recommends.
 uint32_t siguiente(std::string_view s, size_t &i) {
-    const auto byte = [&](size_t k) { return static_cast<uint32_t>(static_cast<unsigned char>(s[k])); };
-    const uint32_t b = byte(i++);
-    if (b < 0x80) return b;
-    if (b < 0xC2 || b > 0xF4) return REEMPLAZO;
-    const unsigned siguen = b < 0xE0 ? 1 : b < 0xF0 ? 2 : 3;
-    // The second byte's range bars overlong forms, surrogates and what lies beyond U+10FFFF.
-    uint32_t minimo = b == 0xE0 ? 0xA0 : b == 0xF0 ? 0x90 : 0x80, maximo = b == 0xED ? 0x9F : b == 0xF4 ? 0x8F : 0xBF;
-    uint32_t c = b & (0x3Fu >> siguen);
-    for (unsigned k = 0; k < siguen; ++k) {
-        if (i == s.size() || byte(i) < minimo || byte(i) > maximo) return REEMPLAZO;
-        c = c << 6 | (byte(i++) & 0x3F);
-        minimo = 0x80;
-        maximo = 0xBF;
-    }
-    return c;
+    uint32_t c = 0;
+    return lee_utf8(s, i, c) ? c : REEMPLAZO;
 }
 
 void pon_utf16(pluma<vnwchar> &p, uint32_t c) {
-    if (c < 0x10000) return p.pon(c);
-    p.pon(0xD800 + ((c - 0x10000) >> 10));
-    p.pon(0xDC00 + ((c - 0x10000) & 0x3FF));
+    vnwchar u[2];
+    p.n += escribe_utf16(c, p.destino != nullptr ? p.destino + p.n : u);
 }
 
 void pon_utf8(pluma<char> &p, uint32_t c) {
-    if (c < 0x80) return p.pon(c);
-    if (c < 0x800) p.pon(0xC0 | c >> 6);
-    else {
-        if (c < 0x10000) p.pon(0xE0 | c >> 12);
-        else {
-            p.pon(0xF0 | c >> 18);
-            p.pon(0x80 | (c >> 12 & 0x3F));
-        }
-        p.pon(0x80 | (c >> 6 & 0x3F));
-    }
-    p.pon(0x80 | (c & 0x3F));
+    char u[4];
+    p.n += escribe_utf8(c, p.destino != nullptr ? p.destino + p.n : u);
 }
 
 } // namespace

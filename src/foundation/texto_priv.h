@@ -3,7 +3,7 @@
 
 #include "foundation/error_interno.h"
 #include "foundation/pagina_priv.h"
-#include "foundation/vornspy.h"
+#include "foundation/propio_priv.h"
 #include <cstring>
 #include <functional>
 #include <string>
@@ -44,12 +44,6 @@ template <class C> C *copia(vista<C> v, quien q) {
 }
 
 template <class C> void destruye(C **s) { vornspy_nousar_free_pp(s, sizeof(C)); }
-
-// Holds a text while something may still report, inside a trap.
-struct libera {
-    template <class C> void operator()(C *s) const { destruye(&s); }
-};
-template <class C> using propio = std::unique_ptr<C, libera>;
 
 // The steps and the letter case of a width. Steps are whole characters of the ANSI page, single units of wide text.
 template <class C> struct juego;

@@ -85,7 +85,7 @@ vnwchar *unicode_convierte_UTF8_a_UNICODE(const char *s) {
 
 char *unicode_convierte_UTF8_a_ANSI(const char *s) {
     if (!AFIRMA_NO_NULO(s)) return nullptr;
-    const texto::propio<vnwchar> ancho(unicode_convierte_UTF8_a_UNICODE(s));
+    const propio<vnwchar> ancho(unicode_convierte_UTF8_a_UNICODE(s));
     return de_pagina(pagina_activa(), ancho.get(), nullptr);
 }
 
@@ -111,22 +111,22 @@ char *utunicode_UNICODE_a_ANSI(const vnwchar *s) { return unicode_UNICODE_a_ANSI
 
 vnwchar *utunicode_ANSI_a_UNICODE_destruyendo(char **s) {
     if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s)) return nullptr;
-    texto::propio<vnwchar> r(ancho_de(pagina_activa(), *s));
+    propio<vnwchar> r(ancho_de(pagina_activa(), *s));
     texto::destruye(s);
     return r.release();
 }
 
 char *utunicode_UNICODE_a_ANSI_destruyendo(vnwchar **s) {
     if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s)) return nullptr;
-    texto::propio<char> r(de_pagina(pagina_activa(), *s, nullptr));
+    propio<char> r(de_pagina(pagina_activa(), *s, nullptr));
     texto::destruye(s);
     return r.release();
 }
 
 vnwchar *utunicode_ANSI_a_UNICODE_destruyendo_p(char *s) {
     if (!AFIRMA_NO_NULO(s)) return nullptr;
-    texto::propio<char> origen(s); // taken over: freed even if there is no memory for the other
-    texto::propio<vnwchar> r(utunicode_ANSI_a_UNICODE(s));
+    propio<char> origen(s); // taken over: freed even if there is no memory for the other
+    propio<vnwchar> r(utunicode_ANSI_a_UNICODE(s));
     s = origen.release();
     texto::destruye(&s);
     return r.release();
@@ -134,8 +134,8 @@ vnwchar *utunicode_ANSI_a_UNICODE_destruyendo_p(char *s) {
 
 char *utunicode_UNICODE_a_ANSI_destruyendo_p(vnwchar *s) {
     if (!AFIRMA_NO_NULO(s)) return nullptr;
-    texto::propio<vnwchar> origen(s); // taken over: freed even if there is no memory for the other
-    texto::propio<char> r(utunicode_UNICODE_a_ANSI(s));
+    propio<vnwchar> origen(s); // taken over: freed even if there is no memory for the other
+    propio<char> r(utunicode_UNICODE_a_ANSI(s));
     s = origen.release();
     texto::destruye(&s);
     return r.release();

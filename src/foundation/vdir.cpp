@@ -3,6 +3,7 @@
 #include "foundation/afirma.h"
 #include "foundation/propio_priv.h"
 #include "foundation/unicode.h"
+#include "foundation/utf_priv.h"
 #include "foundation/vdir_priv.h"
 #include "foundation/vornspy.h"
 #include <algorithm>
@@ -74,7 +75,7 @@ bool es_absoluta(vista ruta) {
 }
 
 size_t ancho_de_caracter(vista t, size_t i) {
-    return (t[i] & 0xFC00) == 0xD800 && i + 1 < t.size() && (t[i + 1] & 0xFC00) == 0xDC00 ? 2 : 1;
+    return es_alto(t[i]) && i + 1 < t.size() && es_bajo(t[i + 1]) ? 2 : 1;
 }
 
 } // namespace

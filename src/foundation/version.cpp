@@ -1,7 +1,7 @@
 #define VN_MODULO "version (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/version.h"
 #include "foundation/afirma.h"
-#include "foundation/inmortal_priv.h"
+#include "foundation/eterno_priv.h"
 #include "foundation/propio_priv.h"
 #include "foundation/unicode.h"
 #include <string>
@@ -25,19 +25,19 @@ struct identidad {
     texto_doble mayor{VNU("1"), "1"};
     char revision = 'a';
 };
-constinit vn::inmortal<identidad> la_identidad;
+identidad &la_identidad() { return vn::eterno<identidad>(); }
 
 } // namespace
 
-const char *version_versionAplicacion(void) { return la_identidad.dame().aplicacion.ansi.c_str(); }
-const vnwchar *version_versionAplicacion_u(void) { return la_identidad.dame().aplicacion.ancho.c_str(); }
-const char *version_versionMayor(void) { return la_identidad.dame().mayor.ansi.c_str(); }
-const vnwchar *version_versionMayor_u(void) { return la_identidad.dame().mayor.ancho.c_str(); }
-char version_revision(void) { return la_identidad.dame().revision; }
+const char *version_versionAplicacion(void) { return la_identidad().aplicacion.ansi.c_str(); }
+const vnwchar *version_versionAplicacion_u(void) { return la_identidad().aplicacion.ancho.c_str(); }
+const char *version_versionMayor(void) { return la_identidad().mayor.ansi.c_str(); }
+const vnwchar *version_versionMayor_u(void) { return la_identidad().mayor.ancho.c_str(); }
+char version_revision(void) { return la_identidad().revision; }
 
 void version_establece_u(const vnwchar *version_aplicacion, const vnwchar *version_mayor, char revision) {
     if (!AFIRMA_NO_NULO(version_aplicacion) || !AFIRMA_NO_NULO(version_mayor)) return;
-    identidad &i = la_identidad.dame();
+    identidad &i = la_identidad();
     i.aplicacion.pon(version_aplicacion);
     i.mayor.pon(version_mayor);
     i.revision = revision;

@@ -99,10 +99,11 @@ vnfichero *vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(const
 }
 
 vnbool vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(vnfichero *f, const vnwchar *nombre) {
+    flujo_abierto mio(f); // closed, whatever comes
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(nombre)) return FALSO;
     const cadena_ancha temporal = f->nombre;
     const bool ya_informado = f->informado;
-    if (lc_fclose_volcando_a_disco(f) == CIERTO) return informado(reemplaza(nombre, temporal.c_str()), nombre);
+    if (lc_fclose_volcando_a_disco(mio.release()) == CIERTO) return informado(reemplaza(nombre, temporal.c_str()), nombre);
     operaciones().borra(temporal.c_str());
     if (!ya_informado) informa_que_no_se_escribe(nombre);
     return FALSO;

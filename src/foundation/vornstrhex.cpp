@@ -1,19 +1,11 @@
 #define VN_MODULO "vornstrhex (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/vornstrhex.h"
 #include "foundation/afirma.h"
+#include "foundation/numero_priv.h"
 #include "foundation/vornspy.h"
 #include <cstring>
 
-namespace {
-
-// The value of a digit of either case, or a value above 15.
-uint32_t cifra(uint32_t c) {
-    if (c - '0' < 10) return c - '0';
-    const uint32_t m = (c | 0x20) - 'a';
-    return m < 6 ? m + 10 : 16;
-}
-
-} // namespace
+using vn::cifra_hexadecimal;
 
 char *vornstrhex_nousar_buffer_a_cadena_hexadecimal(const void *datos, uint32_t tamanyo) {
     if (!AFIRMA_NO_NULO(datos) || !AFIRMA(tamanyo < 1u << 30)) return nullptr;
@@ -33,11 +25,11 @@ unsigned char *vornstrhex_nousar_cadena_hex_a_buffer(const char *texto, uint32_t
     const size_t n = std::strlen(texto);
     if (n % 2 != 0 || n / 2 > UINT32_MAX) return nullptr;
     for (size_t i = 0; i < n; ++i)
-        if (cifra(static_cast<unsigned char>(texto[i])) > 15) return nullptr;
+        if (cifra_hexadecimal(static_cast<unsigned char>(texto[i])) > 15) return nullptr;
     auto *b = static_cast<unsigned char *>(vornspy_malloc(n / 2));
     for (size_t i = 0; i < n / 2; ++i)
-        b[i] = static_cast<unsigned char>(cifra(static_cast<unsigned char>(texto[2 * i])) << 4 |
-                                          cifra(static_cast<unsigned char>(texto[2 * i + 1])));
+        b[i] = static_cast<unsigned char>(cifra_hexadecimal(static_cast<unsigned char>(texto[2 * i])) << 4 |
+                                          cifra_hexadecimal(static_cast<unsigned char>(texto[2 * i + 1])));
     *tamanyo = static_cast<uint32_t>(n / 2);
     return b;
 }
@@ -58,7 +50,7 @@ vnbool vornstrhex_codifica_caracter_u(vnwchar c, vnwchar *alto, vnwchar *bajo) {
 
 vnbool vornstrhex_decodifica_caracter_u(vnwchar alto, vnwchar bajo, vnwchar *c) {
     if (!AFIRMA_NO_NULO(c)) return FALSO;
-    const uint32_t a = cifra(static_cast<uint16_t>(alto)), b = cifra(static_cast<uint16_t>(bajo));
+    const uint32_t a = cifra_hexadecimal(static_cast<uint16_t>(alto)), b = cifra_hexadecimal(static_cast<uint16_t>(bajo));
     if (a > 15 || b > 15) return FALSO;
     *c = static_cast<vnwchar>(a << 4 | b);
     return CIERTO;

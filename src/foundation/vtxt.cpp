@@ -5,6 +5,7 @@
 #include "foundation/formato_priv.h"
 #include "foundation/lc_fichero.h"
 #include "foundation/unicode.h"
+#include "foundation/utf_priv.h"
 #include "foundation/vtxt_priv.h"
 #include <charconv>
 #include <cmath>
@@ -31,23 +32,20 @@ void escribe_numero(T v, char despues, vnfichero *f) {
 }
 
 void escribe_en_utf8(const vnwchar *s, vnfichero *f) {
-    const vn::bloque<char> utf8(unicode_convierte_UNICODE_a_UTF8(s));
+    const vn::propio<char> utf8(unicode_convierte_UNICODE_a_UTF8(s));
     if (utf8 != nullptr) escribe(utf8.get(), f);
 }
 
-bool es_alto(vnwchar c) { return c >= 0xD800 && c < 0xDC00; }
-bool es_bajo(vnwchar c) { return c >= 0xDC00 && c < 0xE000; }
-
 // The text with each unit that a line of UTF-8 cannot hold as its escape.
-vn::bloque<vnwchar> escapa(std::basic_string_view<vnwchar> s) {
-    vn::bloque<vnwchar> t(static_cast<vnwchar *>(vornspy_malloc((5 * s.size() + 1) * sizeof(vnwchar))));
+vn::propio<vnwchar> escapa(std::basic_string_view<vnwchar> s) {
+    vn::propio<vnwchar> t(static_cast<vnwchar *>(vornspy_malloc((5 * s.size() + 1) * sizeof(vnwchar))));
     vnwchar *p = t.get();
     for (size_t i = 0; i < s.size(); ++i) {
         const vnwchar c = s[i];
-        if (es_alto(c) && i + 1 < s.size() && es_bajo(s[i + 1])) {
+        if (vn::es_alto(c) && i + 1 < s.size() && vn::es_bajo(s[i + 1])) {
             *p++ = c;
             *p++ = s[++i];
-        } else if (c < 32 || c == 127 || es_alto(c) || es_bajo(c)) {
+        } else if (c < 32 || c == 127 || vn::es_alto(c) || vn::es_bajo(c)) {
             *p++ = vn::ESCAPE_DE_UNIDAD;
             for (int bits = 12; bits >= 0; bits -= 4) *p++ = static_cast<vnwchar>("0123456789ABCDEF"[c >> bits & 15]);
         } else {
@@ -120,7 +118,7 @@ void vtxt_printf(vnfichero *f, const char *formato, ...) {
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(formato)) return;
     va_list args;
     va_start(args, formato);
-    const vn::bloque<char> texto(vn::formatea_nuevo(formato, args, VN_AQUI));
+    const vn::propio<char> texto(vn::formatea_nuevo(formato, args, VN_AQUI));
     va_end(args);
     if (texto != nullptr) escribe(texto.get(), f);
 }
@@ -129,7 +127,7 @@ void vtxt_printf_u(vnfichero *f, const vnwchar *formato, ...) {
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(formato)) return;
     va_list args;
     va_start(args, formato);
-    const vn::bloque<vnwchar> texto(vn::formatea_nuevo(formato, args, VN_AQUI));
+    const vn::propio<vnwchar> texto(vn::formatea_nuevo(formato, args, VN_AQUI));
     va_end(args);
     if (texto != nullptr) escribe_en_utf8(texto.get(), f);
 }

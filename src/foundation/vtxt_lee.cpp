@@ -109,19 +109,19 @@ class texto_creciente {
         p_.get()[n_++] = c;
     }
     std::string_view vista() const { return {p_.get(), n_}; }
-    vn::bloque<char> cierra() {
+    vn::propio<char> cierra() {
         anade('\0');
         return std::move(p_);
     }
 
   private:
-    vn::bloque<char> p_;
+    vn::propio<char> p_;
     size_t n_ = 0, capacidad_ = 0;
 };
 
 // What is left of the line, without its end. The end of the stream where a text is due, and a zero, which no text holds,
 // are reported: the text ends there.
-vn::bloque<char> toma_linea(vnfichero *f) {
+vn::propio<char> toma_linea(vnfichero *f) {
     texto_creciente t;
     int c = toma(f);
     bool bien = c >= 0;
@@ -129,7 +129,7 @@ vn::bloque<char> toma_linea(vnfichero *f) {
         if (c == 0) bien = false;
         t.anade(static_cast<char>(c));
     }
-    vn::bloque<char> texto = t.cierra();
+    vn::propio<char> texto = t.cierra();
     if (!bien) lc_error_leyendo_fichero(f);
     return texto;
 }
@@ -168,9 +168,9 @@ size_t cuenta(std::string_view s, std::string_view que) {
 }
 
 // The wide text of a line that vtxt_escr_cadena_unicode wrote.
-vn::bloque<vnwchar> toma_linea_unicode(vnfichero *f) {
-    const vn::bloque<char> linea = toma_linea(f);
-    vn::bloque<vnwchar> texto(unicode_convierte_UTF8_a_UNICODE(linea.get()));
+vn::propio<vnwchar> toma_linea_unicode(vnfichero *f) {
+    const vn::propio<char> linea = toma_linea(f);
+    vn::propio<vnwchar> texto(unicode_convierte_UTF8_a_UNICODE(linea.get()));
     // Bytes that are no UTF-8 have become U+FFFD: more of them than were written.
     const auto sustitutos = std::count(texto.get(), texto.get() + std::char_traits<vnwchar>::length(texto.get()), 0xFFFD);
     const bool es_utf8 = static_cast<size_t>(sustitutos) == cuenta(linea.get(), "\xEF\xBF\xBD");
@@ -197,7 +197,7 @@ vnbool vtxt_leer_BOOL(vnfichero *f) {
 
 vnbool vtxt_lee_bool(vnfichero *f, const char *texto1, const char *texto2) {
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(texto1) || !AFIRMA_NO_NULO(texto2)) return FALSO;
-    const vn::bloque<char> linea = toma_linea(f);
+    const vn::propio<char> linea = toma_linea(f);
     const std::string_view leido = linea.get();
     if (leido != texto1 && leido != texto2) lc_error_leyendo_fichero(f);
     return leido == texto1 ? CIERTO : FALSO;
@@ -207,7 +207,7 @@ char *vtxt_lee_cadena(vnfichero *f) { return AFIRMA_NO_NULO(f) ? toma_linea(f).r
 
 char *vtxt_lee_cadena_ASCII(vnfichero *f) {
     if (!AFIRMA_NO_NULO(f)) return nullptr;
-    vn::bloque<char> texto = toma_linea(f);
+    vn::propio<char> texto = toma_linea(f);
     cad_convertir_cadena_ascii_ansi(texto.get());
     return texto.release();
 }
@@ -238,7 +238,7 @@ void vtxt_lee_string(vnfichero *f, char *buffer, uint32_t maximo) {
 void vtxt_lee_string_unicode(vnfichero *f, vnwchar *buffer, uint32_t maximo) {
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(buffer) || !AFIRMA(maximo >= 1 && maximo <= INT32_MAX)) return;
     buffer[0] = 0;
-    const vn::bloque<vnwchar> texto = toma_linea_unicode(f);
+    const vn::propio<vnwchar> texto = toma_linea_unicode(f);
     const std::basic_string_view<vnwchar> s = texto.get();
     const size_t n = std::min<size_t>(s.size(), maximo - 1);
     std::copy_n(s.data(), n, buffer);

@@ -5,6 +5,7 @@
 #include "foundation/msglocal.h"
 #include "foundation/vdir.h"
 #include "foundation/vnatexit.h"
+#include "foundation/vornfile.h"
 #include "prueba.h"
 #include <cstring>
 #include <memory>
@@ -112,6 +113,15 @@ PRUEBA(trapable, lo_que_se_entrega_se_libera_aunque_el_informe_no_vuelva) {
         [](void *) { vornspy_parametro(1, 3, 7); },
         [](void *) { callback_crea(nullptr, vornspy_parametro(1, 4, 7)); },
         [](void *) { atexit_anade(nullptr, vornspy_parametro(1, 4, 7)); },
+        [](void *) {
+            const auto nombre = vn::ancho(directorio() + "/x");
+            vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nombre.c_str());
+            vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, nullptr);
+        },
+        [](void *) {
+            vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar((directorio() + "/x").c_str());
+            vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar(f, nullptr);
+        },
     };
     for (const vnfunc_trapable f : filas) EXPECT_EQ(trapable_ejecuta_funcion_segura(void, f, nullptr, nullptr), FALSO);
 }
