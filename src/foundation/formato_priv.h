@@ -11,7 +11,8 @@ namespace vn {
 
 // Writes at most `sitio` units at `destino`, terminator included (there is one whenever `sitio` is not 0), and returns the
 // length of the whole text: it was cut when that is not below `sitio`. C is char (ANSI) or vnwchar. A two-byte character
-// of an ANSI page or a surrogate pair may be cut in two at the end, and a text by its precision, which counts its own units. `args` is left as it was: it may be used again.
+// of an ANSI page or a surrogate pair may be cut in two at the end, and a text by its precision, which counts its own
+// units. `args` is left as it was: it may be used again.
 template <class C> size_t formatea_en(C *destino, size_t sitio, const C *formato, va_list args);
 
 // The same as a new text of the tracked heap, the caller's, under the name of the module and line.

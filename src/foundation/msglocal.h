@@ -29,8 +29,9 @@ typedef void (*vnfunc_mensaje)(vnmensaje *mensaje);
 VN_C_INICIO
 
 /** The message in the active language, without its id. Borrowed: valid until the process ends (a decoded "FFFF" text of
-    the ANSI reader: until the exit list runs). Empty if `rellena` is null. A column without text gives the Spanish one, or an empty text when there is
-    none; a text that lacks the id is given whole; a badly coded "FFFF" text is given as it stands. */
+    the ANSI reader: until the exit list runs). Empty if `rellena` is null. A column without text gives the Spanish one,
+    or an empty text when there is none; a text that lacks the id is given whole; a badly coded "FFFF" text is given as
+    it stands. */
 const vnwchar *nousar_msglocal_original_u(vnfunc_mensaje rellena);
 const char *nousar_msglocal_original(vnfunc_mensaje rellena);
 /** The message in the base language, Spanish. As nousar_msglocal_original_u. */

@@ -10,7 +10,8 @@ typedef void (*vnfunc_trapable)(void *datos);
 VN_C_INICIO
 
 /** Runs `funcion(datos)`. A report inside unwinds to here: what the library had open is closed and freed, and the
-    result is FALSO; so it is when memory runs out. Traps nest. The result is returned and, if `resultado` is not null, stored. */
+    result is FALSO; so it is when memory runs out. Traps nest. The result is returned and, if `resultado` is not
+    null, stored. */
 vnbool trapable_nousar_recursivo_ejecuta_funcion_segura(vnfunc_trapable funcion, VN_DATO void *datos,
                                                         VN_SALIDA_OPC vnbool *resultado);
 /** Text of the report that the last failed trap of this thread caught: UTF-8, one line, as the default receiver

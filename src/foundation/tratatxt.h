@@ -10,7 +10,8 @@
 VN_C_INICIO
 
 /** Plain text to its marked form: every hash, line end and tab, and the blanks that are first, last, or beside a line
-    end, a tab or another blank, and a square bracket at the beginning. Single blanks between words stay, so that the result can be wrapped there. */
+    end, a tab or another blank, and a square bracket at the beginning. Single blanks between words stay, so that the
+    result can be wrapped there. */
 char *tratatxt_recupera_espacio_y_salto_linea(const char *texto);
 /** Marked form to plain text: the inverse of tratatxt_recupera_espacio_y_salto_linea, for every text. */
 char *tratatxt_convierte_espacio_y_salto_linea(const char *texto);
