@@ -1,9 +1,5 @@
 #include "foundation/trapable.h"
-#include "foundation/arr.h"
-#include "foundation/cad.h"
 #include "foundation/callback.h"
-#include "foundation/msglocal.h"
-#include "foundation/vdir.h"
 #include "foundation/vnatexit.h"
 #include "foundation/vornfile.h"
 #include "prueba.h"
@@ -63,49 +59,6 @@ PRUEBA(trapable, la_memoria_agotada_vuelve_a_la_trampa) {
     const vnbool resultado = trapable_ejecuta_funcion_segura(void, pide_memoria, nullptr, nullptr);
     vornspy_instala_permiso(nullptr, nullptr);
     EXPECT_EQ(resultado, FALSO);
-}
-
-// Each allocation of an operation is refused in turn: it unwinds to the trap, and the fixture finds nothing left behind.
-PRUEBA(trapable, a_quien_le_falta_memoria_no_se_deja_nada) {
-    vn::graba_fichero(directorio() + "/a b.txt", "");
-    static uint32_t quedan;
-    struct {
-        const char *nombre;
-        vnfunc_trapable hace;
-    } const filas[] = {
-        {"call-back", [](void *) {
-             vncallback *c = callback_crea([](vnparametros *, void *) {}, vornspy_parametro(1, 4, 7));
-             callback_destruye(&c);
-         }},
-        {"exit list", [](void *) {
-             atexit_anade([](vnparametros *) {}, vornspy_parametro(1, 4, 7));
-             vnatexit_ejecuta();
-         }},
-        {"lists of names", [](void *) {
-             arrCADENA_u *lista = nullptr;
-             vdir_lista_de_ficheros_UNICODE(vn::ancho(directorio()).c_str(), VNU("*"), &lista);
-             arr_DestruyeCADENA_u(&lista);
-         }},
-        {"ANSI paths", [](void *) {
-             char *s = vdir_concatena_directorios("a", "b");
-             vornstr_destruye(&s);
-         }},
-        {"decoded message", [](void *) {
-             // What a failure has left half done must not be lent by the next call.
-             EXPECT_STREQ(nousar_original([](vnmensaje *m) { m->textos[0] = "FFFF41004200"; }), "AB");
-             vnatexit_ejecuta();
-         }},
-    };
-    for (const auto &f : filas) {
-        vnbool entera = FALSO;
-        for (uint32_t permitidas = 0; entera == FALSO && permitidas < 100; ++permitidas) {
-            quedan = permitidas;
-            vornspy_instala_permiso([](size_t, void *) -> vnbool { return quedan == 0 ? FALSO : (--quedan, CIERTO); }, nullptr);
-            entera = trapable_ejecuta_funcion_segura(void, f.hace, nullptr, nullptr);
-            vornspy_instala_permiso(nullptr, nullptr);
-        }
-        EXPECT_EQ(entera, CIERTO) << f.nombre;
-    }
 }
 
 PRUEBA(trapable, lo_que_se_entrega_se_libera_aunque_el_informe_no_vuelva) {
