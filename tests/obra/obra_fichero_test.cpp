@@ -1,6 +1,7 @@
 // Project files of the sample host: what is saved comes back, and what has been damaged is refused whole.
 #include "foundation/operaciones_fichero.h"
 #include "informe.h"
+#include "memoria.h"
 #include "persistence/vornbin.h"
 #include "plano_fichero.h"
 #include "prueba.h"
@@ -85,8 +86,8 @@ vnbool cuenta_pedidos(size_t n, void *) {
 }
 
 // Reads damaged bytes: never a crash, a leak or memory without bound. Returns whether they were taken.
-bool lee_bytes(const Fichero &f, const std::string &bytes) {
-    vn::graba_fichero(f.utf8, bytes);
+bool lee_bytes(vn::ficheros_en_memoria &disco, const Fichero &f, const std::string &bytes) {
+    disco.pon(f.ancho, bytes);
     pedidos = 0;
     vornspy_instala_permiso(cuenta_pedidos, nullptr);
     obra_leida o;
@@ -141,27 +142,29 @@ PRUEBA(obra_fichero, los_bytes_son_los_mismos_en_toda_plataforma) {
 
 PRUEBA(obra_fichero, cortado_en_cada_byte_se_rechaza) {
     const Fichero f;
+    vn::ficheros_en_memoria disco;
     ASSERT_TRUE(graba(f, {{vn::ancho("autor"), vn::ancho("A")}}));
-    const std::string bytes = vn::lee_fichero(f.utf8);
-    for (size_t n = 0; n < bytes.size(); ++n) ASSERT_FALSE(lee_bytes(f, bytes.substr(0, n))) << n;
-    ASSERT_TRUE(lee_bytes(f, bytes));
-    ASSERT_FALSE(lee_bytes(f, bytes + "x"));
+    const std::string bytes = disco.dame(f.ancho);
+    for (size_t n = 0; n < bytes.size(); ++n) ASSERT_FALSE(lee_bytes(disco, f, bytes.substr(0, n))) << n;
+    ASSERT_TRUE(lee_bytes(disco, f, bytes));
+    ASSERT_FALSE(lee_bytes(disco, f, bytes + "x"));
 }
 
 PRUEBA(obra_fichero, con_bits_cambiados_o_cuentas_falsas_se_lee_o_se_rechaza) {
     const Fichero f;
+    vn::ficheros_en_memoria disco;
     ASSERT_TRUE(graba(f));
-    const std::string bytes = vn::lee_fichero(f.utf8);
+    const std::string bytes = disco.dame(f.ancho);
     for (size_t i = 0; i < bytes.size(); ++i) {
         std::string otro = bytes;
         otro[i] = static_cast<char>(otro[i] ^ (1 << i % 8));
-        lee_bytes(f, otro);
+        lee_bytes(disco, f, otro);
     }
     constexpr uint32_t LIMITES[] = {0, 1, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 0x10000, 0xFFFFFFF0};
     for (size_t i = 0; i + 4 <= bytes.size(); i += 3) {
         std::string otro = bytes;
         std::memcpy(otro.data() + i, &LIMITES[i / 3 % std::size(LIMITES)], 4);
-        lee_bytes(f, otro);
+        lee_bytes(disco, f, otro);
     }
 }
 
@@ -169,17 +172,19 @@ PRUEBA(obra_fichero, otra_firma_una_version_superior_y_lo_que_no_es_un_fichero) 
     const Fichero f;
     obra_leida o;
     std::string motivo;
+    vn::ficheros_en_memoria disco;
     ASSERT_TRUE(graba(f));
-    const std::string bytes = vn::lee_fichero(f.utf8);
+    const std::string bytes = disco.dame(f.ancho);
     std::string otro = bytes;
     const size_t firma = otro.find(FIRMA);
     ASSERT_NE(firma, std::string::npos);
     otro[firma] = 'X';
-    EXPECT_FALSE(lee_bytes(f, otro));
+    EXPECT_FALSE(lee_bytes(disco, f, otro));
     otro = bytes;
     otro[firma - 4] = 99; // the version stands before the signature's length
-    vn::graba_fichero(f.utf8, otro);
+    disco.pon(f.ancho, otro);
     EXPECT_EQ(lee_obra(f.ancho, o, motivo), lectura_obra::version_superior);
+    operaciones_fichero_instala(nullptr);
     EXPECT_EQ(lee_obra(vn::ancho(directorio()), o, motivo), lectura_obra::no_es_obra);
     EXPECT_EQ(lee_obra(vn::ancho(directorio() + "/no est\u00e1"), o, motivo), lectura_obra::no_es_obra);
 }

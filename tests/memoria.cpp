@@ -1,0 +1,121 @@
+#include "memoria.h"
+#include "foundation/operaciones_fichero.h"
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <memory>
+
+namespace vn {
+namespace {
+
+using bytes = std::shared_ptr<std::string>;
+using nombre_u = std::basic_string<vnwchar>;
+std::map<nombre_u, bytes> ficheros;
+std::map<vnid_fichero, bytes> abiertos;
+vnid_fichero siguiente = 1;
+
+vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
+    const auto f = ficheros.find(nombre);
+    if (f == ficheros.end() && !(como & VN_ABRE_CREA)) return VN_FICH_NO_EXISTE;
+    if (f != ficheros.end() && (como & VN_ABRE_NUEVO)) return VN_FICH_YA_EXISTE;
+    bytes &b = ficheros[nombre];
+    if (b == nullptr) b = std::make_shared<std::string>();
+    if (como & VN_ABRE_TRUNCA) b->clear();
+    *id = siguiente++;
+    abiertos[*id] = b;
+    return VN_FICH_BIEN;
+}
+vnerror_fichero lee(vnid_fichero id, int64_t posicion, void *destino, size_t n, size_t *leidos) {
+    const std::string &s = *abiertos.at(id);
+    *leidos = posicion < 0 || static_cast<uint64_t>(posicion) >= s.size() ? 0 : std::min(n, s.size() - static_cast<size_t>(posicion));
+    if (*leidos != 0) std::memcpy(destino, s.data() + posicion, *leidos);
+    return VN_FICH_BIEN;
+}
+vnerror_fichero escribe(vnid_fichero id, int64_t posicion, const void *origen, size_t n, size_t *escritos) {
+    std::string &s = *abiertos.at(id);
+    if (posicion < 0 || posicion > (1 << 26)) return VN_FICH_SIN_ESPACIO;
+    if (s.size() < static_cast<size_t>(posicion) + n) s.resize(static_cast<size_t>(posicion) + n);
+    std::memcpy(s.data() + posicion, origen, n);
+    *escritos = n;
+    return VN_FICH_BIEN;
+}
+vnerror_fichero vuelca(vnid_fichero) { return VN_FICH_BIEN; }
+vnerror_fichero trunca(vnid_fichero id, int64_t tamanyo) {
+    abiertos.at(id)->resize(static_cast<size_t>(tamanyo));
+    return VN_FICH_BIEN;
+}
+vnerror_fichero estado_abierto(vnid_fichero id, vnestado_fichero *e) {
+    *e = {abiertos.at(id)->size(), FALSO, CIERTO};
+    return VN_FICH_BIEN;
+}
+vnerror_fichero bloquea(vnid_fichero, int64_t, int64_t, uint32_t) { return VN_FICH_BIEN; }
+vnerror_fichero desbloquea(vnid_fichero, int64_t, int64_t) { return VN_FICH_BIEN; }
+vnerror_fichero cierra(vnid_fichero id) {
+    abiertos.erase(id);
+    return VN_FICH_BIEN;
+}
+vnerror_fichero estado(const vnwchar *nombre, vnestado_fichero *e) {
+    const auto f = ficheros.find(nombre);
+    if (f == ficheros.end()) return VN_FICH_NO_EXISTE;
+    *e = {f->second->size(), FALSO, CIERTO};
+    return VN_FICH_BIEN;
+}
+vnerror_fichero enlaza(const vnwchar *existente, const vnwchar *nuevo) {
+    const auto f = ficheros.find(existente);
+    if (f == ficheros.end()) return VN_FICH_NO_EXISTE;
+    return ficheros.try_emplace(nuevo, f->second).second ? VN_FICH_BIEN : VN_FICH_YA_EXISTE;
+}
+vnerror_fichero renombra(const vnwchar *existente, const vnwchar *nuevo) {
+    const auto f = ficheros.find(existente);
+    if (f == ficheros.end()) return VN_FICH_NO_EXISTE;
+    const bytes b = f->second;
+    ficheros.erase(f);
+    ficheros[nuevo] = b;
+    return VN_FICH_BIEN;
+}
+vnerror_fichero borra(const vnwchar *nombre) { return ficheros.erase(nombre) != 0 ? VN_FICH_BIEN : VN_FICH_NO_EXISTE; }
+vnerror_fichero copia_permisos(const vnwchar *, const vnwchar *) { return VN_FICH_BIEN; }
+vnerror_fichero vuelca_directorio(const vnwchar *) { return VN_FICH_BIEN; }
+void espera(uint32_t) {}
+
+} // namespace
+
+ficheros_en_memoria::ficheros_en_memoria() {
+    const vnoperaciones_fichero tabla = {.abre = abre,
+                                     .lee = lee,
+                                     .escribe = escribe,
+                                     .vuelca = vuelca,
+                                     .trunca = trunca,
+                                     .estado_abierto = estado_abierto,
+                                     .bloquea = bloquea,
+                                     .desbloquea = desbloquea,
+                                     .cierra = cierra,
+                                     .estado = estado,
+                                     .enlaza = enlaza,
+                                     .renombra = renombra,
+                                     .borra = borra,
+                                     .copia_permisos = copia_permisos,
+                                     .vuelca_directorio = vuelca_directorio,
+                                     .espera = espera};
+    vacia();
+    operaciones_fichero_instala(&tabla);
+}
+
+ficheros_en_memoria::~ficheros_en_memoria() {
+    operaciones_fichero_instala(nullptr);
+    vacia();
+}
+
+void ficheros_en_memoria::pon(const nombre_u &nombre, std::string contenido) {
+    ficheros[nombre] = std::make_shared<std::string>(std::move(contenido));
+}
+
+std::string ficheros_en_memoria::dame(const nombre_u &nombre) const {
+    const auto f = ficheros.find(nombre);
+    return f == ficheros.end() ? std::string() : *f->second;
+}
+
+void ficheros_en_memoria::vacia() { ficheros.clear(); }
+bool ficheros_en_memoria::todos_cerrados() const { return abiertos.empty(); }
+
+} // namespace vn
