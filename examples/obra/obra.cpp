@@ -92,6 +92,7 @@ int ejecuta(const std::vector<std::string> &args) {
 
 int main(int argc, char **argv) {
     prepara_consola();
+    version_establece_u(VNU("0.1.a"), VNU("0.1"), 'a');
     error_interno_instala_receptor(recibe_informe, nullptr);
     const int salida = ejecuta(argumentos_utf8(argc, argv));
     return std::fflush(stdout) == 0 ? salida : 1;
