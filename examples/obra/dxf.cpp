@@ -256,7 +256,7 @@ class expansion {
                 inserta(*i, atr, total, nivel);
                 continue;
             }
-            if (++puestas_ > MAXIMO_ENTIDADES) excedido_ = true;
+            if (++puestas_ >= MAXIMO_ENTIDADES) excedido_ = true;
             capa &c = de_nombre(atr.capa);
             std::visit([&](const auto &que) { pon(c, que, atr.color, total); }, e.que);
         }
@@ -265,9 +265,14 @@ class expansion {
         const auto b = l_.bloques.find(i.bloque);
         if (b == l_.bloques.end() || nivel >= MAXIMO_ANIDADO) return;
         const vector3 base = b->second.base;
+        // Refused before it is made: each copy is one entity at least.
+        if (static_cast<size_t>(std::max(i.filas, 1)) * static_cast<size_t>(std::max(i.columnas, 1)) > MAXIMO_ENTIDADES - puestas_) {
+            excedido_ = true;
+            return;
+        }
         for (int f = 0; f < std::max(i.filas, 1) && !excedido_; ++f) {
             for (int k = 0; k < std::max(i.columnas, 1) && !excedido_; ++k) {
-                if (++puestas_ > MAXIMO_ENTIDADES) excedido_ = true;
+                if (++puestas_ >= MAXIMO_ENTIDADES) excedido_ = true;
                 const afin lugar = insercion(1, 1, 1, i.angulo, i.en)
                                        .por(desplazamiento(k * i.paso_columnas, f * i.paso_filas, 0))
                                        .por(insercion(i.sx, i.sy, i.sz, 0, {0, 0, 0}))

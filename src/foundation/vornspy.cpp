@@ -34,23 +34,28 @@ constexpr uint64_t MAXIMO_TAMANYO = uint64_t{1} << (BITS_TAMANYO - 1);
 constexpr unsigned BITS_DIRECCION = 47, BITS_HOJA = 28, BITS_GRANO = 4;
 constexpr size_t PALABRAS_HOJA = size_t{1} << (BITS_HOJA - BITS_GRANO - 6);
 using palabra = std::atomic<uint64_t>;
-constinit std::atomic<palabra *> hojas[size_t{1} << (BITS_DIRECCION - BITS_HOJA)] = {};
+// A bit of the summary stands for 64 words that have ever held a live block: what a walk has to look at.
+struct hoja_de_bits {
+    palabra bits[PALABRAS_HOJA];
+    palabra resumen[PALABRAS_HOJA / 64 / 64];
+};
+constinit std::atomic<hoja_de_bits *> hojas[size_t{1} << (BITS_DIRECCION - BITS_HOJA)] = {};
 
 constinit std::atomic<vnfunc_permiso> el_permiso{nullptr};
 constinit std::atomic<void *> datos_del_permiso{nullptr};
 constinit std::atomic<bool> fugas_al_salir{false};
 
-palabra *hoja_de(uintptr_t direccion) {
+hoja_de_bits *hoja_de(uintptr_t direccion) {
     if (direccion >> BITS_DIRECCION != 0) return nullptr;
     return hojas[direccion >> BITS_HOJA].load(std::memory_order_acquire);
 }
 
-palabra *hoja_creada(uintptr_t direccion) {
+hoja_de_bits *hoja_creada(uintptr_t direccion) {
     if (direccion >> BITS_DIRECCION != 0) return nullptr;
-    std::atomic<palabra *> &sitio = hojas[direccion >> BITS_HOJA];
-    palabra *hoja = sitio.load(std::memory_order_acquire);
+    std::atomic<hoja_de_bits *> &sitio = hojas[direccion >> BITS_HOJA];
+    hoja_de_bits *hoja = sitio.load(std::memory_order_acquire);
     if (hoja != nullptr) [[likely]] return hoja;
-    auto *nueva = static_cast<palabra *>(std::calloc(PALABRAS_HOJA, sizeof(palabra)));
+    auto *nueva = static_cast<hoja_de_bits *>(std::calloc(1, sizeof(hoja_de_bits)));
     if (nueva == nullptr) return nullptr;
     if (sitio.compare_exchange_strong(hoja, nueva, std::memory_order_acq_rel)) return nueva;
     std::free(nueva);
@@ -62,17 +67,24 @@ struct bit {
     uint64_t mascara;
 };
 
-bit bit_de(palabra *hoja, uintptr_t direccion) {
-    const size_t grano = (direccion & ((uintptr_t{1} << BITS_HOJA) - 1)) >> BITS_GRANO;
-    return {hoja[grano >> 6], uint64_t{1} << (grano & 63)};
+// The number of a 16-byte grain within its leaf.
+size_t grano_de(uintptr_t direccion) { return (direccion & ((uintptr_t{1} << BITS_HOJA) - 1)) >> BITS_GRANO; }
+
+bit bit_de(hoja_de_bits *hoja, uintptr_t direccion) {
+    const size_t grano = grano_de(direccion);
+    return {hoja->bits[grano >> 6], uint64_t{1} << (grano & 63)};
 }
 
 bool apunta(const void *p) {
     const auto direccion = reinterpret_cast<uintptr_t>(p);
-    palabra *hoja = hoja_creada(direccion);
+    hoja_de_bits *hoja = hoja_creada(direccion);
     if (hoja == nullptr) return false;
     const bit b = bit_de(hoja, direccion);
     b.en.fetch_or(b.mascara, std::memory_order_relaxed);
+    const size_t grupo = grano_de(direccion) >> 12;
+    palabra &resumen = hoja->resumen[grupo >> 6];
+    const uint64_t mascara = uint64_t{1} << (grupo & 63);
+    if ((resumen.load(std::memory_order_relaxed) & mascara) == 0) resumen.fetch_or(mascara, std::memory_order_relaxed);
     return true;
 }
 
@@ -80,7 +92,7 @@ bool apunta(const void *p) {
 bool tacha(const void *p) {
     const auto direccion = reinterpret_cast<uintptr_t>(p);
     if (direccion & ((1u << BITS_GRANO) - 1)) return false;
-    palabra *hoja = hoja_de(direccion);
+    hoja_de_bits *hoja = hoja_de(direccion);
     if (hoja == nullptr) return false;
     const bit b = bit_de(hoja, direccion);
     return (b.en.fetch_and(~b.mascara, std::memory_order_relaxed) & b.mascara) != 0;
@@ -89,7 +101,7 @@ bool tacha(const void *p) {
 bool esta_vivo(const void *p) {
     const auto direccion = reinterpret_cast<uintptr_t>(p);
     if (direccion & ((1u << BITS_GRANO) - 1)) return false;
-    palabra *hoja = hoja_de(direccion);
+    hoja_de_bits *hoja = hoja_de(direccion);
     if (hoja == nullptr) return false;
     const bit b = bit_de(hoja, direccion);
     return (b.en.load(std::memory_order_relaxed) & b.mascara) != 0;
@@ -134,19 +146,29 @@ void *exige(void *p, const char *modulo, uint32_t linea) {
     return p;
 }
 
+// Calls funcion(number) for each bit of a word that is set.
+template <class F>
+void por_cada_bit(const palabra &en, size_t primero, F &&funcion) {
+    for (uint64_t bits = en.load(std::memory_order_relaxed); bits != 0; bits &= bits - 1)
+        funcion(primero + static_cast<size_t>(__builtin_ctzll(bits)));
+}
+
 template <class F>
 void por_cada_vivo(F &&funcion) {
+    const auto di = [&](size_t grano) {
+        auto *p = reinterpret_cast<void *>(grano << BITS_GRANO);
+        const cabeza *c = cabeza_de(p);
+        funcion(p, static_cast<size_t>(c->linea_y_tamanyo & ((uint64_t{1} << BITS_TAMANYO) - 1)), c->modulo,
+                static_cast<uint32_t>(c->linea_y_tamanyo >> BITS_TAMANYO));
+    };
     for (size_t h = 0; h < std::size(hojas); ++h) {
-        palabra *hoja = hojas[h].load(std::memory_order_acquire);
-        for (size_t w = 0; hoja != nullptr && w < PALABRAS_HOJA; ++w) {
-            uint64_t vivos = hoja[w].load(std::memory_order_relaxed);
-            for (; vivos != 0; vivos &= vivos - 1) {
-                const uintptr_t grano = (h << (BITS_HOJA - BITS_GRANO)) + (w << 6) + static_cast<size_t>(__builtin_ctzll(vivos));
-                auto *p = reinterpret_cast<void *>(grano << BITS_GRANO);
-                const cabeza *c = cabeza_de(p);
-                funcion(p, static_cast<size_t>(c->linea_y_tamanyo & ((uint64_t{1} << BITS_TAMANYO) - 1)), c->modulo,
-                        static_cast<uint32_t>(c->linea_y_tamanyo >> BITS_TAMANYO));
-            }
+        const hoja_de_bits *hoja = hojas[h].load(std::memory_order_acquire);
+        if (hoja == nullptr) continue;
+        const size_t primer_grano = h << (BITS_HOJA - BITS_GRANO);
+        for (size_t r = 0; r < std::size(hoja->resumen); ++r) {
+            por_cada_bit(hoja->resumen[r], r << 6, [&](size_t grupo) {
+                for (size_t w = grupo << 6; w < (grupo + 1) << 6; ++w) por_cada_bit(hoja->bits[w], primer_grano + (w << 6), di);
+            });
         }
     }
 }
