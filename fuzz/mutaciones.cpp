@@ -26,7 +26,8 @@ void muta(const std::string &semilla) {
             prueba(s);
         }
     }
-    constexpr uint32_t LIMITES[] = {0, 1, 0x7F, 0x80, 0xFF, 0x7FFF, 0x8000, 0xFFFF, 0x10000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
+    constexpr uint32_t LIMITES[] = {0, 1, 0x7F, 0x80, 0xFF, 0x7FFF, 0x8000, 0xFFFF, 0x10000, 0x20000001,
+                                    0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
     for (size_t i = 0; i + 4 <= semilla.size(); ++i) {
         for (const uint32_t v : LIMITES) {
             std::string s = semilla;

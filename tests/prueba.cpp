@@ -3,6 +3,7 @@
 #include "plataforma/proceso.h"
 #include "foundation/msglocal.h"
 #include "foundation/vnatexit.h"
+#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <filesystem>
@@ -82,6 +83,33 @@ std::basic_string<vnwchar> ancho(std::string_view utf8) {
         else (u += static_cast<vnwchar>(0xD800 + ((c - 0x10000) >> 10))) += static_cast<vnwchar>(0xDC00 + ((c - 0x10000) & 0x3FF));
     }
     return u;
+}
+
+std::string toma(char *texto) {
+    const std::string s = texto != nullptr ? texto : "(null)";
+    if (texto != nullptr) vornspy_free_pp(&texto, 1);
+    return s;
+}
+
+std::string toma(vnwchar *texto) {
+    const std::string s = texto != nullptr ? utf8_de(texto) : "(null)";
+    if (texto != nullptr) vornspy_free_pp(&texto, 1);
+    return s;
+}
+
+mayor_bloque::mayor_bloque() {
+    const auto apunta = [](size_t n, void *m) { return *static_cast<size_t *>(m) = std::max(n, *static_cast<size_t *>(m)), CIERTO; };
+    vornspy_instala_permiso(apunta, &mayor_);
+}
+mayor_bloque::~mayor_bloque() { vornspy_instala_permiso(nullptr, nullptr); }
+
+bool atrapado(const std::function<void()> &f, int reservas) {
+    if (reservas != INT32_MAX)
+        vornspy_instala_permiso([](size_t, void *quedan) -> vnbool { return (*static_cast<int *>(quedan))-- > 0 ? CIERTO : FALSO; }, &reservas);
+    const vnbool bien = trapable_ejecuta_funcion_segura(
+        const std::function<void()>, [](const std::function<void()> *g) { (*g)(); }, &f, nullptr);
+    if (reservas != INT32_MAX) vornspy_instala_permiso(nullptr, nullptr);
+    return bien == CIERTO;
 }
 
 std::string lee_fichero(const std::string &nombre) {

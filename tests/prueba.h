@@ -7,6 +7,7 @@
 #include "foundation/trapable.h"
 #include "foundation/vornspy.h"
 #include <cstdint>
+#include <functional>
 #include <gtest/gtest.h>
 #include <mutex>
 #include <string>
@@ -45,12 +46,35 @@ std::string utf8_de(const vnwchar *texto);
 std::u16string u16_de(const vnwchar *texto);
 // Wide text of a UTF-8 one; .c_str() is a vnwchar text.
 std::basic_string<vnwchar> ancho(std::string_view utf8);
+// A text that is taken and freed, UTF-8; "(null)" for null.
+std::string toma(char *texto);
+std::string toma(vnwchar *texto);
+// The largest block of the tracked heap that is asked for while it lives.
+class mayor_bloque {
+  public:
+    mayor_bloque();
+    ~mayor_bloque();
+    mayor_bloque(const mayor_bloque &) = delete;
+    mayor_bloque &operator=(const mayor_bloque &) = delete;
+    size_t operator()() const { return mayor_; }
+
+  private:
+    size_t mayor_ = 0;
+};
+// Runs it inside a trap with so many allocations allowed, all by default; whether it came to its end.
+bool atrapado(const std::function<void()> &f, int reservas = INT32_MAX);
 // Whole content of a file, given by its UTF-8 name; fails the test if it cannot be read.
 std::string lee_fichero(const std::string &nombre);
 void graba_fichero(const std::string &nombre, std::string_view contenido);
 bool existe(const std::string &nombre);
 // Checks that exactly the reports named have been made since the last check, in order.
 void espera_informes(std::initializer_list<std::string_view> textos, const char *fichero, int linea);
+// Runs, and checks that it made the one report named, or none for null.
+template <class F> void con_informe(const char *informe, F &&funcion) {
+    funcion();
+    if (informe != nullptr) espera_informes({informe}, __FILE__, __LINE__);
+    else espera_informes({}, __FILE__, __LINE__);
+}
 
 } // namespace vn
 

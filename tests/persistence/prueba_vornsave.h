@@ -67,10 +67,4 @@ inline std::string hex(const std::string &b) {
     return t;
 }
 
-// Runs `lee` inside a trap; whether it came to its end.
-inline bool atrapado(const std::function<void()> &lee) {
-    return trapable_ejecuta_funcion_segura(
-               const std::function<void()>, [](const std::function<void()> *f) { (*f)(); }, &lee, nullptr) == CIERTO;
-}
-
 } // namespace vn

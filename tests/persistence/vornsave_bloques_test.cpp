@@ -1,15 +1,8 @@
 #include "persistence/prueba_vornsave.h"
-#include "foundation/cad.h"
 
 using namespace vn;
 
 namespace {
-
-std::string texto(char *s) {
-    std::string t = s != nullptr ? s : "(null)";
-    vornstr_destruye_opcional(&s);
-    return t;
-}
 
 // Two sections, the second with one inside, and a word after them.
 void graba_secciones(vornsave *d) {
@@ -91,15 +84,15 @@ PRUEBA(vornsave_bloques, un_bloque_se_abre_se_salta_o_no_esta) {
 
 PRUEBA(vornsave_bloques, un_lector_recorre_secciones_que_no_conoce) {
     leido(EN_BIN, grabado(EN_BIN, graba_secciones), [](vornsave *d) {
-        EXPECT_EQ(texto(vornsave_lee_seccion(d)), "UNO");
+        EXPECT_EQ(toma(vornsave_lee_seccion(d)), "UNO");
         vornsave_ir_final_seccion("UNO", d);
         vornsave_lee_final_seccion("UNO", d);
-        EXPECT_EQ(texto(vornsave_lee_seccion(d)), "DOS");
-        EXPECT_EQ(texto(vornsave_lee_seccion(d)), "dentro");
+        EXPECT_EQ(toma(vornsave_lee_seccion(d)), "DOS");
+        EXPECT_EQ(toma(vornsave_lee_seccion(d)), "dentro");
         EXPECT_EQ(vornsave_lee_double(d), 2.5);
         vornsave_lee_final_seccion("dentro", d);
         vornsave_lee_final_seccion("DOS", d);
-        EXPECT_EQ(texto(vornsave_lee_cadena(d)), "fin");
+        EXPECT_EQ(toma(vornsave_lee_cadena(d)), "fin");
     });
 }
 
@@ -119,7 +112,7 @@ PRUEBA(vornsave_bloques, los_cierres_equivocados_se_informan) {
     vornsave_graba_inicio_seccion("S", a);
     vornsave_graba_fin_seccion("S", a);
     vornsave_set_posicion(a, 0);
-    EXPECT_EQ(texto(vornsave_lee_seccion(a)), "S");
+    EXPECT_EQ(toma(vornsave_lee_seccion(a)), "S");
     ESPERA_INFORME("cad_cadenas_iguales(marca->id_marca, id_seccion) == CIERTO", vornsave_ir_final_seccion("T", a));
     vornsave_set_posicion(a, 7);
     vornsave_graba_fin_bloque("S", a);
@@ -135,7 +128,7 @@ PRUEBA(vornsave_bloques, los_cierres_equivocados_se_informan) {
     // What is there is not the end mark.
     ESPERA_INFORME("num_marcas > 0", vornsave_ir_final_seccion("S", a));
     vornsave_set_posicion(a, 0);
-    EXPECT_EQ(texto(vornsave_lee_seccion(a)), "S");
+    EXPECT_EQ(toma(vornsave_lee_seccion(a)), "S");
     vornsave_set_posicion(a, 3);
     vornsave_graba_cadena("Z", a);
     vornsave_set_posicion(a, 3);
@@ -162,7 +155,7 @@ PRUEBA(vornsave_bloques, los_finales_danyados_no_hacen_dar_vueltas) {
     datos[datos.find("dentro") + 6] = static_cast<char>(datos.size() - 1);
     leido(EN_BIN, datos, [](vornsave *d) {
         vornsave_set_posicion(d, 18);
-        EXPECT_EQ(texto(vornsave_lee_seccion(d)), "DOS");
+        EXPECT_EQ(toma(vornsave_lee_seccion(d)), "DOS");
         EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_lee_seccion(d)), nullptr);
         vornsave_set_tipo_status_lectura(d, 1, nullptr);
     });
