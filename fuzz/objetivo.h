@@ -24,6 +24,8 @@ void con_fichero(const uint8_t *datos, size_t n, uint64_t maximo, const std::fun
 std::string lo_que_graba(const std::function<void()> &graba);
 // Content of FICHERO now; empty if it is not there.
 std::string contenido();
+// The reports made since the input was put there.
+uint64_t informes();
 // Runs `f` inside a trap; false when a report ended it.
 bool atrapa(const std::function<void()> &f);
 // Ends the program with a line when the condition does not hold.

@@ -25,12 +25,14 @@ void lee() {
     const uint32_t despues = arr_NumElemsCADENA_u(lista);
     fuzz::exige(despues >= 1 && despues <= 32, "between one and 32 works after a save");
     arr_DestruyeCADENA_u(&lista);
+    fuzz::exige(fuzz::informes() == 0, "a program starts whatever stands in the list, without a report");
 }
 
 } // namespace
 
 std::vector<std::string> fuzz::semillas() {
-    return {lo_que_graba([] { guarda({VNU("mem/a.obr"), VNU("mem/\u00f1\u4e2d.obr"), VNU("[x]mem/b.obr")}, true); }),
+    return {"5 ; version\n1\n2 ; n\nn\xC3\xB1\xC3\xB3.obr\n\x10" "D800.obr\n",
+            lo_que_graba([] { guarda({VNU("mem/a.obr"), VNU("mem/\u00f1\u4e2d.obr"), VNU("[x]mem/b.obr")}, true); }),
             lo_que_graba([] { guarda({VNU("mem/a.obr"), nullptr}, false); }),
             "1\nmem/vieja.obr\n", "2\n2\nmem/a.obr\nmem/b.obr\n", "4\n; version\n1\n1\n; n\nmem/a.obr\n"};
 }

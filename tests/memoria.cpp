@@ -39,7 +39,6 @@ vnerror_fichero escribe(vnid_fichero id, int64_t posicion, const void *origen, s
     *escritos = n;
     return VN_FICH_BIEN;
 }
-vnerror_fichero vuelca(vnid_fichero) { return VN_FICH_BIEN; }
 vnerror_fichero trunca(vnid_fichero id, int64_t tamanyo) {
     abiertos.at(id)->resize(static_cast<size_t>(tamanyo));
     return VN_FICH_BIEN;
@@ -48,8 +47,6 @@ vnerror_fichero estado_abierto(vnid_fichero id, vnestado_fichero *e) {
     *e = {abiertos.at(id)->size(), FALSO, CIERTO};
     return VN_FICH_BIEN;
 }
-vnerror_fichero bloquea(vnid_fichero, int64_t, int64_t, uint32_t) { return VN_FICH_BIEN; }
-vnerror_fichero desbloquea(vnid_fichero, int64_t, int64_t) { return VN_FICH_BIEN; }
 vnerror_fichero cierra(vnid_fichero id) {
     abiertos.erase(id);
     return VN_FICH_BIEN;
@@ -74,29 +71,21 @@ vnerror_fichero renombra(const vnwchar *existente, const vnwchar *nuevo) {
     return VN_FICH_BIEN;
 }
 vnerror_fichero borra(const vnwchar *nombre) { return ficheros.erase(nombre) != 0 ? VN_FICH_BIEN : VN_FICH_NO_EXISTE; }
-vnerror_fichero copia_permisos(const vnwchar *, const vnwchar *) { return VN_FICH_BIEN; }
-vnerror_fichero vuelca_directorio(const vnwchar *) { return VN_FICH_BIEN; }
-void espera(uint32_t) {}
 
 } // namespace
 
 ficheros_en_memoria::ficheros_en_memoria() {
-    const vnoperaciones_fichero tabla = {.abre = abre,
-                                     .lee = lee,
-                                     .escribe = escribe,
-                                     .vuelca = vuelca,
-                                     .trunca = trunca,
-                                     .estado_abierto = estado_abierto,
-                                     .bloquea = bloquea,
-                                     .desbloquea = desbloquea,
-                                     .cierra = cierra,
-                                     .estado = estado,
-                                     .enlaza = enlaza,
-                                     .renombra = renombra,
-                                     .borra = borra,
-                                     .copia_permisos = copia_permisos,
-                                     .vuelca_directorio = vuelca_directorio,
-                                     .espera = espera};
+    const vnoperaciones_fichero tabla = {
+        .abre = abre, .lee = lee, .escribe = escribe,
+        .vuelca = [](vnid_fichero) { return VN_FICH_BIEN; },
+        .trunca = trunca, .estado_abierto = estado_abierto,
+        .bloquea = [](vnid_fichero, int64_t, int64_t, uint32_t) { return VN_FICH_BIEN; },
+        .desbloquea = [](vnid_fichero, int64_t, int64_t) { return VN_FICH_BIEN; },
+        .cierra = cierra, .estado = estado, .enlaza = enlaza, .renombra = renombra, .borra = borra,
+        .copia_permisos = [](const vnwchar *, const vnwchar *) { return VN_FICH_BIEN; },
+        .vuelca_directorio = [](const vnwchar *) { return VN_FICH_BIEN; },
+        .espera = [](uint32_t) {},
+    };
     vacia();
     operaciones_fichero_instala(&tabla);
 }

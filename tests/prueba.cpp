@@ -127,6 +127,11 @@ void graba_fichero(const std::string &nombre, std::string_view contenido) {
 
 bool existe(const std::string &nombre) { return fs::exists(ruta(nombre)); }
 
+bool espera_fichero(const std::string &nombre) {
+    for (int i = 0; i < 1500 && !existe(nombre); ++i) operaciones_fichero_del_sistema()->espera(20);
+    return existe(nombre);
+}
+
 void espera_informes(std::initializer_list<std::string_view> textos, const char *fichero, int linea) {
     const auto hay = Prueba::toma_informes();
     std::string esperados, vistos;

@@ -67,6 +67,8 @@ bool atrapado(const std::function<void()> &f, int reservas = INT32_MAX);
 std::string lee_fichero(const std::string &nombre);
 void graba_fichero(const std::string &nombre, std::string_view contenido);
 bool existe(const std::string &nombre);
+// Waits half a minute at most for another program to make a file; whether it is there.
+bool espera_fichero(const std::string &nombre);
 // Checks that exactly the reports named have been made since the last check, in order.
 void espera_informes(std::initializer_list<std::string_view> textos, const char *fichero, int linea);
 // Runs, and checks that it made the one report named, or none for null.

@@ -43,17 +43,3 @@ PRUEBA(acadorde, sin_distinguir_el_primero_se_queda) {
     EXPECT_EQ(ESPERA_INFORME("i < num_elementos", acadordeu_get_copia(u, 3)), nullptr);
     acadordeu_destruye(&u);
 }
-
-PRUEBA(acadorde, cien_mil_textos_en_cualquier_orden) {
-    acadorde *a = acadorde_crea(FALSO);
-    char texto[24];
-    for (uint32_t i = 0; i < 100000; ++i) {
-        std::snprintf(texto, sizeof texto, "Nudo%05u", static_cast<unsigned>(uint64_t{i} * 77773 % 100000));
-        ASSERT_EQ(acadorde_inserta(a, texto), CIERTO);
-    }
-    for (uint32_t i = 0; i < 100000; ++i) {
-        std::snprintf(texto, sizeof texto, "Nudo%05u", i);
-        ASSERT_STREQ(acadorde_get(a, i), texto);
-    }
-    acadorde_destruye(&a);
-}

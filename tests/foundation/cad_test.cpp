@@ -3,13 +3,9 @@
 #include "foundation/unicode.h"
 #include "prueba.h"
 
-namespace {
+using vn::toma;
 
-std::string toma(char *s) {
-    std::string r = s;
-    vornstr_destruye(&s);
-    return r;
-}
+namespace {
 
 // What an operation makes of a text in place, or through its owner's pointer.
 template <class F> std::string tras(const char *s, F f) {

@@ -16,22 +16,8 @@ namespace {
 template <class... A> std::string da(const char *formato, A... args) {
     char *s = nousar_formatea(formato, args...);
     vnwchar *w = copiaforu_nousar_formatea(vn::ancho(formato).c_str(), args...);
-    std::string r = s;
-    EXPECT_EQ(r, vn::utf8_de(w)) << formato;
-    vornstr_destruye(&s);
-    widestr_destruye(&w);
-    return r;
-}
-
-std::string solo_ansi(char *s) {
-    std::string r = s;
-    vornstr_destruye(&s);
-    return r;
-}
-
-std::string solo_ancho(vnwchar *s) {
-    std::string r = vn::utf8_de(s);
-    widestr_destruye(&s);
+    const std::string r = vn::toma(s);
+    EXPECT_EQ(r, vn::toma(w)) << formato;
     return r;
 }
 
@@ -71,7 +57,7 @@ PRUEBA(formato, reales_con_sus_decimales_exactos) {
         for (const char *f : {"%.17g", "%.3f", "%.25e", "%20.8g", "%#.10g", "%#.3g"}) {
             char c[1500];
             std::snprintf(c, sizeof c, f, x);
-            EXPECT_EQ(solo_ansi(nousar_formatea(f, x)), c) << f;
+            EXPECT_EQ(vn::toma(nousar_formatea(f, x)), c) << f;
         }
     }
 }
@@ -80,34 +66,34 @@ PRUEBA(formato, textos_de_las_dos_anchuras) {
     ASSERT_EQ(unicode_establece_pagina_ANSI(1252), CIERTO);
     const char *ansi = "ca\xF1""a"; // with the page's own letter
     const auto ancho = vn::ancho("acción €");
-    EXPECT_EQ(solo_ansi(nousar_formatea("%s|%S|%ls|%hs|%6s|%-6s|%.2s", ansi, ancho.c_str(), ancho.c_str(), ansi, ansi, ansi, ansi)),
+    EXPECT_EQ(vn::toma(nousar_formatea("%s|%S|%ls|%hs|%6s|%-6s|%.2s", ansi, ancho.c_str(), ancho.c_str(), ansi, ansi, ansi, ansi)),
               "ca\xF1""a|acci\xF3n \x80|acci\xF3n \x80|ca\xF1""a|  ca\xF1""a|ca\xF1""a  |ca");
-    EXPECT_EQ(solo_ancho(copiaforu_nousar_formatea(VNU("%s|%S|%ls|%hs|%10s|%.3S"), ancho.c_str(), ansi, ancho.c_str(), ansi,
+    EXPECT_EQ(vn::toma(copiaforu_nousar_formatea(VNU("%s|%S|%ls|%hs|%10s|%.3S"), ancho.c_str(), ansi, ancho.c_str(), ansi,
                                                    ancho.c_str(), ansi)),
               "acción €|caña|acción €|caña|  acción €|cañ");
-    EXPECT_EQ(solo_ansi(nousar_formatea("%c%C%lc%hc", '\xF1', 0x20AC, 0xF3, 'x')), "\xF1\x80\xF3x");
-    EXPECT_EQ(solo_ancho(copiaforu_nousar_formatea(VNU("%c%C%hc%lc"), 0x20AC, 0xF1, 0xF1, 0x4E00)), "€ññ一");
+    EXPECT_EQ(vn::toma(nousar_formatea("%c%C%lc%hc", '\xF1', 0x20AC, 0xF3, 'x')), "\xF1\x80\xF3x");
+    EXPECT_EQ(vn::toma(copiaforu_nousar_formatea(VNU("%c%C%hc%lc"), 0x20AC, 0xF1, 0xF1, 0x4E00)), "€ññ一");
     const char *ninguno = nullptr;
-    EXPECT_EQ(solo_ansi(nousar_formatea("%s|%8S|%.3s", ninguno, ninguno, ninguno)), "(null)|  (null)|(nu");
-    EXPECT_EQ(solo_ancho(copiaforu_nousar_formatea(VNU("%s"), ninguno)), "(null)");
+    EXPECT_EQ(vn::toma(nousar_formatea("%s|%8S|%.3s", ninguno, ninguno, ninguno)), "(null)|  (null)|(nu");
+    EXPECT_EQ(vn::toma(copiaforu_nousar_formatea(VNU("%s"), ninguno)), "(null)");
     // No more of an unterminated text is read than the precision allows.
     const char sin_fin[] = {'a', 'b', 'c'};
-    EXPECT_EQ(solo_ansi(nousar_formatea("%.3s|%.2hs", sin_fin, sin_fin)), "abc|ab");
+    EXPECT_EQ(vn::toma(nousar_formatea("%.3s|%.2hs", sin_fin, sin_fin)), "abc|ab");
     const std::string largo(5000, 'x');
     EXPECT_EQ(da("<%hs>", largo.c_str()), "<" + largo + ">");
 }
 
 PRUEBA(formato, una_conversion_que_no_existe_se_escribe_como_esta) {
     for (const char *f : {"a%yb", "a%-5.2kb", "50%"}) {
-        EXPECT_EQ(solo_ansi(nousar_formatea(f)), f);
+        EXPECT_EQ(vn::toma(nousar_formatea(f)), f);
         EXPECT_EQ(toma_informes().size(), 1u) << f;
     }
-    EXPECT_EQ(solo_ansi(nousar_formatea("%n%d", 3)), "%n3");
+    EXPECT_EQ(vn::toma(nousar_formatea("%n%d", 3)), "%n3");
     EXPECT_EQ(toma_informes().size(), 1u);
     // Told once, though a long text is composed twice.
-    EXPECT_EQ(solo_ansi(nousar_formatea("%2000d%!", 1)).size(), 2002u);
+    EXPECT_EQ(vn::toma(nousar_formatea("%2000d%!", 1)).size(), 2002u);
     EXPECT_EQ(toma_informes().size(), 1u);
-    EXPECT_EQ(solo_ansi(nousar_formatea("%99999999999d", 1)).size(), 1'000'000u);
+    EXPECT_EQ(vn::toma(nousar_formatea("%99999999999d", 1)).size(), 1'000'000u);
 }
 
 PRUEBA(formato, no_depende_del_idioma_de_la_biblioteca_de_c) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "foundation/arr.h"
-#include "foundation/vornspy.h"
 #include "prueba.h"
 #include <algorithm>
 #include <filesystem>
@@ -11,17 +10,6 @@ namespace vn {
 
 constexpr bool EN_WINDOWS = std::filesystem::path::preferred_separator == '\\';
 
-// Takes over a text that an operation returned.
-inline std::string toma(vnwchar *t) {
-    const std::string r = t != nullptr ? utf8_de(t) : "(null)";
-    if (t != nullptr) vornspy_free_pp(&t, 1);
-    return r;
-}
-inline std::string toma(char *t) {
-    const std::string r = t != nullptr ? t : "(null)";
-    if (t != nullptr) vornspy_free_pp(&t, 1);
-    return r;
-}
 // Takes over a list, as one line: "a|b|c".
 inline std::string toma(arrCADENA_u *a) {
     std::string r;

@@ -28,13 +28,6 @@ void anidada(void *datos) {
     va_bien(datos);
 }
 
-vnbool nunca(size_t, void *) { return FALSO; }
-
-void pide_memoria(void *) {
-    void *p = vornspy_malloc(10);
-    vornspy_free_pp(&p, 1);
-}
-
 } // namespace
 
 PRUEBA(trapable, un_informe_vuelve_como_resultado_y_no_llega_al_receptor) {
@@ -52,13 +45,6 @@ PRUEBA(trapable, un_informe_vuelve_como_resultado_y_no_llega_al_receptor) {
     EXPECT_STREQ(trapable_texto_del_ultimo_fallo(), "prueba, 8: es_convexo: (1.5, -2)\n");
     // Outside again, a report goes to the receiver.
     ESPERA_INFORME("x", error_interno("x", nullptr, 1, 0));
-}
-
-PRUEBA(trapable, la_memoria_agotada_vuelve_a_la_trampa) {
-    vornspy_instala_permiso(nunca, nullptr);
-    const vnbool resultado = trapable_ejecuta_funcion_segura(void, pide_memoria, nullptr, nullptr);
-    vornspy_instala_permiso(nullptr, nullptr);
-    EXPECT_EQ(resultado, FALSO);
 }
 
 PRUEBA(trapable, lo_que_se_entrega_se_libera_aunque_el_informe_no_vuelva) {

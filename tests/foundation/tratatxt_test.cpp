@@ -1,21 +1,14 @@
 #define VN_MODULO "tratatxt_test"
 #include "foundation/tratatxt.h"
-#include "foundation/cad.h"
 #include "prueba.h"
 #include <random>
 
 namespace {
 
-std::string toma(char *s) {
-    std::string r = s;
-    vornstr_destruye(&s);
-    return r;
-}
-
-std::string recupera(const std::string &s) { return toma(tratatxt_recupera_espacio_y_salto_linea(s.c_str())); }
-std::string convierte(const std::string &s) { return toma(tratatxt_convierte_espacio_y_salto_linea(s.c_str())); }
-std::string prepara(const std::string &s) { return toma(tratatxt_prepara_almohadilla_espacios_y_salto_linea(s.c_str())); }
-std::string traduce(const std::string &s) { return toma(tratatxt_traducir_codigos_color(s.c_str())); }
+std::string recupera(const std::string &s) { return vn::toma(tratatxt_recupera_espacio_y_salto_linea(s.c_str())); }
+std::string convierte(const std::string &s) { return vn::toma(tratatxt_convierte_espacio_y_salto_linea(s.c_str())); }
+std::string prepara(const std::string &s) { return vn::toma(tratatxt_prepara_almohadilla_espacios_y_salto_linea(s.c_str())); }
+std::string traduce(const std::string &s) { return vn::toma(tratatxt_traducir_codigos_color(s.c_str())); }
 
 } // namespace
 

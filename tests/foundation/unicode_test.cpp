@@ -10,13 +10,8 @@ using namespace vn;
 
 namespace {
 
-std::string toma(char *s) {
-    std::string r = s;
-    vornstr_destruye(&s);
-    return r;
-}
-
-std::u16string toma(vnwchar *s) {
+// The units of a text, which is freed: lone surrogates too.
+std::u16string unidades(vnwchar *s) {
     std::u16string r = u16_de(s);
     widestr_destruye(&s);
     return r;
@@ -30,10 +25,10 @@ uint64_t huella_de_pagina() {
     uint64_t h = VACIO;
     for (unsigned a = 1; a < 256; ++a) {
         const char byte[] = {static_cast<char>(a), 0};
-        for (const char16_t u : toma(unicode_convierte_ANSI_a_UNICODE(byte))) h = digiere(h, u);
+        for (const char16_t u : unidades(unicode_convierte_ANSI_a_UNICODE(byte))) h = digiere(h, u);
         for (unsigned b = 0x80; a >= 0x80 && b < 256; ++b) {
             const char par[] = {static_cast<char>(a), static_cast<char>(b), 'x', 0};
-            for (const char16_t u : toma(unicode_convierte_ANSI_a_UNICODE(par))) h = digiere(h, u);
+            for (const char16_t u : unidades(unicode_convierte_ANSI_a_UNICODE(par))) h = digiere(h, u);
         }
     }
     std::basic_string<vnwchar> todas;
@@ -90,11 +85,11 @@ PRUEBA(unicode, cada_idioma_escribe_en_su_pagina) {
         EXPECT_EQ(perdida, f.perdida) << f.utf8;
         EXPECT_EQ(trconvansi_texto_unicode_es_compatible_ANSI_idioma(ancho(f.utf8).c_str(), f.idioma), !f.perdida) << f.utf8;
         if (f.perdida == CIERTO) continue;
-        EXPECT_EQ(toma(unicode_convierte_ANSI_idioma_a_UNICODE(f.ansi, f.idioma)), u16_de(ancho(f.utf8).c_str())) << f.utf8;
+        EXPECT_EQ(unidades(unicode_convierte_ANSI_idioma_a_UNICODE(f.ansi, f.idioma)), u16_de(ancho(f.utf8).c_str())) << f.utf8;
     }
     // What a page leaves undefined goes round; a two-byte character that is none does not swallow what follows.
-    EXPECT_EQ(toma(unicode_convierte_ANSI_idioma_a_UNICODE("\x81\x8D\x9D", 0)), u"\x81\x8D\x9D");
-    EXPECT_EQ(toma(unicode_convierte_ANSI_idioma_a_UNICODE("\x81" "1\x81\xFFz\x81", 39)), u"\xFFFD" u"1\xFFFD" u"z\xFFFD");
+    EXPECT_EQ(unidades(unicode_convierte_ANSI_idioma_a_UNICODE("\x81\x8D\x9D", 0)), u"\x81\x8D\x9D");
+    EXPECT_EQ(unidades(unicode_convierte_ANSI_idioma_a_UNICODE("\x81" "1\x81\xFFz\x81", 39)), u"\xFFFD" u"1\xFFFD" u"z\xFFFD");
 }
 
 PRUEBA(unicode, utf8_estricto) {
@@ -112,7 +107,7 @@ PRUEBA(unicode, utf8_estricto) {
         {"\xE2\x82", u"\xFFFD"},                       // cut
         {"", u""},
     };
-    for (const auto &f : filas) EXPECT_EQ(toma(unicode_convierte_UTF8_a_UNICODE(f.utf8)), f.ancho);
+    for (const auto &f : filas) EXPECT_EQ(unidades(unicode_convierte_UTF8_a_UNICODE(f.utf8)), f.ancho);
     for (const size_t i : {0u, 1u}) {
         vnwchar *w = unicode_convierte_UTF8_a_UNICODE(filas[i].utf8);
         EXPECT_EQ(toma(unicode_convierte_UNICODE_a_UTF8(w)), filas[i].utf8);

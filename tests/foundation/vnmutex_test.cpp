@@ -42,12 +42,6 @@ uint64_t lee_cuenta(const std::string &fichero) {
     return n;
 }
 
-bool espera_fichero(const std::string &fichero) {
-    for (int i = 0; i < 2000 && !vn::existe(fichero); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    return vn::existe(fichero);
-}
-
 } // namespace
 
 PRUEBA(vnmutex, el_mismo_nombre_es_el_mismo_cerrojo) {
@@ -171,7 +165,7 @@ PRUEBA(vnmutex, el_plazo_pasa_y_la_muerte_del_que_esta_dentro_lo_libera) {
     vnmutex_sal(m);
     std::filesystem::remove_all(directorio() + "/nucleos");
     vn::proceso hijo("entra_y_espera", {nombre, directorio() + "/dentro"});
-    ASSERT_TRUE(espera_fichero(directorio() + "/dentro"));
+    ASSERT_TRUE(vn::espera_fichero(directorio() + "/dentro"));
     {
         const con_plazo corto(200);
         const auto antes = reloj::now();

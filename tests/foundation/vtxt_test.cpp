@@ -33,11 +33,7 @@ void leyendo(std::string_view contenido, F &&lee) {
 }
 
 // A text that is taken and freed.
-std::string tomado(char *s) {
-    std::string t = s;
-    vornspy_free_pp(&s, 1);
-    return t;
-}
+std::string tomado(char *s) { return vn::toma(s); }
 std::u16string tomado(vnwchar *s) {
     std::u16string t = vn::u16_de(s);
     vornspy_free_pp(&s, 1);
@@ -219,32 +215,4 @@ PRUEBA(vtxt, los_miembros_de_dos_sentidos_vuelven_por_donde_fueron) {
     EXPECT_EQ(tomado(w.cadena), "un texto");
     EXPECT_EQ(tomado(w.vieja), "\xA4");
     EXPECT_EQ(tomado(w.ancha), u"línea\n2");
-}
-
-PRUEBA(vtxt, sin_memoria_no_se_pierde_nada) {
-    leyendo(std::string(1000, 'x') + "\nñ\x10""000A\n", [](vnfichero *f) {
-        struct ensayo {
-            vnfichero *f;
-            int quedan;
-        } e{f, 0};
-        for (int falla = 0; falla < 12; ++falla) {
-            e.quedan = falla;
-            vornio_fseek_i64(f, 0, 0);
-            vornspy_instala_permiso([](size_t, void *d) { return static_cast<ensayo *>(d)->quedan-- > 0 ? CIERTO : FALSO; }, &e);
-            const vnbool bien = trapable_ejecuta_funcion_segura(
-                ensayo,
-                [](ensayo *q) {
-                    tomado(vtxt_lee_cadena(q->f));
-                    tomado(vtxt_lee_cadena_unicode(q->f));
-                },
-                &e, nullptr);
-            vornspy_instala_permiso(nullptr, nullptr);
-            if (falla == 0) {
-                EXPECT_EQ(bien, FALSO);
-            }
-            if (falla == 11) {
-                EXPECT_EQ(bien, CIERTO);
-            }
-        }
-    });
 }

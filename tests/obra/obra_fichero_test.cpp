@@ -1,5 +1,6 @@
 // Project files of the sample host: what is saved comes back, and what has been damaged is refused whole.
 #include "foundation/operaciones_fichero.h"
+#include "fallos.h"
 #include "informe.h"
 #include "memoria.h"
 #include "persistence/vornbin.h"
@@ -101,12 +102,6 @@ bool lee_bytes(vn::ficheros_en_memoria &disco, const Fichero &f, const std::stri
     return r == lectura_obra::bien;
 }
 
-vnoperaciones_fichero con_disco_lleno(vnerror_fichero (*escribe)(vnid_fichero, int64_t, const void *, size_t, size_t *)) {
-    vnoperaciones_fichero t = *operaciones_fichero_del_sistema();
-    t.escribe = escribe;
-    return t;
-}
-
 } // namespace
 
 PRUEBA(obra_fichero, lo_que_se_graba_se_lee_y_los_campos_se_conservan) {
@@ -140,7 +135,7 @@ PRUEBA(obra_fichero, los_bytes_son_los_mismos_en_toda_plataforma) {
     EXPECT_EQ(fnv(bytes), 2748994739658136108u);
 }
 
-PRUEBA(obra_fichero, cortado_en_cada_byte_se_rechaza) {
+PRUEBA(obra_fichero, cortado_en_cada_byte_se_rechaza_y_cambiado_no_rompe) {
     const Fichero f;
     vn::ficheros_en_memoria disco;
     ASSERT_TRUE(graba(f, {{vn::ancho("autor"), vn::ancho("A")}}));
@@ -148,13 +143,7 @@ PRUEBA(obra_fichero, cortado_en_cada_byte_se_rechaza) {
     for (size_t n = 0; n < bytes.size(); ++n) ASSERT_FALSE(lee_bytes(disco, f, bytes.substr(0, n))) << n;
     ASSERT_TRUE(lee_bytes(disco, f, bytes));
     ASSERT_FALSE(lee_bytes(disco, f, bytes + "x"));
-}
-
-PRUEBA(obra_fichero, con_bits_cambiados_o_cuentas_falsas_se_lee_o_se_rechaza) {
-    const Fichero f;
-    vn::ficheros_en_memoria disco;
-    ASSERT_TRUE(graba(f));
-    const std::string bytes = disco.dame(f.ancho);
+    // Bits and counts changed: read or refused.
     for (size_t i = 0; i < bytes.size(); ++i) {
         std::string otro = bytes;
         otro[i] = static_cast<char>(otro[i] ^ (1 << i % 8));
@@ -189,28 +178,11 @@ PRUEBA(obra_fichero, otra_firma_una_version_superior_y_lo_que_no_es_un_fichero) 
     EXPECT_EQ(lee_obra(vn::ancho(directorio() + "/no est\u00e1"), o, motivo), lectura_obra::no_es_obra);
 }
 
-PRUEBA(obra_fichero, con_el_disco_lleno_queda_el_anterior) {
-    const Fichero f;
-    ASSERT_TRUE(graba(f));
-    const std::string antes = vn::lee_fichero(f.utf8);
-    static int64_t cabe;
-    for (cabe = 0; cabe < static_cast<int64_t>(antes.size()); cabe += 97) {
-        const vnoperaciones_fichero t =
-            con_disco_lleno([](vnid_fichero id, int64_t posicion, const void *origen, size_t n, size_t *escritos) {
-                const int64_t queda = cabe - posicion;
-                if (queda <= 0) return VN_FICH_SIN_ESPACIO;
-                return operaciones_fichero_del_sistema()->escribe(id, posicion, origen,
-                                                                  std::min(n, static_cast<size_t>(queda)), escritos);
-            });
-        operaciones_fichero_instala(&t);
-        EXPECT_FALSE(graba(f)) << cabe;
-        operaciones_fichero_instala(nullptr);
-        EXPECT_EQ(toma_informes().size(), 1u) << cabe;
-        ASSERT_EQ(vn::lee_fichero(f.utf8), antes) << cabe;
-    }
-    EXPECT_TRUE(graba(f));
-    EXPECT_FALSE(vn::existe(f.utf8 + "_TM$"));
+// Every boundary of a save, the death of the program at each one included.
+GUARDADO(obra_de_ejemplo) {
+    return graba_obra(vn::ancho(fichero), plano_de_prueba(), vn::ancho(std::string("Edici\u00f3n ") + static_cast<char>('0' + edicion)), {});
 }
+PRUEBA(obra_fichero, un_guardado_deja_la_obra_de_antes_o_la_nueva) { vn::comprueba_guardado("obra_de_ejemplo"); }
 
 // Memory runs out at the k-th allocation, once or from there on: the trap gets it, nothing is lost or left behind.
 PRUEBA(obra_fichero, sin_memoria_en_cada_reserva) {
@@ -223,29 +195,27 @@ PRUEBA(obra_fichero, sin_memoria_en_cada_reserva) {
         const uint64_t n = q->van++;
         return n == q->en || (n > q->en && q->para_siempre) ? FALSO : CIERTO;
     };
-    struct trabajo {
-        Fichero f;
-        bool hecho;
-    } t{{}, false};
-    ASSERT_TRUE(graba(t.f));
-    const std::string antes = vn::lee_fichero(t.f.utf8);
-    const auto graba_y_lee = [](trabajo *q) {
+    const Fichero f;
+    bool hecho = false;
+    ASSERT_TRUE(graba(f));
+    const std::string antes = vn::lee_fichero(f.utf8);
+    const auto graba_y_lee = [&] {
         obra_leida o;
         std::string motivo;
-        q->hecho = graba(q->f) && lee_obra(q->f.ancho, o, motivo) == lectura_obra::bien;
+        hecho = graba(f) && lee_obra(f.ancho, o, motivo) == lectura_obra::bien;
     };
     for (const bool para_siempre : {false, true}) {
         bool acabado = false;
         for (uint64_t k = 0; !acabado; ++k) {
             fallo q{k, 0, para_siempre};
-            t.hecho = false;
+            hecho = false;
             vornspy_instala_permiso(permiso, &q);
-            trapable_ejecuta_funcion_segura(trabajo, +graba_y_lee, &t, nullptr);
+            vn::atrapado(graba_y_lee);
             vornspy_instala_permiso(nullptr, nullptr);
             acabado = q.van <= k;
-            EXPECT_EQ(t.hecho, acabado) << k;
-            ASSERT_EQ(vn::lee_fichero(t.f.utf8), antes) << k;
+            EXPECT_EQ(hecho, acabado) << k;
+            ASSERT_EQ(vn::lee_fichero(f.utf8), antes) << k;
         }
     }
-    EXPECT_FALSE(vn::existe(t.f.utf8 + "_TM$"));
+    EXPECT_FALSE(vn::existe(f.utf8 + "_TM$"));
 }
