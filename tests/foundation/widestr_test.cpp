@@ -92,7 +92,7 @@ PRUEBA(widestr, partes) {
     const struct {
         uint32_t numero;
         const char *token;
-    } filas[] = {{1, "31"}, {2, "12"}, {3, "2024"}, {4, "10"}, {5, ""}};
+    } filas[] = {{1, "31"}, {2, "12"}, {3, "2024"}, {4, "10"}, {5, "(null)"}};
     for (const auto &f : filas) EXPECT_EQ(toma(widestr_extrae_token(VNU("31/12//2024 10:"), VNU("/-: "), f.numero)), f.token);
     EXPECT_EQ(widestr_extrae_token(VNU("a"), VNU(" "), 2), nullptr);
 
