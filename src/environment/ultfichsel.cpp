@@ -11,6 +11,7 @@
 #include "foundation/widestr.h"
 #include "persistence/vornsave.h"
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -33,6 +34,9 @@ void destruye_registro(registro **r) {
 struct destruye_lista {
     void operator()(arrPuntero *a) const { arr_DestruyeEstructurasST(&a, registro, destruye_registro); }
 };
+struct libera_registro {
+    void operator()(registro *r) const { destruye_registro(&r); }
+};
 struct destruye_array {
     void operator()(arrPuntero *a) const { arr_DestruyePunteroST(&a, registro); }
 };
@@ -46,14 +50,18 @@ struct cierra_callando {
     void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
 };
 using lista_propia = std::unique_ptr<arrPuntero, destruye_lista>;
+using registro_propio = std::unique_ptr<registro, libera_registro>;
 using texto_propio = std::unique_ptr<vnwchar, destruye_texto>;
 using fichero_propio = std::unique_ptr<vnfichero, cierra_callando>;
 
-// A new empty record, the list's from the start, so that a failure half way loses nothing.
-registro *anade_registro(arrPuntero *lista) {
-    auto *r = static_cast<registro *>(vornspy_calloc(1, sizeof(registro)));
-    arr_AppendPunteroST(lista, r, registro);
-    return r;
+registro_propio nuevo_registro() {
+    return registro_propio(static_cast<registro *>(vornspy_calloc(1, sizeof(registro))));
+}
+
+// A whole record becomes the list's: one that was cut short half way would stand there without its texts.
+registro *anade_registro(arrPuntero *lista, registro_propio r) {
+    arr_AppendPunteroST(lista, r.get(), registro);
+    return r.release();
 }
 
 registro *busca(const arrPuntero *lista, const char *clave) {
@@ -78,14 +86,14 @@ struct lectura {
 };
 
 registro *lee_registro(lectura *l, vornsave *v) {
-    registro *r = anade_registro(l->lista.get());
+    registro_propio r = nuevo_registro();
     const uint8_t version = l->version = vornsave_lee_uchar(v);
-    if (!AFIRMA(version <= i_VERSION_FICHERO)) return r;
+    if (!AFIRMA(version <= i_VERSION_FICHERO)) return nullptr;
     r->clave = vornsave_lee_cadena(v);
     if (version == 0) r->raiz = widestr_copia(VNU(""));
     else r->raiz = version < 3 ? vornsave_lee_cadena_ANSI_a_unicode(v) : vornsave_lee_cadena_unicode(v);
     r->nombre_fichero = version < 2 ? vornsave_lee_cadena_ANSI_a_unicode(v) : vornsave_lee_cadena_unicode(v);
-    return r;
+    return anade_registro(l->lista.get(), std::move(r));
 }
 
 // Both run inside a trap: what the file holds or the disk refuses comes back as a failure.
@@ -149,8 +157,9 @@ void ultfichsel_registra_nombre_fichero(arrPuntero *ultimos_fich_seleccionados, 
     texto_propio raiz_nueva(widestr_copia(raiz)), nombre_nuevo(widestr_copia(nombre_fichero));
     registro *r = busca(ultimos_fich_seleccionados, clave);
     if (r == nullptr) {
-        r = anade_registro(ultimos_fich_seleccionados);
-        r->clave = cad_copia_cadena(clave);
+        registro_propio nuevo = nuevo_registro();
+        nuevo->clave = cad_copia_cadena(clave);
+        r = anade_registro(ultimos_fich_seleccionados, std::move(nuevo));
     }
     widestr_destruye_opcional(&r->raiz);
     widestr_destruye_opcional(&r->nombre_fichero);
