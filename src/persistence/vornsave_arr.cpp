@@ -80,11 +80,11 @@ template <auto ENTRADA, auto ABIERTA, class T> T lee_elemento(vornsave *d) {
 template <class T> using escalar_de = std::conditional_t<std::is_arithmetic_v<T>, T, double>;
 template <class T> inline constexpr uint32_t ESCALARES = sizeof(T) / sizeof(escalar_de<T>);
 
-// Entry of the last scalar of an element, of those before it, whole arrays (null: never).
-template <auto ENTRADA, auto ABIERTA, auto BLOQUE, class T>
+// Entry of the last scalar of an element, of those before it, whole arrays (null: never), progress.
+template <auto ENTRADA, auto ABIERTA, auto BLOQUE, progreso PROGRESO, class T>
 void graba_valores(const T *valores, uint32_t n, vornsave *d) {
     if (!puede_grabar<GRABAR(ulong_y_salta)>(d) || !puede_grabar<ABIERTA>(d) || !puede_grabar<ENTRADA>(d)) return;
-    progreso_al_grabar(d);
+    if constexpr (PROGRESO == CON_PROGRESO) progreso_al_grabar(d);
     graba<GRABAR(ulong_y_salta)>(d, n);
     if (n == 0) return;
     if constexpr (!std::is_null_pointer_v<decltype(BLOQUE)>) {
@@ -96,10 +96,10 @@ void graba_valores(const T *valores, uint32_t n, vornsave *d) {
     for (uint32_t i = 0; i < n; ++i) graba_elemento<ENTRADA, ABIERTA>(valores[i], d);
 }
 
-template <class ARR, auto ENTRADA, auto ABIERTA, auto BLOQUE> ARR *lee_valores(vornsave *d) {
+template <class ARR, auto ENTRADA, auto ABIERTA, auto BLOQUE, progreso PROGRESO> ARR *lee_valores(vornsave *d) {
     using T = typename familia<ARR>::elemento;
     if (!puede_leer<LEER(ulong_y_salta)>(d) || !puede_leer<ABIERTA>(d) || !puede_leer<ENTRADA>(d)) return nullptr;
-    progreso_al_leer(d);
+    if constexpr (PROGRESO == CON_PROGRESO) progreso_al_leer(d);
     constexpr bool EN_BLOQUE = !std::is_null_pointer_v<decltype(BLOQUE)>; // else a truth value, of one byte
     const uint32_t n = acota(d, lee<LEER(ulong_y_salta)>(d), EN_BLOQUE ? sizeof(T) : 1, 2 * ESCALARES<T>);
     dueno<ARR> array(familia<ARR>::crea(primer_paso(d, n)));
@@ -125,36 +125,36 @@ template <class ARR, auto ENTRADA, auto ABIERTA, auto BLOQUE> ARR *lee_valores(v
 
 } // namespace
 
-// A row: operation, array, entry of the last scalar of an element, of those before it, whole arrays.
-#define GRABA_ARR(nombre, arr, entrada, abierta, bloque)                                                               \
+// A row: operation, array, entry of the last scalar of an element, of those before it, whole arrays, progress.
+#define GRABA_ARR(nombre, arr, entrada, abierta, bloque, progreso)                                                      \
     void nombre(const arr *array, vornsave *vornsave_datos) {                                                          \
         if (!AFIRMA_NO_NULO(array)) return;                                                                            \
-        graba_valores<GRABAR(entrada), GRABAR(abierta), &bloques_t::graba_##bloque>(                                   \
+        graba_valores<GRABAR(entrada), GRABAR(abierta), &bloques_t::graba_##bloque, progreso>(                         \
             familia<arr>::buffer_const(array), familia<arr>::numelems(array), vornsave_datos);                         \
     }
-#define LEE_ARR(nombre, arr, entrada, abierta, bloque)                                                                 \
+#define LEE_ARR(nombre, arr, entrada, abierta, bloque, progreso)                                                        \
     arr *nombre(vornsave *vornsave_datos) {                                                                            \
-        return lee_valores<arr, LEER(entrada), LEER(abierta), &bloques_t::lee_##bloque>(vornsave_datos);               \
+        return lee_valores<arr, LEER(entrada), LEER(abierta), &bloques_t::lee_##bloque, progreso>(vornsave_datos);     \
     }
 
-GRABA_ARR(vornsave_graba_arr_double, arrDouble, double_y_salta, double_y_salta, double)
-LEE_ARR(vornsave_lee_arr_double, arrDouble, double_y_salta, double_y_salta, double)
-GRABA_ARR(vornsave_graba_arr_long, arrLong, long_y_salta, long_y_salta, long)
-LEE_ARR(vornsave_lee_arr_long, arrLong, long_y_salta, long_y_salta, long)
-GRABA_ARR(vornsave_graba_arr_long64, arrLong64, long64_y_salta, long64_y_salta, long64)
-LEE_ARR(vornsave_lee_arr_long64, arrLong64, long64_y_salta, long64_y_salta, long64)
-GRABA_ARR(vornsave_graba_arr_uchar, arrUChar, uchar_y_salta, uchar_y_salta, uchar)
-LEE_ARR(vornsave_lee_arr_uchar, arrUChar, uchar_y_salta, uchar_y_salta, uchar)
-GRABA_ARR(vornsave_graba_arr_ushort, arrUShort, ushort_y_salta, ushort_y_salta, ushort)
-LEE_ARR(vornsave_lee_arr_ushort, arrUShort, ushort_y_salta, ushort_y_salta, ushort)
-GRABA_ARR(vornsave_graba_arr_ulong, arrULong, ulong_y_salta, ulong_y_salta, ulong)
-LEE_ARR(vornsave_lee_arr_ulong, arrULong, ulong_y_salta, ulong_y_salta, ulong)
-GRABA_ARR(vornsave_graba_arr_ulong64, arrULong64, ulong64_y_salta, ulong64_y_salta, ulong64)
-LEE_ARR(vornsave_lee_arr_ulong64, arrULong64, ulong64_y_salta, ulong64_y_salta, ulong64)
-GRABA_ARR(vornsave_graba_arr_puntos2D, arrPunto2D, double_y_salta, double_sin_salto, double)
-LEE_ARR(vornsave_lee_arr_puntos2D, arrPunto2D, double_y_salta, double_sin_salto, double)
-GRABA_ARR(vornsave_graba_arr_puntos3D, arrPunto3D, double_y_salta, double_sin_salto, double)
-LEE_ARR(vornsave_lee_arr_puntos3D, arrPunto3D, double_y_salta, double_sin_salto, double)
+GRABA_ARR(vornsave_graba_arr_double, arrDouble, double_y_salta, double_y_salta, double, CON_PROGRESO)
+LEE_ARR(vornsave_lee_arr_double, arrDouble, double_y_salta, double_y_salta, double, CON_PROGRESO)
+GRABA_ARR(vornsave_graba_arr_long, arrLong, long_y_salta, long_y_salta, long, CON_PROGRESO)
+LEE_ARR(vornsave_lee_arr_long, arrLong, long_y_salta, long_y_salta, long, CON_PROGRESO)
+GRABA_ARR(vornsave_graba_arr_long64, arrLong64, long64_y_salta, long64_y_salta, long64, CON_PROGRESO)
+LEE_ARR(vornsave_lee_arr_long64, arrLong64, long64_y_salta, long64_y_salta, long64, CON_PROGRESO)
+GRABA_ARR(vornsave_graba_arr_uchar, arrUChar, uchar_y_salta, uchar_y_salta, uchar, CON_PROGRESO)
+LEE_ARR(vornsave_lee_arr_uchar, arrUChar, uchar_y_salta, uchar_y_salta, uchar, CON_PROGRESO)
+GRABA_ARR(vornsave_graba_arr_ushort, arrUShort, ushort_y_salta, ushort_y_salta, ushort, CON_PROGRESO)
+LEE_ARR(vornsave_lee_arr_ushort, arrUShort, ushort_y_salta, ushort_y_salta, ushort, CON_PROGRESO)
+GRABA_ARR(vornsave_graba_arr_ulong, arrULong, ulong_y_salta, ulong_y_salta, ulong, CON_PROGRESO)
+LEE_ARR(vornsave_lee_arr_ulong, arrULong, ulong_y_salta, ulong_y_salta, ulong, CON_PROGRESO)
+GRABA_ARR(vornsave_graba_arr_ulong64, arrULong64, ulong64_y_salta, ulong64_y_salta, ulong64, CON_PROGRESO)
+LEE_ARR(vornsave_lee_arr_ulong64, arrULong64, ulong64_y_salta, ulong64_y_salta, ulong64, CON_PROGRESO)
+GRABA_ARR(vornsave_graba_arr_puntos2D, arrPunto2D, double_y_salta, double_sin_salto, double, SIN_PROGRESO)
+LEE_ARR(vornsave_lee_arr_puntos2D, arrPunto2D, double_y_salta, double_sin_salto, double, SIN_PROGRESO)
+GRABA_ARR(vornsave_graba_arr_puntos3D, arrPunto3D, double_y_salta, double_sin_salto, double, SIN_PROGRESO)
+LEE_ARR(vornsave_lee_arr_puntos3D, arrPunto3D, double_y_salta, double_sin_salto, double, SIN_PROGRESO)
 
 // Truth values are unsigned shorts on a binary stream.
 void vornsave_graba_arr_bool(const arrBOOL *array, vornsave *vornsave_datos) {
@@ -163,20 +163,22 @@ void vornsave_graba_arr_bool(const arrBOOL *array, vornsave *vornsave_datos) {
     const vnbool *valores = arr_GetBufferConstBOOL(array);
     const uint32_t n = arr_NumElemsBOOL(array);
     if (vornsave_datos->tipo != BIN) {
-        graba_valores<GRABAR(bool), GRABAR(bool), nullptr>(valores, n, vornsave_datos);
+        graba_valores<GRABAR(bool), GRABAR(bool), nullptr, SIN_PROGRESO>(valores, n, vornsave_datos);
         return;
     }
     for (uint32_t i = 0; i < n; ++i) {
         const vnbool elem = valores[i];
         AFIRMA(elem == CIERTO || elem == FALSO);
     }
-    graba_valores<GRABAR(ushort), GRABAR(ushort), &bloques_t::graba_ushort>(valores, n, vornsave_datos);
+    graba_valores<GRABAR(ushort), GRABAR(ushort), &bloques_t::graba_ushort, SIN_PROGRESO>(valores, n, vornsave_datos);
 }
 
 arrBOOL *vornsave_lee_arr_bool(vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return nullptr;
-    if (vornsave_datos->tipo != BIN) return lee_valores<arrBOOL, LEER(bool), LEER(bool), nullptr>(vornsave_datos);
-    dueno<arrBOOL> array(lee_valores<arrBOOL, LEER(ushort), LEER(ushort), &bloques_t::lee_ushort>(vornsave_datos));
+    if (vornsave_datos->tipo != BIN)
+        return lee_valores<arrBOOL, LEER(bool), LEER(bool), nullptr, SIN_PROGRESO>(vornsave_datos);
+    dueno<arrBOOL> array(
+        lee_valores<arrBOOL, LEER(ushort), LEER(ushort), &bloques_t::lee_ushort, SIN_PROGRESO>(vornsave_datos));
     const vnbool *valores = array != nullptr ? arr_GetBufferConstBOOL(array.get()) : nullptr;
     for (uint32_t i = 0, n = valores != nullptr ? arr_NumElemsBOOL(array.get()) : 0; i < n; ++i) {
         const vnbool elem = valores[i];
@@ -232,7 +234,7 @@ LEAN *lee_arulong(vornsave *d) {
 
 void vornsave_graba_arulong(const arulong *array, vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(array)) return;
-    graba_valores<GRABAR(ulong_y_salta), GRABAR(ulong_y_salta), &bloques_t::graba_ulong>(
+    graba_valores<GRABAR(ulong_y_salta), GRABAR(ulong_y_salta), &bloques_t::graba_ulong, CON_PROGRESO>(
         arulong_get_buffer_const(array), arulong_numelems(array), vornsave_datos);
 }
 
@@ -243,7 +245,7 @@ arulong *vornsave_lee_arulong(vornsave *vornsave_datos) {
 
 void vornsave_graba_arulong64(const arulong64 *array, vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(array)) return;
-    graba_valores<GRABAR(ulong64_y_salta), GRABAR(ulong64_y_salta), &bloques_t::graba_ulong64>(
+    graba_valores<GRABAR(ulong64_y_salta), GRABAR(ulong64_y_salta), &bloques_t::graba_ulong64, CON_PROGRESO>(
         arulong64_get_buffer_const(array), arulong64_numelems(array), vornsave_datos);
 }
 

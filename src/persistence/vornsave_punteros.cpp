@@ -18,9 +18,9 @@ void destruye_xpriv(arrPunto2DXPriv **a) {
 }
 
 // A count of structures. One may be of no byte at all: so many are let through whatever is left.
-uint32_t lee_numero(vornsave *d) {
+template <progreso PROGRESO = CON_PROGRESO> uint32_t lee_numero(vornsave *d) {
     constexpr uint32_t SIN_BYTES = 65536;
-    const uint32_t n = vornsave_lee_ulong(d);
+    const uint32_t n = lee<LEER(ulong), PROGRESO>(d);
     return n <= SIN_BYTES ? n : acota(d, n, 1);
 }
 
@@ -83,7 +83,7 @@ arrPuntero *vornsave_lee_arr_punteros_con_2_datos_extra(vornsave *vornsave_datos
 void vornsave_nousar_salta_arr_punteros_ST(vornsave *vornsave_datos, vnfunc_salta_dato fncptr_salta_datos) {
     if (!AFIRMA_NO_NULO(fncptr_salta_datos)) return;
     if (!puede_leer<LEER(ulong)>(vornsave_datos)) return;
-    const uint32_t n = lee_numero(vornsave_datos);
+    const uint32_t n = lee_numero<SIN_PROGRESO>(vornsave_datos);
     const vigia guarda(vornsave_datos);
     for (uint32_t i = 0; i < n && guarda.sigue(); ++i) fncptr_salta_datos(vornsave_datos);
 }

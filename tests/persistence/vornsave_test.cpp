@@ -274,6 +274,9 @@ PRUEBA(vornsave, el_progreso_sigue_la_posicion) {
         arrLong *a = arr_CreaLong(3);
         vornsave_graba_arr_long(a, d); // once for the whole array
         arr_DestruyeLong(&a);
+        arrPunto2D *puntos = arr_CreaPunto2D(0);
+        vornsave_graba_arr_puntos2D(puntos, d); // nor do these
+        arr_DestruyePunto2D(&puntos);
         ESPERA_INFORME("vornsave_no_const->con_progreso == FALSO",
                        vornsave_inicia_progreso_lectura(d, &b, barra, barra::inicia, barra::valor, barra::fin));
         vornsave_fin_progreso(d);
@@ -291,10 +294,11 @@ PRUEBA(vornsave, el_progreso_sigue_la_posicion) {
         vornsave_lee_ulong(d);
         arrLong *a = vornsave_lee_arr_long(d);
         arr_DestruyeLong(&a);
+        vornsave_salta_arr_puntos2D(d);
         vornsave_lee_float(d); // none when reading one
         vornsave_fin_progreso(d);
     });
-    EXPECT_EQ(b.pasos, "i32 0 2 4 8 12 f");
+    EXPECT_EQ(b.pasos, "i36 0 2 4 8 12 f");
     const abierto a(EN_TXT, "w");
     ESPERA_INFORME("(vornsave->fncptr_get_tamanyo) != NULL",
                    vornsave_inicia_progreso_lectura(a, &b, barra, barra::inicia, barra::valor, barra::fin));
