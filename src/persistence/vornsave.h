@@ -76,7 +76,8 @@ void vornsave_cierra_fichmem_para_lectura_al_final(vornsave **vornsave_datos);
    open is reported at class 1 unless a reading status of 1 or 2 was set. */
 void vornsave_libera(vornsave **vornsave_datos);
 
-/** Position in the destination, in bytes from its start. One that does not fit in 31 bits is reported: 0. */
+/** Position in the destination, in bytes from its start. 0, reported, where there is none; one that
+    does not fit in 31 bits is reported: -1. */
 int32_t vornsave_get_posicion(vornsave *vornsave_datos);
 /** Moves to a position given by vornsave_get_posicion. */
 void vornsave_set_posicion(vornsave *vornsave_datos, int32_t posicion);
