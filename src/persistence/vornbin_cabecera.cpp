@@ -164,7 +164,7 @@ void listas_cabecera::blanquea() {
 }
 
 void da_textos(const cabecera &c, char **version_texto, char **revision_texto) {
-    bloque<char> version(cad_copia_cadena(c.version.c_str())), revision(cad_copia_cadena(c.revision.c_str()));
+    propio<char> version(cad_copia_cadena(c.version.c_str())), revision(cad_copia_cadena(c.revision.c_str()));
     if (version_texto != nullptr) *version_texto = version.release();
     if (revision_texto != nullptr) *revision_texto = revision.release();
 }
@@ -187,7 +187,7 @@ cabecera lee_cabecera(vnfichero *f) {
 }
 
 void graba_cabecera(vnfichero *f, const listas_cabecera &listas) {
-    const bloque<char> identificacion(
+    const propio<char> identificacion(
         nousar_formatea("%s-%s-%c", i_MASCARA_VORN, version_versionMayor(), version_revision()));
     graba_identificacion(f, identificacion.get());
     graba_cuerpo(f, FORMA_ACTUAL, listas);
@@ -214,8 +214,8 @@ fichero abre_para_leer(const vnwchar *nomfich) {
     return fichero(f_lc_fopen_u(nomfich, VNU("rb"), VN_AQUI));
 }
 
-bloque<vnwchar> ancho_opcional(const char *texto) {
-    return bloque<vnwchar>(texto != nullptr ? utunicode_ANSI_a_UNICODE(texto) : nullptr);
+propio<vnwchar> ancho_opcional(const char *texto) {
+    return propio<vnwchar>(texto != nullptr ? utunicode_ANSI_a_UNICODE(texto) : nullptr);
 }
 
 } // namespace vn

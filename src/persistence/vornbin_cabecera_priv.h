@@ -93,6 +93,6 @@ fichero abre_para_leer(const vnwchar *nomfich);
 bool esta_en_directorio_ejemplos(const vnwchar *ruta);
 
 // Wide copy of an ANSI name, null for null.
-bloque<vnwchar> ancho_opcional(const char *texto);
+propio<vnwchar> ancho_opcional(const char *texto);
 
 } // namespace vn

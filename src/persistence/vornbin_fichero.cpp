@@ -45,7 +45,7 @@ fichero abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra, const arr
 }
 
 void graba_prologo(vnfichero *f, uint16_t version, const char *firma, const vnwchar *titulo) {
-    const bloque<char> titulo_ansi(unicode_UNICODE_a_ANSI(titulo));
+    const propio<char> titulo_ansi(unicode_UNICODE_a_ANSI(titulo));
     bin_graba_modo_debug(f);
     bin_graba_ushort(version, f);
     bin_graba_cadena(firma, f);
@@ -90,8 +90,8 @@ vnbool cierra_y_reemplaza(fichero f, const vnwchar *nomfich) {
 }
 
 // Reads a text of the prologue; null after a failure to read.
-bloque<char> lee_texto_del_prologo(vnfichero *f, uint16_t version, uint16_t version_ascii) {
-    bloque<char> texto(bin_lee_cadena_ansi_ascii(f, version, version_ascii));
+propio<char> lee_texto_del_prologo(vnfichero *f, uint16_t version, uint16_t version_ascii) {
+    propio<char> texto(bin_lee_cadena_ansi_ascii(f, version, version_ascii));
     if (lc_ha_fallado(f) == CIERTO) texto.reset();
     return texto;
 }
@@ -173,7 +173,7 @@ vnbool vornbin_cierra_fichero_abierto_para_escritura(vnfichero *f, const char *n
     if (!AFIRMA_NO_NULO(f)) return FALSO;
     vn::fichero abierto(f);
     if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
-    const vn::bloque<vnwchar> nombre = vn::ancho_opcional(nomfich), obra_ancho = vn::ancho_opcional(obra);
+    const vn::propio<vnwchar> nombre = vn::ancho_opcional(nomfich), obra_ancho = vn::ancho_opcional(obra);
     return vornbin_cierra_fichero_abierto_para_escritura_u(abierto.release(), nombre.get(), obra_ancho.get());
 }
 
@@ -229,13 +229,13 @@ vnfichero *vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(
     if (*version > version_actual && version_superior != nullptr) *version_superior = CIERTO;
     else if (!AFIRMA(*version <= version_actual)) return nullptr;
 
-    const vn::bloque<char> buf = vn::lee_texto_del_prologo(f.get(), *version, version_ascii);
+    const vn::propio<char> buf = vn::lee_texto_del_prologo(f.get(), *version, version_ascii);
     if (buf == nullptr) return nullptr;
     if (cad_cadenas_iguales(buf.get(), firma) == FALSO) {
         error_interno_msg_u(VNU("cad_cadenas_iguales(buf, firma)"), VN_AQUI, nomfich, 0);
         return nullptr;
     }
-    const vn::bloque<char> titulo_ansi = vn::lee_texto_del_prologo(f.get(), *version, version_ascii);
+    const vn::propio<char> titulo_ansi = vn::lee_texto_del_prologo(f.get(), *version, version_ascii);
     if (titulo_ansi == nullptr) return nullptr;
     *titulo = unicode_convierte_ANSI_a_UNICODE(titulo_ansi.get());
     return f.release();
@@ -248,14 +248,14 @@ enum class resultado { bien, no_se_lee, version_superior, otra_firma };
 
 // The prologue of a file without header. The stream is open only after `bien`.
 resultado abre_tras_prologo(const vnwchar *nomfich, uint16_t version_actual, const char *firma, uint16_t version_ascii,
-                            fichero *f, uint16_t *version, bloque<char> *titulo) {
+                            fichero *f, uint16_t *version, propio<char> *titulo) {
     fichero abierto = abre_para_leer(nomfich);
     if (abierto == nullptr) return resultado::no_se_lee;
     bin_lee_modo_debug(abierto.get());
     *version = bin_lee_ushort(abierto.get());
     if (lc_ha_fallado(abierto.get()) == CIERTO) return resultado::no_se_lee;
     if (*version > version_actual) return resultado::version_superior;
-    const bloque<char> buf = lee_texto_del_prologo(abierto.get(), *version, version_ascii);
+    const propio<char> buf = lee_texto_del_prologo(abierto.get(), *version, version_ascii);
     if (buf == nullptr) return resultado::no_se_lee;
     if (cad_cadenas_iguales(buf.get(), firma) == FALSO) return resultado::otra_firma;
     *titulo = lee_texto_del_prologo(abierto.get(), *version, version_ascii);
@@ -276,7 +276,7 @@ vnfichero *vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(
     *titulo = nullptr;
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
     vn::fichero f;
-    vn::bloque<char> titulo_leido;
+    vn::propio<char> titulo_leido;
     switch (vn::abre_tras_prologo(nomfich, version_actual, firma, version_ascii, &f, version, &titulo_leido)) {
     case vn::resultado::bien: *titulo = titulo_leido.release(); return f.release();
     case vn::resultado::version_superior:
@@ -300,7 +300,7 @@ vnbool vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(
     *version = UINT16_MAX;
     *titulo = nullptr;
     vn::fichero abierto;
-    vn::bloque<char> titulo_leido;
+    vn::propio<char> titulo_leido;
     uint16_t version_leida = 0;
     if (vn::abre_tras_prologo(nomfich, version_actual, firma, version_ascii, &abierto, &version_leida, &titulo_leido) !=
         vn::resultado::bien)

@@ -1,18 +1,14 @@
 // What the binary layer shares inside the library: owners, the debug form's flags, the transfer of whole arrays.
 #pragma once
 
-#include "foundation/vornspy.h"
+#include "foundation/propio_priv.h"
 #include "persistence/vornbin.h"
 #include <atomic>
 #include <memory>
 
 namespace vn {
 
-// Owners on the way of a report: a trap unwinds through them.
-struct libera_bloque {
-    template <class T> void operator()(T *p) const { vornspy_free_pp(&p, 1); }
-};
-template <class T> using bloque = std::unique_ptr<T, libera_bloque>;
+// The owner of a stream on the way of a report: a trap unwinds through it.
 struct cierra_fichero {
     void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
 };

@@ -20,19 +20,19 @@ template <class T> T toma_longitud(vnfichero *f) {
 }
 
 // New text of `n` units, empty when that many are not left.
-template <class C> vn::bloque<C> lee_texto(uint64_t n, vnfichero *f) {
+template <class C> vn::propio<C> lee_texto(uint64_t n, vnfichero *f) {
     if (lc_quedan(f, n, sizeof(C)) == FALSO) {
         lc_error_leyendo_fichero(f);
         n = 0;
     }
-    vn::bloque<C> texto(static_cast<C *>(vornspy_malloc((n + 1) * sizeof(C))));
+    vn::propio<C> texto(static_cast<C *>(vornspy_malloc((n + 1) * sizeof(C))));
     vnfichero_toma(f, texto.get(), n * sizeof(C), VN_AQUI);
     texto.get()[n] = 0;
     return texto;
 }
 
 char *lee_cadena(vnfichero *f, bool es_ascii) {
-    vn::bloque<char> texto = lee_texto<char>(toma_longitud<uint16_t>(f), f);
+    vn::propio<char> texto = lee_texto<char>(toma_longitud<uint16_t>(f), f);
     if (es_ascii) cad_convertir_cadena_ascii_ansi(texto.get());
     return texto.release();
 }
@@ -212,7 +212,7 @@ double bin_lee_double_con_posible_error(vnfichero *f, vnbool *es_incorrecto, vnb
 
 double *bin_lee_double_posible_null_con_posible_error(vnfichero *f, vnbool *es_incorrecto, vnbool *es_denormal) {
     if (!AFIRMA_NO_NULO(f)) return nullptr;
-    vn::bloque<double> dato(lee_double_posible_null(f));
+    vn::propio<double> dato(lee_double_posible_null(f));
     // The outputs are looked at after the read: the stream stands behind the value even where one is missing.
     if (!AFIRMA_NO_NULO(es_incorrecto) || !AFIRMA_NO_NULO(es_denormal)) return dato.release();
     *es_incorrecto = *es_denormal = FALSO;

@@ -28,15 +28,15 @@ bool abre_y_lee_cabecera(const vnwchar *nomfich, fichero *f, cabecera *c) {
 bool lee_longitud(vnfichero *f, uint16_t *n) { return f_lc_fread_sin_error(n, sizeof *n, 1, f) == 1; }
 
 // A text of `n` bytes by the ANSI or ASCII rule; null where the file ends before.
-bloque<char> lee_texto(vnfichero *f, uint16_t n, uint16_t version, uint16_t version_ascii) {
+propio<char> lee_texto(vnfichero *f, uint16_t n, uint16_t version, uint16_t version_ascii) {
     if (lc_quedan(f, n, 1) == FALSO) return nullptr;
-    bloque<char> texto(creacadena(n));
+    propio<char> texto(creacadena(n));
     f_lc_fread_ansi_ascii(texto.get(), 1, n, f, version, version_ascii, VN_AQUI);
     return texto;
 }
 
 // The title of a file that can be read, null for any other.
-bloque<char> titulo_si_es_valido(vnfichero *f, uint16_t version_actual, const char *firma, uint16_t version_ascii) {
+propio<char> titulo_si_es_valido(vnfichero *f, uint16_t version_actual, const char *firma, uint16_t version_ascii) {
     // The debug byte, the version and the lengths of two texts.
     constexpr int64_t MINIMO = 7;
     const auto n = static_cast<int64_t>(strlen(firma));
@@ -46,7 +46,7 @@ bloque<char> titulo_si_es_valido(vnfichero *f, uint16_t version_actual, const ch
     if (version > version_actual) return nullptr;
     uint16_t longitud_firma = 0, longitud_titulo = 0;
     if (!lee_longitud(f, &longitud_firma) || longitud_firma != n) return nullptr;
-    const bloque<char> leida = lee_texto(f, longitud_firma, version, version_ascii);
+    const propio<char> leida = lee_texto(f, longitud_firma, version, version_ascii);
     if (leida == nullptr || cad_cadenas_iguales(leida.get(), firma) == FALSO) return nullptr;
     if (!lee_longitud(f, &longitud_titulo)) return nullptr;
     return lee_texto(f, longitud_titulo, version, version_ascii);
@@ -99,7 +99,7 @@ vnbool bin_fichero_valido(vnfichero *f, uint16_t version_actual, const char *fir
                           uint16_t version_ascii) {
     if (titulo != nullptr) *titulo = nullptr;
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(firma)) return FALSO;
-    vn::bloque<char> leido = vn::titulo_si_es_valido(f, version_actual, firma, version_ascii);
+    vn::propio<char> leido = vn::titulo_si_es_valido(f, version_actual, firma, version_ascii);
     if (leido == nullptr) return FALSO;
     if (titulo != nullptr) *titulo = leido.release();
     return CIERTO;
@@ -109,10 +109,10 @@ vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, con
                             uint32_t tamanyo_titulo, char *titulo, uint16_t version_ascii) {
     if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma)) return FALSO;
     const vn::fichero f = vn::abre_para_leer(nomfich);
-    const vn::bloque<char> leido =
+    const vn::propio<char> leido =
         f != nullptr ? vn::titulo_si_es_valido(f.get(), version_actual, firma, version_ascii) : nullptr;
     if (leido == nullptr) {
-        const vn::bloque<vnwchar> mensaje(textomsgu_obtener_mensaje(vornbin_msg_32342, nomfich));
+        const vn::propio<vnwchar> mensaje(textomsgu_obtener_mensaje(vornbin_msg_32342, nomfich));
         vnaviso_aviso_interno_como_error_u(mensaje.get());
         return FALSO;
     }
@@ -139,7 +139,7 @@ vnbool vornbin_lee_datos_cabecera_debug_soporte(const char *nomfich, char **vers
     c.listas.recorre_campos([&texto](const vn::texto_u &nombre, const vn::texto_u &valor) {
         texto.append(nombre).append(VNU("=")).append(valor).append(VNU("\n"));
     });
-    vn::bloque<vnwchar> copia(widestr_copia(texto.c_str()));
+    vn::propio<vnwchar> copia(widestr_copia(texto.c_str()));
     vn::da_textos(c, version_texto, revision_texto);
     *contenido = copia.release();
     *es_ejemplo = c.es_ejemplo;

@@ -19,16 +19,16 @@ char *lee_cadena_de(vornsave *vornsave_datos, bool ansi) {
 
 } // namespace
 
-dueno_bloque vn::lee_bytes(vornsave *vornsave_datos, uint32_t &tamanyo, uint32_t trozo) {
+propio<uint8_t> vn::lee_bytes(vornsave *vornsave_datos, uint32_t &tamanyo, uint32_t trozo) {
     tamanyo = acota(vornsave_datos, tamanyo, 1);
     const auto nuevo = [](uint32_t n) { return static_cast<uint8_t *>(vornspy_calloc(size_t(n) + 1, 1)); };
     uint32_t caben = primer_paso(vornsave_datos, tamanyo), hechos = 0;
-    dueno_bloque bytes(nuevo(caben));
+    propio<uint8_t> bytes(nuevo(caben));
     for (const vigia guarda(vornsave_datos); hechos < tamanyo;) {
         const uint32_t n = std::min({trozo, tamanyo - hechos, std::max(caben, 1u)});
         if (caben - hechos < n) { // the source cannot tell its size: what has come doubles the room
             caben = static_cast<uint32_t>(std::min<uint64_t>(tamanyo, uint64_t(caben) * 2 + n));
-            dueno_bloque mayor(nuevo(caben));
+            propio<uint8_t> mayor(nuevo(caben));
             std::memcpy(mayor.get(), bytes.get(), hechos);
             bytes = std::move(mayor);
         }
@@ -140,7 +140,7 @@ uint8_t *vornsave_lee_buffer(uint32_t tamanyo, vornsave *vornsave_datos) {
 }
 
 void vornsave_salta_buffer(uint32_t tamanyo, vornsave *vornsave_datos) {
-    const dueno_bloque bytes(vornsave_lee_buffer(tamanyo, vornsave_datos));
+    const propio<uint8_t> bytes(vornsave_lee_buffer(tamanyo, vornsave_datos));
 }
 
 void vornsave_graba_fichmem(const fichmem *fichero, vornsave *vornsave_datos) {
@@ -158,7 +158,7 @@ fichmem *vornsave_lee_fichmem(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(ulong)>(vornsave_datos) || !puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
     progreso_al_leer(vornsave_datos);
     uint32_t longitud = lee<LEER(ulong)>(vornsave_datos);
-    dueno_bloque bytes = lee_bytes(vornsave_datos, longitud, i_TAMANO_TROZO_FICHMEM);
+    propio<uint8_t> bytes = lee_bytes(vornsave_datos, longitud, i_TAMANO_TROZO_FICHMEM);
     if (longitud == 0) return fichmem_crea32(nullptr, 0);
     unsigned char *datos = bytes.get();
     fichmem *fichero = fichmem_crea_original32(&datos, longitud);

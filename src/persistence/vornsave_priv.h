@@ -3,6 +3,7 @@
 
 #include "foundation/afirma.h"
 #include "foundation/cad.h"
+#include "foundation/propio_priv.h"
 #include "foundation/widestr.h"
 #include "persistence/vornsave.h"
 #include <memory>
@@ -145,10 +146,8 @@ template <auto DESTRUYE> struct suelta {
 };
 inline void suelta_cadena(char **s) { vornstr_destruye(s); }
 inline void suelta_cadena_u(vnwchar **s) { widestr_destruye(s); }
-inline void suelta_bloque(uint8_t **p) { vornspy_free_pp(p, 1); }
 using dueno_cadena = std::unique_ptr<char, suelta<suelta_cadena>>;
 using dueno_cadena_u = std::unique_ptr<vnwchar, suelta<suelta_cadena_u>>;
-using dueno_bloque = std::unique_ptr<uint8_t, suelta<suelta_bloque>>;
 
 void destruye_marca(i_marca_t **marca);
 
@@ -257,6 +256,6 @@ inline uint32_t primer_paso(const vornsave *vornsave_datos, uint32_t numero) {
 
 // Reads `tamanyo` bytes in pieces of at most `trozo` through the buffer entry, which the caller has checked, into a new
 // block with a zero after them; a size that the source cannot hold is reported and gives an empty block.
-dueno_bloque lee_bytes(vornsave *vornsave_datos, uint32_t &tamanyo, uint32_t trozo);
+propio<uint8_t> lee_bytes(vornsave *vornsave_datos, uint32_t &tamanyo, uint32_t trozo);
 
 } // namespace vn
