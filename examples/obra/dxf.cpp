@@ -64,6 +64,14 @@ struct bloque {
 constexpr double METROS[] = {1,    0.0254, 0.3048, 1609.344, 0.001, 0.01, 1,   1000, 2.54e-8, 2.54e-5, 0.9144,
                              1e-10, 1e-9,  1e-6,   0.1,      10,    100,  1e9, 1.495978707e11};
 
+// Colours that the palette does not have are taken for `si_no`: what is imported must be readable afterwards.
+uint32_t color_de(const DL_Attributes &a, uint32_t si_no) {
+    constexpr int MAXIMO_DE_PALETA = 256;
+    if (const int rgb = a.getColor24(); rgb >= 0) return 0x1000000u + static_cast<uint32_t>(rgb & 0xFFFFFF);
+    const int c = a.getColor();
+    return c >= -MAXIMO_DE_PALETA && c <= MAXIMO_DE_PALETA ? static_cast<uint32_t>(std::abs(c)) : si_no;
+}
+
 class lector final : public DL_CreationAdapter {
   public:
     std::unordered_map<std::string, bloque> bloques;
@@ -189,9 +197,7 @@ class lector final : public DL_CreationAdapter {
         const DL_Attributes a = getAttributes();
         double n[3] = {0, 0, 1};
         if (getExtrusion() != nullptr) getExtrusion()->getDirection(n);
-        const int c24 = a.getColor24();
-        return {a.getLayer(), a.getLinetype(),
-                c24 >= 0 ? 0x1000000u + static_cast<uint32_t>(c24 & 0xFFFFFF) : static_cast<uint32_t>(std::abs(a.getColor())),
+        return {a.getLayer(), a.getLinetype(), color_de(a, 256),
                 con_ejes_propios ? ejes_de_objeto({n[0], n[1], n[2]}) : afin{}};
     }
     template <class T>
@@ -221,8 +227,7 @@ class expansion {
             capa &c = de_nombre(l_.capas[i].name);
             const DL_Attributes &a = l_.atributos_de_capas[i];
             c.tipo_linea = a_texto(a.getLinetype());
-            c.color = a.getColor24() >= 0 ? 0x1000000u + static_cast<uint32_t>(a.getColor24() & 0xFFFFFF)
-                                          : static_cast<uint32_t>(std::abs(a.getColor()));
+            c.color = color_de(a, 7);
             c.apagada = a.getColor() < 0 || l_.capas[i].off;
         }
         p_.sin_importar = l_.sin_importar;
@@ -256,9 +261,19 @@ class expansion {
                 inserta(*i, atr, total, nivel);
                 continue;
             }
-            if (++puestas_ >= MAXIMO_ENTIDADES) excedido_ = true;
+            // A long outline in many references is as much as many entities.
+            const auto *contorno = std::get_if<poli_dxf>(&e.que);
+            puestas_ += contorno != nullptr ? contorno->vertices.size() : 1;
+            if (puestas_ >= MAXIMO_ENTIDADES) {
+                excedido_ = true;
+                return;
+            }
             capa &c = de_nombre(atr.capa);
             std::visit([&](const auto &que) { pon(c, que, atr.color, total); }, e.que);
+            if (contorno != nullptr) { // chords may have come between
+                puestas_ += c.polilineas.back().vertices.size() - contorno->vertices.size();
+                excedido_ = puestas_ >= MAXIMO_ENTIDADES;
+            }
         }
     }
     void inserta(const insertado &i, const atributos &atr, const afin &t, int nivel) {
@@ -332,7 +347,7 @@ class expansion {
             const double b = p.curvaturas[i];
             nueva.curvaturas.push_back(con_arcos ? signo * b : 0);
             // A bulge that is no arc any more goes by chords of at most 5 degrees.
-            if (!con_arcos && b != 0 && (i + 1 < p.vertices.size() || p.cerrada))
+            if (!con_arcos && b != 0 && std::isfinite(b) && (i + 1 < p.vertices.size() || p.cerrada))
                 anade_cuerdas(nueva, p.vertices[i], p.vertices[(i + 1) % p.vertices.size()], b, t);
         }
         c.polilineas.push_back(std::move(nueva));

@@ -46,7 +46,9 @@ constexpr const char *ARCO = "0\nARC\n8\n0\n10\n1\n20\n0\n30\n0\n40\n1\n50\n0\n5
 
 PRUEBA(obra_dxf, las_referencias_se_expanden_con_su_capa_y_su_color) {
     // Turned 90 degrees, twice as large, in two columns 10 apart along the turned axis.
-    const plano p = lee(dxf_con("0\nINSERT\n8\nEJES\n62\n5\n2\nB\n10\n100\n20\n50\n30\n0\n41\n2\n42\n2\n43\n2\n50\n90\n70\n2\n44\n10\n", LINEA));
+    const plano p = lee(dxf_con("0\nINSERT\n8\nEJES\n62\n5\n2\nB\n10\n100\n20\n50\n30\n0\n41\n2\n42\n2\n43\n2\n50\n90\n70\n2\n44\n10\n"
+                                "0\nLINE\n8\nOTRA\n62\n99999999\n10\n1\n20\n0\n11\n3\n21\n0\n", LINEA));
+    EXPECT_EQ(capa_de(p, "OTRA").color_lineas.at(0), 256u); // no colour of the palette: that of its layer
     const capa &c = capa_de(p, "EJES");
     ASSERT_EQ(c.lineas.size(), 2u);
     EXPECT_NEAR(c.lineas[0].a.x, 100, 1e-12);
