@@ -5,6 +5,7 @@
 #include "foundation/cad.h"
 #include "foundation/fichconf.h"
 #include "foundation/lc_fichero.h"
+#include "foundation/propio_priv.h"
 #include "foundation/trapable.h"
 #include "foundation/vdir.h"
 #include "foundation/vornfile.h"
@@ -40,9 +41,6 @@ struct libera_registro {
 struct destruye_array {
     void operator()(arrPuntero *a) const { arr_DestruyePunteroST(&a, registro); }
 };
-struct destruye_texto {
-    void operator()(vnwchar *s) const { widestr_destruye(&s); }
-};
 struct destruye_protocolo {
     void operator()(vornsave *v) const { vornsave_libera(&v); }
 };
@@ -51,7 +49,7 @@ struct cierra_callando {
 };
 using lista_propia = std::unique_ptr<arrPuntero, destruye_lista>;
 using registro_propio = std::unique_ptr<registro, libera_registro>;
-using texto_propio = std::unique_ptr<vnwchar, destruye_texto>;
+using texto_propio = vn::propio<vnwchar>;
 using fichero_propio = std::unique_ptr<vnfichero, cierra_callando>;
 
 registro_propio nuevo_registro() {

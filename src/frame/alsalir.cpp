@@ -4,11 +4,11 @@
 #include "foundation/arr.h"
 #include "foundation/cad.h"
 #include "foundation/contexto.h"
+#include "foundation/propio_priv.h"
 #include "foundation/unicode.h"
 #include "foundation/vnatexit.h"
 #include "foundation/vnmutex.h"
 #include "foundation/widestr.h"
-#include <memory>
 
 namespace {
 
@@ -27,11 +27,6 @@ void limpia_los_mutex(vnparametros *datosQQ) {
         if (vornspy_es_memoria_reservada_valida(*mutex) == CIERTO) vnmutex_destruye_saliendo(mutex);
 }
 
-struct libera_texto {
-    void operator()(vnwchar *texto) const { widestr_destruye(&texto); }
-};
-using texto_propio = std::unique_ptr<vnwchar, libera_texto>;
-
 } // namespace
 
 namespace vn {
@@ -43,8 +38,8 @@ vnbool alsalir_mutex_entra(vnmutex **mutex, const vnwchar *nombre, const char *m
 vnbool alsalir_mutex_entra(vnmutex **mutex, const vnwchar *nombre, const char *modulo, uint32_t linea) {
     if (!AFIRMA_NO_NULO(mutex)) return FALSO;
     if (*mutex == nullptr) {
-        const texto_propio modulo_u(utunicode_ANSI_a_UNICODE(modulo != nullptr ? modulo : ""));
-        const texto_propio contexto(
+        const propio<vnwchar> modulo_u(utunicode_ANSI_a_UNICODE(modulo != nullptr ? modulo : ""));
+        const propio<vnwchar> contexto(
             copiaforu_nousar_formatea(VNU("[alsalir:i_mutex_entra(%s)] %s(%d)"), nombre, modulo_u.get(), static_cast<int>(linea)));
         contexto_dentroDeContexto_u(contexto.get());
         *mutex = vnmutex_crea_u(nombre);

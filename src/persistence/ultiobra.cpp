@@ -4,6 +4,7 @@
 #include "foundation/arr.h"
 #include "foundation/avisos.h"
 #include "foundation/lc_fichero.h"
+#include "foundation/propio_priv.h"
 #include "foundation/trapable.h"
 #include "foundation/unicode.h"
 #include "foundation/vdir.h"
@@ -27,14 +28,11 @@ constexpr uint32_t SIN_INDICE = UINT32_MAX;
 struct destruye_lista {
     void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
 };
-struct destruye_texto {
-    void operator()(vnwchar *s) const { widestr_destruye(&s); }
-};
 struct cierra_callando {
     void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
 };
 using lista_propia = std::unique_ptr<arrCADENA_u, destruye_lista>;
-using texto_propio = std::unique_ptr<vnwchar, destruye_texto>;
+using texto_propio = vn::propio<vnwchar>;
 using fichero_propio = std::unique_ptr<vnfichero, cierra_callando>;
 
 struct obras {

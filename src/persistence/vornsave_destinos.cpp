@@ -50,19 +50,18 @@ template <auto F> char *lee_sin_campo(void *origen, const char *) {
 
 // ---- Forms of a number: what ends its line, what leaves it open, and the plain one.
 
-#define NUMEROS_GRABAR(X) X(char) X(short) X(long) X(long64) X(double) X(uchar) X(ushort) X(ulong) X(ulong64)
-#define NUMEROS_LEER(X) NUMEROS_GRABAR(X)
+#define NUMEROS(X) X(char) X(short) X(long) X(long64) X(double) X(uchar) X(ushort) X(ulong) X(ulong64)
 
 // A binary destination has no lines: all forms are the plain one.
 constexpr fncs_grabar_t sin_lineas(fncs_grabar_t t) {
 #define X(n) t.fncptr_graba_##n##_y_salta = t.fncptr_graba_##n##_sin_salto = t.fncptr_graba_##n;
-    NUMEROS_GRABAR(X)
+    NUMEROS(X)
 #undef X
     return t;
 }
 constexpr fncs_leer_t sin_lineas(fncs_leer_t t) {
 #define X(n) t.fncptr_lee_##n##_y_salta = t.fncptr_lee_##n##_sin_salto = t.fncptr_lee_##n;
-    NUMEROS_LEER(X)
+    NUMEROS(X)
 #undef X
     t.fncptr_lee_char_y_salta_ASCII = t.fncptr_lee_char_sin_salto_ASCII = t.fncptr_lee_char_ASCII;
     t.fncptr_lee_double_y_salta_con_posible_error = t.fncptr_lee_double_con_posible_error;
@@ -73,7 +72,7 @@ constexpr fncs_grabar_t con_lineas(fncs_grabar_t t, bool con_comentarios) {
 #define X(n)                                                                                                           \
     t.fncptr_graba_##n##_sin_salto = t.fncptr_graba_##n;                                                               \
     if (!con_comentarios) t.fncptr_graba_##n = t.fncptr_graba_##n##_y_salta;
-    NUMEROS_GRABAR(X)
+    NUMEROS(X)
 #undef X
     return t;
 }
@@ -81,7 +80,7 @@ constexpr fncs_leer_t con_lineas(fncs_leer_t t, bool con_comentarios) {
 #define X(n)                                                                                                           \
     t.fncptr_lee_##n##_sin_salto = t.fncptr_lee_##n;                                                                   \
     if (!con_comentarios) t.fncptr_lee_##n = t.fncptr_lee_##n##_y_salta;
-    NUMEROS_LEER(X)
+    NUMEROS(X)
 #undef X
     t.fncptr_lee_char_sin_salto_ASCII = t.fncptr_lee_char_ASCII;
     if (!con_comentarios) t.fncptr_lee_char_ASCII = t.fncptr_lee_char_y_salta_ASCII;
