@@ -73,9 +73,8 @@ PRUEBA(alsalir, sin_registros_no_hay_nada_y_tras_salir_se_vuelve_a_empezar) {
 }
 
 HIJO(acaba_con_registros) {
-    static std::basic_string<vnwchar> nombre;
-    nombre = vn::ancho(args.at(0));
-    fichero_de_despedida = &nombre;
+    // Never destroyed: on Windows the program's own statics go before the library's exit list runs.
+    fichero_de_despedida = new std::basic_string<vnwchar>(vn::ancho(args.at(0)));
     una = crea_viga();
     alsalir_destruye_dato(viga, &una, se_despide);
     texto = cad_copia_cadena("hasta el final");
