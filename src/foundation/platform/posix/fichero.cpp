@@ -194,22 +194,7 @@ void espera(uint32_t milisegundos) {
 } // namespace
 
 extern const vnoperaciones_fichero operaciones_de_fichero = {
-    .abre = abre,
-    .lee = lee,
-    .escribe = escribe,
-    .vuelca = vuelca,
-    .trunca = trunca,
-    .estado_abierto = estado_abierto,
-    .bloquea = bloquea,
-    .desbloquea = desbloquea,
-    .cierra = cierra,
-    .estado = estado,
-    .enlaza = enlaza,
-    .renombra = renombra,
-    .borra = borra,
-    .copia_permisos = copia_permisos,
-    .vuelca_directorio = vuelca_directorio,
-    .espera = espera,
+#include "foundation/platform/fichero_filas.inl"
 };
 
 } // namespace vn::plat
