@@ -116,6 +116,7 @@ vnbool mt_raices_ecuacion_segundo_grado(double a, double b, double c, VN_SALIDA 
 
 /* ---------------------------------------------------------------- space */
 
+/** Distance between two points; length of a vector. */
 double mt_distancia_3D(double x1, double y1, double z1, double x2, double y2, double z2);
 double mt_modulo_vector_3D(double x, double y, double z);
 /** As mt_pasar_a_unitario_2D. */
