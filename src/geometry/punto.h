@@ -61,8 +61,13 @@ void p_parametros_segmento(const Punto2D *p1, const Punto2D *p2, VN_SALIDA_OPC d
 void p_gira_xy(double x, double y, double coseno, double seno, VN_SALIDA double *xg, VN_SALIDA double *yg);
 /** Turns `q` clockwise about `p`. */
 void p_gira2(const Punto2D *p, Punto2D *q, double seno, double coseno);
-/** Turns (*x, *y) clockwise about (cx, cy) by `angulo`; by less than 1e-7, not at all. */
+/** Turns (*x, *y) clockwise about (cx, cy) by `angulo`; by less than 1e-7, or by what is not finite, not at all. */
 void p_gira_alrededor_punto_sentido_horario(double cx, double cy, double angulo, double *x, double *y);
+/** Moves, scales, turns counter-clockwise and displaces `p`; see
+    mt_transforma_coords_con_origen_escala_giro_y_desplazamiento. */
+void p_transforma_coords_con_origen_escala_giro_y_desplazamiento(Punto2D *p, double x_origen, double y_origen,
+                                                                 double escala, double coseno, double seno,
+                                                                 double desplaz_x, double desplaz_y);
 /** Rounds both coordinates to `decimales` places; see prec_redondea_numero_decimales. */
 void p_redondea(Punto2D *p, uint8_t decimales);
 
@@ -126,7 +131,8 @@ Punto2D *p_cortan_seguro(const Punto2D *p1, const Punto2D *q1, const Punto2D *p2
 Punto2D *p_cortan_spec_seguro(const Punto2D *p1, const Punto2D *q1, vnbool recta1, const Punto2D *p2,
                               const Punto2D *q2, vnbool recta2);
 
-/** The angle in [0, full turn), by whole turns; 0 for one that is not finite. */
+/** The angle in [0, full turn), by whole turns, in bounded time for any number; 0 for one that is not finite. See
+    mt_filtra_angulo_mayor_que_cero. */
 double p_filtra_angulo(double a);
 /** Direction from `p` to `q` in [0, full turn); 0 if they are exactly equal, or nearer to 0 than 1e-8. */
 double p_angulo(const Punto2D *p, const Punto2D *q);

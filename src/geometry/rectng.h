@@ -106,8 +106,8 @@ vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, do
 /** Lengthens each strip of an array (of rectangulo_t) at both ends of its long axis by up to the amount, stopping at any
     strip in the way. In order: later strips see earlier ones already lengthened. */
 void rec_Incrementa_longitudes_sin_solapes(arrPuntero *rectangulos, double incremento_a_cada_lado);
-/** New array of new rectangles, where each group of strips that are stacked side against side (to 1e-6 across,
-    `tolerancia`, at least 0, along) is one, their common extent. Null after a report of an array that is empty. */
+/** New array of new rectangles, where each group of strips of one direction that are stacked side against side, to
+    `tolerancia` (at least 0), is one, their common extent. Null after a report of an array that is empty. */
 arrPuntero *rec_Rectangulos_contiguos_condensados(const arrPuntero *rectangulos, double tolerancia);
 
 /** The position of a section that the point, from the section's centre, is nearest to: 0 centre, 1 low left, 2 low

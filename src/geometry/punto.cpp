@@ -1,0 +1,480 @@
+// Points and segments of the plane.
+#define VN_MODULO "punto (NUCLEOS.DLL)"
+#include "geometry/punto.h"
+#include "foundation/afirma.h"
+#include "foundation/mt.h"
+#include "foundation/vnmath.h"
+#include "foundation/vnstdc.h"
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <iterator>
+#include <numbers>
+#include <utility>
+
+namespace {
+
+// The tolerances. Each belongs to one kind of test; none follows from another.
+// Point equality, containment, sides, boxes, bounds of a projection: metres, or what the test measures. A host changes it.
+double p_EPS = 0.00005;
+// Squared length up to which a segment has no direction.
+constexpr double p_EPS_2 = 1e-10;
+// Cross product of two directions, of their whole lengths, up to which they are parallel.
+constexpr double LIMITE_PARALELISMO = 1e-08;
+// Parameters of a crossing that are taken for inside the piece at once.
+constexpr double PARAMETRO_MINIMO = -1e-12, PARAMETRO_MAXIMO = 1.000000000001;
+// Position parameter from which a point of the line is on the half-line.
+constexpr double MARGEN_SEMIRECTA = 1e-08;
+// Direction that is taken for the x axis itself, radians.
+constexpr double ANGULO_NULO = 1e-08;
+// Turn that is not worth doing, radians.
+constexpr double GIRO_MINIMO = 1e-07;
+// Width below which a segment that meets the box's side is vertical.
+constexpr double LIMITE_VERTICAL = 1e-06;
+
+constexpr double VUELTA = 2 * std::numbers::pi, MEDIA_VUELTA = std::numbers::pi;
+static_assert(VUELTA == 6.283185307179586 && MEDIA_VUELTA == 3.141592653589793);
+
+vnbool logico(bool v) { return v ? CIERTO : FALSO; }
+
+Punto2D resta(const Punto2D &p, const Punto2D &q) { return {p.x - q.x, p.y - q.y}; }
+Punto2D relativo(const Punto2D &p, const Punto2D &q, double t) { return {p.x + t * (q.x - p.x), p.y + t * (q.y - p.y)}; }
+Punto2D *nuevo(const Punto2D &p) { return creapunto(p.x, p.y); }
+double escalar(const Punto2D &p, const Punto2D &q) { return p.x * q.x + p.y * q.y; }
+double cuadrado(const Punto2D &p) { return escalar(p, p); }
+
+// Exact along an axis, where there is no root to take.
+double modulo_de(double x, double y) {
+    if (x == 0.) return std::fabs(y);
+    if (y == 0.) return std::fabs(x);
+    return RAIZ(x * x + y * y);
+}
+
+bool iguales(const Punto2D &p, const Punto2D &q) { return std::fabs(p.x - q.x) < p_EPS && std::fabs(p.y - q.y) < p_EPS; }
+
+// The detail has room for the largest numbers.
+[[gnu::cold, gnu::noinline]] void informa_de_dos(const vnwchar *expresion, const Punto2D &p, const Punto2D &q, const char *modulo,
+                                                 uint32_t linea) {
+    vnwchar detalle[4 * 320];
+    vnstdc__snwprintf(detalle, std::size(detalle), VNU("(%.6f, %.6f), (%.6f, %.6f)"), p.x, p.y, q.x, q.y);
+    error_interno_msg_u(expresion, modulo, linea, detalle, 0);
+}
+
+double posicion(const Punto2D &p, const Punto2D &s1, const Punto2D &s2, bool admite_degenerado, const char *modulo,
+                uint32_t linea) {
+    const Punto2D d = resta(s2, s1);
+    const double den = cuadrado(d);
+    if (ES_CERO_PREC(den, p_EPS_2) == FALSO) return escalar(d, resta(p, s1)) / den;
+    if (!admite_degenerado) error_interno_punto_2D("!ES_CERO_PREC(den, p_EPS_2)", modulo, linea, &p);
+    if (iguales(p, s1)) return 0.;
+    return iguales(p, s2) ? 1. : P_POSICION_DESCONOCIDA;
+}
+#define POSICION(p, s1, s2) posicion(p, s1, s2, false, VN_AQUI)
+
+double distancia2_a_segmento(const Punto2D &p, const Punto2D &s1, const Punto2D &s2) {
+    if (s1.x == s2.x && s1.y == s2.y) return cuadrado(resta(p, s1));
+    double longitud = 0., coseno = 0., seno = 0.;
+    f_mt_parametros_segmento(s1.x, s1.y, s2.x, s2.y, &longitud, &coseno, &seno);
+    const Punto2D d = resta(p, s1);
+    const double avance = coseno * d.x + seno * d.y;
+    if (avance < 0.) return cuadrado(d);
+    if (avance > longitud) return cuadrado(resta(p, s2));
+    const double distancia = std::fabs(d.y * coseno - d.x * seno);
+    return distancia * distancia;
+}
+
+bool contenido(const Punto2D &p, const Punto2D &s1, const Punto2D &s2) {
+    if (iguales(p, s1) || iguales(p, s2)) return true;
+    return !iguales(s1, s2) && distancia2_a_segmento(p, s1, s2) <= p_EPS * p_EPS;
+}
+
+bool contenido_recta(const Punto2D &p, const Punto2D &s1, const Punto2D &s2) {
+    if (iguales(s1, s2)) informa_de_dos(VNU("puntos_distintos"), s1, s2, VN_AQUI);
+    return mt_distancia_a_recta(p.x, p.y, s1.x, s1.y, s2.x, s2.y) <= p_EPS;
+}
+
+bool contenido_en_pieza(const Punto2D &p, const Punto2D &s1, const Punto2D &s2, bool recta) {
+    return recta ? contenido_recta(p, s1, s2) : contenido(p, s1, s2);
+}
+
+bool normal_corta(const Punto2D &p, const Punto2D &s1, const Punto2D &s2) {
+    if (iguales(s1, s2)) return false;
+    const double t = POSICION(p, s1, s2);
+    return -p_EPS <= t && t <= 1. + p_EPS;
+}
+
+bool no_es_numero(const Punto2D &p) { return std::isnan(p.x) || std::isnan(p.y); }
+bool es_finito(const Punto2D &p) { return std::isfinite(p.x) && std::isfinite(p.y); }
+
+// Differences, so that infinite sides that are the same side do not touch: they are nowhere.
+bool cajas_se_solapan(const Punto2D &o1, const Punto2D &e1, const Punto2D &o2, const Punto2D &e2) {
+    return e1.x - o2.x >= -p_EPS && e1.y - o2.y >= -p_EPS && e2.x - o1.x >= -p_EPS && e2.y - o1.y >= -p_EPS;
+}
+
+// ---------------------------------------------------------------- crossing of two pieces
+
+struct pieza {
+    const Punto2D &p, &q; // the parameter is 1 at p and 0 at q
+    bool recta;
+};
+
+double parametro_cruzado(const pieza &a, const pieza &b) {
+    return (a.p.x - a.q.x) * (b.q.y - b.p.y) - (a.p.y - a.q.y) * (b.q.x - b.p.x);
+}
+
+// Whether a crossing with parameter t on the segment `esta` is not beyond its ends: by the parameter with hardly a margin,
+// or else because it is an end to p_EPS, in metres, and lies on both pieces.
+bool dentro(double t, const Punto2D &r, const pieza &esta, const pieza &otra) {
+    if (PARAMETRO_MINIMO <= t && t <= PARAMETRO_MAXIMO) [[likely]] return true;
+    if (!iguales(r, t < PARAMETRO_MINIMO ? esta.q : esta.p)) return false;
+    return contenido(r, esta.p, esta.q) && contenido_en_pieza(r, otra.p, otra.q, otra.recta);
+}
+
+// Parallel pieces cross only at ends that are the same.
+Punto2D *corte_de_paralelas(const pieza &a, const pieza &b) {
+    for (const Punto2D *de_a : {&a.p, &a.q})
+        for (const Punto2D *de_b : {&b.p, &b.q})
+            if (iguales(*de_a, *de_b)) return nuevo(relativo(*de_a, *de_b, 0.5));
+    return nullptr;
+}
+
+Punto2D *corte(const pieza &a, const pieza &b) {
+    const double den = parametro_cruzado(a, b);
+    if (!(std::fabs(den) > LIMITE_PARALELISMO)) return corte_de_paralelas(a, b);
+    const double t = ((b.q.x - a.q.x) * (b.q.y - b.p.y) - (b.q.y - a.q.y) * (b.q.x - b.p.x)) / den;
+    const Punto2D r = {t * a.p.x + (1. - t) * a.q.x, t * a.p.y + (1. - t) * a.q.y};
+    if (!a.recta && !dentro(t, r, a, b)) return nullptr;
+    if (!b.recta) {
+        const double u = ((a.p.x - a.q.x) * (b.q.y - a.q.y) - (a.p.y - a.q.y) * (b.q.x - a.q.x)) / den;
+        if (!dentro(u, r, b, a)) return nullptr;
+    }
+    return es_finito(r) ? nuevo(r) : nullptr; // lines that meet beyond all numbers do not
+}
+
+// A piece that is a point: the first of its ends that lies on the other piece.
+Punto2D *corte_de_punto(const pieza &punto, const pieza &otra) {
+    for (const Punto2D *p : {&punto.p, &punto.q})
+        if (contenido_en_pieza(*p, otra.p, otra.q, otra.recta)) return p_copia(p);
+    return nullptr;
+}
+
+// ---------------------------------------------------------------- anchors of a box
+
+// From an anchor to the centre, in tenths of the width and the height; by anchor, from 1.
+struct decimas {
+    int8_t x, y;
+};
+constexpr decimas AL_CENTRO[] = {{5, 5}, {0, 5}, {-5, 5}, {5, 0}, {0, 0}, {-5, 0}, {5, -5}, {0, -5}, {-5, -5}};
+static_assert(std::size(AL_CENTRO) == 9);
+constexpr uint32_t POSICION_CENTRO = 5;
+
+Punto2D hasta_el_centro(uint32_t posicion, double ancho, double alto, double coseno, double seno) {
+    const decimas &d = AL_CENTRO[posicion - 1];
+    const double a_lo_ancho = d.x / 10.0 * ancho, a_lo_alto = d.y / 10.0 * alto;
+    return {a_lo_ancho * coseno - a_lo_alto * seno, a_lo_ancho * seno + a_lo_alto * coseno};
+}
+
+bool mueve_de_posicion(Punto2D &p, uint32_t posicion, double ancho, double alto, double coseno, double seno,
+                       uint32_t otra_posicion) {
+    if (posicion == 0) posicion = POSICION_CENTRO;
+    if (otra_posicion == 0) otra_posicion = POSICION_CENTRO;
+    if (!AFIRMA(posicion > 0 && posicion < 10 && otra_posicion > 0 && otra_posicion < 10)) return false;
+    const Punto2D al_centro = hasta_el_centro(posicion, ancho, alto, coseno, seno);
+    const Punto2D del_centro = hasta_el_centro(otra_posicion, ancho, alto, coseno, seno);
+    p = {p.x + al_centro.x - del_centro.x, p.y + al_centro.y - del_centro.y};
+    return true;
+}
+
+} // namespace
+
+double p_cambia_eps(double nuevo) { return std::exchange(p_EPS, nuevo); }
+
+// ---------------------------------------------------------------- coordinates and vectors
+
+double p_x(const Punto2D *p) { return AFIRMA_TEXTO(p != nullptr, "p != NULL") ? p->x : 0.; }
+double p_y(const Punto2D *p) { return AFIRMA_TEXTO(p != nullptr, "p != NULL") ? p->y : 0.; }
+
+void p_cambiax(double x, Punto2D *p) {
+    if (AFIRMA_TEXTO(p != nullptr, "p != NULL")) p->x = x;
+}
+
+void p_cambiay(double y, Punto2D *p) {
+    if (AFIRMA_TEXTO(p != nullptr, "p != NULL")) p->y = y;
+}
+
+void p_cambiaxy(double x, double y, Punto2D *p) {
+    if (AFIRMA_TEXTO(p != nullptr, "p != NULL")) *p = {x, y};
+}
+
+void p_asignar(Punto2D *destino, const Punto2D *origen) {
+    if (AFIRMA(destino && origen)) *destino = *origen;
+}
+
+Punto2D *p_sump(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? creapunto(p->x + q->x, p->y + q->y) : nullptr; }
+Punto2D *p_restp(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? nuevo(resta(*p, *q)) : nullptr; }
+double p_prodpuntos(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? escalar(*p, *q) : 0.; }
+double p_modulo(const Punto2D *p) { return AFIRMA_TEXTO(p != nullptr, "p != NULL") ? modulo_de(p->x, p->y) : 0.; }
+double p_modulo2(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? modulo_de(p->x - q->x, p->y - q->y) : 0.; }
+double p_dist2(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? cuadrado(resta(*p, *q)) : 0.; }
+
+Punto2D *p_punto_relativo_a_dos(const Punto2D *p, const Punto2D *q, double t) {
+    return AFIRMA(p && q) ? nuevo(relativo(*p, *q, t)) : nullptr;
+}
+
+Punto2D *p_porcion(const Punto2D *p, const Punto2D *q, double por) {
+    if (!AFIRMA(p && q)) return nullptr;
+    AFIRMA(por >= 0. && por <= 1.);
+    return nuevo(relativo(*p, *q, por));
+}
+
+Punto2D *p_centro(const Punto2D *p, const Punto2D *q) { return p_porcion(p, q, 0.5); }
+
+Punto2D *p_punto_en_recta(const Punto2D *p, double x0, double y0, double seno, double coseno) {
+    if (!AFIRMA_TEXTO(p != nullptr, "p != NULL")) return nullptr;
+    const double avance = (p->x - x0) * coseno + (p->y - y0) * seno;
+    return creapunto(x0 + avance * coseno, y0 + avance * seno);
+}
+
+void p_punto_simetrico_respecto_a_una_recta(double x, double y, double x0, double y0, double coseno, double seno, double *xs,
+                                            double *ys) {
+    if (!AFIRMA_NO_NULO(xs) || !AFIRMA_NO_NULO(ys)) return;
+    const double avance = (x - x0) * coseno + (y - y0) * seno;
+    *xs = 2. * (x0 + avance * coseno) - x;
+    *ys = 2. * (y0 + avance * seno) - y;
+}
+
+void p_parametros_segmento(const Punto2D *p1, const Punto2D *p2, double *longitud, double *coseno, double *seno) {
+    if (AFIRMA(p1 && p2)) f_mt_parametros_segmento(p1->x, p1->y, p2->x, p2->y, longitud, coseno, seno);
+}
+
+// ---------------------------------------------------------------- turns and other changes of place
+
+void p_gira_xy(double x, double y, double coseno, double seno, double *xg, double *yg) {
+    mt_gira_xy_sentido_horario(x, y, coseno, seno, xg, yg);
+}
+
+void p_gira2(const Punto2D *p, Punto2D *q, double seno, double coseno) {
+    if (!AFIRMA(p && q)) return;
+    const Punto2D centro = *p; // which may be q itself
+    mt_gira_xy_sentido_horario(q->x - centro.x, q->y - centro.y, coseno, seno, &q->x, &q->y);
+    *q = {q->x + centro.x, q->y + centro.y};
+}
+
+void p_gira_alrededor_punto_sentido_horario(double cx, double cy, double angulo, double *x, double *y) {
+    if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
+    if (std::fabs(angulo) < GIRO_MINIMO || !std::isfinite(angulo)) return;
+    double xg = 0., yg = 0.;
+    mt_gira_xy_sentido_horario(*x - cx, *y - cy, vnstdc_cos(angulo), vnstdc_sin(angulo), &xg, &yg);
+    *x = cx + xg;
+    *y = cy + yg;
+}
+
+void p_redondea(Punto2D *p, uint8_t decimales) {
+    if (!AFIRMA_TEXTO(p != nullptr, "p != NULL")) return;
+    *p = {prec_redondea_numero_decimales(p->x, decimales), prec_redondea_numero_decimales(p->y, decimales)};
+}
+
+void p_transforma_coords_con_origen_escala_giro_y_desplazamiento(Punto2D *p, double x_origen, double y_origen, double escala,
+                                                                 double coseno, double seno, double desplaz_x,
+                                                                 double desplaz_y) {
+    if (!AFIRMA_TEXTO(p != nullptr, "p != NULL")) return;
+    mt_transforma_coords_con_origen_escala_giro_y_desplazamiento(x_origen, y_origen, escala, coseno, seno, desplaz_x,
+                                                                 desplaz_y, &p->x, &p->y);
+}
+
+void p_coordenadas_en_otra_posicion(double x, double y, uint32_t posicion, double ancho, double alto, double coseno,
+                                    double seno, uint32_t otra_posicion, double *otra_pos_x, double *otra_pos_y) {
+    if (!AFIRMA_NO_NULO(otra_pos_x) || !AFIRMA_NO_NULO(otra_pos_y)) return;
+    Punto2D p = {x, y};
+    if (!mueve_de_posicion(p, posicion, ancho, alto, coseno, seno, otra_posicion)) return;
+    *otra_pos_x = p.x;
+    *otra_pos_y = p.y;
+}
+
+void p_punto_en_otra_posicion(Punto2D *p, uint32_t posicion, double ancho, double alto, double coseno, double seno,
+                              uint32_t otra_posicion) {
+    if (AFIRMA_TEXTO(p != nullptr, "p != NULL")) mueve_de_posicion(*p, posicion, ancho, alto, coseno, seno, otra_posicion);
+}
+
+// ---------------------------------------------------------------- points against points, segments and lines
+
+vnbool p_igual(const Punto2D *p, const Punto2D *q) { return logico(AFIRMA(p && q) && iguales(*p, *q)); }
+
+void nousar_punto_assert_distintos(const Punto2D *p, const Punto2D *q, const char *modulo, uint32_t linea) {
+    if (AFIRMA(p && q) && iguales(*p, *q)) informa_de_dos(VNU("puntos_distintos"), *p, *q, modulo, linea);
+}
+
+void nousar_punto_assert_iguales(const Punto2D *p, const Punto2D *q, const char *modulo, uint32_t linea) {
+    if (AFIRMA(p && q) && !iguales(*p, *q)) informa_de_dos(VNU("puntos_iguales"), *p, *q, modulo, linea);
+}
+
+double nousar_posicion_relativa_al_segmento(const Punto2D *p, const Punto2D *s1, const Punto2D *s2, vnbool admite_degenerado,
+                                            const char *modulo, uint32_t linea) {
+    if (!AFIRMA(p && s1 && s2) || !AFIRMA_LOGICO(admite_degenerado)) return 0.;
+    return posicion(*p, *s1, *s2, admite_degenerado == CIERTO, modulo, linea);
+}
+
+vnbool p_contenido(const Punto2D *p, const Punto2D *s1, const Punto2D *s2) {
+    return logico(AFIRMA(p && s1 && s2) && contenido(*p, *s1, *s2));
+}
+
+vnbool p_contenido_recta(const Punto2D *p, const Punto2D *s1, const Punto2D *s2) {
+    return logico(AFIRMA(p && s1 && s2) && contenido_recta(*p, *s1, *s2));
+}
+
+vnbool p_contenido_semirecta(const Punto2D *p, const Punto2D *s1, const Punto2D *s2) {
+    if (!AFIRMA(p && s1 && s2)) return FALSO;
+    if (iguales(*p, *s1) || iguales(*p, *s2)) return CIERTO;
+    if (iguales(*s1, *s2) || !contenido_recta(*p, *s1, *s2)) return FALSO;
+    return logico(POSICION(*p, *s1, *s2) >= MARGEN_SEMIRECTA);
+}
+
+vnbool p_normal_corta(const Punto2D *p, const Punto2D *s1, const Punto2D *s2) {
+    return logico(AFIRMA(p && s1 && s2) && normal_corta(*p, *s1, *s2));
+}
+
+Punto2D *p_corte_normal(const Punto2D *p, const Punto2D *s1, const Punto2D *s2) {
+    if (!AFIRMA(p && s1 && s2) || iguales(*s1, *s2)) return nullptr;
+    const double t = POSICION(*p, *s1, *s2);
+    return -p_EPS < t && t < 1. + p_EPS ? nuevo(relativo(*s1, *s2, t)) : nullptr;
+}
+
+Punto2D *p_corte_normal_recta(const Punto2D *p, const Punto2D *s1, const Punto2D *s2) {
+    if (!AFIRMA(p && s1 && s2) || iguales(*s1, *s2)) return nullptr;
+    const Punto2D pie = relativo(*s1, *s2, POSICION(*p, *s1, *s2));
+    return es_finito(pie) ? nuevo(pie) : nullptr;
+}
+
+vnbool p_esta_antes_en_recta(const Punto2D *a, const Punto2D *b, const Punto2D *s1, const Punto2D *s2) {
+    return logico(AFIRMA(a && b && s1 && s2) && POSICION(*a, *s1, *s2) <= POSICION(*b, *s1, *s2));
+}
+
+vnbool p_lado_recta(const Punto2D *p, const Punto2D *o, const Punto2D *e) {
+    if (!AFIRMA(p && o && e)) return FALSO;
+    if (iguales(*o, *e)) informa_de_dos(VNU("puntos_distintos"), *o, *e, VN_AQUI);
+    // A very short base would make every value small.
+    Punto2D d = resta(*e, *o);
+    while (std::fabs(d.x) < 1. && std::fabs(d.y) < 1. && (d.x != 0. || d.y != 0.)) d = {d.x * 10., d.y * 10.};
+    const Punto2D f = {o->x + d.x, o->y + d.y};
+    const double valor = (f.y - o->y) * p->x + (o->x - f.x) * p->y + (f.x * o->y - o->x * f.y);
+    return logico(valor > -p_EPS);
+}
+
+uint32_t p_lado_punto_respecto_a_recta(const Punto2D *p, const Punto2D *o, double coseno, double seno) {
+    if (!AFIRMA(p && o)) return 0;
+    const double v = (p->y - o->y) * coseno - (p->x - o->x) * seno;
+    if (ES_MAYOR_CERO(v) == CIERTO) return 1;
+    return ES_MENOR_CERO(v) == CIERTO ? 2 : 0;
+}
+
+// ---------------------------------------------------------------- boxes and segments
+
+vnbool p_minimax(const Punto2D *o1, const Punto2D *e1, const Punto2D *o2, const Punto2D *e2) {
+    return logico(AFIRMA(o1 && e1 && o2 && e2) && cajas_se_solapan(*o1, *e1, *o2, *e2));
+}
+
+vnbool p_se_solapan_rectangulos(double x1, double y1, double x2, double y2, double x3, double y3, double x4, double y4) {
+    return logico(cajas_se_solapan({std::min(x1, x2), std::min(y1, y2)}, {std::max(x1, x2), std::max(y1, y2)},
+                                   {std::min(x3, x4), std::min(y3, y4)}, {std::max(x3, x4), std::max(y3, y4)}));
+}
+
+vnbool p_segmentos_se_solapan(const Punto2D *a, const Punto2D *b, const Punto2D *c, const Punto2D *d) {
+    if (!AFIRMA(a && b && c && d)) return FALSO;
+    if (!contenido_recta(*a, *c, *d) || !contenido_recta(*b, *c, *d)) return FALSO;
+    return logico(normal_corta(*c, *a, *b) || normal_corta(*d, *a, *b) || normal_corta(*a, *c, *d) || normal_corta(*b, *c, *d));
+}
+
+vnbool p_son_segmentos_paralelos(const Punto2D *p1, const Punto2D *q1, const Punto2D *p2, const Punto2D *q2) {
+    if (!AFIRMA(p1 != NULL && q1 != NULL && p2 != NULL && q2 != NULL)) return FALSO;
+    return logico(std::fabs(parametro_cruzado({*p1, *q1, false}, {*p2, *q2, false})) <= LIMITE_PARALELISMO);
+}
+
+vnbool p_seg_corta_dentro_rect(const Punto2D *a, const Punto2D *b, const Punto2D *c, const Punto2D *d, vnbool solo_enteros) {
+    if (!AFIRMA(a && b && c && d) || !AFIRMA_LOGICO(solo_enteros)) return FALSO;
+    if (no_es_numero(*a) || no_es_numero(*b) || no_es_numero(*c) || no_es_numero(*d)) return FALSO;
+    const double x1 = std::min(c->x, d->x), x2 = std::max(c->x, d->x);
+    const double y1 = std::min(c->y, d->y), y2 = std::max(c->y, d->y);
+    const auto en_la_caja = [=](const Punto2D &p) { return x1 <= p.x && p.x <= x2 && y1 <= p.y && p.y <= y2; };
+    if (en_la_caja(*a) && en_la_caja(*b)) return CIERTO;
+    if (solo_enteros == CIERTO) return FALSO;
+
+    // From left to right.
+    auto [sx1, sy1] = a->x < b->x ? *a : *b;
+    auto [sx2, sy2] = a->x < b->x ? *b : *a;
+    const auto fuera_en_y = [&] { return (sy1 > y2 && sy2 > y2) || (sy1 < y1 && sy2 < y1); };
+    if (sx2 < x1 || sx1 > x2 || fuera_en_y()) return FALSO;
+    if (sx1 <= x1) {
+        if (std::fabs(sx2 - sx1) >= LIMITE_VERTICAL) {
+            sy1 += (sy2 - sy1) * (x1 - sx1) / (sx2 - sx1);
+        } else {
+            AFIRMA_TEXTO(std::fabs(sx1 - x1) < LIMITE_VERTICAL, "vnstdc_fabs(sx1 - x1) < 1e-6");
+            sy1 = y1;
+        }
+        sx1 = x1;
+        if (fuera_en_y()) return FALSO;
+    }
+    if (x2 <= sx2) {
+        if (std::fabs(sx2 - sx1) >= LIMITE_VERTICAL) {
+            sy2 = sy1 + (sy2 - sy1) * (x2 - sx1) / (sx2 - sx1);
+        } else {
+            AFIRMA_TEXTO(std::fabs(sx2 - x2) < LIMITE_VERTICAL, "vnstdc_fabs(sx2 - x2) < 1e-6");
+            sy2 = y2;
+        }
+        if (fuera_en_y()) return FALSO;
+    }
+    return CIERTO;
+}
+
+Punto2D *p_cortan(const Punto2D *p1, const Punto2D *q1, const Punto2D *p2, const Punto2D *q2) {
+    if (!AFIRMA(p1 != NULL && q1 != NULL && p2 != NULL && q2 != NULL)) return nullptr;
+    return corte({*p1, *q1, false}, {*p2, *q2, false});
+}
+
+Punto2D *p_cortan_spec(const Punto2D *p1, const Punto2D *q1, vnbool recta1, const Punto2D *p2, const Punto2D *q2,
+                       vnbool recta2) {
+    if (!AFIRMA(p1 != NULL && q1 != NULL && p2 != NULL && q2 != NULL)) return nullptr;
+    if (!AFIRMA_LOGICO(recta1) || !AFIRMA_LOGICO(recta2)) return nullptr;
+    return corte({*p1, *q1, recta1 == CIERTO}, {*p2, *q2, recta2 == CIERTO});
+}
+
+Punto2D *p_cortan_seguro(const Punto2D *p1, const Punto2D *q1, const Punto2D *p2, const Punto2D *q2) {
+    return p_cortan_spec_seguro(p1, q1, FALSO, p2, q2, FALSO);
+}
+
+Punto2D *p_cortan_spec_seguro(const Punto2D *p1, const Punto2D *q1, vnbool recta1, const Punto2D *p2, const Punto2D *q2,
+                              vnbool recta2) {
+    if (!AFIRMA(p1 != NULL && q1 != NULL && p2 != NULL && q2 != NULL)) return nullptr;
+    if (!AFIRMA_LOGICO(recta1) || !AFIRMA_LOGICO(recta2)) return nullptr;
+    const pieza a = {*p1, *q1, recta1 == CIERTO}, b = {*p2, *q2, recta2 == CIERTO};
+    const bool a_es_punto = iguales(*p1, *q1), b_es_punto = iguales(*p2, *q2);
+    if (a_es_punto && b_es_punto) return nullptr;
+    Punto2D *hallado = nullptr;
+    if (a_es_punto) hallado = corte_de_punto(a, b);
+    else if (b_es_punto) hallado = corte_de_punto(b, a);
+    return hallado != nullptr ? hallado : corte(a, b);
+}
+
+// ---------------------------------------------------------------- angles
+
+double p_filtra_angulo(double a) { return mt_filtra_angulo_mayor_que_cero(a); }
+
+double p_angulo(const Punto2D *p, const Punto2D *q) {
+    if (!AFIRMA(p && q) || (p->x == q->x && p->y == q->y)) return 0.;
+    const double a = vnstdc_atan2(q->y - p->y, q->x - p->x);
+    if (std::fabs(a) < ANGULO_NULO || std::isnan(a)) return 0.;
+    return a < 0. ? a + VUELTA : a;
+}
+
+double p_angulo_recta(const Punto2D *p, const Punto2D *q) {
+    const double a = p_angulo(p, q);
+    return a >= MEDIA_VUELTA ? a - MEDIA_VUELTA : a;
+}
+
+vnbool p_entre_angulos(double a1, double a, double a2) {
+    if (!std::isfinite(a1) || !std::isfinite(a) || !std::isfinite(a2)) return FALSO;
+    const double desde = p_filtra_angulo(a1);
+    double cual = p_filtra_angulo(a), hasta = p_filtra_angulo(a2);
+    if (hasta < desde) hasta += VUELTA;
+    if (cual < desde) cual += VUELTA;
+    return logico(cual > desde && cual <= hasta);
+}

@@ -1,0 +1,125 @@
+// The part of a segment inside a rectangle: the exact algorithm and the tolerant one before it.
+#define VN_MODULO "rectng (NUCLEOS.DLL)"
+#include "foundation/afirma.h"
+#include "foundation/mt.h"
+#include "foundation/vnmath.h"
+#include "geometry/rectng.h"
+#include <cmath>
+
+namespace {
+
+// The part of the segment between two parameters that lies on the inner side of one border: p is how fast the segment
+// goes out through it, q how far inside it begins. What is no number rejects.
+bool recorta(double p, double q, double &u1, double &u2) {
+    if (p < 0.) {
+        const double r = q / p;
+        if (!(r <= u2)) return false;
+        if (r > u1) u1 = r;
+        return true;
+    }
+    if (p > 0.) {
+        const double r = q / p;
+        if (!(r >= u1)) return false;
+        if (r < u2) u2 = r;
+        return true;
+    }
+    return p == 0. && q >= 0.;
+}
+
+void pon(double *salida, double v) {
+    if (salida != nullptr) *salida = v;
+}
+
+vnbool liang_barsky(const rectangulo_t &r, double x1, double y1, double x2, double y2, double *ox1, double *oy1, double *ox2,
+                    double *oy2) {
+    const double dx = x2 - x1, dy = y2 - y1;
+    double u1 = 0., u2 = 1.;
+    if (!recorta(-dx, x1 - r.xmin, u1, u2) || !recorta(dx, r.xmax - x1, u1, u2)) return FALSO;
+    if (!recorta(-dy, y1 - r.ymin, u1, u2) || !recorta(dy, r.ymax - y1, u1, u2)) return FALSO;
+    if (!std::isfinite(dx) || !std::isfinite(dy)) return FALSO;
+    if (u1 > 0. || u2 < 1.) {
+        x2 = x1 + dx * u2;
+        y2 = y1 + dy * u2;
+        x1 = x1 + dx * u1;
+        y1 = y1 + dy * u1;
+    }
+    pon(ox1, x1);
+    pon(oy1, y1);
+    pon(ox2, x2);
+    pon(oy2, y2);
+    return CIERTO;
+}
+
+// ---------------------------------------------------------------- the tolerant clip
+
+// Which sides of the rectangle a point is beyond.
+constexpr unsigned A_LA_DERECHA = 1, A_LA_IZQUIERDA = 2, ENCIMA = 4, DEBAJO = 8;
+
+unsigned region(const rectangulo_t &r, double x, double y) {
+    return (ES_MENOR(r.xmax, x) == CIERTO ? A_LA_DERECHA : 0) | (ES_MAYOR(r.xmin, x) == CIERTO ? A_LA_IZQUIERDA : 0) |
+           (ES_MENOR(r.ymax, y) == CIERTO ? ENCIMA : 0) | (ES_MAYOR(r.ymin, y) == CIERTO ? DEBAJO : 0);
+}
+
+struct salida {
+    double *x, *y;
+};
+struct recorrido {
+    Punto2D a, b;
+};
+
+bool cruza(double a, double b, double lado) { return ES_MENOR(a, lado) == CIERTO && ES_MAYOR(b, lado) == CIERTO; }
+bool corre_por(double a, double b, double lado) { return SON_IGUALES(a, lado) == CIERTO && SON_IGUALES(b, lado) == CIERTO; }
+
+// Whether the segment crosses the side at x inwards from the left, which gives the crossing, or runs along its line.
+bool prueba_lado_vertical(const rectangulo_t &r, double x, const recorrido &s, const salida &o) {
+    if (cruza(s.a.x, s.b.x, x))
+        return mt_existe_interseccion_entre_segmentos(s.a.x, s.a.y, s.b.x, s.b.y, x, r.ymin, x, r.ymax, o.x, o.y) == CIERTO;
+    return (ES_MAYOR(s.a.y, r.ymin) == CIERTO || ES_MENOR(s.b.y, r.ymax) == CIERTO) && corre_por(s.a.x, s.b.x, x);
+}
+
+bool prueba_lado_horizontal(const rectangulo_t &r, double y, const recorrido &s, const salida &o) {
+    if (cruza(s.a.y, s.b.y, y))
+        return mt_existe_interseccion_entre_segmentos(s.a.x, s.a.y, s.b.x, s.b.y, r.xmin, y, r.xmax, y, o.x, o.y) == CIERTO;
+    return (ES_MAYOR(s.a.x, r.xmin) == CIERTO || ES_MENOR(s.b.x, r.xmax) == CIERTO) && corre_por(s.a.y, s.b.y, y);
+}
+
+} // namespace
+
+vnbool rec_clip_linea_liang_barsky(double xmin, double ymin, double xmax, double ymax, double x1, double y1, double x2,
+                                   double y2, double *ox1, double *oy1, double *ox2, double *oy2) {
+    return liang_barsky({xmin, ymin, xmax, ymax, CIERTO}, x1, y1, x2, y2, ox1, oy1, ox2, oy2);
+}
+
+vnbool rec_ClipSegmento(const rectangulo_t *rec, double x1, double y1, double x2, double y2, double *ox1, double *oy1,
+                        double *ox2, double *oy2) {
+    return AFIRMA_NO_NULO(rec) ? liang_barsky(*rec, x1, y1, x2, y2, ox1, oy1, ox2, oy2) : FALSO;
+}
+
+vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, double x2, double y2, double *ox1, double *oy1,
+                               double *ox2, double *oy2) {
+    if (!AFIRMA_NO_NULO(rec)) return FALSO;
+    pon(ox1, x1);
+    pon(oy1, y1);
+    pon(ox2, x2);
+    pon(oy2, y2);
+    if (rec->calculados == FALSO) return FALSO;
+    const rectangulo_t &r = *rec;
+    const unsigned de_1 = region(r, x1, y1), de_2 = region(r, x2, y2);
+    if (de_1 == 0 && de_2 == 0) return CIERTO;
+    bool dentro = de_1 == 0 || de_2 == 0;
+    const salida o1 = {ox1, oy1}, o2 = {ox2, oy2};
+    if (dentro && ox1 == nullptr && oy1 == nullptr && ox2 == nullptr && oy2 == nullptr) return CIERTO;
+
+    // Each side in the segment's own direction and in the reverse one, whatever the others said: the order decides what
+    // a segment through a corner gets.
+    const recorrido ida = {{x1, y1}, {x2, y2}}, vuelta = {{x2, y2}, {x1, y1}};
+    dentro |= prueba_lado_vertical(r, r.xmin, ida, o1);
+    dentro |= prueba_lado_vertical(r, r.xmin, vuelta, o2);
+    dentro |= prueba_lado_vertical(r, r.xmax, ida, o2);
+    dentro |= prueba_lado_vertical(r, r.xmax, vuelta, o1);
+    dentro |= prueba_lado_horizontal(r, r.ymin, ida, o1);
+    dentro |= prueba_lado_horizontal(r, r.ymin, vuelta, o2);
+    dentro |= prueba_lado_horizontal(r, r.ymax, ida, o2);
+    dentro |= prueba_lado_horizontal(r, r.ymax, vuelta, o1);
+    return dentro ? CIERTO : FALSO;
+}
