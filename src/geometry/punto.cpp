@@ -1,4 +1,3 @@
-// Points and segments of the plane.
 #define VN_MODULO "punto (NUCLEOS.DLL)"
 #include "geometry/punto.h"
 #include "foundation/afirma.h"

@@ -1,4 +1,3 @@
-// Rectangles with sides along the axes.
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
 #include "geometry/rectng.h"
 #include "foundation/afirma.h"

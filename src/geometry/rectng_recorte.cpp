@@ -1,9 +1,9 @@
-// The part of a segment inside a rectangle: the exact algorithm and the tolerant one before it.
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
+// The part of a segment inside a rectangle: the exact algorithm and the tolerant one before it.
+#include "geometry/rectng.h"
 #include "foundation/afirma.h"
 #include "foundation/mt.h"
 #include "foundation/vnmath.h"
-#include "geometry/rectng.h"
 #include <cmath>
 
 namespace {

@@ -1,7 +1,7 @@
-// Arrays of rectangles: moving them, what holds them all, and strips lengthened and condensed.
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
+// Arrays of rectangles: moving them, what holds them all, and strips lengthened and condensed.
 #include "geometry/rectng.h"
+#include "foundation/afirma.h"
 #include <cmath>
 #include <memory>
 #include <span>
@@ -51,15 +51,9 @@ void limita(double &incremento, double holgura) {
     if (holgura >= 0. && holgura < incremento) incremento = holgura;
 }
 
-void alarga(rectangulo_t &principal, const direccion &d, double incremento_inicial, double incremento_final) {
-    if (double incremento_longitud = incremento_final; incremento_longitud > 0.) {
-        AFIRMA(incremento_longitud > 0.);
-        principal.*d.largo.max += incremento_longitud;
-    }
-    if (double incremento_longitud = incremento_inicial; incremento_longitud > 0.) {
-        AFIRMA(incremento_longitud > 0.);
-        principal.*d.largo.min -= incremento_longitud;
-    }
+void alarga(double &limite, double sentido, double incremento_longitud) {
+    AFIRMA(incremento_longitud > 0.);
+    limite += sentido * incremento_longitud;
 }
 
 void alarga_hasta_los_otros(std::span<rectangulo_t *const> tiras, size_t cual, double incremento_a_cada_lado) {
@@ -86,7 +80,8 @@ void alarga_hasta_los_otros(std::span<rectangulo_t *const> tiras, size_t cual, d
     }
     AFIRMA(incremento_final <= incremento_a_cada_lado);
     AFIRMA(incremento_inicial <= incremento_a_cada_lado);
-    alarga(*principal, d, incremento_inicial, incremento_final);
+    if (incremento_final > 0.) alarga(principal->*d.largo.max, 1., incremento_final);
+    if (incremento_inicial > 0.) alarga(principal->*d.largo.min, -1., incremento_inicial);
 }
 
 // ---------------------------------------------------------------- condensing

@@ -18,6 +18,7 @@
 #include "foundation/vnlongpath.h"
 #include "foundation/vnmutex.h"
 #include "foundation/vornspy.h"
+#include "geometry/rectng.h"
 #include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
 #include <cstring>
@@ -207,6 +208,15 @@ inline arrPuntero *punteros_a_arrays() {
 inline void destruye_punteros_a_arrays(arrPuntero *a) {
     arr_DestruyeEstructurasArrayConTipo(&a, reinterpret_cast<vnfunc_destruye>(&arr_DestruyePunteroConTipo));
 }
+inline arrPuntero *tiras() {
+    arrPuntero *a = arr_CreaPunteroST(0, rectangulo_t);
+    for (const double y : {0., 1., 9.}) {
+        rectangulo_t *r = rec_CreaDefinido(y, y, y + 4, y + 1);
+        arr_AppendPunteroST(a, r, rectangulo_t);
+    }
+    return a;
+}
+inline void destruye_tiras(arrPuntero *a) { arr_DestruyeEstructurasST(&a, rectangulo_t, rec_Destruye); }
 inline arrPuntero *ultimos_ficheros() {
     arrPuntero *a = ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados();
     ultfichsel_registra_nombre_fichero(a, "a", VNU("C:\\x"), VNU("C:\\x\\y"));

@@ -67,9 +67,11 @@ class Generador:
         for patron, operaciones, crea, destruye in tablas.OTROS:
             m = re.fullmatch(patron, tipo)
             if m and re.match(operaciones, f.nombre):
-                nombre = "otro_" + re.sub(r"\W+", "_", tipo) + ("_" if operaciones else "")
-                self.fabricas[(tipo, "otro" + operaciones)] = (nombre, m.expand(crea), m.expand(destruye))
-                return f"tambien({expresion}, {nombre})"
+                clave = (tipo, "otro" + operaciones)
+                if clave not in self.fabricas:
+                    nombre = f"otro_{len(self.fabricas)}_" + re.sub(r"\W+", "_", tipo)
+                    self.fabricas[clave] = (nombre, m.expand(crea), m.expand(destruye))
+                return f"tambien({expresion}, {self.fabricas[clave][0]})"
         return expresion
 
     def opciones(self, p):

@@ -14,6 +14,7 @@ MANEJOS = [
     ("arrPunto2DXPriv", r"", "arr_CreaPunto2DXPriv(3)", "arr_DestruyePunto2DXPriv(&p, nullptr)", 3),
     ("arrPuntero", r"ultfichsel_", "ultimos_ficheros()", "ultfichsel_destruye(&p)", 1),
     ("arrPuntero", r"vornsave_.*arr_punteros_array", "punteros_a_arrays()", "destruye_punteros_a_arrays(p)", 2),
+    ("arrPuntero", r"rec_", "tiras()", "destruye_tiras(p)", 3),
     ("arrPuntero", r"", "punteros()", "arr_DestruyePunteroConTipo(&p)", 3),
     (r"arr(\w+)", r"", r"arr_Crea\1(3)", r"arr_Destruye\1(&p)", 3),
     (r"(arulong(?:64)?)", r"", r"\1_de_tres()", r"\1_destruye(&p)", 3),
@@ -25,6 +26,7 @@ MANEJOS = [
     ("vncallback", r"", "callback_nousar_crea(con_parametros, nullptr)", "callback_nousar_destruye(&p)", 0),
     ("vnparametros", r"", "vornspy_parametro(2, 8, static_cast<void *>(nullptr), 4, 2)", "vornspy_destruye_parametros(&p)", 2),
     ("vornsave", r"", "protocolo()", "destruye_protocolo(p)", 0),
+    ("rectangulo_t", r"", "rec_CreaDefinido(0, 0, 4, 1)", "rec_Destruye(&p)", 0),
     # Owned texts and blocks.
     ("char", r"", "nuevo_texto()", "vornspy_free_pp(&p, 1)", 0),
     ("vnwchar", r"", "nuevo_texto_u()", "vornspy_free_pp(&p, sizeof(vnwchar))", 0),
@@ -40,6 +42,8 @@ OTROS = [
     ("vornsave", r"", "protocolo_de_texto()", "destruye_protocolo(p)"),
     ("fichmem", r"", "fichmem_crea32(nullptr, 0)", "fichmem_destruye(&p)"),
     ("arrPunto2DXPriv", r"", "arr_CreaPunto2DXPriv(0)", "arr_DestruyePunto2DXPriv(&p, nullptr)"),
+    ("arrPuntero", r"rec_", "arr_CreaPunteroConTipo(2)", "destruye_tiras(p)"),  # of null rectangles
+    ("rectangulo_t", r"", "rec_Crea()", "rec_Destruye(&p)"),
     ("arrPuntero", r"(?!ultfichsel_)", "arr_CreaPunteroConTipo(0)", "arr_DestruyePunteroConTipo(&p)"),
     ("arrPuntero", r"", "ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados()", "ultfichsel_destruye(&p)"),
     (r"arr(CADENA(?:_u)?)", r"", r"arr_Crea\1(2)", r"arr_Destruye\1(&p)"),  # of null texts
@@ -157,6 +161,7 @@ EXCLUIDAS = [
 
 # What an operation may have set for the whole process, and how it is brought back: operation, expression.
 RESTAURA = [
+    ("p_cambia_eps", "p_cambia_eps(0.00005)"),
     ("operaciones_fichero_instala", "operaciones_fichero_instala(nullptr)"),
     ("msidioma_establece_idioma", "msidioma_establece_idioma(0)"),
     ("fichconf_establece_directorio_base", "fichconf_establece_directorio_base(nullptr)"),
