@@ -393,6 +393,32 @@ vnbool arr_SonIgualesPunto3DConTolerancia(const arrPunto3D *a, const arrPunto3D 
 /** Whether a point is (x, y), each coordinate within `tolerancia`; the index of the first goes to `pos`. */
 vnbool arr_ExistePunto2D(const arrPunto2D *a, double x, double y, double tolerancia, VN_SALIDA_OPC uint32_t *pos);
 
+/** Appends the points of a figure of the plane, its outline as a polygon. Angles in radians; `num_puntos` is
+   how many a full turn has. A figure that is not finite appends nothing. A circle: from its point at angle 0,
+   counter-clockwise; the first is not repeated at the end. */
+void arr_AnyadirCirculoPunto2D(arrPunto2D *a, double xc, double yc, double radio,
+                               VN_RANGO(3, 1000000) uint32_t num_puntos);
+/** An arc from one angle to the other, both ends included: counter-clockwise, or clockwise when the last
+   angle is below the first. More than a full turn is a full turn. As many steps as cover the arc, none longer
+   than those of the full turn, all equal. */
+void arr_AnyadirArcoPunto2D(arrPunto2D *a, double xc, double yc, double radio, double angulo_inicial,
+                            double angulo_final, VN_RANGO(3, 1000000) uint32_t num_puntos);
+/** The same of an ellipse whose semi-axis `semieje_x` stands at the angle `giro` and `semieje_y` a quarter
+   turn further. The angles are the parameter of the ellipse, from that axis: (semieje_x cos, semieje_y sin)
+   before the turn. */
+void arr_AnyadirArcoElipsePunto2D(arrPunto2D *a, double xc, double yc, double semieje_x, double semieje_y,
+                                  double angulo_inicial, double angulo_final, double giro,
+                                  VN_RANGO(3, 1000000) uint32_t num_puntos);
+/** The least rectangle that has all the points. One without points is reported and gives zeros; coordinates
+   that are not-a-number do not count. */
+void arr_GetMinimaxPunto2D(const arrPunto2D *a, VN_SALIDA double *xmin, VN_SALIDA double *ymin,
+                           VN_SALIDA double *xmax, VN_SALIDA double *ymax);
+/** The side of the closed outline that starts at point `i`; that of the last point goes back to the first. */
+void arr_GetSegmentoPunto2D(const arrPunto2D *a, VN_INDICE(a) uint32_t i, VN_SALIDA double *x1,
+                            VN_SALIDA double *y1, VN_SALIDA double *x2, VN_SALIDA double *y2);
+/** Whether both have the same points in the same order, each coordinate within `tolerancia`. */
+vnbool arr_ArraysDePunto2DIguales(const arrPunto2D *a, const arrPunto2D *b, double tolerancia);
+
 /** The points as one block, borrowed until the array grows or dies; null when there are none. */
 Punto2D *arr_GetBufferPunto2D(arrPunto2D *a);
 const Punto2D *arr_GetBufferConstPunto2D(const arrPunto2D *a);

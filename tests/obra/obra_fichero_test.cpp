@@ -5,6 +5,7 @@
 #include "memoria.h"
 #include "persistence/vornbin.h"
 #include "plano_fichero.h"
+#include "propiedades.h"
 #include "prueba.h"
 #include <cmath>
 #include <cstring>
@@ -73,12 +74,6 @@ bool graba(const Fichero &f, const campos_t &campos = {}) {
     return graba_obra(f.ancho, plano_de_prueba(), vn::ancho("Un t\u00edtulo"), campos);
 }
 
-uint64_t fnv(std::string_view s) {
-    uint64_t h = 14695981039346656037ull;
-    for (const char c : s) h = (h ^ static_cast<unsigned char>(c)) * 1099511628211ull;
-    return h;
-}
-
 // Bytes that the tracked heap is asked for, freed or not: more than its peak.
 std::atomic<uint64_t> pedidos{0};
 vnbool cuenta_pedidos(size_t n, void *) {
@@ -132,7 +127,7 @@ PRUEBA(obra_fichero, los_bytes_son_los_mismos_en_toda_plataforma) {
     ASSERT_TRUE(graba(f, {{vn::ancho("autor"), vn::ancho("Ñandú")}}));
     const std::string bytes = vn::lee_fichero(f.utf8);
     EXPECT_EQ(bytes.size(), 2346u);
-    EXPECT_EQ(fnv(bytes), 2748994739658136108u);
+    EXPECT_EQ((vn::huella() << bytes)(), 2748994739658136108u);
 }
 
 PRUEBA(obra_fichero, cortado_en_cada_byte_se_rechaza_y_cambiado_no_rompe) {

@@ -27,6 +27,7 @@ MANEJOS = [
     ("vnparametros", r"", "vornspy_parametro(2, 8, static_cast<void *>(nullptr), 4, 2)", "vornspy_destruye_parametros(&p)", 2),
     ("vornsave", r"", "protocolo()", "destruye_protocolo(p)", 0),
     ("rectangulo_t", r"", "rec_CreaDefinido(0, 0, 4, 1)", "rec_Destruye(&p)", 0),
+    ("vmatr", r"", "vmatr_crea_matriz_identidad(3)", "vmatr_destruir_matriz(&p)", 0),
     # Owned texts and blocks.
     ("char", r"", "nuevo_texto()", "vornspy_free_pp(&p, 1)", 0),
     ("vnwchar", r"", "nuevo_texto_u()", "vornspy_free_pp(&p, sizeof(vnwchar))", 0),
@@ -52,6 +53,7 @@ OTROS = [
     (r"(acadordeu?)", r"", r"\1_crea(FALSO)", r"\1_destruye(&p)"),
     ("apunorde", r"", "apunorde_nousar_crea(compara_direcciones, nullptr, nullptr)", "apunorde_nousar_destruye(&p)"),
     ("vnparametros", r"", "vornspy_parametro(1, 4, 1)", "vornspy_destruye_parametros(&p)"),
+    ("vmatr", r"", "vmatr_crea_matriz_nula(2, 5)", "vmatr_destruir_matriz(&p)"),
 ]
 
 # What an object stood on, which goes after it, whoever destroyed it.
@@ -122,7 +124,7 @@ LLAMADAS = {
 
 # Results that are T * and stay another's.
 PRESTADOS = [
-    r"arr_GetBuffer\w+", r"arr_GetPunteroConTipo", r"apunorde_nousar_(get|quita|busca|dame)", r"vornspy_parametro_puntero",
+    r"arr_GetBuffer\w+", r"vmatr_get_buffer_matriz", r"arr_GetPunteroConTipo", r"apunorde_nousar_(get|quita|busca|dame)", r"vornspy_parametro_puntero",
     r"vornspy_nousar_copia_puntero_opcional", r"lc_fgetws", r"vtxt_lee_linea",
 ]
 
