@@ -1,6 +1,8 @@
 #define VN_MODULO "entorno (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/entorno.h"
+#include "foundation/platform/maquina.h"
 #include "foundation/platform/variables.h"
+#include "foundation/vdir_priv.h"
 #include <cstdlib>
 
 namespace {
@@ -22,5 +24,11 @@ vnbool env_esta_definido_VNCACHINFO_LOG(void) { return logico(vn::plat::variable
 vnbool machine_es_imagen_de_64bits(void) { return logico(sizeof(void *) == 8); }
 // The library is built for 64 bits alone, and such an image runs on no other system.
 vnbool verswin_EsVersion_64_bits(void) { return machine_es_imagen_de_64bits(); }
+vnwchar *machine_nombre_u(void) { return vn::nuevo(vn::plat::nombre_de_la_maquina()); }
+vnwchar *machine_nombre_usuario_u(void) {
+    vn::texto nombre;
+    return vn::plat::nombre_del_usuario(nombre) ? vn::nuevo(nombre) : nullptr;
+}
+uint64_t machine_milisegundos(void) { return vn::plat::milisegundos_de_la_maquina(); }
 int vornwin_MulDiv(int a, int b, int c) { return por_entre(a, b, c); }
 int32_t vornwin_MulDiv_long(int32_t a, int32_t b, int32_t c) { return por_entre(a, b, c); }

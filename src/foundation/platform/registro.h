@@ -1,0 +1,19 @@
+// The registry. A key is the names from its root down, with a backslash between two, none at the ends.
+#pragma once
+
+#include "foundation/platform/directorio.h"
+#include <utility>
+
+namespace vn::plat {
+
+// The numbers of the roots and of the views are those of vornreg.h. False where there is no such text, or no such key.
+bool lee_registro(uint32_t raiz, const texto &clave, const texto &valor, texto &contenido);
+bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto> &nombres);
+bool hay_clave_de_registro(uint32_t raiz, const texto &clave);
+// By name and text.
+bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t vista, std::vector<std::pair<texto, texto>> &textos);
+// Null takes the value away. False when it cannot be done.
+bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, const vnwchar *contenido);
+bool puede_escribir_registro();
+
+} // namespace vn::plat
