@@ -13,6 +13,7 @@
 #include "foundation/msglocal.h"
 #include <cstddef>
 #include <initializer_list>
+#include <utility>
 
 namespace vn {
 
@@ -106,6 +107,58 @@ consteval grupo_de_textos<vnwchar> mensaje_u(const char *nombre, uint32_t orden,
 }
 consteval grupo_de_textos<char> mensaje_a(const char *nombre, uint32_t orden, std::initializer_list<texto_en<char>> t) {
     return mensaje<char>(nombre, orden, t);
+}
+
+// The ANSI form of a message that is written as a wide one, a constant of static life:
+//
+//   constexpr auto TEXTO = vn::mensaje_u("vornconf.msg", 1, {...});
+//   void vornconf_msg_1(vnmensaje *mensaje) { vn::mensaje_ansi<TEXTO>().rellena(mensaje); }
+//
+// A text of ASCII stands as it is, another as the hexadecimal digits of its units.
+constexpr size_t longitud(const vnwchar *texto) {
+    size_t n = 0;
+    while (texto[n] != 0) ++n;
+    return n;
+}
+constexpr bool es_ascii(const vnwchar *texto) {
+    for (; *texto != 0; ++texto)
+        if (static_cast<uint16_t>(*texto) >= 0x80) return false;
+    return true;
+}
+template <size_t N> struct texto_ansi {
+    char t[N] = {};
+};
+template <const grupo_de_textos<vnwchar> &G, unsigned I> consteval auto codifica() {
+    constexpr const vnwchar *u = G.textos[I];
+    constexpr bool ascii = es_ascii(u);
+    constexpr size_t n = longitud(u);
+    texto_ansi<ascii ? n + 1 : 4 * n + 5> r;
+    if (!ascii)
+        for (size_t i = 0; i < 4; ++i) r.t[i] = 'F';
+    for (size_t i = 0; i < n; ++i) {
+        const uint16_t c = static_cast<uint16_t>(u[i]);
+        constexpr int DESPLAZA[] = {4, 0, 12, 8}; // the lower byte first
+        for (size_t k = 0; k < 4 && !ascii; ++k) r.t[4 + 4 * i + k] = "0123456789abcdef"[c >> DESPLAZA[k] & 15];
+        if (ascii) r.t[i] = static_cast<char>(c);
+    }
+    return r;
+}
+template <const grupo_de_textos<vnwchar> &G, unsigned I> inline constexpr auto CODIFICADO = codifica<G, I>();
+// The first column with the text of column `i`: those that repeat it take its constant.
+consteval unsigned primera_igual(const grupo_de_textos<vnwchar> &g, unsigned i) {
+    for (unsigned k = 0; k < i; ++k) {
+        const vnwchar *a = g.textos[k], *b = g.textos[i];
+        while (*a != 0 && *a == *b) ++a, ++b;
+        if (*a == *b) return k;
+    }
+    return i;
+}
+template <const grupo_de_textos<vnwchar> &G, unsigned... I>
+consteval grupo_de_textos<char> ansi_de(std::integer_sequence<unsigned, I...>) {
+    return {G.nombre, G.orden, G.ancho_id, {CODIFICADO<G, primera_igual(G, I)>.t...}};
+}
+template <const grupo_de_textos<vnwchar> &G> consteval grupo_de_textos<char> mensaje_ansi() {
+    return ansi_de<G>(std::make_integer_sequence<unsigned, MSGLOCAL_NUM_TEXTOS>());
 }
 
 } // namespace vn

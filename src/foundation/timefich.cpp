@@ -1,6 +1,7 @@
 #define VN_MODULO "timefich (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/timefich.h"
 #include "foundation/afirma.h"
+#include "foundation/platform/hora.h"
 #include "foundation/vdir_priv.h"
 #include <chrono>
 
@@ -48,7 +49,9 @@ void timefich_convertir_fecha(int64_t fecha_UTC, vnbool hora_local, timefich_fec
     if (!AFIRMA(fecha_UTC >= PRIMER_SEGUNDO && fecha_UTC <= ULTIMO_SEGUNDO) || !AFIRMA_LOGICO(hora_local))
         return;
     if (!AFIRMA_NO_NULO(fecha)) return;
-    bool verano = false;
-    *fecha = descompone_fecha(hora_local == CIERTO ? vn::plat::hora_local(fecha_UTC, verano) : fecha_UTC);
-    fecha->horario_de_verano = verano ? 1 : 0;
+    std::tm t{};
+    if (hora_local == CIERTO && vn::plat::hora_local(fecha_UTC, t))
+        *fecha = {t.tm_year + 1900, t.tm_mon + 1, t.tm_mday, t.tm_hour, t.tm_min, t.tm_sec, t.tm_wday, t.tm_yday, t.tm_isdst > 0 ? 1 : 0};
+    else
+        *fecha = descompone_fecha(fecha_UTC);
 }

@@ -69,8 +69,4 @@ std::vector<texto> directorios_de_programas();
 std::vector<texto> terminaciones_de_programas();
 bool es_ejecutable(const texto &fichero);
 
-// The moment in local time, as seconds since 1970 of the clock on the wall; and whether summer time is in
-// force.
-int64_t hora_local(int64_t utc, bool &verano);
-
 } // namespace vn::plat

@@ -4,7 +4,6 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
-#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <pwd.h>
@@ -165,13 +164,5 @@ std::vector<texto> directorios_de_programas() {
 }
 
 std::vector<texto> terminaciones_de_programas() { return {texto()}; }
-
-int64_t hora_local(int64_t utc, bool &verano) {
-    const time_t t = utc;
-    struct tm d {};
-    ::localtime_r(&t, &d);
-    verano = d.tm_isdst > 0;
-    return utc + d.tm_gmtoff;
-}
 
 } // namespace vn::plat

@@ -242,20 +242,4 @@ std::vector<texto> terminaciones_de_programas() {
     return r;
 }
 
-int64_t hora_local(int64_t utc, bool &verano) {
-    verano = false;
-    const int64_t pasos = utc * 10000000 + 116444736000000000;
-    FILETIME t{static_cast<DWORD>(pasos & 0xFFFFFFFF), static_cast<DWORD>(pasos >> 32)}, aqui{};
-    SYSTEMTIME s{}, local{};
-    TIME_ZONE_INFORMATION zona{};
-    if (pasos < 0 || !FileTimeToSystemTime(&t, &s) || !SystemTimeToTzSpecificLocalTime(nullptr, &s, &local) ||
-        !SystemTimeToFileTime(&local, &aqui))
-        return utc;
-    const int64_t diferencia = segundos(aqui) - utc;
-    if (GetTimeZoneInformation(&zona) != TIME_ZONE_ID_INVALID && zona.DaylightDate.wMonth != 0)
-        verano = diferencia == -60 * static_cast<int64_t>(zona.Bias + zona.DaylightBias) &&
-                 zona.DaylightBias != zona.StandardBias;
-    return utc + diferencia;
-}
-
 } // namespace vn::plat

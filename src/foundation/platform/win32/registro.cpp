@@ -54,8 +54,8 @@ bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto>
 
 bool hay_clave_de_registro(uint32_t raiz, const texto &clave) { return abre(raiz, clave, KEY_QUERY_VALUE) != nullptr; }
 
-bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t vista, std::vector<std::pair<texto, texto>> &textos) {
-    const clave_abierta h = abre(raiz, clave, KEY_QUERY_VALUE | VISTAS[vista]);
+bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t que_vista, std::vector<std::pair<texto, texto>> &textos) {
+    const clave_abierta h = abre(raiz, clave, KEY_QUERY_VALUE | VISTAS[que_vista]);
     if (h == nullptr) return false;
     texto nombre(MAXIMO_NOMBRE, L'\0');
     for (DWORD i = 0;; ++i) {
