@@ -106,6 +106,9 @@ PARAMETROS = [
     (r".*", r"modo", 'modo_de_abrir<{t}>({n})'),
     (r"vornstrhex_.*", r"texto", 'textos({n}, {{"6162", "", "6", "zz", "0g", "%s"}})'),
     (r".*", r"patron", 'patron_de_ficheros<{t}>({n})'),
+    # Keys that may be made in a real registry.
+    (r"vornreg_.*_u", r"clave", 'textos_u({n}, {{u"Software\\\\nucleos_barrido", u"", u"\\\\%s\\\\"}})'),
+    (r"vornreg_.*", r"clave", 'textos({n}, {{"Software\\\\nucleos_barrido", "", "\\\\%s\\\\"}})'),
     # Names of files and directories.
     (r"vornbin_marca_fichero_ejemplo_u", r"nomfich", 'textos_u({n}, {{u"obra.bin", u"entrada.bin", u"no_hay", u"carpeta", u""}})'),
     (r".*", r"obra|path_lista", "fichero_nuevo<{t}>"),
@@ -168,5 +171,6 @@ RESTAURA = [
     ("msidioma_establece_idioma", "msidioma_establece_idioma(0)"),
     ("fichconf_establece_directorio_base", "fichconf_establece_directorio_base(nullptr)"),
     ("vnmutex_establece_plazo", "vnmutex_establece_plazo(100)"),
+    ("vnregional_establece", "vnregional_establece(nullptr)"),
     ("vornbin_abre_fichero_para_escritura_u", "prepara_proyecto()"),
 ]
