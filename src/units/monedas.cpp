@@ -1,0 +1,26 @@
+#define VN_MODULO "monedas (NUCLEOS.DLL)"
+#include "units/monedas.h"
+#include "foundation/propio_priv.h"
+#include "foundation/vnmath.h"
+#include "foundation/widestr.h"
+#include "units/monedas_msg_priv.h"
+#include "units/unidades.h"
+#include "units/vornnum.h"
+
+namespace {
+
+constexpr double PESETAS_POR_EURO = 166.386;
+
+vn::propio<vnwchar> texto_de(double valor, int32_t decimales) {
+    return vn::propio<vnwchar>(num_double_a_string_u(valor, *unidades_separador_millares_u(),
+                                                     *unidades_separador_decimales_u(), FALSO, decimales));
+}
+
+} // namespace
+
+vnwchar *monedas_precio_Ptas_euros(double pesetas) {
+    const double euros = FLOOR(pesetas / PESETAS_POR_EURO * 100. + 0.5) / 100.;
+    const vn::propio<vnwchar> en_euros = texto_de(euros, 2), en_pesetas = texto_de(pesetas, 0);
+    return copiaforu_nousar_formatea(VNU("%s(%s) %s(%s)"), en_euros.get(), nousar_msglocal_original_u(monedas_msg_124346),
+                                     en_pesetas.get(), nousar_msglocal_original_u(monedas_msg_124345));
+}

@@ -1,0 +1,8 @@
+// User texts of monedas.
+#pragma once
+
+#include "foundation/msglocal.h"
+
+// "<124345>": pesetas, abbreviated. "<124346>": euros.
+void monedas_msg_124345(vnmensaje *mensaje);
+void monedas_msg_124346(vnmensaje *mensaje);

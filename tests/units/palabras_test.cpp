@@ -1,0 +1,110 @@
+#include "palabras.h"
+#include <fstream>
+#include <functional>
+#include <sstream>
+
+// Numbers in words against lists made by others, up to a million. Where a list follows another norm, what it differs in is
+// told as a rule over its words.
+
+using namespace vn;
+
+namespace {
+
+struct fila {
+    uint32_t n;
+    std::vector<std::string> columnas;
+};
+
+std::vector<fila> lista(const std::string &idioma, const std::string &columna, size_t &cual) {
+    std::ifstream f(VN_DIRECTORIO_DATOS "/D_tables/words_" + idioma + ".tsv");
+    std::vector<fila> filas;
+    for (std::string linea; std::getline(f, linea);) {
+        std::istringstream campos(linea);
+        std::vector<std::string> columnas;
+        for (std::string campo; std::getline(campos, campo, '\t');) columnas.push_back(campo);
+        if (columnas[0] == "n") cual = static_cast<size_t>(std::find(columnas.begin(), columnas.end(), columna) - columnas.begin());
+        else filas.push_back({static_cast<uint32_t>(std::stoul(columnas[0])), columnas});
+    }
+    return filas;
+}
+
+void cambia(std::string &s, std::string_view a, std::string_view b, size_t hasta = std::string::npos) {
+    for (size_t i = 0; (i = s.find(a, i)) < hasta; i += b.size()) s.replace(i, a.size(), b);
+}
+
+using regla = std::function<void(uint32_t n, std::string &)>;
+regla siempre(const char *a, const char *b) {
+    return [=](uint32_t, std::string &s) { cambia(s, a, b); };
+}
+// In the words that count the thousands.
+regla ante_mil(const char *a, const char *b) {
+    return [=](uint32_t n, std::string &s) {
+        if (n < 1000000) cambia(s, a, b, s.find(" mil") + 1);
+    };
+}
+// Joins "mil" to what follows by no "e" that the predicate does not allow.
+regla sin_e_tras_mil(bool (*con_e)(uint32_t resto)) {
+    return [=](uint32_t n, std::string &s) {
+        if (!con_e(n % 1000)) cambia(s, "mil e ", "mil ");
+    };
+}
+
+const std::vector<regla> TAL_CUAL;
+// Between sixteen and thirty without accents.
+const std::vector<regla> SIN_ACENTOS = {siempre("dieciséis", "dieciseis"), siempre("veintiún", "veintiun"),
+                                        siempre("veintidós", "veintidos"), siempre("veintitrés", "veintitres"),
+                                        siempre("veintiséis", "veintiseis")};
+// The list leaves the thousands masculine; the currency's gender is theirs too.
+const std::vector<regla> MILES_FEMENINOS_ES = {ante_mil("ientos ", "ientas "), ante_mil("un ", "una ")};
+const std::vector<regla> MILES_FEMENINOS_CA = {ante_mil("un ", "una "), ante_mil("dos ", "dues ")};
+// The "e" after "mil" only before a group with two zeros, as 001, 020 or 300.
+const std::vector<regla> E_ANTE_DOS_CEROS = {
+    sin_e_tras_mil([](uint32_t resto) { return resto < 10 || resto % 100 == 0 || (resto < 100 && resto % 10 == 0); })};
+// No "e" but that in the tens and in "cento e".
+const std::vector<regla> SIN_E = {sin_e_tras_mil([](uint32_t) { return false; }), siempre("entos e ", "entos "),
+                                  siempre("entas e ", "entas ")};
+const std::vector<regla> SIN_COMA = {siempre(",", "")};
+const std::vector<regla> SIN_REFORMA = {siempre("-et-", " et ")};
+
+std::vector<regla> con(std::vector<regla> reglas, const std::vector<regla> &mas) {
+    reglas.insert(reglas.end(), mas.begin(), mas.end());
+    return reglas;
+}
+
+} // namespace
+
+PRUEBA(palabras, las_de_las_listas) {
+    const struct {
+        const char *lista, *columna;
+        int idioma;
+        bool femenina;
+        std::vector<regla> reglas;
+        uint32_t sin_centenas; // 1: the list is wrong in hundreds
+    } filas[] = {
+        {"es", "icu_masculine", ES, false, SIN_ACENTOS, 0},
+        {"es", "icu_feminine", ES, true, con(SIN_ACENTOS, MILES_FEMENINOS_ES), 0},
+        {"pt", "icu_br_masculine", PT_BR, false, E_ANTE_DOS_CEROS, 0},
+        {"pt", "icu_br_feminine", PT_BR, true, E_ANTE_DOS_CEROS, 0},
+        {"pt", "icu_pt_masculine", PT, false, SIN_E, 0},
+        {"pt", "icu_pt_feminine", PT, true, SIN_E, 0},
+        {"ca", "num2words", CA, false, TAL_CUAL, 0},
+        {"ca", "icu_feminine", CA, true, MILES_FEMENINOS_CA, 1},
+        {"gl", "libnumbertext", GL, false, TAL_CUAL, 0},
+        {"en", "num2words", EN, false, SIN_COMA, 0},
+        {"fr", "num2words", FR, false, TAL_CUAL, 0},
+        {"fr", "icu_feminine", FR, true, SIN_REFORMA, 0},
+    };
+    for (const auto &f : filas) {
+        size_t cual = 0, comparadas = 0;
+        for (fila &x : lista(f.lista, f.columna, cual)) {
+            if (f.sin_centenas != 0 && (x.n / 100 % 10 != 0 || x.n / 100000 != 0)) continue;
+            std::string esperado = x.columnas.at(cual);
+            for (const regla &r : f.reglas) r(x.n, esperado);
+            ++comparadas;
+            const std::string cifras = std::to_string(x.n);
+            EXPECT_EQ(f.femenina ? cuenta_de(f.idioma, cifras, CIERTO) : numero(f.idioma, cifras), esperado)
+                << f.lista << "." << f.columna << " " << cifras;
+        }
+        EXPECT_GT(comparadas, f.sin_centenas != 0 ? 100u : 300u) << f.lista;
+    }
+}
