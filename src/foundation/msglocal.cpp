@@ -172,6 +172,15 @@ vnwchar *textomsgu_obtener_mensaje(vnfunc_mensaje rellena, ...) {
     return texto;
 }
 
+vnwchar *textomsgu_obtener_mensaje_idioma(int idioma, vnfunc_mensaje rellena, ...) {
+    if (!AFIRMA(idioma >= 0 && idioma < MSGLOCAL_NUM_TEXTOS) || !AFIRMA_NO_NULO(rellena)) return nullptr;
+    va_list args;
+    va_start(args, rellena);
+    vnwchar *texto = vn::formatea_nuevo(lee_u(rellena, idioma), args, VN_MODULO, __LINE__);
+    va_end(args);
+    return texto;
+}
+
 int msidioma_dame_idioma(void) {
     int indice = el_idioma.load(std::memory_order_relaxed);
     if (indice != SIN_ESTABLECER) return indice;

@@ -40,6 +40,8 @@ const char *nousar_original(vnfunc_mensaje rellena);
 /** The message in the active language, formatted with the arguments that follow (a wide `%s` takes wide text). The
     text is new and the caller's; null if `rellena` is null. */
 vnwchar *textomsgu_obtener_mensaje(vnfunc_mensaje rellena, ...);
+/** The same in a language, by the index that msidioma_dame_idioma returns. An index that is none is reported: null. */
+vnwchar *textomsgu_obtener_mensaje_idioma(VN_RANGO(0, 40) int idioma, vnfunc_mensaje rellena, ...);
 
 /** The active language's index: 0 Spanish, 1 French, 2 Portuguese of Brazil, 3 Catalan, 4 Italian, 5 Portuguese of
     Portugal, 6, 7 and 24 American Spanish, 8 English, 9 Galician, 10 Bulgarian, 11 Romanian, 12 Chinese, 13 German,

@@ -2,7 +2,7 @@
    zone enters but where an operation says local time. Years are those of the Gregorian calendar.
 
    Two features of the count of seconds stay as they are, because files hold it: it is one day ahead for dates of 1970 to
-   1972, and again from March 2100 on, since it counts every fourth year as a leap year. The way back knows neither. */
+   1972, and again from 2101 on, since it counts a leap day for every fourth year before. The way back knows neither. */
 #ifndef VN_VORNTIME_H
 #define VN_VORNTIME_H
 

@@ -21,6 +21,7 @@
 #include "geometry/rectng.h"
 #include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
+#include "time/vorntime.h"
 #include <cstring>
 #include <deque>
 
@@ -207,6 +208,11 @@ inline arrPuntero *punteros_a_arrays() {
 }
 inline void destruye_punteros_a_arrays(arrPuntero *a) {
     arr_DestruyeEstructurasArrayConTipo(&a, reinterpret_cast<vnfunc_destruye>(&arr_DestruyePunteroConTipo));
+}
+inline arrPuntero *fechas() {
+    arrPuntero *a = arr_CreaPunteroST(0, tmtime);
+    for (const int anyo : {1970, 2005}) arr_AppendPunteroST(a, vtm_crea(0, 0, 0, 1, 1, anyo), tmtime);
+    return a;
 }
 inline arrPuntero *tiras() {
     arrPuntero *a = arr_CreaPunteroST(0, rectangulo_t);

@@ -16,7 +16,8 @@ ALTOS = MEDIOS | {"persistence", "units", "geometry", "time", "text"}
 CAPAS = {
     "foundation": set(),
     "frame": BASE,
-    "persistence": MEDIOS, "geometry": MEDIOS, "time": MEDIOS, "text": MEDIOS,
+    "persistence": MEDIOS, "geometry": MEDIOS, "text": MEDIOS,
+    "time": MEDIOS | {"persistence"},  # a date saves itself
     "units": MEDIOS | {"time"},  # number text follows the regional data
     "mesh": ALTOS, "colour": ALTOS,
     "drawing": ALTOS | {"mesh", "colour"},

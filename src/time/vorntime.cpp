@@ -1,0 +1,148 @@
+#define VN_MODULO "vorntime (NUCLEOS.DLL)"
+#include "time/vorntime.h"
+#include "foundation/afirma.h"
+#include "foundation/arr.h"
+#include "foundation/vnstdc.h"
+#include "persistence/vornsave.h"
+#include "time/calendario_priv.h"
+#include "time/vorntime_priv.h"
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <thread>
+
+using namespace vn;
+
+namespace {
+
+// Reports each field out of its range.
+bool comprueba(const struct tmtime *tmtime) {
+    if (!AFIRMA_NO_NULO(tmtime)) return false;
+    bool bien = AFIRMA(tmtime->tm_sec >= 0 && tmtime->tm_sec <= 59);
+    bien &= AFIRMA(tmtime->tm_min >= 0 && tmtime->tm_min <= 59);
+    bien &= AFIRMA(tmtime->tm_hour >= 0 && tmtime->tm_hour <= 23);
+    bien &= AFIRMA(tmtime->tm_mday >= 1 && tmtime->tm_mday <= 31);
+    bien &= AFIRMA(tmtime->tm_mon >= 0 && tmtime->tm_mon <= 11);
+    bien &= AFIRMA(tmtime->tm_wday >= 0 && tmtime->tm_wday <= 6);
+    bien &= AFIRMA(tmtime->tm_yday >= 0 && tmtime->tm_yday <= 365);
+    return bien;
+}
+
+// The fields in the order of a file.
+constexpr int32_t tmtime::*CAMPOS[] = {&tmtime::tm_sec,  &tmtime::tm_min,  &tmtime::tm_hour, &tmtime::tm_mday, &tmtime::tm_mon,
+                                       &tmtime::tm_year, &tmtime::tm_wday, &tmtime::tm_yday, &tmtime::tm_isdst};
+// From the field that weighs most in a comparison to the one that weighs least.
+constexpr int32_t tmtime::*ORDEN[] = {&tmtime::tm_year, &tmtime::tm_mon, &tmtime::tm_mday,
+                                      &tmtime::tm_hour, &tmtime::tm_min, &tmtime::tm_sec};
+
+bool lee_hora_local(tmtime &fecha) {
+    fecha = INICIO_1970;
+    const int64_t t = vnstdc__time64(nullptr);
+    const std::tm *hoy = vnstdc__localtime64(&t);
+    if (!AFIRMA_TEXTO(hoy != nullptr, "hoy != NULL")) return false;
+    // A clock that tells leap seconds has a 60th one.
+    fecha = {std::min(hoy->tm_sec, 59), hoy->tm_min,  hoy->tm_hour, hoy->tm_mday, hoy->tm_mon,
+             hoy->tm_year,              hoy->tm_wday, hoy->tm_yday, hoy->tm_isdst};
+    return true;
+}
+
+} // namespace
+
+namespace vn {
+
+tmtime_propio nuevo_tmtime(const tmtime &valor) {
+    tmtime_propio fecha(static_cast<tmtime *>(vornspy_malloc(sizeof(tmtime))));
+    *fecha = valor;
+    return fecha;
+}
+
+void pon_dias(tmtime &fecha) {
+    const int64_t anyo = int64_t{fecha.tm_year} + 1900;
+    const int64_t de_anyo = DIAS_ANTES[es_bisiesto(anyo)][fecha.tm_mon] + int64_t{fecha.tm_mday} - 1;
+    constexpr int64_t JUEVES = 4; // 1 January 1970
+    const int64_t semana = (dias_hasta_anyo(anyo) + de_anyo + JUEVES) % 7;
+    fecha.tm_wday = static_cast<int32_t>(semana < 0 ? semana + 7 : semana);
+    fecha.tm_yday = static_cast<int32_t>(de_anyo);
+}
+
+} // namespace vn
+
+tmtime *vtm_crea(int32_t hora, int32_t minuto, int32_t segundo, int32_t dia, int32_t mes, int32_t anyo) {
+    const auto menos = [](int32_t x, int32_t y) { return static_cast<int32_t>(static_cast<uint32_t>(x) - static_cast<uint32_t>(y)); };
+    tmtime_propio fecha = nuevo_tmtime({segundo, minuto, hora, dia, menos(mes, 1), menos(anyo, 1900), 0, 0, 0});
+    if (mes_posible(*fecha)) pon_dias(*fecha);
+    if (!comprueba(fecha.get())) *fecha = INICIO_1970;
+    return fecha.release();
+}
+
+tmtime *vtm_copia_tm(const tmtime *datos_a_copiar) {
+    return AFIRMA_NO_NULO(datos_a_copiar) ? nuevo_tmtime(*datos_a_copiar).release() : nullptr;
+}
+
+void vtm_destruye(tmtime **fecha) {
+    if (AFIRMA_NO_NULO(fecha) && AFIRMA_NO_NULO(*fecha)) vornspy_free_pp(fecha, sizeof(tmtime));
+}
+
+void vtm_libera_tm_arr(arrPuntero **arr) { arr_DestruyeEstructurasST(arr, tmtime, vtm_destruye); }
+
+void vtm_inicializa_fecha(tmtime *fecha) {
+    if (AFIRMA_NO_NULO(fecha)) *fecha = INICIO_1970;
+}
+
+void vtm_fecha_actual(tmtime *fecha) {
+    if (AFIRMA_NO_NULO(fecha)) lee_hora_local(*fecha);
+}
+
+void vorntime_ajusta_fecha_valida(tmtime *fecha) {
+    if (!AFIRMA_NO_NULO(fecha)) return;
+    if (mes_posible(*fecha)) pon_dias(*fecha);
+    else AFIRMA_DEFECTO();
+}
+
+void vorntime_obtener_dia_mes_anyo(const tmtime *fecha, int32_t *dia, int32_t *mes, int32_t *anyo) {
+    if (!AFIRMA_NO_NULO(fecha) || !AFIRMA_NO_NULO(dia) || !AFIRMA_NO_NULO(mes) || !AFIRMA_NO_NULO(anyo)) return;
+    *dia = fecha->tm_mday;
+    *mes = static_cast<int32_t>(int64_t{fecha->tm_mon} + 1);
+    *anyo = static_cast<int32_t>(int64_t{fecha->tm_year} + 1900);
+}
+
+void vtm_graba_hora_y_fecha(const tmtime *fecha, vornsave *vornsave_datos) {
+    const tmtime &que = comprueba(fecha) ? *fecha : INICIO_1970;
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return;
+    for (const auto campo : CAMPOS) vornsave_graba_short(static_cast<int16_t>(que.*campo), vornsave_datos);
+}
+
+tmtime *vtm_lee_hora_y_fecha(vornsave *vornsave_datos) {
+    if (!AFIRMA_NO_NULO(vornsave_datos)) return nullptr;
+    tmtime_propio fecha = nuevo_tmtime(INICIO_1970);
+    for (const auto campo : CAMPOS) (*fecha).*campo = vornsave_lee_short(vornsave_datos);
+    if (!comprueba(fecha.get())) *fecha = INICIO_1970;
+    return fecha.release();
+}
+
+int vtm_compara_fechas_mayor_menor(const tmtime *a, const tmtime *b) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return 0;
+    for (const auto campo : ORDEN)
+        if (a->*campo != b->*campo) return a->*campo < b->*campo ? -1 : 1;
+    return 0;
+}
+
+int vtm_compara_fechas(const tmtime *a, const tmtime *b) { return vtm_compara_fechas_mayor_menor(a, b); }
+
+vnbool vtm_fechas_iguales(const tmtime *a, const tmtime *b) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return FALSO;
+    return vtm_compara_fechas_mayor_menor(a, b) == 0 ? CIERTO : FALSO;
+}
+
+int64_t vorntime_ahora_UTC(void) { return vnstdc__time64(nullptr); }
+
+uint32_t vorntime_ahora_ULong(void) {
+    tmtime fecha;
+    return lee_hora_local(fecha) ? static_cast<uint32_t>(vtm_convierte_fecha_a_time_t(&fecha)) : 0;
+}
+
+uint32_t vorntime_ahora(void) { return vorntime_ahora_ULong(); }
+
+void vtm_delay(uint32_t segundos) {
+    if (AFIRMA(segundos < 900)) std::this_thread::sleep_for(std::chrono::seconds(segundos));
+}

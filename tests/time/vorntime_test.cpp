@@ -1,0 +1,373 @@
+#define VN_MODULO "vorntime_test"
+#include "time/vorntime.h"
+#include "foundation/arr.h"
+#include "foundation/widestr.h"
+#include "persistence/prueba_vornsave.h"
+#include <chrono>
+#include <optional>
+
+namespace {
+
+constexpr int64_t DIA = 86400;
+const tmtime INICIO{0, 0, 0, 1, 0, 70, 4, 0, 0};
+
+std::vector<int32_t> campos(const tmtime &f) {
+    return {f.tm_sec, f.tm_min, f.tm_hour, f.tm_mday, f.tm_mon, f.tm_year, f.tm_wday, f.tm_yday, f.tm_isdst};
+}
+
+// A new record, by value.
+tmtime toma(tmtime *nueva) {
+    const tmtime f = *nueva;
+    vtm_destruye(&nueva);
+    return f;
+}
+tmtime fecha_de(int dia, int mes, int anyo, int h = 0, int m = 0, int s = 0) { return toma(vtm_crea(h, m, s, dia, mes, anyo)); }
+
+// The rules as they are told, step by step.
+bool bisiesto(int y) { return (y % 4 == 0 && y % 100 != 0) || y % 400 == 0; }
+int64_t dias_mes(int mes, int y) {
+    if (mes == 1) return bisiesto(y) ? 29 : 28;
+    return mes == 3 || mes == 5 || mes == 8 || mes == 10 ? 30 : 31;
+}
+int64_t segundos_contados(const tmtime &f) {
+    const int y = f.tm_year + 1900;
+    int64_t s = (y - 1970) * int64_t{31536000} + ((y - 1973) / 4 + 1) * DIA;
+    for (int m = 0; m < f.tm_mon; ++m) s += dias_mes(m, y) * DIA;
+    return s + (f.tm_mday - 1) * DIA + f.tm_hour * 3600 + f.tm_min * 60 + f.tm_sec;
+}
+tmtime fecha_recorrida(int64_t t) {
+    int y = 1970, mes = 0;
+    const auto semana = static_cast<int32_t>((t / DIA - 3) % 7);
+    for (; t >= (bisiesto(y) ? 366 : 365) * DIA; ++y) t -= (bisiesto(y) ? 366 : 365) * DIA;
+    int64_t antes = 0;
+    for (; t >= dias_mes(mes, y) * DIA; ++mes) {
+        t -= dias_mes(mes, y) * DIA;
+        antes += dias_mes(mes, y);
+    }
+    const auto dia = static_cast<int32_t>(t / DIA), s = static_cast<int32_t>(t % DIA);
+    return {s % 60, s / 60 % 60, s / 3600, dia + 1, mes, y - 1900, semana, static_cast<int32_t>(antes) + dia, 0};
+}
+
+uint32_t azar() {
+    static uint64_t s = 88172645463325252u;
+    s ^= s << 13, s ^= s >> 7, s ^= s << 17;
+    return static_cast<uint32_t>(s >> 32);
+}
+
+} // namespace
+
+PRUEBA(vorntime, cada_dia_de_1970_a_2150_va_y_vuelve_con_el_dia_de_diferencia_que_se_dice) {
+    int diferencias = 0;
+    for (int64_t t = 0; t < 66109 * DIA; t += DIA) {
+        const int64_t momento = t + azar() % DIA;
+        tmtime f;
+        vtm_convierte_time64t_a_fecha(momento, &f);
+        ASSERT_EQ(campos(f), campos(fecha_recorrida(momento))) << momento;
+        const int64_t contados = vtm_convierte_fecha_a_time_t(&f);
+        ASSERT_EQ(contados, segundos_contados(f)) << momento;
+        const int64_t de_mas = f.tm_year + 1900 <= 1972 || f.tm_year + 1900 > 2100 ? DIA : 0;
+        ASSERT_EQ(contados - momento, de_mas) << momento;
+        diferencias += de_mas != 0;
+        // The days of the week and of the year of a date are the true ones everywhere.
+        const tmtime creada = fecha_de(f.tm_mday, f.tm_mon + 1, f.tm_year + 1900, f.tm_hour, f.tm_min, f.tm_sec);
+        ASSERT_EQ(creada.tm_wday, (t / DIA + 4) % 7) << momento;
+        ASSERT_EQ(creada.tm_yday, f.tm_yday) << momento;
+        ASSERT_EQ(f.tm_wday, t < 3 * DIA ? t / DIA - 3 : creada.tm_wday) << momento;
+        ASSERT_EQ(vtm_dia_de_la_semana_tim64t(momento), f.tm_wday);
+        ASSERT_EQ(vtm_fechas_iguales(&f, &creada), CIERTO);
+    }
+    EXPECT_EQ(diferencias, 366 + 365 * 2 + 50 * 365 + 12);
+}
+
+PRUEBA(vorntime, los_extremos_acaban_en_un_resultado_dicho) {
+    const struct {
+        int64_t t;
+        tmtime fecha;
+        bool informa;
+    } filas[] = {
+        {0, {0, 0, 0, 1, 0, 70, -3, 0, 0}, false},
+        {4294967295, {15, 28, 6, 7, 1, 206, 0, 37, 0}, false},
+        {67768036191676799, {59, 59, 23, 31, 11, INT32_MAX, 3, 364, 0}, false},
+        {67768036191676800, INICIO, true},
+        {1000000000000000000, INICIO, true},
+        {INT64_MAX, INICIO, true},
+        {-1, INICIO, true},
+        {INT64_MIN, INICIO, true},
+    };
+    for (const auto &f : filas) {
+        tmtime r{};
+        vn::con_informe(f.informa ? "t >= 0 && t <= ULTIMO_SEGUNDO" : nullptr, [&] { vtm_convierte_time64t_a_fecha(f.t, &r); });
+        EXPECT_EQ(campos(r), campos(f.fecha)) << f.t;
+    }
+    EXPECT_EQ(vtm_dia_de_la_semana_tim64t(INT64_MIN), -((INT64_MAX / DIA + 3) % 7));
+    EXPECT_EQ(vtm_dia_de_la_semana_tim64t(37 * DIA), 6); // 7 February 1970
+    EXPECT_EQ(vtm_segundos_el_uno_enero_anyo(1970), DIA);
+    EXPECT_EQ(vtm_segundos_el_uno_enero_anyo(2000), 946684800);
+    // Fields out of their range count for what they are; only a month cannot.
+    const tmtime suelta{-1, 100, 25, 0, 0, 100, 0, 0, 0}, sin_mes{0, 0, 0, 1, 12, 100, 0, 0, 0}, lejos{0, 0, 0, 1, 0, 300, 0, 0, 0};
+    EXPECT_EQ(vtm_convierte_fecha_a_time_t(&suelta), 946684800 - DIA + 25 * 3600 + 100 * 60 - 1);
+    EXPECT_EQ(vtm_convierte_fecha_a_time_t(&sin_mes), 0);
+    EXPECT_EQ(vn::Prueba::toma_informes().size(), 1u);
+    EXPECT_EQ(vtm_convierte_fecha_a_segundos(&lejos), UINT32_MAX);
+    EXPECT_EQ(vn::Prueba::toma_informes().size(), 1u);
+    const tmtime duracion{4, 3, 2, 1, 7, 7, 7, 7, 7};
+    EXPECT_EQ(vtm_convierte_duracion_a_segundos(&duracion), DIA + 2 * 3600 + 3 * 60 + 4);
+}
+
+PRUEBA(vorntime, meses_anyos_y_dias_del_anyo) {
+    EXPECT_EQ(vtm_segundos_en_un_mes(1, 2000), 2505600u);
+    EXPECT_EQ(vtm_segundos_en_un_mes(1, 2100), 2419200u);
+    EXPECT_EQ(vtm_segundos_en_un_mes(3, 2000), 2592000u);
+    EXPECT_EQ(vtm_segundos_en_un_anyo(1900), 31536000u);
+    EXPECT_EQ(vtm_segundos_en_un_anyo(2000), 31622400u);
+    uint32_t n = 0;
+    for (int mes = 0; mes < 12; ++mes) {
+        EXPECT_EQ(vorntime_num_dias_mes(static_cast<uint32_t>(mes), 2023), dias_mes(mes, 2023));
+        for (uint32_t dia = 1; dia <= dias_mes(mes, 2023); ++dia) {
+            uint32_t d = 0, m = 0;
+            vorntime_dia_y_mes_de_dia_juliano(++n, &d, &m);
+            ASSERT_EQ(vorntime_dia_juliano_1_365_de_dia_y_mes(d, m), n);
+            ASSERT_EQ(std::pair(d, m), std::pair(dia, static_cast<uint32_t>(mes) + 1));
+        }
+    }
+    EXPECT_EQ(n, 365u);
+    EXPECT_EQ(ESPERA_INFORME("numero_dia_1_31 <= num_dias_mes", vorntime_dia_juliano_1_365_de_dia_y_mes(29, 2)), 0u);
+    ESPERA_INFORME("dia_juliano_1_365 <= 365", vorntime_dia_y_mes_de_dia_juliano(366, &n, nullptr));
+    EXPECT_EQ(n, 0u);
+}
+
+PRUEBA(vorntime, la_comparacion_mira_seis_campos_en_su_orden) {
+    // Each earlier by one field while all that weigh less say the contrary.
+    const tmtime base{30, 30, 12, 15, 6, 100, 0, 100, 0};
+    const tmtime antes[] = {{59, 59, 23, 31, 11, 99, 0, 0, 0},  {59, 59, 23, 31, 5, 100, 0, 0, 0}, {59, 59, 23, 14, 6, 100, 0, 0, 0},
+                            {59, 59, 11, 15, 6, 100, 0, 0, 0},  {59, 29, 12, 15, 6, 100, 0, 0, 0}, {29, 30, 12, 15, 6, 100, 0, 0, 0}};
+    for (const tmtime &f : antes) {
+        EXPECT_EQ(vtm_compara_fechas_mayor_menor(&f, &base), -1);
+        EXPECT_EQ(vtm_compara_fechas(&base, &f), 1);
+        EXPECT_EQ(vtm_fechas_iguales(&f, &base), FALSO);
+    }
+    tmtime otra = base;
+    otra.tm_wday = 3, otra.tm_yday = 0, otra.tm_isdst = 1;
+    EXPECT_EQ(vtm_compara_fechas_mayor_menor(&base, &otra), 0);
+    EXPECT_EQ(vtm_fechas_iguales(&base, &otra), CIERTO);
+}
+
+PRUEBA(vorntime, un_registro_nuevo_se_comprueba_y_se_puede_ajustar) {
+    EXPECT_EQ(campos(fecha_de(29, 2, 2000, 23, 59, 58)), (std::vector<int32_t>{58, 59, 23, 29, 1, 100, 2, 59, 0}));
+    EXPECT_EQ(fecha_de(1, 1, -1).tm_wday, 5); // the calendar goes on backwards
+    const struct {
+        int h, m, s, dia, mes, anyo;
+        const char *informe;
+    } malas[] = {{24, 0, 0, 1, 1, 2000, "tmtime->tm_hour >= 0 && tmtime->tm_hour <= 23"},
+                 {0, 60, 0, 1, 1, 2000, "tmtime->tm_min >= 0 && tmtime->tm_min <= 59"},
+                 {0, 0, -1, 1, 1, 2000, "tmtime->tm_sec >= 0 && tmtime->tm_sec <= 59"},
+                 {0, 0, 0, 32, 1, 2000, "tmtime->tm_mday >= 1 && tmtime->tm_mday <= 31"},
+                 {0, 0, 0, 1, 13, 2000, "tmtime->tm_mon >= 0 && tmtime->tm_mon <= 11"},
+                 {0, 0, 0, 1, INT32_MIN, INT32_MIN, "tmtime->tm_mon >= 0 && tmtime->tm_mon <= 11"}};
+    for (const auto &f : malas) {
+        vn::con_informe(f.informe, [&] { EXPECT_EQ(campos(fecha_de(f.dia, f.mes, f.anyo, f.h, f.m, f.s)), campos(INICIO)); });
+    }
+    tmtime f = fecha_de(24, 6, 2005);
+    f.tm_mon = 11, f.tm_mday = 31, f.tm_year = 104;
+    vorntime_ajusta_fecha_valida(&f);
+    EXPECT_EQ(std::pair(f.tm_wday, f.tm_yday), std::pair(5, 365));
+    int32_t d = 0, m = 0, a = 0;
+    vorntime_obtener_dia_mes_anyo(&f, &d, &m, &a);
+    EXPECT_EQ((std::vector{d, m, a}), (std::vector{31, 12, 2004}));
+    vtm_inicializa_fecha(&f);
+    EXPECT_EQ(campos(f), campos(INICIO));
+    arrPuntero *fechas = arr_CreaPunteroST(0, tmtime);
+    for (int i = 1; i <= 3; ++i) arr_AppendPunteroST(fechas, vtm_copia_tm(&f), tmtime);
+    vtm_libera_tm_arr(&fechas);
+    EXPECT_EQ(fechas, nullptr);
+}
+
+// What a file holds, over each destination of the protocol.
+PRUEBA(vorntime, una_fecha_se_guarda_y_una_danyada_se_informa) {
+    const tmtime f = fecha_de(24, 6, 2005, 1, 2, 3);
+    tmtime verano = f;
+    verano.tm_isdst = 1;
+    for (const auto &d : vn::DESTINOS) {
+        SCOPED_TRACE(d.nombre);
+        const std::string b = vn::grabado(d, [&](vornsave *v) {
+            vtm_graba_hora_y_fecha(&f, v);
+            vtm_graba_hora_y_fecha(&verano, v);
+            vornsave_graba_long(77, v);
+        });
+        if (!d.texto) { EXPECT_EQ(vn::hex(b.substr(0, 18)), "030002000100180005006900" "0500ae000000"); }
+        vn::leido(d, b, [&](vornsave *v) {
+            EXPECT_EQ(campos(toma(vtm_lee_hora_y_fecha(v))), campos(f));
+            EXPECT_EQ(campos(toma(vtm_lee_hora_y_fecha(v))), campos(verano));
+            EXPECT_EQ(vornsave_lee_long(v), 77);
+        });
+        // Each field that has a range, one beyond each end of it: written as the start of 1970, and so read.
+        const struct {
+            int32_t tmtime::*campo;
+            int32_t minimo, maximo;
+            const char *informe;
+        } rangos[] = {{&tmtime::tm_sec, 0, 59, "tmtime->tm_sec >= 0 && tmtime->tm_sec <= 59"},
+                      {&tmtime::tm_min, 0, 59, "tmtime->tm_min >= 0 && tmtime->tm_min <= 59"},
+                      {&tmtime::tm_hour, 0, 23, "tmtime->tm_hour >= 0 && tmtime->tm_hour <= 23"},
+                      {&tmtime::tm_mday, 1, 31, "tmtime->tm_mday >= 1 && tmtime->tm_mday <= 31"},
+                      {&tmtime::tm_mon, 0, 11, "tmtime->tm_mon >= 0 && tmtime->tm_mon <= 11"},
+                      {&tmtime::tm_wday, 0, 6, "tmtime->tm_wday >= 0 && tmtime->tm_wday <= 6"},
+                      {&tmtime::tm_yday, 0, 365, "tmtime->tm_yday >= 0 && tmtime->tm_yday <= 365"}};
+        for (const auto &r : rangos) {
+            for (const int32_t valor : {r.minimo - 1, r.minimo, r.maximo, r.maximo + 1}) {
+                tmtime mala = f;
+                mala.*r.campo = valor;
+                const bool cabe = valor >= r.minimo && valor <= r.maximo;
+                const char *informe = cabe ? nullptr : r.informe;
+                std::string grabada;
+                vn::con_informe(informe, [&] { grabada = vn::grabado(d, [&](vornsave *v) { vtm_graba_hora_y_fecha(&mala, v); }); });
+                vn::leido(d, grabada, [&](vornsave *v) { EXPECT_EQ(campos(toma(vtm_lee_hora_y_fecha(v))), campos(cabe ? mala : INICIO)); });
+                // The same damage in a file.
+                const std::string danyada = vn::grabado(d, [&](vornsave *v) {
+                    for (const int32_t c : campos(mala)) vornsave_graba_short(static_cast<int16_t>(c), v);
+                });
+                vn::con_informe(informe, [&] {
+                    vn::leido(d, danyada, [&](vornsave *v) { EXPECT_EQ(campos(toma(vtm_lee_hora_y_fecha(v))), campos(cabe ? mala : INICIO)); });
+                });
+            }
+        }
+        // Cut at every length: reported, and never more than the neutral record or what was whole.
+        const std::string entera = vn::grabado(d, [&](vornsave *v) { vtm_graba_hora_y_fecha(&f, v); });
+        for (size_t n = 0; n + 3 < entera.size(); ++n) {
+            vn::leido(d, entera.substr(0, n), [&](vornsave *v) {
+                const tmtime leida = toma(vtm_lee_hora_y_fecha(v));
+                EXPECT_FALSE(vn::Prueba::toma_informes().empty()) << n;
+                EXPECT_TRUE(leida.tm_mday >= 1 && leida.tm_mday <= 31) << n;
+            });
+        }
+    }
+}
+
+PRUEBA(vorntime, el_reloj_y_la_comprobacion_de_si_mismo) {
+    using namespace std::chrono;
+    const int64_t utc = floor<seconds>(system_clock::now()).time_since_epoch().count();
+    EXPECT_LE(std::abs(vorntime_ahora_UTC() - utc), 2);
+    tmtime hoy;
+    vtm_fecha_actual(&hoy);
+    // No zone is further than 14 hours from UTC.
+    EXPECT_LE(std::abs(vtm_convierte_fecha_a_time_t(&hoy) - utc), 14 * 3600 + 2);
+    EXPECT_LE(int64_t{vorntime_ahora()} - vtm_convierte_fecha_a_time_t(&hoy), 2);
+    EXPECT_LE(vorntime_ahora_ULong() - vorntime_ahora(), 2u);
+    const auto antes = steady_clock::now();
+    vtm_delay(1);
+    EXPECT_GE(steady_clock::now() - antes, milliseconds(900));
+    ESPERA_INFORME("segundos < 900", vtm_delay(900));
+    EXPECT_LT(steady_clock::now() - antes, seconds(100));
+}
+
+// ---------------------------------------------------------------- out of texts
+
+PRUEBA(vorntime, de_un_texto_sale_una_fecha_o_no_cambia_nada) {
+    const struct {
+        const char *texto;
+        std::vector<int32_t> fecha; // day, month, year in full, hour, minute, second; empty for what is no date
+    } filas[] = {
+        {"29/2/2000", {29, 2, 2000, 0, 0, 0}},
+        {"29/2/1900", {}},
+        {"28/2/1900", {28, 2, 1900, 0, 0, 0}},
+        {"31/4/2001", {}},
+        {"5/6/85 12:30", {5, 6, 1985, 12, 30, 0}},
+        {"5-6-2004", {5, 6, 2004, 0, 0, 0}},
+        {"5 6 2004", {5, 6, 2004, 0, 0, 0}},
+        {"5:6:5", {5, 6, 2005, 0, 0, 0}},
+        {"  //05--06: :2004 - 23/59-59 0 0 words", {5, 6, 2004, 23, 59, 59}},
+        {"1/1/69", {1, 1, 2069, 0, 0, 0}},
+        {"1/1/70", {1, 1, 1970, 0, 0, 0}},
+        {"1/1/200", {1, 1, 2100, 0, 0, 0}},
+        {"1/1/201", {}},
+        {"1/1/1899", {}},
+        {"1/1/1500", {}},
+        {"31/12/2100", {31, 12, 2100, 0, 0, 0}},
+        {"29/2/2100", {}},
+        {"1/1/2101", {}},
+        {"0/1/2000", {}},
+        {"32/1/2000", {}},
+        {"1/0/2000", {}},
+        {"1/13/2000", {}},
+        {"1/1", {}},
+        {"1/1/", {}},
+        {"", {}},
+        {"/", {}},
+        {"+1/+1/+2000", {1, 1, 2000, 0, 0, 0}},
+        {"+/1/2000", {}},
+        {"++1/1/2000", {}},
+        {"1.0/1/2000", {}},
+        {"1/enero/2000", {}},
+        {"000000000000000000000000000001/01/0000000000000000000000002000", {1, 1, 2000, 0, 0, 0}},
+        {"1/1/99999999999999999999999999999999999999", {}},
+        {"4294967297/1/2000", {}},
+        {"1/1/4294969296", {}},
+        {"1/1/2000 24", {}},
+        {"1/1/2000 23:60", {}},
+        {"1/1/2000 23:59:60", {}},
+        {"1/1/2000 99999999999999999999", {}},
+        {"1/1/2000 23:59:59", {1, 1, 2000, 23, 59, 59}},
+        {"1/1/2000 a:b:c", {1, 1, 2000, 0, 0, 0}},
+        {"1/1/2000 12h:5", {1, 1, 2000, 0, 5, 0}},
+        {"1/1/2000\t12", {}},
+        {"1/1/2000 \xEF\xBC\x91", {1, 1, 2000, 0, 0, 0}}, // a wide digit is no digit
+        {"\xEF\xBC\x91/1/2000", {}},
+    };
+    const tmtime intacta{1, 2, 3, 4, 5, 6, 7, 8, 9};
+    for (const auto &f : filas) {
+        SCOPED_TRACE(f.texto);
+        tmtime esperada = intacta, leida = intacta, leida_a = intacta;
+        if (!f.fecha.empty()) esperada = fecha_de(f.fecha[0], f.fecha[1], f.fecha[2], f.fecha[3], f.fecha[4], f.fecha[5]);
+        EXPECT_EQ(vtm_convierte_cadena_a_tm_u(vn::ancho(f.texto).c_str(), &leida), f.fecha.empty() ? FALSO : CIERTO);
+        EXPECT_EQ(campos(leida), campos(esperada));
+        EXPECT_EQ(vtm_convierte_cadena_a_tm(f.texto, &leida_a), f.fecha.empty() ? FALSO : CIERTO);
+        EXPECT_EQ(campos(leida_a), campos(esperada));
+    }
+}
+
+namespace {
+
+// The same rules over the tokens of the string library, for short texts.
+std::optional<std::vector<int32_t>> por_trozos(const vnwchar *texto) {
+    std::vector<std::optional<int>> n;
+    for (uint32_t i = 1; i <= 6; ++i) {
+        vnwchar *trozo = widestr_extrae_token(texto, VNU("/-: "), i);
+        std::optional<int> valor;
+        if (trozo != nullptr) {
+            std::string s = vn::toma(trozo);
+            if (s.starts_with('+')) s.erase(0, 1);
+            if (!s.empty() && s.find_first_not_of("0123456789") == s.npos) valor = std::stoi(s.size() > 6 ? "999999" : s);
+        }
+        n.push_back(valor);
+    }
+    if (!n[0] || !n[1] || !n[2] || *n[1] < 1 || *n[1] > 12) return std::nullopt;
+    const int anyo = *n[2] >= 1900 ? *n[2] : *n[2] < 70 ? *n[2] + 2000 : *n[2] + 1900;
+    if (anyo > 2100 || *n[0] < 1 || *n[0] > dias_mes(*n[1] - 1, anyo)) return std::nullopt;
+    const std::vector<int32_t> r{n[5].value_or(0), n[4].value_or(0), n[3].value_or(0), *n[0], *n[1] - 1, anyo - 1900};
+    if (r[0] > 59 || r[1] > 59 || r[2] > 23) return std::nullopt;
+    return r;
+}
+
+} // namespace
+
+PRUEBA(vorntime, la_lectura_es_la_de_los_trozos_para_textos_al_azar) {
+    static const char *const PIEZAS[] = {"1", "9", "29", "30", "31", "2", "12", "13", "0", "2000", "2100", "1900", "70", "85", "5", "23",
+                                         "59", "60", "+7", "x", "", "007"};
+    constexpr char CORTES[] = "/-: //  .";
+    int fechas = 0;
+    for (int i = 0; i < 60000; ++i) {
+        std::string s;
+        for (uint32_t k = 3 + azar() % 4; k > 0; --k) {
+            s += PIEZAS[azar() % std::size(PIEZAS)];
+            s += CORTES[azar() % (sizeof CORTES - 1)];
+        }
+        const auto texto = vn::ancho(s);
+        tmtime f{};
+        const auto esperada = por_trozos(texto.c_str());
+        ASSERT_EQ(vtm_convierte_cadena_a_tm_u(texto.c_str(), &f) == CIERTO, esperada.has_value()) << s;
+        if (!esperada) continue;
+        const auto c = campos(f);
+        ASSERT_EQ(std::vector<int32_t>(c.begin(), c.begin() + 6), *esperada) << s;
+        ++fechas;
+    }
+    EXPECT_GT(fechas, 2000);
+}
