@@ -1,0 +1,18 @@
+// The subjects of bench_geometry, one source each (geometry_<subject>.cpp). Each returns how many budgets are not met.
+#pragma once
+
+#include "caminos.h"
+#include <cstdlib>
+
+namespace bench {
+
+// What a road gives must be right before its time means anything.
+inline void debe(bool bien, const char *que) {
+    if (bien) return;
+    std::fprintf(stderr, "CHECK FAILED: %s\n", que);
+    std::exit(2);
+}
+
+int segmentos(int pasadas);
+
+} // namespace bench
