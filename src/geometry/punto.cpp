@@ -121,23 +121,28 @@ double parametro_cruzado(const pieza &a, const pieza &b) {
     return (a.p.x - a.q.x) * (b.q.y - b.p.y) - (a.p.y - a.q.y) * (b.q.x - b.p.x);
 }
 
-// Whether a crossing with parameter t on the segment `esta` is not beyond its ends: by the parameter with hardly a margin,
-// or else because it is an end to p_EPS, in metres, and lies on both pieces.
-bool dentro(double t, const Punto2D &r, const pieza &esta, const pieza &otra) {
-    if (PARAMETRO_MINIMO <= t && t <= PARAMETRO_MAXIMO) [[likely]] return true;
-    if (!iguales(r, t < PARAMETRO_MINIMO ? esta.q : esta.p)) return false;
+// Whether a crossing that is an end to p_EPS, by axis, lies on both pieces.
+[[gnu::noinline]] bool es_el_extremo(const Punto2D &r, const pieza &esta, const pieza &otra) {
     return contenido(r, esta.p, esta.q) && contenido_en_pieza(r, otra.p, otra.q, otra.recta);
 }
 
+// Whether a crossing with parameter t is not beyond the ends of the segment `esta`: by the parameter with hardly a margin,
+// or else by p_EPS. Inline: most pairs of segments do not cross, and are done here.
+[[gnu::always_inline]] inline bool dentro(double t, const Punto2D &r, const pieza &esta, const pieza &otra) {
+    if (PARAMETRO_MINIMO <= t && t <= PARAMETRO_MAXIMO) [[likely]] return true;
+    return iguales(r, t < PARAMETRO_MINIMO ? esta.q : esta.p) && es_el_extremo(r, esta, otra);
+}
+
 // Parallel pieces cross only at ends that are the same.
-Punto2D *corte_de_paralelas(const pieza &a, const pieza &b) {
+[[gnu::noinline]] Punto2D *corte_de_paralelas(const pieza &a, const pieza &b) {
     for (const Punto2D *de_a : {&a.p, &a.q})
         for (const Punto2D *de_b : {&b.p, &b.q})
             if (iguales(*de_a, *de_b)) return nuevo(relativo(*de_a, *de_b, 0.5));
     return nullptr;
 }
 
-Punto2D *corte(const pieza &a, const pieza &b) {
+// Inline in each of its three callers: the pieces are then registers.
+[[gnu::always_inline]] inline Punto2D *corte(const pieza &a, const pieza &b) {
     const double den = parametro_cruzado(a, b);
     if (!(std::fabs(den) > LIMITE_PARALELISMO)) return corte_de_paralelas(a, b);
     const double t = ((b.q.x - a.q.x) * (b.q.y - b.p.y) - (b.q.y - a.q.y) * (b.q.x - b.p.x)) / den;

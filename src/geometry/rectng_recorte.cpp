@@ -8,36 +8,29 @@
 
 namespace {
 
-// The part of the segment between two parameters that lies on the inner side of one border: p is how fast the segment
-// goes out through it, q how far inside it begins. What is no number rejects.
-bool recorta(double p, double q, double &u1, double &u2) {
-    if (p < 0.) {
-        const double r = q / p;
-        if (!(r <= u2)) return false;
-        if (r > u1) u1 = r;
-        return true;
-    }
-    if (p > 0.) {
-        const double r = q / p;
-        if (!(r >= u1)) return false;
-        if (r < u2) u2 = r;
-        return true;
-    }
-    return p == 0. && q >= 0.;
+// Narrows u1 and u2, the parameters between which the segment lies inside, to one axis: how far it goes along it, and how
+// far inside of both borders it begins. Whether anything is left; nothing is of what is no number.
+// Both borders at once: which of them it enters by is a choice that costs no branch.
+bool recorta(double d, double desde_min, double hasta_max, double &u1, double &u2) {
+    if (d == 0.) return desde_min >= 0. && hasta_max >= 0.;
+    const double por_min = desde_min / -d, por_max = hasta_max / d;
+    const double entra = d > 0. ? por_min : por_max, sale = d > 0. ? por_max : por_min;
+    u1 = u1 > entra ? u1 : entra;
+    u2 = u2 < sale ? u2 : sale;
+    return u1 <= u2;
 }
 
 void pon(double *salida, double v) {
     if (salida != nullptr) *salida = v;
 }
 
-vnbool liang_barsky(const rectangulo_t &r, double x1, double y1, double x2, double y2, double *ox1, double *oy1, double *ox2,
-                    double *oy2) {
+vnbool liang_barsky(double xmin, double ymin, double xmax, double ymax, double x1, double y1, double x2, double y2,
+                    double *ox1, double *oy1, double *ox2, double *oy2) {
     const double dx = x2 - x1, dy = y2 - y1;
     double u1 = 0., u2 = 1.;
-    if (!recorta(-dx, x1 - r.xmin, u1, u2) || !recorta(dx, r.xmax - x1, u1, u2)) return FALSO;
-    if (!recorta(-dy, y1 - r.ymin, u1, u2) || !recorta(dy, r.ymax - y1, u1, u2)) return FALSO;
-    if (!std::isfinite(dx) || !std::isfinite(dy)) return FALSO;
+    if (!recorta(dx, x1 - xmin, xmax - x1, u1, u2) || !recorta(dy, y1 - ymin, ymax - y1, u1, u2)) return FALSO;
     if (u1 > 0. || u2 < 1.) {
+        if (!std::isfinite(dx) || !std::isfinite(dy)) return FALSO; // longer than all numbers
         x2 = x1 + dx * u2;
         y2 = y1 + dy * u2;
         x1 = x1 + dx * u1;
@@ -87,12 +80,13 @@ bool prueba_lado_horizontal(const rectangulo_t &r, double y, const recorrido &s,
 
 vnbool rec_clip_linea_liang_barsky(double xmin, double ymin, double xmax, double ymax, double x1, double y1, double x2,
                                    double y2, double *ox1, double *oy1, double *ox2, double *oy2) {
-    return liang_barsky({xmin, ymin, xmax, ymax, CIERTO}, x1, y1, x2, y2, ox1, oy1, ox2, oy2);
+    return liang_barsky(xmin, ymin, xmax, ymax, x1, y1, x2, y2, ox1, oy1, ox2, oy2);
 }
 
 vnbool rec_ClipSegmento(const rectangulo_t *rec, double x1, double y1, double x2, double y2, double *ox1, double *oy1,
                         double *ox2, double *oy2) {
-    return AFIRMA_NO_NULO(rec) ? liang_barsky(*rec, x1, y1, x2, y2, ox1, oy1, ox2, oy2) : FALSO;
+    if (!AFIRMA_NO_NULO(rec)) return FALSO;
+    return liang_barsky(rec->xmin, rec->ymin, rec->xmax, rec->ymax, x1, y1, x2, y2, ox1, oy1, ox2, oy2);
 }
 
 vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, double x2, double y2, double *ox1, double *oy1,
