@@ -101,6 +101,9 @@ vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, do
     const unsigned de_1 = region(r, x1, y1), de_2 = region(r, x2, y2);
     if (de_1 == 0 && de_2 == 0) return CIERTO;
     bool dentro = de_1 == 0 || de_2 == 0;
+    // What runs along a side with both ends outside stays whole, and is not cut where it passes the corners.
+    if (!dentro && (corre_por(x1, x2, r.xmin) || corre_por(x1, x2, r.xmax) || corre_por(y1, y2, r.ymin) || corre_por(y1, y2, r.ymax)))
+        return CIERTO;
     const salida o1 = {ox1, oy1}, o2 = {ox2, oy2};
     if (dentro && ox1 == nullptr && oy1 == nullptr && ox2 == nullptr && oy2 == nullptr) return CIERTO;
 

@@ -1,0 +1,330 @@
+#include "geometry/rectng.h"
+#include "exacto.h"
+#include "prueba.h"
+#include <algorithm>
+#include <array>
+#include <cfloat>
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <memory>
+
+namespace {
+
+constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN(), INF = std::numeric_limits<double>::infinity();
+
+struct destruye {
+    void operator()(rectangulo_t *r) const { rec_Destruye(&r); }
+    void operator()(arrPuntero *a) const { arr_DestruyeEstructurasST(&a, rectangulo_t, rec_Destruye); }
+};
+using rectangulo = std::unique_ptr<rectangulo_t, destruye>;
+using rectangulos = std::unique_ptr<arrPuntero, destruye>;
+using limites = std::array<double, 4>;
+
+rectangulo_t de(const limites &l) { return {l[0], l[1], l[2], l[3], CIERTO}; }
+limites limites_de(const rectangulo_t &r) { return {r.xmin, r.ymin, r.xmax, r.ymax}; }
+void anade(const rectangulos &a, const limites &l) {
+    rectangulo_t *r = rec_CreaDefinido(l[0], l[1], l[2], l[3]);
+    arr_AppendPunteroST(a.get(), r, rectangulo_t);
+}
+rectangulos tiras(std::initializer_list<limites> todas) {
+    rectangulos a(arr_CreaPunteroST(0, rectangulo_t));
+    for (const limites &l : todas) anade(a, l);
+    return a;
+}
+std::vector<limites> todas(const rectangulos &a) {
+    std::vector<limites> v;
+    for (uint32_t i = 0; i < arr_NumElemsPunteroST(a.get(), rectangulo_t); ++i) v.push_back(limites_de(*arr_GetPunteroST(a.get(), i, rectangulo_t)));
+    return v;
+}
+std::vector<limites> alargadas(std::initializer_list<limites> l, double cuanto) {
+    const rectangulos a = tiras(l);
+    rec_Incrementa_longitudes_sin_solapes(a.get(), cuanto);
+    return todas(a);
+}
+std::vector<limites> condensadas(const rectangulos &a, double tolerancia) { return todas(rectangulos(rec_Rectangulos_contiguos_condensados(a.get(), tolerancia))); }
+// A strip along an axis, on a grid.
+limites una_tira(vn::azar &z, uint32_t lado) {
+    const double x = z.entero(lado), y = z.entero(lado), largo = 2. + z.entero(7);
+    return z.moneda() ? limites{x, y, x + largo, y + 1} : limites{x, y, x + 1, y + largo};
+}
+
+// Either clip: whether something is inside, and the ends.
+struct recorte {
+    bool dentro;
+    limites extremos;
+    bool operator==(const recorte &) const = default;
+};
+template <auto CLIP> recorte recorta(const rectangulo_t &r, const limites &s) {
+    limites e = s;
+    const vnbool dentro = CLIP(&r, s[0], s[1], s[2], s[3], &e[0], &e[1], &e[2], &e[3]);
+    return {dentro == CIERTO, e};
+}
+constexpr auto exacto_ = recorta<rec_ClipSegmento>, antiguo = recorta<rec_ClipSegmentoAntiguo>;
+
+} // namespace
+
+PRUEBA(rectng, un_rectangulo_crece_desde_nada_y_vuelve_a_nada) {
+    const rectangulo r(rec_Crea());
+    EXPECT_EQ(limites_de(*r), (limites{DBL_MAX, DBL_MAX, -DBL_MAX, -DBL_MAX}));
+    EXPECT_EQ(rec_Inicializado(r.get()), FALSO);
+    ESPERA_INFORME("rec->calculados", rec_MaximizaY(r.get(), 1));
+    rec_Reset(r.get());
+    rec_MaximizaPunto(r.get(), 3, 4);
+    EXPECT_EQ(limites_de(*r), (limites{3, 4, 3, 4}));
+    EXPECT_EQ(rec_Ancho(r.get()) + rec_Alto(r.get()), 0);
+    EXPECT_EQ((rec_RectanguloVertical(r.get())), FALSO); // a fault, twice
+    vn::espera_informes({"ancho > 0.", "alto > 0."}, __FILE__, __LINE__);
+    rec_MaximizaPunto(r.get(), 1, 9);
+    rec_MaximizaY(r.get(), -2);
+    const rectangulo_t otro = de({0, 0, 2, 2}), lejos = de({50, 50, 60, 60});
+    rec_MaximizaRect(r.get(), &otro);
+    EXPECT_EQ(limites_de(*r), (limites{0, -2, 3, 9}));
+    double x = 0, y = 0;
+    rec_Centro(r.get(), &x, &y);
+    EXPECT_TRUE(x == 1.5 && y == 3.5);
+    rec_IncrementaAnchos(r.get(), .5);
+    rec_Mover(r.get(), 1, 1);
+    EXPECT_EQ(limites_de(*r), (limites{.5, -1.5, 4.5, 10.5}));
+    rec_RecortaRect(r.get(), &otro);
+    EXPECT_EQ(limites_de(*r), (limites{.5, 0, 2, 2}));
+    // Apart by less than the tolerance of the overlap: the cut is exact and says so.
+    const rectangulo_t casi = de({2 + 5e-7, 0, 3, 2});
+    ESPERA_INFORME("rec1->xmin <= rec1->xmax && rec1->ymin <= rec1->ymax", rec_RecortaRect(r.get(), &casi));
+    rec_RecortaRect(r.get(), &lejos);
+    EXPECT_EQ(rec_Inicializado(r.get()), FALSO);
+    const rectangulo reiniciado(rec_Copia(r.get()));
+    EXPECT_EQ(rec_Inicializado(reiniciado.get()), FALSO);
+    EXPECT_EQ(rec_ClipPunto(reiniciado.get(), 0, 0) + rec_ClipX(reiniciado.get(), 0) +
+                  rec_ClipRectangulo(reiniciado.get(), &otro) + rec_ClipPunto_ConPrecision(reiniciado.get(), 0, 0, INF),
+              0);
+    rec_MaximizaRect(r.get(), &otro); // a reset one begins with it
+    EXPECT_EQ(limites_de(*r), limites_de(otro));
+    EXPECT_EQ(rec_RelacionaRectangulos(r.get(), &otro), 2u);
+}
+
+// A broken condition is told and the work is done.
+PRUEBA(rectng, lo_mal_definido_se_informa_y_se_hace) {
+    EXPECT_EQ(limites_de(*rectangulo(ESPERA_INFORME("ancho >0. && alto > 0.", rec_CreaDefinido(0, 0, 0, 1)))), (limites{0, 0, 0, 1}));
+    rectangulo_t r = de({0, 0, 1, 1});
+    ESPERA_INFORME("ex >= ox && ey >= oy", rec_Set(&r, 0, 0, -1, 5));
+    EXPECT_EQ(r.xmax, -1);
+    rec_Set(&r, 1, 1, 1, 1);
+    EXPECT_EQ((rec_DistanciaPuntoARectangulo(&r, 4, 5)), 5);
+    vn::espera_informes({"min < max", "min < max"}, __FILE__, __LINE__);
+    ESPERA_INFORME("incremento_a_cada_lado >= 0.", rec_IncrementaAnchos(&r, -1));
+    r.calculados = FALSO;
+    EXPECT_EQ(ESPERA_INFORME("rec->calculados", rec_Ancho(&r)), -2);
+    EXPECT_EQ(ESPERA_INFORME("rec->calculados == CIERTO", rec_ExisteSolapeConLimites(&r, 0, 0, 0, 0)), FALSO);
+    const rectangulos vacio = tiras({});
+    EXPECT_EQ(ESPERA_INFORME("arr_NumElemsPunteroST(rectangulos, rectangulo_t) > 0", rec_Envolvente(vacio.get())), nullptr);
+    EXPECT_EQ(ESPERA_INFORME("num_rectangulos > 0", rec_Rectangulos_contiguos_condensados(vacio.get(), 0)), nullptr);
+}
+
+PRUEBA(rectng, cada_tolerancia_tiene_su_limite_y_su_sentido) {
+    const rectangulo_t r = de({0, 0, 10, 10});
+    rectangulo_t otro;
+    const auto tmp = [&otro](double ox, double oy, double ex, double ey) { return &(otro = {ox, oy, ex, ey, CIERTO}); };
+    const auto callado = [] { return vn::Prueba::toma_informes().empty(); };
+    const struct {
+        const char *que;
+        double ultimo, hacia;
+        std::function<bool(double)> vale;
+    } filas[] = {
+        {"x inside to 1e-6", -1e-6, -1, [&](double x) { return rec_ClipX(&r, x) == CIERTO; }},
+        {"a point inside to 1e-6", -1e-6, -1, [&](double y) { return rec_ClipPunto(&r, 5, y) == CIERTO && rec_ClipPunto(&r, y, 5) == CIERTO; }},
+        {"a point inside to its precision", -.25, -1, [&](double y) { return rec_ClipPunto_ConPrecision(&r, 5, y, .25) == CIERTO; }},
+        {"on the border from inside, to its precision", .25, 1, [&](double x) { return rectng_punto_esta_en_borde_con_precision(&r, x, 5, .25) == CIERTO; }},
+        {"on the border from outside", -.25, -1, [&](double x) { return rectng_punto_esta_en_borde_con_precision(&r, x, 5, .25) == CIERTO; }},
+        {"rectangles touch to 1e-6", -1e-6, -1, [&](double x) { return rec_ClipRectangulo(&r, tmp(-5, 0, x, 1)) && rec_ClipRectangulo(tmp(0, -5, 1, x), &r); }},
+        {"one inside another to 1e-6", -1e-6, -1, [&](double x) { return rec_RelacionaRectangulos(&r, tmp(x, 1, 5, 5)) == 2; }},
+        {"boxes touch exactly", 0, -1, [&](double x) { return rec_ExisteSolapeConLimites(&r, x, 5, -3, 7) == CIERTO; }},
+        {"a segment's box, by its tolerance", -.5, -1, [&](double x) { return rec_ExisteSolapeConSegmento(&r, x, 5, -3, 7, .5) == CIERTO; }},
+        {"centred on the origin to its tolerance", .5, 1, [&](double x) { return rec_RectanguloCentradoOrigen(tmp(x, -1, x, 1), .5) == CIERTO; }},
+        {"a horizontal one may be higher by 0.0001, excluded", std::nextafter(1 + .0001, 0), 2, [&](double alto) { return rectangulo(rec_CreaHorizontal(0, 0, 1, alto)) && callado(); }},
+        {"a vertical one wider by as much", std::nextafter(1 + .0001, 0), 2, [&](double ancho) { return rectangulo(rec_CreaVertical(0, 0, ancho, 1)) && callado(); }},
+        {"a room of 1e-7 is none", 1e-7, 1, [](double hueco) { return alargadas({{-9, 0, 0, 1}, {hueco, 0, 9, 1}}, .5)[0][2] == 0; }},
+        {"a centre of gravity within 0.50001 of the width, excluded", std::nextafter(.50001, 0), 1,
+         [&](double cdg) {
+             double v[4];
+             rectng_AnchosDesdePuntoFijo(1, 1, cdg, 0, 1, &v[0], &v[1], &v[2], &v[3]);
+             return callado();
+         }},
+        {"the old clip's point inside to 1e-6", 10 + 1e-6, 11, [&](double x) { return antiguo(r, {5, 5, x, 5}).extremos[2] == x; }},
+        {"the old clip's line along a side to 1e-6", -1e-6, -1, [&](double x) { return antiguo(r, {x, -5, x, 15}).dentro; }},
+    };
+    for (const auto &f : filas) {
+        EXPECT_TRUE(f.vale(f.ultimo)) << f.que;
+        EXPECT_FALSE(f.vale(std::nextafter(f.ultimo, f.hacia))) << f.que;
+    }
+    EXPECT_EQ(rec_RectanguloVertical(&r), FALSO); // a square
+    EXPECT_EQ(rec_ClipPunto(&r, NAN_, 5) + rec_ClipPunto_ConPrecision(&r, 5, NAN_, 1) + rec_ExisteSolapeConLimites(&r, NAN_, 1, 2, 3), 0);
+}
+
+PRUEBA(rectng, los_recortes_en_los_lados_y_con_numeros_extremos) {
+    const rectangulo_t r = de({0, 0, 10, 10});
+    const struct {
+        limites segmento;
+        recorte exacto, antiguo;
+    } filas[] = {
+        {{-5, 5, 15, 5}, {true, {0, 5, 10, 5}}, {true, {0, 5, 10, 5}}},
+        {{-5, 0, 5, 0}, {true, {0, 0, 5, 0}}, {true, {0, 0, 5, 0}}},                     // along a side, one end outside
+        {{0, -5, 0, 15}, {true, {0, 0, 0, 10}}, {true, {0, -5, 0, 15}}},                 // both outside: the old one leaves them,
+        {{0, 12, 0, 15}, {false, {0, 12, 0, 15}}, {true, {0, 12, 0, 15}}},               // beyond the corner too
+        {{-9, 10, -5, 10}, {false, {-9, 10, -5, 10}}, {true, {-9, 10, -5, 10}}},
+        {{-5, -5, 15, 15}, {true, {0, 0, 10, 10}}, {true, {0, 0, 10, 10}}},              // through two corners
+        {{-5, 20, 15, 12}, {false, {-5, 20, 15, 12}}, {false, {-5, 20, 15, 12}}},
+    };
+    for (const auto &f : filas) {
+        EXPECT_EQ(exacto_(r, f.segmento), f.exacto) << f.segmento[0];
+        EXPECT_EQ(antiguo(r, f.segmento), f.antiguo) << f.segmento[0];
+    }
+    rectangulo_t sin_nada = r;
+    sin_nada.calculados = FALSO;
+    EXPECT_TRUE(exacto_(sin_nada, {1, 1, 2, 2}).dentro); // does not look
+    EXPECT_FALSE(antiguo(sin_nada, {1, 1, 2, 2}).dentro);
+    EXPECT_EQ(rec_ClipSegmentoAntiguo(&r, 5, 5, 50, 5, nullptr, nullptr, nullptr, nullptr), CIERTO);
+    double ox2 = 0;
+    EXPECT_EQ(rec_ClipSegmentoAntiguo(&r, 5, 5, 15, 10, nullptr, nullptr, &ox2, nullptr), CIERTO);
+    EXPECT_EQ(ox2, 10);
+    for (const double raro : {NAN_, INF, -INF, 1e308})
+        for (size_t i = 0; i < 8; ++i) {
+            double v[8] = {0, 0, 10, 10, -5, 3, 15, 4};
+            v[i] = raro;
+            const recorte c = exacto_(de({v[0], v[1], v[2], v[3]}), {v[4], v[5], v[6], v[7]});
+            antiguo(de({v[0], v[1], v[2], v[3]}), {v[4], v[5], v[6], v[7]});
+            if (std::isnan(raro)) { EXPECT_FALSE(c.dentro) << i; }
+            for (const double x : c.extremos) EXPECT_TRUE(!c.dentro || std::isfinite(x)) << i << " " << raro;
+        }
+    EXPECT_FALSE(exacto_(r, {-1e308, 5, 1e308, 5}).dentro); // longer than all numbers
+}
+
+// Against whole coordinates: the clips accept what has points inside and nothing that is apart, what is inside comes back
+// bit for bit, and the ends lie on the segment and on the sides.
+PRUEBA(rectng, los_recortes_son_los_exactos) {
+    vn::azar z(51);
+    vn::huella bits;
+    int dentro = 0, cortados = 0;
+    for (int i = 0; i < 50000; ++i) {
+        // Sides on even coordinates, ends on odd ones: none runs along a side.
+        const exacto::punto bajo = {2 * z.entero_entre(-5, 4), 2 * z.entero_entre(-5, 4)};
+        const exacto::punto alto = {bajo.x + 2 * z.entero_entre(1, 5), bajo.y + 2 * z.entero_entre(1, 5)};
+        const exacto::punto p = exacto::un_punto(z, 9), q = exacto::un_punto(z, 9);
+        const exacto::segmento s = {{2 * p.x + 1, 2 * p.y + 1}, {2 * q.x + 1, 2 * q.y + 1}};
+        const Punto2D a = s.a, b = s.b, o = bajo, e = alto;
+        const rectangulo_t r = de({o.x, o.y, e.x, e.y});
+        const limites entero = {a.x, a.y, b.x, b.y};
+        const recorte c = exacto_(r, entero), c_antiguo = antiguo(r, entero);
+        const auto como = exacto::frente_a(s, bajo, alto);
+        if (como != exacto::caja::toca) { ASSERT_TRUE(c.dentro == (como == exacto::caja::dentro) && c_antiguo.dentro == c.dentro) << i; }
+        if (!c.dentro) continue;
+        ++dentro;
+        const bool dentro_a = rec_ClipPunto(&r, a.x, a.y), dentro_b = rec_ClipPunto(&r, b.x, b.y);
+        if (dentro_a && dentro_b) { ASSERT_EQ(c.extremos, entero) << i; }
+        for (const size_t k : {0u, 2u}) {
+            const double x = c.extremos[k], y = c.extremos[k + 1];
+            bits << x << y;
+            if (como == exacto::caja::dentro) { ASSERT_TRUE(vn::cerca(c_antiguo.extremos[k], x, 100) && vn::cerca(c_antiguo.extremos[k + 1], y, 100)) << i; }
+            if (k == 0 ? dentro_a : dentro_b) {
+                ASSERT_TRUE(vn::cerca(x, entero[k], 100) && vn::cerca(y, entero[k + 1], 100)) << i;
+                continue;
+            }
+            ++cortados;
+            ASSERT_TRUE(vn::cerca((x - a.x) * (b.y - a.y), (y - a.y) * (b.x - a.x), 4000)) << i;
+            ASSERT_EQ(rectng_punto_esta_en_borde_con_precision(&r, x, y, 1e-12), CIERTO) << i;
+        }
+    }
+    EXPECT_GT(dentro, 5000);
+    EXPECT_GT(cortados, 5000);
+    EXPECT_EQ(bits(), 12389008979472392390u);
+}
+
+PRUEBA(rectng, las_tiras_se_alargan_hasta_la_que_estorba) {
+    using v = std::vector<limites>;
+    // The first takes the whole gap; the second finds none.
+    EXPECT_EQ(alargadas({{0, 0, 5, 1}, {6, 0, 9, 1}}, 2), (v{{-2, 0, 6, 1}, {6, 0, 11, 1}}));
+    EXPECT_EQ(alargadas({{0, 0, 5, 1}, {6, 0, 9, 1}}, .75), (v{{-.75, 0, 5.75, 1}, {5.75, 0, 9.75, 1}}));
+    // One across that comes later may still grow into the way; an earlier one has done so.
+    EXPECT_EQ(alargadas({{0, 0, 5, 1}, {6, 1.5, 7, 9}}, 2), (v{{-2, 0, 6, 1}, {6, 1, 7, 11}}));
+    EXPECT_EQ(alargadas({{6, 1.5, 7, 9}, {0, 0, 5, 1}}, .25), (v{{6, 1.25, 7, 9.25}, {-.25, 0, 5.25, 1}}));
+    const rectangulos a = tiras({{6, 1, 7, 9}, {0, 0, 5, 1}});
+    rec_TraladaRectangulos(a.get(), 1, 2);
+    EXPECT_EQ(limites_de(*rectangulo(rec_Envolvente(a.get()))), (limites{1, 2, 8, 11}));
+    // Strips that are apart stay apart, none shrinks, and none grows by more than it may.
+    vn::azar z(52);
+    const auto se_pisan = [](const limites &p, const limites &q) { return p[0] < q[2] && q[0] < p[2] && p[1] < q[3] && q[1] < p[3]; };
+    int crecidas = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const rectangulos b = tiras({});
+        for (int n = 0; n < 40; ++n) {
+            const limites t = una_tira(z, 30);
+            const auto hay = todas(b);
+            if (std::none_of(hay.begin(), hay.end(), [&](const limites &q) { return se_pisan(t, q); })) anade(b, t);
+        }
+        const auto antes = todas(b);
+        rec_Incrementa_longitudes_sin_solapes(b.get(), 1.5);
+        const auto despues = todas(b);
+        for (size_t p = 0; p < despues.size(); ++p) {
+            for (size_t k = 0; k < 4; ++k) {
+                const double crece = k < 2 ? antes[p][k] - despues[p][k] : despues[p][k] - antes[p][k];
+                ASSERT_TRUE(0 <= crece && crece <= 1.5);
+                crecidas += crece > 0;
+            }
+            for (size_t q = 0; q < p; ++q) ASSERT_FALSE(se_pisan(despues[p], despues[q])) << i << ": " << q << ", " << p;
+        }
+    }
+    EXPECT_GT(crecidas, 10000);
+}
+
+PRUEBA(rectng, las_tiras_contiguas_se_condensan) {
+    const struct {
+        std::initializer_list<limites> entran;
+        double tolerancia;
+        std::vector<limites> salen;
+    } filas[] = {
+        // Three stacked and one apart; the fourth, held by the result, goes.
+        {{{0, 0, 9, 1}, {0, 1, 9, 2}, {5, 2, 12, 3}, {1, .25, 3, .75}, {20, 0, 29, 1}}, .01, {{0, 0, 12, 3}, {20, 0, 29, 1}}},
+        // A group that is higher than wide is still one of horizontal strips; directions do not mix.
+        {{{0, 0, 4, 2}, {0, 2, 4, 4}, {0, 4, 4, 6}, {0, 6, 4, 8}}, 0, {{0, 0, 4, 8}}},
+        {{{0, 0, 1, 9}, {1, 0, 2, 9}, {2, 0, 9, 1}}, 0, {{0, 0, 2, 9}, {2, 0, 9, 1}}},
+        // In order: the first has gone past the second when it grows over the third. What a later one grows over stays.
+        {{{0, 0, 9, 1}, {0, 5, 9, 6}, {0, 1, 9, 5}}, 0, {{0, 0, 9, 5}, {0, 0, 9, 6}}},
+        // The tolerance and a step beyond it, along the strips and across.
+        {{{0, 0, 9, 1}, {9.25, 1, 20, 2}}, .25, {{0, 0, 20, 2}}},
+        {{{0, 0, 9, 1}, {std::nextafter(9.25, 10), 1, 20, 2}}, .25, {{0, 0, 9, 1}, {std::nextafter(9.25, 10), 1, 20, 2}}},
+        {{{0, 0, 9, 1}, {6, .75, 20, 2}}, .25, {{0, 0, 20, 2}}},
+        {{{0, 0, 9, 1}, {6, std::nextafter(1.25, 2), 20, 2}}, .25, {{0, 0, 9, 1}, {6, std::nextafter(1.25, 2), 20, 2}}},
+    };
+    for (const auto &f : filas) EXPECT_EQ(condensadas(tiras(f.entran), f.tolerancia), f.salen);
+    ESPERA_INFORME("tolerancia >= 0.", condensadas(tiras({{0, 0, 9, 1}, {0, 1, 9, 2}}), -1));
+    // Every strip lies in what stands for it.
+    vn::azar z(53);
+    for (int i = 0; i < 2000; ++i) {
+        const rectangulos b = tiras({});
+        for (int n = 0; n < 25; ++n) anade(b, una_tira(z, 12));
+        const auto salen = condensadas(b, 0);
+        for (const limites &t : todas(b))
+            ASSERT_TRUE(std::any_of(salen.begin(), salen.end(), [&](const limites &q) { return q[0] <= t[0] && q[1] <= t[1] && t[2] <= q[2] && t[3] <= q[3]; })) << i;
+    }
+}
+
+PRUEBA(rectng, las_nueve_posiciones_de_una_seccion) {
+    EXPECT_EQ(rectng_calculaPosicionMasCercana(0, 0, 0), 4u); // 0 is not below +0
+    EXPECT_EQ(rectng_calculaPosicionMasCercana(-1, 0, 1), 0u);
+    EXPECT_EQ(rectng_calculaPosicionMasCercana(0, 1, 1), 7u);
+    EXPECT_EQ(rectng_calculaPosicionMasCercana(NAN_, -2, 1), 5u);
+    const limites inicial_final[] = {{2.5, 1.75, 1.5, .25}, {0, 0, 4, 2}, {4, 0, 0, 2}, {0, 2, 4, 0}, {4, 2, 0, 0}, {2.5, 0, 1.5, 2}, {4, 1.75, 0, .25}, {2.5, 2, 1.5, 0}, {0, 1.75, 4, .25}};
+    for (uint32_t p = 0; p < 9; ++p) {
+        double x = 0, y = 0;
+        rectng_calcula_coordenadas_posicion(p, 1, 2, 3, 4, &x, &y);
+        EXPECT_EQ(rectng_calculaPosicionMasCercana(x, y, .5), p); // one is the other's inverse
+        limites v = {};
+        rectng_AnchosDesdePuntoFijo(4, 2, .5, .75, p, &v[0], &v[1], &v[2], &v[3]);
+        EXPECT_EQ(v, inicial_final[p]) << p;
+    }
+    double v[4] = {1, 1, 1, 1};
+    rectng_calcula_coordenadas_posicion(9, 1, 2, 3, 4, &v[0], &v[1]);
+    rectng_AnchosDesdePuntoFijo(4, 2, .5, .75, 9, &v[0], &v[1], &v[2], &v[3]);
+    EXPECT_EQ(vn::Prueba::toma_informes().size(), 2u);
+    EXPECT_EQ(v[0] + v[1] + v[2] + v[3], 0);
+}
