@@ -403,8 +403,9 @@ vnbool p_seg_corta_dentro_rect(const Punto2D *a, const Punto2D *b, const Punto2D
     if (solo_enteros == CIERTO) return FALSO;
 
     // From left to right.
-    auto [sx1, sy1] = a->x < b->x ? *a : *b;
-    auto [sx2, sy2] = a->x < b->x ? *b : *a;
+    const Punto2D &izquierda = a->x < b->x ? *a : *b, &derecha = a->x < b->x ? *b : *a;
+    double sx1 = izquierda.x, sy1 = izquierda.y, sy2 = derecha.y;
+    const double sx2 = derecha.x;
     const auto fuera_en_y = [&] { return (sy1 > y2 && sy2 > y2) || (sy1 < y1 && sy2 < y1); };
     if (sx2 < x1 || sx1 > x2 || fuera_en_y()) return FALSO;
     if (sx1 <= x1) {
