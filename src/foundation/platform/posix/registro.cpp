@@ -82,13 +82,18 @@ texto lee(std::string_view s, bool escapes) {
             else
                 for (int k = 0; k < 4 && i < s.size() && cifra_hexadecimal(static_cast<unsigned char>(s[i])) < 16; ++k)
                     c = c << 4 | cifra_hexadecimal(static_cast<unsigned char>(s[i++]));
-            if (c == 0) continue; // no text holds it
         }
+        if (c == 0) continue; // no text holds it
         vnwchar par[2];
         if (c >= 0xD800 && c < 0xE000) t += static_cast<vnwchar>(c);
         else t.append(par, escribe_utf16(c, par));
     }
     return t;
+}
+
+// Names with one backslash between two.
+bool es_camino(const texto &clave) {
+    return !clave.empty() && clave.front() != u'\\' && clave.back() != u'\\' && clave.find(u"\\\\") == texto::npos;
 }
 
 claves interpreta(std::string_view s) {
@@ -99,8 +104,10 @@ claves interpreta(std::string_view s) {
         std::string_view linea = s.substr(0, fin);
         s.remove_prefix(std::min(fin + 1, s.size()));
         if (linea.ends_with('\r')) linea.remove_suffix(1);
-        if (linea.starts_with('[') && linea.ends_with(']')) actual = &todas[lee(linea.substr(1, linea.size() - 2), false)];
-        else if (const size_t igual = linea.find('='); actual != nullptr && igual != std::string_view::npos && linea[0] != ';')
+        if (linea.starts_with('[') && linea.ends_with(']')) {
+            const texto clave = lee(linea.substr(1, linea.size() - 2), false);
+            actual = es_camino(clave) ? &todas[clave] : nullptr;
+        } else if (const size_t igual = linea.find('='); actual != nullptr && igual != std::string_view::npos && linea[0] != ';')
             (*actual)[lee(linea.substr(0, igual), true)] = lee(linea.substr(igual + 1), true);
     }
     return todas;
@@ -189,7 +196,7 @@ class entre_programas {
 bool es_clave(const texto &clave) {
     for (size_t i = 0; i < clave.size();)
         if (const uint32_t c = lee_utf16(clave, i); se_escapa(c, false)) return false;
-    return !clave.empty() && clave.find(u"\\\\") == texto::npos;
+    return es_camino(clave);
 }
 
 // Whether `otra` lies under `clave`.

@@ -1,0 +1,324 @@
+#define VN_MODULO "vornconf_test"
+#include "units/vornconf.h"
+#include "fallos.h"
+#include "foundation/fichconf.h"
+#include "foundation/msglocal.h"
+#include "foundation/operaciones_fichero.h"
+#include "plataforma/proceso.h"
+#include "prueba.h"
+#include <array>
+#include <chrono>
+#include <filesystem>
+#include <optional>
+
+using vn::toma;
+using internacional = vornconf_internacional;
+
+namespace {
+
+// The file in a directory of the test's; the record of the process as the file has it.
+class en_directorio {
+  public:
+    explicit en_directorio(const std::string &base = vn::Prueba::directorio()) : fichero_(base + "/VORN/estructa/internac.ini") {
+        vn::pon_variable("XDG_RUNTIME_DIR", base);
+        msidioma_establece_idioma(0); // in the children too
+        fichconf_establece_directorio_base(vn::ancho(base).c_str());
+        vornconf_par_lee_internacional(nullptr);
+    }
+    ~en_directorio() { fichconf_establece_directorio_base(nullptr); }
+    en_directorio(const en_directorio &) = delete;
+    en_directorio &operator=(const en_directorio &) = delete;
+
+    bool hay() const { return vn::existe(fichero_); }
+    std::string contenido() const { return vn::lee_fichero(fichero_); }
+    void pon(const std::string &texto) const { vn::graba_fichero(fichero_, texto); }
+    const std::string &nombre() const { return fichero_; }
+
+  private:
+    std::string fichero_;
+};
+
+std::array<uint32_t, 7> valores(const internacional &r) {
+    return {r.hormigon, r.conformados, r.laminados, r.electrica, r.madera, r.sistema_unidades, r.sistema_unidades_energia};
+}
+std::array<uint32_t, 7> leidos() {
+    internacional r{};
+    vornconf_par_lee_internacional(&r);
+    return valores(r);
+}
+constexpr std::array<uint32_t, 7> EN_ESPANYOL = {47, 8, 10, 4, 3, 1, 0};
+
+internacional todo(uint32_t n) { return {n, n, n, n, n, n, n}; }
+
+std::string texto_de(const std::array<uint32_t, 7> &v, int idioma) {
+    std::string t = "[Internacional]\nIdioma=" + std::to_string(idioma);
+    constexpr const char *CLAVES[] = {"Norma", "NormaAceroConf", "NormaAceroLam", "NormaElec", "NormaMadera", "Sistema de Unidades", "SistemaUnidadEnergia"};
+    for (size_t i = 0; i < v.size(); ++i) t += std::string("\n") + CLAVES[i] + "=" + std::to_string(v[i]);
+    return t + "\n";
+}
+
+} // namespace
+
+PRUEBA(vornconf, sin_fichero_manda_el_idioma) {
+    const en_directorio d;
+    EXPECT_EQ(leidos(), EN_ESPANYOL);
+    EXPECT_FALSE(d.hay());
+    const struct {
+        int idioma;
+        std::array<uint32_t, 7> esperado;
+    } filas[] = {
+        {3, EN_ESPANYOL}, {9, EN_ESPANYOL}, {1, {13, 10, 12, 4, 4, 2, 0}}, {2, {11, 6, 8, 2, 1, 2, 0}}, {5, {51, 19, 36, 4, 2, 1, 0}},
+        {8, {12, 7, 9, 4, 1, 2, 0}}, {38, {12, 7, 9, 4, 1, 2, 0}}, {24, {53, 28, 32, 4, 1, 1, 0}}, {39, {53, 28, 32, 4, 1, 2, 0}}, {40, {12, 7, 9, 4, 1, 1, 0}},
+    };
+    for (const auto &f : filas) {
+        msidioma_establece_idioma(f.idioma);
+        EXPECT_EQ(leidos(), f.esperado) << f.idioma;
+    }
+    for (int i = 0; i <= 40; ++i) {
+        msidioma_establece_idioma(i);
+        const auto v = leidos(); // a report would fail the test
+        EXPECT_TRUE(v[5] == 1 || v[5] == 2) << i;
+    }
+    // The last language has no number in the file's line.
+    EXPECT_EQ(ESPERA_INFORME("idioma_int > 0 && idioma_int <= NUM_IDIOMAS", vornconf_Internacional_idioma()), 0u);
+    msidioma_establece_idioma(39);
+    EXPECT_EQ(vornconf_Internacional_idioma(), 40u);
+}
+
+PRUEBA(vornconf, el_fichero_tiene_nueve_lineas) {
+    const en_directorio d;
+    const internacional r{12, 34, 4294967295u, 7, 8, 3, 2};
+    vornconf_par_graba_internacional(&r);
+    EXPECT_EQ(d.contenido(), "[Internacional]\nIdioma=1\nNorma=12\nNormaAceroConf=34\nNormaAceroLam=-1\nNormaElec=7\nNormaMadera=8\n"
+                             "Sistema de Unidades=3\nSistemaUnidadEnergia=2\n");
+    EXPECT_EQ(leidos(), valores(r));
+    EXPECT_EQ(vornconf_es_sistema_unidades_inglesas(), CIERTO);
+    EXPECT_EQ(vornconf_Internacional_normaHorm() + vornconf_Internacional_normaAceroConf(), 46u);
+    EXPECT_EQ(vornconf_Internacional_normaAceroLam(), 4294967295u);
+    EXPECT_EQ(vornconf_Internacional_normaMadera(), 8u);
+    EXPECT_EQ(vornconf_Internacional_sistema_unidades_energia(), 2u);
+
+    // Another's keys are lost with the next write; one standard goes to the file and not to the record.
+    d.pon("; mine\r\n[Internacional]\r\nNorma = 5\r\nOtra=1\r\nSistema de Unidades=2\r\nNormaMadera=0\r\n[Mas]\r\nNorma=9\r\n");
+    EXPECT_EQ(vornconf_lee_norma_hormigon(), 5u);
+    vornconf_graba_norma_acero_laminado(77);
+    EXPECT_EQ(d.contenido(), texto_de({5, 8, 77, 4, 3, 2, 0}, 1));
+    EXPECT_EQ(vornconf_lee_norma_acero_laminado(), 77u);
+    EXPECT_EQ(vornconf_Internacional_normaAceroLam(), 4294967295u);
+    vornconf_graba_norma_hormigon(78);
+    vornconf_graba_norma_acero_conformado(79);
+    EXPECT_EQ(vornconf_lee_norma_hormigon() + vornconf_lee_norma_acero_conformado(), 157u);
+    EXPECT_EQ(vornconf_lee_norma_madera(), 3u);
+    EXPECT_EQ(vornconf_Internacional_sistema_unidades(), 3u);
+}
+
+PRUEBA(vornconf, lo_que_se_cambia_para_una_ejecucion) {
+    const en_directorio d;
+    vornconf_Internacional_set_sistema_unidades(VORNCONF_SU_IMPERIAL);
+    vornconf_Internacional_set_sistema_unidades_energia(VORNNORM_UNIDAD_ENERGIA_BTU);
+    EXPECT_EQ(vornconf_lee_norma_hormigon(), 47u);
+    EXPECT_EQ(vornconf_Internacional_sistema_unidades(), VORNCONF_SU_IMPERIAL);
+    for (const uint32_t mal : {0u, 4u})
+        ESPERA_INFORME("sistema_unidades == VORNCONF_SU_MKS || sistema_unidades == VORNCONF_SU_INTERNACIONAL || sistema_unidades == "
+                       "VORNCONF_SU_IMPERIAL", vornconf_Internacional_set_sistema_unidades(mal));
+    ESPERA_INFORME("sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_JULIO || sistema_unidades_energia == "
+                   "VORNNORM_UNIDAD_ENERGIA_KCAL || sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_BTU",
+                   vornconf_Internacional_set_sistema_unidades_energia(3));
+    EXPECT_EQ(vornconf_es_sistema_unidades_inglesas(), CIERTO);
+    EXPECT_EQ(vornconf_Internacional_sistema_unidades_energia(), VORNNORM_UNIDAD_ENERGIA_BTU);
+    EXPECT_FALSE(d.hay());
+    EXPECT_EQ(leidos(), EN_ESPANYOL);
+    // What the file holds is not judged when it is read.
+    d.pon("[Internacional]\nSistema de Unidades=9\n");
+    EXPECT_EQ(leidos()[5], 9u);
+    vornconf_es_sistema_unidades_inglesas();
+    EXPECT_EQ(toma_informes().size(), 1u);
+}
+
+PRUEBA(vornconf, se_crea_solo_si_no_existe) {
+    const en_directorio d;
+    vornconf_Internacional_set_sistema_unidades(3);
+    vornconf_crea_internac_por_defecto_si_no_existe(2);
+    EXPECT_EQ(d.contenido(), texto_de({11, 6, 8, 2, 1, 2, 0}, 1)); // the language is the active one
+    EXPECT_EQ(vornconf_Internacional_sistema_unidades(), 2u);
+    EXPECT_EQ(vornconf_Internacional_normaHorm(), 11u);
+    d.pon("[Internacional]");
+    vornconf_Internacional_set_sistema_unidades(3);
+    vornconf_crea_internac_por_defecto_si_no_existe(2);
+    EXPECT_EQ(d.contenido(), "[Internacional]");
+    EXPECT_EQ(vornconf_Internacional_sistema_unidades(), 3u);
+    EXPECT_EQ(leidos(), EN_ESPANYOL);
+}
+
+PRUEBA(vornconf, un_fichero_estropeado_da_los_valores_por_defecto) {
+    const en_directorio d;
+    std::string azar;
+    for (uint32_t x = 12345; azar.size() < 100000;) azar += static_cast<char>((x = x * 1664525 + 1013904223) >> 24);
+    const std::string bien = texto_de({1, 1, 1, 1, 1, 3, 1}, 1);
+    for (const std::string &mal : {std::string(), azar, "[Internacional" + azar, bien + std::string(10 << 20, ' '), "x" + bien.substr(1),
+                                   std::string("[Internacional]\nNorma=abc\nNormaElec=\nSistema de Unidades=0\n")}) {
+        d.pon(mal);
+        EXPECT_EQ(leidos(), EN_ESPANYOL) << mal.substr(0, 30);
+    }
+    // Cut anywhere, as by hand: what is left of it and the defaults, never a report.
+    for (size_t n = 0; n < bien.size(); ++n) {
+        d.pon(bien.substr(0, n));
+        const auto v = leidos();
+        for (size_t i = 0; i < v.size(); ++i) EXPECT_TRUE(v[i] == EN_ESPANYOL[i] || v[i] == (i == 5 ? 3u : 1u)) << n;
+    }
+    // A directory is read as nothing and written with a report; what stands there stays.
+    std::filesystem::remove(d.nombre());
+    std::filesystem::create_directory(d.nombre());
+    EXPECT_EQ(leidos(), EN_ESPANYOL);
+    vornconf_graba_norma_hormigon(5);
+    EXPECT_EQ(toma_informes().size(), 1u);
+    EXPECT_TRUE(std::filesystem::is_directory(d.nombre()));
+    std::filesystem::remove(d.nombre());
+    // Without permission.
+    d.pon(bien);
+    {
+        const vn::con_fallos sin_permiso({vn::fallo::sin_permiso, 1});
+        vornconf_graba_norma_hormigon(5);
+        EXPECT_FALSE(sin_permiso.hechas().empty());
+    }
+    toma_informes();
+    vnoperaciones_fichero malas = *operaciones_fichero_del_sistema();
+    malas.abre = [](const vnwchar *, uint32_t, vnid_fichero *) { return VN_FICH_SIN_PERMISO; };
+    operaciones_fichero_instala(&malas);
+    EXPECT_EQ(leidos(), EN_ESPANYOL);
+    const internacional r = todo(2);
+    vornconf_par_graba_internacional(&r);
+    operaciones_fichero_instala(nullptr);
+    const auto informes = toma_informes();
+    ASSERT_EQ(informes.size(), 1u);
+    EXPECT_EQ(informes[0].expresion, "f_lc_fopen");
+}
+
+PRUEBA(vornconf, los_textos_en_cada_idioma) {
+    const struct {
+        int idioma;
+        const char *mks, *imperial, *kcal;
+    } filas[] = {
+        {0, "Sistema de unidades: M.K.S.", "Sistema de unidades: Unidades Inglesas", "kilocalor\xED" "a, kcal"},
+        {1, "Syst\xE8me d'unit\xE9s: M.K.S.", "Syst\xE8me d'unit\xE9s: Unit\xE9s anglo-saxonnes", "kilocalorie, kcal"},
+        {2, "Sistema de unidades: M.K.S. (m.tf.s.)", "Sistema de unidades: Unidades Inglesas", "quilocaloria, kcal"},
+        {3, "Sistema d'unitats: M.K.S.", "Sistema d'unitats: Unitats angleses", "quilocaloria, kcal"},
+        {5, "Sistema de unidades: M.K.S.", "Sistema de unidades: Unidades Inglesas", "quilocaloria, kcal"},
+        {8, "System of units: M.K.S.", "System of units: Imperial units", "kilocalorie, kcal"},
+        {31, "Uk\xB3" "ad jednostek: M.K.S.", "Uk\xB3" "ad jednostek: Jednostki anglosaskie", "kilokaloria, kcal"},
+    };
+    for (const auto &f : filas) {
+        msidioma_establece_idioma(f.idioma);
+        EXPECT_EQ(toma(vornconf_texto_sistema_de_unidades(VORNCONF_SU_MKS)), f.mks);
+        EXPECT_EQ(toma(vornconf_texto_sistema_de_unidades(VORNCONF_SU_IMPERIAL)), f.imperial);
+        EXPECT_STREQ(vornconf_texto_sistema_unidad_energia(VORNNORM_UNIDAD_ENERGIA_KCAL), f.kcal);
+    }
+    // Every text of every language stands in the language's ANSI page, and without its id.
+    for (int i = 0; i <= 40; ++i) {
+        msidioma_establece_idioma(i);
+        for (uint32_t k = 0; k < 3; ++k) {
+            const std::string t = toma(vornconf_texto_sistema_de_unidades(k + 1)) + vornconf_texto_sistema_unidad_energia(k);
+            EXPECT_EQ(t.find_first_of("?<>"), std::string::npos) << i << " " << t;
+        }
+    }
+}
+
+// ---------------------------------------------------------------- many programs
+
+namespace {
+
+double segundos_desde(std::chrono::steady_clock::time_point t) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t).count();
+}
+
+// File operations of one writing, once the directory is there.
+size_t operaciones_de_una_grabacion() {
+    const internacional r = todo(1);
+    vornconf_par_graba_internacional(&r);
+    const vn::con_fallos cuenta({});
+    vornconf_par_graba_internacional(&r);
+    return cuenta.hechas().size();
+}
+
+constexpr std::array MUERTES = {vn::fallo::muere_antes, vn::fallo::muere_a_medias, vn::fallo::muere_despues};
+
+} // namespace
+
+// Arguments: the base directory, the value that it writes, how it dies (or -1), and at which file operation of the second
+// writing. 0 when all that it read was whole.
+HIJO(reescribe_configuracion) {
+    const en_directorio d(args.at(0));
+    const auto n = static_cast<uint32_t>(std::stoul(args.at(1)));
+    const int muerte = std::stoi(args.at(2));
+    const internacional r = todo(n);
+    for (int i = 0; i < 3; ++i) {
+        std::optional<vn::con_fallos> plan;
+        if (muerte >= 0 && i == 1) plan.emplace(vn::plan_de_fallos{MUERTES[static_cast<size_t>(muerte)], std::stoul(args.at(3))});
+        vornconf_par_graba_internacional(&r);
+        plan.reset();
+        const auto v = leidos();
+        if (v != valores(todo(v[0]))) return 3;
+    }
+    return error_interno_numero_de_informes() == 0 ? 0 : 4;
+}
+
+// Arguments: the base directory, how it dies, and at which file operation of a writing.
+HIJO(muere_escribiendo) {
+    const en_directorio d(args.at(0));
+    const internacional r = todo(9);
+    const vn::con_fallos plan({MUERTES[std::stoul(args.at(1))], std::stoul(args.at(2))});
+    vornconf_par_graba_internacional(&r);
+    return 0;
+}
+
+PRUEBA(vornconf, muchos_programas_lo_reescriben_y_algunos_mueren_a_medias) {
+    const en_directorio d;
+    const size_t operaciones = operaciones_de_una_grabacion();
+    EXPECT_GT(operaciones, 5u);
+    constexpr size_t PROGRAMAS = 200;
+    std::vector<vn::proceso> hijos;
+    const auto lee_entero = [&] {
+        const auto v = leidos();
+        EXPECT_EQ(v, valores(todo(v[0])));
+    };
+    for (size_t i = 0; i < PROGRAMAS; ++i) {
+        const bool muere = i % 3 == 2;
+        hijos.emplace_back("reescribe_configuracion",
+                           std::vector<std::string>{directorio(), std::to_string(100 + i), muere ? std::to_string(i / 3 % 3) : "-1",
+                                                    std::to_string(i / 9 % operaciones)});
+        lee_entero();
+    }
+    for (size_t i = 0; i < PROGRAMAS; ++i) {
+        std::optional<int> r;
+        for (int vez = 0; vez < 60000 && !(r = hijos[i].espera(1)); ++vez) lee_entero();
+        EXPECT_EQ(r, i % 3 == 2 ? vn::proceso::MUERTO : 0) << i;
+    }
+    const auto v = leidos();
+    EXPECT_EQ(d.contenido(), texto_de(v, 1));
+    // What a dead one left beside it is in nobody's way.
+    const internacional r = todo(7);
+    vornconf_par_graba_internacional(&r);
+    EXPECT_EQ(d.contenido(), texto_de(valores(r), 1));
+    for (const auto &f : std::filesystem::directory_iterator(std::filesystem::path(d.nombre()).parent_path()))
+        EXPECT_TRUE(f.path().filename() == "internac.ini" || f.path().filename() == "internac.ini.bak") << f.path();
+}
+
+// One after the other, so that nobody mends what a dead one left before it is looked at.
+PRUEBA(vornconf, quien_muere_en_cualquier_punto_deja_el_viejo_o_el_nuevo_y_a_nadie_esperando) {
+    const en_directorio d;
+    const size_t operaciones = operaciones_de_una_grabacion();
+    const std::string nuevo = texto_de(valores(todo(9)), 1);
+    size_t nuevos = 0;
+    for (size_t i = 0; i < MUERTES.size() * operaciones; ++i) {
+        const internacional viejo = todo(static_cast<uint32_t>(100 + i));
+        const auto antes = std::chrono::steady_clock::now();
+        vornconf_par_graba_internacional(&viejo);
+        EXPECT_LT(segundos_desde(antes), 1.0) << i;
+        vn::proceso hijo("muere_escribiendo", {directorio(), std::to_string(i % MUERTES.size()), std::to_string(i / MUERTES.size())});
+        EXPECT_EQ(hijo.espera(60000), vn::proceso::MUERTO) << i;
+        const std::string queda = d.contenido();
+        nuevos += queda == nuevo;
+        EXPECT_TRUE(queda == nuevo || queda == texto_de(valores(viejo), 1)) << i << ":\n" << queda;
+    }
+    EXPECT_TRUE(nuevos > 0 && nuevos < MUERTES.size() * operaciones) << nuevos;
+}
