@@ -1,6 +1,9 @@
 // Number text: two decimals with thousands grouped, and grouped text back to numbers. Ours returns a new text, which is
 // freed; its peers write into the caller's room.
 #include "values.h"
+#include "foundation/cad.h"
+#include "foundation/widestr.h"
+#include "units/vornnum.h"
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -11,10 +14,13 @@
 
 namespace {
 
+using bench::debe;
+
 constexpr size_t N = 200'000;
 // Sizes from 0.1 to 1e8, of both signs, with four decimals; their texts with two, "-1,234.56".
 std::vector<double> numeros;
 std::vector<std::string> textos;
+std::vector<std::basic_string<vnwchar>> textos_u;
 size_t suma = 0;       // what the roads come to, so that nothing is left out
 double suma_reales = 0;
 
@@ -78,6 +84,35 @@ double lee_double_conversion(const std::string &s) {
 }
 #endif
 
+void escribe_nuestro() {
+    for (const double x : numeros) {
+        char *t = num_double_a_string(x, ',', '.', FALSO, 2);
+        suma += static_cast<unsigned char>(t[0]);
+        vornstr_destruye(&t);
+    }
+}
+void escribe_nuestro_u() {
+    for (const double x : numeros) {
+        vnwchar *t = num_double_a_string_u(x, ',', '.', FALSO, 2);
+        suma += static_cast<uint16_t>(t[0]);
+        widestr_destruye(&t);
+    }
+}
+void lee_nuestro() {
+    for (const std::string &s : textos) {
+        double v;
+        vornnum_dameNumeroDeCadenaConDecimales(s.c_str(), &v, ',', '.', VORNNUM_FORMATO_NUMERO);
+        suma_reales += v;
+    }
+}
+void lee_nuestro_u() {
+    for (const auto &s : textos_u) {
+        double v;
+        vornnum_dameNumeroDeCadenaConDecimales_u(s.c_str(), &v, ',', '.', VORNNUM_FORMATO_NUMERO);
+        suma_reales += v;
+    }
+}
+
 template <size_t (*F)(double, char *)> void escribe() {
     char t[64];
     for (const double x : numeros) suma += F(x, t) + static_cast<unsigned char>(t[0]);
@@ -95,6 +130,21 @@ void prepara() {
         numeros.push_back(std::strtod(t, nullptr));
         con_to_chars(numeros.back(), t);
         textos.emplace_back(t);
+        textos_u.emplace_back(textos.back().begin(), textos.back().end());
+    }
+}
+
+// Both ways of ours against to_chars and strtod.
+void comprueba() {
+    for (size_t i = 0; i < N; ++i) {
+        char *t = num_double_a_string(numeros[i], ',', '.', FALSO, 2);
+        debe(t == textos[i], "the text differs");
+        vornstr_destruye(&t);
+        double v, w;
+        debe(vornnum_dameNumeroDeCadenaConDecimales(textos[i].c_str(), &v, ',', '.', VORNNUM_FORMATO_NUMERO) &&
+                 vornnum_dameNumeroDeCadenaConDecimales_u(textos_u[i].c_str(), &w, ',', '.', VORNNUM_FORMATO_NUMERO) &&
+                 v == con_strtod(textos[i]) && v == w,
+             "the number read differs");
     }
 }
 
@@ -102,21 +152,32 @@ void prepara() {
 
 int bench::numeros(int pasadas) {
     prepara();
+    comprueba();
     const double n = static_cast<double>(N);
     int fuera = mide("two decimals with thousands, per number",
                      {{"snprintf and grouping", n, escribe<con_snprintf>},
 #ifdef CON_DOUBLE_CONVERSION
                       {"double-conversion and grouping", n, escribe<con_double_conversion>},
 #endif
-                      {"to_chars and grouping", n, escribe<con_to_chars>}},
-                     {{"to_chars and grouping", "snprintf and grouping", 0}}, pasadas);
+                      {"to_chars and grouping", n, escribe<con_to_chars>},
+                      {"num_double_a_string", n, escribe_nuestro},
+                      {"num_double_a_string_u", n, escribe_nuestro_u}},
+                     {{"num_double_a_string", "snprintf and grouping", 0.4},
+                      {"num_double_a_string_u", "snprintf and grouping", 0.4},
+                      {"num_double_a_string", "to_chars and grouping", 0}},
+                     pasadas);
     fuera += mide("the same read, per text",
                   {{"strtod without separators", n, lee<con_strtod>},
 #ifdef CON_DOUBLE_CONVERSION
                    {"double-conversion without separators", n, lee<lee_double_conversion>},
 #endif
-                   {"from_chars without separators", n, lee<con_from_chars>}},
-                  {{"from_chars without separators", "strtod without separators", 0}}, pasadas);
+                   {"from_chars without separators", n, lee<con_from_chars>},
+                   {"vornnum_dameNumeroDeCadenaConDecimales", n, lee_nuestro},
+                   {"vornnum_dameNumeroDeCadenaConDecimales_u", n, lee_nuestro_u}},
+                  {{"vornnum_dameNumeroDeCadenaConDecimales", "strtod without separators", 0.55},
+                   {"vornnum_dameNumeroDeCadenaConDecimales_u", "strtod without separators", 0.55},
+                   {"vornnum_dameNumeroDeCadenaConDecimales", "from_chars without separators", 0}},
+                  pasadas);
     debe(suma > 0 && !std::isnan(suma_reales), "the roads gave something");
     return fuera;
 }

@@ -51,12 +51,13 @@ double vornnum_wtof(const vnwchar *cadena);
 uint32_t num_string_hex_a_ulong(const char *cadena);
 uint32_t num_string_hex_a_ulong_u(const vnwchar *cadena);
 
-/** New text of a number. With a number of decimals: rounded to them, halves away from zero on the 17 digits of the number
-    (prec_redondea_numero_decimales), and cut to fewer from a million on, so that no more than 15 or 16 digits are shown. A
-    number beyond 1e15 / 10^decimales, or below 10^-decimales once rounded to one decimal more, comes out in the
-    scientific form, "1.25e+16", as it does when `cientifica` asks for it. The scientific form of wide text has one
-    decimal more than that of ANSI text. With -1 decimals: up to 15 digits without the zeros at the end; scientific, with
-    all its zeros, from 1e15 on and below 1e-14. The separators must differ, and `sep_decimales` not be 0. */
+/** New text of a number. With a number of decimals: rounded to them by its exact decimal value (0.135, which is a little
+    more, gives 0.14; 0.125, the middle, goes to the even digit, 0.12), and cut to fewer decimals from a million on, so
+    that no more than 15 or 16 digits are shown. A number beyond 1e15 / 10^decimales or below 10^-decimales is first
+    rounded to one decimal more (prec_redondea_numero_decimales) and, if it is still there, comes out in the scientific
+    form, "1.25e+16", as it does when `cientifica` asks for it. The scientific form of wide text has one decimal more than
+    that of ANSI text. With -1 decimals: up to 15 digits, without the zeros at the end; scientific, with all its zeros,
+    from 1e15 on and below 1e-14. The separators must differ, and `sep_decimales` not be 0. */
 char *num_double_a_string(double valor, char sep_millares, char sep_decimales, vnbool cientifica,
                           VN_RANGO(-1, 9) int32_t decimales);
 vnwchar *num_double_a_string_u(double valor, vnwchar sep_millares, vnwchar sep_decimales, vnbool cientifica,
@@ -96,7 +97,7 @@ char *vornnum_convierte_a_numero_romano(VN_RANGO(1, 99) int32_t valor);
 vnwchar *vornnum_convierte_a_numero_romano_u(VN_RANGO(1, 99) int32_t valor);
 
 /** Width in characters of a field for numbers from `minimo` to `maximo`, told to `precision` (which must be above 5e-10 for
-    VORNNUM_FORMATO_NUMERO; values and precision in the unit of the format). An infinity is reported, and 0. */
+    VORNNUM_FORMATO_NUMERO; values and precision in the unit of the format). What is not finite is reported, and 0. */
 uint16_t vornnum_numero_digitos(double minimo, double maximo, double precision, uint32_t denominador,
                                 VN_RANGO(0, 3) int32_t formato);
 
