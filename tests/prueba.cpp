@@ -5,7 +5,9 @@
 #include "foundation/vnatexit.h"
 #include <algorithm>
 #include <atomic>
+#include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -206,10 +208,20 @@ void Prueba::TearDown() {
 
 } // namespace vn
 
+bool vn::pon_locale_con_coma() {
+    for (const char *l : {"es_ES.UTF-8", "de_DE.UTF-8", "fr_FR.UTF-8", "es_ES.utf8", "de_DE", "Spanish_Spain.1252", "de-DE"})
+        if (std::setlocale(LC_ALL, l) != nullptr && *std::localeconv()->decimal_point == ',') return true;
+    return false;
+}
+
 // A filter that selects nothing is a mistake in the list of tests.
 int main(int argc, char **argv) {
     if (const auto resultado = vn::corre_hijo(argc, argv)) return *resultado;
     ::testing::InitGoogleTest(&argc, argv);
+    if (std::getenv("VN_CON_COMA") != nullptr && !vn::pon_locale_con_coma()) {
+        std::fprintf(stderr, "no locale with a decimal comma\n");
+        return 1;
+    }
     const int resultado = RUN_ALL_TESTS();
     if (::testing::UnitTest::GetInstance()->test_to_run_count() == 0) {
         std::fprintf(stderr, "no test selected\n");

@@ -63,6 +63,8 @@ class mayor_bloque {
 };
 // Runs it inside a trap with so many allocations allowed, all by default; whether it came to its end.
 bool atrapado(const std::function<void()> &f, int reservas = INT32_MAX);
+// Gives the process a locale of the C library with a decimal comma, if it has one; whether it had.
+bool pon_locale_con_coma();
 // Whole content of a file, given by its UTF-8 name; fails the test if it cannot be read.
 std::string lee_fichero(const std::string &nombre);
 void graba_fichero(const std::string &nombre, std::string_view contenido);

@@ -2,8 +2,9 @@
 #include "units/vornnum.h"
 #include "foundation/afirma.h"
 #include "foundation/propio_priv.h"
+#include "foundation/unicode.h"
 #include "foundation/vnmath.h"
-#include "time/sysdata.h"
+#include "foundation/vnregional.h"
 #include "units/vornnum_priv.h"
 #include <algorithm>
 #include <array>
@@ -154,23 +155,20 @@ template <class C> C *todos_los_decimales(double valor) {
     return texto_nuevo(t);
 }
 
-// The first character of a separator's text, which is freed.
-template <class C> C caracter(C *texto) {
-    const propio<C> t(texto);
-    return t != nullptr ? *t : C{};
+// A separator in a width of text.
+template <class C> C separador(vnwchar c) {
+    if (sizeof(C) > 1 || c < 0x80) return static_cast<C>(c);
+    const vnwchar texto[] = {c, 0};
+    return static_cast<C>(*propio<char>(unicode_UNICODE_a_ANSI(texto)));
 }
 
 // How the region shows numbers.
 template <class C> aspecto<C> de_la_region(int32_t decimales, bool con_millares) {
-    aspecto<C> a{0, 0, false, decimales};
-    if constexpr (sizeof(C) > 1) a.sep_decimales = caracter(sysdata_separador_decimal_u());
-    else a.sep_decimales = caracter(sysdata_separador_decimal());
-    if (a.sep_decimales == 0) a.sep_decimales = '.';
-    if (!con_millares) return a;
-    if constexpr (sizeof(C) > 1) a.sep_millares = caracter(sysdata_separador_millares_u());
-    else a.sep_millares = caracter(sysdata_separador_millares());
-    if (a.sep_millares == a.sep_decimales) a.sep_millares = 0;
-    return a;
+    vnwchar decimal, millares;
+    vnregional_separadores(&decimal, &millares);
+    if (decimal == 0) decimal = '.';
+    if (!con_millares || millares == decimal) millares = 0;
+    return {separador<C>(millares), separador<C>(decimal), false, decimales};
 }
 
 template <class C> C *entero_a_string(int64_t valor, C sep_millares) {
@@ -180,14 +178,19 @@ template <class C> C *entero_a_string(int64_t valor, C sep_millares) {
     return texto_nuevo(t);
 }
 
-constexpr const char *DECENAS[] = {"", "X", "XX", "XXX", "XL", "L", "LX", "LXX", "LXXX", "XC"},
-                     *UNIDADES[] = {"", "I", "II", "III", "IV", "V", "VI", "VII", "VIII", "IX"};
+// A digit from 0 to 9 in the letters of its place: a the unit of it, b five and c ten of those.
+constexpr std::string_view CIFRA_ROMANA[] = {"", "a", "aa", "aaa", "ab", "b", "ba", "baa", "baaa", "ac"};
+
+template <class C> void pon_cifra_romana(texto_numero<C> &t, int32_t cifra, std::string_view letras) {
+    const std::string_view &p = CIFRA_ROMANA[cifra];
+    for (auto c = p.rbegin(); c != p.rend(); ++c) t.pon(static_cast<C>(letras[static_cast<size_t>(*c - 'a')]));
+}
 
 template <class C> C *romano(int32_t valor) {
     if (!AFIRMA(valor > 0) || !AFIRMA(valor < 100)) return nullptr;
     texto_numero<C> t;
-    t.pon_ascii(UNIDADES[valor % 10]);
-    t.pon_ascii(DECENAS[valor / 10]);
+    pon_cifra_romana(t, valor % 10, "IVX");
+    pon_cifra_romana(t, valor / 10, "XLC");
     return texto_nuevo(t);
 }
 

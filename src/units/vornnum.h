@@ -67,16 +67,16 @@ vnwchar *num_double_a_string_u(double valor, vnwchar sep_millares, vnwchar sep_d
     what halving it gives, the smallest that is as near; a denominator of 1 drops it. A length that has a fraction needs a
     denominator above 0. Feet (or inches alone) beyond 1e15 have no inches to show and come out as a number in the
     scientific form before the mark; what is not finite, without a mark. */
-char *vornnum_double_a_cadena(double valor, char sep_millares, char sep_decimales, VN_RANGO(-1, 9) int32_t decimales,
+char *vornnum_double_a_cadena(double valor, char sep_millares, char sep_decimales, int32_t decimales,
                               VN_RANGO(0, 3) int32_t formato, uint32_t denominador);
 vnwchar *vornnum_double_a_cadena_u(double valor, vnwchar sep_millares, vnwchar sep_decimales,
-                                   VN_RANGO(-1, 9) int32_t decimales, VN_RANGO(0, 3) int32_t formato,
+                                   int32_t decimales, VN_RANGO(0, 3) int32_t formato,
                                    uint32_t denominador);
 /** New text with all significant decimals and a period, the last character if there are no decimals: "2.". */
 char *vornnum_double_a_cadena_printf_todos_decimales(double valor);
 vnwchar *vornnum_double_a_cadena_printf_todos_decimales_u(double valor);
 
-/** New text with the separators of the region (sysdata.h). Where both are one character, thousands are not grouped. */
+/** New text with the separators of the region (vnregional.h). Where both are one character, thousands are not grouped. */
 char *vornnum_double_a_string_con_formato_windows(double valor, VN_RANGO(-1, 9) int32_t decimales);
 vnwchar *vornnum_double_a_string_con_formato_windows_u(double valor, VN_RANGO(-1, 9) int32_t decimales);
 /** The same filled with blanks to a column: at least `relleno_izquierda` characters before the decimal separator and

@@ -98,9 +98,7 @@ PRUEBA(formato, una_conversion_que_no_existe_se_escribe_como_esta) {
 
 PRUEBA(formato, no_depende_del_idioma_de_la_biblioteca_de_c) {
     const std::string antes = std::setlocale(LC_ALL, nullptr);
-    bool con_coma = false;
-    for (const char *l : {"es_ES.UTF-8", "de_DE.UTF-8", "fr_FR.UTF-8", "es_ES.utf8", "de_DE", "Spanish_Spain.1252", "de-DE"})
-        con_coma = con_coma || (std::setlocale(LC_ALL, l) != nullptr && *std::localeconv()->decimal_point == ',');
+    const bool con_coma = vn::pon_locale_con_coma();
     EXPECT_EQ(da("%.2f|%g|%e", 1234567.5, 1.5, 2.5), "1234567.50|1.5|2.500000e+00");
     EXPECT_EQ(cad_atof("1.5"), 1.5);
     EXPECT_EQ(cad_atof("1,5"), 1.0);
