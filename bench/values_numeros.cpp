@@ -98,6 +98,13 @@ void escribe_nuestro_u() {
         widestr_destruye(&t);
     }
 }
+void escribe_de_la_region() {
+    for (const double x : numeros) {
+        vnwchar *t = vornnum_double_a_string_con_formato_windows_u(x, 2);
+        suma += static_cast<uint16_t>(t[0]);
+        widestr_destruye(&t);
+    }
+}
 void lee_nuestro() {
     for (const std::string &s : textos) {
         double v;
@@ -161,9 +168,11 @@ int bench::numeros(int pasadas) {
 #endif
                       {"to_chars and grouping", n, escribe<con_to_chars>},
                       {"num_double_a_string", n, escribe_nuestro},
-                      {"num_double_a_string_u", n, escribe_nuestro_u}},
+                      {"num_double_a_string_u", n, escribe_nuestro_u},
+                      {"with the separators of the region", n, escribe_de_la_region}},
                      {{"num_double_a_string", "snprintf and grouping", 0.4},
                       {"num_double_a_string_u", "snprintf and grouping", 0.4},
+                      {"with the separators of the region", "snprintf and grouping", 0.4},
                       {"num_double_a_string", "to_chars and grouping", 0}},
                      pasadas);
     fuera += mide("the same read, per text",

@@ -56,8 +56,8 @@ uint32_t num_string_hex_a_ulong_u(const vnwchar *cadena);
     that no more than 15 or 16 digits are shown. A number beyond 1e15 / 10^decimales or below 10^-decimales is first
     rounded to one decimal more (prec_redondea_numero_decimales) and, if it is still there, comes out in the scientific
     form, "1.25e+16", as it does when `cientifica` asks for it. The scientific form of wide text has one decimal more than
-    that of ANSI text. With -1 decimals: up to 15 digits, without the zeros at the end; scientific, with all its zeros,
-    from 1e15 on and below 1e-14. The separators must differ, and `sep_decimales` not be 0. */
+    that of ANSI text. With -1 decimals: as many as are sure, 15 at most, without the zeros at the end; scientific, with
+    all its zeros, from 1e15 on and below 1e-14. The separators must differ, and `sep_decimales` not be 0. */
 char *num_double_a_string(double valor, char sep_millares, char sep_decimales, vnbool cientifica,
                           VN_RANGO(-1, 9) int32_t decimales);
 vnwchar *num_double_a_string_u(double valor, vnwchar sep_millares, vnwchar sep_decimales, vnbool cientifica,

@@ -7,32 +7,27 @@
 #include <cfloat>
 #include <charconv>
 #include <cmath>
-#include <limits>
 
 using namespace vn;
 
 namespace {
 
-constexpr double INFINITO = std::numeric_limits<double>::infinity(), NADA = std::numeric_limits<double>::quiet_NaN();
 double anterior(double x) { return std::nextafter(x, 0.); }
-double siguiente(double x) { return std::nextafter(x, INFINITO); }
+double siguiente(double x) { return std::nextafter(x, HUGE_VAL); }
 
-// Both widths, which must agree but in the scientific form.
+// Both widths, which must agree but for one decimal in the scientific form.
 std::string da(double v, int decimales, char millares = 0, char sep = '.', vnbool cientifica = FALSO) {
     const std::string s = toma(num_double_a_string(v, millares, sep, cientifica, decimales)),
                       u = toma(num_double_a_string_u(v, static_cast<vnwchar>(millares), static_cast<vnwchar>(sep), cientifica,
                                                      decimales));
-    if (s.find('e') == std::string::npos) EXPECT_EQ(u, s) << v;
-    else EXPECT_EQ(u.size(), s.size() + 1) << u << " and " << s;
-    EXPECT_LT(u.size(), static_cast<size_t>(TAM_BUFFER_NUM));
+    EXPECT_TRUE(s.find('e') == std::string::npos ? u == s : u.size() == s.size() + 1) << u << " and " << s;
     return s;
 }
 
-// A number of any size from 1e-4 on and of either sign, whose multiplication is the same everywhere.
+// A number of any size from 1e-4 on and of either sign, whose multiplications are the same everywhere.
 double cualquiera(azar &a, int32_t cifras) {
     double v = a.entre(1, 10);
-    for (int32_t k = static_cast<int32_t>(a.entero(static_cast<uint32_t>(cifras + 4))) - 4; k != 0; k -= k > 0 ? 1 : -1)
-        v = k > 0 ? v * 10 : v / 10;
+    for (int64_t k = a.entero_entre(-4, cifras - 1); k != 0; k -= k > 0 ? 1 : -1) v = k > 0 ? v * 10 : v / 10;
     return a.moneda() ? v : -v;
 }
 
@@ -45,12 +40,12 @@ PRUEBA(vornnum, formas_de_un_numero) {
         const char *fija, *cientifica;
     } FILAS[] = {
         {1234.5, 2, "1.234,50", "1,23e+03"}, {-1234567.891, 2, "-1.234.567,89", "-1,23e+06"}, {0, 0, "0", "0,e+00"},
-        {-0., 2, "0,00", "0,00e+00"}, {123456, 0, "123.456", "1,e+05"}, {NADA, 3, "nan", "nan"}, {-INFINITO, 3, "-inf", "-inf"},
+        {-0., 2, "0,00", "0,00e+00"}, {123456, 0, "123.456", "1,e+05"}, {NAN, 3, "nan", "nan"}, {-INFINITY, 3, "-inf", "-inf"},
         // A little above the middle; the middle, which goes to the even digit.
         {999.995, 2, "1.000,00", "1,00e+03"}, {0.135, 2, "0,14", "1,35e-01"}, {1.005, 2, "1,00", "1,00e+00"},
         {0.125, 2, "0,12", "1,25e-01"}, {0.375, 2, "0,38", "3,75e-01"}, {-2.5, 0, "-2", "-2,e+00"},
         // With automatic decimals the zeros of the scientific form stay.
-        {1234.5, -1, "1.234,5", "1,2345000000e+03"}, {0, -1, "0", "0,0e+00"}, {INFINITO, -1, "inf", "inf"},
+        {1234.5, -1, "1.234,5", "1,2345000000e+03"}, {0, -1, "0", "0,0e+00"}, {INFINITY, -1, "inf", "inf"},
         {0.1, -1, "0,1", "1,000000000000000e-01"}, {200. / 3, -1, "66,666666666667", "6,666666666667e+01"},
         {200000. / 3, -1, "66.666,666666667", "6,666666667e+04"}, {1e16, -1, "1,00000000000000e+16", "1,00000000000000e+16"},
         {-DBL_MAX, 9, "-1,797693135e+308", "-1,797693135e+308"}, {5e-324, -1, "4,940656458412465e-324", "4,940656458412465e-324"},
@@ -60,19 +55,21 @@ PRUEBA(vornnum, formas_de_un_numero) {
         EXPECT_EQ(da(f.v, f.decimales, '.', ',', CIERTO), f.cientifica);
     }
     EXPECT_EQ(toma(num_double_a_string_u(1234.5, 0, u',', CIERTO, 2)), "1,234e+03");
-    for (const auto &[v, texto] : std::initializer_list<std::pair<double, const char *>>{{2, "2."}, {-2.5, "-2.5"}, {0, "0."}}) {
-        EXPECT_EQ(toma(vornnum_double_a_cadena_printf_todos_decimales(v)), texto);
-        EXPECT_EQ(toma(vornnum_double_a_cadena_printf_todos_decimales_u(v)), texto);
-    }
+    EXPECT_EQ(toma(vornnum_double_a_cadena_printf_todos_decimales(2)), "2.");
+    EXPECT_EQ(toma(vornnum_double_a_cadena_printf_todos_decimales_u(-2.5)), "-2.5");
     ESPERA_INFORME("sep_millares != sep_decimales", num_double_a_string(1, '.', '.', FALSO, 2));
     ESPERA_INFORME("sep_decimales != 0", num_double_a_string(1, '.', 0, FALSO, 2));
     ESPERA_INFORME("decimales <= 9", num_double_a_string(1, 0, '.', FALSO, 10));
+    EXPECT_EQ(toma(num_long_a_string(INT32_MIN, '.')), "-2.147.483.648");
+    EXPECT_EQ(toma(num_ulong_a_string_u(UINT32_MAX, 0)), "4294967295");
+    for (const auto &[n, texto] : std::initializer_list<std::pair<int, const char *>>{{1, "I"}, {38, "XXXVIII"}, {49, "XLIX"}, {90, "XC"}})
+        EXPECT_EQ(toma(vornnum_convierte_a_numero_romano(n)), texto);
 }
 
 PRUEBA(vornnum, los_limites_de_la_forma_fija) {
     double superior = 1e15;
     for (int d = 0; d <= 9; ++d, superior /= 10) {
-        const double inferior = std::stod("1e-" + std::to_string(d));
+        const double inferior = cad_atof(("1e-" + std::to_string(d)).c_str());
         const auto es_fija = [d](double v) { return da(v, d).find('e') == std::string::npos; };
         EXPECT_TRUE(es_fija(superior) && es_fija(-inferior)) << d;
         EXPECT_FALSE(es_fija(siguiente(superior)) || es_fija(-2 * superior)) << d;
@@ -84,11 +81,8 @@ PRUEBA(vornnum, los_limites_de_la_forma_fija) {
     EXPECT_EQ(da(0.00449, 2), "4.00e-03");
     EXPECT_EQ(da(-1e-20, 2), "-0.00e+00");
     // Fewer decimals from a million on, also where the rounding has come to it.
-    EXPECT_EQ(da(1e6, 9), "1000000.00000000");
     EXPECT_EQ(da(anterior(1e6), 9), "1000000.00000000");
     EXPECT_EQ(da(999999.9999999994, 9), "999999.999999999");
-    EXPECT_EQ(da(anterior(1e12), 3), "1000000000000.00");
-    EXPECT_EQ(da(1e12, 2), "1000000000000.00");
 }
 
 // The decisions at powers of ten do not depend on a logarithm, which is off by a digit there on some platforms.
@@ -122,34 +116,19 @@ PRUEBA(vornnum, la_forma_fija_es_el_decimal_exacto) {
     azar a(1);
     double unidad[10] = {1};
     for (int d = 1; d < 10; ++d) unidad[d] = unidad[d - 1] * 10;
-    size_t distintos = 0;
-    for (int i = 0; i < 1'500'000 && distintos < 10; ++i) {
+    for (int i = 0; i < 2'000'000; ++i) {
         const int d = i % 10;
         double v = cualquiera(a, 15 - d);
-        if (i % 3 != 0) v = (std::floor(v * unidad[d]) + 0.5) / unidad[d]; // at a tie, or beside it
+        if (i % 3 != 0) v = (std::floor(v * unidad[d]) + 0.5) / unidad[d];
         if (i % 3 == 2) v = a.moneda() ? anterior(v) : siguiente(v);
         if (std::fabs(v) * unidad[d] < 1 || std::fabs(v) * unidad[d] >= 999'999'999'999'999.) continue;
         char esperado[400];
         *std::to_chars(esperado, esperado + sizeof esperado, v, std::chars_format::fixed, d).ptr = 0;
         char *t = num_double_a_string(v, 0, '.', FALSO, d);
-        if (std::string_view(t) != esperado) ++distintos, ADD_FAILURE() << t << ", not " << esperado;
+        const bool bien = std::string_view(t) == esperado;
         vornstr_destruye(&t);
+        ASSERT_TRUE(bien) << esperado;
     }
-}
-
-PRUEBA(vornnum, enteros_y_romanos) {
-    EXPECT_EQ(toma(num_long_a_string(INT32_MIN, '.')), "-2.147.483.648");
-    EXPECT_EQ(toma(num_long_a_string_u(-123, u' ')), "-123");
-    EXPECT_EQ(toma(num_ulong_a_string(UINT32_MAX, 0)), "4294967295");
-    EXPECT_EQ(toma(num_ulong_a_string_u(1000, u'\'')), "1'000");
-    EXPECT_EQ(toma(num_ulong_a_string(0, ',')), "0");
-    for (const auto &[n, texto] : std::initializer_list<std::pair<int, const char *>>{
-             {1, "I"}, {4, "IV"}, {10, "X"}, {38, "XXXVIII"}, {49, "XLIX"}, {90, "XC"}, {99, "XCIX"}}) {
-        EXPECT_EQ(toma(vornnum_convierte_a_numero_romano(n)), texto);
-        EXPECT_EQ(toma(vornnum_convierte_a_numero_romano_u(n)), texto);
-    }
-    ESPERA_INFORME("valor > 0", vornnum_convierte_a_numero_romano(0));
-    ESPERA_INFORME("valor < 100", vornnum_convierte_a_numero_romano_u(100));
 }
 
 PRUEBA(vornnum, una_reserva_por_texto_y_ninguna_por_lectura) {
@@ -162,9 +141,8 @@ PRUEBA(vornnum, una_reserva_por_texto_y_ninguna_por_lectura) {
     };
     vornspy_instala_permiso([](size_t, void *) { return static_cast<vnbool>(++reservas > 0); }, nullptr);
     EXPECT_EQ(cuenta([] { return num_double_a_string(-1234567.891, '.', ',', FALSO, 2); }), 1);
-    EXPECT_EQ(cuenta([] { return num_double_a_string(1e300, '.', ',', FALSO, -1); }), 1);
     EXPECT_EQ(cuenta([] { return vornnum_double_a_cadena(5.3, ' ', ' ', 0, VORNNUM_FORMATO_PIES, 32); }), 1);
-    EXPECT_EQ(cuenta([] { return num_long_a_string(-1000, '.'); }), 1);
+    EXPECT_EQ(cuenta([] { return vornnum_double_a_string_con_formato_windows(1e300, -1); }), 1);
     for (const char *s : {"1.234,56", "-123456789012345678901234567890e-40", "5'-3 1/2\"", "nada"})
         EXPECT_EQ(cuenta([s] {
                       double v = 0;
@@ -177,8 +155,8 @@ PRUEBA(vornnum, una_reserva_por_texto_y_ninguna_por_lectura) {
 
 PRUEBA(vornnum, con_los_separadores_de_la_region) {
     const char *const FILAS[][4] = {{"en-US", "1,234,567.50", "1,234,567.50", "1234567.50"},
-                                    {"de-DE", "1.234.567,50", "1.234.567,50", "1234567,50"},
-                                    {"fr-FR", "1\u00a0234\u00a0567,50", "1\xA0" "234\xA0" "567,50", "1234567,50"}};
+                                    {"fr-FR", "1\u00a0234\u00a0567,50", "1\xA0" "234\xA0" "567,50", "1234567,50"},
+                                    {"de-DE", "1.234.567,50", "1.234.567,50", "1234567,50"}};
     for (const auto &f : FILAS) {
         ASSERT_EQ(vnregional_establece(f[0]), CIERTO);
         EXPECT_EQ(toma(vornnum_double_a_string_con_formato_windows_u(1234567.5, 2)), f[1]);
@@ -186,12 +164,12 @@ PRUEBA(vornnum, con_los_separadores_de_la_region) {
         EXPECT_EQ(toma(vornnum_double_a_string_con_formato_windows_solo_separador_decimales(1234567.5, 2)), f[3]);
     }
     // In a column: the decimal separators of all stand one under another.
-    EXPECT_EQ(toma(vornnum_double_a_string_con_formato_windows_ex_u(-7.5, 1, 5, 4)), "   -7,5  ");
-    EXPECT_EQ(toma(vornnum_double_a_string_con_formato_windows_ex_u(-12, 0, 5, 4)), "  -12    ");
-    EXPECT_EQ(toma(vornnum_double_a_string_con_formato_windows_ex_u(7, 0, 59, 4)).size(), 63u);
-    ESPERA_INFORME("len < TAM_BUFFER_NUM", vornnum_double_a_string_con_formato_windows_ex_u(7, 0, 60, 4));
-    ESPERA_INFORME("len < TAM_BUFFER_NUM", vornnum_double_a_string_con_formato_windows_ex_u(NADA, 0, 0, UINT16_MAX));
-    ESPERA_INFORME("decimales <= 9", vornnum_double_a_string_con_formato_windows(7, 10));
+    const auto en_columna = vornnum_double_a_string_con_formato_windows_ex_u;
+    EXPECT_EQ(toma(en_columna(-7.5, 1, 5, 4)), "   -7,5  ");
+    EXPECT_EQ(toma(en_columna(-12, 0, 5, 4)), "  -12    ");
+    EXPECT_EQ(toma(en_columna(7, 0, 59, 4)).size(), 63u);
+    ESPERA_INFORME("len < TAM_BUFFER_NUM", en_columna(7, 0, 60, 4));
+    ESPERA_INFORME("len < TAM_BUFFER_NUM", en_columna(NAN, 0, 0, UINT16_MAX));
     vnregional_establece(nullptr);
 }
 
@@ -200,19 +178,18 @@ PRUEBA(vornnum, la_huella_de_un_cuarto_de_millon_de_numeros) {
     azar a(9);
     huella h;
     for (int i = 0; i < 250'000; ++i) {
-        const int modo = i % 8;
-        double v = cualquiera(a, 18);
+        const int modo = i % 8, decimales = static_cast<int>(a.entero(10)), formato = 1 + static_cast<int>(a.entero(3));
+        double v = cualquiera(a, 18), leido = 0;
         if (modo == 7) v = std::bit_cast<double>(a.siguiente());
         if (modo == 6) v = std::floor(v * 100) / 100;
         char *t = modo < 2    ? num_double_a_string(v, '.', ',', FALSO, 2)
-                  : modo == 2 ? num_double_a_string(v, ',', '.', CIERTO, static_cast<int>(a.entero(10)))
-                  : modo == 3 ? num_double_a_string(v, 0, '.', FALSO, static_cast<int>(a.entero(10)))
-                  : modo == 4 ? vornnum_double_a_cadena(v, ' ', ' ', 0, 1 + static_cast<int>(a.entero(3)), 1 + a.entero(64))
+                  : modo == 2 ? num_double_a_string(v, ',', '.', CIERTO, decimales)
+                  : modo == 3 ? num_double_a_string(v, 0, '.', FALSO, decimales)
+                  : modo == 4 ? vornnum_double_a_cadena(v, ' ', ' ', 0, formato, 1 + a.entero(64))
                               : vornnum_double_a_cadena_printf_todos_decimales(v);
-        h << std::string(t);
-        double leido;
-        if (vornnum_dameNumeroDeCadena(t, &leido, VORNNUM_FORMATO_PIES)) h << leido;
+        vornnum_dameNumeroDeCadena(t, &leido, VORNNUM_FORMATO_PIES);
+        h << std::string(t) << leido;
         vornstr_destruye(&t);
     }
-    EXPECT_EQ(h(), 2127677347474001512u);
+    EXPECT_EQ(h(), 6652630282915894395u);
 }
