@@ -14,5 +14,6 @@ inline void debe(bool bien, const char *que) {
 }
 
 int numeros(int pasadas);
+int fechas(int pasadas);
 
 } // namespace bench

@@ -2,6 +2,7 @@
 #include "foundation/cad.h"
 #include "foundation/msglocal.h"
 #include "foundation/unicode.h"
+#include "foundation/vnregional.h"
 #include "foundation/vnstdc.h"
 #include "foundation/widestr.h"
 #include "prueba.h"
@@ -138,6 +139,40 @@ PRUEBA(vorntime_textos, fecha_str_escribe_encima_y_nunca_mas_alla) {
     const auto informes = vn::Prueba::toma_informes();
     ASSERT_EQ(informes.size(), 2u);
     EXPECT_EQ(informes[1].detalle, "La fecha está mal. Revise en su sistema operativo si la fecha es correcta.");
+}
+
+PRUEBA(vorntime_textos, las_formas_del_usuario_son_las_de_su_region) {
+    // Of two digits everywhere: systems differ in whether a short date has zeros.
+    const tmtime fecha{17, 16, 15, 14, 10, 105, 1, 317, 0};
+    const struct {
+        const char *region, *corta, *hora, *sin_segundos, *ddmmaa, *formato, *con_modelo;
+    } filas[] = {
+        {"es-ES", "14/11/2005", "15:16:17", "15:16", "14/11/05", "dd/MM/yyyy HH:mm:ss", "lunes 14 de noviembre"},
+        {"en-US", "11/14/2005", "3:16:17 PM", "3:16 PM", "14/11/05", "dd/MM/yyyy HH:mm:ss", "Monday 14 de November"},
+        {"de-DE", "14.11.2005", "15:16:17", "15:16", "14.11.05", "dd.MM.yyyy HH:mm:ss", "Montag 14 de November"},
+        {"fr-FR", "14/11/2005", "15:16:17", "15:16", "14/11/05", "dd/MM/yyyy HH:mm:ss", "lundi 14 de novembre"},
+    };
+    for (const auto &f : filas) {
+        const std::string corta = f.corta, hora = f.hora, sin_segundos = f.sin_segundos;
+        ASSERT_EQ(vnregional_establece(f.region), CIERTO);
+        EXPECT_EQ(vn::toma(vtm_formatea_fecha_corta(&fecha)), corta);
+        EXPECT_EQ(vn::toma(vtm_formatea_hora(&fecha, CIERTO)), hora);
+        EXPECT_EQ(vn::toma(vtm_formatea_fecha_y_hora(nullptr, &fecha)), corta + " " + hora);
+        EXPECT_EQ(vn::toma(vtm_formatea_fecha_y_hora("Obra", &fecha)), "Obra " + corta + " " + hora);
+        EXPECT_EQ(vn::toma(vtm_formatea_fecha_y_hora_sin_segundos("Obra", &fecha)), "Obra " + corta + " " + sin_segundos);
+        EXPECT_EQ(vn::toma(vtm_formatea_fecha_ddmmaa_con_separador_sistema(&fecha)), f.ddmmaa);
+        EXPECT_EQ(vn::toma(vorntime_dame_cadena_formato_fecha(CIERTO)), f.formato);
+        EXPECT_EQ(vn::toma(vorntime_dame_cadena_formato_fecha(FALSO)), std::string(f.formato).substr(0, 10));
+        EXPECT_EQ(vn::toma(vtm_formatea_fecha_segun_modelo(&fecha, "dddd d 'de' MMMM")), f.con_modelo);
+        const tmtime antigua{0, 0, 0, 1, 0, 0, 1, 0, 0}; // 1900
+        EXPECT_EQ(vn::toma(vtm_formatea_fecha_corta(&antigua)), "");
+        EXPECT_EQ(vn::toma(vtm_formatea_fecha_ddmmaa_con_separador_sistema(&antigua)).substr(6), "00");
+    }
+    for (const char *region : {"es-ES", "es-MX", "gl-ES", "ja-JP"}) { // where names are looked at, and where they are not
+        ASSERT_EQ(vnregional_establece(region), CIERTO);
+        vtm_test_fechas(nullptr);
+    }
+    vnregional_establece(nullptr);
 }
 
 PRUEBA(vorntime_textos, los_listados_siguen_a_la_lengua) {
