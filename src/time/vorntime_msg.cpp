@@ -121,7 +121,7 @@ constexpr auto MENSAJE_54061 = vn::mensaje_u("vorntime.msg", 39, {
 // ---------------------------------------------------------------- from names to messages
 
 // The row of each column of a message, by the common rule for those without a text of their own.
-template <size_t N> consteval std::array<unsigned char, MSGLOCAL_NUM_TEXTOS> filas_de(const clase<N> &c) {
+template <size_t N> constexpr std::array<unsigned char, MSGLOCAL_NUM_TEXTOS> filas_de(const clase<N> &c) {
     constexpr unsigned char NINGUNA = LENGUAS;
     std::array<unsigned char, MSGLOCAL_NUM_TEXTOS> filas{};
     filas.fill(NINGUNA);
@@ -134,7 +134,7 @@ template <size_t N> consteval std::array<unsigned char, MSGLOCAL_NUM_TEXTOS> fil
     return filas;
 }
 
-template <size_t N> consteval std::basic_string_view<vnwchar> nombre_de(const clase<N> &c, size_t lengua, size_t i) {
+template <size_t N> constexpr std::basic_string_view<vnwchar> nombre_de(const clase<N> &c, size_t lengua, size_t i) {
     std::basic_string_view<vnwchar> resto = c.lenguas[lengua].nombres;
     for (size_t k = 0;; ++k) {
         const size_t fin = resto.find(VNU(' '));
@@ -148,14 +148,14 @@ template <size_t N> consteval std::basic_string_view<vnwchar> nombre_de(const cl
 }
 
 // Digits of an id with its brackets.
-consteval uint32_t ancho_de(uint32_t id) {
+constexpr uint32_t ancho_de(uint32_t id) {
     if (id == 0) return 0;
     uint32_t n = 2;
     for (; id > 0; id /= 10) ++n;
     return n;
 }
 
-template <size_t N> consteval size_t mas_largo(const clase<N> &c) {
+template <size_t N> constexpr size_t mas_largo(const clase<N> &c) {
     size_t n = 0;
     for (size_t l = 0; l < LENGUAS; ++l)
         for (size_t i = 0; i < N; ++i) n = std::max(n, ancho_de(c.ids[i]) + nombre_de(c, l, i).size());
@@ -168,7 +168,7 @@ template <size_t N, size_t LARGO> struct textos_de {
     vnwchar anchos[N][LENGUAS][LARGO + 1]{};
     char ansi[N][LENGUAS][4 + 4 * LARGO + 1]{};
 
-    consteval explicit textos_de(const clase<N> &c) {
+    constexpr explicit textos_de(const clase<N> &c) {
         for (size_t i = 0; i < N; ++i) {
             for (size_t l = 0; l < LENGUAS; ++l) {
                 vnwchar *ancho = anchos[i][l];
@@ -186,10 +186,10 @@ template <size_t N, size_t LARGO> struct textos_de {
         }
     }
 
-    static consteval void codifica(char *destino, std::basic_string_view<vnwchar> texto) {
-        constexpr auto BEYOND_ASCII = [](vnwchar c) { return c >= 0x80; };
+    static constexpr void codifica(char *destino, std::basic_string_view<vnwchar> texto) {
+        constexpr auto MAS_ALLA = [](vnwchar c) { return c >= 0x80; };
         bool ascii = true;
-        for (const vnwchar c : texto) ascii = ascii && !BEYOND_ASCII(c);
+        for (const vnwchar c : texto) ascii = ascii && !MAS_ALLA(c);
         if (ascii) {
             for (const vnwchar c : texto) *destino++ = static_cast<char>(c);
             return;
@@ -206,7 +206,8 @@ template <const auto &CLASE> constexpr auto FILAS = filas_de(CLASE);
 template <const auto &CLASE, bool ANSI, size_t I> void rellena(vnmensaje *m) {
     m->nombre = "vorntime.msg";
     m->orden = CLASE.orden + static_cast<uint32_t>(I);
-    m->ancho_id = ancho_de(CLASE.ids[I]);
+    constexpr uint32_t ANCHO = ancho_de(CLASE.ids[I]);
+    m->ancho_id = ANCHO;
     for (size_t i = 0; i < MSGLOCAL_NUM_TEXTOS; ++i) {
         if constexpr (ANSI) m->textos[i] = TEXTOS<CLASE>.ansi[I][FILAS<CLASE>[i]];
         else m->textos[i] = TEXTOS<CLASE>.anchos[I][FILAS<CLASE>[i]];
