@@ -56,15 +56,30 @@ semana_iso semana_iso_de(const std::tm &t) {
     return s > semanas(anyo, primer_dia) ? semana_iso{anyo + 1, 1} : semana_iso{anyo, s};
 }
 
-// Minutes that the local time of `t` is ahead of UTC.
-int64_t minutos_sobre_utc(const std::tm &t) {
-    std::tm copia = t;
-    const int64_t segundos = std::mktime(&copia);
-    if (segundos == -1) return 0;
+// Seconds since 1970 of a clock on the wall, as if it showed UTC.
+int64_t como_utc(const std::tm &t) {
     using namespace std::chrono;
-    const auto dia = sys_days(year(copia.tm_year + 1900) / (copia.tm_mon + 1) / copia.tm_mday);
-    const int64_t como_utc = dia.time_since_epoch().count() * int64_t{86400} + copia.tm_hour * 3600 + copia.tm_min * 60 + copia.tm_sec;
-    return (como_utc - segundos) / 60;
+    const auto mes = sys_days(year(t.tm_year + 1900) / (t.tm_mon + 1) / 1);
+    return (mes.time_since_epoch().count() + t.tm_mday - 1) * int64_t{86400} + t.tm_hour * int64_t{3600} + t.tm_min * int64_t{60} + t.tm_sec;
+}
+
+// Minutes that the local time of `t` is ahead of UTC: what it is a day before or a day after, whichever gives `t` back. In
+// the hour that a change of time repeats, the one whose summer time is that of `t`.
+int64_t minutos_sobre_utc(const std::tm &t) {
+    constexpr int64_t DIA = 86400;
+    if (t.tm_mon < 0 || t.tm_mon > 11 || t.tm_year < -32000 || t.tm_year > 30000) return 0; // beyond what a year can be
+    const int64_t pared = como_utc(t);
+    std::tm local{};
+    int64_t elegido = 0;
+    bool hay = false;
+    for (const int64_t cuando : {pared - DIA, pared + DIA}) {
+        if (!vn::plat::hora_local(cuando, local)) continue;
+        const int64_t adelanto = como_utc(local) - cuando;
+        const bool vuelve = vn::plat::hora_local(pared - adelanto, local) && como_utc(local) == pared;
+        if (!hay || (vuelve && (local.tm_isdst > 0) == (t.tm_isdst > 0))) elegido = adelanto;
+        hay = hay || vuelve;
+    }
+    return elegido / 60;
 }
 
 std::string fecha(std::string_view formato, const std::tm &t);

@@ -1,9 +1,11 @@
 #include "foundation/vnstdc.h"
 #include "foundation/lc_fichero.h"
 #include "prueba.h"
+#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <thread>
 
 namespace {
@@ -151,6 +153,33 @@ PRUEBA(vnstdc, las_fechas_salen_en_ingles_y_las_semanas_segun_la_norma) {
     std::memset(&malo, 0x7F, sizeof malo);
     char room[200];
     EXPECT_GT(vnstdc_strftime(room, sizeof room, "%a%b%c%C%G%V%U%W%j%p%x%z", &malo), 0u);
+}
+
+// Every half hour of the days around the changes of summer time, and of other years: the difference that is written is the
+// one that there was, in the repeated hour too.
+PRUEBA(vnstdc, la_diferencia_con_la_hora_universal_es_la_de_ese_momento) {
+    vnwchar *const zona = vnstdc__wgetenv(VNU("TZ"));
+    for (const char *tz : {"TZ=Europe/Madrid", "TZ=America/St_Johns", "TZ=Australia/Lord_Howe"}) {
+        vnstdc_putenv(tz);
+        const time_t cero = 0;
+        static_cast<void>(std::localtime(&cero)); // the C library looks at the zone again, where it has such names
+        for (const int64_t dia : {int64_t{-600000000}, int64_t{-1}, int64_t{200000000}, int64_t{1711756800},
+                                  int64_t{1729900800}, int64_t{1712404800}, int64_t{1710028800}, int64_t{2200000000}}) {
+            for (int64_t t = dia; t < dia + 4 * 86400; t += 1800) {
+                const struct tm local = *vnstdc__localtime64(&t);
+                using namespace std::chrono;
+                const auto d = sys_days(year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday).time_since_epoch().count();
+                const auto minutos = static_cast<int>((d * 86400 + local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec - t) / 60);
+                char esperada[16], escrita[16];
+                vnstdc_sprintf(esperada, "%c%02d%02d", minutos < 0 ? '-' : '+', std::abs(minutos) / 60, std::abs(minutos) % 60);
+                vnstdc_strftime(escrita, sizeof escrita, "%z", &local);
+                ASSERT_STREQ(escrita, esperada) << tz << " " << t;
+            }
+        }
+    }
+    vnstdc__wputenv((std::basic_string<vnwchar>(VNU("TZ=")) + (zona != nullptr ? zona : VNU(""))).c_str());
+    const time_t cero = 0;
+    static_cast<void>(std::localtime(&cero));
 }
 
 PRUEBA(vnstdc, la_hora_local_es_de_cada_hebra_y_las_variables_llevan_cualquier_caracter) {
