@@ -378,6 +378,7 @@ vnbool p_minimax(const Punto2D *o1, const Punto2D *e1, const Punto2D *o2, const 
 }
 
 vnbool p_se_solapan_rectangulos(double x1, double y1, double x2, double y2, double x3, double y3, double x4, double y4) {
+    if (no_es_numero({x1, y1}) || no_es_numero({x2, y2}) || no_es_numero({x3, y3}) || no_es_numero({x4, y4})) return FALSO;
     return logico(cajas_se_solapan({std::min(x1, x2), std::min(y1, y2)}, {std::max(x1, x2), std::max(y1, y2)},
                                    {std::min(x3, x4), std::min(y3, y4)}, {std::max(x3, x4), std::max(y3, y4)}));
 }

@@ -29,6 +29,7 @@ rectangulo_t *nuevo(const rectangulo_t &r) {
 }
 
 void maximiza_punto(rectangulo_t &r, double x, double y) {
+    if (std::isnan(x) || std::isnan(y)) return; // it would stay for ever: nothing is beyond it
     if (r.calculados == FALSO) {
         r = {x, y, x, y, CIERTO};
         return;
@@ -37,11 +38,6 @@ void maximiza_punto(rectangulo_t &r, double x, double y) {
     if (x > r.xmax) r.xmax = x;
     if (y < r.ymin) r.ymin = y;
     if (y > r.ymax) r.ymax = y;
-}
-
-void maximiza_rect(rectangulo_t &r, const rectangulo_t &otro) {
-    maximiza_punto(r, otro.xmin, otro.ymin);
-    maximiza_punto(r, otro.xmax, otro.ymax);
 }
 
 // Written so that what is no number lies outside.
@@ -161,15 +157,16 @@ void rec_MaximizaPunto(rectangulo_t *rec, double x, double y) {
 
 void rec_MaximizaY(rectangulo_t *rec, double y) {
     if (!AFIRMA_NO_NULO(rec)) return;
-    AFIRMA(rec->calculados);
+    if (!AFIRMA(rec->calculados)) return;
     if (y < rec->ymin) rec->ymin = y;
     if (y > rec->ymax) rec->ymax = y;
 }
 
 void rec_MaximizaRect(rectangulo_t *rec1, const rectangulo_t *rec2) {
     if (!AFIRMA_NO_NULO(rec1) || !AFIRMA_NO_NULO(rec2)) return;
-    AFIRMA(rec2->calculados);
-    maximiza_rect(*rec1, *rec2);
+    if (!AFIRMA(rec2->calculados)) return;
+    maximiza_punto(*rec1, rec2->xmin, rec2->ymin);
+    maximiza_punto(*rec1, rec2->xmax, rec2->ymax);
 }
 
 void rec_IncrementaAnchos(rectangulo_t *rec, double incremento_a_cada_lado) {

@@ -49,11 +49,11 @@ void rec_Mover(rectangulo_t *rec, double dx, double dy);
 /** Moves each rectangle of an array (of rectangulo_t), which all are calculated. */
 void rec_TraladaRectangulos(arrPuntero *rectangulos, double dx, double dy);
 
-/** Widens the rectangle to hold (x, y); a reset one becomes that point. */
+/** Widens the rectangle to hold (x, y); a reset one becomes that point. What is not a number is passed over. */
 void rec_MaximizaPunto(rectangulo_t *rec, double x, double y);
-/** Widens a calculated rectangle in y only. A reset one cannot be begun so: it is reported. */
+/** Widens a calculated rectangle in y only. A reset one cannot be begun so: it is reported, and stays. */
 void rec_MaximizaY(rectangulo_t *rec, double y);
-/** Widens `rec1`, which may be reset, to hold `rec2`, which is calculated. */
+/** Widens `rec1`, which may be reset, to hold `rec2`, which is calculated; a reset one is reported, and adds nothing. */
 void rec_MaximizaRect(rectangulo_t *rec1, const rectangulo_t *rec2);
 /** New rectangle that holds all those of an array that is not empty; null after a report. */
 rectangulo_t *rec_Envolvente(const arrPuntero *rectangulos);

@@ -219,7 +219,7 @@ PRUEBA(punto, lo_que_no_es_un_numero_no_esta_en_ninguna_parte) {
         mete(p, b, a, b);
         if (std::isnan(raro)) {
             EXPECT_FALSE(con<p_igual>(p, p) || con<p_lado_recta>(p, a, b) || mete(p, a, a, b) || mete(a, b, p, b) || mete(a, b, b, p));
-            EXPECT_FALSE(p_minimax(&p, &b, &a, &b) || p_se_solapan_rectangulos(0, raro, 1, 1, 0, 0, 1, 1));
+            EXPECT_FALSE(p_minimax(&p, &b, &a, &b) || p_se_solapan_rectangulos(0, 0, 1, 1, 0, 0, 1, raro));
         }
     }
 }

@@ -67,9 +67,10 @@ constexpr auto exacto_ = recorta<rec_ClipSegmento>, antiguo = recorta<rec_ClipSe
 PRUEBA(rectng, un_rectangulo_crece_desde_nada_y_vuelve_a_nada) {
     const rectangulo r(rec_Crea());
     EXPECT_EQ(limites_de(*r), (limites{DBL_MAX, DBL_MAX, -DBL_MAX, -DBL_MAX}));
-    EXPECT_EQ(rec_Inicializado(r.get()), FALSO);
     ESPERA_INFORME("rec->calculados", rec_MaximizaY(r.get(), 1));
-    rec_Reset(r.get());
+    ESPERA_INFORME("rec2->calculados", rec_MaximizaRect(r.get(), r.get()));
+    rec_MaximizaPunto(r.get(), 3, NAN_);
+    EXPECT_EQ(rec_Inicializado(r.get()), FALSO);
     rec_MaximizaPunto(r.get(), 3, 4);
     EXPECT_EQ(limites_de(*r), (limites{3, 4, 3, 4}));
     EXPECT_EQ(rec_Ancho(r.get()) + rec_Alto(r.get()), 0);
