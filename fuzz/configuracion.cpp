@@ -6,16 +6,15 @@
 namespace {
 
 const std::basic_string<vnwchar> NOMBRE(fuzz::FICHERO, fuzz::FICHERO + std::strlen(fuzz::FICHERO));
-constexpr const char *CLAVES[] = {"Idioma", "Norma", "NormaAceroConf", "NormaAceroLam", "NormaElec", "NormaMadera",
-                                  "Sistema de Unidades", "SistemaUnidadEnergia", "", "=", "["};
+// Section and key.
+constexpr const char *SITIOS[][2] = {{"Internacional", "Norma"}, {"Internacional", "Sistema de Unidades"}, {"", "="}, {"]", ""}};
 
 void lee() {
-    for (const char *seccion : {"Internacional", "", "]"})
-        for (const char *clave : CLAVES) {
-            // The same twice, and the default only where nothing was found.
-            const int32_t a = ini_lee_int(NOMBRE.c_str(), seccion, clave, -1), b = ini_lee_int(NOMBRE.c_str(), seccion, clave, 5);
-            fuzz::exige(a == b || (a == -1 && b == 5), "a number or the default");
-        }
+    for (const auto &[seccion, clave] : SITIOS) {
+        // The same twice, and the default only where nothing was found.
+        const int32_t a = ini_lee_int(NOMBRE.c_str(), seccion, clave, -1), b = ini_lee_int(NOMBRE.c_str(), seccion, clave, 5);
+        fuzz::exige(a == b || (a == -1 && b == 5), "a number or the default");
+    }
     fuzz::exige(fuzz::informes() == 0, "no report");
 }
 

@@ -21,35 +21,39 @@ ancho lee_valor(const vnwchar *clave, const vnwchar *valor) {
     return texto;
 }
 
-// Every key from one down, and its texts; at most so deep.
-size_t recorre(const ancho &clave, int hondo) {
-    size_t vistas = 1;
+// A key and its texts, and the keys under it; at most so deep. Returns how many keys lie right under it.
+uint32_t recorre(const ancho &clave, int hondo) {
+    uint32_t cuantas = 0;
     arrCADENA_u *nombres = nullptr, *textos = nullptr, *hijas = nullptr;
     if (vornreg_lee_valores_cadena_clave_ex_u(VORNREG_USUARIO, clave.c_str(), 0, &nombres, &textos) == CIERTO) {
-        for (uint32_t i = 0; i < arr_NumElemsCADENA_u(nombres); ++i)
+        // Each looking-up reads the file: the first ones stand for the rest.
+        for (uint32_t i = 0; i < arr_NumElemsCADENA_u(nombres) && i < 2; ++i)
             fuzz::exige(lee_valor(clave.c_str(), arr_GetCADENA_u(nombres, i)) == arr_GetCADENA_u(textos, i), "a value by its name");
         arr_DestruyeCADENA_u(&nombres);
         arr_DestruyeCADENA_u(&textos);
     }
     if (vornreg_dame_subclaves_u(VORNREG_USUARIO, clave.c_str(), &hijas) == CIERTO) {
-        for (uint32_t i = 0; i < arr_NumElemsCADENA_u(hijas) && hondo > 0; ++i) {
+        cuantas = arr_NumElemsCADENA_u(hijas);
+        for (uint32_t i = 0; i < cuantas && i < 2 && hondo > 0; ++i) {
             const ancho hija = arr_GetCADENA_u(hijas, i);
-            if (!hija.empty()) vistas += recorre(clave + (clave.empty() ? VNU("") : VNU("\\")) + hija, hondo - 1);
+            if (!hija.empty()) recorre(clave + (clave.empty() ? VNU("") : VNU("\\")) + hija, hondo - 1);
         }
         arr_DestruyeCADENA_u(&hijas);
     }
-    return vistas;
+    return cuantas;
 }
 
-void lee() {
+void lee(bool escribe) {
     fichconf_establece_directorio_base(VNU("mem"));
     vnwchar *ruta = fichconf_dame_ruta_fichero_en_directorio_configuracion(VNU("registro.txt"));
     vf_copyfile_seguro_u(NOMBRE.c_str(), ruta);
-    const size_t antes = recorre(VNU(""), 2);
+    const uint32_t antes = recorre(VNU(""), 2);
     const vnwchar *texto = VNU("=[\\\n\u00F1;]");
-    fuzz::exige(vornreg_establece_cadena_u(VORNREG_USUARIO, VNU("Nueva clave"), VNU("a=b"), texto) == CIERTO, "it can be set");
-    fuzz::exige(lee_valor(VNU("nueva CLAVE"), VNU("A=B")) == texto, "and is read back");
-    fuzz::exige(recorre(VNU(""), 2) >= antes, "and nothing is lost");
+    if (escribe) {
+        fuzz::exige(vornreg_establece_cadena_u(VORNREG_USUARIO, VNU("Nueva clave"), VNU("a=b"), texto) == CIERTO, "it can be set");
+        fuzz::exige(lee_valor(VNU("nueva CLAVE"), VNU("A=B")) == texto, "and is read back");
+        fuzz::exige(recorre(VNU(""), 0) >= antes, "and nothing is lost");
+    }
     fuzz::exige(fuzz::informes() == 0, "no report");
     widestr_destruye(&ruta);
 }
@@ -61,6 +65,7 @@ std::vector<std::string> fuzz::semillas() {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {
-    fuzz::con_fichero(datos, n, UINT64_MAX, lee);
+    // A change goes through the system's locks and directories: one input in four.
+    fuzz::con_fichero(datos, n, UINT64_MAX, [n] { lee(n % 4 == 0); });
     return 0;
 }
