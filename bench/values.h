@@ -15,5 +15,6 @@ inline void debe(bool bien, const char *que) {
 
 int numeros(int pasadas);
 int fechas(int pasadas);
+int unidades(int pasadas);
 
 } // namespace bench

@@ -12,11 +12,14 @@
 #include "foundation/vtxt.h"
 #include "frame/alsalir.h"
 #include "units/vornconf_msg_priv.h"
+#include "units/vornconf_priv.h"
 #include <array>
 #include <atomic>
 #include <memory>
 
 using internacional = vornconf_internacional;
+
+constinit internacional vn::registro_vornconf{};
 
 namespace {
 
@@ -170,8 +173,7 @@ void cambia_en_fichero(uint32_t internacional::*campo, uint32_t norma) {
 
 // ---------------------------------------------------------------- the record of the process
 
-// Words that other threads may read while the host's one changes them.
-constinit internacional el_registro{};
+auto &el_registro = vn::registro_vornconf;
 constinit std::atomic<uint16_t> registro_cargado{0};
 
 std::atomic_ref<uint32_t> palabra(uint32_t internacional::*campo) { return std::atomic_ref<uint32_t>(el_registro.*campo); }
@@ -180,7 +182,7 @@ void pon(const internacional &r) {
     for (const clave &c : CLAVES) palabra(c.campo).store(r.*c.campo, std::memory_order_relaxed);
 }
 
-void carga() {
+[[gnu::cold, gnu::noinline]] void carga() {
     registro_cargado.store(1, std::memory_order_relaxed);
     pon(lee_fichero());
 }

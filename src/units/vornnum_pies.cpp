@@ -92,18 +92,35 @@ template <class C> void pon_partes(texto_numero<C> &t, const partes &p) {
     if (p.negativo) t.pon('-');
 }
 
+} // namespace
+
+namespace vn {
+
+template <class C> bool pon_longitud(texto_numero<C> &t, double valor, int32_t formato, uint32_t denominador) {
+    if (!std::isfinite(valor)) {
+        pon_numero<C>(t, valor, {0, '.', false, 0});
+        return true;
+    }
+    partes p;
+    if (!parte(valor, formato, denominador, p)) return false;
+    pon_partes(t, p);
+    return true;
+}
+
+template bool pon_longitud<char>(texto_numero<char> &, double, int32_t, uint32_t);
+template bool pon_longitud<vnwchar>(texto_numero<vnwchar> &, double, int32_t, uint32_t);
+
+} // namespace vn
+
+namespace {
+
 template <class C> C *double_a_cadena(double valor, const aspecto<C> &a, int32_t formato, uint32_t denominador) {
     if (!formato_bueno(formato)) return nullptr;
     texto_numero<C> t;
     if (formato == VORNNUM_FORMATO_NUMERO) {
         if (!aspecto_bueno(a)) return nullptr;
         pon_numero(t, valor, a);
-    } else if (!std::isfinite(valor)) pon_numero<C>(t, valor, {0, '.', false, 0});
-    else {
-        partes p;
-        if (!parte(valor, formato, denominador, p)) return nullptr;
-        pon_partes(t, p);
-    }
+    } else if (!pon_longitud(t, valor, formato, denominador)) return nullptr;
     return texto_nuevo(t);
 }
 

@@ -75,6 +75,8 @@ template <class C> struct aspecto {
 template <class C> bool aspecto_bueno(const aspecto<C> &a);
 // Puts the text of `valor` before what there is. `a` is good.
 template <class C> void pon_numero(texto_numero<C> &t, double valor, const aspecto<C> &a);
+// The same of a length by its format, VORNNUM_FORMATO_PIES and on, in feet and inches; reports, and is false.
+template <class C> bool pon_longitud(texto_numero<C> &t, double valor, int32_t formato, uint32_t denominador);
 // A new text of the tracked heap.
 template <class C> C *texto_nuevo(const texto_numero<C> &t);
 

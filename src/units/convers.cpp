@@ -1,0 +1,150 @@
+#define VN_MODULO "convers (NUCLEOS.DLL)"
+#include "units/convers.h"
+#include "units/convers_msg_priv.h"
+#include "units/convers_priv.h"
+#include "units/vornconf_priv.h"
+#include "units/vornnum.h"
+
+namespace vn {
+namespace {
+
+static_assert(EN_MKS == VORNCONF_SU_MKS - 1 && EN_SI_JULIO == VORNCONF_SU_INTERNACIONAL - 1 &&
+              EN_IMPERIAL == VORNCONF_SU_IMPERIAL - 1);
+
+// Set for good by hosts whose units are configurable apart: no length is in feet and inches.
+constinit std::atomic<bool> es_uso_residual{false};
+
+// Unit of energy in force, as a column of the S.I.
+columna_convers columna_de_energia() {
+    switch (vornconf_Internacional_sistema_unidades_energia()) {
+    case VORNNORM_UNIDAD_ENERGIA_JULIO: return EN_SI_JULIO;
+    case VORNNORM_UNIDAD_ENERGIA_KCAL: return EN_SI_KCAL;
+    case VORNNORM_UNIDAD_ENERGIA_BTU: return EN_SI_BTU;
+    default: AFIRMA_DEFECTO(); return EN_SI_JULIO;
+    }
+}
+
+// What the system in force shows of a type; reports, and is M.K.S., if there is no such system or unit of energy.
+columna_convers columna_en_vigor(const fila_convers *convers) {
+    switch (vornconf_Internacional_sistema_unidades()) {
+    case VORNCONF_SU_MKS: return EN_MKS;
+    case VORNCONF_SU_INTERNACIONAL: return convers->familia == 0 ? EN_SI_JULIO : columna_de_energia();
+    case VORNCONF_SU_IMPERIAL: return EN_IMPERIAL;
+    default: AFIRMA_DEFECTO(); return EN_MKS;
+    }
+}
+
+double convierte(int32_t sentido, const cifras_convers &c, double valor) {
+    return sentido == CNV_A_MOSTRADO ? c.a_mostrado(valor) : c.a_interno(valor);
+}
+
+// With every check, and whatever is made at first use.
+[[gnu::cold, gnu::noinline]] double convierte_despacio(int32_t sentido, uint32_t tipovalor, double valor) {
+    if (sentido != CNV_A_MOSTRADO && sentido != CNV_A_INTERNO) {
+        AFIRMA_DEFECTO();
+        return 0;
+    }
+    if (tipovalor == CNV_NO_CONVERSION) return valor;
+    const fila_convers *convers = fila_de_convers(tipovalor);
+    if (!AFIRMA_NO_NULO(convers)) return 0;
+    return convierte(sentido, convers->cifras[columna_en_vigor(convers)], valor);
+}
+
+} // namespace
+
+bool es_tipovalor(uint32_t tipovalor) {
+    if (tipovalor == CNV_NO_CONVERSION) return true;
+    const fila_convers *convers = fila_de_convers(tipovalor);
+    return AFIRMA_NO_NULO(convers);
+}
+
+double a_mostrado(uint32_t tipovalor, double interno) { return cnv_convierte(CNV_A_MOSTRADO, tipovalor, interno); }
+double a_interno(uint32_t tipovalor, double mostrado) { return cnv_convierte(CNV_A_INTERNO, tipovalor, mostrado); }
+
+} // namespace vn
+
+using namespace vn;
+
+// The common case without a call: all is made, the type has a row and no energy family.
+double cnv_convierte(int32_t sentido, uint32_t tipovalor, double valor) {
+    const uint32_t columna = sistema_unidades_si_cargado() - VORNCONF_SU_MKS;
+    if (tipovalor < CNV_NO_CONVERSION && columna <= EN_IMPERIAL && static_cast<uint32_t>(sentido) <= CNV_A_MOSTRADO &&
+        FILAS_CONVERS[tipovalor].familia == 0 && textos_de_convers.load(std::memory_order_acquire) != nullptr) [[likely]]
+        return convierte(sentido, FILAS_CONVERS[tipovalor].cifras[columna], valor);
+    return convierte_despacio(sentido, tipovalor, valor);
+}
+
+const vnwchar *cnv_strextunids(uint32_t tipovalor) {
+    if (tipovalor == CNV_NO_CONVERSION) return VNU("");
+    const fila_convers *convers = fila_de_convers(tipovalor);
+    if (!AFIRMA_NO_NULO(convers)) return VNU("");
+    return dame_textos_convers()[tipovalor].texto[columna_en_vigor(convers)];
+}
+
+int32_t convers_formato_entrada(uint32_t tipovalor) {
+    if (tipovalor == CNV_NO_CONVERSION) return VORNNUM_FORMATO_NUMERO;
+    const fila_convers *convers = fila_de_convers(tipovalor);
+    if (!AFIRMA_NO_NULO(convers)) return VORNNUM_FORMATO_NUMERO;
+    if (columna_en_vigor(convers) != EN_IMPERIAL || es_uso_residual.load(std::memory_order_relaxed))
+        return VORNNUM_FORMATO_NUMERO;
+    return convers->formato;
+}
+
+vnbool convers_es_longitud_en_sistema_imperial(uint32_t tipovalor) {
+    return convers_formato_entrada(tipovalor) != VORNNUM_FORMATO_NUMERO;
+}
+
+uint32_t convers_divisor_maximo_pulgadas(uint32_t tipovalor) {
+    if (tipovalor == CNV_NO_CONVERSION) return 0;
+    const fila_convers *convers = fila_de_convers(tipovalor);
+    return AFIRMA_NO_NULO(convers) ? convers->denominador : 0;
+}
+
+void convers_set_es_uso_residual_en_programas_con_unidades_configurables(void) {
+    es_uso_residual.store(true, std::memory_order_relaxed);
+}
+
+void convers_valores_para_vnudcuso(uint32_t tipovalor, double *factor_conversion_a_unidades_internas,
+                                   double *sumando_conversion_a_unidades_internas,
+                                   vnbool *es_correcto_texto_de_unidades_despues_de_valor,
+                                   const vnwchar **texto_unidades) {
+    if (!es_tipovalor(tipovalor)) return;
+    if (!AFIRMA_NO_NULO(factor_conversion_a_unidades_internas)) return;
+    if (!AFIRMA_NO_NULO(sumando_conversion_a_unidades_internas)) return;
+    if (!AFIRMA_NO_NULO(es_correcto_texto_de_unidades_despues_de_valor)) return;
+    if (!AFIRMA_NO_NULO(texto_unidades)) return;
+    const fila_convers *convers = fila_de_convers(tipovalor);
+    const cifras_convers c = convers != nullptr ? convers->cifras[columna_en_vigor(convers)] : cifras_convers{1, 0};
+    *factor_conversion_a_unidades_internas = 1 / c.coef;
+    *sumando_conversion_a_unidades_internas = 0 - c.sumando;
+    *es_correcto_texto_de_unidades_despues_de_valor = !convers_es_longitud_en_sistema_imperial(tipovalor);
+    *texto_unidades = cnv_strextunids(tipovalor);
+}
+
+// ---------------------------------------------------------------- units by name
+
+#define UNIDAD(nombre, es)                                                                                             \
+    const vnwchar *nombre(void) {                                                                                      \
+        constexpr texto_unidad TEXTO(VNU(es));                                                                         \
+        return TEXTO.local();                                                                                          \
+    }
+
+// clang-format off
+UNIDAD(convers_texto_kp_cm2, "kp/cm²")
+UNIDAD(convers_texto_MPa, "MPa")
+UNIDAD(convers_texto_W_K, "W/K")
+UNIDAD(convers_texto_W_m2K, "W/(m²·K)")
+UNIDAD(convers_texto_grado_centigrado, "°C")
+UNIDAD(convers_texto_kW, "kW")
+UNIDAD(convers_texto_kWh, "kW·h")
+UNIDAD(convers_texto_kg, "kg")
+UNIDAD(convers_texto_kg_m2, "kg/m²")
+UNIDAD(convers_texto_l, "l")
+UNIDAD(convers_texto_m, "m")
+UNIDAD(convers_texto_m2, "m²")
+UNIDAD(convers_texto_m3, "m³")
+UNIDAD(convers_texto_m3_h, "m³/h")
+UNIDAD(convers_texto_mm, "mm")
+UNIDAD(convers_texto_mm2, "mm²")
+UNIDAD(convers_texto_porcentaje, "%")
+// clang-format on

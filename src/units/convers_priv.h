@@ -1,0 +1,60 @@
+// The table of value types as the sources of convers read it.
+#pragma once
+
+#include "foundation/afirma.h"
+#include "units/convers.h"
+#include <array>
+#include <atomic>
+
+namespace vn {
+
+// What a type is shown in. Of the S.I. there is one for each unit of energy, all alike but in an energy family. The first
+// three are those of VORNCONF_SU_* less 1.
+enum columna_convers : uint8_t { EN_MKS, EN_SI_JULIO, EN_IMPERIAL, EN_SI_KCAL, EN_SI_BTU, NUM_COLUMNAS_CONVERS };
+enum modo_redondeo : uint8_t { POR_EXCESO = 0, POR_DEFECTO = 1, AL_MAS_CERCANO = 2 };
+
+// shown = internal * coef + sumando. No other formula is used.
+struct cifras_convers {
+    double coef, sumando;
+    double a_mostrado(double interno) const { return interno * coef + sumando; }
+    double a_interno(double mostrado) const { return (mostrado - sumando) / coef; }
+};
+
+// The figures of a value type.
+struct fila_convers {
+    cifras_convers cifras[NUM_COLUMNAS_CONVERS];
+    double relativa;       // relative precision of the adapted value
+    modo_redondeo modo;    // and its rounding
+    uint8_t familia;       // of energy: 0 none, 2 per hour, 3 that by 1000
+    uint8_t formato;       // entry format in the imperial system
+    uint8_t denominador;   // greatest, of an inch fraction
+};
+
+extern const std::array<fila_convers, CNV_NO_CONVERSION> FILAS_CONVERS;
+
+// The texts of a value type in the language that was active when they were looked up.
+struct textos_convers {
+    const vnwchar *texto[NUM_COLUMNAS_CONVERS];
+};
+// One for each type. Null until the first look-up, and again once the exit list has run.
+extern constinit std::atomic<const textos_convers *> textos_de_convers;
+const textos_convers *crea_textos_convers();
+
+inline const textos_convers *dame_textos_convers() {
+    const textos_convers *t = textos_de_convers.load(std::memory_order_acquire);
+    return __builtin_expect(t != nullptr, 1) ? t : crea_textos_convers();
+}
+
+// The row of a type, null if there is none. The first look-up fixes the language of the texts.
+inline const fila_convers *fila_de_convers(uint32_t tipovalor) {
+    dame_textos_convers();
+    return tipovalor < CNV_NO_CONVERSION ? &FILAS_CONVERS[tipovalor] : nullptr;
+}
+
+// Whether it is a type with a row, or CNV_NO_CONVERSION; reports.
+bool es_tipovalor(uint32_t tipovalor);
+// A value of a type that es_tipovalor, as shown and back.
+double a_mostrado(uint32_t tipovalor, double interno);
+double a_interno(uint32_t tipovalor, double mostrado);
+
+} // namespace vn
