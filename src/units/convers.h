@@ -3,8 +3,8 @@
 
    Texts that are returned are new blocks of the tracked heap, freed with vornstr_destruye (ANSI) or widestr_destruye
    (wide), one allocation each; unit texts belong to the table and are not freed. Numbers have a period, whatever the
-   region; not-a-number shows as "nan", an infinity as "inf". A type beyond CNV_NO_CONVERSION is reported: 0, the value as
-   it came where one is rounded, an empty unit text, a null text. */
+   region; not-a-number shows as "nan", an infinity as "inf". A type beyond CNV_NO_CONVERSION is reported: 0, an empty unit
+   text, a null text, or, where a value is rounded, the value as it came. */
 #ifndef VN_CONVERS_H
 #define VN_CONVERS_H
 

@@ -157,6 +157,8 @@ NEUTROS = [
     (r"vnlongpath_CreateFileW", "*", "closed by the sweep"),
     (r"vnstdc_(str|wcs|mem)(n?cpy|cat)", "first", ""),
     (r"nousar_(msglocal_)?original(_u)?|vorntime_obtener_nombre_mes(_abreviado)?(_u)?|vtm_letra_inicial.*", "*", "an empty text"),
+    (r"cnv_strextunids", "*", "an empty text"),
+    (r"convers_valor_.*", "*", "the value as it came"),
     (r"vtm_crea", "*", "the start of 1970"),
     (r"vornspy_(nousar_(malloc|calloc|realloc)|reserva_seguro)", "*", "a block all the same"),
     (r"unicode_pagina_ANSI_idioma", "1252", ""),
@@ -174,6 +176,7 @@ EXCLUIDAS = [
 # What an operation may have set for the whole process, and how it is brought back: operation, expression.
 RESTAURA = [
     ("p_cambia_eps", "p_cambia_eps(0.00005)"),
+    ("setroundoff", "setroundoff(0.00001)"),
     ("operaciones_fichero_instala", "operaciones_fichero_instala(nullptr)"),
     ("msidioma_establece_idioma", "msidioma_establece_idioma(0)"),
     ("fichconf_establece_directorio_base", "fichconf_establece_directorio_base(nullptr)"),
