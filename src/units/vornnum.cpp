@@ -102,6 +102,8 @@ template <class C> bool aspecto_bueno(const aspecto<C> &a) {
 }
 
 template <class C> void pon_numero(texto_numero<C> &t, double valor, const aspecto<C> &a) {
+    const size_t tam_buffer = t.tam_buffer();
+    if (!AFIRMA(tam_buffer > 20 && tam_buffer < 500)) return;
     const bool negativo = valor < 0;
     double v = std::fabs(valor);
     if (!std::isfinite(v)) t.pon_ascii(std::isnan(v) ? "nan" : "inf");
@@ -118,6 +120,7 @@ template <class C> void pon_numero(texto_numero<C> &t, double valor, const aspec
             v = prec_redondea_numero_decimales(v, static_cast<uint32_t>(decimales) + 1);
             cientifica = fuera_de_cotas(v, decimales);
         }
+        if (!AFIRMA(decimales <= 15)) return;
         if (cientifica) pon_cientifico(t, v, decimales, a.sep_decimales);
         else {
             decimal r = redondea(v, static_cast<uint32_t>(decimales));

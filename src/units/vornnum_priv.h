@@ -52,12 +52,13 @@ template <class C> class texto_numero {
     // How many characters stand from the decimal separator on; 0 without one.
     size_t decimales() const { return decimales_; }
     const C *letras() const { return inicio_; }
+    size_t tam_buffer() const { return tam_buffer_; }
 
   private:
     // No text of the formatter comes near the room that there is; one character of it is for pon_detras.
     C letras_[TAM_BUFFER_NUM];
+    size_t tam_buffer_ = TAM_BUFFER_NUM, decimales_ = 0;
     C *inicio_ = letras_ + TAM_BUFFER_NUM - 1, *fin_ = inicio_;
-    size_t decimales_ = 0;
 };
 
 inline bool formato_bueno(int32_t formato) {
