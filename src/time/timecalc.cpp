@@ -22,7 +22,8 @@ int64_t segundos_de(const momento &m) {
     if (!AFIRMA(anyo >= 1970 && anyo < 2038) || !AFIRMA(mes >= 1 && mes <= 12)) return 0;
     const int32_t dias_mes = dias_del_mes(static_cast<uint32_t>(mes - 1), anyo);
     if (!AFIRMA(dia >= 1 && dia <= dias_mes)) return 0;
-    if (!AFIRMA(hora >= 0 && hora < 24) || !AFIRMA(minuto >= 0 && minuto < 60) || !AFIRMA(segundo >= 0 && segundo < 60)) return 0;
+    if (!AFIRMA(hora >= 0 && hora < 24) || !AFIRMA(minuto >= 0 && minuto < 60)) return 0;
+    if (!AFIRMA(segundo >= 0 && segundo < 60)) return 0;
     const int32_t dias = dias_entre(1970, anyo, DIAS_ANTES[es_bisiesto(anyo)][mes - 1] + dia - 1);
     return dias * SEGUNDOS_DIA + hora * 3600 + minuto * 60 + segundo;
 }

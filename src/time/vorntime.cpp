@@ -29,7 +29,7 @@ bool comprueba(const struct tmtime *tmtime) {
 }
 
 // The fields in the order of a file.
-constexpr int32_t tmtime::*CAMPOS[] = {&tmtime::tm_sec,  &tmtime::tm_min,  &tmtime::tm_hour, &tmtime::tm_mday, &tmtime::tm_mon,
+constexpr int32_t tmtime::*CAMPOS[] = {&tmtime::tm_sec, &tmtime::tm_min,  &tmtime::tm_hour, &tmtime::tm_mday, &tmtime::tm_mon,
                                        &tmtime::tm_year, &tmtime::tm_wday, &tmtime::tm_yday, &tmtime::tm_isdst};
 // From the field that weighs most in a comparison to the one that weighs least.
 constexpr int32_t tmtime::*ORDEN[] = {&tmtime::tm_year, &tmtime::tm_mon, &tmtime::tm_mday,
@@ -68,7 +68,8 @@ void pon_dias(tmtime &fecha) {
 } // namespace vn
 
 tmtime *vtm_crea(int32_t hora, int32_t minuto, int32_t segundo, int32_t dia, int32_t mes, int32_t anyo) {
-    const auto menos = [](int32_t x, int32_t y) { return static_cast<int32_t>(static_cast<uint32_t>(x) - static_cast<uint32_t>(y)); };
+    // The least number of 32 bits has none before it: no month, and a year that wraps to a far one.
+    const auto menos = [](int32_t x, uint32_t y) { return static_cast<int32_t>(static_cast<uint32_t>(x) - y); };
     tmtime_propio fecha = nuevo_tmtime({segundo, minuto, hora, dia, menos(mes, 1), menos(anyo, 1900), 0, 0, 0});
     if (mes_posible(*fecha)) pon_dias(*fecha);
     if (!comprueba(fecha.get())) *fecha = INICIO_1970;

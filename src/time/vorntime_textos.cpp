@@ -40,10 +40,10 @@ template <class C> class renglon {
     }
 
     renglon &aaaa_mm_dd(const tmtime &f, C sep) {
-        return numero(int64_t{f.tm_year} + 1900, 4).letra(sep).numero(int64_t{f.tm_mon} + 1, 2).letra(sep).numero(f.tm_mday, 2);
+        return numero(anyo(f), 4).letra(sep).numero(mes(f), 2).letra(sep).numero(f.tm_mday, 2);
     }
     renglon &dd_mm_aaaa(const tmtime &f, C sep) {
-        return numero(f.tm_mday, 2).letra(sep).numero(int64_t{f.tm_mon} + 1, 2).letra(sep).numero(int64_t{f.tm_year} + 1900, 4);
+        return numero(f.tm_mday, 2).letra(sep).numero(mes(f), 2).letra(sep).numero(anyo(f), 4);
     }
     renglon &hh_mm_ss(const tmtime &f, C sep) {
         return letra(' ').numero(f.tm_hour, 2).letra(sep).numero(f.tm_min, 2).letra(sep).numero(f.tm_sec, 2);
@@ -61,6 +61,9 @@ template <class C> class renglon {
     }
 
   private:
+    static int64_t anyo(const tmtime &f) { return int64_t{f.tm_year} + 1900; }
+    static int64_t mes(const tmtime &f) { return int64_t{f.tm_mon} + 1; }
+
     C texto_[6 * 12 + 6];
     size_t n_ = 0;
 };
@@ -73,7 +76,8 @@ template <class C> struct ancho;
 template <> struct ancho<char> {
     static constexpr auto formatea = vnstdc__snprintf;
     static constexpr auto de_hora = vnstdc_strftime;
-    static constexpr const char *FECHA = "%s %2d %s %I64d  %2d:%02d", *DIA_MES = "%d/%m/%y", *MES_DIA = "%m/%d/%y", *HORA = "%I:%M %p";
+    static constexpr const char *FECHA = "%s %2d %s %I64d  %2d:%02d";
+    static constexpr const char *DIA_MES = "%d/%m/%y", *MES_DIA = "%m/%d/%y", *HORA = "%I:%M %p";
     static const char *dia(int i) { return nousar_msglocal_original(vorntime_msg_dia[i]); }
     static const char *mes(int i) { return nousar_msglocal_original(vorntime_msg_mes[i]); }
     static char *copia(const char *s) { return cad_copia_cadena(s); }
@@ -81,8 +85,8 @@ template <> struct ancho<char> {
 template <> struct ancho<vnwchar> {
     static constexpr auto formatea = vnstdc__snwprintf;
     static constexpr auto de_hora = vnstdc_wcsftime;
-    static constexpr const vnwchar *FECHA = VNU("%s %2d %s %I64d  %2d:%02d"), *DIA_MES = VNU("%d/%m/%y"), *MES_DIA = VNU("%m/%d/%y"),
-                                   *HORA = VNU("%I:%M %p");
+    static constexpr const vnwchar *FECHA = VNU("%s %2d %s %I64d  %2d:%02d");
+    static constexpr const vnwchar *DIA_MES = VNU("%d/%m/%y"), *MES_DIA = VNU("%m/%d/%y"), *HORA = VNU("%I:%M %p");
     static const vnwchar *dia(int i) { return nousar_msglocal_original_u(vorntime_msg_dia_u[i]); }
     static const vnwchar *mes(int i) { return nousar_msglocal_original_u(vorntime_msg_mes_u[i]); }
     static vnwchar *copia(const vnwchar *s) { return widestr_copia(s); }
@@ -99,8 +103,9 @@ template <class C> const C *fecha_en(C (&sitio)[SITIO], int64_t t) {
                                           widestr_copia(nousar_msglocal_original_u(vorntime_msg_54061)), 0);
         return sitio;
     }
-    const int copiados = ancho<C>::formatea(sitio, SITIO - 1, ancho<C>::FECHA, ancho<C>::dia(local->tm_wday), local->tm_mday,
-                                            ancho<C>::mes(local->tm_mon), int64_t{local->tm_year} + 1900, local->tm_hour, local->tm_min);
+    const auto *dia = ancho<C>::dia(local->tm_wday), *mes = ancho<C>::mes(local->tm_mon);
+    const int copiados = ancho<C>::formatea(sitio, SITIO - 1, ancho<C>::FECHA, dia, local->tm_mday, mes,
+                                            int64_t{local->tm_year} + 1900, local->tm_hour, local->tm_min);
     sitio[SITIO - 1] = 0;
     if (!AFIRMA(copiados > 0)) sitio[0] = 0;
     return sitio;
