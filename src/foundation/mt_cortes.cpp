@@ -170,7 +170,10 @@ void mt_calcula_inter_segmentos(mt_segmento_t *seg1, mt_segmento_t *seg2) {
     const bool lados_de_p = (qa < 0. && qb > 0.) || (qa > 0. && qb < 0.);
     const bool lados_de_q = (pa < 0. && pb > 0.) || (pa > 0. && pb < 0.);
     if (lados_de_p && lados_de_q) {
-        const double t = pa / (pa - pb);
+        // From differences, which are short where the segments are: the determinants above have lost digits
+        // to their ends.
+        const v3 dp = p.b - p.a, dq = q.b - q.a, pq = q.a - p.a;
+        const double t = (pq.x * dq.y - pq.y * dq.x) / (dp.x * dq.y - dp.y * dq.x);
         const extremos e = de(*seg1);
         const v3 c = dentro(dentro(e.a + t * (e.b - e.a), e), de(*seg2));
         corta(*seg1, c);
