@@ -17,6 +17,8 @@ constexpr double MEDIA_VUELTA = 3.141592653589793;
 constexpr double TOLERANCIA_LADO = 1e-07;
 // Inner angles are looked at to four decimals, so that almost flat corners go.
 constexpr double DECIMALES_ANGULO = 10000.0;
+// What a straight angle may miss of the half turn: rounded below 0 and brought up by a turn, it is 3.141585.
+constexpr double TOLERANCIA_LLANO = 1e-5;
 // How far below the bounds the ray of the inside test ends.
 constexpr double BAJO_EL_POLIGONO = 1000.;
 constexpr int MAXIMO_VUELTAS = 100;
@@ -75,6 +77,11 @@ bool es_esquina_de_los_limites(const poligono_t *pol, const vertice &v) {
     return (v.x == pol->xmin || v.x == pol->xmax) && (v.y == pol->ymin || v.y == pol->ymax);
 }
 
+bool es_entrante(const poligono_t *pol, int32_t i) {
+    const vertice *v = pol->vertice;
+    return pol->numVertices > 3 && lado(v[anterior(pol, i)], v[i], v[siguiente(pol, i)]) == lado_t::derecha;
+}
+
 bool se_puede_quitar(const poligono_t *pol, int32_t i) {
     if (!(pol->numVertices > 3)) return false;
     const vertice &v = pol->vertice[i], &antes = pol->vertice[anterior(pol, i)],
@@ -83,20 +90,30 @@ bool se_puede_quitar(const poligono_t *pol, int32_t i) {
     if (es_esquina_de_los_limites(pol, v)) return false;
     double angulo = mt_angulo(v.x, v.y, antes.x, antes.y) - mt_angulo(v.x, v.y, despues.x, despues.y);
     angulo = std::floor(angulo * DECIMALES_ANGULO + 0.5) / DECIMALES_ANGULO;
-    return mt_filtra_angulo_mayor_que_cero(angulo) >= MEDIA_VUELTA;
+    return mt_filtra_angulo_mayor_que_cero(angulo) >= MEDIA_VUELTA - TOLERANCIA_LLANO;
 }
 
-void poda(poligono_t *pol, int32_t vertizq, int32_t vertder) {
-    while (se_puede_quitar(pol, vertizq)) {
+// Takes the vertices for which `sobra` holds, from `vertizq` backwards and from `vertder` onwards.
+void poda_los_que(bool (*sobra)(const poligono_t *, int32_t), poligono_t *pol, int32_t &vertizq,
+                  int32_t &vertder) {
+    while (sobra(pol, vertizq)) {
         if (!AFIRMA(vertizq != vertder)) return;
         quita(pol, vertizq);
         if (vertder > vertizq) --vertder;
         vertizq = vertizq > 0 ? vertizq - 1 : pol->numVertices - 1;
     }
-    while (se_puede_quitar(pol, vertder)) {
+    while (sobra(pol, vertder)) {
         quita(pol, vertder);
+        if (vertizq > vertder) --vertizq;
         vertder %= pol->numVertices;
     }
+}
+
+void poda(poligono_t *pol, int32_t vertizq, int32_t vertder) {
+    // First those that are inside beyond doubt: the rounded angle of a needle is 0 on either side of the full
+    // turn, and an almost flat corner that went before them could leave three points that run clockwise.
+    poda_los_que(es_entrante, pol, vertizq, vertder);
+    poda_los_que(se_puede_quitar, pol, vertizq, vertder);
 }
 
 // ---------------------------------------------------------------- inside

@@ -2,6 +2,7 @@
 #include "geometry/pto3dord.h"
 #include "foundation/afirma.h"
 #include "foundation/apunorde.h"
+#include "foundation/propio_priv.h"
 #include "foundation/vnmath.h"
 
 struct pto3dord {
@@ -32,10 +33,9 @@ Punto3D en_la_rejilla(double x, double y, double z) {
 } // namespace
 
 pto3dord *pto3dord_crea_vacio(void) {
-    apunorde *puntos = apunorde_crea(Punto3D, void, compara, nullptr, destruye);
-    auto *nuevo = static_cast<pto3dord *>(vornspy_malloc(sizeof(pto3dord)));
-    nuevo->puntos = puntos;
-    return nuevo;
+    vn::propio<pto3dord> nuevo(static_cast<pto3dord *>(vornspy_malloc(sizeof(pto3dord))));
+    nuevo->puntos = apunorde_crea(Punto3D, void, compara, nullptr, destruye);
+    return nuevo.release();
 }
 
 void pto3dord_destruye(pto3dord **puntos_ordenados) {

@@ -7,9 +7,12 @@ PRUEBA(calsecbas, el_giro_lleva_los_momentos_a_los_principales) {
     vn::azar a(32);
     for (int i = 0; i < 20000; ++i) {
         const double imin = a.entre(1., 50.), imax = imin + a.entre(0.1, 50.), giro = a.entre(0., 1.57);
-        const double c = std::cos(giro), s = std::sin(giro), iy = imax * c * c + imin * s * s, iz = imax * s * s + imin * c * c;
-        ASSERT_NEAR(calsecbas_angulo_giro_entre_ejes_yz_y_ejes_principales(iy, iz, CIERTO, imax, imin), giro, 1e-6);
-        ASSERT_NEAR(calsecbas_angulo_giro_entre_ejes_yz_y_ejes_principales(iy, iz, FALSO, imax, imin), -giro, 1e-6);
+        const double c = std::cos(giro), s = std::sin(giro), iy = imax * c * c + imin * s * s,
+                     iz = imax * s * s + imin * c * c;
+        ASSERT_NEAR(calsecbas_angulo_giro_entre_ejes_yz_y_ejes_principales(iy, iz, CIERTO, imax, imin), giro,
+                    1e-6);
+        ASSERT_NEAR(calsecbas_angulo_giro_entre_ejes_yz_y_ejes_principales(iy, iz, FALSO, imax, imin), -giro,
+                    1e-6);
     }
 }
 
@@ -21,5 +24,7 @@ PRUEBA(calsecbas, los_momentos_iguales_y_los_imposibles_dan_cero) {
     EXPECT_EQ(angulo(5. + 1e-9, 1., CIERTO, 5., 1.), 0.); // rounding put the cosine beyond 1
     EXPECT_EQ(ESPERA_INFORME("Imax + precision > Imin", angulo(5., 1., CIERTO, 1., 5.)), 0.);
     EXPECT_EQ(ESPERA_INFORME("Imax + precision > Imin", angulo(1., 1., CIERTO, 0., 1e-10)), 0.);
-    EXPECT_EQ(ESPERA_INFORME("Imax + precision > Imin", angulo(1., 1., CIERTO, std::numeric_limits<double>::quiet_NaN(), 1.)), 0.);
+    EXPECT_EQ(ESPERA_INFORME("Imax + precision > Imin",
+                             angulo(1., 1., CIERTO, std::numeric_limits<double>::quiet_NaN(), 1.)),
+              0.);
 }

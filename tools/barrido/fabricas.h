@@ -18,6 +18,8 @@
 #include "foundation/vnlongpath.h"
 #include "foundation/vnmutex.h"
 #include "foundation/vornspy.h"
+#include "geometry/poligono.h"
+#include "geometry/pto3dord.h"
 #include "geometry/rectng.h"
 #include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
@@ -253,6 +255,25 @@ inline apunorde *apunorde_de_tres() {
     apunorde *a = apunorde_nousar_crea(compara_direcciones, nullptr, nullptr);
     for (int i = 0; i < 3; ++i) apunorde_nousar_inserta_original(a, elemento(i), nullptr);
     return a;
+}
+inline pto3dord *puntos_ordenados() {
+    pto3dord *a = pto3dord_crea_vacio();
+    for (int i = 0; i < 3; ++i) pto3dord_append_punto_si_no_esta_repetido(a, i, 0, 0);
+    return a;
+}
+inline poligono_t *poligono_vacio() {
+    auto *pol = static_cast<poligono_t *>(vornspy_malloc(sizeof(poligono_t)));
+    poligono_crea_pol(pol);
+    return pol;
+}
+inline poligono_t *poligono_de_tres() {
+    poligono_t *pol = poligono_vacio();
+    for (const int32_t i : {0, 1, 3}) poligono_anade_punto_a_poligono_convexo(pol, i, i * i);
+    return pol;
+}
+inline void destruye_poligono(poligono_t *&pol) {
+    poligono_destruye_pol(pol);
+    vornspy_free_pp(&pol, sizeof(poligono_t));
 }
 
 // ---------------------------------------------------------------- call-backs that do something

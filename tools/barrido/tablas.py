@@ -30,6 +30,9 @@ MANEJOS = [
     ("vornsave", r"", "protocolo()", "destruye_protocolo(p)", 0),
     ("rectangulo_t", r"", "rec_CreaDefinido(0, 0, 4, 1)", "rec_Destruye(&p)", 0),
     ("vmatr", r"", "vmatr_crea_matriz_identidad(3)", "vmatr_destruir_matriz(&p)", 0),
+    ("pto3dord", r"", "puntos_ordenados()", "pto3dord_destruye(&p)", 0),
+    ("poligono_t", r"poligono_crea_pol", "poligono_vacio()", "destruye_poligono(p)", 0),
+    ("poligono_t", r"", "poligono_de_tres()", "destruye_poligono(p)", 0),
     # Owned texts and blocks.
     ("char", r"", "nuevo_texto()", "vornspy_free_pp(&p, 1)", 0),
     ("vnwchar", r"", "nuevo_texto_u()", "vornspy_free_pp(&p, sizeof(vnwchar))", 0),
@@ -56,6 +59,8 @@ OTROS = [
     ("apunorde", r"", "apunorde_nousar_crea(compara_direcciones, nullptr, nullptr)", "apunorde_nousar_destruye(&p)"),
     ("vnparametros", r"", "vornspy_parametro(1, 4, 1)", "vornspy_destruye_parametros(&p)"),
     ("vmatr", r"", "vmatr_crea_matriz_nula(2, 5)", "vmatr_destruir_matriz(&p)"),
+    ("pto3dord", r"", "pto3dord_crea_vacio()", "pto3dord_destruye(&p)"),
+    ("poligono_t", r"", "poligono_vacio()", "destruye_poligono(p)"),
 ]
 
 # What an object stood on, which goes after it, whoever destroyed it.
@@ -69,6 +74,7 @@ REGISTROS = {
     "vnoperaciones_fichero": "*operaciones_fichero_del_sistema()",
     "tm": "tm{}",  # a platform's may have pointers
     "fichmem": None,  # through its factory
+    "poligono_t": None,
 }
 
 # Type of call-back -> function of fabricas.h. One that is not here does nothing and returns nothing.
