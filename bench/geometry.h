@@ -14,5 +14,7 @@ inline void debe(bool bien, const char *que) {
 }
 
 int segmentos(int pasadas);
+int matrices(int pasadas);
+int envolventes(int pasadas);
 
 } // namespace bench

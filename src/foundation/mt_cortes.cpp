@@ -68,11 +68,12 @@ double lado_exacto(const v3 &a, const v3 &b, const v3 &p) {
 }
 
 // Positive when `p` is to the left of a -> b, negative to the right, 0 exactly on it; twice the area of the
-// triangle.
-double lado(const v3 &a, const v3 &b, const v3 &p) {
-    constexpr double EPSILON = 0x1p-53, COTA = (3. + 16. * EPSILON) * EPSILON;
+// triangle. Its sign is exact; its value too, to its last digits, where `cifras` asks for it.
+double lado(const v3 &a, const v3 &b, const v3 &p, bool cifras = false) {
+    constexpr double EPSILON = 0x1p-53, COTA = (3. + 16. * EPSILON) * EPSILON, SIN_PERDIDA = 0.0625;
     const double izq = (a.x - p.x) * (b.y - p.y), der = (a.y - p.y) * (b.x - p.x), det = izq - der;
-    return std::fabs(det) > COTA * (std::fabs(izq) + std::fabs(der)) ? det : lado_exacto(a, b, p);
+    const double suma_de_ambos = std::fabs(izq) + std::fabs(der);
+    return std::fabs(det) > (cifras ? SIN_PERDIDA : COTA) * suma_de_ambos ? det : lado_exacto(a, b, p);
 }
 
 // Of a point on the line of a and b.
@@ -170,10 +171,9 @@ void mt_calcula_inter_segmentos(mt_segmento_t *seg1, mt_segmento_t *seg2) {
     const bool lados_de_p = (qa < 0. && qb > 0.) || (qa > 0. && qb < 0.);
     const bool lados_de_q = (pa < 0. && pb > 0.) || (pa > 0. && pb < 0.);
     if (lados_de_p && lados_de_q) {
-        // From differences, which are short where the segments are: the determinants above have lost digits
-        // to their ends.
-        const v3 dp = p.b - p.a, dq = q.b - q.a, pq = q.a - p.a;
-        const double t = (pq.x * dq.y - pq.y * dq.x) / (dp.x * dq.y - dp.y * dq.x);
+        // Two almost parallel segments have lost most digits of these by now.
+        const double inicio = lado(q.a, q.b, p.a, true), fin = lado(q.a, q.b, p.b, true),
+                     t = inicio / (inicio - fin);
         const extremos e = de(*seg1);
         const v3 c = dentro(dentro(e.a + t * (e.b - e.a), e), de(*seg2));
         corta(*seg1, c);

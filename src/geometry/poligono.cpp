@@ -77,9 +77,12 @@ bool es_esquina_de_los_limites(const poligono_t *pol, const vertice &v) {
     return (v.x == pol->xmin || v.x == pol->xmax) && (v.y == pol->ymin || v.y == pol->ymax);
 }
 
-bool es_entrante(const poligono_t *pol, int32_t i) {
+// Whether the outline turns right or runs straight on at a vertex; not at a needle, where it runs back on itself.
+bool sobra_sin_duda(const poligono_t *pol, int32_t i) {
+    if (!(pol->numVertices > 3)) return false;
     const vertice *v = pol->vertice;
-    return pol->numVertices > 3 && lado(v[anterior(pol, i)], v[i], v[siguiente(pol, i)]) == lado_t::derecha;
+    const lado_t donde = lado(v[anterior(pol, i)], v[i], v[siguiente(pol, i)]);
+    return donde == lado_t::derecha || donde == lado_t::despues;
 }
 
 bool se_puede_quitar(const poligono_t *pol, int32_t i) {
@@ -112,7 +115,7 @@ void poda_los_que(bool (*sobra)(const poligono_t *, int32_t), poligono_t *pol, i
 void poda(poligono_t *pol, int32_t vertizq, int32_t vertder) {
     // First those that are inside beyond doubt: the rounded angle of a needle is 0 on either side of the full
     // turn, and an almost flat corner that went before them could leave three points that run clockwise.
-    poda_los_que(es_entrante, pol, vertizq, vertder);
+    poda_los_que(sobra_sin_duda, pol, vertizq, vertder);
     poda_los_que(se_puede_quitar, pol, vertizq, vertder);
 }
 
