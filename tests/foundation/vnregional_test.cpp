@@ -3,10 +3,8 @@
 #include "plataforma/regional.h"
 #include "texto_ancho.h"
 #include <array>
-#include <atomic>
 #include <chrono>
 #include <thread>
-#include <vector>
 
 using vn::ancho;
 using vn::toma;
@@ -138,23 +136,4 @@ PRUEBA(vnregional, la_del_usuario_se_sigue_aunque_cambie) {
     } while (d == VNU(',') && std::chrono::steady_clock::now() - antes < std::chrono::seconds(10));
     EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - antes).count(), 1.0);
     EXPECT_EQ(decimal(), ".");
-}
-
-PRUEBA(vnregional, varias_hebras_mientras_cambia) {
-    std::atomic<bool> acaba{false};
-    std::vector<std::thread> hebras;
-    for (int i = 0; i < 3; ++i)
-        hebras.emplace_back([&] {
-            while (!acaba) {
-                vnwchar d = 0, m = 0;
-                vnregional_separadores(&d, &m);
-                const std::string t = numero("1234.5");
-                EXPECT_TRUE(t == "1.234,50" || t == "1,234.50") << t;
-                EXPECT_TRUE((d == VNU(',') && m == VNU('.')) || (d == VNU('.') && m == VNU(',')));
-            }
-        });
-    for (int i = 0; i < 50; ++i) const en_region r(i % 2 == 0 ? "es-ES" : "en-US");
-    acaba = true;
-    for (auto &h : hebras) h.join();
-    vnregional_establece(nullptr);
 }

@@ -2,7 +2,6 @@
 #include "time/sysdata.h"
 #include "foundation/operaciones_fichero.h"
 #include "foundation/vnregional.h"
-#include "plataforma/regional.h"
 #include "prueba.h"
 #include <cfloat>
 #include <cmath>
@@ -117,16 +116,6 @@ PRUEBA(sysdata, numeros_que_no_caben_o_no_lo_son_salen_llanos) {
     EXPECT_EQ(cabe.size(), 49u) << cabe;
     EXPECT_EQ(no_cabe.size(), 36u) << no_cabe;
     EXPECT_EQ(toma(sysdata_formateaNumero_u(-DBL_MAX, 3)).size(), 1u + 309 + 4);
-}
-
-// What the user set is followed; the names of the days are of the region that the system keeps for them.
-PRUEBA(sysdata, sigue_al_usuario) {
-    const vn::region_del_usuario suya("fr-FR", "de-DE");
-    vnregional_establece(nullptr);
-    EXPECT_EQ(toma(sysdata_separador_decimal_u()) + toma(sysdata_separador_millares_u()), ",\u00A0");
-    EXPECT_EQ(toma(sysdata_separador_fechas()), ".");
-    EXPECT_EQ(toma(sysdata_fecha(24, 12, 2023, 0, nullptr, FALSO)), "24.12.2023");
-    EXPECT_EQ(sysdata_orden_fecha(), 1);
 }
 
 PRUEBA(sysdata, la_maquina_y_su_usuario) {
