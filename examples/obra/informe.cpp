@@ -1,19 +1,9 @@
 #include "informe.h"
 #include "foundation/unicode.h"
-#include "mensajes.h"
-#include "posesion.h"
+#include "informe_priv.h"
 
 namespace obra {
 namespace {
-
-// A number as the library's formatting engine writes it: the same on every platform and under every locale.
-template <class... A>
-std::string forma(const char *formato, A... a) {
-    const dueno_ansi t(nousar_formatea(formato, a...));
-    return t.get();
-}
-
-void linea_de(std::string &s, vnfunc_mensaje etiqueta, const std::string &valor) { s += di(etiqueta) + ": " + valor + "\n"; }
 
 struct cuentas {
     size_t lineas = 0, circulos = 0, arcos = 0, elipses = 0, polilineas = 0, textos = 0;
@@ -42,28 +32,6 @@ struct cuentas {
 
 std::string color_de(uint32_t c) { return c >= 0x1000000 ? forma("#%06X", c & 0xFFFFFF) : std::to_string(c); }
 
-void pon_capas(std::string &s, const plano &p) {
-    s += di(mensaje::capas) + ": " + std::to_string(p.capas.size()) + "\n";
-    cuentas total;
-    extension todo;
-    for (const capa &c : p.capas) {
-        cuentas n;
-        n.suma(c);
-        total.suma(c);
-        s += "  " + utf8(c.nombre) + " (" + di(mensaje::color) + " " + color_de(c.color) +
-             (c.tipo_linea.empty() ? "" : ", " + utf8(c.tipo_linea)) + (c.apagada ? ", " + di(mensaje::apagada) : "") + "): " +
-             n.dilas() + "\n";
-        if (const extension e = extension_de(c); e.hay) todo.anade(e.xmin, e.ymin), todo.anade(e.xmax, e.ymax);
-    }
-    linea_de(s, mensaje::total, total.dilas());
-    std::string sin;
-    for (const auto &[clase, n] : p.sin_importar) sin += (sin.empty() ? "" : ", ") + std::to_string(n) + " " + clase;
-    if (!sin.empty()) linea_de(s, mensaje::sin_importar, sin);
-    linea_de(s, mensaje::extension,
-             todo.hay ? forma("x %.4f .. %.4f, y %.4f .. %.4f", todo.xmin, todo.xmax, todo.ymin, todo.ymax)
-                      : di(mensaje::ninguno));
-}
-
 } // namespace
 
 std::string utf8(const vnwchar *t) {
@@ -73,8 +41,7 @@ std::string utf8(const vnwchar *t) {
 
 std::string di(vnfunc_mensaje mensaje) { return utf8(nousar_msglocal_original_u(mensaje)); }
 
-std::string informe_de(const std::string &nombre, const obra_leida &o) {
-    std::string s = nombre + "\n";
+void pon_fichero(std::string &s, const obra_leida &o) {
     linea_de(s, mensaje::titulo, utf8(o.titulo));
     linea_de(s, mensaje::programa,
              di(mensaje::version) + " " + o.version_programa + ", " + di(mensaje::revision) + " " + o.revision_programa +
@@ -88,7 +55,30 @@ std::string informe_de(const std::string &nombre, const obra_leida &o) {
     for (const auto &[n, v] : o.campos) s += "  " + utf8(n) + " = " + utf8(v) + "\n";
     s += di(mensaje::secciones) + ": " + std::to_string(o.secciones.size()) + "\n";
     for (const seccion &x : o.secciones) s += forma("  %-12s %10I64d ", x.nombre.c_str(), x.bytes) + di(mensaje::bytes) + "\n";
+}
+
+void pon_capas(std::string &s, const plano &p) {
+    s += di(mensaje::capas) + ": " + std::to_string(p.capas.size()) + "\n";
+    cuentas total;
+    for (const capa &c : p.capas) {
+        cuentas n;
+        n.suma(c);
+        total.suma(c);
+        s += "  " + utf8(c.nombre) + " (" + di(mensaje::color) + " " + color_de(c.color) +
+             (c.tipo_linea.empty() ? "" : ", " + utf8(c.tipo_linea)) + (c.apagada ? ", " + di(mensaje::apagada) : "") + "): " +
+             n.dilas() + "\n";
+    }
+    linea_de(s, mensaje::total, total.dilas());
+    std::string sin;
+    for (const auto &[clase, n] : p.sin_importar) sin += (sin.empty() ? "" : ", ") + std::to_string(n) + " " + clase;
+    if (!sin.empty()) linea_de(s, mensaje::sin_importar, sin);
+}
+
+std::string informe_de(const std::string &nombre, const obra_leida &o) {
+    std::string s = nombre + "\n";
+    pon_fichero(s, o);
     pon_capas(s, o.p);
+    pon_medidas(s, o.p);
     return s;
 }
 

@@ -7,8 +7,18 @@ namespace obra {
 
 // A row: name, Spanish, English.
 #define OBRA_MENSAJES(X)                                                                                               \
-    X(uso, "uso: obra importa PLANO.dxf OBRA [CAMPO=VALOR...]\n     obra informa OBRA",                                \
-      "usage: obra importa DRAWING.dxf PROJECT [FIELD=VALUE...]\n       obra informa PROJECT")                         \
+    X(uso, "uso: obra importa PLANO.dxf OBRA [CAMPO=VALOR...]\n"                                                       \
+      "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"                  \
+      "     N: 0 español, 1 francés, 2 portugués de Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés, 9 gallego,\n" \
+      "     10 búlgaro, 11 rumano, 12 chino, 13 alemán, 18 ruso, 31 polaco, 33 turco, 39 japonés",                     \
+      "usage: obra importa DRAWING.dxf PROJECT [FIELD=VALUE...]\n"                                                    \
+      "       obra informa PROJECT [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"             \
+      "       N: 0 Spanish, 1 French, 2 Portuguese of Brazil, 3 Catalan, 4 Italian, 5 Portuguese, 8 English,\n"       \
+      "       9 Galician, 10 Bulgarian, 11 Romanian, 12 Chinese, 13 German, 18 Russian, 31 Polish, 33 Turkish,\n"     \
+      "       39 Japanese")                                                                                           \
+    X(falta_obra, "falta el nombre de la obra", "the name of the project is missing")                                  \
+    X(sobra, "no se entiende", "it is not understood")                                                                 \
+    X(no_vale, "no vale; ha de ser uno de:", "it will not do; it must be one of:")                                     \
     X(no_existe, "el fichero no existe o no se puede leer", "the file does not exist or cannot be read")               \
     X(es_directorio, "es un directorio", "it is a directory")                                                          \
     X(no_es_dxf, "no es un DXF", "it is no DXF")                                                                       \
@@ -46,7 +56,12 @@ namespace obra {
     X(textos, "textos", "texts")                                                                                       \
     X(total, "Total", "Total")                                                                                         \
     X(sin_importar, "Sin importar", "Not imported")                                                                    \
-    X(extension, "Extensión", "Extents")
+    X(extension, "Extensión", "Extents")                                                                               \
+    X(medidas, "Longitudes y áreas", "Lengths and areas")                                                              \
+    X(longitud, "longitud", "length")                                                                                  \
+    X(cerradas, "polilíneas cerradas", "closed polylines")                                                             \
+    X(area, "área", "area")                                                                                            \
+    X(energia, "Unidad de energía", "Unit of energy")
 
 #define X(nombre, es, en) void nombre(vnmensaje *m);
 namespace mensaje {

@@ -1,6 +1,7 @@
 // obra: a small host of the library, the way a real one is written.
 //   obra importa PLANO.dxf OBRA [CAMPO=VALOR...]   a drawing into a project file
-//   obra informa OBRA                              what a project file holds
+//   obra informa OBRA [--sistema ...] [--energia ...] [--idioma N]
+//                                                  what a project file holds, in a system of units and a language
 // A failure is one line on the error stream and exit status 1; nothing is lost or left half written.
 #include "dxf.h"
 #include "foundation/avisos.h"
@@ -11,6 +12,7 @@
 #include "foundation/vornspy.h"
 #include "informe.h"
 #include "mensajes.h"
+#include "opciones.h"
 #include "plataforma/argumentos.h"
 #include "posesion.h"
 #include <cstdio>
@@ -31,7 +33,7 @@ int falla(const std::string &fichero, const std::string &que) {
 
 int uso() {
     std::fprintf(stderr, "%s\n", di(mensaje::uso).c_str());
-    return 2;
+    return 1;
 }
 
 // The reports of the library are for its developers: this program says its own line, and shows them when asked to.
@@ -69,7 +71,15 @@ int importa(const std::vector<std::string> &args) {
     return 0;
 }
 
-int informa(const std::string &nombre) {
+int informa(const std::vector<std::string> &args) {
+    opciones dichas;
+    std::string falta;
+    if (!lee_opciones({args.begin() + 2, args.end()}, dichas, falta)) {
+        std::fprintf(stderr, "obra: %s\n", falta.c_str());
+        return uso();
+    }
+    aplica(dichas);
+    const std::string &nombre = dichas.obra;
     if (const int e = comprueba_que_se_lee(nombre); e != 0) return e;
     obra_leida o;
     std::string motivo;
@@ -84,7 +94,7 @@ int informa(const std::string &nombre) {
 
 int ejecuta(const std::vector<std::string> &args) {
     if (args.size() >= 4 && args[1] == "importa") return importa(args);
-    if (args.size() == 3 && args[1] == "informa") return informa(args[2]);
+    if (args.size() >= 2 && args[1] == "informa") return informa(args);
     return uso();
 }
 

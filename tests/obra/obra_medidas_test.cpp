@@ -1,0 +1,159 @@
+// What the report of the sample host measures, and how it says it.
+#include "informe.h"
+#include "medidas.h"
+#include "foundation/fichconf.h"
+#include "foundation/vnregional.h"
+#include "opciones.h"
+#include "prueba.h"
+#include "units/vornconf.h"
+#include "valores.h"
+#include <cmath>
+#include <numbers>
+
+using namespace obra;
+
+namespace {
+
+constexpr double PI = std::numbers::pi;
+
+// The region is set while it lives.
+struct region {
+    explicit region(const char *cual) { vnregional_establece(cual); }
+    ~region() { vnregional_establece(nullptr); }
+};
+
+} // namespace
+
+PRUEBA(obra_medidas, longitudes_y_areas_conocidas) {
+    const double semi = std::tan(PI / 8); // bulge of a quarter of a circle
+    const struct {
+        polilinea p;
+        double longitud, area;
+    } filas[] = {
+        {{true, {{0, 0}, {4, 0}, {4, 3}}, {}}, 12, 6},
+        {{false, {{0, 0}, {4, 0}, {4, 3}}, {0, 0, 0}}, 7, 0},
+        {{false, {{0, 0}, {4, 0}, {4, 3}, {0, 0}}, {0, 0, 0, 0}}, 12, 6}, // comes back to where it began
+        {{false, {{0, 0}, {4, 0}, {4, 3}, {0, 1e-9}}, {0, 0, 0, 0}}, 12, 0},
+        {{true, {{0, 0}, {2, 0}}, {1, 1}}, 2 * PI, PI},                                          // a circle of two arcs
+        {{true, {{0, 0}, {2, 0}}, {-1, 0}}, PI + 2, PI / 2},                                     // half of it, clockwise
+        {{true, {{1, 0}, {0, 1}, {-1, 0}, {0, -1}}, {semi, semi, semi, semi}}, 2 * PI, PI},
+        {{true, {{0, 0}, {1, 0}, {1, 1}, {0, 1}}, {0, -semi, 0, 0}}, 3 + PI / 2 / std::sqrt(2), 1 - (PI / 8 - 0.25)},
+        {{true, {{1e7, 1e7}, {1e7 + 1, 1e7}, {1e7 + 1, 1e7 + 1}}, {}}, 2 + std::sqrt(2), 0.5},   // far from the origin
+        {{true, {{5, 5}}, {1}}, 0, 0},
+        {{true, {}, {}}, 0, 0},
+    };
+    for (const auto &f : filas) {
+        capa c;
+        c.polilineas = {f.p};
+        EXPECT_NEAR(longitud_de(c), f.longitud, 1e-9);
+        EXPECT_NEAR(area_de(f.p), f.area, 1e-9);
+    }
+    const struct {
+        elipse e;
+        double longitud;
+    } elipses[] = {
+        {{{0, 0}, {2, 0}, 1, 0, PI}, 2 * PI},
+        {{{9, 9}, {0, 2}, 0.5, 0, 2 * PI}, 9.688448220547675},
+        {{{0, 0}, {1, 0}, 2, 0, 2 * PI}, 9.688448220547675},
+        {{{0, 0}, {2, 0}, -0.5, 0, PI / 2}, 9.688448220547675 / 4},
+        {{{0, 0}, {1, 0}, 2, 3 * PI / 2, 2 * PI}, 9.688448220547675 / 4},
+        {{{0, 0}, {2, 0}, 0, -PI / 2, PI / 2}, 4}, // flat: there and back
+        {{{0, 0}, {2, 0}, 1, 1e300, 2}, 0},        // below: only that it ends
+    };
+    for (const auto &f : elipses) {
+        capa c;
+        c.elipses = {f.e};
+        if (f.longitud != 0) EXPECT_NEAR(longitud_de(c), f.longitud, 1e-12);
+        else EXPECT_TRUE(longitud_de(c) >= 0 && longitud_de(c) <= 4 * PI);
+    }
+    capa c;
+    c.lineas = {{{0, 0}, {3, 4}}};
+    c.circulos = {{{1, 1}, 0.5}};
+    c.arcos = {{{0, 0}, 2, PI / 2, 0}}; // over the end of the turn
+    EXPECT_NEAR(longitud_de(c), 5 + PI + 3 * PI, 1e-12);
+}
+
+PRUEBA(obra_medidas, un_valor_en_cada_sistema_y_region) {
+    const struct {
+        uint32_t sistema;
+        const char *region, *longitud, *area;
+    } filas[] = {
+        {VORNCONF_SU_MKS, "es-ES", "1.234,568 m", "98.765,43 m²"},
+        {VORNCONF_SU_INTERNACIONAL, "en-US", "1,234.568 m", "98,765.43 m²"},
+        {VORNCONF_SU_IMPERIAL, "en-US", "4050'-5 1/32\"", "1,063,102.26 ft²"},
+        {VORNCONF_SU_IMPERIAL, "de-DE", "4050'-5 1/32\"", "1.063.102,26 ft²"},
+    };
+    for (const auto &f : filas) {
+        const region r(f.region);
+        vornconf_Internacional_set_sistema_unidades(f.sistema);
+        EXPECT_EQ(longitud(1234.5678), f.longitud);
+        EXPECT_EQ(area(98765.432), f.area);
+    }
+    const region r("es-ES");
+    vornconf_Internacional_set_sistema_unidades(VORNCONF_SU_MKS);
+    std::string s;
+    for (const double x : {0.0042, -0.01, 0., 1e-17, -2e-6, HUGE_VAL}) s += area(x) + " ";
+    EXPECT_EQ(s, "0,004 m² -0,01 m² 0,00 m² 0,00 m² -0,000002 m² inf m² ");
+}
+
+PRUEBA(obra_medidas, las_opciones_se_entienden_o_se_dice_cual_no) {
+    opciones o;
+    std::string falta;
+    ASSERT_TRUE(lee_opciones({"--sistema", "imperial", "a.obra", "--energia", "btu", "--idioma", "8"}, o, falta)) << falta;
+    EXPECT_EQ(o.obra, "a.obra");
+    EXPECT_EQ(o.sistema, VORNCONF_SU_IMPERIAL);
+    EXPECT_EQ(o.energia, VORNNORM_UNIDAD_ENERGIA_BTU);
+    EXPECT_EQ(o.idioma, 8);
+    const struct {
+        std::vector<std::string> palabras;
+        const char *falta;
+    } filas[] = {
+        {{}, "falta el nombre de la obra"},
+        {{"a", "b"}, "b: no se entiende"},
+        {{"a", "--unidades", "si"}, "--unidades si: no se entiende"},
+        {{"a", "--sistema"}, "--sistema: no vale; ha de ser uno de: mks, si, imperial"},
+        {{"a", "--sistema", "MKS"}, "--sistema MKS: no vale; ha de ser uno de: mks, si, imperial"},
+        {{"a", "--energia", ""}, "--energia: no vale; ha de ser uno de: julio, kcal, btu"},
+        {{"a", "--idioma", "41"}, "--idioma 41: no vale; ha de ser uno de: 0 .. 40"},
+        {{"a", "--idioma", "8x"}, "--idioma 8x: no vale; ha de ser uno de: 0 .. 40"},
+        {{"a", "--idioma", "-1"}, "--idioma -1: no vale; ha de ser uno de: 0 .. 40"},
+        {{"a", "--idioma", "0", "--idioma", "0"}, "--idioma 0: no se entiende"},
+    };
+    msidioma_establece_idioma(0);
+    for (const auto &f : filas) {
+        EXPECT_FALSE(lee_opciones(f.palabras, o, falta));
+        EXPECT_EQ(falta, f.falta);
+    }
+}
+
+// What the user has configured rules where nothing is said, and stays as it is where something is.
+PRUEBA(obra_medidas, las_opciones_valen_para_esta_vez) {
+    fichconf_establece_directorio_base(vn::ancho(directorio()).c_str());
+    msidioma_establece_idioma(0);
+    vornconf_par_lee_internacional(nullptr); // makes the directory
+    const std::string fichero = directorio() + "/VORN/estructa/internac.ini", dicho = "[Internacional]\nSistema de Unidades=2\n";
+    vn::graba_fichero(fichero, dicho);
+    vornconf_par_lee_internacional(nullptr);
+    const region r("en-GB");
+    obra_leida o;
+    o.p.metros_por_unidad = 0.3048;
+    o.p.capas.resize(1);
+    o.p.capas[0].polilineas = {{true, {{0, 0}, {10, 0}, {10, 1000}, {0, 1000}}, {}}};
+    const auto informe = [&] {
+        const std::string s = informe_de("x", o);
+        return s.substr(s.find("Sistema de unidades"));
+    };
+    EXPECT_EQ(informe(), "Sistema de unidades: Sistema Internacional\nUnidad de energía: julio, J\n"
+                         "Extensión: x 0.000 m .. 3.048 m, y 0.000 m .. 304.800 m (3.048 m x 304.800 m)\n"
+                         "Longitudes y áreas:\n"
+                         "  : longitud 615.696 m; polilíneas cerradas: 1, área 929.03 m²\n"
+                         "  Total: longitud 615.696 m; polilíneas cerradas: 1, área 929.03 m²\n");
+    aplica({.sistema = VORNCONF_SU_IMPERIAL, .energia = VORNNORM_UNIDAD_ENERGIA_KCAL});
+    EXPECT_EQ(informe(), "Sistema de unidades: Unidades Inglesas\nUnidad de energía: kilocaloría, kcal\n"
+                         "Extensión: x 0\" .. 10'-0\", y 0\" .. 1000'-0\" (10'-0\" x 1000'-0\")\n"
+                         "Longitudes y áreas:\n"
+                         "  : longitud 2020'-0\"; polilíneas cerradas: 1, área 10,000.00 ft²\n"
+                         "  Total: longitud 2020'-0\"; polilíneas cerradas: 1, área 10,000.00 ft²\n");
+    EXPECT_EQ(vn::lee_fichero(fichero), dicho);
+    fichconf_establece_directorio_base(nullptr);
+}
