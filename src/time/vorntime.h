@@ -46,8 +46,8 @@ void vorntime_ajusta_fecha_valida(tmtime *fecha);
 /** Day 1 to 31, month 1 to 12, and year in full. */
 void vorntime_obtener_dia_mes_anyo(const tmtime *fecha, VN_SALIDA int32_t *dia, VN_SALIDA int32_t *mes,
                                    VN_SALIDA int32_t *anyo);
-/** Writes the nine fields as 16-bit integers. In place of a record that fails the check, which is reported, the start of
-    1970 goes, so that what follows in the file keeps its place. */
+/** Writes the nine fields as 16-bit integers, which hold the years up to 34667. In place of a record that fails the check,
+    which is reported, the start of 1970 goes, so that what follows in the file keeps its place. */
 void vtm_graba_hora_y_fecha(const tmtime *fecha, vornsave *vornsave_datos);
 /** Reads what vtm_graba_hora_y_fecha writes: a new record, the caller's. One that fails the check is reported, and is the
     start of 1970 then. */
