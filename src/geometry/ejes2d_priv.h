@@ -1,0 +1,65 @@
+// What the sources of the axes of planes share: a frame as one value, the tolerances.
+#pragma once
+
+#include "geometry/vector_priv.h"
+
+// The parameters of a frame in a definition, plain or with a suffix, and the frame that they are.
+#define EJES_DE(s)                                                                                                     \
+    double Xo##s, double Yo##s, double Zo##s, double Ux##s, double Uy##s, double Uz##s, double Vx##s, double Vy##s,    \
+        double Vz##s
+#define UV_DE(s) double Ux##s, double Uy##s, double Uz##s, double Vx##s, double Vy##s, double Vz##s
+#define EJES double Xo, double Yo, double Zo, UV
+#define UV double Ux, double Uy, double Uz, double Vx, double Vy, double Vz
+#define SALIDAS_UV double *Ux, double *Uy, double *Uz, double *Vx, double *Vy, double *Vz
+#define SALIDAS_EJES double *Xo, double *Yo, double *Zo, SALIDAS_UV
+#define MARCO_DE(s) vn::marco{{Xo##s, Yo##s, Zo##s}, {Ux##s, Uy##s, Uz##s}, {Vx##s, Vy##s, Vz##s}}
+#define MARCO vn::marco{{Xo, Yo, Zo}, {Ux, Uy, Uz}, {Vx, Vy, Vz}}
+#define A_SALIDAS(m)                                                                                                   \
+    (vn::da(Xo, Yo, Zo, (m).o), vn::da(Ux, Uy, Uz, (m).u), vn::da(Vx, Vy, Vz, (m).v))
+
+namespace vn {
+
+// Two points of a list are one; a point is on the line of two others.
+inline constexpr double PRECISION_PUNTOS = 1e-05;
+// A point of a list is in the plane of three others.
+inline constexpr double PRECISION_PLANO = 0.0005;
+// The third corner of a face is in the plane of the others.
+inline constexpr double i_PRECISION_PUNTO_PERTENECE_PLANO = 0.0005;
+// How many times the plane's tolerance a point is off when there is no use in trying other starts.
+inline constexpr double FACTOR_SIN_REMEDIO = 100.;
+// Twice the area that a corner sweeps, below which it does not say which way the polygon turns.
+inline constexpr double GIRO_SIN_SENTIDO = 1e-09;
+// Two frames have the same vectors, each component.
+inline constexpr double PRECISION_EJES_IGUALES = 1e-05;
+// A vector is vertical: what its two horizontal components are below.
+inline constexpr double PRECISION_VERTICAL = 1e-06;
+// A vector is in a plane, where the caller gives no tolerance.
+inline constexpr double PRECISION_VECTOR_EN_PLANO = 1e-06;
+// A coordinate of a projected origin is zero.
+inline constexpr double PRECISION_ORIGEN_CERO = 1e-06;
+// Two planes look the same way: what the product of their normals is above.
+inline constexpr double MARGEN_MISMA_ORIENTACION = 1e-08;
+// How far past a turn an angle may be, in degrees.
+inline constexpr double MARGEN_ANGULO_NEGATIVO = 1e-10, ANGULO_MAXIMO = 360.0000000001;
+
+// A frame: origin and the vectors of local x and y.
+struct marco {
+    Punto3D o, u, v;
+
+    Punto3D vector_a_global(Punto2D p) const { return p.x * u + p.y * v; }
+    Punto3D a_global(Punto2D p) const { return o + p.x * u + p.y * v; }
+    Punto3D a_global(Punto3D p, Punto3D w) const { return o + p.x * u + p.y * v + p.z * w; }
+    Punto2D vector_a_local(Punto3D d) const { return {escalar(d, u), escalar(d, v)}; }
+    Punto2D a_local(Punto3D p) const { return vector_a_local(p - o); }
+    Punto3D vector_a_local(Punto3D d, Punto3D w) const { return {escalar(d, u), escalar(d, v), escalar(d, w)}; }
+};
+
+// Reports a vector that is not of length 1.
+bool comprueba_unitario(Punto3D u);
+// The unit normal U x V, checked.
+Punto3D normal_de(Punto3D u, Punto3D v);
+inline Punto3D normal_de(const marco &m) { return normal_de(m.u, m.v); }
+// Local coordinates of a point of the plane of normal `w`: one off it by the precision or more is reported.
+Punto2D a_local_en_plano(const marco &m, Punto3D w, Punto3D p, double precision);
+
+} // namespace vn

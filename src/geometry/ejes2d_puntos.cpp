@@ -1,0 +1,306 @@
+// Axes out of a list of points.
+#define VN_MODULO "ejes2d (NUCLEOS.DLL)"
+#include "geometry/ejes2d.h"
+#include "foundation/afirma.h"
+#include "foundation/arr.h"
+#include "foundation/mt.h"
+#include "geometry/ejes2d_priv.h"
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <span>
+#include <vector>
+
+using namespace vn;
+
+namespace {
+
+using puntos_t = std::span<const Punto3D>;
+
+constexpr uint32_t SIN_PUNTO = 0xFFFFFFFF;
+// Points that the search steps over at once where none of them can be what it looks for.
+constexpr uint32_t BLOQUE = 256;
+// What rounding may add to a distance to a line, in the largest coordinate of all that take part.
+constexpr double REDONDEO = 64. * DBL_EPSILON;
+
+bool apartados(Punto3D a, Punto3D b, double precision) {
+    return std::fabs(a.x - b.x) > precision || std::fabs(a.y - b.y) > precision || std::fabs(a.z - b.z) > precision;
+}
+
+// Whether they do not coincide: unlike the former, what is just at the tolerance counts. Only finite points are distinct.
+bool distintos(Punto3D a, Punto3D b, double precision) {
+    const Punto3D d = a - b;
+    return std::isfinite(d.x + d.y + d.z) &&
+           (std::fabs(d.x) >= precision || std::fabs(d.y) >= precision || std::fabs(d.z) >= precision);
+}
+
+// Whether p3 is off the line of two points, by its foot on it; two points that are one have no line.
+bool no_alineados(Punto3D p1, Punto3D p2, Punto3D p3, double precision) {
+    if (!distintos(p1, p2, precision)) return false;
+    Punto3D pie;
+    mt_proyecta_punto_sobre_recta_3D(p3.x, p3.y, p3.z, p1.x, p1.y, p1.z, p2.x, p2.y, p2.z, &pie.x, &pie.y, &pie.z);
+    return distintos(p3, pie, precision);
+}
+
+double modulo(Punto3D a) { return std::sqrt(escalar(a, a)); }
+
+double distancia_a_recta(Punto3D p, Punto3D o, Punto3D u) {
+    const Punto3D d = p - o;
+    return modulo(d - escalar(d, u) * u);
+}
+
+double mayor_coordenada(Punto3D p) { return std::max({std::fabs(p.x), std::fabs(p.y), std::fabs(p.z)}); }
+
+// What is known of consecutive points: their box, and a segment that none of them is farther from than `lejos`. Distance
+// to a line is greatest at an end of a segment, so two distances bound those of all the points.
+struct bloque {
+    static constexpr double INF = std::numeric_limits<double>::infinity();
+    Punto3D minimo{INF, INF, INF}, maximo{-INF, -INF, -INF}, a, b;
+    double lejos = 0.;
+
+    explicit bloque(puntos_t p) : a(mas_lejano(p, p[0])), b(mas_lejano(p, a)) {
+        const Punto3D ab = b - a;
+        const double ab2 = escalar(ab, ab);
+        for (const Punto3D &q : p) {
+            minimo = {std::min(minimo.x, q.x), std::min(minimo.y, q.y), std::min(minimo.z, q.z)};
+            maximo = {std::max(maximo.x, q.x), std::max(maximo.y, q.y), std::max(maximo.z, q.z)};
+            const double t = ab2 > 0. ? std::clamp(escalar(q - a, ab) / ab2, 0., 1.) : 0.;
+            lejos = std::max(lejos, modulo(q - (a + t * ab)));
+        }
+    }
+
+    static Punto3D mas_lejano(puntos_t p, Punto3D de) {
+        Punto3D r = de;
+        for (const Punto3D &q : p)
+            if (escalar(q - de, q - de) > escalar(r - de, r - de)) r = q;
+        return r;
+    }
+
+    // Rounding is monotonic, so the box says exactly what its points would.
+    bool ninguno_apartado(Punto3D p1, double precision) const {
+        return !apartados(p1, minimo, precision) && !apartados(p1, maximo, precision);
+    }
+    bool todos_alineados(Punto3D p1, Punto3D u, double precision) const {
+        const double escala = std::max({mayor_coordenada(p1), mayor_coordenada(minimo), mayor_coordenada(maximo)});
+        return std::max(distancia_a_recta(a, p1, u), distancia_a_recta(b, p1, u)) + lejos + REDONDEO * escala < precision;
+    }
+};
+
+struct terna {
+    Punto3D p1, p2, p3;
+};
+
+// The search for three points that span a plane, from any start around the ring. A start takes time in proportion to the
+// points, and a list on which all of them fail could take its square: blocks are stepped over once they are there.
+class buscador {
+  public:
+    buscador(puntos_t puntos, double precision) : p_(puntos), precision_(precision) {}
+
+    void prepara_bloques() {
+        if (!bloques_.empty()) return;
+        for (size_t i = 0; i + BLOQUE <= p_.size(); i += BLOQUE) bloques_.emplace_back(p_.subspan(i, BLOQUE));
+    }
+
+    bool busca(uint32_t inicio, terna &t) const {
+        const auto n = static_cast<uint32_t>(p_.size());
+        if (n < 3) return false;
+        t.p1 = p_[inicio];
+        const uint32_t k2 = primero(inicio, 1, [&](uint32_t i) { return apartados(t.p1, p_[i], precision_); },
+                                    [&](const bloque &b) { return b.ninguno_apartado(t.p1, precision_); });
+        if (k2 == n) return false;
+        t.p2 = p_[lugar(inicio, k2)];
+        Punto3D u = t.p2 - t.p1;
+        mt_pasar_a_unitario_3D(&u.x, &u.y, &u.z);
+        const uint32_t k3 = primero(inicio, k2, [&](uint32_t i) { return no_alineados(t.p1, t.p2, p_[i], precision_); },
+                                    [&](const bloque &b) { return b.todos_alineados(t.p1, u, precision_); });
+        if (k3 == n) return false;
+        t.p3 = p_[lugar(inicio, k3)];
+        return true;
+    }
+
+  private:
+    uint32_t lugar(uint32_t inicio, uint32_t k) const {
+        const uint64_t i = uint64_t{inicio} + k;
+        return static_cast<uint32_t>(i < p_.size() ? i : i - p_.size());
+    }
+
+    // The first k, from the one given up to the number of points, for which the point that is k after the start is the
+    // one looked for; the number of points if none is.
+    template <class Es, class Ninguno>
+    uint32_t primero(uint32_t inicio, uint32_t k, Es &&es, Ninguno &&ninguno) const {
+        const auto n = static_cast<uint32_t>(p_.size());
+        while (k < n) {
+            const uint32_t i = lugar(inicio, k);
+            if (i % BLOQUE == 0 && i / BLOQUE < bloques_.size() && n - k >= BLOQUE && ninguno(bloques_[i / BLOQUE])) {
+                k += BLOQUE;
+                continue;
+            }
+            if (es(i)) return k;
+            ++k;
+        }
+        return n;
+    }
+
+    puntos_t p_;
+    double precision_;
+    std::vector<bloque> bloques_;
+};
+
+bool ejes_de(const terna &t, marco &m, Punto3D &w) {
+    m.o = t.p1;
+    return mt_calcular_ejes_3D_dados_3_puntos(t.p1.x, t.p1.y, t.p1.z, t.p2.x, t.p2.y, t.p2.z, t.p3.x, t.p3.y, t.p3.z,
+                                              &m.u.x, &m.u.y, &m.u.z, &m.v.x, &m.v.y, &m.v.z, &w.x, &w.y,
+                                              &w.z) == CIERTO;
+}
+
+struct recorrido {
+    uint32_t falla = SIN_PUNTO; // the first point off the plane
+    double distancia = 0.;      // how far it is
+    int64_t votos = 0;          // corners to the left less corners to the right
+    Punto3D suma{};
+};
+
+// One pass over the closed polygon: each point against the plane, the vote of its corner, the sum for the mean.
+recorrido recorre(puntos_t p, Punto3D o, Punto3D w, double precision_plano) {
+    recorrido r;
+    Punto3D llega = p[0] - p[p.size() - 1];
+    for (size_t j = 0; j < p.size(); ++j) {
+        const double d = escalar(p[j] - o, w);
+        if (!(std::fabs(d) <= precision_plano)) {
+            r.falla = static_cast<uint32_t>(j);
+            r.distancia = std::fabs(d);
+            return r;
+        }
+        const Punto3D sale = p[j + 1 < p.size() ? j + 1 : 0] - p[j];
+        const double c = escalar(vectorial(llega, sale), w);
+        r.votos += (c > GIRO_SIN_SENTIDO) - (c < -GIRO_SIN_SENTIDO);
+        r.suma = r.suma + p[j];
+        llega = sale;
+    }
+    return r;
+}
+
+struct tolerancias {
+    double puntos = PRECISION_PUNTOS, plano = PRECISION_PLANO;
+};
+
+// Whether the points form axes, and which. `culpable` is the point to blame, as ejes2d.h says.
+bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marco &m, uint32_t &culpable) {
+    culpable = SIN_PUNTO;
+    buscador b(p, prec.puntos);
+    uint32_t testigo = SIN_PUNTO, culpable_del_primero = SIN_PUNTO;
+    for (uint32_t s = 0; s < p.size(); ++s) {
+        // What has failed from a point fails from its twin.
+        if (s > 0 && std::memcmp(&p[s], &p[s - 1], sizeof p[s]) == 0) continue;
+        if (s > 0) b.prepara_bloques();
+        terna t;
+        Punto3D w;
+        if (!b.busca(s, t) || !ejes_de(t, m, w)) continue;
+        // The point that another plane failed at is likely to be off this one too.
+        if (testigo != SIN_PUNTO && !(std::fabs(escalar(p[testigo] - t.p1, w)) <= prec.plano)) continue;
+        const recorrido r = recorre(p, t.p1, w, prec.plano);
+        if (r.falla == SIN_PUNTO) {
+            const auto n = static_cast<double>(p.size());
+            if (r.votos < 0) m.u = -m.u;
+            m.o = {r.suma.x / n, r.suma.y / n, r.suma.z / n};
+            culpable = culpable_del_primero;
+            return true;
+        }
+        testigo = r.falla;
+        if (s == 0 && comprueba_no_forma_eje) {
+            culpable_del_primero = r.falla;
+            if (r.distancia > FACTOR_SIN_REMEDIO * prec.plano) {
+                culpable = r.falla;
+                return false;
+            }
+        }
+    }
+    return false;
+}
+
+puntos_t puntos_de(const arrPunto3D *puntos) { return {arr_GetBufferConstPunto3D(puntos), arr_NumElemsPunto3D(puntos)}; }
+
+vnbool forman_ejes(const arrPunto3D *puntos, tolerancias prec, vnbool comprueba_no_forma_eje, SALIDAS_EJES,
+                   uint32_t *ind_punto_no_forma_eje) {
+    if (ind_punto_no_forma_eje != nullptr) *ind_punto_no_forma_eje = SIN_PUNTO;
+    if (!AFIRMA_NO_NULO(puntos) || !AFIRMA_LOGICO(comprueba_no_forma_eje)) return FALSO;
+    marco m;
+    uint32_t culpable;
+    const bool forman = forman_ejes(puntos_de(puntos), prec, comprueba_no_forma_eje == CIERTO, m, culpable);
+    if (ind_punto_no_forma_eje != nullptr) *ind_punto_no_forma_eje = culpable;
+    if (!forman) return FALSO;
+    A_SALIDAS(m);
+    return CIERTO;
+}
+
+void crea_a_partir_de_puntos(const arrPunto3D *puntos, tolerancias prec, SALIDAS_EJES) {
+    A_SALIDAS(marco{});
+    if (!AFIRMA_NO_NULO(puntos)) return;
+    const vnbool forman_ejes = ::forman_ejes(puntos, prec, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz, nullptr);
+    AFIRMA(forman_ejes == CIERTO);
+}
+
+} // namespace
+
+vnbool ejes2d_punto3D_forman_ejes(const arrPunto3D *puntos, SALIDAS_EJES) {
+    return forman_ejes(puntos, {}, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz, nullptr);
+}
+
+vnbool ejes2d_punto3D_forman_ejes_con_precision(const arrPunto3D *puntos, double precision_plano, SALIDAS_EJES) {
+    return forman_ejes(puntos, {.plano = precision_plano}, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz, nullptr);
+}
+
+vnbool ejes2d_punto3D_forman_ejes_con_ind_punto_no_forma_eje(const arrPunto3D *puntos, SALIDAS_EJES,
+                                                             uint32_t *ind_punto_no_forma_eje) {
+    return forman_ejes(puntos, {}, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz, ind_punto_no_forma_eje);
+}
+
+vnbool ejes2d_punto3D_forman_ejes_con_precision_ex(const arrPunto3D *puntos, double precision_puntos,
+                                                   double precision_plano, SALIDAS_EJES,
+                                                   uint32_t *ind_punto_no_forma_eje) {
+    return forman_ejes(puntos, {precision_puntos, precision_plano}, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz,
+                       ind_punto_no_forma_eje);
+}
+
+vnbool ejes2d_punto3D_forman_ejes_con_precision_ex2(const arrPunto3D *puntos, double precision_puntos,
+                                                    double precision_plano, vnbool comprueba_no_forma_eje, SALIDAS_EJES,
+                                                    uint32_t *ind_punto_no_forma_eje) {
+    return forman_ejes(puntos, {precision_puntos, precision_plano}, comprueba_no_forma_eje, Xo, Yo, Zo, Ux, Uy, Uz, Vx,
+                       Vy, Vz, ind_punto_no_forma_eje);
+}
+
+void ejes2d_crea_a_partir_de_puntos3D(const arrPunto3D *puntos, SALIDAS_EJES) {
+    crea_a_partir_de_puntos(puntos, {}, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz);
+}
+
+void ejes2d_crea_a_partir_de_puntos3D_con_precision(const arrPunto3D *puntos, double precision_plano, SALIDAS_EJES) {
+    crea_a_partir_de_puntos(puntos, {.plano = precision_plano}, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz);
+}
+
+vnbool ejes2d_punto3D_forman_ejes_solo_mirando_3_puntos_no_lineales(const arrPunto3D *puntos, double precision,
+                                                                    SALIDAS_EJES) {
+    if (!AFIRMA_NO_NULO(puntos)) return FALSO;
+    terna t;
+    marco m;
+    Punto3D w;
+    if (!buscador(puntos_de(puntos), precision).busca(0, t) || !ejes_de(t, m, w)) return FALSO;
+    A_SALIDAS(m);
+    return CIERTO;
+}
+
+vnbool ejes2d_existen_tres_puntos_no_lineales(const arrPunto3D *puntos) {
+    return ejes2d_existen_tres_puntos_no_lineales_con_precision(puntos, PRECISION_PUNTOS);
+}
+
+vnbool ejes2d_existen_tres_puntos_no_lineales_con_precision(const arrPunto3D *puntos, double precision) {
+    if (!AFIRMA_NO_NULO(puntos)) return FALSO;
+    terna t;
+    return buscador(puntos_de(puntos), precision).busca(0, t) ? CIERTO : FALSO;
+}
+
+vnbool ejes2d_tres_puntos_forman_ejes(double x1, double y1, double z1, double x2, double y2, double z2, double x3,
+                                      double y3, double z3) {
+    return no_alineados({x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3}, PRECISION_PUNTOS) ? CIERTO : FALSO;
+}

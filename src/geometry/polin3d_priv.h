@@ -1,0 +1,62 @@
+// What the sources of the polylines share: the fillet between three points, the tolerances.
+#pragma once
+
+#include "foundation/arr.h"
+#include "geometry/vector_priv.h"
+#include <memory>
+#include <vector>
+
+namespace vn {
+
+// The half circle, whose plane its ends do not tell: what the angle is from it, in radians.
+inline constexpr double MARGEN_MEDIA_VUELTA = 1e-05;
+// The ends of an arc are in the plane of its axes, and the corners of a polygon in one: the cosine of the normals.
+inline constexpr double MARGEN_MISMO_PLANO_ARCO = .000001, MARGEN_MISMO_PLANO_POLIGONO = .00001;
+// Two edges go on straight: what the cosine of their turn is from 1.
+inline constexpr double MARGEN_SIN_GIRO = 1e-05;
+// A bar is straight or doubled back at a point, with no fillet: one degree, in radians.
+inline constexpr double ANGULO_SIN_ACUERDO = 0.017453;
+// A tangent point is the end of its segment; two consecutive points of a result are one.
+inline constexpr double PRECISION_EXTREMO = 1e-05;
+// A section stands where the last one does.
+inline constexpr double PRECISION_SECCION = 1e-06;
+// A corner is straight enough for the section before it: what the cosine is from 1 or -1.
+inline constexpr double MARGEN_RECTO = 0.0001;
+// The step of a cosine that is rounded before its angle is asked for.
+inline constexpr double PASO_COSENO = 1e-14;
+inline constexpr double RADIANES_POR_GRADO = 0.017453292519943295;
+
+// What a result may have: points without bound could be asked for by a tiny step.
+inline constexpr double MAXIMO_PASOS = 100000.;
+inline constexpr uint64_t MAXIMO_PUNTOS = uint64_t{1} << 24;
+
+struct destruye_puntos {
+    void operator()(arrPunto3D *a) const { arr_DestruyePunto3D(&a); }
+};
+using puntos_propios = std::unique_ptr<arrPunto3D, destruye_puntos>;
+
+// New array with the points; null if there is no memory for them.
+arrPunto3D *array_de(const std::vector<Punto3D> &puntos);
+
+double distancia(Punto3D a, Punto3D b);
+bool cerca(Punto3D a, Punto3D b, double precision);
+// The unit vector from a to b, zero if they are one.
+Punto3D direccion(Punto3D a, Punto3D b);
+// X from o to a, Y on the side of b, Z = X x Y; the global axes, and false, if the three are on a line.
+bool ejes_de_tres(Punto3D o, Punto3D a, Punto3D b, Punto3D &x, Punto3D &y, Punto3D &z);
+double angulo_entre(Punto3D u1, Punto3D u2);
+
+struct acuerdo {
+    std::vector<Punto3D> puntos; // from the tangent point toward p1 to the one toward p3
+    Punto3D centro{};
+    bool hay_centro = false;
+};
+
+struct barra {
+    double diametro, radio_eje, num_grados_dibujo_doblado;
+};
+
+// Whether there is a fillet at p2, and which.
+bool hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool mantiene_extremos, acuerdo &a);
+
+} // namespace vn
