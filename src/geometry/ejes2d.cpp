@@ -72,17 +72,19 @@ Punto3D vn::normal_de(Punto3D u, Punto3D v) {
 // ---------------------------------------------------------------- records
 
 ejes2d *ejes2d_crea(EJES) { return nuevo_de(MARCO); }
-ejes2d *ejes2d_copia(const ejes2d *ejes2d) { return AFIRMA_NO_NULO(ejes2d) ? nuevo(*ejes2d) : nullptr; }
-void ejes2d_destruye(ejes2d **ejes2d) {
-    if (AFIRMA_NO_NULO(ejes2d) && AFIRMA_NO_NULO(*ejes2d)) vornspy_free_pp(ejes2d, sizeof **ejes2d);
+ejes2d *ejes2d_copia(const ejes2d *e) { return AFIRMA_TEXTO(e != nullptr, "(ejes2d) != NULL") ? nuevo(*e) : nullptr; }
+void ejes2d_destruye(ejes2d **e) {
+    if (AFIRMA_TEXTO(e != nullptr, "(ejes2d) != NULL") && AFIRMA_TEXTO(*e != nullptr, "(*ejes2d) != NULL"))
+        vornspy_free_pp(e, sizeof **e);
 }
 
 planoABCD *ejes2d_crea_planoABCD(double A, double B, double C, double D) { return nuevo(planoABCD{A, B, C, D}); }
-planoABCD *ejes2d_copia_planoABCD(const planoABCD *planoABCD) {
-    return AFIRMA_NO_NULO(planoABCD) ? nuevo(*planoABCD) : nullptr;
+planoABCD *ejes2d_copia_planoABCD(const planoABCD *p) {
+    return AFIRMA_TEXTO(p != nullptr, "(planoABCD) != NULL") ? nuevo(*p) : nullptr;
 }
-void ejes2d_destruye_planoABCD(planoABCD **planoABCD) {
-    if (AFIRMA_NO_NULO(planoABCD) && AFIRMA_NO_NULO(*planoABCD)) vornspy_free_pp(planoABCD, sizeof **planoABCD);
+void ejes2d_destruye_planoABCD(planoABCD **p) {
+    if (AFIRMA_TEXTO(p != nullptr, "(planoABCD) != NULL") && AFIRMA_TEXTO(*p != nullptr, "(*planoABCD) != NULL"))
+        vornspy_free_pp(p, sizeof **p);
 }
 
 ejes2d *ejes2d_local_a_global(EJES, const ejes2d *ejes_resp_sr_base) {

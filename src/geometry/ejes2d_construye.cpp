@@ -1,5 +1,5 @@
-// Axes out of points, vectors and angles; the equation of their plane.
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
+// Axes out of points, vectors and angles; the equation of their plane.
 #include "geometry/ejes2d.h"
 #include "foundation/afirma.h"
 #include "foundation/mt.h"

@@ -1,5 +1,5 @@
-// Points, vectors and lines from global to local and back.
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
+// Points, vectors and lines from global to local and back.
 #include "geometry/ejes2d.h"
 #include "foundation/afirma.h"
 #include "foundation/arr.h"

@@ -1,5 +1,5 @@
-// Whole polylines from global to local and back.
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
+// Whole polylines from global to local and back.
 #include "geometry/ejes2d.h"
 #include "foundation/afirma.h"
 #include "foundation/arr.h"

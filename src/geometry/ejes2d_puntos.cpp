@@ -1,5 +1,5 @@
-// Axes out of a list of points.
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
+// Axes out of a list of points.
 #include "geometry/ejes2d.h"
 #include "foundation/afirma.h"
 #include "foundation/arr.h"

@@ -1,5 +1,5 @@
-// Circles, arcs and fillets as points; lists of points.
 #define VN_MODULO "polin3d (NUCLEOS.DLL)"
+// Circles, arcs and fillets as points; lists of points.
 #include "geometry/polin3d.h"
 #include "foundation/afirma.h"
 #include "foundation/mt.h"

@@ -1,5 +1,5 @@
-// Polylines with fillets, and the sections along them.
 #define VN_MODULO "polin3d (NUCLEOS.DLL)"
+// Polylines with fillets, and the sections along them.
 #include "geometry/polin3d.h"
 #include "foundation/afirma.h"
 #include "foundation/mt.h"

@@ -16,6 +16,9 @@ MANEJOS = [
     ("arrPuntero", r"vornsave_.*arr_punteros_array", "punteros_a_arrays()", "destruye_punteros_a_arrays(p)", 2),
     ("arrPuntero", r"rec_", "tiras()", "destruye_tiras(p)", 3),
     ("arrPuntero", r"vtm_", "fechas()", "vtm_libera_tm_arr(&p)", 2),
+    ("arrPuntero", r"polin3d_contorno", "arr_CreaPunteroConTipo(0)",
+     "arr_DestruyeEstructurasArrayST(&p, arrPunto3D, arr_DestruyePunto3D)", 0),
+    ("arrPuntero", r"polin3d_ejes2d", "arr_CreaPunteroConTipo(0)", "arr_DestruyeEstructurasST(&p, ejes2d, ejes2d_destruye)", 0),
     ("arrPuntero", r"", "punteros()", "arr_DestruyePunteroConTipo(&p)", 3),
     ("tmtime", r"", "vtm_crea(23, 59, 58, 31, 12, 2005)", "vtm_destruye(&p)", 0),
     (r"arr(\w+)", r"", r"arr_Crea\1(3)", r"arr_Destruye\1(&p)", 3),
@@ -33,6 +36,8 @@ MANEJOS = [
     ("pto3dord", r"", "puntos_ordenados()", "pto3dord_destruye(&p)", 0),
     ("poligono_t", r"poligono_crea_pol", "poligono_vacio()", "destruye_poligono(p)", 0),
     ("poligono_t", r"", "poligono_de_tres()", "destruye_poligono(p)", 0),
+    ("ejes2d", r"", "ejes2d_crea(0., 0., 0., 1., 0., 0., 0., 1., 0.)", "ejes2d_destruye(&p)", 0),
+    ("planoABCD", r"", "ejes2d_crea_planoABCD(0., 0., 1., 0.)", "ejes2d_destruye_planoABCD(&p)", 0),
     # Owned texts and blocks.
     ("char", r"", "nuevo_texto()", "vornspy_free_pp(&p, 1)", 0),
     ("vnwchar", r"", "nuevo_texto_u()", "vornspy_free_pp(&p, sizeof(vnwchar))", 0),
