@@ -1,0 +1,258 @@
+#include "espacio.h"
+#include "foundation/mt.h"
+#include "geometry/ejes2d.h"
+#include "prueba.h"
+#include <algorithm>
+#include <chrono>
+#include <limits>
+
+using namespace espacio;
+
+namespace {
+
+constexpr double PUNTOS = 1e-05, PLANO = 0.0005;
+constexpr uint32_t NINGUNO = 0xFFFFFFFF;
+constexpr double INF = std::numeric_limits<double>::infinity(), NAN_ = std::numeric_limits<double>::quiet_NaN();
+
+double tras(double x) { return std::nextafter(x, INF); }
+double ante(double x) { return std::nextafter(x, -INF); }
+
+struct respuesta {
+    vnbool forman;
+    uint32_t indice = 77;
+    marco m;
+    bool operator==(const respuesta &) const = default;
+};
+bool mismo(const respuesta &a, const respuesta &b) {
+    vn::huella x, y;
+    for (const double d : {EJ(a.m)}) x << d;
+    for (const double d : {EJ(b.m)}) y << d;
+    return a.forman == b.forman && a.indice == b.indice && x() == y();
+}
+
+respuesta pregunta(const arrPunto3D *p, double puntos = PUNTOS, double plano = PLANO, vnbool comprueba = CIERTO) {
+    respuesta r;
+    r.forman = ejes2d_punto3D_forman_ejes_con_precision_ex2(p, puntos, plano, comprueba, A_EJ(r.m), &r.indice);
+    return r;
+}
+
+// ---------------------------------------------------------------- the rule, one point at a time
+
+bool separados(vec a, vec b, double t) { return std::fabs(a.x - b.x) > t || std::fabs(a.y - b.y) > t || std::fabs(a.z - b.z) > t; }
+bool juntos(vec a, vec b, double t) { return std::fabs(a.x - b.x) < t && std::fabs(a.y - b.y) < t && std::fabs(a.z - b.z) < t; }
+
+respuesta despacio(const std::vector<vec> &p, double t_puntos, double t_plano, bool comprueba) {
+    const size_t n = p.size();
+    respuesta r{FALSO, NINGUNO, {}};
+    uint32_t guardado = NINGUNO;
+    for (size_t s = 0; s < n; ++s) {
+        size_t k = 1;
+        while (k < n && !separados(p[s], p[(s + k) % n], t_puntos)) ++k;
+        if (k == n || n < 3) continue;
+        const vec p1 = p[s], p2 = p[(s + k) % n];
+        vec p3, pie, w;
+        bool hay = false;
+        for (; k < n && !hay; ++k) {
+            p3 = p[(s + k) % n];
+            mt_proyecta_punto_sobre_recta_3D(XYZ(p3), XYZ(p1), XYZ(p2), A_XYZ(pie));
+            hay = !juntos(pie, p3, t_puntos);
+        }
+        marco m;
+        if (!hay || !mt_calcular_ejes_3D_dados_3_puntos(XYZ(p1), XYZ(p2), XYZ(p3), A_UV(m), A_XYZ(w))) continue;
+        int votos = 0;
+        m.o = {};
+        size_t j = 0;
+        for (; j < n; ++j) {
+            const double d = por(p[j] - p1, w);
+            if (std::fabs(d) > t_plano) {
+                if (s == 0 && comprueba) {
+                    guardado = static_cast<uint32_t>(j);
+                    if (std::fabs(d) > 100. * t_plano) return {FALSO, guardado, {}};
+                }
+                break;
+            }
+            const double c = por(cruz(p[j] - p[(j + n - 1) % n], p[(j + 1) % n] - p[j]), w);
+            if (std::fabs(c) > 1e-9) votos += c > 0. ? 1 : -1;
+            m.o = m.o + p[j];
+        }
+        if (j < n) continue;
+        if (votos < 0) m.u = -1. * m.u;
+        m.o = {m.o.x / static_cast<double>(n), m.o.y / static_cast<double>(n), m.o.z / static_cast<double>(n)};
+        return {CIERTO, guardado, m};
+    }
+    return r;
+}
+
+// Lists on which one start after another fails, in the ways that the search knows shortcuts for.
+std::vector<vec> lista_adversa(vn::azar &a, int clase, size_t n) {
+    const vec o = vector_al_azar(a, 100.), u = direccion_al_azar(a), v = unitario(cruz(u, direccion_al_azar(a)));
+    const double ruido = a.moneda() ? 0. : std::pow(10., a.entre(-12., -4.));
+    std::vector<vec> p;
+    for (size_t i = 0; i < n; ++i) {
+        const double t = static_cast<double>(i) / static_cast<double>(n);
+        vec q = o + t * u;
+        if (clase == 1) q = o + a.entre(-1., 1.) * u;                                // a line in no order
+        if (clase == 2) q = o;                                                       // all one point
+        if (clase == 3) q = i > 0 && a.entero(4) > 0 ? p.back() : o + a.entre(-1., 1.) * u; // runs of one point
+        if (clase == 4) q = o + t * u + 3e-5 * t * (1. - t) * v;                     // hardly an arc
+        if (clase == 5) q = o + vector_al_azar(a, 1.);                               // no plane
+        if (clase == 6) q = i % 97 == 96 ? o + a.entre(-1., 1.) * v : o + t * u;     // a line, and points off it
+        if (clase == 7) q = o + a.entre(-1., 1.) * u + a.entre(-1., 1.) * v;         // a plane
+        q = q + ruido * vector_al_azar(a);
+        p.push_back(q);
+    }
+    for (uint32_t k = a.entero(3); k-- > 0 && n > 0;) // and a few where nobody expects them
+        p[a.entero(static_cast<uint32_t>(n))] = o + vector_al_azar(a, a.moneda() ? 1. : 2e-3);
+    return p;
+}
+
+} // namespace
+
+// Shortcuts that skip points or starts must leave every answer as it was, bit for bit.
+PRUEBA(ejes2d_puntos, la_busqueda_rapida_responde_lo_que_la_lenta) {
+    vn::azar a(41);
+    int ciertos = 0, con_indice = 0;
+    for (int caso = 0; caso < 4000; ++caso) {
+        const int clase = caso % 8;
+        const auto n = static_cast<size_t>(caso % 10 == 0 ? 500 + a.entero(700) : a.entero(12));
+        const std::vector<vec> p = lista_adversa(a, clase, n);
+        const double plano = a.entero(3) == 0 ? std::pow(10., a.entre(-9., -1.)) : PLANO;
+        const double distancia = a.entero(3) == 0 ? std::pow(10., a.entre(-7., -3.)) : PUNTOS;
+        const vnbool comprueba = a.entero(3) != 0 ? FALSO : CIERTO;
+        const respuesta esperada = despacio(p, distancia, plano, comprueba), vista = pregunta(puntos(p), distancia, plano, comprueba);
+        ASSERT_TRUE(mismo(vista, esperada)) << "case " << caso << ", " << n << " points: " << vista.forman << " " << vista.indice
+                                            << ", not " << esperada.forman << " " << esperada.indice;
+        ciertos += vista.forman;
+        con_indice += vista.indice != NINGUNO;
+    }
+    EXPECT_TRUE(ciertos > 500 && ciertos < 3500 && con_indice > 100) << ciertos << " " << con_indice; // both roads walked
+}
+
+PRUEBA(ejes2d_puntos, cien_mil_puntos_que_no_forman_ejes_no_eternizan_la_busqueda) {
+    vn::azar a(43);
+    for (const int clase : {0, 1, 2, 3, 4, 5, 6}) {
+        const puntos p(lista_adversa(a, clase, 100000));
+        const auto antes = std::chrono::steady_clock::now();
+        pregunta(p, PUNTOS, 1e-7, FALSO);
+        const std::chrono::duration<double> segundos = std::chrono::steady_clock::now() - antes;
+        EXPECT_LT(segundos.count(), 60.) << clase;
+        RecordProperty("clase_" + std::to_string(clase), std::to_string(segundos.count()));
+    }
+}
+
+PRUEBA(ejes2d_puntos, los_ejes_miran_al_lado_desde_el_que_el_poligono_va_a_izquierdas) {
+    vn::azar a(42);
+    for (int caso = 0; caso < 20000; ++caso) {
+        const marco m = marco_al_azar(a, 1000.);
+        // A convex polygon in counter-clockwise order about W, or the other way round.
+        std::vector<double> angulos(3 + a.entero(10));
+        for (double &g : angulos) g = a.entre(0., 6.283);
+        std::sort(angulos.begin(), angulos.end());
+        const double lado = a.entre(0.5, 50.), alto = lado * a.entre(0.3, 1.);
+        std::vector<vec> p;
+        vec area{};
+        for (const double g : angulos) p.push_back(m.punto(lado * std::cos(g), alto * std::sin(g), a.entre(-1e-5, 1e-5)));
+        if (a.moneda()) p.insert(p.begin(), p.front());
+        if (a.moneda()) std::reverse(p.begin(), p.end());
+        for (size_t i = 1; i + 1 < p.size(); ++i) area = area + cruz(p[i] - p[0], p[i + 1] - p[0]);
+        if (largo(area) < 0.1 * lado * lado) continue; // so thin that the noise tilts it
+        const respuesta r = pregunta(puntos(p), PUNTOS, 0.05);
+        ASSERT_EQ(r.forman, CIERTO) << caso;
+        ASSERT_GT(por(r.m.w(), unitario(area)), 0.99) << caso;
+        ASSERT_TRUE(std::fabs(por(r.m.u, r.m.v)) < 1e-12 && std::fabs(largo(r.m.u) - 1.) < 1e-12 && std::fabs(largo(r.m.v) - 1.) < 1e-12);
+        for (const vec &q : p) ASSERT_LT(std::fabs(por(q - r.m.o, r.m.w())), 0.1);
+    }
+}
+
+PRUEBA(ejes2d_puntos, cada_tolerancia_en_su_limite) {
+    const auto existen = [](vec a, vec b, vec c) { return ejes2d_existen_tres_puntos_no_lineales(puntos({a, b, c})); };
+    const auto forman = [](vec a, vec b, vec c) { return ejes2d_tres_puntos_forman_ejes(XYZ(a), XYZ(b), XYZ(c)); };
+    // The second point must be apart by more than it; the third off the line by it.
+    EXPECT_EQ(existen({0, 0, 0}, {PUNTOS, 0, 0}, {0, 1, 0}), FALSO);
+    EXPECT_EQ(existen({0, 0, 0}, {tras(PUNTOS), 0, 0}, {0, 1, 0}), CIERTO);
+    EXPECT_EQ(existen({0, 0, 0}, {1, 0, 0}, {.5, ante(PUNTOS), 0}), FALSO);
+    EXPECT_EQ(existen({0, 0, 0}, {1, 0, 0}, {.5, PUNTOS, 0}), CIERTO);
+    EXPECT_EQ(forman({0, 0, 0}, {0, ante(PUNTOS), 0}, {1, 0, 0}), FALSO);
+    EXPECT_EQ(forman({0, 0, 0}, {0, PUNTOS, 0}, {1, 0, 0}), CIERTO);
+    EXPECT_EQ(ejes2d_existen_tres_puntos_no_lineales_con_precision(puntos({{0, 0, 0}, {1, 0, 0}, {.5, .25, 0}}), .25), CIERTO);
+    EXPECT_EQ(ejes2d_existen_tres_puntos_no_lineales_con_precision(puntos({{0, 0, 0}, {1, 0, 0}, {.5, .25, 0}}), tras(.25)), FALSO);
+
+    // A fourth point off the plane of the first three: in it; off it, but later starts serve; off it for all; past remedy.
+    const struct {
+        double z;
+        vnbool forman;
+        uint32_t indice;
+    } filas[] = {{PLANO, CIERTO, NINGUNO},        {tras(PLANO), CIERTO, 3},           {-tras(PLANO), CIERTO, 3}, {0.01, FALSO, NINGUNO},
+                 {100. * PLANO, FALSO, NINGUNO}, {tras(100. * PLANO), FALSO, 3}, {-1., FALSO, 3}};
+    for (const auto &f : filas) {
+        const puntos p({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, f.z}});
+        const respuesta r = pregunta(p);
+        EXPECT_TRUE(r.forman == f.forman && r.indice == f.indice) << f.z << ": " << r.forman << " " << r.indice;
+        EXPECT_EQ(pregunta(p, PUNTOS, PLANO, FALSO).indice, NINGUNO) << f.z;
+        EXPECT_EQ(ejes2d_punto3D_forman_ejes_con_precision(p, 2., nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                                           nullptr, nullptr, nullptr),
+                  CIERTO);
+    }
+    // With no early end, a start that a far point spoils gives way to the next one.
+    const puntos corto({{0, 0, 0}, {.01, 0, 0}, {.01, .01, .0004}, {100, 100, 0}, {0, 100, 0}});
+    EXPECT_EQ(pregunta(corto).indice, 3u);
+    EXPECT_EQ(pregunta(corto, PUNTOS, PLANO, FALSO).forman, CIERTO);
+
+    // A dart whose first corner is the reflex one, so the first W looks the wrong way; the corners of its wings have a vote
+    // or have none.
+    const double ala = 0x1p-15, muesca = 0x1p-14;
+    double punta = muesca + 1e-9 / ala;
+    while (ala * punta - ala * muesca > 1e-9) punta = ante(punta);
+    while (ala * tras(punta) - ala * muesca <= 1e-9) punta = tras(punta);
+    for (const double t : {punta, tras(punta)}) {
+        const respuesta r = pregunta(puntos({{0, ala, 0}, {muesca, 0, 0}, {0, -ala, 0}, {t, 0, 0}}));
+        EXPECT_EQ(r.forman, CIERTO);
+        EXPECT_EQ(r.m.w().z > 0., t > punta);
+    }
+}
+
+PRUEBA(ejes2d_puntos, las_listas_de_siempre) {
+    const std::vector<vec> cuadrado{{0, 0, 0}, {2, 0, 0}, {2, 2, 0}, {0, 2, 0}}, horario{cuadrado.rbegin(), cuadrado.rend()};
+    for (const auto *de : {&cuadrado, &horario}) {
+        const auto &lista = *de;
+        const puntos p(lista);
+        marco m, m2;
+        EXPECT_EQ(ejes2d_punto3D_forman_ejes(p, A_EJ(m)), CIERTO);
+        EXPECT_EQ(m.w().z, de == &cuadrado ? 1. : -1.);
+        EXPECT_TRUE(m.o.x == 1. && m.o.y == 1. && m.o.z == 0.);
+        ejes2d_crea_a_partir_de_puntos3D_con_precision(p, PLANO, A_EJ(m2));
+        EXPECT_TRUE(ejes2d_iguales(EJ(m), EJ(m2), 0.));
+        uint32_t indice = 5;
+        EXPECT_EQ(ejes2d_punto3D_forman_ejes_con_ind_punto_no_forma_eje(p, A_EJ(m2), &indice), CIERTO);
+        EXPECT_EQ(indice, NINGUNO);
+        EXPECT_EQ(ejes2d_punto3D_forman_ejes_solo_mirando_3_puntos_no_lineales(p, PUNTOS, A_EJ(m2)), CIERTO);
+        EXPECT_TRUE(m2.o.x == lista[0].x && m2.o.y == lista[0].y);
+    }
+    // What gives no axes, and leaves them alone.
+    const std::vector<std::vector<vec>> malas{
+        {},
+        {{1, 2, 3}},
+        {{0, 0, 0}, {1, 0, 0}},
+        {{0, 0, 0}, {1, 1, 1}, {2, 2, 2}, {5, 5, 5}},
+        {{3, 3, 3}, {3, 3, 3}, {3, 3, 3}},
+        {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {NAN_, 0, 0}},
+        {{NAN_, NAN_, NAN_}, {0, 0, 0}, {1, 0, 0}, {0, 1, 0}},
+        {{0, 0, 0}, {INF, 0, 0}, {0, 1, 0}},
+        {{0, 0, 0}, {1, 0, 0}, {0, -INF, 0}},
+        {{-1e308, 0, 0}, {1e308, 0, 0}, {0, 1e308, 0}, {0, 0, 1e308}},
+    };
+    for (const auto &lista : malas) {
+        const puntos p(lista);
+        const respuesta r = pregunta(p);
+        EXPECT_EQ(r.forman, FALSO) << &lista - malas.data();
+        EXPECT_EQ(r.indice, NINGUNO) << &lista - malas.data();
+        marco m{{7, 7, 7}, {7, 7, 7}, {7, 7, 7}};
+        ejes2d_punto3D_forman_ejes(p, A_EJ(m));
+        EXPECT_TRUE(m.o.x == 7. && m.v.z == 7.);
+        double A = 1, B = 1, C = 1, D = 1;
+        ESPERA_INFORME("forman_ejes == CIERTO", ejes2d_ecuacion_del_plano_a_partir_de_puntos3D(p, &A, &B, &C, &D));
+        EXPECT_TRUE(A == 0. && B == 0. && C == 0. && D == 0.);
+    }
+    EXPECT_EQ(ejes2d_tres_puntos_forman_ejes(0, 0, 0, INF, 0, 0, 0, 1, 0), FALSO);
+    EXPECT_EQ(ejes2d_tres_puntos_forman_ejes(NAN_, 0, 0, 0, 5, 0, 0, 0, 5), FALSO);
+}

@@ -1,0 +1,69 @@
+// Points, vectors and frames for the tests of geometry in space.
+#pragma once
+
+#include "foundation/arr.h"
+#include "foundation/tipos.h"
+#include "propiedades.h"
+#include <cmath>
+#include <memory>
+#include <vector>
+
+namespace espacio {
+
+using vec = Punto3D;
+inline vec operator+(vec a, vec b) { return {a.x + b.x, a.y + b.y, a.z + b.z}; }
+inline vec operator-(vec a, vec b) { return {a.x - b.x, a.y - b.y, a.z - b.z}; }
+inline vec operator*(double k, vec a) { return {k * a.x, k * a.y, k * a.z}; }
+inline double por(vec a, vec b) { return a.x * b.x + a.y * b.y + a.z * b.z; }
+inline vec cruz(vec a, vec b) { return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x}; }
+inline double largo(vec a) { return std::sqrt(por(a, a)); }
+inline vec unitario(vec a) { return (1. / largo(a)) * a; }
+
+// A frame: what the operations take as nine values, EJ(m), and give through nine addresses, A_EJ(m).
+struct marco {
+    vec o{}, u{1., 0., 0.}, v{0., 1., 0.};
+    vec w() const { return cruz(u, v); }
+    vec punto(double x, double y, double z = 0.) const { return o + x * u + y * v + z * w(); }
+};
+#define UV_(m) (m).u.x, (m).u.y, (m).u.z, (m).v.x, (m).v.y, (m).v.z
+#define EJ(m) (m).o.x, (m).o.y, (m).o.z, UV_(m)
+#define XYZ(p) (p).x, (p).y, (p).z
+#define A_XYZ(p) &(p).x, &(p).y, &(p).z
+#define A_UV(m) A_XYZ((m).u), A_XYZ((m).v)
+#define A_EJ(m) A_XYZ((m).o), A_UV(m)
+
+inline vec vector_al_azar(vn::azar &a, double lado = 1.) {
+    return {a.entre(-lado, lado), a.entre(-lado, lado), a.entre(-lado, lado)};
+}
+inline vec direccion_al_azar(vn::azar &a) {
+    for (;;) {
+        const vec d = vector_al_azar(a);
+        if (largo(d) > 0.1 && largo(d) < 1.) return unitario(d);
+    }
+}
+inline marco marco_al_azar(vn::azar &a, double lado) {
+    const vec u = direccion_al_azar(a);
+    for (;;) {
+        const vec d = direccion_al_azar(a), v = d - por(d, u) * u;
+        if (largo(v) > 0.1) return {vector_al_azar(a, lado), u, unitario(v)};
+    }
+}
+
+// Arrays of the family that free themselves.
+struct puntos {
+    arrPunto3D *a;
+    explicit puntos(const std::vector<vec> &p) : a(arr_CreaPunto3D(0)) {
+        for (const vec &q : p) arr_AppendPunto3D(a, q.x, q.y, q.z);
+    }
+    explicit puntos(arrPunto3D *propio) : a(propio) {}
+    ~puntos() {
+        if (a != nullptr) arr_DestruyePunto3D(&a);
+    }
+    puntos(const puntos &) = delete;
+    puntos &operator=(const puntos &) = delete;
+    operator arrPunto3D *() const { return a; }
+    uint32_t size() const { return a == nullptr ? 0 : arr_NumElemsPunto3D(a); }
+    vec operator[](uint32_t i) const { return arr_GetBufferConstPunto3D(a)[i]; }
+};
+
+} // namespace espacio
