@@ -36,20 +36,23 @@ bool distintos(Punto3D a, Punto3D b, double precision) {
            (std::fabs(d.x) >= precision || std::fabs(d.y) >= precision || std::fabs(d.z) >= precision);
 }
 
-// Whether p3 is off the line of two points, by its foot on it; two points that are one have no line.
-bool no_alineados(Punto3D p1, Punto3D p2, Punto3D p3, double precision) {
-    if (!distintos(p1, p2, precision)) return false;
-    Punto3D pie;
-    mt_proyecta_punto_sobre_recta_3D(p3.x, p3.y, p3.z, p1.x, p1.y, p1.z, p2.x, p2.y, p2.z, &pie.x, &pie.y, &pie.z);
-    return distintos(p3, pie, precision);
-}
-
 double modulo(Punto3D a) { return std::sqrt(escalar(a, a)); }
 
-double distancia_a_recta(Punto3D p, Punto3D o, Punto3D u) {
-    const Punto3D d = p - o;
-    return modulo(d - escalar(d, u) * u);
-}
+// The line of two points, whose feet are those of mt_proyecta_punto_sobre_recta_3D, bit for bit.
+struct recta {
+    Punto3D o, u;
+    bool hay; // two points that are one have no line
+
+    recta(Punto3D p1, Punto3D p2, double precision) : o(p1), u(p2 - p1) {
+        hay = distintos(p1, p2, precision) && mt_pasar_a_unitario_3D(&u.x, &u.y, &u.z) == CIERTO;
+    }
+    double distancia(Punto3D p) const {
+        const Punto3D d = p - o;
+        return modulo(d - escalar(d, u) * u);
+    }
+    // Whether a point is off the line, by its foot.
+    bool deja_fuera(Punto3D p, double precision) const { return hay && distintos(p, o + escalar(p - o, u) * u, precision); }
+};
 
 double mayor_coordenada(Punto3D p) { return std::max({std::fabs(p.x), std::fabs(p.y), std::fabs(p.z)}); }
 
@@ -82,9 +85,9 @@ struct bloque {
     bool ninguno_apartado(Punto3D p1, double precision) const {
         return !apartados(p1, minimo, precision) && !apartados(p1, maximo, precision);
     }
-    bool todos_alineados(Punto3D p1, Punto3D u, double precision) const {
-        const double escala = std::max({mayor_coordenada(p1), mayor_coordenada(minimo), mayor_coordenada(maximo)});
-        return std::max(distancia_a_recta(a, p1, u), distancia_a_recta(b, p1, u)) + lejos + REDONDEO * escala < precision;
+    bool todos_alineados(const recta &r, double precision) const {
+        const double escala = std::max({mayor_coordenada(r.o), mayor_coordenada(minimo), mayor_coordenada(maximo)});
+        return std::max(r.distancia(a), r.distancia(b)) + lejos + REDONDEO * escala < precision;
     }
 };
 
@@ -111,10 +114,10 @@ class buscador {
                                     [&](const bloque &b) { return b.ninguno_apartado(t.p1, precision_); });
         if (k2 == n) return false;
         t.p2 = p_[lugar(inicio, k2)];
-        Punto3D u = t.p2 - t.p1;
-        mt_pasar_a_unitario_3D(&u.x, &u.y, &u.z);
-        const uint32_t k3 = primero(inicio, k2, [&](uint32_t i) { return no_alineados(t.p1, t.p2, p_[i], precision_); },
-                                    [&](const bloque &b) { return b.todos_alineados(t.p1, u, precision_); });
+        const recta r(t.p1, t.p2, precision_);
+        if (!r.hay) return false;
+        const uint32_t k3 = primero(inicio, k2, [&](uint32_t i) { return r.deja_fuera(p_[i], precision_); },
+                                    [&](const bloque &b) { return b.todos_alineados(r, precision_); });
         if (k3 == n) return false;
         t.p3 = p_[lugar(inicio, k3)];
         return true;
@@ -302,5 +305,5 @@ vnbool ejes2d_existen_tres_puntos_no_lineales_con_precision(const arrPunto3D *pu
 
 vnbool ejes2d_tres_puntos_forman_ejes(double x1, double y1, double z1, double x2, double y2, double z2, double x3,
                                       double y3, double z3) {
-    return no_alineados({x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3}, PRECISION_PUNTOS) ? CIERTO : FALSO;
+    return recta({x1, y1, z1}, {x2, y2, z2}, PRECISION_PUNTOS).deja_fuera({x3, y3, z3}, PRECISION_PUNTOS) ? CIERTO : FALSO;
 }

@@ -2,8 +2,8 @@
    a bent bar is drawn with. Services on lists of points (Pln3D).
 
    Lengths are metres. `diametro` is that of the bar and `radio` that of its bends; `num_grados_dibujo_doblado` is the
-   largest turn from a point of a fillet to the next, in degrees. A fillet has at most 100,000 steps and a result 2^24
-   points: what would need more is reported and gives the neutral result. */
+   largest turn from a point of a fillet to the next, in degrees. A fillet has at most 100,000 steps and a result 2^22
+   points or axes: what would need more is reported and gives the neutral result. */
 #ifndef VN_POLIN3D_H
 #define VN_POLIN3D_H
 
@@ -70,9 +70,12 @@ arrPuntero *polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
         double radio, double num_grados_dibujo_doblado, VN_RANGO(4, 65535) uint16_t num_puntos_circulo,
         VN_SALIDA_OPC arrPunto3D **centros);
 
-/** New array with the axes of the same sections, square to the path; those of a corner with no fillet halve it. With
-    `V_vertical` each is given the vertical V of its plane. The second one makes no fillets, of a bar of diameter 0. The
-    caller frees the axes with arr_DestruyeEstructurasST(a, ejes2d, ejes2d_destruye). */
+/** New array with the axes of the same sections: W runs with the path, at the ends and along the fillets, and U stays as
+    near as can be to that of the section before. A corner with no fillet, of unit directions d1 and d2, has its section
+    in the plane's direction from the next point to corner + (d2 - d1), or as before where it hardly turns; if it is the
+    last corner, W at the end is the part of d2 square to d1. With `V_vertical` each section is given the vertical V of
+    its plane. The second one makes no fillets, of a bar of diameter 0. The caller frees the axes with
+    arr_DestruyeEstructurasST(a, ejes2d, ejes2d_destruye). */
 arrPuntero *polin3d_ejes2d_polilinea_con_radios_de_acuerdo(const arrPunto3D *puntos, double diametro, double radio,
         double num_grados_dibujo_doblado, vnbool V_vertical);
 arrPuntero *polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(const arrPunto3D *puntos, vnbool V_vertical);

@@ -26,9 +26,9 @@ inline constexpr double MARGEN_RECTO = 0.0001;
 inline constexpr double PASO_COSENO = 1e-14;
 inline constexpr double RADIANES_POR_GRADO = 0.017453292519943295;
 
-// What a result may have: points without bound could be asked for by a tiny step.
+// What a fillet and a result may have: a tiny step could ask for points without bound.
 inline constexpr double MAXIMO_PASOS = 100000.;
-inline constexpr uint64_t MAXIMO_PUNTOS = uint64_t{1} << 24;
+inline constexpr uint64_t MAXIMO_PUNTOS = uint64_t{1} << 22;
 
 struct destruye_puntos {
     void operator()(arrPunto3D *a) const { arr_DestruyePunto3D(&a); }

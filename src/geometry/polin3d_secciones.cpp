@@ -116,12 +116,12 @@ class cadena {
         return true;
     }
 
-    // The section of a corner with no fillet, which halves it.
+    // The section of a corner with no fillet.
     bool quiebra(Punto3D a, Punto3D b, Punto3D c, bool es_el_ultimo) {
         const Punto3D entra = direccion(a, b), sale = direccion(b, c);
         if (std::fabs(std::fabs(escalar(entra, sale)) - 1.) < MARGEN_RECTO) return emite(b);
         const Punto3D pm = b + (sale - entra);
-        // From c, not from b: so the plane is that of the three points, seen from the next one.
+        // From c, not from b, on purpose.
         orienta(c, pm, a);
         if (!emite(b)) return false;
         if (es_el_ultimo) orienta(b + sale, pm, b);

@@ -1,0 +1,331 @@
+#include "geometry/polin3d.h"
+#include "espacio.h"
+#include "geometry/ejes2d.h"
+#include "prueba.h"
+#include <algorithm>
+#include <limits>
+#include <string>
+
+using namespace espacio;
+
+namespace {
+
+constexpr double PI = 3.141592653589793, INF = std::numeric_limits<double>::infinity(), NAN_ = std::numeric_limits<double>::quiet_NaN();
+double tras(double x) { return std::nextafter(x, INF); }
+
+// A fillet, or none: no points and `hay` false.
+struct acuerdo {
+    vnbool hay = 7;
+    arrPunto3D *a = nullptr;
+    vec centro{7, 7, 7};
+    acuerdo(vec p1, vec p2, vec p3, double diametro, double radio, double grados = 10., vnbool mantiene = FALSO) {
+        hay = Pln3D_se_genera_puntos_acuerdo_entre_tres_puntos(XYZ(p1), XYZ(p2), XYZ(p3), diametro, radio, grados, mantiene, &a,
+                                                               A_XYZ(centro));
+    }
+    ~acuerdo() {
+        if (a != nullptr) arr_DestruyePunto3D(&a);
+    }
+    uint32_t size() const { return a == nullptr ? 0 : arr_NumElemsPunto3D(a); }
+    vec operator[](uint32_t i) const { return arr_GetBufferConstPunto3D(a)[i]; }
+    vec ultimo() const { return (*this)[size() - 1]; }
+};
+
+// Axes along a path, as values.
+std::vector<marco> toma(arrPuntero *ejes) {
+    std::vector<marco> r;
+    if (ejes == nullptr) return r;
+    for (uint32_t i = 0; i < arr_NumElemsPuntero(ejes); ++i) {
+        const ejes2d *e = arr_GetPunteroST(ejes, i, ejes2d);
+        r.push_back({{e->Xo, e->Yo, e->Zo}, {e->Ux, e->Uy, e->Uz}, {e->Vx, e->Vy, e->Vz}});
+    }
+    arr_DestruyeEstructurasST(&ejes, ejes2d, ejes2d_destruye);
+    return r;
+}
+
+std::vector<vec> camino_al_azar(vn::azar &a, uint32_t n) {
+    std::vector<vec> p{vector_al_azar(a, 10.)};
+    vec u = direccion_al_azar(a);
+    while (p.size() < n) {
+        // Bends of two degrees and more, up to two thirds of a half turn.
+        vec d;
+        do d = direccion_al_azar(a);
+        while (por(d, u) < -.5 || por(d, u) > .999);
+        p.push_back(p.back() + a.entre(2., 4.) * d);
+        u = d;
+    }
+    return p;
+}
+
+} // namespace
+
+PRUEBA(polin3d, el_acuerdo_es_tangente_en_sus_extremos_y_tiene_el_radio_pedido) {
+    vn::azar a(51);
+    int con = 0;
+    for (int caso = 0; caso < 20000; ++caso) {
+        const vec p2 = vector_al_azar(a, 100.), u1 = direccion_al_azar(a), u2 = direccion_al_azar(a);
+        const double l1 = a.entre(.5, 10.), l2 = a.entre(.5, 10.), radio = a.entre(.01, 3.), grados = a.entre(.5, 40.);
+        const vec p1 = p2 + l1 * u1, p3 = p2 + l2 * u2;
+        const double angulo = std::acos(std::clamp(por(u1, u2), -1., 1.)), t = radio / std::tan(angulo / 2.);
+        const acuerdo f(p1, p2, p3, .1, radio, grados);
+        if (std::fabs(t - std::min(l1, l2)) < 1e-3 || angulo < .02 || angulo > PI - .02) continue; // at a limit
+        ASSERT_EQ(f.hay, t < std::min(l1, l2)) << caso;
+        if (f.hay != CIERTO) continue;
+        ++con;
+        // The first and the last point lie on the segments, square to the radius there; all are at the radius, in plane,
+        // in even steps that are no longer than asked for.
+        ASSERT_LT(largo(f[0] - (p2 + t * u1)), 1e-9);
+        ASSERT_LT(largo(f.ultimo() - (p2 + t * u2)), 1e-9);
+        ASSERT_LT(std::fabs(por(f[0] - f.centro, u1)), 1e-9);
+        ASSERT_LT(std::fabs(por(f.ultimo() - f.centro, u2)), 1e-9);
+        const double paso = (PI - angulo) / (f.size() - 1), cuerda = 2. * radio * std::sin(paso / 2.);
+        ASSERT_LT(paso, grados * PI / 180. + 1e-9);
+        ASSERT_GT(paso, (PI - angulo) * grados * PI / 180. / (PI - angulo + grados * PI / 180.) - 1e-9);
+        for (uint32_t i = 0; i < f.size(); ++i) {
+            ASSERT_LT(std::fabs(largo(f[i] - f.centro) - radio), 1e-9);
+            ASSERT_LT(std::fabs(por(f[i] - p2, cruz(u1, u2))), 1e-9);
+            if (i == 0) continue;
+            ASSERT_LT(std::fabs(largo(f[i] - f[i - 1]) - cuerda), 1e-9);
+        }
+    }
+    EXPECT_GT(con, 10000);
+}
+
+PRUEBA(polin3d, donde_no_hay_acuerdo) {
+    // A segment must be longer than half the diameter.
+    EXPECT_EQ(acuerdo({1, 0, 0}, {}, {0, 9, 0}, 2., .5).hay, FALSO);
+    EXPECT_EQ(acuerdo({tras(1), 0, 0}, {}, {0, 9, 0}, 2., .5).hay, CIERTO);
+    EXPECT_EQ(acuerdo({9, 0, 0}, {}, {0, 1, 0}, 2., .5).hay, FALSO);
+    // Straight on or doubled back, to a degree.
+    for (const double g : {.0174, .0175, PI - .0175, PI - .0174}) {
+        const bool hay = g > .01745 && g < PI - .01745;
+        EXPECT_EQ(acuerdo({1, 0, 0}, {}, {std::cos(g), std::sin(g), 0}, .1, 1e-4).hay, hay) << g;
+    }
+    // An end that the fillet overruns, reaches to 1e-5 (kept or left out), or does not reach. The tangent point is at 1.
+    for (const double falta : {-2e-5, -.9e-5, 0., .9e-5, 2e-5}) {
+        const vec extremo{1. + falta, 0, 0};
+        for (const vnbool mantiene : {FALSO, CIERTO}) {
+            const acuerdo ida(extremo, {}, {0, 9, 0}, .1, 1., 10., mantiene), vuelta({0, 9, 0}, {}, extremo, .1, 1., 10., mantiene);
+            const bool hay = falta > -1e-5, en_el = std::fabs(falta) < 1e-5;
+            EXPECT_TRUE(ida.hay == hay && vuelta.hay == hay) << falta;
+            EXPECT_EQ(ida.size(), hay ? 10u - (en_el && mantiene == FALSO) : 0u) << falta;
+            EXPECT_EQ(vuelta.size(), ida.size());
+            EXPECT_LT(largo(ida.centro - vec{1, 1, 0}), 1e-12); // the centre comes all the same
+            if (!hay || !en_el || mantiene == FALSO) continue;
+            EXPECT_TRUE(ida[0].x == extremo.x && vuelta.ultimo().x == extremo.x && vuelta.ultimo().y == 0.);
+        }
+    }
+    // Arguments that no fillet comes of. A step without measure is bounded before any memory is asked for.
+    const vec x{5, 0, 0}, y{0, 5, 0};
+    for (const double mala : {NAN_, INF, -INF}) {
+        EXPECT_EQ(acuerdo(x, {}, y, .1, mala).hay, FALSO);
+        EXPECT_EQ(acuerdo({mala, 0, 0}, {}, y, .1, 1.).hay, FALSO);
+        EXPECT_EQ(acuerdo(x, {0, mala, 0}, y, .1, 1.).hay, FALSO);
+    }
+    EXPECT_EQ(acuerdo(x, {}, y, NAN_, 1.).hay, FALSO);
+    EXPECT_EQ(acuerdo({1e308, 0, 0}, {-1e308, 0, 0}, y, .1, 1.).hay, FALSO);
+    const struct {
+        double grados;
+        const char *informe;
+    } filas[] = {{0., "num_grados_dibujo_doblado > 0."}, {-3., "num_grados_dibujo_doblado > 0."}, {NAN_, "num_grados_dibujo_doblado > 0."},
+                 {INF, "num_puntos > 1"},                {1e-300, "num_puntos <= MAXIMO_PUNTOS"}, {5e-324, "num_puntos <= MAXIMO_PUNTOS"},
+                 {89e-5, "num_puntos <= MAXIMO_PUNTOS"}};
+    const vn::mayor_bloque mayor;
+    for (const auto &f : filas)
+        vn::con_informe(f.informe, [&] { EXPECT_EQ(acuerdo(x, {}, y, .1, 1., f.grados).hay, FALSO) << f.grados; });
+    EXPECT_LT(mayor(), 100000u);
+    EXPECT_EQ(acuerdo(x, {}, y, .1, 1., 91e-5).hay, CIERTO);
+    EXPECT_EQ(acuerdo(x, {}, y, .1, 1., 1e300).size(), 2u);
+}
+
+PRUEBA(polin3d, circulos_y_arcos) {
+    vn::azar a(52);
+    for (int caso = 0; caso < 5000; ++caso) {
+        const marco m = marco_al_azar(a, 50.);
+        const auto n = static_cast<uint16_t>(4 + a.entero(40));
+        const double d = a.entre(.1, 20.), ini = a.entre(-PI, PI), barre = a.entre(-3.1, 3.1);
+        const puntos c(Pln3D_puntos_circulo(EJ(m), d, n));
+        ASSERT_EQ(c.size(), n);
+        for (uint32_t i = 0; i < n; ++i)
+            ASSERT_LT(largo(c[i] - m.punto(d / 2 * std::cos(2 * PI * i / n), d / 2 * std::sin(2 * PI * i / n))), 1e-11);
+        if (std::fabs(barre) < .01) continue;
+        // The short way, and the long one; the ends at any distance from the centre.
+        const vec e1 = m.punto(3 * std::cos(ini), 3 * std::sin(ini)), e2 = m.punto(std::cos(ini + barre), std::sin(ini + barre));
+        for (const vnbool otro : {FALSO, CIERTO}) {
+            const puntos r(Pln3D_puntos_arco(XYZ(m.o), XYZ(e1), XYZ(e2), UV_(m), d, n, otro));
+            const double s = (otro == CIERTO ? barre - std::copysign(2 * PI, barre) : barre) / (n - 1);
+            for (uint32_t i = 0; i < n; ++i)
+                ASSERT_LT(largo(r[i] - m.punto(d / 2 * std::cos(ini + i * s), d / 2 * std::sin(ini + i * s))), 1e-10) << caso;
+        }
+    }
+    // A half circle runs as the axes say.
+    for (const double sentido : {1., -1.}) {
+        const puntos r(Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, -1, 0, 0, 1, 0, 0, 0, sentido, 0, 2., 5, FALSO));
+        EXPECT_LT(largo(r[2] - vec{0, sentido, 0}), 1e-9);
+    }
+    EXPECT_EQ(ESPERA_INFORME("num_puntos_circulo > 3", Pln3D_puntos_circulo(0, 0, 0, 1, 0, 0, 0, 1, 0, 1., 3)), nullptr);
+    EXPECT_EQ(ESPERA_INFORME("num_puntos_arco > 3", Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, 0, 1, 0, 1, 0, 0, 0, 1, 0, 1., 3, FALSO)), nullptr);
+    // Ends that are not in the plane of the axes are drawn where they are.
+    arrPunto3D *r = ESPERA_INFORME("vnstdc_fabs(vnstdc_fabs(mt_producto_escalar(Wx, Wy, Wz, Wx1, Wy1, Wz1)) - 1.) < .000001",
+                                   Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, 0, .8, .6, 1, 0, 0, 0, 1, 0, 2., 4, FALSO));
+    EXPECT_LT(largo(arr_GetBufferConstPunto3D(r)[3] - vec{0, .8, .6}), 1e-12);
+    arr_DestruyePunto3D(&r);
+}
+
+PRUEBA(polin3d, las_listas_de_puntos) {
+    const struct {
+        std::vector<vec> p;
+        vnbool convexo;
+        const char *informe;
+    } filas[] = {
+        {{{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}}, CIERTO, nullptr},
+        {{{0, 1, 0}, {1, 1, 0}, {1, 0, 0}, {0, 0, 0}}, CIERTO, nullptr},
+        {{{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {2, 0, 0}, {1, 3, 0}}, CIERTO, nullptr}, // straight on, and a point twice
+        {{{0, 2, 0}, {1, 0, 0}, {0, -2, 0}, {3, 0, 0}}, FALSO, nullptr},
+        {{{0, 0, 0}, {1, 0, 0}, {2, 1, 0}, {1, .9, 0}, {0, 1, 0}}, FALSO, nullptr}, // only at the last corners
+        {{{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 4 - 1e-3, 0}, {0, 4, 0}}, CIERTO, nullptr}, // a dent of no more than the margin
+        {{{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 4 - 1e-2, 0}, {0, 4, 0}}, FALSO, nullptr},
+        {{{0, 0, 0}, {1, 0, 0}}, FALSO, "num_puntos >= 3"},
+        {{{2, 2, 2}, {2, 2, 2}, {2, 2, 2}}, FALSO, "ya_se_tiene_W_con_que_comparar == CIERTO"},
+        {{}, FALSO, "num_puntos >= 3"},
+    };
+    for (const auto &f : filas) {
+        const puntos p(f.p);
+        vn::con_informe(f.informe, [&] { EXPECT_EQ(Pln3D_poligono_plano_es_convexo(p), f.convexo) << &f - filas; });
+    }
+    const puntos alabeado({{0, 0, 0}, {1, 0, 0}, {1, 1, .1}, {0, 1, 0}});
+    Pln3D_poligono_plano_es_convexo(alabeado);
+    const auto informes = vn::Prueba::toma_informes();
+    EXPECT_EQ(informes.size(), 3u);
+    for (const auto &i : informes) EXPECT_EQ(i.expresion, "vnstdc_fabs(vnstdc_fabs(prod_escalar_poligono_es_plano) - 1.) < .00001");
+
+    vec v{7, 7, 7};
+    const puntos lista({{5, 0, 0}, {0, 1, 0}, {1, 0, 0}, {NAN_, 0, 0}});
+    Pln3D_GetVerticeMasProximo(lista, 0, 0, 0, A_XYZ(v));
+    EXPECT_TRUE(v.x == 0. && v.y == 1.); // the first of equals
+    std::vector<vec> larga(65536, vec{9, 9, 9});
+    for (const uint32_t i : {65534u, 65535u}) {
+        larga[i] = {1, 1, static_cast<double>(i)};
+        Pln3D_GetVerticeMasProximo(puntos(larga), 1, 1, i, A_XYZ(v));
+        EXPECT_EQ(v.z, 65534.); // one at 65535 is not found
+    }
+    Pln3D_GetVerticeMasProximo(puntos(std::vector<vec>{}), 0, 0, 0, A_XYZ(v));
+    EXPECT_EQ(v.z, 65534.);
+    EXPECT_EQ(Pln3D_Longitud(puntos({{1, 1, 1}, {1, 4, 5}, {1, 4, 5}, {3, 4, 5}})), 7.);
+    EXPECT_EQ(Pln3D_Longitud(puntos({{1, 1, 1}})) + Pln3D_Longitud(puntos(std::vector<vec>{})), 0.);
+}
+
+// ---------------------------------------------------------------- bars
+
+PRUEBA(polin3d, los_dos_radios_de_eje_son_distintos_a_proposito) {
+    EXPECT_EQ(polin3d_radio_acuerdo_eje(2., 5.), 6.);
+    const puntos codo({{10, 0, 0}, {0, 0, 0}, {0, 10, 0}});
+    const puntos p(polin3d_puntos_polilinea_con_radios_de_acuerdo(codo, 2., 3., 10.)); // radius 3 + 2 / 2
+    ASSERT_EQ(p.size(), 12u);
+    EXPECT_TRUE(p[0].x == 10. && p[11].y == 10. && largo(p[1] - vec{4, 0, 0}) < 1e-12 && largo(p[10] - vec{0, 4, 0}) < 1e-12);
+    arrPunto3D *centros = nullptr;
+    arrPuntero *c = polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(codo, 2., 3., 10., 8, &centros);
+    const puntos q(centros); // radius 2 + 3 / 2
+    ASSERT_TRUE(q.size() == 12 && arr_NumElemsPuntero(c) == 12);
+    EXPECT_TRUE(largo(q[1] - vec{3.5, 0, 0}) < 1e-12 && largo(q[10] - vec{0, 3.5, 0}) < 1e-12 && q[11].y == 10.);
+    for (uint32_t i = 0; i < 12; ++i) {
+        const arrPunto3D *uno = arr_GetPunteroST(c, i, arrPunto3D);
+        for (uint32_t k = 0; k < 8; ++k) EXPECT_LT(std::fabs(largo(arr_GetBufferConstPunto3D(uno)[k] - q[i]) - 1.), 1e-12);
+    }
+    arr_DestruyeEstructurasArrayST(&c, arrPunto3D, arr_DestruyePunto3D);
+
+    // Two fillets that meet: their common point comes once. One that finds no room leaves its corner.
+    const puntos u({{10, 0, 0}, {0, 0, 0}, {0, 8, 0}, {10, 8, 0}});
+    EXPECT_EQ(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(u, 2., 3., 10.)).size(), 21u);
+    const puntos sin_sitio(polin3d_puntos_polilinea_con_radios_de_acuerdo(u, 2., 8., 10.));
+    ASSERT_EQ(sin_sitio.size(), 4u);
+    EXPECT_EQ(sin_sitio[2].y, 8.);
+    for (const auto &lista : {std::vector<vec>{}, {{1, 2, 3}}, {{1, 2, 3}, {1, 2, 3}}})
+        EXPECT_EQ(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(puntos(lista), 2., 3., 10.)).size(), lista.size());
+}
+
+PRUEBA(polin3d, las_secciones_siguen_al_camino) {
+    vn::azar a(53);
+    for (int caso = 0; caso < 3000; ++caso) {
+        const std::vector<vec> camino = camino_al_azar(a, 2 + a.entero(8));
+        const vnbool vertical = caso % 4 == 3 ? CIERTO : FALSO;
+        const auto s = toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(puntos(camino), .05, a.entre(.1, .5), 15., vertical));
+        ASSERT_GE(s.size(), camino.size());
+        EXPECT_LT(largo(s.front().o - camino.front()) + largo(s.back().o - camino.back()), 1e-12);
+        for (size_t i = 0; i < s.size(); ++i) {
+            ASSERT_LT(std::fabs(por(s[i].u, s[i].v)) + std::fabs(largo(s[i].u) - 1.) + std::fabs(largo(s[i].v) - 1.), 1e-9);
+            if (vertical == CIERTO) {
+                ASSERT_EQ(s[i].v.z, 1.);
+                continue;
+            }
+            // Between two sections the path is straight, or an arc whose chord halves the turn between them.
+            if (i == 0) continue;
+            const vec d = unitario(s[i].o - s[i - 1].o), media = unitario(s[i].w() + s[i - 1].w());
+            ASSERT_GT(por(d, media), 1. - 1e-9) << caso << " " << i;
+            ASSERT_GT(por(s[i].w(), s[i - 1].w()), std::cos(15.001 * PI / 180.));
+            ASSERT_GT(por(s[i].u, s[i - 1].u), std::cos(15.001 * PI / 180.)); // not twisted
+        }
+        if (vertical == FALSO) {
+            ASSERT_GT(por(s.front().w(), unitario(camino[1] - camino[0])), 1. - 1e-12);
+            ASSERT_GT(por(s.back().w(), unitario(camino.back() - camino[camino.size() - 2])), 1. - 1e-9);
+        }
+    }
+}
+
+PRUEBA(polin3d, las_secciones_de_las_esquinas_sin_acuerdo) {
+    const auto dos = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({{1, 1, 1}, {1, 3, 1}}), FALSO));
+    ASSERT_EQ(dos.size(), 2u);
+    EXPECT_TRUE(dos[0].w().y == 1. && ejes2d_son_ejes_iguales(UV_(dos[0]), UV_(dos[1])));
+    // A corner of 60 degrees, then one that hardly turns.
+    const vec p[] = {{10, 0, 0}, {0, 0, 0}, {3, 3 * std::sqrt(3.), 0}, {5, 5 * std::sqrt(3.) + .001, 0}};
+    const auto s = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos(std::vector<vec>(p, p + 4)), FALSO));
+    const auto corto = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos(std::vector<vec>(p, p + 3)), FALSO));
+    ASSERT_TRUE(s.size() == 4 && corto.size() == 3);
+    const vec d1{-1, 0, 0}, d2{.5, std::sqrt(.75), 0}, pm = d2 - d1;
+    for (const auto &m : {s[1], corto[1]}) {
+        EXPECT_LT(std::fabs(por(m.w(), unitario(pm - p[2]))) + std::fabs(m.w().z), 1e-12);
+        EXPECT_LT(m.w().x, 0.);
+    }
+    EXPECT_TRUE(ejes2d_son_ejes_iguales(UV_(s[2]), UV_(s[1])));
+    EXPECT_LT(largo(corto[2].w() - vec{0, 1, 0}), 1e-12);
+    // Where there is no room for a fillet the corner stays; short segments go first.
+    const auto q = toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(
+        puntos({{10, 0, 0}, {0, 0, 0}, {0, .4, 0}, {0, 10, 0}, {10, 10, 0}, {20, 10, 0}}), 1., 50., 10., FALSO));
+    ASSERT_EQ(q.size(), 4u);
+    EXPECT_TRUE(q[0].o.y == .4 && q[1].o.y == 10. && q[2].o.x == 10. && q[3].o.x == 20.);
+}
+
+PRUEBA(polin3d, las_polilineas_que_no_sirven) {
+    EXPECT_TRUE(toma(ESPERA_INFORME("num_puntos >= 2", polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({{1, 2, 3}}), FALSO))).empty());
+    arrPunto3D *centros = reinterpret_cast<arrPunto3D *>(&centros);
+    EXPECT_EQ(ESPERA_INFORME("num_puntos >= 2", polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
+                                                    puntos(std::vector<vec>{}), 1., 1., 10., 8, &centros)),
+              nullptr);
+    EXPECT_EQ(centros, nullptr);
+    // Many sections of many points each: told before there is no memory left.
+    vn::azar a(54);
+    EXPECT_EQ(ESPERA_INFORME("num_puntos <= MAXIMO_PUNTOS", polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
+                                                                puntos(camino_al_azar(a, 80)), .1, 0., 90., 65535, nullptr)),
+              nullptr);
+    // All in one place, and coordinates that are no numbers: something comes back, nothing is reported.
+    for (const double mala : {0., NAN_, INF, 1e308}) {
+        const puntos p({{0, 0, 0}, {mala, 0, 0}, {mala, mala, 0}, {0, 0, -mala}, {0, 0, 0}});
+        EXPECT_GE(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(p, .1, 1., 10.)).size(), 5u);
+        EXPECT_GE(toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(p, .1, 1., 10., FALSO)).size(), 1u) << mala;
+        EXPECT_GE(toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(p, CIERTO)).size(), 1u);
+    }
+}
+
+PRUEBA(polin3d, las_mismas_cifras_en_las_dos_plataformas) {
+    vn::azar a(55);
+    const acuerdo f({4, 1, 2}, {0, 0, 0}, {-1, 5, 3}, .2, .75, 20.);
+    ASSERT_EQ(f.size(), 7u);
+    for (const auto &[visto, esperado] : {std::pair{f[3], vec{0.2136368580630923, 0.3227654791417056, 0.2863892721155012}}, {f.centro, vec{0.5464082623869826, 0.8255210557545145, 0.7324834579653372}}})
+        EXPECT_TRUE(vn::cerca(visto.x, esperado.x) && vn::cerca(visto.y, esperado.y) && vn::cerca(visto.z, esperado.z))
+            << visto.x << " " << visto.y << " " << visto.z;
+    // The sections of corners take no function of the platform's.
+    vn::huella h;
+    for (int caso = 0; caso < 2000; ++caso)
+        for (const marco &m : toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos(camino_al_azar(a, 6)), FALSO)))
+            for (const double d : {EJ(m)}) h << d;
+    EXPECT_EQ(h(), 18131337624243260098ull);
+}
