@@ -13,6 +13,7 @@ inline void debe(bool bien, const char *que) {
     std::exit(2);
 }
 
+int ejes2d_de_puntos(int pasadas);
 int segmentos(int pasadas);
 int matrices(int pasadas);
 int envolventes(int pasadas);
