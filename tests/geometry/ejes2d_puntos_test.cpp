@@ -21,7 +21,6 @@ struct respuesta {
     vnbool forman;
     uint32_t indice = 77;
     marco m;
-    bool operator==(const respuesta &) const = default;
 };
 bool mismo(const respuesta &a, const respuesta &b) {
     vn::huella x, y;
