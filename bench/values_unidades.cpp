@@ -106,7 +106,8 @@ int bench::unidades(int pasadas) {
                    {"parmeq", n, [] { compara(parmeq); }}},
                   {{"parmeq", "fabs in line", 0}, {"parmeq", "fabs in a function", 0}}, pasadas);
     fuera += mide("a value as text with two decimals and unit",
-                  {{"snprintf into a new block", TEXTOS, textos_de_snprintf}, {"convers_texto_con_unidades...", TEXTOS, textos_propios}},
+                  {{"snprintf into a new block", TEXTOS, textos_de_snprintf},
+                   {"convers_texto_con_unidades...", TEXTOS, textos_propios}},
                   {{"convers_texto_con_unidades...", "snprintf into a new block", 0}}, pasadas);
     vornconf_Internacional_set_sistema_unidades(antes);
     debe(suma > 0, "the roads gave something");

@@ -34,10 +34,6 @@ columna_convers columna_en_vigor(const fila_convers *convers) {
     }
 }
 
-double convierte(int32_t sentido, const cifras_convers &c, double valor) {
-    return sentido == CNV_A_MOSTRADO ? c.a_mostrado(valor) : c.a_interno(valor);
-}
-
 // With every check, and whatever is made at first use.
 [[gnu::cold, gnu::noinline]] double convierte_despacio(int32_t sentido, uint32_t tipovalor, double valor) {
     if (sentido != CNV_A_MOSTRADO && sentido != CNV_A_INTERNO) {
@@ -47,7 +43,8 @@ double convierte(int32_t sentido, const cifras_convers &c, double valor) {
     if (tipovalor == CNV_NO_CONVERSION) return valor;
     const fila_convers *convers = fila_de_convers(tipovalor);
     if (!AFIRMA_NO_NULO(convers)) return 0;
-    return convierte(sentido, convers->cifras[columna_en_vigor(convers)], valor);
+    const cifras_convers &c = convers->cifras[columna_en_vigor(convers)];
+    return sentido == CNV_A_MOSTRADO ? c.a_mostrado(valor) : c.a_interno(valor);
 }
 
 } // namespace
@@ -68,9 +65,12 @@ using namespace vn;
 // The common case without a call: all is made, the type has a row and no energy family.
 double cnv_convierte(int32_t sentido, uint32_t tipovalor, double valor) {
     const uint32_t columna = sistema_unidades_si_cargado() - VORNCONF_SU_MKS;
-    if (tipovalor < CNV_NO_CONVERSION && columna <= EN_IMPERIAL && static_cast<uint32_t>(sentido) <= CNV_A_MOSTRADO &&
-        FILAS_CONVERS[tipovalor].familia == 0 && textos_de_convers.load(std::memory_order_acquire) != nullptr) [[likely]]
-        return convierte(sentido, FILAS_CONVERS[tipovalor].cifras[columna], valor);
+    if (tipovalor < CNV_NO_CONVERSION && columna <= EN_IMPERIAL && FILAS_CONVERS[tipovalor].familia == 0 &&
+        textos_de_convers.load(std::memory_order_acquire) != nullptr) [[likely]] {
+        const cifras_convers &c = FILAS_CONVERS[tipovalor].cifras[columna];
+        if (sentido == CNV_A_MOSTRADO) [[likely]] return c.a_mostrado(valor);
+        if (sentido == CNV_A_INTERNO) [[likely]] return c.a_interno(valor);
+    }
     return convierte_despacio(sentido, tipovalor, valor);
 }
 

@@ -37,7 +37,7 @@ struct textos_convers {
     const vnwchar *texto[NUM_COLUMNAS_CONVERS];
 };
 // One for each type. Null until the first look-up, and again once the exit list has run.
-extern constinit std::atomic<const textos_convers *> textos_de_convers;
+inline constinit std::atomic<const textos_convers *> textos_de_convers{nullptr};
 const textos_convers *crea_textos_convers();
 
 inline const textos_convers *dame_textos_convers() {

@@ -129,8 +129,6 @@ void anade(textos_convers *textos, uint32_t *num_conversiones, const definicion 
 
 } // namespace
 
-constinit std::atomic<const textos_convers *> textos_de_convers{nullptr};
-
 constexpr std::array<fila_convers, CNV_NO_CONVERSION> FILAS_CONVERS = calcula();
 
 // Threads that meet here each make the texts; the first one's stay.

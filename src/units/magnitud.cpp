@@ -4,7 +4,6 @@
 #include "foundation/vnmath.h"
 #include "foundation/vnstdc.h"
 #include "units/vornconf.h"
-#include <atomic>
 #include <cmath>
 
 namespace {
@@ -222,17 +221,15 @@ TEXTO(magnitud_texto_dBA, "dBA")
 namespace {
 
 // Unguarded on purpose: it is read in the innermost loops.
-constinit std::atomic<double> tolerancia{0.00001};
-
-inline double t() { return tolerancia.load(std::memory_order_relaxed); }
+constinit double t = 0.00001;
 
 // Written so that not-a-number is false of each.
-inline bool es_cero(double x) { return std::fabs(x) <= t(); }
-inline bool no_es_cero(double x) { return std::fabs(x) > t(); }
-inline bool es_mayor(double x) { return x > t(); }
-inline bool es_mayor_igual(double x) { return x >= -t(); }
-inline bool es_menor(double x) { return x < -t(); }
-inline bool es_menor_igual(double x) { return x <= t(); }
+inline bool es_cero(double x) { return std::fabs(x) <= t; }
+inline bool no_es_cero(double x) { return std::fabs(x) > t; }
+inline bool es_mayor(double x) { return x > t; }
+inline bool es_mayor_igual(double x) { return x >= -t; }
+inline bool es_menor(double x) { return x < -t; }
+inline bool es_menor_igual(double x) { return x <= t; }
 
 } // namespace
 
@@ -248,7 +245,7 @@ vnbool parmge(double a, double b) { return es_mayor_igual(a - b); }
 vnbool parmlt(double a, double b) { return es_menor(a - b); }
 vnbool parmle(double a, double b) { return es_menor_igual(a - b); }
 
-void setroundoff(double roundoff) { tolerancia.store(roundoff, std::memory_order_relaxed); }
+void setroundoff(double roundoff) { t = roundoff; }
 
 double _roundoff(double x, double ro) {
     if (!AFIRMA(ro > 0.)) return x;

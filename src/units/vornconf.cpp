@@ -19,8 +19,6 @@
 
 using internacional = vornconf_internacional;
 
-constinit internacional vn::registro_vornconf{};
-
 namespace {
 
 // ---------------------------------------------------------------- what a language brings

@@ -7,7 +7,7 @@
 namespace vn {
 
 // All zeros until it is loaded. Words that other threads may read while the host's one changes them.
-extern constinit vornconf_internacional registro_vornconf;
+inline constinit vornconf_internacional registro_vornconf{};
 
 // The system of units, or 0 while the record is not loaded: vornconf_Internacional_sistema_unidades loads it.
 inline uint32_t sistema_unidades_si_cargado() {
