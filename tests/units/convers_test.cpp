@@ -265,6 +265,7 @@ PRUEBA(convers, el_redondeo_va_hacia_donde_dice_su_nombre) {
     EXPECT_EQ(abajo(14.99, 5., CNV_METROS), 10.);
     EXPECT_EQ(abajo(-0.01, 5., CNV_METROS), -5.);
     EXPECT_EQ(arriba(10.01, 5., CNV_METROS), 15.);
+    EXPECT_EQ(arriba(15., 5., CNV_METROS) + abajo(15., 5., CNV_METROS), 30.);
     EXPECT_EQ(cerca(1.23456, 0.05, CNV_LONGITUD), 1.25); // in metres or feet: by centimetres
     EXPECT_EQ(cerca(1.23456, 0.25, CNV_NO_CONVERSION), 1.25);
     // Nothing to round to: next to no step, a number of steps beyond 32 bits, no number.
