@@ -51,7 +51,8 @@ void limita(double &incremento, double holgura) {
     if (holgura >= 0. && holgura < incremento) incremento = holgura;
 }
 
-void alarga(double &limite, double sentido, double incremento_longitud) {
+// Not inline: its callers have just asked, and the check is to stay.
+[[gnu::noinline]] void alarga(double &limite, double sentido, double incremento_longitud) {
     AFIRMA(incremento_longitud > 0.);
     limite += sentido * incremento_longitud;
 }
