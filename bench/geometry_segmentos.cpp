@@ -1,14 +1,14 @@
-// A million pairs of segments in a square: where they cross, and what of the first lies in a rectangle. Our crossing is a
-// new point of the tracked heap, which the road frees.
+// A million pairs of segments in a square: where they cross, and what of the first lies in a rectangle. Our crossing is
+// a new point of the tracked heap, which the road frees.
 #include "foundation/vornspy.h"
 #include "geometry.h"
 #include "geometry/punto.h"
 #include "geometry/rectng.h"
 #include <cmath>
 #ifdef CON_CGAL
+#include <CGAL/intersections.h>
 #include <CGAL/Iso_rectangle_2.h>
 #include <CGAL/Simple_cartesian.h>
-#include <CGAL/intersections.h>
 #endif
 #ifdef CON_GEOS
 #include <geos/algorithm/LineIntersector.h>
@@ -89,11 +89,14 @@ bool recorte_sin_nada(Punto2D &a, Punto2D &b) {
         if (p == 0) return q >= 0;
         const double r = q / p;
         if (p < 0 ? r > t1 : r < t0) return false;
-        if (p < 0) t0 = std::max(t0, r);
-        else t1 = std::min(t1, r);
+        if (p < 0)
+            t0 = std::max(t0, r);
+        else
+            t1 = std::min(t1, r);
         return true;
     };
-    if (!lado(-dx, a.x + MEDIO) || !lado(dx, MEDIO - a.x) || !lado(-dy, a.y + MEDIO) || !lado(dy, MEDIO - a.y)) return false;
+    if (!lado(-dx, a.x + MEDIO) || !lado(dx, MEDIO - a.x) || !lado(-dy, a.y + MEDIO) || !lado(dy, MEDIO - a.y))
+        return false;
     if (t1 < 1) b = {a.x + t1 * dx, a.y + t1 * dy};
     if (t0 > 0) a = {a.x + t0 * dx, a.y + t0 * dy};
     return true;
@@ -109,7 +112,8 @@ bool cruce_nuestro(const par &p, double &x, double &y) {
 }
 
 bool recorte_nuestro(Punto2D &a, Punto2D &b) {
-    return rec_clip_linea_liang_barsky(-MEDIO, -MEDIO, MEDIO, MEDIO, a.x, a.y, b.x, b.y, &a.x, &a.y, &b.x, &b.y) == CIERTO;
+    return rec_clip_linea_liang_barsky(-MEDIO, -MEDIO, MEDIO, MEDIO, a.x, a.y, b.x, b.y, &a.x, &a.y, &b.x, &b.y) ==
+           CIERTO;
 }
 
 #ifdef CON_CGAL
@@ -118,7 +122,8 @@ using punto_cgal = nucleo::Point_2;
 using segmento_cgal = nucleo::Segment_2;
 
 bool cruce_cgal(const par &p, double &x, double &y) {
-    const auto r = CGAL::intersection(segmento_cgal({p.a.x, p.a.y}, {p.b.x, p.b.y}), segmento_cgal({p.c.x, p.c.y}, {p.d.x, p.d.y}));
+    const auto r = CGAL::intersection(segmento_cgal({p.a.x, p.a.y}, {p.b.x, p.b.y}),
+                                      segmento_cgal({p.c.x, p.c.y}, {p.d.x, p.d.y}));
     if (!r) return false;
     if (const auto *q = boost::get<punto_cgal>(&*r)) x = q->x(), y = q->y();
     return true;

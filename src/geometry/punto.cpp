@@ -14,7 +14,8 @@
 namespace {
 
 // The tolerances. Each belongs to one kind of test; none follows from another.
-// Point equality, containment, sides, boxes, bounds of a projection: metres, or what the test measures. A host changes it.
+// Point equality, containment, sides, boxes, bounds of a projection: metres, or what the test measures. A host changes
+// it.
 double p_EPS = 0.00005;
 // Squared length up to which a segment has no direction.
 constexpr double p_EPS_2 = 1e-10;
@@ -37,7 +38,9 @@ static_assert(VUELTA == 6.283185307179586 && MEDIA_VUELTA == 3.141592653589793);
 vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 
 Punto2D resta(const Punto2D &p, const Punto2D &q) { return {p.x - q.x, p.y - q.y}; }
-Punto2D relativo(const Punto2D &p, const Punto2D &q, double t) { return {p.x + t * (q.x - p.x), p.y + t * (q.y - p.y)}; }
+Punto2D relativo(const Punto2D &p, const Punto2D &q, double t) {
+    return {p.x + t * (q.x - p.x), p.y + t * (q.y - p.y)};
+}
 Punto2D *nuevo(const Punto2D &p) { return creapunto(p.x, p.y); }
 double escalar(const Punto2D &p, const Punto2D &q) { return p.x * q.x + p.y * q.y; }
 double cuadrado(const Punto2D &p) { return escalar(p, p); }
@@ -49,11 +52,13 @@ double modulo_de(double x, double y) {
     return RAIZ(x * x + y * y);
 }
 
-bool iguales(const Punto2D &p, const Punto2D &q) { return std::fabs(p.x - q.x) < p_EPS && std::fabs(p.y - q.y) < p_EPS; }
+bool iguales(const Punto2D &p, const Punto2D &q) {
+    return std::fabs(p.x - q.x) < p_EPS && std::fabs(p.y - q.y) < p_EPS;
+}
 
 // The detail has room for the largest numbers.
-[[gnu::cold, gnu::noinline]] void informa_de_dos(const vnwchar *expresion, const Punto2D &p, const Punto2D &q, const char *modulo,
-                                                 uint32_t linea) {
+[[gnu::cold, gnu::noinline]] void informa_de_dos(const vnwchar *expresion, const Punto2D &p, const Punto2D &q,
+                                                 const char *modulo, uint32_t linea) {
     vnwchar detalle[4 * 320];
     vnstdc__snwprintf(detalle, std::size(detalle), VNU("(%.6f, %.6f), (%.6f, %.6f)"), p.x, p.y, q.x, q.y);
     error_interno_msg_u(expresion, modulo, linea, detalle, 0);
@@ -126,10 +131,11 @@ double parametro_cruzado(const pieza &a, const pieza &b) {
     return contenido(r, esta.p, esta.q) && contenido_en_pieza(r, otra.p, otra.q, otra.recta);
 }
 
-// Whether a crossing with parameter t is not beyond the ends of the segment `esta`: by the parameter with hardly a margin,
-// or else by p_EPS. Inline: most pairs of segments do not cross, and are done here.
+// Whether a crossing with parameter t is not beyond the ends of the segment `esta`: by the parameter with hardly a
+// margin, or else by p_EPS. Inline: most pairs of segments do not cross, and are done here.
 [[gnu::always_inline]] inline bool dentro(double t, const Punto2D &r, const pieza &esta, const pieza &otra) {
-    if (PARAMETRO_MINIMO <= t && t <= PARAMETRO_MAXIMO) [[likely]] return true;
+    if (PARAMETRO_MINIMO <= t && t <= PARAMETRO_MAXIMO) [[likely]]
+        return true;
     return iguales(r, t < PARAMETRO_MINIMO ? esta.q : esta.p) && es_el_extremo(r, esta, otra);
 }
 
@@ -214,11 +220,15 @@ void p_asignar(Punto2D *destino, const Punto2D *origen) {
     if (AFIRMA(destino && origen)) *destino = *origen;
 }
 
-Punto2D *p_sump(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? creapunto(p->x + q->x, p->y + q->y) : nullptr; }
+Punto2D *p_sump(const Punto2D *p, const Punto2D *q) {
+    return AFIRMA(p && q) ? creapunto(p->x + q->x, p->y + q->y) : nullptr;
+}
 Punto2D *p_restp(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? nuevo(resta(*p, *q)) : nullptr; }
 double p_prodpuntos(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? escalar(*p, *q) : 0.; }
 double p_modulo(const Punto2D *p) { return AFIRMA_TEXTO(p != nullptr, "p != NULL") ? modulo_de(p->x, p->y) : 0.; }
-double p_modulo2(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? modulo_de(p->x - q->x, p->y - q->y) : 0.; }
+double p_modulo2(const Punto2D *p, const Punto2D *q) {
+    return AFIRMA(p && q) ? modulo_de(p->x - q->x, p->y - q->y) : 0.;
+}
 double p_dist2(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? cuadrado(resta(*p, *q)) : 0.; }
 
 Punto2D *p_punto_relativo_a_dos(const Punto2D *p, const Punto2D *q, double t) {
@@ -239,8 +249,8 @@ Punto2D *p_punto_en_recta(const Punto2D *p, double x0, double y0, double seno, d
     return creapunto(x0 + avance * coseno, y0 + avance * seno);
 }
 
-void p_punto_simetrico_respecto_a_una_recta(double x, double y, double x0, double y0, double coseno, double seno, double *xs,
-                                            double *ys) {
+void p_punto_simetrico_respecto_a_una_recta(double x, double y, double x0, double y0, double coseno, double seno,
+                                            double *xs, double *ys) {
     if (!AFIRMA_NO_NULO(xs) || !AFIRMA_NO_NULO(ys)) return;
     const double avance = (x - x0) * coseno + (y - y0) * seno;
     *xs = 2. * (x0 + avance * coseno) - x;
@@ -278,9 +288,9 @@ void p_redondea(Punto2D *p, uint8_t decimales) {
     *p = {prec_redondea_numero_decimales(p->x, decimales), prec_redondea_numero_decimales(p->y, decimales)};
 }
 
-void p_transforma_coords_con_origen_escala_giro_y_desplazamiento(Punto2D *p, double x_origen, double y_origen, double escala,
-                                                                 double coseno, double seno, double desplaz_x,
-                                                                 double desplaz_y) {
+void p_transforma_coords_con_origen_escala_giro_y_desplazamiento(Punto2D *p, double x_origen, double y_origen,
+                                                                 double escala, double coseno, double seno,
+                                                                 double desplaz_x, double desplaz_y) {
     if (!AFIRMA_TEXTO(p != nullptr, "p != NULL")) return;
     mt_transforma_coords_con_origen_escala_giro_y_desplazamiento(x_origen, y_origen, escala, coseno, seno, desplaz_x,
                                                                  desplaz_y, &p->x, &p->y);
@@ -297,7 +307,8 @@ void p_coordenadas_en_otra_posicion(double x, double y, uint32_t posicion, doubl
 
 void p_punto_en_otra_posicion(Punto2D *p, uint32_t posicion, double ancho, double alto, double coseno, double seno,
                               uint32_t otra_posicion) {
-    if (AFIRMA_TEXTO(p != nullptr, "p != NULL")) mueve_de_posicion(*p, posicion, ancho, alto, coseno, seno, otra_posicion);
+    if (AFIRMA_TEXTO(p != nullptr, "p != NULL"))
+        mueve_de_posicion(*p, posicion, ancho, alto, coseno, seno, otra_posicion);
 }
 
 // ---------------------------------------------------------------- points against points, segments and lines
@@ -312,8 +323,8 @@ void nousar_punto_assert_iguales(const Punto2D *p, const Punto2D *q, const char 
     if (AFIRMA(p && q) && !iguales(*p, *q)) informa_de_dos(VNU("puntos_iguales"), *p, *q, modulo, linea);
 }
 
-double nousar_posicion_relativa_al_segmento(const Punto2D *p, const Punto2D *s1, const Punto2D *s2, vnbool admite_degenerado,
-                                            const char *modulo, uint32_t linea) {
+double nousar_posicion_relativa_al_segmento(const Punto2D *p, const Punto2D *s1, const Punto2D *s2,
+                                            vnbool admite_degenerado, const char *modulo, uint32_t linea) {
     if (!AFIRMA(p && s1 && s2) || !AFIRMA_LOGICO(admite_degenerado)) return 0.;
     return posicion(*p, *s1, *s2, admite_degenerado == CIERTO, modulo, linea);
 }
@@ -377,8 +388,10 @@ vnbool p_minimax(const Punto2D *o1, const Punto2D *e1, const Punto2D *o2, const 
     return logico(AFIRMA(o1 && e1 && o2 && e2) && cajas_se_solapan(*o1, *e1, *o2, *e2));
 }
 
-vnbool p_se_solapan_rectangulos(double x1, double y1, double x2, double y2, double x3, double y3, double x4, double y4) {
-    if (no_es_numero({x1, y1}) || no_es_numero({x2, y2}) || no_es_numero({x3, y3}) || no_es_numero({x4, y4})) return FALSO;
+vnbool p_se_solapan_rectangulos(double x1, double y1, double x2, double y2, double x3, double y3, double x4,
+                                double y4) {
+    if (no_es_numero({x1, y1}) || no_es_numero({x2, y2}) || no_es_numero({x3, y3}) || no_es_numero({x4, y4}))
+        return FALSO;
     return logico(cajas_se_solapan({std::min(x1, x2), std::min(y1, y2)}, {std::max(x1, x2), std::max(y1, y2)},
                                    {std::min(x3, x4), std::min(y3, y4)}, {std::max(x3, x4), std::max(y3, y4)}));
 }
@@ -386,7 +399,8 @@ vnbool p_se_solapan_rectangulos(double x1, double y1, double x2, double y2, doub
 vnbool p_segmentos_se_solapan(const Punto2D *a, const Punto2D *b, const Punto2D *c, const Punto2D *d) {
     if (!AFIRMA(a && b && c && d)) return FALSO;
     if (!contenido_recta(*a, *c, *d) || !contenido_recta(*b, *c, *d)) return FALSO;
-    return logico(normal_corta(*c, *a, *b) || normal_corta(*d, *a, *b) || normal_corta(*a, *c, *d) || normal_corta(*b, *c, *d));
+    return logico(normal_corta(*c, *a, *b) || normal_corta(*d, *a, *b) || normal_corta(*a, *c, *d) ||
+                  normal_corta(*b, *c, *d));
 }
 
 vnbool p_son_segmentos_paralelos(const Punto2D *p1, const Punto2D *q1, const Punto2D *p2, const Punto2D *q2) {
@@ -394,7 +408,8 @@ vnbool p_son_segmentos_paralelos(const Punto2D *p1, const Punto2D *q1, const Pun
     return logico(std::fabs(parametro_cruzado({*p1, *q1, false}, {*p2, *q2, false})) <= LIMITE_PARALELISMO);
 }
 
-vnbool p_seg_corta_dentro_rect(const Punto2D *a, const Punto2D *b, const Punto2D *c, const Punto2D *d, vnbool solo_enteros) {
+vnbool p_seg_corta_dentro_rect(const Punto2D *a, const Punto2D *b, const Punto2D *c, const Punto2D *d,
+                               vnbool solo_enteros) {
     if (!AFIRMA(a && b && c && d) || !AFIRMA_LOGICO(solo_enteros)) return FALSO;
     if (no_es_numero(*a) || no_es_numero(*b) || no_es_numero(*c) || no_es_numero(*d)) return FALSO;
     const double x1 = std::min(c->x, d->x), x2 = std::max(c->x, d->x);
@@ -455,8 +470,10 @@ Punto2D *p_cortan_spec_seguro(const Punto2D *p1, const Punto2D *q1, vnbool recta
     const bool a_es_punto = iguales(*p1, *q1), b_es_punto = iguales(*p2, *q2);
     if (a_es_punto && b_es_punto) return nullptr;
     Punto2D *hallado = nullptr;
-    if (a_es_punto) hallado = corte_de_punto(a, b);
-    else if (b_es_punto) hallado = corte_de_punto(b, a);
+    if (a_es_punto)
+        hallado = corte_de_punto(a, b);
+    else if (b_es_punto)
+        hallado = corte_de_punto(b, a);
     return hallado != nullptr ? hallado : corte(a, b);
 }
 

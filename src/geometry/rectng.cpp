@@ -47,8 +47,8 @@ bool en_el_ensanchado(const rectangulo_t &r, double x, double y, double precisio
 }
 
 bool se_solapan(const rectangulo_t &a, const rectangulo_t &b) {
-    return a.calculados != FALSO && b.calculados != FALSO && menor_igual(a.xmin, b.xmax) && mayor_igual(a.xmax, b.xmin) &&
-           menor_igual(a.ymin, b.ymax) && mayor_igual(a.ymax, b.ymin);
+    return a.calculados != FALSO && b.calculados != FALSO && menor_igual(a.xmin, b.xmax) &&
+           mayor_igual(a.xmax, b.xmin) && menor_igual(a.ymin, b.ymax) && mayor_igual(a.ymax, b.ymin);
 }
 
 bool solapa_con_limites(const rectangulo_t &r, double x1, double y1, double x2, double y2) {
@@ -105,7 +105,9 @@ void rec_Set(rectangulo_t *rec, double ox, double oy, double ex, double ey) {
 
 // ---------------------------------------------------------------- access
 
-vnbool rec_Inicializado(const rectangulo_t *rec) { return AFIRMA_NO_NULO(rec) ? logico(rec->calculados != FALSO) : FALSO; }
+vnbool rec_Inicializado(const rectangulo_t *rec) {
+    return AFIRMA_NO_NULO(rec) ? logico(rec->calculados != FALSO) : FALSO;
+}
 
 void rec_Get(const rectangulo_t *rec, double *xmin, double *ymin, double *xmax, double *ymax) {
     if (!AFIRMA_NO_NULO(rec)) return;
@@ -117,7 +119,8 @@ void rec_Get(const rectangulo_t *rec, double *xmin, double *ymin, double *xmax, 
 }
 
 void rec_get_limites(const rectangulo_t *rec, double *xmin, double *ymin, double *xmax, double *ymax) {
-    if (AFIRMA_NO_NULO(rec) && AFIRMA_NO_NULO(xmin) && AFIRMA_NO_NULO(ymin) && AFIRMA_NO_NULO(xmax) && AFIRMA_NO_NULO(ymax))
+    if (AFIRMA_NO_NULO(rec) && AFIRMA_NO_NULO(xmin) && AFIRMA_NO_NULO(ymin) && AFIRMA_NO_NULO(xmax) &&
+        AFIRMA_NO_NULO(ymax))
         rec_Get(rec, xmin, ymin, xmax, ymax);
 }
 
@@ -232,11 +235,12 @@ vnbool rec_ExisteSolapeConLimites(const rectangulo_t *rec, double x1, double y1,
     return logico(solapa_con_limites(*rec, x1, y1, x2, y2));
 }
 
-vnbool rec_ExisteSolapeConSegmento(const rectangulo_t *rec, double x1, double y1, double x2, double y2, double tolerancia) {
+vnbool rec_ExisteSolapeConSegmento(const rectangulo_t *rec, double x1, double y1, double x2, double y2,
+                                   double tolerancia) {
     if (!AFIRMA_NO_NULO(rec)) return FALSO;
     AFIRMA_TEXTO(rec->calculados != FALSO, "rec->calculados == CIERTO");
-    const rectangulo_t r = {rec->xmin - tolerancia, rec->ymin - tolerancia, rec->xmax + tolerancia, rec->ymax + tolerancia,
-                            CIERTO};
+    const rectangulo_t r = {rec->xmin - tolerancia, rec->ymin - tolerancia, rec->xmax + tolerancia,
+                            rec->ymax + tolerancia, CIERTO};
     return logico(solapa_con_limites(r, x1, y1, x2, y2));
 }
 
@@ -297,8 +301,8 @@ uint32_t rectng_calculaPosicionMasCercana(double x, double y, double tolerancia)
     return posicion;
 }
 
-void rectng_calcula_coordenadas_posicion(uint32_t posicion, double izquierda, double derecha, double abajo, double arriba,
-                                         double *coord_x, double *coord_y) {
+void rectng_calcula_coordenadas_posicion(uint32_t posicion, double izquierda, double derecha, double abajo,
+                                         double arriba, double *coord_x, double *coord_y) {
     if (!AFIRMA_NO_NULO(coord_x) || !AFIRMA_NO_NULO(coord_y)) return;
     if (posicion >= std::size(LUGARES)) AFIRMA_DEFECTO(), posicion = 0;
     const auto [columna, fila] = LUGARES[posicion];
@@ -306,9 +310,9 @@ void rectng_calcula_coordenadas_posicion(uint32_t posicion, double izquierda, do
     *coord_y = fila == 0 ? 0. : fila < 0 ? -abajo : arriba;
 }
 
-void rectng_AnchosDesdePuntoFijo(double ancho_y, double ancho_z, double coord_y_cdg, double coord_z_cdg, uint32_t posicion,
-                                 double *ancho_y_inicial, double *ancho_z_inicial, double *ancho_y_final,
-                                 double *ancho_z_final) {
+void rectng_AnchosDesdePuntoFijo(double ancho_y, double ancho_z, double coord_y_cdg, double coord_z_cdg,
+                                 uint32_t posicion, double *ancho_y_inicial, double *ancho_z_inicial,
+                                 double *ancho_y_final, double *ancho_z_final) {
     if (!AFIRMA_NO_NULO(ancho_y_inicial) || !AFIRMA_NO_NULO(ancho_z_inicial) || !AFIRMA_NO_NULO(ancho_y_final) ||
         !AFIRMA_NO_NULO(ancho_z_final))
         return;

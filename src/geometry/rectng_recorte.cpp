@@ -8,9 +8,9 @@
 
 namespace {
 
-// Narrows u1 and u2, the parameters between which the segment lies inside, to one axis: how far it goes along it, and how
-// far inside of both borders it begins. Whether anything is left; nothing is of what is no number.
-// Both borders at once: which of them it enters by is a choice that costs no branch.
+// Narrows u1 and u2, the parameters between which the segment lies inside, to one axis: how far it goes along it, and
+// how far inside of both borders it begins. Whether anything is left; nothing is of what is no number. Both borders at
+// once: which of them it enters by is a choice that costs no branch.
 bool recorta(double d, double desde_min, double hasta_max, double &u1, double &u2) {
     if (d == 0.) return desde_min >= 0. && hasta_max >= 0.;
     const double por_min = desde_min / -d, por_max = hasta_max / d;
@@ -61,18 +61,22 @@ struct recorrido {
 };
 
 bool cruza(double a, double b, double lado) { return ES_MENOR(a, lado) == CIERTO && ES_MAYOR(b, lado) == CIERTO; }
-bool corre_por(double a, double b, double lado) { return SON_IGUALES(a, lado) == CIERTO && SON_IGUALES(b, lado) == CIERTO; }
+bool corre_por(double a, double b, double lado) {
+    return SON_IGUALES(a, lado) == CIERTO && SON_IGUALES(b, lado) == CIERTO;
+}
 
 // Whether the segment crosses the side at x inwards from the left, which gives the crossing, or runs along its line.
 bool prueba_lado_vertical(const rectangulo_t &r, double x, const recorrido &s, const salida &o) {
     if (cruza(s.a.x, s.b.x, x))
-        return mt_existe_interseccion_entre_segmentos(s.a.x, s.a.y, s.b.x, s.b.y, x, r.ymin, x, r.ymax, o.x, o.y) == CIERTO;
+        return mt_existe_interseccion_entre_segmentos(s.a.x, s.a.y, s.b.x, s.b.y, x, r.ymin, x, r.ymax, o.x, o.y) ==
+               CIERTO;
     return (ES_MAYOR(s.a.y, r.ymin) == CIERTO || ES_MENOR(s.b.y, r.ymax) == CIERTO) && corre_por(s.a.x, s.b.x, x);
 }
 
 bool prueba_lado_horizontal(const rectangulo_t &r, double y, const recorrido &s, const salida &o) {
     if (cruza(s.a.y, s.b.y, y))
-        return mt_existe_interseccion_entre_segmentos(s.a.x, s.a.y, s.b.x, s.b.y, r.xmin, y, r.xmax, y, o.x, o.y) == CIERTO;
+        return mt_existe_interseccion_entre_segmentos(s.a.x, s.a.y, s.b.x, s.b.y, r.xmin, y, r.xmax, y, o.x, o.y) ==
+               CIERTO;
     return (ES_MAYOR(s.a.x, r.xmin) == CIERTO || ES_MENOR(s.b.x, r.xmax) == CIERTO) && corre_por(s.a.y, s.b.y, y);
 }
 
@@ -89,8 +93,8 @@ vnbool rec_ClipSegmento(const rectangulo_t *rec, double x1, double y1, double x2
     return liang_barsky(rec->xmin, rec->ymin, rec->xmax, rec->ymax, x1, y1, x2, y2, ox1, oy1, ox2, oy2);
 }
 
-vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, double x2, double y2, double *ox1, double *oy1,
-                               double *ox2, double *oy2) {
+vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, double x2, double y2, double *ox1,
+                               double *oy1, double *ox2, double *oy2) {
     if (!AFIRMA_NO_NULO(rec)) return FALSO;
     pon(ox1, x1);
     pon(oy1, y1);
@@ -102,7 +106,8 @@ vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, do
     if (de_1 == 0 && de_2 == 0) return CIERTO;
     bool dentro = de_1 == 0 || de_2 == 0;
     // What runs along a side with both ends outside stays whole, and is not cut where it passes the corners.
-    if (!dentro && (corre_por(x1, x2, r.xmin) || corre_por(x1, x2, r.xmax) || corre_por(y1, y2, r.ymin) || corre_por(y1, y2, r.ymax)))
+    if (!dentro && (corre_por(x1, x2, r.xmin) || corre_por(x1, x2, r.xmax) || corre_por(y1, y2, r.ymin) ||
+                    corre_por(y1, y2, r.ymax)))
         return CIERTO;
     const salida o1 = {ox1, oy1}, o2 = {ox2, oy2};
     if (dentro && ox1 == nullptr && oy1 == nullptr && ox2 == nullptr && oy2 == nullptr) return CIERTO;

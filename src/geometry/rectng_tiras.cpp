@@ -74,10 +74,10 @@ void alarga_hasta_los_otros(std::span<rectangulo_t *const> tiras, size_t cual, d
         if (!(otro->*d.ancho.min - tolerancia <= principal->*d.ancho.max &&
               principal->*d.ancho.min <= otro->*d.ancho.max + tolerancia))
             continue;
-        limita(incremento_final, holgura(otro->*d.largo.min - principal->*d.largo.max,
-                                         otro->*d.largo.max - principal->*d.largo.max));
-        limita(incremento_inicial, holgura(principal->*d.largo.min - otro->*d.largo.max,
-                                           principal->*d.largo.min - otro->*d.largo.min));
+        limita(incremento_final,
+               holgura(otro->*d.largo.min - principal->*d.largo.max, otro->*d.largo.max - principal->*d.largo.max));
+        limita(incremento_inicial,
+               holgura(principal->*d.largo.min - otro->*d.largo.max, principal->*d.largo.min - otro->*d.largo.min));
     }
     AFIRMA(incremento_final <= incremento_a_cada_lado);
     AFIRMA(incremento_inicial <= incremento_a_cada_lado);
@@ -93,27 +93,31 @@ bool lo_contiene(const rectangulo_t &de, const rectangulo_t &r) {
 
 bool casi_iguales(double a, double b, double tolerancia) { return a == b || std::fabs(a - b) <= tolerancia; }
 
-// Whether two strips of direction `d` stand side against side. The first may have grown over others until it is no longer
-// a strip of that direction itself: its group still is.
+// Whether two strips of direction `d` stand side against side. The first may have grown over others until it is no
+// longer a strip of that direction itself: its group still is.
 bool son_contiguos(const rectangulo_t &principal, const rectangulo_t &otro, const direccion &d, double tolerancia) {
-    if (d.vertical) AFIRMA_TEXTO(rec_RectanguloVertical(&otro) == CIERTO, "rec_RectanguloVertical(otro) == CIERTO");
-    else AFIRMA_TEXTO(rec_RectanguloVertical(&otro) == FALSO, "rec_RectanguloVertical(otro) == FALSO");
+    if (d.vertical)
+        AFIRMA_TEXTO(rec_RectanguloVertical(&otro) == CIERTO, "rec_RectanguloVertical(otro) == CIERTO");
+    else
+        AFIRMA_TEXTO(rec_RectanguloVertical(&otro) == FALSO, "rec_RectanguloVertical(otro) == FALSO");
     AFIRMA(tolerancia >= 0.);
-    if (principal.*d.largo.max + tolerancia < otro.*d.largo.min || otro.*d.largo.max < principal.*d.largo.min - tolerancia)
+    if (principal.*d.largo.max + tolerancia < otro.*d.largo.min ||
+        otro.*d.largo.max < principal.*d.largo.min - tolerancia)
         return false;
     return casi_iguales(principal.*d.ancho.min, otro.*d.ancho.max, tolerancia) ||
            casi_iguales(principal.*d.ancho.max, otro.*d.ancho.min, tolerancia);
 }
 
 bool crece_si_es_contiguo(rectangulo_t &candidato, const rectangulo_t &otro, const direccion &d, double tolerancia) {
-    const bool contiguo = (rec_RectanguloVertical(&otro) == CIERTO) == d.vertical &&
-                          son_contiguos(candidato, otro, d, tolerancia);
+    const bool contiguo =
+        (rec_RectanguloVertical(&otro) == CIERTO) == d.vertical && son_contiguos(candidato, otro, d, tolerancia);
     if (contiguo) rec_MaximizaRect(&candidato, &otro);
     return contiguo;
 }
 
 // The rectangle that stands for element `cual` and those that touch it, or null when one in the result holds it.
-dueno_rectangulo condensa(std::span<rectangulo_t *const> tiras, size_t cual, const arrPuntero *condensados, double tolerancia) {
+dueno_rectangulo condensa(std::span<rectangulo_t *const> tiras, size_t cual, const arrPuntero *condensados,
+                          double tolerancia) {
     const rectangulo_t *const principal = tiras[cual];
     if (!AFIRMA_NO_NULO(principal)) return nullptr;
     AFIRMA(principal->calculados);
