@@ -79,6 +79,7 @@ std::string informe_de(const std::string &nombre, const obra_leida &o) {
     pon_fichero(s, o);
     pon_capas(s, o.p);
     pon_medidas(s, o.p);
+    pon_geometria(s, o.p);
     return s;
 }
 

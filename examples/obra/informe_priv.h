@@ -24,5 +24,7 @@ void pon_fichero(std::string &s, const obra_leida &o);
 void pon_capas(std::string &s, const plano &p);
 // Extents, lengths and areas, in the system of units in force.
 void pon_medidas(std::string &s, const plano &p);
+// What holds the drawing, and by layer what closes, what crosses and how long its arcs are.
+void pon_geometria(std::string &s, const plano &p);
 
 } // namespace obra

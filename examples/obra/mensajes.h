@@ -61,6 +61,12 @@ namespace obra {
     X(longitud, "longitud", "length")                                                                                  \
     X(cerradas, "polilíneas cerradas", "closed polylines")                                                             \
     X(area, "área", "area")                                                                                            \
+    X(rectangulo, "Rectángulo envolvente", "Bounding rectangle")                                                       \
+    X(casco, "Envolvente convexa", "Convex hull")                                                                      \
+    X(vertices, "vértices", "vertices")                                                                                \
+    X(geometria, "Contornos, cruces y arcos", "Outlines, crossings and arcs")                                          \
+    X(contornos, "contornos cerrados", "closed outlines")                                                              \
+    X(cruces, "cruces", "crossings")                                                                                    \
     X(energia, "Unidad de energía", "Unit of energy")
 
 #define X(nombre, es, en) void nombre(vnmensaje *m);

@@ -31,15 +31,19 @@ void anade_tramo(extension &e, Punto2D a, Punto2D b, double curvatura) {
     e.anade(a.x, a.y);
     e.anade(b.x, b.y);
     if (curvatura == 0) return;
-    // Centre of the arc whose bulge is the tangent of a quarter of its angle.
-    const double dx = b.x - a.x, dy = b.y - a.y, k = (1 - curvatura * curvatura) / (4 * curvatura);
-    const Punto2D c = {(a.x + b.x) / 2 - dy * k, (a.y + b.y) / 2 + dx * k};
-    const double r = std::hypot(a.x - c.x, a.y - c.y);
-    const double ta = std::atan2(a.y - c.y, a.x - c.x), tb = std::atan2(b.y - c.y, b.x - c.x);
-    anade_curva(e, c, {r, 0}, {0, r}, curvatura > 0 ? ta : tb, curvatura > 0 ? tb : ta);
+    const arco k = arco_de(a, b, curvatura);
+    anade_curva(e, k.centro, {k.radio, 0}, {0, k.radio}, k.desde, k.hasta);
 }
 
 } // namespace
+
+arco arco_de(Punto2D a, Punto2D b, double curvatura) {
+    // Centre of the arc whose bulge is the tangent of a quarter of its angle.
+    const double dx = b.x - a.x, dy = b.y - a.y, k = (1 - curvatura * curvatura) / (4 * curvatura);
+    const Punto2D c = {(a.x + b.x) / 2 - dy * k, (a.y + b.y) / 2 + dx * k};
+    const double ta = std::atan2(a.y - c.y, a.x - c.x), tb = std::atan2(b.y - c.y, b.x - c.x);
+    return {c, std::hypot(a.x - c.x, a.y - c.y), curvatura > 0 ? ta : tb, curvatura > 0 ? tb : ta};
+}
 
 extension extension_de(const capa &c) {
     extension e;

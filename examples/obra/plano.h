@@ -79,6 +79,8 @@ struct plano {
     std::map<std::string, uint32_t> sin_importar;
 };
 
+// The arc, counter-clockwise, of a piece of a polyline whose bulge is not 0.
+arco arco_de(Punto2D a, Punto2D b, double curvatura);
 // The box of lines, circles, arcs, ellipses and polylines; texts do not count.
 extension extension_de(const capa &c);
 

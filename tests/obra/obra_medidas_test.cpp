@@ -147,13 +147,19 @@ PRUEBA(obra_medidas, las_opciones_valen_para_esta_vez) {
                          "Extensión: x 0.000 m .. 3.048 m, y 0.000 m .. 304.800 m (3.048 m x 304.800 m)\n"
                          "Longitudes y áreas:\n"
                          "  : longitud 615.696 m; polilíneas cerradas: 1, área 929.03 m²\n"
-                         "  Total: longitud 615.696 m; polilíneas cerradas: 1, área 929.03 m²\n");
+                         "  Total: longitud 615.696 m; polilíneas cerradas: 1, área 929.03 m²\n"
+                         "Rectángulo envolvente: 929.03 m²\nEnvolvente convexa: 929.03 m², vértices: 4\n"
+                         "Contornos, cruces y arcos:\n  : contornos cerrados: 1, cruces: 0\n"
+                         "  Total: contornos cerrados: 1, cruces: 0\n");
     aplica({.sistema = VORNCONF_SU_IMPERIAL, .energia = VORNNORM_UNIDAD_ENERGIA_KCAL});
     EXPECT_EQ(informe(), "Sistema de unidades: Unidades Inglesas\nUnidad de energía: kilocaloría, kcal\n"
                          "Extensión: x 0\" .. 10'-0\", y 0\" .. 1000'-0\" (10'-0\" x 1000'-0\")\n"
                          "Longitudes y áreas:\n"
                          "  : longitud 2020'-0\"; polilíneas cerradas: 1, área 10,000.00 ft²\n"
-                         "  Total: longitud 2020'-0\"; polilíneas cerradas: 1, área 10,000.00 ft²\n");
+                         "  Total: longitud 2020'-0\"; polilíneas cerradas: 1, área 10,000.00 ft²\n"
+                         "Rectángulo envolvente: 10,000.00 ft²\nEnvolvente convexa: 10,000.00 ft², vértices: 4\n"
+                         "Contornos, cruces y arcos:\n  : contornos cerrados: 1, cruces: 0\n"
+                         "  Total: contornos cerrados: 1, cruces: 0\n");
     EXPECT_EQ(vn::lee_fichero(fichero), dicho);
     fichconf_establece_directorio_base(nullptr);
 }

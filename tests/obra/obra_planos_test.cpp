@@ -1,5 +1,6 @@
 // The DXF reader of the sample host on real drawings, which stand beside the checkout where there are any.
 #include "dxf.h"
+#include "geometria.h"
 #include "informe.h"
 #include "prueba.h"
 #include <cmath>
@@ -64,6 +65,10 @@ PRUEBA(obra_planos, los_planos_reales_dan_las_cuentas_y_las_medidas_de_otro_lect
         EXPECT_NEAR(e.ymin, ymin, tolerancia);
         EXPECT_NEAR(e.xmax, xmax, tolerancia);
         EXPECT_NEAR(e.ymax, ymax, tolerancia);
+        // The hull lies in the bounding rectangle and touches its four sides: at least half of it.
+        const double area = rec_Ancho(rectangulo_de(p).get()) * rec_Alto(rectangulo_de(p).get());
+        const envolvente casco = envolvente_de(p);
+        EXPECT_TRUE(area / 2 < casco.area && casco.area < area * 1.000001 && casco.vertices > 3) << casco.area << " of " << area;
     }
     EXPECT_GE(comparados, 9);
 }

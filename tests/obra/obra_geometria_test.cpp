@@ -1,0 +1,72 @@
+#include "geometria.h"
+#include "geometry/punto.h"
+#include "propiedades.h"
+#include "prueba.h"
+#include <numbers>
+
+using namespace obra;
+
+namespace {
+
+polilinea cadena(std::vector<Punto2D> vertices, std::vector<double> curvaturas = {}) { return {false, std::move(vertices), std::move(curvaturas)}; }
+
+} // namespace
+
+// In millimetres: what closes, what crosses and what is an arc are told in metres and with the library's tolerances.
+PRUEBA(obra_geometria, lo_que_cierra_lo_que_cruza_y_los_arcos) {
+    capa c;
+    // A ring of four lines, the last drawn backwards and 0.009 mm off; a cross; one that ends on a side, one outside.
+    c.lineas = {{{0, 0}, {100, 0}}, {{100, 0}, {100, 50}}, {{100, 50}, {0, 50}}, {{0, .004}, {0, 50}},
+                {{10, 10}, {20, 20}}, {{10, 20}, {20, 10}}, {{50, 0}, {50, 20}}, {{200, 0}, {200, 9}}};
+    EXPECT_EQ(geometria_de(c, .001).contornos, 1u);
+    EXPECT_EQ(geometria_de(c, .001).cruces, 2u);
+    EXPECT_EQ(geometria_de(c, 1).contornos, 0u); // 4 mm off in metres
+    c.circulos = {{{300, 0}, 5}};
+    c.arcos = {{{400, 0}, 10, 0, std::numbers::pi}, {{400, 0}, 10, std::numbers::pi, 2 * std::numbers::pi}, {{500, 0}, 10, 6, 1}};
+    c.elipses = {{{600, 0}, {10, 0}, .5, 0, 2 * std::numbers::pi}, {{600, 0}, {10, 0}, .5, 0, 3}};
+    c.polilineas = {cadena({{0, 300}, {10, 300}}, {1, 1}), cadena({{0, 400}, {9, 400}, {9, 409}, {0, 400}}), cadena({{0, 500}, {9, 500}}, {-1, 0})};
+    c.polilineas[0].cerrada = true; // two half circles
+    const geometria_capa g = geometria_de(c, .001);
+    EXPECT_EQ(g.contornos, 1u + 1 + 1 + 1 + 2);
+    EXPECT_TRUE(vn::cerca(g.longitud_arcos, .001 * (std::numbers::pi * (20 + 10 + 4.5) + 10 * (2 * std::numbers::pi - 5))));
+    for (const double raro : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(), 1e308})
+        c.lineas.push_back({{raro, 0}, {0, raro}}); // a file may hold anything
+    EXPECT_EQ(geometria_de(c, 1e3).contornos, 5u);
+    c.lineas.resize(8);
+    plano p;
+    p.metros_por_unidad = .001;
+    p.capas = {c};
+    EXPECT_EQ(rectangulo_de(p)->ymin, -.01);
+    EXPECT_EQ(rectangulo_de(p)->xmax, .61);
+    p.capas[0] = {};
+    EXPECT_EQ(rec_Inicializado(rectangulo_de(p).get()), FALSO);
+    EXPECT_EQ(envolvente_de(p).vertices, 0u);
+    p.capas[0].lineas = {{{100000, 1000}, {100000, 3000}}};
+    p.capas[0].circulos = {{{102000, 2000}, 1000}};
+    // The circle's right half, of a polygon of 64, and the square before it.
+    EXPECT_TRUE(vn::cerca(envolvente_de(p).area, 2 * 2 + 16 * std::sin(std::numbers::pi / 32), 1e6)); // the grid's step
+    EXPECT_EQ(envolvente_de(p).vertices, 2u + 33);
+}
+
+PRUEBA(obra_geometria, el_barrido_encuentra_los_mismos_cruces_que_todos_con_todos) {
+    vn::azar z(61);
+    for (const int64_t lado : {5, 40}) {
+        capa c;
+        for (int i = 0; i < 300; ++i) {
+            const auto punto = [&] { return Punto2D{static_cast<double>(z.entero_entre(-lado, lado)), z.entre(-3, 3)}; };
+            c.lineas.push_back({punto(), punto()});
+            if (i % 5 == 0) c.lineas.back().b = c.lineas[static_cast<size_t>(i) / 2].a; // an end in common
+        }
+        size_t todos = 0;
+        for (size_t i = 0; i < c.lineas.size(); ++i)
+            for (size_t j = 0; j < i; ++j) {
+                const linea &s = c.lineas[i], &t = c.lineas[j];
+                Punto2D *r = p_cortan(&s.a, &s.b, &t.a, &t.b);
+                if (r == nullptr) continue;
+                todos += !((p_igual(r, &s.a) || p_igual(r, &s.b)) && (p_igual(r, &t.a) || p_igual(r, &t.b)));
+                vornspy_free_pp(&r, sizeof(Punto2D));
+            }
+        EXPECT_EQ(geometria_de(c, 1).cruces, todos);
+        EXPECT_GT(todos, 1000u);
+    }
+}
