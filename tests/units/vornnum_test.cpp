@@ -2,6 +2,7 @@
 #include "units/vornnum.h"
 #include "foundation/cad.h"
 #include "foundation/vnregional.h"
+#include "plataforma/regional.h"
 #include "propiedades.h"
 #include "prueba.h"
 #include <cfloat>
@@ -170,7 +171,10 @@ PRUEBA(vornnum, con_los_separadores_de_la_region) {
     EXPECT_EQ(toma(en_columna(7, 0, 59, 4)).size(), 63u);
     ESPERA_INFORME("len < TAM_BUFFER_NUM", en_columna(7, 0, 60, 4));
     ESPERA_INFORME("len < TAM_BUFFER_NUM", en_columna(NAN, 0, 0, UINT16_MAX));
+    const region_del_usuario aleman("de-DE", "de-DE");
     vnregional_establece(nullptr);
+    const bool uno = aleman.un_separador_para_todo();
+    EXPECT_EQ(toma(vornnum_double_a_string_con_formato_windows_u(1234567.5, 2)), uno ? "1234567,50" : "1.234.567,50");
 }
 
 // The same texts natively and under Wine.

@@ -28,6 +28,8 @@ region_del_usuario::region_del_usuario(const char *numeros, const char *fechas) 
     interior_->pon("LANG", "ja-JP");
 }
 
+bool region_del_usuario::un_separador_para_todo() { return false; }
+
 region_del_usuario::~region_del_usuario() {
     for (const auto &[variable, valor] : interior_->antes)
         if (valor) ::setenv(variable.c_str(), valor->c_str(), 1);

@@ -34,6 +34,12 @@ region_del_usuario::region_del_usuario(const char *numeros, const char *fechas) 
     for (const LCTYPE que : DE_FECHAS) interior_->pon(que, fechas);
 }
 
+bool region_del_usuario::un_separador_para_todo() {
+    SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, dato(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL).c_str());
+    vnregional_establece(nullptr);
+    return true;
+}
+
 region_del_usuario::~region_del_usuario() {
     for (const auto &[que, valor] : interior_->antes) SetLocaleInfoW(LOCALE_USER_DEFAULT, que, valor.c_str());
     vnregional_establece(nullptr);
