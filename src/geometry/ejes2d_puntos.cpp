@@ -136,7 +136,8 @@ class buscador {
         const auto n = static_cast<uint32_t>(p_.size());
         while (k < n) {
             const uint32_t i = lugar(inicio, k);
-            if (i % BLOQUE == 0 && i / BLOQUE < bloques_.size() && n - k >= BLOQUE && ninguno(bloques_[i / BLOQUE])) {
+            // The last one may reach past the end of the ring, over points that have been looked at.
+            if (i % BLOQUE == 0 && i / BLOQUE < bloques_.size() && ninguno(bloques_[i / BLOQUE])) {
                 k += BLOQUE;
                 continue;
             }

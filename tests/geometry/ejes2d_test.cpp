@@ -45,6 +45,10 @@ PRUEBA(ejes2d, ir_a_global_y_volver_deja_todo_donde_estaba) {
         ejes2d_coordenadas_3D_proyectado_a_3D(EJ(m), XYZ(g), A_XYZ(pie));
         ejes2d_coordenadas_3D_a_2D(EJ(m), XYZ(pie), 1e-9, &x, &y);
         ASSERT_TRUE(iguales({x, y, 0}, {p.x, p.y, 0}, e));
+        const vec d = .6 * m.u + .8 * m.v;
+        double dx, dy;
+        ejes2d_recta_3D_a_2D(EJ(m), XYZ(pie), XYZ(d), 1e-9, &x, &y, &dx, &dy);
+        ASSERT_TRUE(iguales({x, y, 0}, {p.x, p.y, 0}, e) && iguales({dx, dy, 0}, {.6, .8, 0}, 3.));
         ASSERT_TRUE(vn::cerca(ejes2d_distancia_con_signo_punto_a_plano(EJ(m), XYZ(g)), p.z, e));
 
         ejes2d_vector_3D_local_a_global(UV_(m), XYZ(p), A_XYZ(g));

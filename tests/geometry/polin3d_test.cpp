@@ -236,6 +236,7 @@ PRUEBA(polin3d, los_dos_radios_de_eje_son_distintos_a_proposito) {
     // Two fillets that meet: their common point comes once. One that finds no room leaves its corner.
     const puntos u({{10, 0, 0}, {0, 0, 0}, {0, 8, 0}, {10, 8, 0}});
     EXPECT_EQ(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(u, 2., 3., 10.)).size(), 21u);
+    EXPECT_EQ(toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(u, 2., 4., 10., FALSO)).size(), 21u); // nor two sections
     const puntos sin_sitio(polin3d_puntos_polilinea_con_radios_de_acuerdo(u, 2., 8., 10.));
     ASSERT_EQ(sin_sitio.size(), 4u);
     EXPECT_EQ(sin_sitio[2].y, 8.);
