@@ -66,7 +66,7 @@ void reemplaza(poligono_t *pol, int32_t i, const vertice &v) {
 }
 
 void quita(poligono_t *pol, int32_t i) {
-    if (!AFIRMA(i >= 0 && i < pol->numVertices)) return;
+    if (!AFIRMA(i >= 0 && i < pol->numVertices) || !AFIRMA(pol->numVertices > 3)) return;
     std::move(pol->vertice + i + 1, pol->vertice + pol->numVertices, pol->vertice + i);
     redimensiona(pol, pol->numVertices - 1);
 }
