@@ -1,6 +1,7 @@
 #define VN_MODULO "vnregional (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/vnregional.h"
 #include "foundation/afirma.h"
+#include "foundation/calendario_priv.h"
 #include "foundation/eterno_priv.h"
 #include "foundation/platform/maquina.h"
 #include "foundation/platform/regional.h"
@@ -170,18 +171,13 @@ texto pinta_hora(const region &r, const momento &m, vista modelo) {
     return t;
 }
 
-bool es_bisiesto(int32_t anyo) { return anyo % 4 == 0 && (anyo % 100 != 0 || anyo % 400 == 0); }
-
 bool es_fecha(int32_t dia, int32_t mes, int32_t anyo) {
-    constexpr int32_t DIAS[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     return anyo >= 1601 && anyo <= 9999 && mes >= 1 && mes <= 12 && dia >= 1 &&
-           dia <= DIAS[mes - 1] + (mes == 2 && es_bisiesto(anyo) ? 1 : 0);
+           dia <= vn::dias_del_mes(static_cast<uint32_t>(mes - 1), anyo);
 }
 
 int32_t dia_de_la_semana(int32_t dia, int32_t mes, int32_t anyo) {
-    constexpr int32_t DESFASE[] = {0, 3, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4};
-    if (mes < 3) --anyo;
-    return (anyo + anyo / 4 - anyo / 100 + anyo / 400 + DESFASE[mes - 1] + dia) % 7;
+    return vn::semana_de(vn::dias_de(anyo, static_cast<uint32_t>(mes - 1), dia));
 }
 
 // ---------------------------------------------------------------- numbers

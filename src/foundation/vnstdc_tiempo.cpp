@@ -1,5 +1,6 @@
 #define VN_MODULO "vnstdc (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/afirma.h"
+#include "foundation/calendario_priv.h"
 #include "foundation/platform/hora.h"
 #include "foundation/platform/variables.h"
 #include "foundation/propio_priv.h"
@@ -34,8 +35,6 @@ std::string numero(int64_t n, size_t ancho, char relleno = '0') {
     return texto + cifras;
 }
 
-bool es_bisiesto(int64_t anyo) { return anyo % 4 == 0 && (anyo % 100 != 0 || anyo % 400 == 0); }
-
 // Year and week by ISO 8601: the first week is the one with the year's first Thursday.
 struct semana_iso {
     int64_t anyo;
@@ -45,12 +44,12 @@ semana_iso semana_iso_de(const std::tm &t) {
     const int dia = (t.tm_wday + 6) % 7; // from Monday
     const auto semana = [dia](int yday) { return (yday - dia + 10) / 7; };
     // Weeks that a year has: 53 when it begins on a Thursday, or on a Wednesday and is a leap year.
-    const auto semanas = [](int64_t anyo, int primer_dia) { return primer_dia == 3 || (primer_dia == 2 && es_bisiesto(anyo)) ? 53 : 52; };
+    const auto semanas = [](int64_t anyo, int primer_dia) { return primer_dia == 3 || (primer_dia == 2 && vn::es_bisiesto(anyo)) ? 53 : 52; };
     const int64_t anyo = int64_t{t.tm_year} + 1900;
     const int primer_dia = ((dia - t.tm_yday) % 7 + 7) % 7;
     const int s = semana(t.tm_yday);
     if (s < 1) {
-        const int dias = es_bisiesto(anyo - 1) ? 366 : 365;
+        const int dias = vn::es_bisiesto(anyo - 1) ? 366 : 365;
         return {anyo - 1, semanas(anyo - 1, ((primer_dia - dias) % 7 + 7) % 7)};
     }
     return s > semanas(anyo, primer_dia) ? semana_iso{anyo + 1, 1} : semana_iso{anyo, s};

@@ -1,7 +1,7 @@
 #define VN_MODULO "timecalc (NUCLEOS.DLL)"
 #include "time/timecalc.h"
 #include "foundation/afirma.h"
-#include "time/calendario_priv.h"
+#include "foundation/calendario_priv.h"
 
 using namespace vn;
 

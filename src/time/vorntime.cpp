@@ -2,9 +2,9 @@
 #include "time/vorntime.h"
 #include "foundation/afirma.h"
 #include "foundation/arr.h"
+#include "foundation/calendario_priv.h"
 #include "foundation/vnstdc.h"
 #include "persistence/vornsave.h"
-#include "time/calendario_priv.h"
 #include "time/vorntime_priv.h"
 #include <algorithm>
 #include <chrono>
@@ -58,11 +58,9 @@ tmtime_propio nuevo_tmtime(const tmtime &valor) {
 
 void pon_dias(tmtime &fecha) {
     const int64_t anyo = int64_t{fecha.tm_year} + 1900;
-    const int64_t de_anyo = DIAS_ANTES[es_bisiesto(anyo)][fecha.tm_mon] + int64_t{fecha.tm_mday} - 1;
-    constexpr int64_t JUEVES = 4; // 1 January 1970
-    const int64_t semana = (dias_hasta_anyo(anyo) + de_anyo + JUEVES) % 7;
-    fecha.tm_wday = static_cast<int32_t>(semana < 0 ? semana + 7 : semana);
-    fecha.tm_yday = static_cast<int32_t>(de_anyo);
+    const int64_t dias = dias_de(anyo, static_cast<uint32_t>(fecha.tm_mon), fecha.tm_mday);
+    fecha.tm_wday = semana_de(dias);
+    fecha.tm_yday = static_cast<int32_t>(dias - dias_hasta_anyo(anyo));
 }
 
 } // namespace vn

@@ -1,7 +1,7 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
 #include "foundation/afirma.h"
+#include "foundation/calendario_priv.h"
 #include "foundation/cambtipo.h"
-#include "time/calendario_priv.h"
 #include "time/vorntime_priv.h"
 
 using namespace vn;

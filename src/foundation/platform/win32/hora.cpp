@@ -1,4 +1,5 @@
 #include "foundation/platform/hora.h"
+#include "foundation/calendario_priv.h"
 #include <windows.h>
 
 namespace vn::plat {
@@ -7,7 +8,6 @@ namespace {
 
 // Seconds between 1601, where the system's times begin, and 1970.
 constexpr int64_t DESDE_1601 = 11644473600;
-constexpr int ANTES_DEL_MES[] = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334};
 
 // The C library tells the years 1970 to 3000; the system, from 1601 on.
 constexpr int64_t PRIMERO_DE_LA_BIBLIOTECA = 0, ULTIMO_DE_LA_BIBLIOTECA = 32535215999;
@@ -31,7 +31,6 @@ bool hora_del_sistema(int64_t segundos, std::tm &t) {
     const FILETIME fichero{grano.LowPart, grano.HighPart};
     SYSTEMTIME utc, local;
     if (!FileTimeToSystemTime(&fichero, &utc) || !SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local)) return false;
-    const bool bisiesto = local.wYear % 4 == 0 && (local.wYear % 100 != 0 || local.wYear % 400 == 0);
     t = {};
     t.tm_sec = local.wSecond;
     t.tm_min = local.wMinute;
@@ -40,7 +39,7 @@ bool hora_del_sistema(int64_t segundos, std::tm &t) {
     t.tm_mon = local.wMonth - 1;
     t.tm_year = local.wYear - 1900;
     t.tm_wday = local.wDayOfWeek;
-    t.tm_yday = ANTES_DEL_MES[t.tm_mon] + t.tm_mday - 1 + (bisiesto && t.tm_mon > 1);
+    t.tm_yday = DIAS_ANTES[es_bisiesto(local.wYear)][t.tm_mon] + t.tm_mday - 1;
     t.tm_isdst = es_verano(fichero, local) ? 1 : 0;
     return true;
 }

@@ -1,4 +1,4 @@
-// The Gregorian calendar of the folder's modules: closed forms, for every year of 32 bits.
+// The Gregorian calendar: closed forms, for every year of 32 bits.
 #pragma once
 
 #include <cstdint>
@@ -26,6 +26,18 @@ constexpr int64_t dias_hasta_anyo(int64_t anyo) {
         return suelo(a - 1, 4) - suelo(a - 1, 100) + suelo(a - 1, 400);
     };
     return (anyo - 1970) * 365 + bisiestos_antes(anyo) - bisiestos_antes(1970);
+}
+
+// Days between 1 January 1970 and a date, whose month must be possible.
+constexpr int64_t dias_de(int64_t anyo, uint32_t mes_0_11, int64_t dia) {
+    return dias_hasta_anyo(anyo) + DIAS_ANTES[es_bisiesto(anyo)][mes_0_11] + dia - 1;
+}
+
+// The day of the week that is so many days after 1 January 1970, a Thursday: 0 Sunday to 6.
+constexpr int32_t semana_de(int64_t dias) {
+    constexpr int64_t JUEVES = 4;
+    const int64_t semana = (dias + JUEVES) % 7;
+    return static_cast<int32_t>(semana < 0 ? semana + 7 : semana);
 }
 
 struct dia_del_calendario {
