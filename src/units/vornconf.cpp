@@ -98,7 +98,7 @@ vnmutex *el_mutex = nullptr;
 class turno {
   public:
     turno() {
-        const bool es_nuevo = el_mutex == nullptr;
+        const bool es_nuevo = el_mutex == nullptr; // two threads may both say so: that it is destroyed at exit may be told twice
         dentro_ = vnmutex_entra_creando_entre_aplicaciones_si_es_necesario(&el_mutex, "vornconf") == CIERTO;
         if (es_nuevo) alsalir_destruye_dato(vnmutex, &el_mutex, vnmutex_destruye_saliendo);
     }
@@ -248,9 +248,7 @@ void vornconf_par_lee_internacional(internacional *internac) {
 void vornconf_par_graba_internacional(const internacional *internac) {
     if (!AFIRMA_NO_NULO(internac)) return;
     escribe_fichero(*internac);
-    if (internac == &el_registro) return;
-    pon(*internac);
-    registro_cargado.store(1, std::memory_order_relaxed);
+    if (internac != &el_registro) pon(*internac);
 }
 
 void vornconf_crea_internac_por_defecto_si_no_existe(uint32_t idioma) {

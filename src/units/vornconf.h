@@ -69,8 +69,9 @@ void vornconf_graba_norma_acero_laminado(uint32_t norma);
 
 /** Loads the record of the process from the file, and copies it to `*internac`. */
 void vornconf_par_lee_internacional(VN_SALIDA_OPC vornconf_internacional *internac);
-/** Writes the seven values to the file, all of which is replaced, and makes them the record of the process. A file that
-    cannot be written is reported by the file library, with its name. */
+/** Writes the seven values to the file, all of which is replaced, and makes them the record of the process (which, if it
+    has not been loaded yet, is still loaded from the file at the next query). A file that cannot be written is reported by
+    the file library, with its name. */
 void vornconf_par_graba_internacional(const vornconf_internacional *internac);
 /** If there is no file, writes the defaults of a language and loads them. The file names the active language. */
 void vornconf_crea_internac_por_defecto_si_no_existe(VN_RANGO(0, 40) uint32_t idioma);
