@@ -60,9 +60,11 @@ struct decimal {
 __extension__ using entero128 = unsigned __int128;
 
 // `v` in whole units of the last decimal, to the nearest, by its exact decimal value: half a unit goes to the even number.
+// `casi_mitad` says whether it is half a unit to the 17 digits of a double, or less than half by no more than they tell.
 // `v` is 0 or from 1e-14 to 1e15, and a number of few enough units.
-uint64_t en_unidades(double v, uint32_t decimales) {
-    constexpr int BITS = 52, SESGO = 1075;
+uint64_t en_unidades(double v, uint32_t decimales, bool &casi_mitad) {
+    constexpr int BITS = 52, SESGO = 1075, CIFRAS_17 = 54; // 2^-54 of the number is more than half a unit of its 17th digit
+    casi_mitad = false;
     if (v == 0) return 0;
     const auto bits = std::bit_cast<uint64_t>(v);
     const uint64_t mantisa = (bits & ((uint64_t{1} << BITS) - 1)) | uint64_t{1} << BITS;
@@ -70,13 +72,24 @@ uint64_t en_unidades(double v, uint32_t decimales) {
     const entero128 producto = entero128{mantisa} * POTENCIAS[decimales], mitad = entero128{1} << (s - 1),
                     resto = producto & ((mitad << 1) - 1);
     const auto n = static_cast<uint64_t>(producto >> s);
+    casi_mitad = resto <= mitad && mitad - resto <= producto >> CIFRAS_17;
     return n + (resto > mitad || (resto == mitad && n % 2 != 0));
 }
 
+uint32_t tope_de(double v) {
+    return std::find_if(std::begin(TOPES), std::end(TOPES), [v](const auto &t) { return v >= t.desde; })->decimales;
+}
+
+// First rounded to the decimals, then written with those that its size leaves it.
 decimal redondea(double v, uint32_t decimales) {
-    const auto tope = std::find_if(std::begin(TOPES), std::end(TOPES), [v](const auto &t) { return v >= t.desde; });
-    decimales = std::min(decimales, tope->decimales);
-    const uint64_t n = en_unidades(v, decimales);
+    bool casi_mitad;
+    if (decimales > tope_de(v)) {
+        v = prec_redondea_numero_decimales(v, decimales);
+        decimales = tope_de(v);
+        return {en_unidades(v, decimales, casi_mitad), decimales};
+    }
+    uint64_t n = en_unidades(v, decimales, casi_mitad);
+    if (casi_mitad) n = en_unidades(prec_redondea_numero_decimales(v, decimales), decimales, casi_mitad);
     // What became a power of ten by the rounding has that one's decimals.
     if (n == MAX_UNIDADES && decimales > TOPES[0].decimales) return {n / 10, decimales - 1};
     return {n, decimales};
