@@ -2,6 +2,7 @@
 // freed; its peers write into the caller's room.
 #include "values.h"
 #include "foundation/cad.h"
+#include "foundation/vnmath.h"
 #include "foundation/widestr.h"
 #include "units/vornnum.h"
 #include <algorithm>
@@ -135,13 +136,13 @@ void prepara() {
         char t[64];
         *std::to_chars(t, t + sizeof t, x, std::chars_format::fixed, 4).ptr = 0;
         numeros.push_back(std::strtod(t, nullptr));
-        con_to_chars(numeros.back(), t);
+        con_to_chars(prec_redondea_numero_decimales(numeros.back(), 2), t);
         textos.emplace_back(t);
         textos_u.emplace_back(textos.back().begin(), textos.back().end());
     }
 }
 
-// Both ways of ours against to_chars and strtod.
+// Both ways of ours against to_chars, of the rounded number, and strtod.
 void comprueba() {
     for (size_t i = 0; i < N; ++i) {
         char *t = num_double_a_string(numeros[i], ',', '.', FALSO, 2);
