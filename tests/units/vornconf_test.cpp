@@ -128,8 +128,20 @@ PRUEBA(vornconf, lo_que_se_cambia_para_una_ejecucion) {
     EXPECT_EQ(toma_informes().size(), 1u);
 }
 
+// Argument: the base directory. What is saved before anything is asked is loaded from the file: a zero is the default.
+HIJO(graba_antes_de_preguntar) {
+    msidioma_establece_idioma(0);
+    fichconf_establece_directorio_base(vn::ancho(args.at(0)).c_str());
+    const internacional r{0, 34, 0, 7, 8, 0, 2};
+    vornconf_par_graba_internacional(&r);
+    return vornconf_Internacional_sistema_unidades() == 1 && vornconf_Internacional_normaHorm() == 47 &&
+                   vornconf_Internacional_normaAceroConf() == 34 ? 0 : 1;
+}
+
 PRUEBA(vornconf, se_crea_solo_si_no_existe) {
     const en_directorio d;
+    EXPECT_EQ(vn::proceso("graba_antes_de_preguntar", {directorio()}).espera(60000), 0);
+    std::filesystem::remove(d.nombre);
     vornconf_Internacional_set_sistema_unidades(3);
     vornconf_crea_internac_por_defecto_si_no_existe(2);
     EXPECT_EQ(d.contenido(), texto_de({11, 6, 8, 2, 1, 2, 0}, 1)); // the language is the active one
