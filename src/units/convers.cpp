@@ -36,15 +36,15 @@ columna_convers columna_en_vigor(const fila_convers *convers) {
 
 // With every check, and whatever is made at first use.
 [[gnu::cold, gnu::noinline]] double convierte_despacio(int32_t sentido, uint32_t tipovalor, double valor) {
-    if (sentido != CNV_A_MOSTRADO && sentido != CNV_A_INTERNO) {
-        AFIRMA_DEFECTO();
-        return 0;
-    }
     if (tipovalor == CNV_NO_CONVERSION) return valor;
     const fila_convers *convers = fila_de_convers(tipovalor);
     if (!AFIRMA_NO_NULO(convers)) return 0;
     const cifras_convers &c = convers->cifras[columna_en_vigor(convers)];
-    return sentido == CNV_A_MOSTRADO ? c.a_mostrado(valor) : c.a_interno(valor);
+    switch (sentido) {
+    case CNV_A_MOSTRADO: return c.a_mostrado(valor);
+    case CNV_A_INTERNO: return c.a_interno(valor);
+    default: AFIRMA_DEFECTO(); return 0;
+    }
 }
 
 } // namespace

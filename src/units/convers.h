@@ -25,7 +25,7 @@ enum {
 VN_C_INICIO
 
 /** `valor` from its internal unit to the one shown (CNV_A_MOSTRADO: valor * multiplier + addend) or back (CNV_A_INTERNO:
-    (valor - addend) / multiplier). */
+    (valor - addend) / multiplier). Another direction is reported, and 0; with CNV_NO_CONVERSION there is none to tell. */
 double cnv_convierte(VN_RANGO(0, 1) int32_t sentido, VN_RANGO(0, 145) uint32_t tipovalor, double valor);
 /** The text of the unit shown, in the language that was active when the table was first used; empty for
     CNV_NO_CONVERSION. Good until the process ends. */

@@ -181,8 +181,9 @@ PRUEBA(convers, lo_que_se_dice_de_tipos_sueltos) {
     EXPECT_EQ(muestra(12, 1.), 204.81614345076477); // not the figure for calculation
     EXPECT_EQ(vn::utf8_de(cnv_strextunids(60)) + "|" + vn::utf8_de(cnv_strextunids(62)), "%|%%");
     EXPECT_EQ(vn::utf8_de(cnv_strextunids(22)), "rad");
-    EXPECT_EQ(muestra(CNV_NO_CONVERSION, 7.25), 7.25);
+    EXPECT_EQ(muestra(CNV_NO_CONVERSION, 7.25) + cnv_convierte(2, CNV_NO_CONVERSION, 7.25), 14.5);
     EXPECT_EQ(vn::utf8_de(cnv_strextunids(CNV_NO_CONVERSION)), "");
+    for (const int32_t sentido : {-1, 2}) EXPECT_EQ(ESPERA_INFORME("", cnv_convierte(sentido, 1, 7.25)), 0.);
     // Lengths in feet and inches, and the greatest denominator of their fractions.
     std::string formatos[4];
     for (uint32_t t = 0; t < CNV_NO_CONVERSION; ++t) {

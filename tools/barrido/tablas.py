@@ -178,6 +178,8 @@ NEUTROS = [
 
 # Broken values that the documentation accepts: operation, parameter, value.
 DEJA_PASAR = [
+    # What has no unit comes back before the direction counts.
+    *(("cnv_convierte", "sentido", v) for v in ("-2147483648", "-1", "2", "2147483647")),
 ]
 
 # Operations that cannot be called blindly, each with its reason.
