@@ -2,9 +2,9 @@
 #include "units/unidades_msg_priv.h"
 #include "foundation/msglocal_priv.h"
 
-// Every column that differs. The ANSI texts are in the code page of the column's language, 1252 where nothing is said:
-// Bulgarian and Russian 1251, Romanian and Polish 1250, Turkish 1254, Chinese 936, Japanese 932. The pages that have no
-// superscript digits take plain ones, and a full stop for the raised one where that is missing too.
+// Every column that differs. Four have ANSI texts of their own, in the code page of the column's language, 1252 where
+// nothing is said: Bulgarian and Russian 1251, Romanian and Polish 1250, Turkish 1254, Chinese 936, Japanese 932. The pages
+// that have no superscript digits take plain ones there, and a full stop for the raised one where that is missing too.
 
 namespace {
 
@@ -27,24 +27,6 @@ constexpr auto MENSAJE_165177 = vn::mensaje_u("unidades.msg", 1, {
     {vn::TR, VNU("<165177>ad.")},
     {vn::JA, VNU("<165177>個")},
 });
-constexpr auto MENSAJE_165177_ANSI = vn::mensaje_a("unidades.msg", 1, {
-    {vn::ES, "<165177>Ud"},
-    {vn::FR, "<165177>U"},
-    {vn::PT_BR, "<165177>un"},
-    {vn::PT, "<165177>un"},
-    {vn::CA, "<165177>U"},
-    {vn::IT, "<165177>cad."},
-    {vn::EN, "<165177>ea"},
-    {vn::GL, "<165177>Ud"},
-    {vn::BG, "<165177>\xE1\xF0."},
-    {vn::RO, "<165177>buc."},
-    {vn::ZH, "<165177>\xB8\xF6"},
-    {vn::DE, "<165177>St"},
-    {vn::RU, "<165177>\xF8\xF2."},
-    {vn::PL, "<165177>szt."},
-    {vn::TR, "<165177>ad."},
-    {vn::JA, "<165177>\x8C\xC2"},
-});
 
 // hour
 constexpr auto MENSAJE_165181 = vn::mensaje_u("unidades.msg", 2, {
@@ -54,13 +36,6 @@ constexpr auto MENSAJE_165181 = vn::mensaje_u("unidades.msg", 2, {
     {vn::RU, VNU("<165181>ч")},
     {vn::TR, VNU("<165181>sa")},
 });
-constexpr auto MENSAJE_165181_ANSI = vn::mensaje_a("unidades.msg", 2, {
-    {vn::ES, "<165181>h"},
-    {vn::EN, "<165181>h"},
-    {vn::BG, "<165181>\xF7"},
-    {vn::RU, "<165181>\xF7"},
-    {vn::TR, "<165181>sa"},
-});
 
 // kilogram
 constexpr auto MENSAJE_157616 = vn::mensaje_u("unidades.msg", 3, {
@@ -68,12 +43,6 @@ constexpr auto MENSAJE_157616 = vn::mensaje_u("unidades.msg", 3, {
     {vn::EN, VNU("<157616>kg")},
     {vn::BG, VNU("<157616>кг")},
     {vn::RU, VNU("<157616>кг")},
-});
-constexpr auto MENSAJE_157616_ANSI = vn::mensaje_a("unidades.msg", 3, {
-    {vn::ES, "<157616>kg"},
-    {vn::EN, "<157616>kg"},
-    {vn::BG, "<157616>\xEA\xE3"},
-    {vn::RU, "<157616>\xEA\xE3"},
 });
 
 // kilometre
@@ -83,12 +52,6 @@ constexpr auto MENSAJE_165187 = vn::mensaje_u("unidades.msg", 4, {
     {vn::BG, VNU("<165187>км")},
     {vn::RU, VNU("<165187>км")},
 });
-constexpr auto MENSAJE_165187_ANSI = vn::mensaje_a("unidades.msg", 4, {
-    {vn::ES, "<165187>km"},
-    {vn::EN, "<165187>km"},
-    {vn::BG, "<165187>\xEA\xEC"},
-    {vn::RU, "<165187>\xEA\xEC"},
-});
 
 // litre
 constexpr auto MENSAJE_165186 = vn::mensaje_u("unidades.msg", 5, {
@@ -97,12 +60,6 @@ constexpr auto MENSAJE_165186 = vn::mensaje_u("unidades.msg", 5, {
     {vn::BG, VNU("<165186>л")},
     {vn::RU, VNU("<165186>л")},
 });
-constexpr auto MENSAJE_165186_ANSI = vn::mensaje_a("unidades.msg", 5, {
-    {vn::ES, "<165186>l"},
-    {vn::EN, "<165186>l"},
-    {vn::BG, "<165186>\xEB"},
-    {vn::RU, "<165186>\xEB"},
-});
 
 // metre
 constexpr auto MENSAJE_40344 = vn::mensaje_u("unidades.msg", 6, {
@@ -110,12 +67,6 @@ constexpr auto MENSAJE_40344 = vn::mensaje_u("unidades.msg", 6, {
     {vn::EN, VNU("<40344>m")},
     {vn::BG, VNU("<40344>м")},
     {vn::RU, VNU("<40344>м")},
-});
-constexpr auto MENSAJE_40344_ANSI = vn::mensaje_a("unidades.msg", 6, {
-    {vn::ES, "<40344>m"},
-    {vn::EN, "<40344>m"},
-    {vn::BG, "<40344>\xEC"},
-    {vn::RU, "<40344>\xEC"},
 });
 
 // square metre
@@ -179,12 +130,6 @@ constexpr auto MENSAJE_165183 = vn::mensaje_u("unidades.msg", 10, {
     {vn::BG, VNU("<165183>т")},
     {vn::RU, VNU("<165183>т")},
 });
-constexpr auto MENSAJE_165183_ANSI = vn::mensaje_a("unidades.msg", 10, {
-    {vn::ES, "<165183>t"},
-    {vn::EN, "<165183>t"},
-    {vn::BG, "<165183>\xF2"},
-    {vn::RU, "<165183>\xF2"},
-});
 
 // tonne over a kilometre
 constexpr auto MENSAJE_165184 = vn::mensaje_u("unidades.msg", 11, {
@@ -205,17 +150,17 @@ constexpr auto MENSAJE_165184_ANSI = vn::mensaje_a("unidades.msg", 11, {
 } // namespace
 
 void unidades_msg_165177(vnmensaje *mensaje) { MENSAJE_165177.rellena(mensaje); }
-void unidades_msg_165177_ansi(vnmensaje *mensaje) { MENSAJE_165177_ANSI.rellena(mensaje); }
+void unidades_msg_165177_ansi(vnmensaje *mensaje) { vn::mensaje_ansi<MENSAJE_165177>().rellena(mensaje); }
 void unidades_msg_165181(vnmensaje *mensaje) { MENSAJE_165181.rellena(mensaje); }
-void unidades_msg_165181_ansi(vnmensaje *mensaje) { MENSAJE_165181_ANSI.rellena(mensaje); }
+void unidades_msg_165181_ansi(vnmensaje *mensaje) { vn::mensaje_ansi<MENSAJE_165181>().rellena(mensaje); }
 void unidades_msg_157616(vnmensaje *mensaje) { MENSAJE_157616.rellena(mensaje); }
-void unidades_msg_157616_ansi(vnmensaje *mensaje) { MENSAJE_157616_ANSI.rellena(mensaje); }
+void unidades_msg_157616_ansi(vnmensaje *mensaje) { vn::mensaje_ansi<MENSAJE_157616>().rellena(mensaje); }
 void unidades_msg_165187(vnmensaje *mensaje) { MENSAJE_165187.rellena(mensaje); }
-void unidades_msg_165187_ansi(vnmensaje *mensaje) { MENSAJE_165187_ANSI.rellena(mensaje); }
+void unidades_msg_165187_ansi(vnmensaje *mensaje) { vn::mensaje_ansi<MENSAJE_165187>().rellena(mensaje); }
 void unidades_msg_165186(vnmensaje *mensaje) { MENSAJE_165186.rellena(mensaje); }
-void unidades_msg_165186_ansi(vnmensaje *mensaje) { MENSAJE_165186_ANSI.rellena(mensaje); }
+void unidades_msg_165186_ansi(vnmensaje *mensaje) { vn::mensaje_ansi<MENSAJE_165186>().rellena(mensaje); }
 void unidades_msg_40344(vnmensaje *mensaje) { MENSAJE_40344.rellena(mensaje); }
-void unidades_msg_40344_ansi(vnmensaje *mensaje) { MENSAJE_40344_ANSI.rellena(mensaje); }
+void unidades_msg_40344_ansi(vnmensaje *mensaje) { vn::mensaje_ansi<MENSAJE_40344>().rellena(mensaje); }
 void unidades_msg_165179(vnmensaje *mensaje) { MENSAJE_165179.rellena(mensaje); }
 void unidades_msg_165179_ansi(vnmensaje *mensaje) { MENSAJE_165179_ANSI.rellena(mensaje); }
 void unidades_msg_165180(vnmensaje *mensaje) { MENSAJE_165180.rellena(mensaje); }
@@ -223,6 +168,6 @@ void unidades_msg_165180_ansi(vnmensaje *mensaje) { MENSAJE_165180_ANSI.rellena(
 void unidades_msg_165185(vnmensaje *mensaje) { MENSAJE_165185.rellena(mensaje); }
 void unidades_msg_165185_ansi(vnmensaje *mensaje) { MENSAJE_165185_ANSI.rellena(mensaje); }
 void unidades_msg_165183(vnmensaje *mensaje) { MENSAJE_165183.rellena(mensaje); }
-void unidades_msg_165183_ansi(vnmensaje *mensaje) { MENSAJE_165183_ANSI.rellena(mensaje); }
+void unidades_msg_165183_ansi(vnmensaje *mensaje) { vn::mensaje_ansi<MENSAJE_165183>().rellena(mensaje); }
 void unidades_msg_165184(vnmensaje *mensaje) { MENSAJE_165184.rellena(mensaje); }
 void unidades_msg_165184_ansi(vnmensaje *mensaje) { MENSAJE_165184_ANSI.rellena(mensaje); }
