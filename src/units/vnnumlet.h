@@ -6,8 +6,8 @@
    stands behind them is not looked at. More digits give the text "ERR desbordamiento", in the language. No digits are 0,
    and a fraction of 00 is none. `negativo` puts "menos " before what is not zero.
 
-   The result is a new ANSI text of page 1252, in lower case. It is null after a report: a null text, a separator without
-   its two digits, a language that has no words (of which a developer's warning tells too). */
+   The result is a new ANSI text of page 1252 in lower case, freed with vornstr_destruye. It is null after a report: a null
+   text, a separator without its two digits, a language that has no words (of which a developer's warning tells too). */
 #ifndef VN_VNNUMLET_H
 #define VN_VNNUMLET_H
 
