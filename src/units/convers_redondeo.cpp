@@ -19,7 +19,7 @@ int32_t exponente_decimal(double x) {
     if (std::isinf(x)) return 308;
     const char *fin = std::to_chars(texto, std::end(texto), x, std::chars_format::scientific).ptr;
     const char *e = fin;
-    while (*e != 'e') --e;
+    while (*--e != 'e') {}
     double mantisa = 0;
     std::from_chars(texto, e, mantisa);
     int32_t exponente = 0;

@@ -211,6 +211,12 @@ PRUEBA(convers, la_precision_es_la_potencia_de_diez_mas_proxima) {
         EXPECT_EQ(convers_precision_segun_sistema_uds(f.prec, CNV_METROS), f.esperada) << f.prec;
         EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds(f.prec, CNV_METROS), f.decimales) << f.prec;
     }
+    // With any number of digits, after one that has them all.
+    for (const double x : {2.1e-5, 2.12e-5, 2.123e-5, 2.1234e-5, 2.12345e-5, 2.123456e-5, 2.1234567e-5, 2.12345678e-5,
+                           2.123456789e-5, 2.1234567891e-5, 2.12345678912e-5, 2.123456789123e-5, 2.1234567891234e-5}) {
+        EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds(1.0123456789012345e-7, CNV_METROS), 7u);
+        EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds(x, CNV_METROS), 5u) << x;
+    }
     // A precision that is given as a system shows it.
     EXPECT_EQ(convers_precision_segun_sistema_uds_dado_prec_y_sistema(1., 2, 13), 1.); // an inch, in cm
     EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds_dado_prec_y_sistema(1e-6, 1, 0), 2u); // a kPa

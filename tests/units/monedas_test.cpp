@@ -16,7 +16,7 @@ PRUEBA(monedas, precio_en_euros_y_en_pesetas) {
         {3, 100, "0,60(euros) 100(Ptes)"},
         {8, 20.79825, "0,13(euros) 21(Ptas)"}, // half a hundredth goes up
         {10, 0, "0,00(евро) 0(песети)"},
-        {0, -249.579, "-1,50(euros) -250(Ptas)"},
+        {0, -20.79825, "-0,12(euros) -21(Ptas)"}, // of a negative one too
         {13, 1663.86, "10,00(Euro) 1.664(Peseten)"},
     };
     for (const auto &f : filas) {
