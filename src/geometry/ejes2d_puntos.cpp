@@ -20,8 +20,9 @@ namespace {
 using puntos_t = std::span<const Punto3D>;
 
 constexpr uint32_t SIN_PUNTO = 0xFFFFFFFF;
-// Points that the search steps over at once where none of them can be what it looks for.
-constexpr uint32_t BLOQUE = 256;
+// Points of the smallest block that the search steps over at once where none of them can be what it looks for, and how
+// many blocks make one of the next size.
+constexpr uint32_t RAMAS = 16;
 // What rounding may add to a distance to a line, in the largest coordinate of all that take part.
 constexpr double REDONDEO = 64. * DBL_EPSILON;
 
@@ -96,14 +97,19 @@ struct terna {
 };
 
 // The search for three points that span a plane, from any start around the ring. A start takes time in proportion to the
-// points, and a list on which all of them fail could take its square: blocks are stepped over once they are there.
+// points, and a list on which all of them fail could take its square: once there are blocks, of every size, what cannot
+// serve is stepped over in steps that are few whatever the number of points.
 class buscador {
   public:
     buscador(puntos_t puntos, double precision) : p_(puntos), precision_(precision) {}
 
     void prepara_bloques() {
-        if (!bloques_.empty()) return;
-        for (size_t i = 0; i + BLOQUE <= p_.size(); i += BLOQUE) bloques_.emplace_back(p_.subspan(i, BLOQUE));
+        if (!niveles_.empty()) return;
+        for (size_t tamano = RAMAS; tamano <= p_.size(); tamano *= RAMAS) {
+            std::vector<bloque> &nivel = niveles_.emplace_back();
+            nivel.reserve(p_.size() / tamano);
+            for (size_t i = 0; i + tamano <= p_.size(); i += tamano) nivel.emplace_back(p_.subspan(i, tamano));
+        }
     }
 
     bool busca(uint32_t inicio, terna &t) const {
@@ -136,20 +142,22 @@ class buscador {
         const auto n = static_cast<uint32_t>(p_.size());
         while (k < n) {
             const uint32_t i = lugar(inicio, k);
-            // The last one may reach past the end of the ring, over points that have been looked at.
-            if (i % BLOQUE == 0 && i / BLOQUE < bloques_.size() && ninguno(bloques_[i / BLOQUE])) {
-                k += BLOQUE;
-                continue;
+            // The largest block that begins here and can be stepped over; where a smaller one cannot, none can. The last
+            // one may reach past the end of the ring, over points that have been looked at.
+            size_t paso = 0, tamano = RAMAS;
+            for (auto nivel = niveles_.begin(); nivel != niveles_.end() && i % tamano == 0; ++nivel, tamano *= RAMAS) {
+                if (i / tamano >= nivel->size() || !ninguno((*nivel)[i / tamano])) break;
+                paso = tamano;
             }
-            if (es(i)) return k;
-            ++k;
+            if (paso == 0 && es(i)) return k;
+            k += static_cast<uint32_t>(paso > 0 ? paso : 1);
         }
         return n;
     }
 
     puntos_t p_;
     double precision_;
-    std::vector<bloque> bloques_;
+    std::vector<std::vector<bloque>> niveles_; // from the smallest block
 };
 
 bool ejes_de(const terna &t, marco &m, Punto3D &w) {

@@ -96,12 +96,12 @@ vnbool rec_ClipSegmento(const rectangulo_t *rec, double x1, double y1, double x2
 vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, double x2, double y2, double *ox1,
                                double *oy1, double *ox2, double *oy2) {
     if (!AFIRMA_NO_NULO(rec)) return FALSO;
+    const rectangulo_t r = *rec; // a copy: the outputs may be its own limits
     pon(ox1, x1);
     pon(oy1, y1);
     pon(ox2, x2);
     pon(oy2, y2);
-    if (rec->calculados == FALSO) return FALSO;
-    const rectangulo_t &r = *rec;
+    if (r.calculados == FALSO) return FALSO;
     const unsigned de_1 = region(r, x1, y1), de_2 = region(r, x2, y2);
     if (de_1 == 0 && de_2 == 0) return CIERTO;
     bool dentro = de_1 == 0 || de_2 == 0;
