@@ -24,7 +24,7 @@ struct elipse {
     }
 };
 
-// Makes room for `n` points and gives them f(0), f(1)...
+// Appends f(0), f(1)... as points.
 template <class F>
 void anade(arrPunto2D *a, uint32_t n, F &&f) {
     for (uint32_t i = 0; i < n; ++i) {

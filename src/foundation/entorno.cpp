@@ -1,13 +1,14 @@
 #define VN_MODULO "entorno (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/entorno.h"
+#include "foundation/logico_priv.h"
 #include "foundation/platform/maquina.h"
 #include "foundation/platform/variables.h"
 #include "foundation/vdir_priv.h"
 #include <cstdlib>
 
-namespace {
+using vn::logico;
 
-vnbool logico(bool v) { return v ? CIERTO : FALSO; }
+namespace {
 
 int32_t por_entre(int32_t a, int32_t b, int32_t c) {
     if (c == 0) return -1;

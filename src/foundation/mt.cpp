@@ -1,9 +1,11 @@
 #define VN_MODULO "mt (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/mt.h"
 #include "foundation/afirma.h"
+#include "foundation/logico_priv.h"
 #include "foundation/mt_priv.h"
 #include "foundation/vnmath.h"
 
+using vn::logico;
 using vn::v3;
 
 namespace {
@@ -15,8 +17,6 @@ constexpr double TOLERANCIA_RANGO = 1e-6;
 constexpr double VUELTAS_PASO_A_PASO = 65536.;
 // Each axis of the cavalier projection: half the depth, at 45 degrees.
 constexpr double CABALLERA = 0.5 * 0.70710678118654752440;
-
-vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 
 double direccion(double seno, double coseno) {
     double a = std::atan2(seno, coseno);

@@ -1,9 +1,11 @@
 #define VN_MODULO "mt (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/afirma.h"
+#include "foundation/logico_priv.h"
 #include "foundation/mt.h"
 #include "foundation/mt_priv.h"
 #include <array>
 
+using vn::logico;
 using vn::v3;
 
 namespace {
@@ -16,8 +18,6 @@ constexpr double TOLERANCIA_CRUCE = 1e-6;
 // Sine of the angle of two segments at or below which they are parallel: the rounding of unit vectors, no
 // more.
 constexpr double SENO_PARALELAS = 1e-14;
-
-vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 
 /* Side of a point, exactly (Shewchuk, "Adaptive precision floating-point arithmetic and fast robust geometric
    predicates", 1997): the plain determinant where its error bound leaves no doubt, else the exact sum of its

@@ -1,8 +1,10 @@
 #define VN_MODULO "mt (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/afirma.h"
+#include "foundation/logico_priv.h"
 #include "foundation/mt.h"
 #include "foundation/mt_priv.h"
 
+using vn::logico;
 using vn::v3;
 
 namespace {
@@ -16,8 +18,6 @@ constexpr double SENO_ALINEADOS = 1e-14;
 constexpr double CASI_VERTICAL = 1. / 64.;
 
 constexpr v3 EJE_X{1., 0., 0.}, EJE_Y{0., 1., 0.}, EJE_Z{0., 0., 1.};
-
-vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 
 struct ejes {
     v3 x = EJE_X, y = EJE_Y, z = EJE_Z;

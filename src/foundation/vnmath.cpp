@@ -1,6 +1,7 @@
 #define VN_MODULO "vnmath (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/vnmath.h"
 #include "foundation/afirma.h"
+#include "foundation/logico_priv.h"
 #include <cfloat>
 #include <charconv>
 #include <cmath>
@@ -8,13 +9,13 @@
 #include <limits>
 #include <utility>
 
+using vn::logico;
+
 namespace {
 
 constexpr double T = VNMATH_TOLERANCIA;
 // How near to a whole number a quotient must be to count as one when it is rounded down or up.
 constexpr double TOLERANCIA_COCIENTE = 1e-9;
-
-vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 
 // Not std::round: some platforms add a half and truncate, which takes the number just below a half up.
 double redondeado(double x) {

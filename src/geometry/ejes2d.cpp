@@ -1,6 +1,7 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 #include "geometry/ejes2d.h"
 #include "foundation/afirma.h"
+#include "foundation/logico_priv.h"
 #include "foundation/mt.h"
 #include "foundation/vornspy.h"
 #include "geometry/ejes2d_priv.h"
@@ -21,8 +22,6 @@ marco marco_de(const ejes2d &e) { return {{e.Xo, e.Yo, e.Zo}, {e.Ux, e.Uy, e.Uz}
 ejes2d *nuevo_de(const marco &m) {
     return nuevo(ejes2d{m.o.x, m.o.y, m.o.z, m.u.x, m.u.y, m.u.z, m.v.x, m.v.y, m.v.z});
 }
-
-vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 
 bool iguales(Punto3D a, Punto3D b, double precision) {
     return std::fabs(a.x - b.x) <= precision && std::fabs(a.y - b.y) <= precision && std::fabs(a.z - b.z) <= precision;

@@ -2,7 +2,7 @@
 // Whole polylines from global to local and back.
 #include "geometry/ejes2d.h"
 #include "foundation/afirma.h"
-#include "foundation/arr.h"
+#include "foundation/arr_priv.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
 #include <cmath>
@@ -30,9 +30,6 @@ template <class T> struct destruye_array {
     void operator()(typename familia<T>::array *a) const { familia<T>::destruye(&a); }
 };
 
-std::span<const Punto2D> puntos_de(const arrPunto2D *a) { return {arr_GetBufferConstPunto2D(a), arr_NumElemsPunto2D(a)}; }
-std::span<const Punto3D> puntos_de(const arrPunto3D *a) { return {arr_GetBufferConstPunto3D(a), arr_NumElemsPunto3D(a)}; }
-
 // New array with what `f` makes of each point.
 template <class T, class Origen, class F>
 typename familia<T>::array *nueva(std::span<const Origen> puntos, F &&f) {
@@ -46,7 +43,7 @@ typename familia<T>::array *nueva(std::span<const Origen> puntos, F &&f) {
 }
 
 template <class F> void en_su_sitio(arrPunto3D *polilinea, F &&f) {
-    for (Punto3D &p : std::span(arr_GetBufferPunto3D(polilinea), arr_NumElemsPunto3D(polilinea))) p = f(p);
+    for (Punto3D &p : tramo(polilinea)) p = f(p);
 }
 
 auto local_a_global(const marco &m) {
@@ -60,19 +57,19 @@ auto global_a_local(const marco &m) {
 
 arrPunto3D *ejes2d_polilinea2D_a_3D(EJES, const arrPunto2D *polilinea) {
     if (!AFIRMA_NO_NULO(polilinea)) return nullptr;
-    return nueva<Punto3D>(puntos_de(polilinea), [m = MARCO](Punto2D p) { return m.a_global(p); });
+    return nueva<Punto3D>(tramo(polilinea), [m = MARCO](Punto2D p) { return m.a_global(p); });
 }
 
 arrPunto2D *ejes2d_polilinea3D_a_2D(EJES, const arrPunto3D *polilinea, double precision) {
     if (!AFIRMA_NO_NULO(polilinea)) return nullptr;
-    return nueva<Punto2D>(puntos_de(polilinea), [m = MARCO, w = normal_de(MARCO), precision](Punto3D p) {
+    return nueva<Punto2D>(tramo(polilinea), [m = MARCO, w = normal_de(MARCO), precision](Punto3D p) {
         return a_local_en_plano(m, w, p, precision);
     });
 }
 
 arrPunto2D *ejes2d_polilinea3D_proyectada_a_2D(EJES, const arrPunto3D *polilinea) {
     if (!AFIRMA_NO_NULO(polilinea)) return nullptr;
-    return nueva<Punto2D>(puntos_de(polilinea), [m = MARCO](Punto3D p) { return m.a_local(p); });
+    return nueva<Punto2D>(tramo(polilinea), [m = MARCO](Punto3D p) { return m.a_local(p); });
 }
 
 void ejes2d_transforma_polilinea3D(EJES, arrPunto3D *polilinea) {
@@ -80,7 +77,7 @@ void ejes2d_transforma_polilinea3D(EJES, arrPunto3D *polilinea) {
 }
 
 arrPunto3D *ejes2d_polilinea3D_transformada(EJES, const arrPunto3D *polilinea) {
-    return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(puntos_de(polilinea), local_a_global(MARCO)) : nullptr;
+    return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(tramo(polilinea), local_a_global(MARCO)) : nullptr;
 }
 
 void ejes2d_polilinea3D_transforma_a_locales(EJES, arrPunto3D *polilinea) {
@@ -88,7 +85,7 @@ void ejes2d_polilinea3D_transforma_a_locales(EJES, arrPunto3D *polilinea) {
 }
 
 arrPunto3D *ejes2d_polilinea3D_transformada_a_locales(EJES, const arrPunto3D *polilinea) {
-    return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(puntos_de(polilinea), global_a_local(MARCO)) : nullptr;
+    return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(tramo(polilinea), global_a_local(MARCO)) : nullptr;
 }
 
 arrPunto2D *ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(const arrPunto2D *puntos, EJES_DE(_origen),
@@ -99,14 +96,11 @@ arrPunto2D *ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(const ar
     const marco origen = MARCO_DE(_origen), destino = MARCO_DE(_destino);
     const Punto3D w = normal_de(destino);
     const bool mismo_sentido = escalar(normal_de(origen), w) > MARGEN_MISMA_ORIENTACION;
-    arrPunto2D *resultado = nueva<Punto2D>(puntos_de(puntos), [&](Punto2D p) {
+    arrPunto2D *resultado = nueva<Punto2D>(tramo(puntos), [&](Punto2D p) {
         const Punto3D d = origen.a_global(p) - destino.o;
         if (fuera_de_precision != nullptr && !(std::fabs(escalar(d, w)) < precision)) *fuera_de_precision = CIERTO;
         return destino.vector_a_local(d);
     });
-    if (resultado != nullptr && !mismo_sentido) {
-        const std::span<Punto2D> todos(arr_GetBufferPunto2D(resultado), arr_NumElemsPunto2D(resultado));
-        std::reverse(todos.begin(), todos.end());
-    }
+    if (resultado != nullptr && !mismo_sentido) std::ranges::reverse(tramo(resultado));
     return resultado;
 }

@@ -2,7 +2,7 @@
 // Axes out of a list of points.
 #include "geometry/ejes2d.h"
 #include "foundation/afirma.h"
-#include "foundation/arr.h"
+#include "foundation/arr_priv.h"
 #include "foundation/mt.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
@@ -232,15 +232,13 @@ bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marc
     return false;
 }
 
-puntos_t puntos_de(const arrPunto3D *puntos) { return {arr_GetBufferConstPunto3D(puntos), arr_NumElemsPunto3D(puntos)}; }
-
 vnbool forman_ejes(const arrPunto3D *puntos, tolerancias prec, vnbool comprueba_no_forma_eje, SALIDAS_EJES,
                    uint32_t *ind_punto_no_forma_eje) {
     if (ind_punto_no_forma_eje != nullptr) *ind_punto_no_forma_eje = SIN_PUNTO;
     if (!AFIRMA_NO_NULO(puntos) || !AFIRMA_LOGICO(comprueba_no_forma_eje)) return FALSO;
     marco m;
     uint32_t culpable;
-    const bool forman = forman_ejes(puntos_de(puntos), prec, comprueba_no_forma_eje == CIERTO, m, culpable);
+    const bool forman = forman_ejes(tramo(puntos), prec, comprueba_no_forma_eje == CIERTO, m, culpable);
     if (ind_punto_no_forma_eje != nullptr) *ind_punto_no_forma_eje = culpable;
     if (!forman) return FALSO;
     A_SALIDAS(m);
@@ -297,7 +295,7 @@ vnbool ejes2d_punto3D_forman_ejes_solo_mirando_3_puntos_no_lineales(const arrPun
     terna t;
     marco m;
     Punto3D w;
-    if (!buscador(puntos_de(puntos), precision).busca(0, t) || !ejes_de(t, m, w)) return FALSO;
+    if (!buscador(tramo(puntos), precision).busca(0, t) || !ejes_de(t, m, w)) return FALSO;
     A_SALIDAS(m);
     return CIERTO;
 }
@@ -309,7 +307,7 @@ vnbool ejes2d_existen_tres_puntos_no_lineales(const arrPunto3D *puntos) {
 vnbool ejes2d_existen_tres_puntos_no_lineales_con_precision(const arrPunto3D *puntos, double precision) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
     terna t;
-    return buscador(puntos_de(puntos), precision).busca(0, t) ? CIERTO : FALSO;
+    return buscador(tramo(puntos), precision).busca(0, t) ? CIERTO : FALSO;
 }
 
 vnbool ejes2d_tres_puntos_forman_ejes(double x1, double y1, double z1, double x2, double y2, double z2, double x3,

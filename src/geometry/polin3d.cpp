@@ -2,6 +2,7 @@
 // Circles, arcs and fillets as points; lists of points.
 #include "geometry/polin3d.h"
 #include "foundation/afirma.h"
+#include "foundation/arr_priv.h"
 #include "foundation/mt.h"
 #include "foundation/vnmath.h"
 #include "geometry/polin3d_priv.h"
@@ -16,8 +17,6 @@ namespace {
 
 // From this index on, the nearest point counts as not found.
 constexpr uint32_t LIMITE_INDICE_VERTICE = 0xFFFF;
-
-std::span<const Punto3D> puntos_de(const arrPunto3D *a) { return {arr_GetBufferConstPunto3D(a), arr_NumElemsPunto3D(a)}; }
 
 // New array with the point that `f` makes of each number from 0.
 template <class F> arrPunto3D *nueva(uint32_t n, F &&f) {
@@ -144,7 +143,7 @@ vnbool Pln3D_se_genera_puntos_acuerdo_entre_tres_puntos(double x1, double y1, do
 
 vnbool Pln3D_poligono_plano_es_convexo(const arrPunto3D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
-    const std::span<const Punto3D> p = puntos_de(puntos);
+    const std::span<const Punto3D> p = tramo(puntos);
     if (!AFIRMA_TEXTO(p.size() >= 3, "num_puntos >= 3")) return FALSO;
     bool ya_se_tiene_W_con_que_comparar = false;
     Punto3D w{}, llega{};
@@ -173,7 +172,7 @@ vnbool Pln3D_poligono_plano_es_convexo(const arrPunto3D *puntos) {
 void Pln3D_GetVerticeMasProximo(const arrPunto3D *puntos, double x, double y, double z, double *x_vertice,
                                 double *y_vertice, double *z_vertice) {
     if (!AFIRMA_NO_NULO(puntos) || !EXIGE3(x_vertice, y_vertice, z_vertice)) return;
-    const std::span<const Punto3D> p = puntos_de(puntos);
+    const std::span<const Punto3D> p = tramo(puntos);
     size_t mas_proximo = p.size();
     double minima = std::numeric_limits<double>::infinity();
     for (size_t i = 0; i < p.size(); ++i) {
@@ -187,7 +186,7 @@ void Pln3D_GetVerticeMasProximo(const arrPunto3D *puntos, double x, double y, do
 
 double Pln3D_Longitud(const arrPunto3D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return 0.0;
-    const std::span<const Punto3D> p = puntos_de(puntos);
+    const std::span<const Punto3D> p = tramo(puntos);
     double longitud = 0.0;
     for (size_t i = 1; i < p.size(); ++i) longitud += distancia(p[i - 1], p[i]);
     return longitud;

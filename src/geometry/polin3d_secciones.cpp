@@ -2,6 +2,7 @@
 // Polylines with fillets, and the sections along them.
 #include "geometry/polin3d.h"
 #include "foundation/afirma.h"
+#include "foundation/arr_priv.h"
 #include "foundation/mt.h"
 #include "geometry/ejes2d.h"
 #include "geometry/polin3d_priv.h"
@@ -18,8 +19,6 @@ struct destruye_contornos {
 struct destruye_ejes {
     void operator()(arrPuntero *a) const { arr_DestruyeEstructurasST(&a, ejes2d, ejes2d_destruye); }
 };
-
-std::span<const Punto3D> puntos_de(const arrPunto3D *a) { return {arr_GetBufferConstPunto3D(a), arr_NumElemsPunto3D(a)}; }
 
 bool caben(uint64_t num_puntos) { return AFIRMA(num_puntos <= MAXIMO_PUNTOS); }
 
@@ -138,7 +137,7 @@ class cadena {
 
 // Runs the chain over a polyline; false if it has no two points, or too many come out.
 bool secciones(const arrPunto3D *puntos, const opciones &o, arrPuntero *contornos, arrPunto3D *centros, arrPuntero *ejes) {
-    const std::span<const Punto3D> p = puntos_de(puntos);
+    const std::span<const Punto3D> p = tramo(puntos);
     if (!AFIRMA_TEXTO(p.size() >= 2, "num_puntos >= 2")) return false;
     return cadena(o, contornos, centros, ejes).recorre(limpia(p, o.medidas.diametro));
 }
@@ -155,7 +154,7 @@ double polin3d_radio_acuerdo_eje(double a, double b) { return b + a / 2.0; }
 arrPunto3D *polin3d_puntos_polilinea_con_radios_de_acuerdo(const arrPunto3D *puntos, double diametro, double radio,
                                                            double num_grados_dibujo_doblado) {
     if (!AFIRMA_NO_NULO(puntos)) return nullptr;
-    const std::span<const Punto3D> p = puntos_de(puntos);
+    const std::span<const Punto3D> p = tramo(puntos);
     if (p.size() < 2) return arr_CopiaPunto3D(puntos);
     const barra b{diametro, polin3d_radio_acuerdo_eje(diametro, radio), num_grados_dibujo_doblado};
     std::vector<Punto3D> r{p.front()};

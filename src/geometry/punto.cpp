@@ -1,6 +1,7 @@
 #define VN_MODULO "punto (NUCLEOS.DLL)"
 #include "geometry/punto.h"
 #include "foundation/afirma.h"
+#include "foundation/logico_priv.h"
 #include "foundation/mt.h"
 #include "foundation/vnmath.h"
 #include "foundation/vnstdc.h"
@@ -10,6 +11,8 @@
 #include <iterator>
 #include <numbers>
 #include <utility>
+
+using vn::logico;
 
 namespace {
 
@@ -34,8 +37,6 @@ constexpr double LIMITE_VERTICAL = 1e-06;
 
 constexpr double VUELTA = 2 * std::numbers::pi, MEDIA_VUELTA = std::numbers::pi;
 static_assert(VUELTA == 6.283185307179586 && MEDIA_VUELTA == 3.141592653589793);
-
-vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 
 Punto2D resta(const Punto2D &p, const Punto2D &q) { return {p.x - q.x, p.y - q.y}; }
 Punto2D relativo(const Punto2D &p, const Punto2D &q, double t) {

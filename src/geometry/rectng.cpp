@@ -1,10 +1,14 @@
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
 #include "geometry/rectng.h"
 #include "foundation/afirma.h"
+#include "foundation/logico_priv.h"
 #include "foundation/vnmath.h"
+#include "geometry/vector_priv.h"
 #include <cfloat>
 #include <cmath>
 #include <iterator>
+
+using vn::logico;
 
 namespace {
 
@@ -18,7 +22,6 @@ constexpr double PRECISION_ANCHOS = 0.00001;
 
 constexpr rectangulo_t REPUESTO = {DBL_MAX, DBL_MAX, -DBL_MAX, -DBL_MAX, FALSO};
 
-vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 bool menor_igual(double a, double b) { return ES_MENOR_IGUAL(a, b) == CIERTO; }
 bool mayor_igual(double a, double b) { return ES_MAYOR_IGUAL(a, b) == CIERTO; }
 
@@ -55,10 +58,6 @@ bool solapa_con_limites(const rectangulo_t &r, double x1, double y1, double x2, 
     if (std::isnan(x1) || std::isnan(y1) || std::isnan(x2) || std::isnan(y2)) return false;
     return !(x1 < r.xmin && x2 < r.xmin) && !(x1 > r.xmax && x2 > r.xmax) && !(y1 < r.ymin && y2 < r.ymin) &&
            !(y1 > r.ymax && y2 > r.ymax);
-}
-
-void pon(double *salida, double v) {
-    if (salida != nullptr) *salida = v;
 }
 
 double distancia_en_un_eje(double v, double min, double max) {
@@ -112,10 +111,9 @@ vnbool rec_Inicializado(const rectangulo_t *rec) {
 void rec_Get(const rectangulo_t *rec, double *xmin, double *ymin, double *xmax, double *ymax) {
     if (!AFIRMA_NO_NULO(rec)) return;
     AFIRMA(rec->calculados);
-    pon(xmin, rec->xmin);
-    pon(ymin, rec->ymin);
-    pon(xmax, rec->xmax);
-    pon(ymax, rec->ymax);
+    const rectangulo_t r = *rec; // a copy: the outputs may be its own limits
+    vn::da(xmin, ymin, {r.xmin, r.ymin});
+    vn::da(xmax, ymax, {r.xmax, r.ymax});
 }
 
 void rec_get_limites(const rectangulo_t *rec, double *xmin, double *ymin, double *xmax, double *ymax) {
@@ -139,8 +137,7 @@ double rec_Alto(const rectangulo_t *rec) {
 void rec_Centro(const rectangulo_t *rec, double *x, double *y) {
     if (!AFIRMA_NO_NULO(rec)) return;
     AFIRMA(rec->calculados);
-    pon(x, (rec->xmin + rec->xmax) / 2.);
-    pon(y, (rec->ymin + rec->ymax) / 2.);
+    vn::da(x, y, {(rec->xmin + rec->xmax) / 2., (rec->ymin + rec->ymax) / 2.});
 }
 
 void rec_Mover(rectangulo_t *rec, double dx, double dy) {

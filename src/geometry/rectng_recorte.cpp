@@ -4,6 +4,7 @@
 #include "foundation/afirma.h"
 #include "foundation/mt.h"
 #include "foundation/vnmath.h"
+#include "geometry/vector_priv.h"
 #include <cmath>
 
 namespace {
@@ -20,10 +21,6 @@ bool recorta(double d, double desde_min, double hasta_max, double &u1, double &u
     return u1 <= u2;
 }
 
-void pon(double *salida, double v) {
-    if (salida != nullptr) *salida = v;
-}
-
 vnbool liang_barsky(double xmin, double ymin, double xmax, double ymax, double x1, double y1, double x2, double y2,
                     double *ox1, double *oy1, double *ox2, double *oy2) {
     const double dx = x2 - x1, dy = y2 - y1;
@@ -36,10 +33,8 @@ vnbool liang_barsky(double xmin, double ymin, double xmax, double ymax, double x
         x1 = x1 + dx * u1;
         y1 = y1 + dy * u1;
     }
-    pon(ox1, x1);
-    pon(oy1, y1);
-    pon(ox2, x2);
-    pon(oy2, y2);
+    vn::da(ox1, oy1, {x1, y1});
+    vn::da(ox2, oy2, {x2, y2});
     return CIERTO;
 }
 
@@ -97,10 +92,8 @@ vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, do
                                double *oy1, double *ox2, double *oy2) {
     if (!AFIRMA_NO_NULO(rec)) return FALSO;
     const rectangulo_t r = *rec; // a copy: the outputs may be its own limits
-    pon(ox1, x1);
-    pon(oy1, y1);
-    pon(ox2, x2);
-    pon(oy2, y2);
+    vn::da(ox1, oy1, {x1, y1});
+    vn::da(ox2, oy2, {x2, y2});
     if (r.calculados == FALSO) return FALSO;
     const unsigned de_1 = region(r, x1, y1), de_2 = region(r, x2, y2);
     if (de_1 == 0 && de_2 == 0) return CIERTO;

@@ -1,4 +1,4 @@
-// Points and vectors of space as values, for the sources of this folder.
+// Points and vectors as values, for the sources of this folder.
 #pragma once
 
 #include "foundation/tipos.h"
