@@ -110,10 +110,11 @@ double mt_filtra_angulo_mayor_que_cero(double angulo) {
 
 vnbool mt_angulo_dentro_de_rango(double angulo, double inicio, double fin) {
     if (!std::isfinite(angulo) || !std::isfinite(inicio) || !std::isfinite(fin)) return FALSO;
-    if (std::fabs(fin - inicio) >= VUELTA - TOLERANCIA_RANGO) return CIERTO;
+    const double dado = fin - inicio;
+    if (dado >= VUELTA - TOLERANCIA_RANGO || std::fabs(dado + VUELTA) <= TOLERANCIA_RANGO) return CIERTO;
     // From here on an arc of almost a full turn can only be two equal limits, the last a hair below the
     // first.
-    double arco = mt_filtra_angulo_mayor_que_cero(fin - inicio);
+    double arco = mt_filtra_angulo_mayor_que_cero(dado);
     if (arco > VUELTA - TOLERANCIA_RANGO) arco = 0.;
     const double a = mt_filtra_angulo_mayor_que_cero(angulo - inicio);
     return logico(a <= arco + TOLERANCIA_RANGO || a >= VUELTA - TOLERANCIA_RANGO);

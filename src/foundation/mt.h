@@ -59,8 +59,9 @@ double mt_angulo_a_partir_de_seno_y_coseno(double seno, double coseno);
     off while it is at least that. Beyond 65,536 turns the rest is one exact remainder, so the call ends at once for any
     number; one that is not finite gives 0. */
 double mt_filtra_angulo_mayor_que_cero(double angulo);
-/** Whether a direction lies on the arc that runs counter-clockwise from `inicio` to `fin`. Both limits belong to it,
-    with 1e-6 radians to spare; limits a full turn apart take every direction, equal ones that direction alone. */
+/** Whether a direction lies on the arc that runs counter-clockwise from `inicio` to `fin`, whatever turns they carry.
+    Both limits belong to it, with 1e-6 radians to spare. A `fin` a full turn or more beyond `inicio`, or a full turn
+    before it, takes every direction; equal limits take that direction alone. */
 vnbool mt_angulo_dentro_de_rango(double angulo, double inicio, double fin);
 
 /* ---------------------------------------------------------------- the plane: transformations of coordinates */

@@ -20,8 +20,8 @@ vnbool mt_interseccion_segmento_circunferencia(double x1, double y1, double x2, 
 vnbool mt_interseccion_segmento_arco(double x1, double y1, double x2, double y2, double xc, double yc,
                                      double radio, double angulo_inicial, double angulo_final,
                                      arrPunto2D *puntos);
-/** Where two circles cut each other: where the line of equal power meets the first. Concentric ones, to 1e-4,
- * do not. */
+/** Where two circles cut each other: where the line of equal power meets the first. Concentric ones, to 1e-4, do
+   not. */
 vnbool mt_interseccion_entre_circunferencias(double xc1, double yc1, double radio1, double xc2, double yc2,
                                              double radio2, arrPunto2D *puntos);
 /** Where two arcs cut each other. */

@@ -1,5 +1,4 @@
-/* An ordered set of points of space without repetition: the index of a point in it is its identity in a mesh.
- */
+/* An ordered set of points of space without repetition: the index of a point in it is its identity in a mesh. */
 #ifndef VN_PTO3DORD_H
 #define VN_PTO3DORD_H
 

@@ -1,5 +1,4 @@
-/* The relation between the elastic moduli of an isotropic material. Both moduli are in one unit of pressure.
- */
+/* The relation between the elastic moduli of an isotropic material. Both moduli are in one unit of pressure. */
 #ifndef VN_VORNMAT_H
 #define VN_VORNMAT_H
 

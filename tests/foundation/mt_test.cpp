@@ -105,7 +105,7 @@ PRUEBA(mt, un_arco_tiene_sus_limites_con_su_tolerancia) {
                  {1. - 1.001 * T, 1., 2., FALSO}, {0., 6., 0.5, CIERTO}, {5.9, 6., 0.5, FALSO}, {3., 0., VUELTA, CIERTO},
                  {3., 1., 1. - VUELTA, CIERTO}, {3., 1., 1., FALSO}, {1., 1., 1., CIERTO}, {3., 1., abajo(1.), FALSO},
                  {1. + VUELTA, 0.9, 1.1, CIERTO}, {1. - 9. * VUELTA, 0.9, 1.1, CIERTO}, {T, 0., 0., CIERTO},
-                 {arriba(T), 0., 0., FALSO},
+                 {arriba(T), 0., 0., FALSO}, {1.5, 9., 0.5, FALSO}, {3., 9., 0.5, CIERTO}, {1.5, 0.5, 9., CIERTO},
                  {NAN_, 0., VUELTA, FALSO}, {1., 0., INF, FALSO}, {1., -1e300, 0., CIERTO}};
     for (const auto &f : filas)
         EXPECT_EQ(mt_angulo_dentro_de_rango(f.angulo, f.inicio, f.fin), f.dentro)
