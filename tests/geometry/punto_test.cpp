@@ -143,6 +143,7 @@ PRUEBA(punto, el_cruce_de_piezas_paralelas_o_sin_longitud) {
     // The middle of both ends, of the first pair of ends that are equal; also for lines.
     EXPECT_EQ(cruce({0, 0}, {10, 0}, {10.00004, 0}, {20, 0})->x, (10 + 10.00004) / 2);
     EXPECT_EQ(cruce({0, 0}, {10, 0}, {10, 0}, {0, 0})->x, 0);
+    EXPECT_EQ(cruce({0, 0}, {10, 0}, {2e-5, 0}, {-2e-5, 0})->x, 1e-5);
     EXPECT_EQ(cruce_de({1, 0}, {2, 0}, CIERTO, {7, 0}, {2, 0}, CIERTO)->x, 2);
     EXPECT_FALSE(cruce_de({1, 0}, {2, 0}, CIERTO, {7, 0}, {3, 0}, CIERTO));
     // A point crosses what it lies on, if asked safely; the crossing is its first end, a copy.

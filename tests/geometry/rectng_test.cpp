@@ -232,7 +232,9 @@ PRUEBA(rectng, las_tiras_se_alargan_hasta_la_que_estorba) {
     EXPECT_EQ(alargadas({{0, 0, 5, 1}, {6, 0, 9, 1}}, .75), (v{{-.75, 0, 5.75, 1}, {5.75, 0, 9.75, 1}}));
     // One across that comes later may still grow into the way; an earlier one has done so.
     EXPECT_EQ(alargadas({{0, 0, 5, 1}, {6, 1.5, 7, 9}}, 2), (v{{-2, 0, 6, 1}, {6, 1, 7, 11}}));
-    EXPECT_EQ(alargadas({{6, 1.5, 7, 9}, {0, 0, 5, 1}}, .25), (v{{6, 1.25, 7, 9.25}, {-.25, 0, 5.25, 1}}));
+    EXPECT_EQ(alargadas({{6, 1.5, 7, 9}, {0, 0, 5.875, 1}}, .25), (v{{6, 1.25, 7, 9.25}, {-.25, 0, 6.125, 1}}));
+    // Over one that it is mixed up with, to where that one ends.
+    EXPECT_EQ(alargadas({{0, 0, 10, 1}, {5, .5, 12, 1.5}}, 3), (v{{-3, 0, 12, 1}, {2, .5, 12, 1.5}}));
     const rectangulos a = tiras({{6, 1, 7, 9}, {0, 0, 5, 1}});
     rec_TraladaRectangulos(a.get(), 1, 2);
     EXPECT_EQ(limites_de(*rectangulo(rec_Envolvente(a.get()))), (limites{1, 2, 8, 11}));
