@@ -51,22 +51,22 @@ void pon_fichero(std::string &s, const obra_leida &o) {
                  di(mensaje::actual) + " " + std::to_string(VERSION_FORMATO) + ")");
     linea_de(s, mensaje::dibujo, utf8(o.p.version_dxf) + ", " + forma("%.10g ", o.p.metros_por_unidad) + di(mensaje::unidad));
     linea_de(s, mensaje::tipos_linea, std::to_string(o.p.tipos_de_linea.size()));
-    s += di(mensaje::campos) + ":" + (o.campos.empty() ? " " + di(mensaje::ninguno) : "") + "\n";
+    s += etiqueta(mensaje::campos) + (o.campos.empty() ? " " + di(mensaje::ningun_campo) : "") + "\n";
     for (const auto &[n, v] : o.campos) s += "  " + utf8(n) + " = " + utf8(v) + "\n";
-    s += di(mensaje::secciones) + ": " + std::to_string(o.secciones.size()) + "\n";
+    linea_de(s, mensaje::secciones, std::to_string(o.secciones.size()));
     for (const seccion &x : o.secciones) s += forma("  %-12s %10I64d ", x.nombre.c_str(), x.bytes) + di(mensaje::bytes) + "\n";
 }
 
 void pon_capas(std::string &s, const plano &p) {
-    s += di(mensaje::capas) + ": " + std::to_string(p.capas.size()) + "\n";
+    linea_de(s, mensaje::capas, std::to_string(p.capas.size()));
     cuentas total;
     for (const capa &c : p.capas) {
         cuentas n;
         n.suma(c);
         total.suma(c);
-        s += "  " + utf8(c.nombre) + " (" + di(mensaje::color) + " " + color_de(c.color) +
-             (c.tipo_linea.empty() ? "" : ", " + utf8(c.tipo_linea)) + (c.apagada ? ", " + di(mensaje::apagada) : "") + "): " +
-             n.dilas() + "\n";
+        s += "  " + etiqueta(utf8(c.nombre) + " (" + di(mensaje::color) + " " + color_de(c.color) +
+                             (c.tipo_linea.empty() ? "" : ", " + utf8(c.tipo_linea)) +
+                             (c.apagada ? ", " + di(mensaje::apagada) : "") + ")") + " " + n.dilas() + "\n";
     }
     linea_de(s, mensaje::total, total.dilas());
     std::string sin;

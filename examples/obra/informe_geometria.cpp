@@ -13,7 +13,7 @@ void suma(geometria_capa &total, const geometria_capa &g) {
 
 bool hay(const geometria_capa &g) { return g.contornos != 0 || g.cruces != 0 || g.longitud_arcos != 0; }
 
-std::string numero_de(vnfunc_mensaje que, size_t n) { return di(que) + ": " + std::to_string(n); }
+std::string numero_de(vnfunc_mensaje que, size_t n) { return etiqueta(que) + " " + std::to_string(n); }
 
 std::string dila(const geometria_capa &g) {
     const std::string s = numero_de(mensaje::contornos, g.contornos) + ", " + numero_de(mensaje::cruces, g.cruces);
@@ -29,14 +29,14 @@ void pon_geometria(std::string &s, const plano &p) {
         const envolvente e = envolvente_de(p);
         linea_de(s, mensaje::casco, area(e.area) + ", " + numero_de(mensaje::vertices, e.vertices));
     }
-    s += di(mensaje::geometria) + ":\n";
+    s += etiqueta(mensaje::geometria) + "\n";
     geometria_capa total;
     for (const capa &c : p.capas) {
         const geometria_capa g = geometria_de(c, p.metros_por_unidad);
         suma(total, g);
-        if (hay(g)) s += "  " + utf8(c.nombre) + ": " + dila(g) + "\n";
+        if (hay(g)) s += "  " + etiqueta(utf8(c.nombre)) + " " + dila(g) + "\n";
     }
-    s += "  " + di(mensaje::total) + ": " + dila(total) + "\n";
+    s += "  " + etiqueta(mensaje::total) + " " + dila(total) + "\n";
 }
 
 } // namespace obra

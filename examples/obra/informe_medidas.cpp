@@ -18,8 +18,8 @@ struct suma {
     std::string dila(double metros) const {
         std::string s = di(mensaje::longitud) + " " + obra::longitud(longitud * metros);
         if (cerradas == 0) return s;
-        return s + "; " + di(mensaje::cerradas) + ": " + std::to_string(cerradas) + ", " + di(mensaje::area) + " " +
-               obra::area(area * metros * metros);
+        s += di(mensaje::punto_y_coma) + " " + etiqueta(mensaje::cerradas) + " " + std::to_string(cerradas);
+        return s + ", " + di(mensaje::area) + " " + obra::area(area * metros * metros);
     }
 };
 
@@ -34,7 +34,7 @@ void pon_extension(std::string &s, const plano &p) {
     linea_de(s, mensaje::extension,
              todo.hay ? "x " + tramo(todo.xmin, todo.xmax) + ", y " + tramo(todo.ymin, todo.ymax) + " (" +
                             lado(todo.xmin, todo.xmax) + " x " + lado(todo.ymin, todo.ymax) + ")"
-                      : di(mensaje::ninguno));
+                      : di(mensaje::ninguna_extension));
 }
 
 } // namespace
@@ -43,15 +43,15 @@ void pon_medidas(std::string &s, const plano &p) {
     s += sistema_en_uso() + "\n";
     linea_de(s, mensaje::energia, energia_en_uso());
     pon_extension(s, p);
-    s += di(mensaje::medidas) + ":\n";
+    s += etiqueta(mensaje::medidas) + "\n";
     suma total;
     for (const capa &c : p.capas) {
         suma una;
         una.anade(c);
         total.anade(c);
-        if (una.longitud != 0) s += "  " + utf8(c.nombre) + ": " + una.dila(p.metros_por_unidad) + "\n";
+        if (una.longitud != 0) s += "  " + etiqueta(utf8(c.nombre)) + " " + una.dila(p.metros_por_unidad) + "\n";
     }
-    s += "  " + di(mensaje::total) + ": " + total.dila(p.metros_por_unidad) + "\n";
+    s += "  " + etiqueta(mensaje::total) + " " + total.dila(p.metros_por_unidad) + "\n";
 }
 
 } // namespace obra

@@ -14,8 +14,12 @@ std::string forma(const char *formato, A... a) {
     return t.get();
 }
 
-inline void linea_de(std::string &s, vnfunc_mensaje etiqueta, const std::string &valor) {
-    s += di(etiqueta) + ": " + valor + "\n";
+// What is said of something follows it, after a colon as the language writes it.
+inline std::string etiqueta(const std::string &de_que) { return de_que + di(mensaje::dos_puntos); }
+inline std::string etiqueta(vnfunc_mensaje de_que) { return etiqueta(di(de_que)); }
+
+inline void linea_de(std::string &s, vnfunc_mensaje de_que, const std::string &valor) {
+    s += etiqueta(de_que) + " " + valor + "\n";
 }
 
 // What can be told of the file: title, versions, fields, sections.

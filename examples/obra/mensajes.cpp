@@ -1,26 +1,54 @@
 #include "mensajes.h"
+#include <initializer_list>
 
 namespace obra::mensaje {
 namespace {
 
-// English for the languages that read it rather than Spanish.
-bool se_lee_en_ingles(int columna) {
-    constexpr int ESPANYOL[] = {0, 2, 3, 4, 5, 6, 7, 9, 14, 15, 16, 17, 19, 20, 21, 22, 23, 24};
-    for (const int c : ESPANYOL)
-        if (c == columna) return false;
-    return true;
+// The columns of a message that have a text of their own.
+enum columna { ES = 0, FR = 1, PT_BR = 2, PT = 3, CA = 4, IT = 5, EN = 8, GL = 9, DE = 13 };
+
+// Where the other languages take theirs from: those of Spain and America Spanish, the rest English.
+constexpr columna de_reserva(int i) {
+    return i == PT ? PT_BR : i == 6 || i == 7 || (i >= 14 && i <= 17) || (i >= 19 && i <= 24) ? ES : EN;
 }
 
-void rellena(vnmensaje *m, const vnwchar *es, const vnwchar *en) {
+struct texto_en {
+    columna en;
+    const vnwchar *texto;
+};
+struct columnas {
+    const vnwchar *de[MSGLOCAL_NUM_TEXTOS];
+};
+
+// A row that leaves a language out or gives one twice does not compile.
+consteval columnas reparte(std::initializer_list<texto_en> fila) {
+    columnas t{};
+    for (const auto &[en, texto] : fila) {
+        if (t.de[en] != nullptr) throw "a language is given twice";
+        t.de[en] = texto;
+    }
+    for (const columna c : {ES, FR, PT_BR, CA, IT, EN, GL, DE})
+        if (t.de[c] == nullptr) throw "a language is missing";
+    for (int i = 0; i < MSGLOCAL_NUM_TEXTOS; ++i)
+        if (t.de[i] == nullptr) t.de[i] = t.de[de_reserva(i)];
+    return t;
+}
+
+void rellena(vnmensaje *m, const columnas &t) {
     *m = {"obra.msg", 0, 0, {}, nullptr};
-    for (int i = 0; i < MSGLOCAL_NUM_TEXTOS; ++i) m->textos[i] = se_lee_en_ingles(i) ? en : es;
+    for (int i = 0; i < MSGLOCAL_NUM_TEXTOS; ++i) m->textos[i] = t.de[i];
 }
 
 } // namespace
 
-#define X(nombre, es, en)                                                                                              \
-    void nombre(vnmensaje *m) { rellena(m, VNU(es), VNU(en)); }
-OBRA_MENSAJES(X)
+#define T(idioma, texto) {idioma, VNU(texto)}
+#define X(nombre, ...)                                                                                                 \
+    void nombre(vnmensaje *m) {                                                                                        \
+        static constexpr columnas TEXTOS = reparte({__VA_ARGS__});                                                       \
+        rellena(m, TEXTOS);                                                                                            \
+    }
+#include "mensajes.inl"
 #undef X
+#undef T
 
 } // namespace obra::mensaje
