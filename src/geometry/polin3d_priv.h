@@ -56,6 +56,18 @@ struct barra {
     double diametro, radio_eje, num_grados_dibujo_doblado;
 };
 
+// Where the sections of a chain go; each may be null.
+struct salidas_seccion {
+    arrPuntero *contornos;
+    arrPunto3D *centros;
+    arrPuntero *ejes;
+};
+
+// A section at `origen` with the axes u and v, or, with `V_vertical`, those of their plane whose V is vertical. Leaves its
+// origin for the next one to begin at.
+void emite_seccion(Punto3D origen, Punto3D u, Punto3D v, bool V_vertical, double diametro, uint16_t num_puntos_circulo,
+                   const salidas_seccion &salidas, Punto3D *Xo_ult_cir);
+
 // Whether there is a fillet at p2, and which.
 bool hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool mantiene_extremos, acuerdo &a);
 

@@ -22,12 +22,6 @@ struct destruye_ejes {
 
 bool caben(uint64_t num_puntos) { return AFIRMA(num_puntos <= MAXIMO_PUNTOS); }
 
-// Adds what `crea` makes; its place comes first, so that it is never nobody's.
-template <class F> void anade(arrPuntero *a, F &&crea) {
-    arr_AppendPunteroConTipo(a, nullptr);
-    arr_SetPunteroConTipo(a, arr_NumElemsPuntero(a) - 1, crea());
-}
-
 // The points between segments longer than half the diameter; the two ends if there are none.
 std::vector<Punto3D> limpia(std::span<const Punto3D> p, double diametro) {
     std::vector<Punto3D> r;
@@ -49,8 +43,7 @@ struct opciones {
 // The chain of sections. Each keeps as much of the U of the one before as its plane allows, so that a bar is not twisted.
 class cadena {
   public:
-    cadena(const opciones &o, arrPuntero *contornos, arrPunto3D *centros, arrPuntero *ejes)
-        : o_(o), contornos_(contornos), centros_(centros), ejes_(ejes) {}
+    cadena(const opciones &o, const salidas_seccion &salidas) : o_(o), salidas_(salidas) {}
 
     // False once there are too many points.
     bool recorre(std::span<const Punto3D> p) {
@@ -69,22 +62,9 @@ class cadena {
   private:
     // A section at `origen` with the last axes.
     bool emite(Punto3D origen) {
-        num_puntos_ += contornos_ != nullptr ? o_.num_puntos_circulo : 1;
+        num_puntos_ += salidas_.contornos != nullptr ? o_.num_puntos_circulo : 1;
         if (!caben(num_puntos_)) return false;
-        origen_ = origen;
-        Punto3D u = u_, v = v_;
-        if (o_.V_vertical) {
-            const Punto3D w = vectorial(u, v);
-            ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(w.x, w.y, w.z, &u.x, &u.y, &u.z, &v.x, &v.y, &v.z);
-        }
-        if (contornos_ != nullptr)
-            anade(contornos_, [&] {
-                return Pln3D_puntos_circulo(origen.x, origen.y, origen.z, u.x, u.y, u.z, v.x, v.y, v.z,
-                                            o_.medidas.diametro, o_.num_puntos_circulo);
-            });
-        if (centros_ != nullptr) arr_AppendPunto3D(centros_, origen.x, origen.y, origen.z);
-        if (ejes_ != nullptr)
-            anade(ejes_, [&] { return ejes2d_crea(origen.x, origen.y, origen.z, u.x, u.y, u.z, v.x, v.y, v.z); });
+        emite_seccion(origen, u_, v_, o_.V_vertical, o_.medidas.diametro, o_.num_puntos_circulo, salidas_, &origen_);
         return true;
     }
 
@@ -128,23 +108,21 @@ class cadena {
     }
 
     opciones o_;
-    arrPuntero *contornos_;
-    arrPunto3D *centros_;
-    arrPuntero *ejes_;
+    salidas_seccion salidas_;
     Punto3D origen_{}, u_{}, v_{};
     uint64_t num_puntos_ = 0;
 };
 
 // Runs the chain over a polyline; false if it has no two points, or too many come out.
-bool secciones(const arrPunto3D *puntos, const opciones &o, arrPuntero *contornos, arrPunto3D *centros, arrPuntero *ejes) {
+bool secciones(const arrPunto3D *puntos, const opciones &o, const salidas_seccion &salidas) {
     const std::span<const Punto3D> p = tramo(puntos);
     if (!AFIRMA_TEXTO(p.size() >= 2, "num_puntos >= 2")) return false;
-    return cadena(o, contornos, centros, ejes).recorre(limpia(p, o.medidas.diametro));
+    return cadena(o, salidas).recorre(limpia(p, o.medidas.diametro));
 }
 
 arrPuntero *ejes_de_secciones(const arrPunto3D *puntos, const opciones &o) {
     std::unique_ptr<arrPuntero, destruye_ejes> ejes(arr_CreaPunteroST(0, ejes2d));
-    return secciones(puntos, o, nullptr, nullptr, ejes.get()) ? ejes.release() : nullptr;
+    return secciones(puntos, o, {nullptr, nullptr, ejes.get()}) ? ejes.release() : nullptr;
 }
 
 } // namespace
@@ -183,7 +161,8 @@ arrPuntero *polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
     const barra b{diametro, polin3d_radio_acuerdo_eje(radio, diametro), num_grados_dibujo_doblado};
     std::unique_ptr<arrPuntero, destruye_contornos> contornos(arr_CreaPunteroST(0, arrPunto3D));
     puntos_propios los_centros(arr_CreaPunto3D(0));
-    if (!secciones(puntos, {b, true, false, num_puntos_circulo}, contornos.get(), los_centros.get(), nullptr)) return nullptr;
+    if (!secciones(puntos, {b, true, false, num_puntos_circulo}, {contornos.get(), los_centros.get(), nullptr}))
+        return nullptr;
     if (centros != nullptr) *centros = los_centros.release();
     return contornos.release();
 }
