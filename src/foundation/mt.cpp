@@ -5,8 +5,7 @@
 #include "foundation/mt_priv.h"
 #include "foundation/vnmath.h"
 
-using vn::logico;
-using vn::v3;
+using namespace vn;
 
 namespace {
 
@@ -36,36 +35,36 @@ struct transformacion {
 
 } // namespace
 
-double mt_distancia(double x1, double y1, double x2, double y2) { return vn::modulo({x2 - x1, y2 - y1}); }
+double mt_distancia(double x1, double y1, double x2, double y2) { return modulo({x2 - x1, y2 - y1, 0.}); }
 
 double mt_distancia_a_recta(double x, double y, double x1, double y1, double x2, double y2) {
-    v3 u{x2 - x1, y2 - y1};
-    if (!vn::unitario(u)) return mt_distancia(x, y, x1, y1);
+    Punto3D u{x2 - x1, y2 - y1, 0.};
+    if (!unitario(u)) return mt_distancia(x, y, x1, y1);
     return std::fabs((y - y1) * u.x - (x - x1) * u.y);
 }
 
 void f_mt_parametros_segmento(double x1, double y1, double x2, double y2, double *longitud, double *coseno,
                               double *seno) {
-    v3 u{x2 - x1, y2 - y1};
-    const double l = vn::modulo(u);
-    if (!vn::unitario(u)) u = {1., 0.};
-    vn::da({l, u.x, u.y}, longitud, coseno, seno);
+    Punto3D u{x2 - x1, y2 - y1, 0.};
+    const double l = modulo(u);
+    if (!unitario(u)) u = {1., 0., 0.};
+    da(longitud, coseno, seno, {l, u.x, u.y});
 }
 
 double mt_posicion_relativa_a_segmento(double x, double y, double x1, double y1, double x2, double y2) {
-    const v3 d{x2 - x1, y2 - y1}, p{x - x1, y - y1};
-    const double den = vn::escalar(d, d);
-    if (den > vn::CUADRADO_MINIMO && den < vn::CUADRADO_MAXIMO) [[likely]]
-        return vn::escalar(d, p) / den;
-    const double k = vn::escala_exacta(d);
-    const v3 e = k * d;
-    return k == 0. ? 0. : vn::escalar(e, k * p) / vn::escalar(e, e);
+    const Punto3D d{x2 - x1, y2 - y1, 0.}, p{x - x1, y - y1, 0.};
+    const double den = escalar(d, d);
+    if (den > CUADRADO_MINIMO && den < CUADRADO_MAXIMO) [[likely]]
+        return escalar(d, p) / den;
+    const double k = escala_exacta(d);
+    const Punto3D e = k * d;
+    return k == 0. ? 0. : escalar(e, k * p) / escalar(e, e);
 }
 
 vnbool mt_pasar_a_unitario_2D(double *x, double *y) {
     if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return FALSO;
-    v3 v{*x, *y};
-    if (!vn::unitario(v)) return FALSO;
+    Punto3D v{*x, *y, 0.};
+    if (!unitario(v)) return FALSO;
     *x = v.x;
     *y = v.y;
     return CIERTO;
@@ -77,12 +76,12 @@ void mt_bisectriz(double x1, double y1, double x2, double y2, double *x, double 
     if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
     // The right normal of the chord points to the middle of every counter-clockwise arc; a short chord has
     // too few digits, and there the sum of the two serves, turned about when the arc is the long one.
-    v3 b{y2 - y1, x1 - x2};
+    Punto3D b{y2 - y1, x1 - x2, 0.};
     if (x1 * x2 + y1 * y2 > 0.) {
         const double signo = mt_producto_vectorial_plano(x1, y1, x2, y2) < 0. ? -1. : 1.;
-        b = {signo * (x1 + x2), signo * (y1 + y2)};
+        b = {signo * (x1 + x2), signo * (y1 + y2), 0.};
     }
-    if (!vn::unitario(b)) b = {x1, y1};
+    if (!unitario(b)) b = {x1, y1, 0.};
     *x = b.x;
     *y = b.y;
 }

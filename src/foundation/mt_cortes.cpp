@@ -5,8 +5,7 @@
 #include "foundation/mt_priv.h"
 #include <array>
 
-using vn::logico;
-using vn::v3;
+using namespace vn;
 
 namespace {
 
@@ -44,7 +43,7 @@ par producto(double a, double b) {
     return {p, x.bajo * y.bajo - (((p - x.alto * y.alto) - x.bajo * y.alto) - x.alto * y.bajo)};
 }
 
-double lado_exacto(const v3 &a, const v3 &b, const v3 &p) {
+double lado_exacto(Punto3D a, Punto3D b, Punto3D p) {
     // (a - p) x (b - p) without differences.
     const std::array<par, 6> productos{producto(a.x, b.y),  producto(a.x, -p.y), producto(-p.x, b.y),
                                        producto(-a.y, b.x), producto(a.y, p.x),  producto(p.y, b.x)};
@@ -69,7 +68,7 @@ double lado_exacto(const v3 &a, const v3 &b, const v3 &p) {
 
 // Positive when `p` is to the left of a -> b, negative to the right, 0 exactly on it; twice the area of the
 // triangle. Its sign is exact; its value too, to its last digits, where `cifras` asks for it.
-double lado(const v3 &a, const v3 &b, const v3 &p, bool cifras = false) {
+double lado(Punto3D a, Punto3D b, Punto3D p, bool cifras = false) {
     constexpr double EPSILON = 0x1p-53, COTA = (3. + 16. * EPSILON) * EPSILON, SIN_PERDIDA = 0.0625;
     const double izq = (a.x - p.x) * (b.y - p.y), der = (a.y - p.y) * (b.x - p.x), det = izq - der;
     const double suma_de_ambos = std::fabs(izq) + std::fabs(der);
@@ -77,18 +76,18 @@ double lado(const v3 &a, const v3 &b, const v3 &p, bool cifras = false) {
 }
 
 // Of a point on the line of a and b.
-bool estrictamente_entre(const v3 &a, const v3 &b, const v3 &p) {
+bool estrictamente_entre(Punto3D a, Punto3D b, Punto3D p) {
     return a.x != b.x ? std::min(a.x, b.x) < p.x && p.x < std::max(a.x, b.x)
                       : std::min(a.y, b.y) < p.y && p.y < std::max(a.y, b.y);
 }
 
 struct extremos {
-    v3 a, b;
+    Punto3D a, b;
 };
 
-extremos de(const mt_segmento_t &s, double k = 1.) { return {{k * s.x1, k * s.y1}, {k * s.x2, k * s.y2}}; }
+extremos de(const mt_segmento_t &s, double k = 1.) { return {{k * s.x1, k * s.y1, 0.}, {k * s.x2, k * s.y2, 0.}}; }
 
-void corta(mt_segmento_t &s, const v3 &p) {
+void corta(mt_segmento_t &s, Punto3D p) {
     (s.numcortes == 0 ? s.x3 : s.x4) = p.x;
     (s.numcortes == 0 ? s.y3 : s.y4) = p.y;
     ++s.numcortes;
@@ -106,7 +105,7 @@ void corta_solape(mt_segmento_t &s, extremos otro) {
 }
 
 // Into the box of the segment, out of which rounding may have put it by a hair.
-v3 dentro(const v3 &p, const extremos &e) {
+Punto3D dentro(Punto3D p, const extremos &e) {
     return {std::clamp(p.x, std::min(e.a.x, e.b.x), std::max(e.a.x, e.b.x)),
             std::clamp(p.y, std::min(e.a.y, e.b.y), std::max(e.a.y, e.b.y))};
 }
@@ -126,29 +125,29 @@ double escala_comun(const mt_segmento_t &s1, const mt_segmento_t &s2) {
 } // namespace
 
 vnbool mt_punto_pertenece_a_segmento(double x, double y, double x1, double y1, double x2, double y2) {
-    v3 u{x2 - x1, y2 - y1};
-    const v3 p{x - x1, y - y1};
-    const double l = vn::modulo(u);
-    if (!vn::unitario(u)) return logico(vn::modulo(p) <= TOLERANCIA_PERTENECE);
-    const double a = vn::escalar(p, u);
-    if (a <= 0.) return logico(vn::modulo(p) <= TOLERANCIA_PERTENECE);
-    if (a >= l) return logico(vn::modulo({x - x2, y - y2}) <= TOLERANCIA_PERTENECE);
+    Punto3D u{x2 - x1, y2 - y1, 0.};
+    const Punto3D p{x - x1, y - y1, 0.};
+    const double l = modulo(u);
+    if (!unitario(u)) return logico(modulo(p) <= TOLERANCIA_PERTENECE);
+    const double a = escalar(p, u);
+    if (a <= 0.) return logico(modulo(p) <= TOLERANCIA_PERTENECE);
+    if (a >= l) return logico(modulo({x - x2, y - y2, 0.}) <= TOLERANCIA_PERTENECE);
     return logico(std::fabs(p.y * u.x - p.x * u.y) <= TOLERANCIA_PERTENECE);
 }
 
 vnbool mt_existe_interseccion_entre_segmentos(double x1, double y1, double x2, double y2, double x3,
                                               double y3, double x4, double y4, double *x, double *y) {
-    v3 u{x2 - x1, y2 - y1}, v{x4 - x3, y4 - y3};
-    const double lu = vn::modulo(u), lv = vn::modulo(v);
-    if (!vn::unitario(u) || !vn::unitario(v)) return FALSO;
+    Punto3D u{x2 - x1, y2 - y1, 0.}, v{x4 - x3, y4 - y3, 0.};
+    const double lu = modulo(u), lv = modulo(v);
+    if (!unitario(u) || !unitario(v)) return FALSO;
     const double seno = u.x * v.y - u.y * v.x;
     if (std::fabs(seno) <= SENO_PARALELAS) return FALSO;
     // Lengths from the first end of each to the crossing.
-    const v3 q{x3 - x1, y3 - y1};
+    const Punto3D q{x3 - x1, y3 - y1, 0.};
     const double a = (q.x * v.y - q.y * v.x) / seno, b = (q.x * u.y - q.y * u.x) / seno;
     const auto llega = [](double d, double l) { return d >= -TOLERANCIA_CRUCE && d - l <= TOLERANCIA_CRUCE; };
     if (!llega(a, lu) || !llega(b, lv)) return FALSO;
-    vn::da({x1 + a * u.x, y1 + a * u.y}, x, y, nullptr);
+    da(x, y, nullptr, {x1 + a * u.x, y1 + a * u.y, 0.});
     return CIERTO;
 }
 
@@ -175,20 +174,20 @@ void mt_calcula_inter_segmentos(mt_segmento_t *seg1, mt_segmento_t *seg2) {
         const double inicio = lado(q.a, q.b, p.a, true), fin = lado(q.a, q.b, p.b, true),
                      t = inicio / (inicio - fin);
         const extremos e = de(*seg1);
-        const v3 c = dentro(dentro(e.a + t * (e.b - e.a), e), de(*seg2));
+        const Punto3D c = dentro(dentro(e.a + t * (e.b - e.a), e), de(*seg2));
         corta(*seg1, c);
         corta(*seg2, c);
         return;
     }
     // An end of one on the other. Both segments cannot be cut by ends here, for they are not on one line.
     if (qa == 0. && estrictamente_entre(p.a, p.b, q.a))
-        corta(*seg1, {seg2->x1, seg2->y1});
+        corta(*seg1, {seg2->x1, seg2->y1, 0.});
     else if (qb == 0. && estrictamente_entre(p.a, p.b, q.b))
-        corta(*seg1, {seg2->x2, seg2->y2});
+        corta(*seg1, {seg2->x2, seg2->y2, 0.});
     else if (pa == 0. && estrictamente_entre(q.a, q.b, p.a))
-        corta(*seg2, {seg1->x1, seg1->y1});
+        corta(*seg2, {seg1->x1, seg1->y1, 0.});
     else if (pb == 0. && estrictamente_entre(q.a, q.b, p.b))
-        corta(*seg2, {seg1->x2, seg1->y2});
+        corta(*seg2, {seg1->x2, seg1->y2, 0.});
 }
 
 vnbool mt_raices_ecuacion_segundo_grado(double a, double b, double c, double *r1, double *r2) {
@@ -200,8 +199,8 @@ vnbool mt_raices_ecuacion_segundo_grado(double a, double b, double c, double *r1
     } else {
         double disc = b * b - 4. * a * c;
         if (!std::isfinite(disc)) { // the same equation with coefficients that do not overflow
-            const v3 e{a, b, c};
-            const double k = vn::escala_exacta(e);
+            const Punto3D e{a, b, c};
+            const double k = escala_exacta(e);
             if (k == 0.) return FALSO;
             a *= k;
             b *= k;

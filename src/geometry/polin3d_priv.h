@@ -2,7 +2,7 @@
 #pragma once
 
 #include "foundation/arr.h"
-#include "geometry/vector_priv.h"
+#include "foundation/vector_priv.h"
 #include <memory>
 #include <vector>
 

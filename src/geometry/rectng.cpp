@@ -2,8 +2,8 @@
 #include "geometry/rectng.h"
 #include "foundation/afirma.h"
 #include "foundation/logico_priv.h"
+#include "foundation/vector_priv.h"
 #include "foundation/vnmath.h"
-#include "geometry/vector_priv.h"
 #include <cfloat>
 #include <cmath>
 #include <iterator>

@@ -3,8 +3,8 @@
 #include "geometry/rectng.h"
 #include "foundation/afirma.h"
 #include "foundation/mt.h"
+#include "foundation/vector_priv.h"
 #include "foundation/vnmath.h"
-#include "geometry/vector_priv.h"
 #include <cmath>
 
 namespace {

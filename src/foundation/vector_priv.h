@@ -1,4 +1,4 @@
-// Points and vectors as values, for the sources of this folder.
+// Points and vectors as values, for the libraries' own sources.
 #pragma once
 
 #include "foundation/tipos.h"
