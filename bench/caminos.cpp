@@ -1,6 +1,7 @@
 #include "caminos.h"
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <map>
 
 namespace bench {
@@ -32,6 +33,20 @@ int mide(const char *titulo, const std::vector<camino> &caminos, const std::vect
         std::printf("\n");
     }
     return fuera;
+}
+
+void debe(bool bien, const char *que) {
+    if (bien) return;
+    std::fprintf(stderr, "CHECK FAILED: %s\n", que);
+    std::exit(2);
+}
+
+int programa(int argc, char **argv, std::initializer_list<int (*)(int pasadas)> materias) {
+    const int pasadas = argc > 1 ? std::max(1, std::atoi(argv[1])) : 7;
+    int fuera = 0;
+    for (const auto &materia : materias) fuera += materia(pasadas);
+    std::printf("budgets not met: %d\n", fuera);
+    return 0;
 }
 
 } // namespace bench

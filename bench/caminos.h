@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,13 @@ struct razon {
 // Runs every road in turn, `pasadas` times, and prints nanoseconds per item (median of the passes) and the ratios.
 // Returns how many budgets are not met.
 int mide(const char *titulo, const std::vector<camino> &caminos, const std::vector<razon> &razones, int pasadas);
+
+// What a road gives must be right before its time means anything: says what is not, and ends the program.
+void debe(bool bien, const char *que);
+
+// A benchmark's main: its subjects in turn, each with as many passes as its first argument says (7 if none) and returning
+// how many budgets are not met.
+int programa(int argc, char **argv, std::initializer_list<int (*)(int pasadas)> materias);
 
 // Small, fast, repeatable.
 struct azar {

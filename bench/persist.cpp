@@ -29,13 +29,7 @@ struct registro {
 };
 constexpr size_t N = 1'000'000, ESCALARES = 7, EMPAQUETADO = 4 + 24 + 2 + 1 + 8, DOBLES = 5'000'000, BLOQUES = 2'000'000;
 
-[[noreturn]] void falla(const char *que) {
-    std::fprintf(stderr, "CHECK FAILED: %s\n", que);
-    std::exit(2);
-}
-void debe(bool bien, const char *que) {
-    if (!bien) falla(que);
-}
+using bench::debe;
 
 std::vector<registro> datos, leidos;
 std::vector<char> empaquetados, hueco;
@@ -243,10 +237,7 @@ void comprueba_leidos(bool con_texto) {
     std::fill(leidos.begin(), leidos.end(), registro{});
 }
 
-} // namespace
-
-int main(int argc, char **argv) {
-    const int pasadas = argc > 1 ? std::max(1, std::atoi(argv[1])) : 7;
+int persistencia(int pasadas) {
     prepara();
     const double escalares = static_cast<double>(N * ESCALARES), con_texto = static_cast<double>(N * (ESCALARES + 1));
     int fuera = 0;
@@ -309,6 +300,9 @@ int main(int argc, char **argv) {
                          {{"vornspy", "malloc and free", 2}}, pasadas);
     arr_DestruyeDouble(&array_dobles);
     std::remove(FICHERO);
-    std::printf("budgets not met: %d\n", fuera);
-    return 0;
+    return fuera;
 }
+
+} // namespace
+
+int main(int argc, char **argv) { return bench::programa(argc, argv, {persistencia}); }

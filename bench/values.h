@@ -2,16 +2,8 @@
 #pragma once
 
 #include "caminos.h"
-#include <cstdlib>
 
 namespace bench {
-
-// What a road gives must be right before its time means anything.
-inline void debe(bool bien, const char *que) {
-    if (bien) return;
-    std::fprintf(stderr, "CHECK FAILED: %s\n", que);
-    std::exit(2);
-}
 
 int numeros(int pasadas);
 int fechas(int pasadas);
