@@ -39,8 +39,9 @@ else()
 endif()
 if(NUCLEOS_SANITIZA)
   # Not `function`: typed wrappers cast call-backs to the general type that the exported operation calls.
-  target_compile_options(nucleos_opciones INTERFACE -fsanitize=address,undefined -fno-sanitize=function -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(nucleos_opciones INTERFACE -fsanitize=address,undefined)
+  target_compile_options(nucleos_opciones INTERFACE -fsanitize=${NUCLEOS_SANITIZA} -fno-sanitize=function -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+  target_link_options(nucleos_opciones INTERFACE -fsanitize=${NUCLEOS_SANITIZA})
   if(NUCLEOS_FUZZ)
     target_compile_options(nucleos_opciones INTERFACE -fsanitize=fuzzer-no-link)
   endif()
