@@ -95,6 +95,8 @@ const std::vector<operacion> malas{
          if (p != nullptr) vornspy_free_pp(&p, 1);
      },
      un_hueco, nullptr, nullptr, nullptr},
+    {"ya_no_informa", [](const dato *a, dato &) { exige(a[0].p != nullptr, "(b) != NULL"); }, un_bloque, nullptr, nullptr,
+     nullptr, false, "0", true},
     {"exige_de_mas", [](const dato *, dato &) { error_interno("(otra) != NULL", "malas", 1, 0); }, un_bloque,
      nullptr, nullptr, nullptr},
 };

@@ -19,6 +19,7 @@ ESPERADAS = {
     "no_se_lo_queda": ("does not take b over",),
     "pierde_sin_memoria": ("leaves blocks behind when memory runs out",),
     "deja_colgando": ("leaves h leading to a freed block",),
+    "ya_no_informa": ("is listed as reporting, and does not",),
     "exige_de_mas": ("the call with good values reports: (otra) != NULL",),
 }
 

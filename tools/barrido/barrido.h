@@ -73,6 +73,7 @@ struct operacion {
         false; // what an owner's slot held stays the caller's when a new object takes its place
     const char *neutro =
         "0"; // the result after a report: a number, "first" for the first argument, "*" for any
+    bool informa = false; // the call with good values reports, and must
 };
 
 enum opcion : unsigned {
@@ -91,6 +92,8 @@ parametro enteros(const char *nombre, std::vector<int64_t> valores);
 parametro linea(const char *nombre);
 parametro modulo(const char *nombre);
 parametro real_libre(const char *nombre);
+// The same, with a number to begin with.
+parametro real(const char *nombre, double primero);
 parametro real_en(const char *nombre, double a, double b);
 // Values of an enumeration; the bad ones can still be held by its bits.
 parametro enumerado(const char *nombre, std::vector<int64_t> buenos);

@@ -2,7 +2,7 @@
 """Runs the sweep of arguments to its end: starts the swept program, names the call when it dies or hangs, goes on with the
 next operation, and tells what was held.
 usage: barrido.py PAIRS SECONDS PART/PARTS PROGRAM...: at most PAIRS calls with two values changed per operation, SECONDS a
-call; PROGRAM may stand behind an emulator. VN_BARRIDO=--todo in the environment names the default calls that report."""
+call; PROGRAM may stand behind an emulator."""
 import os
 import subprocess
 import sys
@@ -69,7 +69,7 @@ def main():
             que = "does not come back" if "has not come back" in texto else f"ends the process (status {estado})"
             faltas.append(f"{nombre}: {que}\n      {llamadas[-1] if llamadas else 'before the first call'}\n" +
                           "\n".join("      | " + l for l in texto_sola.strip().splitlines()[:14]))
-            hechas[nombre] = ["0", "0", "0", "it died", "0"]
+            hechas[nombre] = ["0", "0", "0"]
             k += 1
             caidas += 1
             if caidas > MAXIMO_CAIDAS:
@@ -77,16 +77,11 @@ def main():
                 break
     llamadas = sum(int(h[0]) for h in hechas.values())
     anotaciones = sum(int(h[1]) for h in hechas.values())
-    agotadas = sum(int(h[4]) for h in hechas.values())
-    limpias = sum(h[2] == "1" for h in hechas.values())
-    if "--todo" in os.environ.get("VN_BARRIDO", ""):
-        for nombre, h in sorted(hechas.items()):
-            if h[2] != "1":
-                print(f"default call reports: {nombre}: {h[3]}")
+    agotadas = sum(int(h[2]) for h in hechas.values())
     for f in faltas:
         print(f)
     print(f"{len(hechas)} operations, {llamadas} calls, {anotaciones} broken values reported as promised, {agotadas} times out of memory; "
-          f"the call with good values reports nothing in {limpias}; {len(faltas)} faults")
+          f"{len(faltas)} faults")
     return 1 if faltas or not hechas else 0
 
 

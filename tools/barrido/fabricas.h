@@ -154,6 +154,12 @@ inline flujo_prestado &el_flujo() {
     static flujo_prestado p;
     return p;
 }
+inline vnfichero *flujo_con(const char *texto) {
+    vnfichero *f = f_lc_fopen_seguro_u(VNU("hecho.txt"), VNU("w+"), "barrido", 0);
+    f_lc_fwrite(texto, 1, std::strlen(texto), f, "barrido", 0);
+    vornio_fseek_i64(f, 0, VN_DESDE_EL_PRINCIPIO);
+    return f;
+}
 inline vornsave *protocolo() {
     el_flujo().cierra();
     return vornsave_registra_bin(el_flujo().f = flujo_binario());
@@ -162,17 +168,53 @@ inline vornsave *protocolo_de_texto() {
     el_flujo().cierra();
     return vornsave_registra_txt(el_flujo().f = flujo_texto(), CIERTO);
 }
+// In the middle of writing, or of reading what was written.
+inline vornsave *escribiendo(void (*escribe)(vornsave *)) {
+    vornsave *v = protocolo();
+    escribe(v);
+    return v;
+}
+inline vornsave *leyendo(void (*escribe)(vornsave *), void (*lee)(vornsave *)) {
+    vornsave *v = escribiendo(escribe);
+    vornio_fseek_i64(el_flujo().f, 0, VN_DESDE_EL_PRINCIPIO);
+    lee(v);
+    return v;
+}
+inline void graba_seccion(vornsave *v) {
+    vornsave_graba_inicio_seccion("a", v);
+    vornsave_graba_fin_seccion("a", v);
+}
+inline void entra_en_seccion(vornsave *v) {
+    char *id = vornsave_lee_seccion(v);
+    vornspy_free_pp(&id, 1);
+}
+inline void graba_fecha(vornsave *v) {
+    tmtime *fecha = vtm_crea(23, 59, 58, 31, 12, 2005);
+    vtm_graba_hora_y_fecha(fecha, v);
+    vtm_destruye(&fecha);
+}
+inline void pon_progreso(vornsave *v) {
+    vornsave_nousar_inicia_progreso_lectura(
+        v, nullptr, [](void *, uint32_t) {}, [](void *, uint32_t) {}, [](void *) {});
+}
 inline void destruye_protocolo(vornsave *v) {
     vornsave_set_tipo_status_lectura(v, 1, nullptr); // blocks may be open
     vornsave_libera(&v);
 }
 
-// A project file, whole, beside the files that are none.
+// Project files, whole, beside the files that are none: plain, and signed with a header and without.
 inline void prepara_proyecto() {
     if (vdir_existe_fichero_UNICODE(VNU("proyecto.bin")) == CIERTO) return;
-    vnfichero *f = vornbin_abre_fichero_para_escritura_u(VNU("proyecto.bin"), nullptr);
-    bin_graba_long(1, f);
-    vornbin_cierra_fichero_abierto_para_escritura_u(f, VNU("proyecto.bin"), nullptr);
+    const auto cierra = [](vnfichero *f, const vnwchar *nombre) {
+        bin_graba_long(1, f);
+        vornbin_cierra_fichero_abierto_para_escritura_u(f, nombre, nullptr);
+    };
+    const vnwchar *const NOMBRES[] = {VNU("proyecto.bin"), VNU("firmado.bin"), VNU("suelto.bin")};
+    cierra(vornbin_abre_fichero_para_escritura_u(NOMBRES[0], nullptr), NOMBRES[0]);
+    cierra(vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(NOMBRES[1], 1, "a", VNU("a"), nullptr),
+           NOMBRES[1]);
+    cierra(vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(NOMBRES[2], 1, "a", VNU("a"), nullptr),
+           NOMBRES[2]);
 }
 
 // ---------------------------------------------------------------- containers of three elements
@@ -230,6 +272,16 @@ inline arrPuntero *ultimos_ficheros() {
     ultfichsel_registra_nombre_fichero(a, "a", VNU("C:\\x"), VNU("C:\\x\\y"));
     return a;
 }
+inline arrPunto3D *triangulo() {
+    arrPunto3D *a = arr_CreaPunto3D(0);
+    for (const double x : {0., 1., 2.}) arr_AppendPunto3D(a, x, x * x, 0);
+    return a;
+}
+inline vnmutex *mutex_por_dentro() {
+    vnmutex *m = vnmutex_crea("barrido");
+    vnmutex_entra(m);
+    return m;
+}
 inline arulong *arulong_de_tres() {
     arulong *a = arulong_crea();
     for (uint32_t i = 0; i < 3; ++i) arulong_append(a, i);
@@ -279,6 +331,7 @@ inline void destruye_poligono(poligono_t *&pol) {
 // ---------------------------------------------------------------- call-backs that do something
 
 inline void *copia_igual(const void *p) { return const_cast<void *>(p); }
+inline int compara_sitios(const void *a, const void *b) { return compara_direcciones(a, b, nullptr); }
 inline void anula(void *pp) {
     void *nulo = nullptr;
     std::memcpy(pp, &nulo, sizeof nulo);

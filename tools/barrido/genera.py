@@ -15,6 +15,7 @@ from lee_cabeceras import cabeceras_publicas, lee, lista_de_exportaciones
 ENTEROS = {TypeKind.UINT, TypeKind.INT, TypeKind.SHORT, TypeKind.USHORT, TypeKind.LONG, TypeKind.ULONG, TypeKind.LONGLONG,
            TypeKind.ULONGLONG, TypeKind.CHAR_S, TypeKind.CHAR_U, TypeKind.SCHAR, TypeKind.UCHAR}
 TEXTOS = {"char": "texto", "vnwchar": "texto_u"}
+INFORMAN = {nombre for _, nombres in tablas.INFORMAN for nombre in nombres.split()}
 
 
 class SinFila(Exception):
@@ -46,7 +47,7 @@ def indice_de(f, nombre):
 class Generador:
     def __init__(self, funciones):
         self.funciones = funciones
-        self.fabricas = {}  # (type, creator) -> (name, creator, destroyer)
+        self.fabricas = {}  # (type, creator, destroyer) -> (name, creator, destroyer)
         self.faltan = []
 
     def fabrica(self, tipo, f):
@@ -54,7 +55,7 @@ class Generador:
         if fila is None:
             raise SinFila(f"no factory for {tipo}")
         crea, destruye, _ = fila
-        clave = (tipo, crea)
+        clave = (tipo, crea, destruye)
         if clave not in self.fabricas:
             nombre = "fab_" + re.sub(r"\W+", "_", tipo)
             if any(v[0] == nombre for v in self.fabricas.values()):
@@ -67,7 +68,7 @@ class Generador:
         for patron, operaciones, crea, destruye in tablas.OTROS:
             m = re.fullmatch(patron, tipo)
             if m and re.match(operaciones, f.nombre):
-                clave = (tipo, "otro" + operaciones)
+                clave = (tipo, "otro", operaciones)
                 if clave not in self.fabricas:
                     nombre = f"otro_{len(self.fabricas)}_" + re.sub(r"\W+", "_", tipo)
                     self.fabricas[clave] = (nombre, m.expand(crea), m.expand(destruye))
@@ -157,7 +158,7 @@ class Generador:
         if a.kind == TypeKind.RECORD:
             declaracion = a.get_declaration()
             if t in tablas.REGISTROS and tablas.REGISTROS[t]:
-                return f"registro_de({n}, {tablas.REGISTROS[t]}, {o})"
+                return f"registro_de({n}, {tablas.REGISTROS[t].format(i=indice_de(f, p.nombre))}, {o})"
             if fila_de_manejo(t, f.nombre) and t not in ("Punto2D",):
                 return self.con_otro(t, f, f"objeto({n}, {self.fabrica(t, f)}, {o})")
             if declaracion.is_definition() or declaracion.get_definition():
@@ -177,7 +178,8 @@ class Generador:
                 t = base(p.tipo.get_pointee()) if p.tipo.get_canonical().kind == TypeKind.POINTER else base(p.tipo)
                 if "<{t}>" in expresion and (t not in TEXTOS or not p.tipo.get_pointee().is_const_qualified()):
                     continue
-                if expresion == "modulo({n})" and t != "char" or expresion == "linea({n})" and p.tipo.kind == TypeKind.POINTER:
+                if expresion == "modulo({n})" and t != "char" or expresion.startswith(("linea(", "real(")) and \
+                        p.tipo.get_canonical().kind == TypeKind.POINTER:
                     continue
                 if expresion.startswith("fichero"):
                     return f"{expresion.format(t=t)}({n}, {self.opciones(p)})"
@@ -242,8 +244,9 @@ class Generador:
         anterior = "true" if any(re.fullmatch(x, f.nombre) for x in tablas.DEJAN_EL_ANTERIOR) else "false"
         neutro = next((f'"{v}"' for patron, v, _ in tablas.NEUTROS if re.fullmatch(patron, f.nombre)), '"0"')
         pasan = f'"{pasan}"' if pasan else "nullptr"
+        informa = "true" if f.nombre in INFORMAN else "false"
         return (f'    {{"{f.nombre}", [](const dato *a, dato &r) {{ (void)a, (void)r; {llama}; }},\n'
-                f"     [] {{ return parametros{{{params}}}; }}, {suelta}, {retiene}, {pasan}, {anterior}, {neutro}}},\n")
+                f"     [] {{ return parametros{{{params}}}; }}, {suelta}, {retiene}, {pasan}, {anterior}, {neutro}, {informa}}},\n")
 
     def todas(self):
         for f in self.funciones:
@@ -266,11 +269,11 @@ def main():
     cabeceras = cabeceras_publicas(arbol)
     exportadas = set(lista_de_exportaciones("foundation") + lista_de_exportaciones("nucleos"))
     funciones = lee(cabeceras)
-    perdidas = exportadas - {f.nombre for f in funciones}
+    perdidas = (exportadas | INFORMAN) - {f.nombre for f in funciones}
     generador = Generador([f for f in funciones if f.nombre in exportadas])
     operaciones = list(generador.todas())
     if generador.faltan or perdidas:
-        print("\n".join(generador.faltan + [f"{n}: exported and declared nowhere" for n in sorted(perdidas)]), file=sys.stderr)
+        print("\n".join(generador.faltan + [f"{n}: exported or in a table, and declared nowhere" for n in sorted(perdidas)]), file=sys.stderr)
         print(f"The sweep of arguments leaves out {len(generador.faltan) + len(perdidas)} operations: "
               "tools/barrido/tablas.py needs rows for them.", file=sys.stderr)
         return 1
@@ -280,7 +283,7 @@ def main():
     definiciones = "".join(
         f"const fabrica {n}{{[]() -> void * {{ return {crea}; }}, [](void *q) {{ auto *p = static_cast<{t} *>(q); {destruye}; }}"
         f"{', [] { ' + tablas.DESPUES[t] + '; }' if t in tablas.DESPUES else ''}}};\n"
-        for (t, _), (n, crea, destruye) in generador.fabricas.items())
+        for (t, *_), (n, crea, destruye) in generador.fabricas.items())
     for i in range(trozos):
         escribe(os.path.join(salida, f"barrido_{i}.cpp"),
                 '#include "barrido_fabricas.h"\nnamespace barrido {\nextern const std::vector<operacion> operaciones_'

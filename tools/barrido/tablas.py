@@ -5,6 +5,9 @@ build with its name."""
 # column is for the operations whose name matches it, and stands before the general one.
 MANEJOS = [
     # type, operations, creator, destroyer, elements
+    ("vnfichero", r"bin_lee_SN", "flujo_con(\"S\")", "lc_fclose_seguro(p)", 0),
+    ("vnfichero", r"vtxt_lee_bool", "flujo_con(\"a\\\\n\")", "lc_fclose_seguro(p)", 0),
+    ("vnfichero", r"vtxt_leer_BOOL", "flujo_con(\"1\\\\n\")", "lc_fclose_seguro(p)", 0),
     ("vnfichero", r"(?!vtxt_|vornsave_registra_txt|vornsave_registra_texto)", "flujo_binario()", "lc_fclose_seguro(p)", 0),
     ("vnfichero", r"", "flujo_texto()", "lc_fclose_seguro(p)", 0),
     ("fichmem", r"", "fichmem_crea32(\"abc\", 3)", "fichmem_destruye(&p)", 3),
@@ -20,6 +23,7 @@ MANEJOS = [
      "arr_DestruyeEstructurasArrayST(&p, arrPunto3D, arr_DestruyePunto3D)", 0),
     ("arrPuntero", r"polin3d_ejes2d", "arr_CreaPunteroConTipo(0)", "arr_DestruyeEstructurasST(&p, ejes2d, ejes2d_destruye)", 0),
     ("arrPuntero", r"", "punteros()", "arr_DestruyePunteroConTipo(&p)", 3),
+    ("arrPunto3D", r"(?!arr_)", "triangulo()", "arr_DestruyePunto3D(&p)", 3),
     ("tmtime", r"", "vtm_crea(23, 59, 58, 31, 12, 2005)", "vtm_destruye(&p)", 0),
     (r"arr(\w+)", r"", r"arr_Crea\1(3)", r"arr_Destruye\1(&p)", 3),
     (r"(arulong(?:64)?)", r"", r"\1_de_tres()", r"\1_destruye(&p)", 3),
@@ -27,9 +31,19 @@ MANEJOS = [
     (r"(acadordeu)", r"", r"\1_de_tres()", r"\1_destruye(&p)", 3),
     ("apunorde", r"", "apunorde_de_tres()", "apunorde_nousar_destruye(&p)", 3),
     ("dirwin", r"", "dirwin_crea_UNICODE(VNU(\"./*\"))", "dirwin_destruye_UNICODE(&p)", 0),
+    ("vnmutex", r"vnmutex_sal", "mutex_por_dentro()", "vnmutex_destruye_saliendo(&p)", 0),
     ("vnmutex", r"", "vnmutex_crea(\"barrido\")", "vnmutex_destruye_saliendo(&p)", 0),
     ("vncallback", r"", "callback_nousar_crea(con_parametros, nullptr)", "callback_nousar_destruye(&p)", 0),
     ("vnparametros", r"", "vornspy_parametro(2, 8, static_cast<void *>(nullptr), 4, 2)", "vornspy_destruye_parametros(&p)", 2),
+    *(("vornsave", f"vornsave_graba_fin_{b}$", f"escribiendo([](vornsave *v) {{ vornsave_graba_inicio_{b}(\"a\", v); }})",
+       "destruye_protocolo(p)", 0) for b in ("bloque", "bloque64", "seccion")),
+    *(("vornsave", f"vornsave_lee_final_{b}$", f"leyendo([](vornsave *v) {{ vornsave_graba_inicio_{b}(\"a\", v), "
+       f"vornsave_graba_fin_{b}(\"a\", v); }}, [](vornsave *v) {{ vornsave_se_inicia_lectura_{b}(\"a\", v); }})",
+       "destruye_protocolo(p)", 0) for b in ("bloque", "bloque64")),
+    ("vornsave", r"vornsave_lee_seccion", "leyendo(graba_seccion, [](vornsave *) {})", "destruye_protocolo(p)", 0),
+    ("vornsave", r"vornsave_(ir|lee)_final_seccion", "leyendo(graba_seccion, entra_en_seccion)", "destruye_protocolo(p)", 0),
+    ("vornsave", r"vornsave_fin_progreso", "escribiendo(pon_progreso)", "destruye_protocolo(p)", 0),
+    ("vornsave", r"vtm_lee_hora_y_fecha", "leyendo(graba_fecha, [](vornsave *) {})", "destruye_protocolo(p)", 0),
     ("vornsave", r"", "protocolo()", "destruye_protocolo(p)", 0),
     ("rectangulo_t", r"", "rec_CreaDefinido(0, 0, 4, 1)", "rec_Destruye(&p)", 0),
     ("vmatr", r"", "vmatr_crea_matriz_identidad(3)", "vmatr_destruir_matriz(&p)", 0),
@@ -74,10 +88,13 @@ DESPUES = {"vornsave": "el_flujo().cierra()"}
 # Types that are only declared so far: no object of theirs can exist, an address stands for one.
 SIN_OBJETOS = {"idxdatos", "insocket"}
 
-# Record -> a good value of it. One that is not here and has only numbers is all zero.
+# Record -> a good value of it, for the parameter number {i}. One that is not here and has only numbers is all zero.
 REGISTROS = {
     "vnoperaciones_fichero": "*operaciones_fichero_del_sistema()",
-    "tm": "tm{}",  # a platform's may have pointers
+    "tm": "tm{{}}",  # a platform's may have pointers
+    "vnFILETIME": "vnFILETIME{{0, 0x1C60D9D}}",  # of 2005
+    # No two points alike, nor three in a line.
+    "Punto2D": "Punto2D{{{i}., {i}. * {i}.}}",
     "fichmem": None,  # through its factory
     "poligono_t": None,
 }
@@ -91,12 +108,29 @@ LLAMADAS_DE_VUELTA = [
     ("vnfunc_mensaje", r".*(_u|textomsgu_obtener_mensaje(_idioma)?)$", "mensaje_u"),
     ("vnfunc_mensaje", r"", "mensaje_ansi"),
     ("vnfunc_lee_texto", r"", "lee_texto"),
+    ("vnfunc_compara", r"arr_(Existe|Buscar)Unica", "compara_sitios"),
 ]
 
 # Parameters whose kind the declaration does not tell: operation, parameter, expression of barrido.h ({n} is the name).
 PARAMETROS = [
     (r".*", r"modulo", "modulo({n})"),
     (r".*", r"linea", "linea({n})"),
+    # Axes that are axes, planes that are planes.
+    (r"ejes2d_gira_ejes_sobre_U", r"Vy", "registro_de({n}, 1., EXIGE)"),
+    (r"ejes2d_gira_ejes_sobre_V", r"Ux", "registro_de({n}, 1., EXIGE)"),
+    (r"(ejes2d|Pln3D)_.*", r"(Ux|Vy|Wz).*", "real({n}, 1)"),
+    (r"(ejes2d|Pln3D)_.*", r"(U[yz]|V[xz]|W[xy]).*", "real({n}, 0)"),
+    (r"ejes2d_(vector_3D_a_2D|polilinea3D_a_2D).*", r"vz|Zo", "real({n}, 0)"),
+    (r"nousar_punto_assert_iguales", r"p|q", "registro_de({n}, Punto2D{{}}, EXIGE)"),
+    (r"ejes2d_ejes_(horizontales|para_proyectar).*", r"A|B", "real({n}, 0)"),
+    # A quarter of a circle of radius 1.
+    (r"Pln3D_puntos_arco", r"._centro|y_ini|x_fin|z_.*", "real({n}, 0)"),
+    (r"Pln3D_puntos_arco", r"diametro", "real({n}, 2)"),
+    # Rectangles with an inside, a stretch with a length, a point that is there, a weight inside its section.
+    (r"rec_Crea(Definido|Horizontal|Vertical)|vnspline_trazado_tramo_curvo", r"[oxy][xy0]", "real({n}, 0)"),
+    (r"pto3dord_ind_punto", r"y|z", "real({n}, 0)"),
+    (r"rectng_AnchosDesdePuntoFijo", r"coord_._cdg", "real({n}, 0)"),
+    (r"vornmat_modulo_poisson", r"modulo_elasticidad", "real({n}, 2.5)"),
     # The address of a pointer of any type.
     (r"vornspy_nousar_(free_pp|asigna_doble_puntero_no_null)", r"p", "hueco({n}, fab_void, EXIGE)"),
     (r"vornspy_nousar_(asigna_doble_puntero|destruye_puntero_opcional)", r"p", "hueco({n}, fab_void, HUECO_OPCIONAL)"),
@@ -106,6 +140,8 @@ PARAMETROS = [
     # The address of a variable that lives until the exit.
     (r"alsalir_.*", r"cadena|dato", "direccion_fija({n}, EXIGE)"),
     (r"apunorde_nousar_(inserta_original|existe_elemento)", r"p", "direccion_fija({n}, EXIGE)"),
+    (r"num_double_a_string(_u)?", r"sep_millares", "enteros({n}, {{'.', ',', 0, -1}})"),
+    (r"num_double_a_string(_u)?", r"sep_decimales", "enteros({n}, {{',', '.', 0, -1}})"),
     (r"bin_graba_SN", r"dato", "enteros({n}, {{'S', 'N', 0, -1}})"),
     # Room as the sizes say.
     (r"f_lc_f(read|write).*", r"destino|origen", "bufer({n}, 1, 4096, -1, OPCIONAL)"),
@@ -121,6 +157,7 @@ PARAMETROS = [
     (r"vtm_convierte_cadena_a_tm_u", r"cadena", 'textos_u({n}, {{u"31/12/2005 23:59:58", u"1/1/70", u"31/4/2001", u"", u"99999999999"}})'),
     (r"f_lc_fopen_modo_escritura_u", r"modo", 'textos_u({n}, {{u"w", u"r", u"r+b", u"", u"%s"}})'),
     (r".*", r"modo", 'modo_de_abrir<{t}>({n})'),
+    (r"vnnumlet_(numero|moneda)_en_cifras_a_letra", r"cadena", 'textos({n}, {{"12.50", "0", "", "-1", "999999999999999999999.1", "1,5"}})'),
     (r"vornstrhex_.*", r"texto", 'textos({n}, {{"6162", "", "6", "zz", "0g", "%s"}})'),
     (r".*", r"patron", 'patron_de_ficheros<{t}>({n})'),
     # Keys that may be made in a real registry.
@@ -128,6 +165,11 @@ PARAMETROS = [
     (r"vornreg_.*", r"clave", 'textos({n}, {{"Software\\\\nucleos_barrido", "", "\\\\%s\\\\"}})'),
     # Names of files and directories.
     (r"vornbin_marca_fichero_ejemplo_u", r"nomfich", 'textos_u({n}, {{u"obra.bin", u"entrada.bin", u"no_hay", u"carpeta", u""}})'),
+    *((f"vornbin_(se_)?abre_fichero_para_lectura_{que}.*", r"nomfich",
+       f'textos_u({{n}}, {{{{u"{uno}", u"{otro}", u"entrada.bin", u"proyecto.bin", u"obra.bin", u"no_hay", u"carpeta", u""}}}})')
+      for que, uno, otro in (("con_version", "firmado.bin", "suelto.bin"), ("sin_cabecera", "suelto.bin", "firmado.bin"))),
+    (r"vornfile_hacer_definitivo.*", r"temporal", 'textos_u({n}, {{u"flujo.txt", u"no_hay", u"carpeta", u""}})'),
+    (r"vdir_crea_directorios_UNICODE|vdir_renombra_fichero_UNICODE", r"ruta|destino", "fichero_nuevo<{t}>"),
     (r".*", r"obra|path_lista", "fichero_nuevo<{t}>"),
     (r".*", r"nomfich|fichero|nombre_fichero|nombre_fichero_obra|ruta|rutas?_\w+|path|path_\w+|directorio", "fichero<{t}>"),
     (r"(f_lc_fopen|vdir_|vorndir_|fichmem_|fichconf_|vnlongpath_|timefich_|vf_|vornfile_|tmpfich).*",
@@ -186,12 +228,25 @@ DEJA_PASAR = [
 EXCLUIDAS = [
 ]
 
+# Operations whose call with good values reports: why, and their names. One that is not here and reports is a fault, and so
+# is one that is here and does not.
+INFORMAN = [
+    ("it is the report", """
+        error_interno error_interno_default_error error_interno_liberando_mensaje_u error_interno_msg error_interno_msg_u
+        error_interno_punto_2D lc_error_escribiendo_fichero lc_error_leyendo_fichero"""),
+    ("its destination is not part of the library yet", """
+        vornsave_cierra_fichmem_para_escritura vornsave_cierra_fichmem_para_lectura
+        vornsave_cierra_fichmem_para_lectura_al_final vornsave_fichmem_para_escritura vornsave_fichmem_para_escritura_ex
+        vornsave_fichmem_para_lectura vornsave_registra_idx vornsave_registra_soc vornsave_registra_texto_editable"""),
+]
+
 # What an operation may have set for the whole process, and how it is brought back: operation, expression.
 RESTAURA = [
     ("p_cambia_eps", "p_cambia_eps(0.00005)"),
     ("setroundoff", "setroundoff(0.00001)"),
     ("operaciones_fichero_instala", "operaciones_fichero_instala(nullptr)"),
     ("msidioma_establece_idioma", "msidioma_establece_idioma(0)"),
+    ("fichconf_registra_nombre_distribuidor_no_vorn", "fichconf_registra_nombre_distribuidor_no_vorn(VNU(\"barrido\"))"),
     ("fichconf_establece_directorio_base", "fichconf_establece_directorio_base(nullptr)"),
     ("vnmutex_establece_plazo", "vnmutex_establece_plazo(100)"),
     ("vnregional_establece", "vnregional_establece(nullptr)"),

@@ -76,9 +76,12 @@ parametro modulo(const char *nombre) {
     return p;
 }
 
-parametro real_libre(const char *nombre) {
+parametro real_libre(const char *nombre) { return real(nombre, 1); }
+
+parametro real(const char *nombre, double primero) {
     parametro p{nombre};
     using lim = std::numeric_limits<double>;
+    if (primero != 0 && primero != 1) pon_real(p, "good", calidad::libre, primero);
     pon_real(p, "1", calidad::libre, 1);
     pon_real(p, "0", calidad::libre, 0);
     pon_real(p, "-1.5", calidad::libre, -1.5);
@@ -87,6 +90,7 @@ parametro real_libre(const char *nombre) {
     pon_real(p, "-inf", calidad::libre, -lim::infinity());
     pon_real(p, "max", calidad::libre, lim::max());
     pon_real(p, "denormal", calidad::libre, lim::denorm_min());
+    if (primero == 0) std::swap(p.valores[0], p.valores[1]);
     return p;
 }
 
