@@ -7,6 +7,7 @@
 //   for (const auto &fila : vn::tabla("C_polygons/segment_pairs.tsv")) fila[0]...    rows made by others
 #pragma once
 
+#include "prueba.h"
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -68,13 +69,13 @@ inline testing::AssertionResult cerca(double visto, double esperado, double esca
     return testing::AssertionFailure() << texto;
 }
 
-// The rows of a table of the outside data but its title, split at the tabs. A test that uses one is registered only where
-// that folder is.
-inline std::vector<std::vector<std::string>> tabla(const std::string &nombre) {
-    std::ifstream f(std::string(VN_DIRECTORIO_DATOS) + "/" + nombre);
+// The rows of a table of the outside data but its title, split at the tabs.
+inline std::vector<std::vector<std::string>> tabla(const std::string &nombre, bool con_titulo = false) {
+    std::ifstream f(dato(nombre));
     std::vector<std::vector<std::string>> filas;
     std::string linea;
-    for (std::getline(f, linea); std::getline(f, linea);) {
+    if (!con_titulo) std::getline(f, linea);
+    while (std::getline(f, linea)) {
         auto &fila = filas.emplace_back(1);
         for (const char c : linea)
             if (c == '\t') fila.emplace_back();

@@ -120,6 +120,8 @@ std::string lee_fichero(const std::string &nombre) {
     return {std::istreambuf_iterator<char>(f), {}};
 }
 
+std::string dato(const std::string &nombre) { return VN_DIRECTORIO_DATOS "/" + nombre; }
+
 void graba_fichero(const std::string &nombre, std::string_view contenido) {
     std::ofstream f(ruta(nombre), std::ios::binary | std::ios::trunc);
     f.write(contenido.data(), static_cast<std::streamsize>(contenido.size()));

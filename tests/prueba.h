@@ -67,6 +67,8 @@ bool atrapado(const std::function<void()> &f, int reservas = INT32_MAX);
 bool pon_locale_con_coma();
 // Whole content of a file, given by its UTF-8 name; fails the test if it cannot be read.
 std::string lee_fichero(const std::string &nombre);
+// Name of a file of the outside data. A test that uses one is registered only where its folder is.
+std::string dato(const std::string &nombre);
 void graba_fichero(const std::string &nombre, std::string_view contenido);
 bool existe(const std::string &nombre);
 // Waits half a minute at most for another program to make a file; whether it is there.

@@ -3,27 +3,18 @@
 #include "foundation/numero_priv.h"
 #include "foundation/unicode.h"
 #include "foundation/widestr.h"
+#include "propiedades.h"
 #include "prueba.h"
-#include <bit>
-#include <cmath>
-#include <fstream>
-#include <sstream>
 
 // Against tables made by others.
 
 using namespace vn;
 
-namespace {
-
-std::ifstream tabla(const char *nombre) { return std::ifstream(std::string(VN_DIRECTORIO_DATOS) + "/D_tables/" + nombre); }
-
-} // namespace
-
 // Rows of the bits of the number as a half, a float and a double, and its text.
 PRUEBA(tablas, textos_de_numeros) {
     size_t filas = 0;
     for (const char *nombre : {"number_text_1.txt", "number_text_edge.txt"}) {
-        std::ifstream f = tabla(nombre);
+        std::ifstream f(dato(std::string("D_tables/") + nombre));
         for (std::string media, simple, doble, texto; f >> media >> simple >> doble >> texto;) {
             ++filas;
             const double esperado = std::bit_cast<double>(std::stoull(doble, nullptr, 16));
@@ -38,25 +29,19 @@ PRUEBA(tablas, textos_de_numeros) {
 
 // Rows of a byte and its units on pages 437, 850 and 1252; an empty cell is undefined there.
 PRUEBA(tablas, paginas_de_codigos) {
-    std::ifstream f = tabla("codepages.tsv");
-    std::string linea;
-    std::getline(f, linea);
     unsigned filas = 0;
-    while (std::getline(f, linea)) {
-        std::istringstream campos(linea);
-        std::string c[4];
-        for (std::string &campo : c) std::getline(campos, campo, '\t');
+    for (const auto &c : tabla("D_tables/codepages.tsv")) {
         const auto byte = static_cast<char>(std::stoul(c[0], nullptr, 16));
         ++filas;
         constexpr uint32_t PAGINAS[] = {437, 850, 1252};
-        for (int k = 0; k < 3; ++k) {
+        for (size_t k = 0; k < 3; ++k) {
             ASSERT_EQ(unicode_establece_pagina_ANSI(PAGINAS[k]), CIERTO);
             const unsigned esperado = c[k + 1].empty() ? static_cast<unsigned char>(byte)
                                                        : static_cast<unsigned>(std::stoul(c[k + 1], nullptr, 16));
-            EXPECT_EQ(static_cast<unsigned>(unicode_caracter_ANSI_a_UNICODE(byte)), esperado) << linea;
+            EXPECT_EQ(static_cast<unsigned>(unicode_caracter_ANSI_a_UNICODE(byte)), esperado) << c[0];
             const vnwchar w[] = {static_cast<vnwchar>(esperado), 0};
             char *s = unicode_UNICODE_a_ANSI(w);
-            EXPECT_EQ(s[0], byte) << linea;
+            EXPECT_EQ(s[0], byte) << c[0];
             vornstr_destruye(&s);
         }
     }

@@ -89,8 +89,7 @@ PRUEBA(contornos, los_cortes_de_segmentos_dificiles_son_los_exactos) {
 }
 
 PRUEBA(contornos, la_envolvente_de_mil_puntos_reales_tiene_sus_once_vertices) {
-    const std::vector<double> v =
-        numeros(vn::lee_fichero(std::string(VN_DIRECTORIO_DATOS) + "/C_polygons/hull_points_1k.json"));
+    const std::vector<double> v = numeros(vn::lee_fichero(vn::dato("C_polygons/hull_points_1k.json")));
     ASSERT_EQ(v.size(), 2000u);
     envolvente e;
     for (size_t i = 0; i < v.size(); i += 2) e.anade(v[i] * 1e6, v[i + 1] * 1e6); // six decimals

@@ -34,7 +34,7 @@ std::vector<std::vector<double>> listas(const char *p) {
 }
 
 std::vector<std::vector<vec>> caras() {
-    const std::string texto = vn::lee_fichero(VN_DIRECTORIO_DATOS "/B_mesh/buildings_rotterdam.city.json");
+    const std::string texto = vn::lee_fichero(vn::dato("B_mesh/buildings_rotterdam.city.json"));
     const auto tras = [&](const char *clave, size_t desde = 0) {
         const size_t i = texto.find(clave, desde);
         return i == std::string::npos ? nullptr : texto.c_str() + i + std::strlen(clave);

@@ -12,7 +12,7 @@ using namespace obra;
 
 namespace {
 
-const std::string PLANOS = VN_DIRECTORIO_DATOS "/A_dxf/";
+const std::string PLANOS = vn::dato("A_dxf/");
 
 } // namespace
 

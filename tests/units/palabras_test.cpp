@@ -1,7 +1,6 @@
 #include "palabras.h"
-#include <fstream>
+#include "propiedades.h"
 #include <functional>
-#include <sstream>
 
 // Numbers in words against lists made by others, up to a million. Where a list follows another norm, what it differs in is
 // told as a rule over its words.
@@ -9,24 +8,6 @@
 using namespace vn;
 
 namespace {
-
-struct fila {
-    uint32_t n;
-    std::vector<std::string> columnas;
-};
-
-std::vector<fila> lista(const std::string &idioma, const std::string &columna, size_t &cual) {
-    std::ifstream f(VN_DIRECTORIO_DATOS "/D_tables/words_" + idioma + ".tsv");
-    std::vector<fila> filas;
-    for (std::string linea; std::getline(f, linea);) {
-        std::istringstream campos(linea);
-        std::vector<std::string> columnas;
-        for (std::string campo; std::getline(campos, campo, '\t');) columnas.push_back(campo);
-        if (columnas[0] == "n") cual = static_cast<size_t>(std::find(columnas.begin(), columnas.end(), columna) - columnas.begin());
-        else filas.push_back({static_cast<uint32_t>(std::stoul(columnas[0])), columnas});
-    }
-    return filas;
-}
 
 void cambia(std::string &s, std::string_view a, std::string_view b, size_t hasta = std::string::npos) {
     for (size_t i = 0; (i = s.find(a, i)) < hasta; i += b.size()) s.replace(i, a.size(), b);
@@ -95,13 +76,18 @@ PRUEBA(palabras, las_de_las_listas) {
         {"fr", "icu_feminine", FR, true, SIN_REFORMA, 0},
     };
     for (const auto &f : filas) {
-        size_t cual = 0, comparadas = 0;
-        for (fila &x : lista(f.lista, f.columna, cual)) {
-            if (f.sin_centenas != 0 && (x.n / 100 % 10 != 0 || x.n / 100000 != 0)) continue;
-            std::string esperado = x.columnas.at(cual);
-            for (const regla &r : f.reglas) r(x.n, esperado);
+        auto lista = tabla(std::string("D_tables/words_") + f.lista + ".tsv", true);
+        const auto titulo = lista.front();
+        const size_t cual = static_cast<size_t>(std::find(titulo.begin(), titulo.end(), f.columna) - titulo.begin());
+        lista.erase(lista.begin());
+        size_t comparadas = 0;
+        for (const auto &fila : lista) {
+            const std::string &cifras = fila[0];
+            const auto n = static_cast<uint32_t>(std::stoul(cifras));
+            if (f.sin_centenas != 0 && (n / 100 % 10 != 0 || n / 100000 != 0)) continue;
+            std::string esperado = fila.at(cual);
+            for (const regla &r : f.reglas) r(n, esperado);
             ++comparadas;
-            const std::string cifras = std::to_string(x.n);
             EXPECT_EQ(f.femenina ? cuenta_de(f.idioma, cifras, CIERTO) : numero(f.idioma, cifras), esperado)
                 << f.lista << "." << f.columna << " " << cifras;
         }
