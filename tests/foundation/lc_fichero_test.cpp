@@ -154,6 +154,7 @@ PRUEBA(lc_fichero, appending_goes_to_the_end_that_is_there) {
     pon(b, "fin");
     a.reset(), b.reset();
     EXPECT_EQ(lee_fichero(ruta("junto")), "abababfin");
+    EXPECT_EQ(lc_ftell(abre("junto", "ab").get()), 9);
 }
 
 // What a text stream reads is what it wrote, on every platform, and its positions can be gone back to.
@@ -235,6 +236,10 @@ PRUEBA(lc_fichero, failures_to_write) {
     EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero", lc_vuelca_a_disco(f.get())), FALSO);
     EXPECT_EQ(lc_vuelca_a_disco(f.get()), FALSO) << "a failed flush is not tried again";
     EXPECT_EQ(lc_fclose(f.release()), FALSO);
+    // The system's own flushes reach it: they are refused where nothing can be flushed.
+    EXPECT_NE(operaciones_fichero_del_sistema()->vuelca(VN_FICHERO_NINGUNO), VN_FICH_BIEN);
+    EXPECT_TRUE(!existe("/proc/self/stat") ||
+                operaciones_fichero_del_sistema()->vuelca_directorio(VNU("/proc/self/stat")) != VN_FICH_BIEN);
 }
 
 PRUEBA(lc_fichero, interruptions_and_holders_are_waited_for_within_bounds) {
