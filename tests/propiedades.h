@@ -3,6 +3,7 @@
 //   vn::azar a(7);                            numbers: a.entre(-10., 10.), a.entero(3), a.moneda()
 //   vn::huella h; h << x << y << n;           a digest of the very bits of what was computed
 //   EXPECT_EQ(h(), 0x1234u);                  the same number natively and under Wine: for results without libm
+//   const vn::lugar l = vn::lugar_de(caso);   near the origin, and at the coordinates of a survey
 //   EXPECT_TRUE(vn::cerca(x, 0.25, 10.));     within 1e-12 x scale of a value kept in the test: for those with libm
 //   for (const auto &fila : vn::tabla("C_polygons/segment_pairs.tsv")) fila[0]...    rows made by others
 #pragma once
@@ -37,6 +38,14 @@ class azar {
   private:
     uint64_t s_;
 };
+
+// Where a property is run, by turns: at the origin and at the coordinates of a survey. `escala` is what the rounding of the
+// coordinates there is in: a length of the property's own at the origin.
+struct lugar {
+    double x, y, z;
+    double escala(double propia) const { return propia + 0.01 * y; }
+};
+inline lugar lugar_de(int caso) { return caso % 2 == 0 ? lugar{0., 0., 0.} : lugar{5e5, 4.5e6, 600.}; }
 
 // FNV-1a of the bytes, lowest first; one not-a-number for all.
 class huella {

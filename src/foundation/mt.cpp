@@ -110,7 +110,8 @@ double mt_filtra_angulo_mayor_que_cero(double angulo) {
 vnbool mt_angulo_dentro_de_rango(double angulo, double inicio, double fin) {
     if (!std::isfinite(angulo) || !std::isfinite(inicio) || !std::isfinite(fin)) return FALSO;
     const double dado = fin - inicio;
-    if (dado >= VUELTA - TOLERANCIA_RANGO || std::fabs(dado + VUELTA) <= TOLERANCIA_RANGO) return CIERTO;
+    if (dado >= VUELTA - TOLERANCIA_RANGO) return CIERTO;
+    if (dado <= TOLERANCIA_RANGO - VUELTA && std::fabs(std::remainder(dado, VUELTA)) <= TOLERANCIA_RANGO) return CIERTO;
     // From here on an arc of almost a full turn can only be two equal limits, the last a hair below the
     // first.
     double arco = mt_filtra_angulo_mayor_que_cero(dado);

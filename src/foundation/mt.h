@@ -60,8 +60,9 @@ double mt_angulo_a_partir_de_seno_y_coseno(double seno, double coseno);
     number; one that is not finite gives 0. */
 double mt_filtra_angulo_mayor_que_cero(double angulo);
 /** Whether a direction lies on the arc that runs counter-clockwise from `inicio` to `fin`, whatever turns they carry.
-    Both limits belong to it, with 1e-6 radians to spare. A `fin` a full turn or more beyond `inicio`, or a full turn
-    before it, takes every direction; equal limits take that direction alone. */
+    Both limits belong to it, with 1e-6 radians to spare: a thousandth of a millimetre for each metre of the radius, 5 mm
+    on an arc of 5 km. A `fin` a full turn or more beyond `inicio`, or whole turns before it, takes every direction; equal
+    limits take that direction alone. */
 vnbool mt_angulo_dentro_de_rango(double angulo, double inicio, double fin);
 
 /* ---------------------------------------------------------------- the plane: transformations of coordinates */
@@ -96,7 +97,8 @@ void mt_proyectado_a_real(double x_proyectado, double y_proyectado, VN_SALIDA do
 /** Whether (x, y) lies on the segment, its ends included: not farther from it than 1e-5. */
 vnbool mt_punto_pertenece_a_segmento(double x, double y, double x1, double y1, double x2, double y2);
 /** Whether the segments (1, 2) and (3, 4) cross, and where. A crossing up to 1e-6 beyond an end still counts, and lies
-    on the line of the first. Parallel segments have none, overlapping ones included. */
+    on the line of the first. Parallel segments have none, overlapping ones included: those whose angle has a sine of at
+    most 1e-14, or what the rounding of the coordinates makes of it, 2 x 2^-52 x (largest coordinate) / (shorter length). */
 vnbool mt_existe_interseccion_entre_segmentos(double x1, double y1, double x2, double y2, double x3,
                                               double y3, double x4, double y4, VN_SALIDA_OPC double *x,
                                               VN_SALIDA_OPC double *y);
@@ -168,7 +170,8 @@ vnbool mt_calcular_ejes_3D_dados_2_puntos(double x1, double y1, double z1, doubl
                                           VN_SALIDA_OPC double *Zx, VN_SALIDA_OPC double *Zy,
                                           VN_SALIDA_OPC double *Zz);
 /** Axes whose X runs from the first point to the second and whose Y lies in the plane of the three, on the side of the
-    third. FALSO when the three are on a line: the sine of the angle at the first is at most 1e-14. */
+    third. FALSO when the three are on a line: the sine of the angle at the first is at most what
+    mt_existe_interseccion_entre_segmentos takes for parallel. */
 vnbool mt_calcular_ejes_3D_dados_3_puntos(double x1, double y1, double z1, double x2, double y2, double z2,
                                           double x3, double y3, double z3, VN_SALIDA_OPC double *Xx,
                                           VN_SALIDA_OPC double *Xy, VN_SALIDA_OPC double *Xz,

@@ -4,6 +4,7 @@
 #include "foundation/mt.h"
 #include "foundation/mt_priv.h"
 #include <array>
+#include <limits>
 
 using namespace vn;
 
@@ -14,9 +15,6 @@ namespace {
 constexpr double TOLERANCIA_PERTENECE = 1e-5;
 // How far beyond its ends a segment still crosses another, in metres.
 constexpr double TOLERANCIA_CRUCE = 1e-6;
-// Sine of the angle of two segments at or below which they are parallel: the rounding of unit vectors, no
-// more.
-constexpr double SENO_PARALELAS = 1e-14;
 
 /* Side of a point, exactly (Shewchuk, "Adaptive precision floating-point arithmetic and fast robust geometric
    predicates", 1997): the plain determinant where its error bound leaves no doubt, else the exact sum of its
@@ -61,9 +59,11 @@ double lado_exacto(Punto3D a, Punto3D b, Punto3D p) {
         anade(q.bajo);
         anade(q.alto);
     }
-    // The parts do not overlap and grow: the last that is not zero has the sign of the sum.
-    while (n > 0 && partes[n - 1] == 0.) --n;
-    return n == 0 ? 0. : partes[n - 1];
+    // The parts do not overlap and grow: the last that is not zero has the sign of the sum, which the rest
+    // cannot change.
+    double total = 0.;
+    for (const double x : partes) total += x;
+    return total;
 }
 
 // Positive when `p` is to the left of a -> b, negative to the right, 0 exactly on it; twice the area of the
@@ -122,6 +122,17 @@ double escala_comun(const mt_segmento_t &s1, const mt_segmento_t &s2) {
     return m < 1e-100 ? 0x1p+500 : 1.;
 }
 
+// The root of b^2 - 4 a c, `a` not 0; not a number where that is negative. The products are of factors of at most about 1,
+// those of a c of one size, so that neither overflows or vanishes where it counts, and keep the digits that they would lose.
+double raiz_del_discriminante(double a, double b, double c) {
+    if (!std::isfinite(a) || !std::isfinite(b) || !std::isfinite(c)) return std::numeric_limits<double>::quiet_NaN();
+    const int ea = std::ilogb(a), ec = c == 0. ? ea : std::ilogb(c), e = (ec - ea) / 2;
+    const int k = std::max({ea + e, ec - e, b == 0. ? ea + e : std::ilogb(b)});
+    const double b_ = std::ldexp(b, -k);
+    const par b2 = producto(b_, b_), ac = producto(std::ldexp(a, e - k), std::ldexp(c, -e - k));
+    return std::ldexp(std::sqrt((b2.alto - 4. * ac.alto) + (b2.bajo - 4. * ac.bajo)), k);
+}
+
 } // namespace
 
 vnbool mt_punto_pertenece_a_segmento(double x, double y, double x1, double y1, double x2, double y2) {
@@ -141,7 +152,9 @@ vnbool mt_existe_interseccion_entre_segmentos(double x1, double y1, double x2, d
     const double lu = modulo(u), lv = modulo(v);
     if (!unitario(u) || !unitario(v)) return FALSO;
     const double seno = u.x * v.y - u.y * v.x;
-    if (std::fabs(seno) <= SENO_PARALELAS) return FALSO;
+    const double mayor = std::max({std::fabs(x1), std::fabs(y1), std::fabs(x2), std::fabs(y2), std::fabs(x3),
+                                   std::fabs(y3), std::fabs(x4), std::fabs(y4)});
+    if (!(std::fabs(seno) > seno_de_redondeo(mayor, std::min(lu, lv)))) return FALSO;
     // Lengths from the first end of each to the crossing.
     const Punto3D q{x3 - x1, y3 - y1, 0.};
     const double a = (q.x * v.y - q.y * v.x) / seno, b = (q.x * u.y - q.y * u.x) / seno;
@@ -197,22 +210,13 @@ vnbool mt_raices_ecuacion_segundo_grado(double a, double b, double c, double *r1
         if (b == 0.) return FALSO;
         mas = menos = -c / b;
     } else {
-        double disc = b * b - 4. * a * c;
-        if (!std::isfinite(disc)) { // the same equation with coefficients that do not overflow
-            const Punto3D e{a, b, c};
-            const double k = escala_exacta(e);
-            if (k == 0.) return FALSO;
-            a *= k;
-            b *= k;
-            c *= k;
-            disc = b * b - 4. * a * c;
-        }
-        if (!(disc >= 0.) || a == 0.) return FALSO;
-        if (disc == 0.) {
-            mas = menos = -b / (2. * a);
+        const double raiz = raiz_del_discriminante(a, b, c);
+        if (!(raiz >= 0.)) return FALSO;
+        if (raiz == 0.) {
+            mas = menos = -0.5 * b / a;
         } else {
             // The root whose terms have one sign, and the other from their product c / a: no digits are lost.
-            const double q = -0.5 * (b + std::copysign(std::sqrt(disc), b));
+            const double q = -0.5 * b - std::copysign(0.5 * raiz, b);
             const bool b_negativo = std::signbit(b);
             mas = b_negativo ? q / a : c / q;
             menos = b_negativo ? c / q : q / a;

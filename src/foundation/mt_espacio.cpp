@@ -10,9 +10,6 @@ namespace {
 
 // Sine of the angle of a line with a plane at or below which they do not meet.
 constexpr double SENO_RECTA_PLANO = 1e-6;
-// Sine of the angle of three points at or below which they are on a line: the rounding of unit vectors, no
-// more.
-constexpr double SENO_ALINEADOS = 1e-14;
 // Component of a unit normal below which, in both x and y, it counts as close to the z axis.
 constexpr double CASI_VERTICAL = 1. / 64.;
 
@@ -40,11 +37,13 @@ bool de_eje_x(Punto3D x, ejes &e) {
     return true;
 }
 
-// The differences from the first point, each of unit length.
-bool de_tres_puntos(Punto3D u, Punto3D v, ejes &e) {
+bool de_tres_puntos(Punto3D p, Punto3D q, Punto3D r, ejes &e) {
+    Punto3D u = q - p, v = r - p;
+    const double mayor = std::max({mayor_coordenada(p), mayor_coordenada(q), mayor_coordenada(r)});
+    const double seno_minimo = seno_de_redondeo(mayor, std::min(modulo(u), modulo(v)));
     if (!unitario(u) || !unitario(v)) return false;
     Punto3D z = vectorial(u, v);
-    if (!(modulo(z) > SENO_ALINEADOS)) return false;
+    if (!(modulo(z) > seno_minimo)) return false;
     unitario(z);
     Punto3D y = vectorial(z, u);
     unitario(y);
@@ -151,8 +150,7 @@ vnbool mt_calcular_ejes_3D_dados_3_puntos(double x1, double y1, double z1, doubl
                                           double *Yx, double *Yy, double *Yz, double *Zx, double *Zy,
                                           double *Zz) {
     ejes e;
-    const Punto3D p{x1, y1, z1};
-    const bool hay = de_tres_puntos(Punto3D{x2, y2, z2} - p, Punto3D{x3, y3, z3} - p, e);
+    const bool hay = de_tres_puntos({x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3}, e);
     da(Xx, Xy, Xz, e.x);
     da(Yx, Yy, Yz, e.y);
     da(Zx, Zy, Zz, e.z);

@@ -151,7 +151,9 @@ vmatr *vmatr_matriz_inversa(const vmatr *m) {
     if (!AFIRMA_TEXTO(lu.isInvertible(), "es_matriz_regular == CIERTO")) return nullptr;
     dueno r = crea(m->filas, m->columnas);
     if (r == nullptr) return nullptr;
-    vista(r->datos, r->filas, r->columnas) = columnas.asDiagonal() * lu.inverse() * filas.asDiagonal();
+    // The scales of a rotation with a far origin leave its rows almost alike; a step of Newton's brings the digits back.
+    const matriz x = lu.inverse(), resto = matriz::Identity(a.rows(), a.cols()) - a * x;
+    vista(r->datos, r->filas, r->columnas) = columnas.asDiagonal() * (x + x * resto) * filas.asDiagonal();
     return r.release();
 }
 

@@ -104,6 +104,7 @@ PRUEBA(mt, un_arco_tiene_sus_limites_con_su_tolerancia) {
                  {1. - 0.999 * T, 1., 2., CIERTO},
                  {1. - 1.001 * T, 1., 2., FALSO}, {0., 6., 0.5, CIERTO}, {5.9, 6., 0.5, FALSO}, {3., 0., VUELTA, CIERTO},
                  {3., 1., 1. - VUELTA, CIERTO}, {3., 1., 1., FALSO}, {1., 1., 1., CIERTO}, {3., 1., abajo(1.), FALSO},
+                 {1., 0., -2. * VUELTA, CIERTO}, {4., 0., -1.5 * VUELTA, FALSO},
                  {1. + VUELTA, 0.9, 1.1, CIERTO}, {1. - 9. * VUELTA, 0.9, 1.1, CIERTO}, {T, 0., 0., CIERTO},
                  {arriba(T), 0., 0., FALSO}, {1.5, 9., 0.5, FALSO}, {3., 9., 0.5, CIERTO}, {1.5, 0.5, 9., CIERTO},
                  {NAN_, 0., VUELTA, FALSO}, {1., 0., INF, FALSO}, {1., -1e300, 0., CIERTO}};
@@ -146,6 +147,20 @@ PRUEBA(mt, cada_tolerancia_esta_en_su_limite) {
     EXPECT_TRUE(cruza(seg(-1., 0., 1., 0.), seg(0., C, 0., 1.)) && !cruza(seg(-1., 0., 1., 0.), seg(0., arriba(C), 0., 1.)));
     EXPECT_FALSE(cruza(seg(0., 0., 2., 2.), seg(1., 1., 3., 3.)) || cruza(seg(0., 0., 0., 0.), vertical(0.)) ||
                  cruza(seg(0., NAN_, 1., 0.), vertical(0.)));
+    // What is on one line but for the rounding of its coordinates is parallel, and what is off it by more is not.
+    azar a(6);
+    for (int i = 0; i < CASOS; ++i) {
+        const vn::lugar l = vn::lugar_de(i);
+        const double g = a.entre(0., VUELTA), z = a.entre(-1., 1.);
+        const auto p = [&](double t, double al_lado = 0.) {
+            return vector3{l.x + t * std::cos(g) - al_lado * std::sin(g), l.y + t * std::sin(g) + al_lado * std::cos(g), l.z + t * z};
+        };
+        const double k = a.entre(.1, 10.), fuera = l.escala(1.) * 1e-11;
+        const vector3 e[] = {p(0.), p(k), p(k / 2.), p(3. * k), p(.6 * k, fuera), p(.3 * k, -fuera)};
+        ASSERT_FALSE(cruza(seg(e[0].x, e[0].y, e[1].x, e[1].y), seg(e[2].x, e[2].y, e[3].x, e[3].y))) << i;
+        ASSERT_TRUE(cruza(seg(e[0].x, e[0].y, e[1].x, e[1].y), seg(e[4].x, e[4].y, e[5].x, e[5].y))) << i;
+        ASSERT_TRUE(ejes(e[0], e[1], e[3]).hay == FALSO && ejes(e[2], e[3], e[0]).hay == FALSO && ejes(e[0], e[1], e[4]).hay == CIERTO) << i;
+    }
     EXPECT_TRUE(mt_puntos2D_iguales(C, 0., 0., -C) == CIERTO && mt_puntos2D_iguales(arriba(C), 0., 0., 0.) == FALSO);
     EXPECT_TRUE(mt_puntos2D_iguales_con_tolerancia(0., 0.25, 0., 0., 0.25) == CIERTO &&
                 mt_puntos2D_iguales_con_tolerancia(0., arriba(0.25), 0., 0., 0.25) == FALSO);
@@ -193,31 +208,42 @@ PRUEBA(mt, los_cortes_de_segmentos_dicen_cual_queda_partido) {
     }
 }
 
-// Against the determinant in 128 bits, over near-collinear whole points of the full range; a digest over all answers.
-PRUEBA(mt, el_lado_es_exacto_en_todo_el_rango_de_enteros) {
+// Against the determinant in 128 bits: near-collinear whole points of the full range; at a survey's coordinates, in steps of
+// 2^-28 m, two segments at a hair's angle, the second longer at both ends. Where they cross is right along them, too.
+PRUEBA(mt, el_lado_y_el_cruce_son_exactos_en_todo_el_rango) {
     azar a(3);
     vn::huella h;
     __extension__ using largo = __int128;
-    for (int i = 0; i < CASOS; ++i) {
-        const auto x = [&] { return a.entero_entre(INT32_MIN, INT32_MAX); };
-        const int64_t x1 = x(), y1 = x(), x2 = x(), y2 = x(), n = a.entero_entre(-3, 3), m = a.entero_entre(1, 1000);
-        // About the m-th thousandth of the segment, to the unit.
-        const int64_t px = x1 + (x2 - x1) * m / 1000 + n, py = y1 + (y2 - y1) * m / 1000, qx = x(), qy = x();
-        const auto lado = [](int64_t ax, int64_t ay, int64_t bx, int64_t by, int64_t cx, int64_t cy) {
-            const largo d = largo(bx - ax) * (cy - ay) - largo(by - ay) * (cx - ax);
-            return (d > 0) - (d < 0);
+    for (int i = 0; i < 2 * CASOS; ++i) {
+        const bool lejos = i % 2 != 0;
+        const double paso = lejos ? 0x1p-28 : 1.;
+        const int64_t ox = lejos ? 500000ll << 28 : 0, oy = lejos ? 4500000ll << 28 : 0, lado_ = lejos ? 1ll << 31 : INT32_MAX;
+        const int64_t pelo = lejos ? 1ll << (2 + a.entero(21)) : 3;
+        const auto x = [&] { return a.entero_entre(-lado_ - 1, lado_); };
+        const auto n = [&] { return a.entero_entre(-pelo, pelo); };
+        const int64_t x1 = ox + x(), y1 = oy + x(), x2 = ox + x(), y2 = oy + x(), m = lejos ? -500 : a.entero_entre(1, 1000), d = n();
+        // About the m-th thousandth of the segment, to a few units.
+        const int64_t px = x1 + (x2 - x1) * m / 1000 + d, py = y1 + (y2 - y1) * m / 1000 + (lejos ? n() : d);
+        const int64_t qx = lejos ? x2 + (x2 - x1) / 2 + n() : x(), qy = lejos ? y2 + (y2 - y1) / 2 + n() : x();
+        const auto giro = [](int64_t ax, int64_t ay, int64_t bx, int64_t by, int64_t cx, int64_t cy) {
+            return largo(bx - ax) * (cy - ay) - largo(by - ay) * (cx - ax);
         };
-        const int s1 = lado(x1, y1, x2, y2, px, py), s2 = lado(x1, y1, x2, y2, qx, qy);
-        const int pq = lado(px, py, qx, qy, x1, y1) * lado(px, py, qx, qy, x2, y2);
-        const auto r = [](int64_t v) { return static_cast<double>(v); };
+        const auto lado = [](largo g) { return (g > 0) - (g < 0); };
+        const int s1 = lado(giro(x1, y1, x2, y2, px, py)), s2 = lado(giro(x1, y1, x2, y2, qx, qy));
+        const largo g1 = giro(px, py, qx, qy, x1, y1), g2 = giro(px, py, qx, qy, x2, y2);
+        const int pq = lado(g1) * lado(g2);
+        const auto r = [paso](int64_t v) { return paso * static_cast<double>(v); };
         mt_segmento_t s = seg(r(x1), r(y1), r(x2), r(y2)), t = seg(r(px), r(py), r(qx), r(qy));
         mt_calcula_inter_segmentos(&s, &t);
+        if (pq == 0) continue; // an end of the one on the other
         ASSERT_EQ(t.numcortes, s1 * s2 < 0 && pq < 0 ? 1u : 0u) << i;
         ASSERT_EQ(s.numcortes, (s1 * s2 < 0 || (s1 == 0 && m < 1000)) && pq <= 0 ? 1u : 0u) << i;
-        ASSERT_LT(t.numcortes * mt_distancia_a_recta(s.x3, s.y3, t.x1, t.y1, t.x2, t.y2), 2e-6) << i;
         h << s.numcortes << s.x3 << s.y3;
+        if (t.numcortes == 0) continue;
+        const double parte = static_cast<double>(g1) / static_cast<double>(g1 - g2), cota = lejos ? 4e-9 : 2e-6;
+        ASSERT_LT(mt_distancia(s.x3, s.y3, s.x1 + parte * (s.x2 - s.x1), s.y1 + parte * (s.y2 - s.y1)), cota) << i;
     }
-    EXPECT_EQ(h(), 1379417804056615147u);
+    EXPECT_EQ(h(), 12950052506369829053u);
 }
 
 PRUEBA(mt, las_raices_van_en_orden_y_no_pierden_cifras) {
@@ -227,7 +253,8 @@ PRUEBA(mt, las_raices_van_en_orden_y_no_pierden_cifras) {
                  {1., 2., 1., -1., -1.}, {1., 0., 0., 0., 0.},
                  {0., 2., -4., 2., 2.}, {0., 0., 1., 9., 9.}, {1., 0., 1., 9., 9.}, {1., -1e8, 1., 1e8, 1e-8},
                  {NAN_, 1., 0., 9., 9.}, {1., INF, 0., 9., 9.},
-                 {0x1p600, -3 * 0x1p600, 0x1p601, 2., 1.}, {1e-300, 1e300, 0., 9., 9.}};
+                 {0x1p600, -3 * 0x1p600, 0x1p601, 2., 1.}, {1e-170, -3e-170, 2e-170, 2., 1.}, {1e200, 3., 1e-200, -0.38196601125010515e-200, -2.618033988749895e-200},
+                 {94906265.625, -189812534., 94906268.375, 1.0000000289759583, 1.}, {1e-300, 1e300, 0., 9., 9.}};
     for (const auto &f : filas) {
         double r1 = 9., r2 = 9.;
         EXPECT_EQ(mt_raices_ecuacion_segundo_grado(f.a, f.b, f.c, &r1, &r2), f.r1 != 9.) << "row " << &f - filas;
