@@ -88,7 +88,8 @@ void ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(double A, doubl
     if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
     const Punto3D v{0., 0., 1.};
     Punto3D u = vectorial(v, {A, B, C});
-    mt_pasar_a_unitario_3D(&u.x, &u.y, &u.z);
+    const vnbool es_plano_vertical = mt_pasar_a_unitario_3D(&u.x, &u.y, &u.z);
+    AFIRMA(es_plano_vertical == CIERTO);
     vn::da(Ux, Uy, Uz, u);
     vn::da(Vx, Vy, Vz, v);
 }

@@ -1,13 +1,11 @@
 #define VN_MODULO "interarc (NUCLEOS.DLL)"
 #include "geometry/interarc.h"
 #include "foundation/afirma.h"
-#include "foundation/arr_priv.h"
 #include "foundation/mt.h"
 #include "foundation/vnmath.h"
 #include <algorithm>
 #include <cmath>
-#include <memory>
-#include <utility>
+#include <vector>
 
 namespace {
 
@@ -16,11 +14,6 @@ namespace {
 constexpr double MISMA_COORDENADA = 0.0001;
 // How near in each axis a cut of one arc must be to one of the other to be the same point.
 constexpr double MISMO_PUNTO = 1e-5;
-
-struct destruye_puntos {
-    void operator()(arrPunto2D *a) const { arr_DestruyePunto2D(&a); }
-};
-using puntos_propios = std::unique_ptr<arrPunto2D, destruye_puntos>;
 
 // A circle or an arc; everything is worked out relative to its centre.
 struct curva {
@@ -46,40 +39,46 @@ bool raices(double a, double b, double c, double *r1, double *r2) {
     return mt_raices_ecuacion_segundo_grado(a, b, c, r1, r2) == CIERTO;
 }
 
-// The two points where the line of the segment, relative to the centre, meets the circle. An almost vertical
-// or horizontal segment becomes one at its first end.
-bool cortes_de_la_recta(segmento &s, double radio, Punto2D (&p)[2]) {
-    const double dx = s.x2 - s.x1, dy = s.y2 - s.y1, r2 = CUAD(radio);
+// The points q with n q = c, n of unit length, relative to some centre. Sums of such small figures keep digits that the
+// slope and the ordinate at the origin of a long and steep line would lose.
+struct linea {
+    Punto2D n;
+    double c;
+
+    linea desde(Punto2D otro_centro) const { return {n, c - (n.x * otro_centro.x + n.y * otro_centro.y)}; }
+
+    // Where it meets the circle about the centre, half a chord to each side of its foot: the upper point first, on a
+    // horizontal line the right one. A line of the axes that only touches has no cut, another one the same point twice.
+    bool corta(double radio, Punto2D (&p)[2]) const {
+        const double media2 = (radio - c) * (radio + c);
+        if (!(media2 >= 0.) || (media2 == 0. && (n.x == 0. || n.y == 0.))) return false;
+        const double media = n.x > 0. || (n.x == 0. && n.y < 0.) ? RAIZ(media2) : -RAIZ(media2);
+        p[0] = {c * n.x - media * n.y, c * n.y + media * n.x};
+        p[1] = {c * n.x + media * n.y, c * n.y - media * n.x};
+        return true;
+    }
+};
+
+// The line of a segment; an almost vertical or horizontal one becomes one at its first end.
+linea linea_de(segmento &s) {
+    const double dx = s.x2 - s.x1, dy = s.y2 - s.y1;
     if (std::fabs(dx) < MISMA_COORDENADA) {
         s.x2 = s.x1;
-        const double y2 = r2 - CUAD(s.x1);
-        if (y2 <= 0.) return false; // one that only touches is no cut
-        const double y = RAIZ(y2);
-        p[0] = {s.x1, y};
-        p[1] = {s.x1, -y};
-        return true;
+        return {{1., 0.}, s.x1};
     }
     if (std::fabs(dy) < MISMA_COORDENADA) {
         s.y2 = s.y1;
-        const double x2 = r2 - CUAD(s.y1);
-        if (x2 <= 0.) return false;
-        const double x = RAIZ(x2);
-        p[0] = {x, s.y1};
-        p[1] = {-x, s.y1};
-        return true;
+        return {{0., 1.}, s.y1};
     }
-    const double m = dy / dx, n = s.y2 - s.x2 * m, a = 1. + CUAD(m);
-    if (!raices(a, 2. * m * n, CUAD(n) - r2, &p[0].x, &p[1].x)) return false;
-    if (!raices(a, -2. * n, CUAD(n) - r2 * CUAD(m), &p[0].y, &p[1].y)) return false;
-    if (m < 0.) std::swap(p[0].x, p[1].x);
-    return true;
+    const double l = mt_distancia(0., 0., dx, dy);
+    return {{dy / l, -dx / l}, (s.x1 * dy - s.y1 * dx) / l};
 }
 
 bool corta(const segmento &dado, const curva &c, arrPunto2D *puntos) {
     segmento s = dado.desde(c.xc, c.yc);
     Punto2D p[2];
     if (s.x1 == s.x2 && s.y1 == s.y2) return false;
-    if (!cortes_de_la_recta(s, c.radio, p)) return false;
+    if (!linea_de(s).corta(c.radio, p)) return false;
     bool alguno = false;
     for (const Punto2D &q : p)
         if (mt_punto_pertenece_a_segmento(q.x, q.y, s.x1, s.y1, s.x2, s.y2) == CIERTO && c.tiene(q.x, q.y)) {
@@ -89,23 +88,51 @@ bool corta(const segmento &dado, const curva &c, arrPunto2D *puntos) {
     return alguno;
 }
 
-// The line of equal power of two circles, as a segment that spans both; false when they do not meet. It is
-// found relative to the first centre, where the squares of the coordinates take no digits from those of the
-// radii.
-bool eje_radical(const curva &c1, const curva &c2, segmento &eje) {
+// The line of equal power of two circles, relative to the first centre, where the squares of the coordinates take no
+// digits from those of the radii; false when they do not meet. It is vertical where its x changes by less than the
+// tolerance over both circles, and then stands at the x of their lowest point.
+bool eje_radical(const curva &c1, const curva &c2, linea &eje) {
     const double dx = c2.xc - c1.xc, dy = c2.yc - c1.yc, d = mt_distancia(c1.xc, c1.yc, c2.xc, c2.yc);
     if (d > c1.radio + c2.radio || std::fabs(c1.radio - c2.radio) > d || !(d >= MISMA_COORDENADA))
         return false;
-    const double a2 = -2. * dx, b2 = -2. * dy,
-                 dif_c = -CUAD(c1.radio) - (CUAD(dx) + CUAD(dy) - CUAD(c2.radio));
-    if (std::fabs(dx) >= MISMA_COORDENADA) {
-        const double bajo = std::min(-c1.radio, dy - c2.radio), alto = std::max(c1.radio, dy + c2.radio);
-        eje = {(-b2 * bajo + dif_c) / a2, bajo, (-b2 * alto + dif_c) / a2, alto};
-    } else {
-        const double y = dif_c / b2;
-        eje = {std::min(-c1.radio, dx - c2.radio), y, std::max(c1.radio, dx + c2.radio), y};
+    const double potencia = (CUAD(dx) + CUAD(dy) + (c1.radio - c2.radio) * (c1.radio + c2.radio)) / 2.;
+    if (std::fabs(dx) < MISMA_COORDENADA) {
+        eje = {{0., 1.}, potencia / dy};
+        return true;
     }
+    const double bajo = std::min(-c1.radio, dy - c2.radio), alto = std::max(c1.radio, dy + c2.radio);
+    if (std::fabs(dy / dx * (alto - bajo)) < MISMA_COORDENADA)
+        eje = {{1., 0.}, (potencia - dy * bajo) / dx};
+    else
+        eje = {{dx / d, dy / d}, potencia / d};
     return true;
+}
+
+// The cuts of that line with one of the circles, if within its arc.
+std::vector<Punto2D> cortes(const linea &eje, const curva &c) {
+    Punto2D p[2];
+    std::vector<Punto2D> r;
+    if (!eje.corta(c.radio, p)) return r;
+    for (const Punto2D &q : p)
+        if (c.tiene(q.x, q.y)) r.push_back(q);
+    return r;
+}
+
+bool cortan(const curva &c1, const curva &c2, arrPunto2D *puntos) {
+    linea eje;
+    if (!eje_radical(c1, c2, eje)) return false;
+    const Punto2D al_segundo{c2.xc - c1.xc, c2.yc - c1.yc};
+    const std::vector<Punto2D> del2 = c2.es_arco ? cortes(eje.desde(al_segundo), c2) : std::vector<Punto2D>{};
+    bool alguno = false;
+    for (const Punto2D &p : cortes(eje, c1)) {
+        const auto es_el = [&](const Punto2D &q) {
+            return std::fabs(al_segundo.x + q.x - p.x) <= MISMO_PUNTO && std::fabs(al_segundo.y + q.y - p.y) <= MISMO_PUNTO;
+        };
+        if (c2.es_arco && std::none_of(del2.begin(), del2.end(), es_el)) continue;
+        arr_AppendPunto2D(puntos, c1.xc + p.x, c1.yc + p.y);
+        alguno = true;
+    }
+    return alguno;
 }
 
 } // namespace
@@ -127,35 +154,17 @@ vnbool mt_interseccion_segmento_arco(double x1, double y1, double x2, double y2,
 vnbool mt_interseccion_entre_circunferencias(double xc1, double yc1, double radio1, double xc2, double yc2,
                                              double radio2, arrPunto2D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
-    segmento eje;
-    if (!eje_radical({xc1, yc1, radio1}, {xc2, yc2, radio2}, eje)) return FALSO;
-    puntos_propios cortes(arr_CreaPunto2D(0));
-    if (!corta(eje, {0., 0., radio1}, cortes.get())) return FALSO;
-    for (const Punto2D &p : vn::tramo(cortes.get())) arr_AppendPunto2D(puntos, xc1 + p.x, yc1 + p.y);
-    return CIERTO;
+    return cortan({xc1, yc1, radio1}, {xc2, yc2, radio2}, puntos) ? CIERTO : FALSO;
 }
 
 vnbool mt_interseccion_entre_arcos(double xc1, double yc1, double radio1, double angulo_inicial1,
                                    double angulo_final1, double xc2, double yc2, double radio2,
                                    double angulo_inicial2, double angulo_final2, arrPunto2D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
-    const curva c1{xc1, yc1, radio1, true, angulo_inicial1, angulo_final1};
-    const curva c2{xc2, yc2, radio2, true, angulo_inicial2, angulo_final2};
-    segmento eje;
-    if (!eje_radical(c1, c2, eje)) return FALSO;
-    puntos_propios del1(arr_CreaPunto2D(0)), del2(arr_CreaPunto2D(0));
-    curva r1 = c1, r2 = c2; // relative to the first centre, as the line is
-    r1.xc = r1.yc = 0.;
-    r2.xc -= xc1;
-    r2.yc -= yc1;
-    if (!corta(eje, r1, del1.get()) || !corta(eje, r2, del2.get())) return FALSO;
-    bool alguno = false;
-    for (const Punto2D &p : vn::tramo(del1.get()))
-        if (arr_ExistePunto2D(del2.get(), p.x, p.y, MISMO_PUNTO, nullptr) == CIERTO) {
-            arr_AppendPunto2D(puntos, xc1 + p.x, yc1 + p.y);
-            alguno = true;
-        }
-    return alguno ? CIERTO : FALSO;
+    return cortan({xc1, yc1, radio1, true, angulo_inicial1, angulo_final1},
+                  {xc2, yc2, radio2, true, angulo_inicial2, angulo_final2}, puntos)
+               ? CIERTO
+               : FALSO;
 }
 
 vnbool mt_interseccion_elipse_circunferencia(double xc_circunferencia, double yc_circunferencia, double radio,

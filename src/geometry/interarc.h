@@ -12,11 +12,11 @@
 VN_C_INICIO
 
 /** Where a segment cuts a circle. A segment that is vertical or horizontal to 1e-4 is taken as such, at its
-   first end; one of those that only touches the circle does not cut it, while the touching point of any other
-   comes twice. */
+   first end: the same one reversed may be cut elsewhere, by up to that in its own x or y. One of those that only
+   touches the circle does not cut it, while the touching point of any other comes twice. */
 vnbool mt_interseccion_segmento_circunferencia(double x1, double y1, double x2, double y2, double xc,
                                                double yc, double radio, arrPunto2D *puntos);
-/** The same within an arc. */
+/** The same within an arc, whose ends have the margin of mt_angulo_dentro_de_rango. */
 vnbool mt_interseccion_segmento_arco(double x1, double y1, double x2, double y2, double xc, double yc,
                                      double radio, double angulo_inicial, double angulo_final,
                                      arrPunto2D *puntos);

@@ -68,17 +68,18 @@ class cadena {
         return true;
     }
 
-    // The axes square to the path, which runs against Y1, with U as near as can be to the last one.
-    void orienta(Punto3D y1) {
-        Punto3D x2, y2, z2;
-        ejes_de_tres({}, -y1, u_, x2, y2, z2);
-        u_ = y2;
-        v_ = z2;
-    }
+    // The axes square to the path, which runs against Y1, with U as near as can be to the last one; with V, where the path
+    // runs along U. Three points on a line tell no path: the last axes stay.
     void orienta(Punto3D o, Punto3D a, Punto3D b) {
-        Punto3D x1, y1, z1;
-        ejes_de_tres(o, a, b, x1, y1, z1);
-        orienta(y1);
+        Punto3D x1, y1, z1, x2, y2, z2;
+        if (!ejes_de_tres(o, a, b, x1, y1, z1)) return;
+        if (ejes_de_tres({}, -y1, u_, x2, y2, z2)) {
+            u_ = y2;
+            v_ = z2;
+        } else if (ejes_de_tres({}, -y1, v_, x2, y2, z2)) {
+            u_ = -z2;
+            v_ = y2;
+        }
     }
 
     // The sections of a fillet.

@@ -371,9 +371,8 @@ vnbool p_lado_recta(const Punto2D *p, const Punto2D *o, const Punto2D *e) {
     // A very short base would make every value small.
     Punto2D d = resta(*e, *o);
     while (std::fabs(d.x) < 1. && std::fabs(d.y) < 1. && (d.x != 0. || d.y != 0.)) d = {d.x * 10., d.y * 10.};
-    const Punto2D f = {o->x + d.x, o->y + d.y};
-    const double valor = (f.y - o->y) * p->x + (o->x - f.x) * p->y + (f.x * o->y - o->x * f.y);
-    return logico(valor > -p_EPS);
+    const Punto2D r = resta(*p, *o);
+    return logico(d.y * r.x - d.x * r.y > -p_EPS);
 }
 
 uint32_t p_lado_punto_respecto_a_recta(const Punto2D *p, const Punto2D *o, double coseno, double seno) {

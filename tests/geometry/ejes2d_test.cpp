@@ -33,9 +33,10 @@ marco inclinado(double c, double s) { return {{}, {1, 0, 0}, {0, c, s}}; }
 PRUEBA(ejes2d, ir_a_global_y_volver_deja_todo_donde_estaba) {
     vn::azar a(31);
     for (int caso = 0; caso < 20000; ++caso) {
-        const marco m = marco_al_azar(a, 1000.), n = marco_al_azar(a, 1000.);
+        const vn::lugar lugar = vn::lugar_de(caso);
+        const marco m = marco_al_azar(a, 1000., lugar), n = marco_al_azar(a, 1000.);
         const vec p = vector_al_azar(a, 1000.);
-        const double e = 3000.;
+        const double e = lugar.escala(3000.), fuera = e * 1e-12;
         vec g, l, pie;
         double x, y;
         ejes2d_coordenada_3D_local_a_global(EJ(m), XYZ(p), A_XYZ(g));
@@ -43,11 +44,11 @@ PRUEBA(ejes2d, ir_a_global_y_volver_deja_todo_donde_estaba) {
         ejes2d_cambio_sistema_coordenadas(EJ(m), XYZ(g), A_XYZ(l));
         ASSERT_TRUE(iguales(l, p, e));
         ejes2d_coordenadas_3D_proyectado_a_3D(EJ(m), XYZ(g), A_XYZ(pie));
-        ejes2d_coordenadas_3D_a_2D(EJ(m), XYZ(pie), 1e-9, &x, &y);
+        ejes2d_coordenadas_3D_a_2D(EJ(m), XYZ(pie), fuera, &x, &y);
         ASSERT_TRUE(iguales({x, y, 0}, {p.x, p.y, 0}, e));
         const vec d = .6 * m.u + .8 * m.v;
         double dx, dy;
-        ejes2d_recta_3D_a_2D(EJ(m), XYZ(pie), XYZ(d), 1e-9, &x, &y, &dx, &dy);
+        ejes2d_recta_3D_a_2D(EJ(m), XYZ(pie), XYZ(d), fuera, &x, &y, &dx, &dy);
         ASSERT_TRUE(iguales({x, y, 0}, {p.x, p.y, 0}, e) && iguales({dx, dy, 0}, {.6, .8, 0}, 3.));
         ASSERT_TRUE(vn::cerca(ejes2d_distancia_con_signo_punto_a_plano(EJ(m), XYZ(g)), p.z, e));
 
@@ -77,35 +78,37 @@ PRUEBA(ejes2d, ir_a_global_y_volver_deja_todo_donde_estaba) {
 PRUEBA(ejes2d, las_polilineas_van_punto_a_punto) {
     vn::azar a(32);
     for (int caso = 0; caso < 500; ++caso) {
-        const marco m = marco_al_azar(a, 100.), n = {m.o + 3. * m.u - 2. * m.v, m.u, caso % 2 == 0 ? m.v : -1. * m.v};
+        const vn::lugar lugar = vn::lugar_de(caso / 2);
+        const double e = lugar.escala(1000.), fuera_ = e * 1e-12;
+        const marco m = marco_al_azar(a, 100., lugar), n = {m.o + 3. * m.u - 2. * m.v, m.u, caso % 2 == 0 ? m.v : -1. * m.v};
         arrPunto2D *plana = arr_CreaPunto2D(0);
         for (uint32_t i = a.entero(6); i-- > 0;) arr_AppendPunto2D(plana, a.entre(-9., 9.), a.entre(-9., 9.));
         const uint32_t num = arr_NumElemsPunto2D(plana);
         const puntos g(ejes2d_polilinea2D_a_3D(EJ(m), plana)), l(ejes2d_polilinea3D_transformada_a_locales(EJ(m), g)),
             vuelta(ejes2d_polilinea3D_transformada(EJ(m), l));
-        arrPunto2D *en_plano = ejes2d_polilinea3D_a_2D(EJ(m), g, 1e-9), *pies = ejes2d_polilinea3D_proyectada_a_2D(EJ(m), g);
+        arrPunto2D *en_plano = ejes2d_polilinea3D_a_2D(EJ(m), g, fuera_), *pies = ejes2d_polilinea3D_proyectada_a_2D(EJ(m), g);
         vnbool fuera = 7;
-        arrPunto2D *otra = ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(plana, EJ(m), EJ(n), 1e-9, &fuera);
+        arrPunto2D *otra = ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(plana, EJ(m), EJ(n), fuera_, &fuera);
         EXPECT_EQ(fuera, FALSO);
         ASSERT_TRUE(g.size() == num && vuelta.size() == num && arr_NumElemsPunto2D(otra) == num);
         for (uint32_t i = 0; i < num; ++i) {
             vec p{}, u{}, q{}, r{}, s{};
             arr_GetPunto2D(plana, i, &p.x, &p.y);
             ejes2d_coordenada_2D_a_3D_punto_poligono(EJ(m), plana, i, A_XYZ(u));
-            ASSERT_TRUE(iguales(g[i], u, 0.) && iguales(l[i], p, 300.) && iguales(vuelta[i], g[i], 300.));
+            ASSERT_TRUE(iguales(g[i], u, 0.) && iguales(l[i], p, e) && iguales(vuelta[i], g[i], e));
             arr_GetPunto2D(en_plano, i, &q.x, &q.y);
             arr_GetPunto2D(pies, i, &r.x, &r.y);
-            ASSERT_TRUE(iguales(q, p, 300.) && iguales(r, q, 0.));
+            ASSERT_TRUE(iguales(q, p, e) && iguales(r, q, 0.));
             // The contour keeps its winding: the planes that look opposite ways have it backwards.
             arr_GetPunto2D(otra, caso % 2 == 0 ? i : num - 1 - i, &s.x, &s.y);
-            ASSERT_TRUE(iguales(s, {p.x - 3., caso % 2 == 0 ? p.y + 2. : -(p.y + 2.), 0}, 300.));
-            ejes2d_cambia_de_un_sistema_coordenadas_a_otro(EJ(m), EJ(n), p.x, p.y, 1e-9, &q.x, &q.y);
+            ASSERT_TRUE(iguales(s, {p.x - 3., caso % 2 == 0 ? p.y + 2. : -(p.y + 2.), 0}, e));
+            ejes2d_cambia_de_un_sistema_coordenadas_a_otro(EJ(m), EJ(n), p.x, p.y, fuera_, &q.x, &q.y);
             ejes2d_cambia_de_un_sistema_coordenadas_a_otro_proyectando(EJ(m), EJ(n), p.x, p.y, &r.x, &r.y);
             ASSERT_TRUE(iguales(q, s, 0.) && iguales(r, s, 0.));
         }
         ejes2d_transforma_polilinea3D(EJ(m), l);
         ejes2d_polilinea3D_transforma_a_locales(EJ(m), l);
-        for (uint32_t i = 0; i < num; ++i) ASSERT_LT(std::fabs(l[i].z), 1e-9);
+        for (uint32_t i = 0; i < num; ++i) ASSERT_LT(std::fabs(l[i].z), fuera_);
         for (arrPunto2D **q : {&plana, &en_plano, &pies, &otra}) arr_DestruyePunto2D(q);
     }
 }

@@ -41,11 +41,11 @@ inline vec direccion_al_azar(vn::azar &a) {
         if (largo(d) > 0.1 && largo(d) < 1.) return unitario(d);
     }
 }
-inline marco marco_al_azar(vn::azar &a, double lado) {
+inline marco marco_al_azar(vn::azar &a, double lado, const vn::lugar &l = {}) {
     const vec u = direccion_al_azar(a);
     for (;;) {
         const vec d = direccion_al_azar(a), v = d - por(d, u) * u;
-        if (largo(v) > 0.1) return {vector_al_azar(a, lado), u, unitario(v)};
+        if (largo(v) > 0.1) return {vec{l.x, l.y, l.z} + vector_al_azar(a, lado), u, unitario(v)};
     }
 }
 

@@ -24,9 +24,9 @@ inline bool en_segmento(const punto &p, const segmento &s) {
            std::min(s.a.y, s.b.y) <= p.y && p.y <= std::max(s.a.y, s.b.y);
 }
 
-inline punto un_punto(vn::azar &z, int64_t lado) {
+inline punto un_punto(vn::azar &z, int64_t lado, const vn::lugar &l = {}) {
     const int64_t x = z.entero_entre(-lado, lado);
-    return {x, z.entero_entre(-lado, lado)};
+    return {x + static_cast<int64_t>(l.x), z.entero_entre(-lado, lado) + static_cast<int64_t>(l.y)};
 }
 
 // How the segment lies to the closed box: apart from it, touching its border only, or with points inside.

@@ -42,8 +42,8 @@ std::vector<marco> toma(arrPuntero *ejes) {
     return r;
 }
 
-std::vector<vec> camino_al_azar(vn::azar &a, uint32_t n) {
-    std::vector<vec> p{vector_al_azar(a, 10.)};
+std::vector<vec> camino_al_azar(vn::azar &a, uint32_t n, const vn::lugar &l = {}) {
+    std::vector<vec> p{vec{l.x, l.y, l.z} + vector_al_azar(a, 10.)};
     vec u = direccion_al_azar(a);
     while (p.size() < n) {
         // Bends of two degrees and more, up to two thirds of a half turn.
@@ -62,7 +62,9 @@ PRUEBA(polin3d, el_acuerdo_es_tangente_en_sus_extremos_y_tiene_el_radio_pedido) 
     vn::azar a(51);
     int con = 0;
     for (int caso = 0; caso < 20000; ++caso) {
-        const vec p2 = vector_al_azar(a, 100.), u1 = direccion_al_azar(a), u2 = direccion_al_azar(a);
+        const vn::lugar l = vn::lugar_de(caso);
+        const double cota = l.escala(1000.) * 1e-12;
+        const vec p2 = vec{l.x, l.y, l.z} + vector_al_azar(a, 100.), u1 = direccion_al_azar(a), u2 = direccion_al_azar(a);
         const double l1 = a.entre(.5, 10.), l2 = a.entre(.5, 10.), radio = a.entre(.01, 3.), grados = a.entre(.5, 40.);
         const vec p1 = p2 + l1 * u1, p3 = p2 + l2 * u2;
         const double angulo = std::acos(std::clamp(por(u1, u2), -1., 1.)), t = radio / std::tan(angulo / 2.);
@@ -73,18 +75,18 @@ PRUEBA(polin3d, el_acuerdo_es_tangente_en_sus_extremos_y_tiene_el_radio_pedido) 
         ++con;
         // The first and the last point lie on the segments, square to the radius there; all are at the radius, in plane,
         // in even steps that are no longer than asked for.
-        ASSERT_LT(largo(f[0] - (p2 + t * u1)), 1e-9);
-        ASSERT_LT(largo(f.ultimo() - (p2 + t * u2)), 1e-9);
-        ASSERT_LT(std::fabs(por(f[0] - f.centro, u1)), 1e-9);
-        ASSERT_LT(std::fabs(por(f.ultimo() - f.centro, u2)), 1e-9);
+        ASSERT_LT(largo(f[0] - (p2 + t * u1)), cota);
+        ASSERT_LT(largo(f.ultimo() - (p2 + t * u2)), cota);
+        ASSERT_LT(std::fabs(por(f[0] - f.centro, u1)), cota);
+        ASSERT_LT(std::fabs(por(f.ultimo() - f.centro, u2)), cota);
         const double paso = (PI - angulo) / (f.size() - 1), cuerda = 2. * radio * std::sin(paso / 2.);
-        ASSERT_LT(paso, grados * PI / 180. + 1e-9);
-        ASSERT_GT(paso, (PI - angulo) * grados * PI / 180. / (PI - angulo + grados * PI / 180.) - 1e-9);
+        ASSERT_LT(paso, grados * PI / 180. + cota);
+        ASSERT_GT(paso, (PI - angulo) * grados * PI / 180. / (PI - angulo + grados * PI / 180.) - cota);
         for (uint32_t i = 0; i < f.size(); ++i) {
-            ASSERT_LT(std::fabs(largo(f[i] - f.centro) - radio), 1e-9);
-            ASSERT_LT(std::fabs(por(f[i] - p2, cruz(u1, u2))), 1e-9);
+            ASSERT_LT(std::fabs(largo(f[i] - f.centro) - radio), cota);
+            ASSERT_LT(std::fabs(por(f[i] - p2, cruz(u1, u2))), cota);
             if (i == 0) continue;
-            ASSERT_LT(std::fabs(largo(f[i] - f[i - 1]) - cuerda), 1e-9);
+            ASSERT_LT(std::fabs(largo(f[i] - f[i - 1]) - cuerda), cota);
         }
     }
     EXPECT_GT(con, 10000);
@@ -140,13 +142,14 @@ PRUEBA(polin3d, donde_no_hay_acuerdo) {
 PRUEBA(polin3d, circulos_y_arcos) {
     vn::azar a(52);
     for (int caso = 0; caso < 5000; ++caso) {
-        const marco m = marco_al_azar(a, 50.);
+        const vn::lugar l = vn::lugar_de(caso);
+        const marco m = marco_al_azar(a, 50., l);
         const auto n = static_cast<uint16_t>(4 + a.entero(40));
         const double d = a.entre(.1, 20.), ini = a.entre(-PI, PI), barre = a.entre(-3.1, 3.1);
         const puntos c(Pln3D_puntos_circulo(EJ(m), d, n));
         ASSERT_EQ(c.size(), n);
         for (uint32_t i = 0; i < n; ++i)
-            ASSERT_LT(largo(c[i] - m.punto(d / 2 * std::cos(2 * PI * i / n), d / 2 * std::sin(2 * PI * i / n))), 1e-11);
+            ASSERT_LT(largo(c[i] - m.punto(d / 2 * std::cos(2 * PI * i / n), d / 2 * std::sin(2 * PI * i / n))), l.escala(10.) * 1e-12);
         if (std::fabs(barre) < .01) continue;
         // The short way, and the long one; the ends at any distance from the centre.
         const vec e1 = m.punto(3 * std::cos(ini), 3 * std::sin(ini)), e2 = m.punto(std::cos(ini + barre), std::sin(ini + barre));
@@ -154,7 +157,7 @@ PRUEBA(polin3d, circulos_y_arcos) {
             const puntos r(Pln3D_puntos_arco(XYZ(m.o), XYZ(e1), XYZ(e2), UV_(m), d, n, otro));
             const double s = (otro == CIERTO ? barre - std::copysign(2 * PI, barre) : barre) / (n - 1);
             for (uint32_t i = 0; i < n; ++i)
-                ASSERT_LT(largo(r[i] - m.punto(d / 2 * std::cos(ini + i * s), d / 2 * std::sin(ini + i * s))), 1e-10) << caso;
+                ASSERT_LT(largo(r[i] - m.punto(d / 2 * std::cos(ini + i * s), d / 2 * std::sin(ini + i * s))), l.escala(100.) * 2e-12) << caso;
         }
     }
     // A half circle runs as the axes say.
@@ -247,7 +250,7 @@ PRUEBA(polin3d, los_dos_radios_de_eje_son_distintos_a_proposito) {
 PRUEBA(polin3d, las_secciones_siguen_al_camino) {
     vn::azar a(53);
     for (int caso = 0; caso < 3000; ++caso) {
-        const std::vector<vec> camino = camino_al_azar(a, 2 + a.entero(8));
+        const std::vector<vec> camino = camino_al_azar(a, 2 + a.entero(8), vn::lugar_de(caso / 4));
         const vnbool vertical = caso % 4 == 3 ? CIERTO : FALSO;
         const auto s = toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(puntos(camino), .05, a.entre(.1, .5), 15., vertical));
         ASSERT_GE(s.size(), camino.size());
@@ -288,6 +291,18 @@ PRUEBA(polin3d, las_secciones_de_las_esquinas_sin_acuerdo) {
     }
     EXPECT_TRUE(ejes2d_son_ejes_iguales(UV_(s[2]), UV_(s[1])));
     EXPECT_LT(largo(corto[2].w() - vec{0, 1, 0}), 1e-12);
+    // Where the told axes do not exist, since the path runs along U or the three points are on a line: square to it all the same.
+    for (const vn::lugar &l : {vn::lugar_de(0), vn::lugar_de(1)})
+        for (const double largo2 : {1., 2.}) {
+            const vec o{l.x, l.y, l.z}, entra{std::cos(.5), std::sin(.5), 0}, sale{-entra.y, entra.x, 0};
+            const auto t = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({o - 2. * entra, o, o + largo2 * sale}), FALSO));
+            ASSERT_EQ(t.size(), 3u);
+            EXPECT_GT(por(t[1].w(), largo2 == 1. ? sale : entra), 1. - 1e-9) << largo2;
+            EXPECT_TRUE(std::fabs(por(t[1].u, t[1].v)) < 1e-9 && std::fabs(largo(t[1].u) - 1.) < 1e-9);
+        }
+    // A vertical section of a bar that is vertical itself has no axes.
+    EXPECT_EQ(toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({{1, 1, 1}, {1, 1, 3}}), CIERTO)).size(), 2u);
+    vn::espera_informes({"es_plano_vertical == CIERTO", "es_plano_vertical == CIERTO"}, __FILE__, __LINE__);
     // Where there is no room for a fillet the corner stays; short segments go first.
     const auto q = toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(
         puntos({{10, 0, 0}, {0, 0, 0}, {0, .4, 0}, {0, 10, 0}, {10, 10, 0}, {20, 10, 0}}), 1., 50., 10., FALSO));

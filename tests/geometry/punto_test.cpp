@@ -209,8 +209,9 @@ PRUEBA(punto, los_cruces_son_los_exactos) {
     int cruzan = 0, paralelas = 0;
     for (int i = 0; i < 60000; ++i) {
         const int64_t lado = i % 3 == 0 ? 4 : 40;
-        const exacto::punto p1 = exacto::un_punto(z, lado), q1 = exacto::un_punto(z, lado), p2 = exacto::un_punto(z, lado),
-                            q2 = exacto::un_punto(z, lado);
+        const vn::lugar l = vn::lugar_de(i);
+        const auto un_punto = [&] { return exacto::un_punto(z, lado, l); };
+        const exacto::punto p1 = un_punto(), q1 = un_punto(), p2 = un_punto(), q2 = un_punto();
         const bool r1 = z.moneda(), r2 = z.moneda();
         const int64_t den = (p1.x - q1.x) * (q2.y - p2.y) - (p1.y - q1.y) * (q2.x - p2.x);
         const int64_t nt = (q2.x - q1.x) * (q2.y - p2.y) - (q2.y - q1.y) * (q2.x - p2.x);
@@ -227,7 +228,7 @@ PRUEBA(punto, los_cruces_son_los_exactos) {
         ++cruzan;
         bits << r->x << r->y;
         if (den == 0) continue;
-        const double t = static_cast<double>(nt) / static_cast<double>(den), escala = static_cast<double>(lado) * (1 + std::fabs(t));
+        const double t = static_cast<double>(nt) / static_cast<double>(den), escala = l.escala(static_cast<double>(lado)) * (1 + std::fabs(t));
         EXPECT_TRUE(vn::cerca(r->x, static_cast<double>(q1.x) + t * static_cast<double>(p1.x - q1.x), escala));
         EXPECT_TRUE(vn::cerca(r->y, static_cast<double>(q1.y) + t * static_cast<double>(p1.y - q1.y), escala));
         const Punto2D a = p1, b = q1, c = p2, d = q2;
@@ -237,7 +238,7 @@ PRUEBA(punto, los_cruces_son_los_exactos) {
     }
     EXPECT_GT(cruzan, 20000);
     EXPECT_GT(paralelas, 500);
-    EXPECT_EQ(bits(), 17124685164558711974u);
+    EXPECT_EQ(bits(), 4866154121192569203u);
 }
 
 // The same for points and segments, boxes and sides.
@@ -245,7 +246,9 @@ PRUEBA(punto, las_preguntas_sobre_coordenadas_enteras_dan_lo_exacto) {
     vn::azar z(42);
     int cuantas[4] = {};
     for (int i = 0; i < 40000; ++i) {
-        const exacto::punto p = exacto::un_punto(z, 9), a = exacto::un_punto(z, 9), b = exacto::un_punto(z, 9), c = exacto::un_punto(z, 9);
+        const vn::lugar l = vn::lugar_de(i);
+        const auto un_punto = [&] { return exacto::un_punto(z, 9, l); };
+        const exacto::punto p = un_punto(), a = un_punto(), b = un_punto(), c = un_punto();
         SCOPED_TRACE(i);
         EXPECT_EQ(con<p_contenido>(p, a, b), exacto::en_segmento(p, {a, b}));
         cuantas[0] += exacto::en_segmento(p, {a, b});
@@ -256,7 +259,9 @@ PRUEBA(punto, las_preguntas_sobre_coordenadas_enteras_dan_lo_exacto) {
         }
         if (a == b) continue;
         const int giro = exacto::signo(exacto::giro(a, b, p));
-        EXPECT_EQ(con<p_lado_recta>(p, a, b), giro <= 0);
+        // Also where the coordinates have digits to the last place.
+        const auto fino = [&l](const Punto2D &q) { return Punto2D{l.x + (q.x - l.x) * (1 + 0x1p-27), l.y + (q.y - l.y) * (1 + 0x1p-27)}; };
+        EXPECT_EQ(con<p_lado_recta>(fino(p), fino(a), fino(b)), giro <= 0);
         const double largo = std::hypot(b.x - a.x, b.y - a.y);
         const Punto2D pd = p, ad = a, bd = b, cd = c;
         EXPECT_EQ(p_lado_punto_respecto_a_recta(&pd, &ad, static_cast<double>(b.x - a.x) / largo, static_cast<double>(b.y - a.y) / largo),
@@ -279,14 +284,15 @@ PRUEBA(punto, las_preguntas_sobre_coordenadas_enteras_dan_lo_exacto) {
 PRUEBA(punto, los_angulos_y_los_giros_son_inversos) {
     vn::azar z(43);
     for (int i = 0; i < 30000; ++i) {
-        const Punto2D p = {z.entre(-1e3, 1e3), z.entre(-1e3, 1e3)};
+        const vn::lugar l = vn::lugar_de(i);
+        const Punto2D p = {l.x + z.entre(-1e3, 1e3), l.y + z.entre(-1e3, 1e3)};
         const double a = z.entre(0, VUELTA), r = z.entre(1, 1e3);
         const Punto2D q = {p.x + r * std::cos(a), p.y + r * std::sin(a)};
-        ASSERT_TRUE(vn::cerca(std::remainder(p_angulo(&p, &q) - a, VUELTA), 0, 1e3)) << i;
-        ASSERT_TRUE(vn::cerca(std::remainder(p_angulo_recta(&q, &p) - a, VUELTA / 2), 0, 1e3)) << i;
+        ASSERT_TRUE(vn::cerca(std::remainder(p_angulo(&p, &q) - a, VUELTA), 0, l.escala(1e3))) << i;
+        ASSERT_TRUE(vn::cerca(std::remainder(p_angulo_recta(&q, &p) - a, VUELTA / 2), 0, l.escala(1e3))) << i;
         double x = q.x, y = q.y;
         p_gira_alrededor_punto_sentido_horario(p.x, p.y, a, &x, &y); // back to the x axis
-        ASSERT_TRUE(vn::cerca(x, p.x + r, 1e4) && vn::cerca(y, p.y, 1e4)) << i;
+        ASSERT_TRUE(vn::cerca(x, p.x + r, l.escala(1e4)) && vn::cerca(y, p.y, l.escala(1e4))) << i;
         // Ranges by whole steps of a turn, the angle asked about between two of them.
         const int64_t k1 = z.entero_entre(-200, 200), k = z.entero_entre(-200, 200), k2 = z.entero_entre(-200, 200);
         const auto en = [](int64_t n, double mas) { return (static_cast<double>(n) + mas) * (VUELTA / 64); };

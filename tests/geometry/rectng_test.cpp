@@ -193,10 +193,12 @@ PRUEBA(rectng, los_recortes_son_los_exactos) {
     int dentro = 0, cortados = 0;
     for (int i = 0; i < 50000; ++i) {
         // Sides on even coordinates, ends on odd ones: none runs along a side.
-        const exacto::punto bajo = {2 * z.entero_entre(-5, 4), 2 * z.entero_entre(-5, 4)};
+        const vn::lugar l = vn::lugar_de(i);
+        const exacto::punto o2 = {static_cast<int64_t>(l.x), static_cast<int64_t>(l.y)};
+        const exacto::punto bajo = {o2.x + 2 * z.entero_entre(-5, 4), o2.y + 2 * z.entero_entre(-5, 4)};
         const exacto::punto alto = {bajo.x + 2 * z.entero_entre(1, 5), bajo.y + 2 * z.entero_entre(1, 5)};
         const exacto::punto p = exacto::un_punto(z, 9), q = exacto::un_punto(z, 9);
-        const exacto::segmento s = {{2 * p.x + 1, 2 * p.y + 1}, {2 * q.x + 1, 2 * q.y + 1}};
+        const exacto::segmento s = {{o2.x + 2 * p.x + 1, o2.y + 2 * p.y + 1}, {o2.x + 2 * q.x + 1, o2.y + 2 * q.y + 1}};
         const Punto2D a = s.a, b = s.b, o = bajo, e = alto;
         const rectangulo_t r = de({o.x, o.y, e.x, e.y});
         const limites entero = {a.x, a.y, b.x, b.y};
@@ -210,19 +212,19 @@ PRUEBA(rectng, los_recortes_son_los_exactos) {
         for (const size_t k : {0u, 2u}) {
             const double x = c.extremos[k], y = c.extremos[k + 1];
             bits << x << y;
-            if (como == exacto::caja::dentro) { ASSERT_TRUE(vn::cerca(c_antiguo.extremos[k], x, 100) && vn::cerca(c_antiguo.extremos[k + 1], y, 100)) << i; }
+            if (como == exacto::caja::dentro) { ASSERT_TRUE(vn::cerca(c_antiguo.extremos[k], x, l.escala(100)) && vn::cerca(c_antiguo.extremos[k + 1], y, l.escala(100))) << i; }
             if (k == 0 ? dentro_a : dentro_b) {
-                ASSERT_TRUE(vn::cerca(x, entero[k], 100) && vn::cerca(y, entero[k + 1], 100)) << i;
+                ASSERT_TRUE(vn::cerca(x, entero[k], l.escala(100)) && vn::cerca(y, entero[k + 1], l.escala(100))) << i;
                 continue;
             }
             ++cortados;
-            ASSERT_TRUE(vn::cerca((x - a.x) * (b.y - a.y), (y - a.y) * (b.x - a.x), 4000)) << i;
-            ASSERT_EQ(rectng_punto_esta_en_borde_con_precision(&r, x, y, 1e-12), CIERTO) << i;
+            ASSERT_TRUE(vn::cerca((x - a.x) * (b.y - a.y), (y - a.y) * (b.x - a.x), l.escala(4000) * 4)) << i;
+            ASSERT_EQ(rectng_punto_esta_en_borde_con_precision(&r, x, y, l.escala(1.) * 1e-12), CIERTO) << i;
         }
     }
     EXPECT_GT(dentro, 5000);
     EXPECT_GT(cortados, 5000);
-    EXPECT_EQ(bits(), 12389008979472392390u);
+    EXPECT_EQ(bits(), 1732832937341063034u);
 }
 
 PRUEBA(rectng, las_tiras_se_alargan_hasta_la_que_estorba) {
