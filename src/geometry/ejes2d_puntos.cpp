@@ -39,6 +39,8 @@ bool distintos(Punto3D a, Punto3D b, double precision) {
 
 double modulo(Punto3D a) { return std::sqrt(escalar(a, a)); }
 
+double mayor_coordenada(Punto3D p) { return std::max({std::fabs(p.x), std::fabs(p.y), std::fabs(p.z)}); }
+
 // The line of two points, whose feet are those of mt_proyecta_punto_sobre_recta_3D, bit for bit.
 struct recta {
     Punto3D o, u;
@@ -47,22 +49,23 @@ struct recta {
     recta(Punto3D p1, Punto3D p2, double precision) : o(p1), u(p2 - p1) {
         hay = distintos(p1, p2, precision) && mt_pasar_a_unitario_3D(&u.x, &u.y, &u.z) == CIERTO;
     }
-    double distancia(Punto3D p) const {
+    // The greatest coordinate of the way from the foot of a point.
+    double desvio(Punto3D p) const {
         const Punto3D d = p - o;
-        return modulo(d - escalar(d, u) * u);
+        return mayor_coordenada(d - escalar(d, u) * u);
     }
     // Whether a point is off the line, by its foot.
     bool deja_fuera(Punto3D p, double precision) const { return hay && distintos(p, o + escalar(p - o, u) * u, precision); }
 };
 
-double mayor_coordenada(Punto3D p) { return std::max({std::fabs(p.x), std::fabs(p.y), std::fabs(p.z)}); }
-
-// What is known of consecutive points: their box, and a segment that none of them is farther from than `lejos`. Distance
-// to a line is greatest at an end of a segment, so two distances bound those of all the points.
+// What is known of consecutive points: their box, and a segment that none of them is farther from than `lejos`. How far a
+// point is from a line, along each axis, or from a plane is greatest at an end of a segment, so two figures bound those of
+// all the points.
 struct bloque {
     static constexpr double INF = std::numeric_limits<double>::infinity();
     Punto3D minimo{INF, INF, INF}, maximo{-INF, -INF, -INF}, a, b;
     double lejos = 0.;
+    bool finito = true;
 
     explicit bloque(puntos_t p) : a(mas_lejano(p, p[0])), b(mas_lejano(p, a)) {
         const Punto3D ab = b - a;
@@ -72,6 +75,7 @@ struct bloque {
             maximo = {std::max(maximo.x, q.x), std::max(maximo.y, q.y), std::max(maximo.z, q.z)};
             const double t = ab2 > 0. ? std::clamp(escalar(q - a, ab) / ab2, 0., 1.) : 0.;
             lejos = std::max(lejos, modulo(q - (a + t * ab)));
+            finito = finito && std::isfinite(q.x + q.y + q.z);
         }
     }
 
@@ -87,8 +91,14 @@ struct bloque {
         return !apartados(p1, minimo, precision) && !apartados(p1, maximo, precision);
     }
     bool todos_alineados(const recta &r, double precision) const {
-        const double escala = std::max({mayor_coordenada(r.o), mayor_coordenada(minimo), mayor_coordenada(maximo)});
-        return std::max(r.distancia(a), r.distancia(b)) + lejos + REDONDEO * escala < precision;
+        return std::max(r.desvio(a), r.desvio(b)) + dudoso(r.o) < precision;
+    }
+    bool todos_en_plano(Punto3D o, Punto3D w, double precision) const {
+        return finito && std::max(std::fabs(escalar(a - o, w)), std::fabs(escalar(b - o, w))) + dudoso(o) <= precision;
+    }
+    // What a point may have more than both ends.
+    double dudoso(Punto3D o) const {
+        return lejos + REDONDEO * std::max({mayor_coordenada(o), mayor_coordenada(minimo), mayor_coordenada(maximo)});
     }
 };
 
@@ -127,6 +137,12 @@ class buscador {
         if (k3 == n) return false;
         t.p3 = p_[lugar(inicio, k3)];
         return true;
+    }
+
+    // A point off the plane; the number of points if none is.
+    uint32_t fuera_del_plano(Punto3D o, Punto3D w, double precision) const {
+        return primero(0, 0, [&](uint32_t i) { return !(std::fabs(escalar(p_[i] - o, w)) <= precision); },
+                       [&](const bloque &b) { return b.todos_en_plano(o, w, precision); });
     }
 
   private:
@@ -210,8 +226,14 @@ bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marc
         terna t;
         Punto3D w;
         if (!b.busca(s, t) || !ejes_de(t, m, w)) continue;
-        // The point that another plane failed at is likely to be off this one too.
+        // The point that another plane failed at is likely to be off this one too. After the first start it does not
+        // matter which one is.
         if (testigo != SIN_PUNTO && !(std::fabs(escalar(p[testigo] - t.p1, w)) <= prec.plano)) continue;
+        if (s > 0)
+            if (const uint32_t j = b.fuera_del_plano(t.p1, w, prec.plano); j < p.size()) {
+                testigo = j;
+                continue;
+            }
         const recorrido r = recorre(p, t.p1, w, prec.plano);
         if (r.falla == SIN_PUNTO) {
             const auto n = static_cast<double>(p.size());
@@ -221,7 +243,7 @@ bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marc
             return true;
         }
         testigo = r.falla;
-        if (s == 0 && comprueba_no_forma_eje) {
+        if (comprueba_no_forma_eje) {
             culpable_del_primero = r.falla;
             if (r.distancia > FACTOR_SIN_REMEDIO * prec.plano) {
                 culpable = r.falla;

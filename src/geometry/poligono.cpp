@@ -234,6 +234,59 @@ int32_t arista_para(const poligono_t *pol, const vertice &p) {
     return i;
 }
 
+// ---------------------------------------------------------------- the quick road
+
+// Up to this area of the bounds a cross product of differences of coordinates is a whole number that a double holds, so
+// that `lado` is exact too and the polygon strictly convex.
+constexpr double AREA_EXACTA = 0x1p+53;
+constexpr int32_t NINGUNA = -1;
+
+int64_t giro(const vertice &a, const vertice &b, const vertice &p) {
+    return (int64_t{b.x} - a.x) * (int64_t{p.y} - a.y) - (int64_t{b.y} - a.y) * (int64_t{p.x} - a.x);
+}
+
+// The first vertex of an edge that has the point outside, by bisection of the fan of vertex 0; NINGUNA if no edge has.
+int32_t arista_visible(const poligono_t *pol, const vertice &p) {
+    const vertice *v = pol->vertice;
+    const int32_t n = pol->numVertices;
+    if (giro(v[0], v[1], p) < 0) return 0;
+    if (giro(v[n - 1], v[0], p) < 0) return n - 1;
+    int32_t k = 1;
+    for (int32_t hasta = n - 1; hasta - k > 1;) {
+        const int32_t m = k + (hasta - k) / 2;
+        (giro(v[0], v[m], p) >= 0 ? k : hasta) = m;
+    }
+    return giro(v[k], v[k + 1], p) < 0 ? k : NINGUNA;
+}
+
+// Adds the point as the search over all vertices would, in a time that does not grow with their number but for the move
+// of the block. False, and nothing done, where that search has to be made: few vertices, figures that it rounds, and a
+// point that sees vertex 0, about which the edge that the search takes decides where the array begins.
+bool anade_deprisa(poligono_t *pol, const vertice &p) {
+    const double ancho = double(std::max(pol->xmax, p.x)) - std::min(pol->xmin, p.x),
+                 alto = double(std::max(pol->ymax, p.y)) - std::min(pol->ymin, p.y);
+    if (pol->numVertices < 5 || !(ancho * alto <= AREA_EXACTA)) return false;
+    const int32_t visible = arista_visible(pol, p);
+    if (visible == NINGUNA)
+        return p.x >= pol->xmin && p.x <= pol->xmax && p.y >= pol->ymin && p.y <= pol->ymax;
+    // The two tangents: all between them goes, what lies on the line of an edge included.
+    const vertice *v = pol->vertice;
+    int32_t t1 = visible, t2 = visible + 1;
+    while (t1 > 0 && giro(v[t1 - 1], v[t1], p) <= 0) --t1;
+    while (t2 + 1 < pol->numVertices && giro(v[t2], v[t2 + 1], p) <= 0) ++t2;
+    if (t1 == 0 || t2 >= pol->numVertices - 1) return false;
+    if (t2 == t1 + 1) {
+        inserta(pol, t2, p);
+    } else {
+        reemplaza(pol, t1 + 1, p);
+        std::move(v + t2, v + pol->numVertices, pol->vertice + t1 + 2);
+        redimensiona(pol, pol->numVertices - (t2 - t1 - 2));
+    }
+    t2 = t1 + 2;
+    poda_los_que(se_puede_quitar, pol, t1, t2);
+    return true;
+}
+
 void anade_fuera(poligono_t *pol, const vertice &p) {
     AFIRMA(pol->numVertices > 2);
     const int32_t i = arista_para(pol, p), j = siguiente(pol, i);
@@ -307,6 +360,6 @@ void poligono_anade_punto_a_poligono_convexo(poligono_t *pol, int32_t x, int32_t
             return;
         }
     default:
-        if (!poligono_punto_dentro(pol, p)) anade_fuera(pol, p);
+        if (!anade_deprisa(pol, p) && !poligono_punto_dentro(pol, p)) anade_fuera(pol, p);
     }
 }

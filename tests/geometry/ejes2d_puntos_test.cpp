@@ -98,8 +98,8 @@ std::vector<vec> lista_con_sorpresa(vn::azar &a) {
 }
 
 // Lists on which one start after another fails, in the ways that the search knows shortcuts for.
-std::vector<vec> lista_sin_suerte(vn::azar &a, int clase, size_t n, double ruido) {
-    const vec o = vector_al_azar(a, 100.), u = direccion_al_azar(a), v = unitario(cruz(u, direccion_al_azar(a)));
+std::vector<vec> lista_sin_suerte(vn::azar &a, int clase, size_t n, double ruido, const vn::lugar &l = {}) {
+    const vec o = vec{l.x, l.y, l.z} + vector_al_azar(a, 100.), u = direccion_al_azar(a), v = unitario(cruz(u, direccion_al_azar(a)));
     std::vector<vec> p;
     for (size_t i = 0; i < n; ++i) {
         const double t = static_cast<double>(i) / static_cast<double>(n);
@@ -111,6 +111,9 @@ std::vector<vec> lista_sin_suerte(vn::azar &a, int clase, size_t n, double ruido
         if (clase == 5) q = o + vector_al_azar(a, 1.);                               // no plane
         if (clase == 6) q = i % 97 == 96 ? o + a.entre(-1., 1.) * v : o + t * u;     // a line, and points off it
         if (clase == 7) q = o + a.entre(-1., 1.) * u + a.entre(-1., 1.) * v;         // a plane
+        // A plane that only late starts find: a quarter arc that is twisted a little, a zigzag between two lines.
+        if (clase == 8) q = o + 10. * std::cos(t) * u + 10. * std::sin(t) * v + 1e-3 * t * t * cruz(u, v);
+        if (clase == 9) q = o + t * u + (i % 2 == 0 ? 0. : 1e-4) * v + 1e-3 * t * t * cruz(u, v);
         q = q + ruido * vector_al_azar(a);
         p.push_back(q);
     }
@@ -118,8 +121,8 @@ std::vector<vec> lista_sin_suerte(vn::azar &a, int clase, size_t n, double ruido
 }
 
 // The same with noise, and with a few points where nobody expects them.
-std::vector<vec> lista_adversa(vn::azar &a, int clase, size_t n) {
-    std::vector<vec> p = lista_sin_suerte(a, clase, n, a.moneda() ? 0. : std::pow(10., a.entre(-12., -4.)));
+std::vector<vec> lista_adversa(vn::azar &a, int clase, size_t n, const vn::lugar &l) {
+    std::vector<vec> p = lista_sin_suerte(a, clase, n, a.moneda() ? 0. : std::pow(10., a.entre(-12., -4.)), l);
     for (uint32_t k = a.entero(3); k-- > 0 && n > 0;) {
         const auto i = a.entero(static_cast<uint32_t>(n));
         p[i] = p[0] + vector_al_azar(a, a.moneda() ? 1. : 2e-3);
@@ -135,7 +138,7 @@ PRUEBA(ejes2d_puntos, la_busqueda_rapida_responde_lo_que_la_lenta) {
     int ciertos = 0, con_indice = 0;
     for (int caso = 0; caso < 4000; ++caso) {
         const auto n = static_cast<size_t>(caso % 10 == 0 ? 500 + a.entero(700) : a.entero(12));
-        const std::vector<vec> p = caso % 10 == 5 ? lista_con_sorpresa(a) : lista_adversa(a, static_cast<int>(a.entero(8)), n);
+        const std::vector<vec> p = caso % 10 == 5 ? lista_con_sorpresa(a) : lista_adversa(a, static_cast<int>(a.entero(10)), n, vn::lugar_de(caso));
         const double plano = a.entero(3) == 0 ? std::pow(10., a.entre(-9., -1.)) : PLANO;
         const double distancia = a.entero(3) == 0 ? std::pow(10., a.entre(-7., -3.)) : PUNTOS;
         const vnbool comprueba = a.entero(3) != 0 ? FALSO : CIERTO;
@@ -160,7 +163,7 @@ PRUEBA(ejes2d_puntos, cien_mil_puntos_que_no_forman_ejes_no_eternizan_la_busqued
 PRUEBA(ejes2d_puntos, los_ejes_miran_al_lado_desde_el_que_el_poligono_va_a_izquierdas) {
     vn::azar a(42);
     for (int caso = 0; caso < 20000; ++caso) {
-        const marco m = marco_al_azar(a, 1000.);
+        const marco m = marco_al_azar(a, 1000., vn::lugar_de(caso));
         // A convex polygon in counter-clockwise order about W, or the other way round.
         std::vector<double> angulos(3 + a.entero(10));
         for (double &g : angulos) g = a.entre(0., 6.283);
