@@ -366,6 +366,7 @@ class guardado {
 } // namespace
 
 bool graba_obra(const texto &nombre, const plano &p, const texto &titulo, const campos_t &campos) {
+    const uint64_t informes = error_interno_numero_de_informes();
     const dueno_cadenas_u nombres(arr_CreaCADENA_u(0)), valores(arr_CreaCADENA_u(0));
     for (const auto &[n, v] : campos) {
         arr_AppendCADENA_u(nombres.get(), n.c_str());
@@ -386,7 +387,8 @@ bool graba_obra(const texto &nombre, const plano &p, const texto &titulo, const 
         }
         estado.acabado = true;
     }
-    return g.cierra();
+    // A project of which anything could not be said is not saved.
+    return error_interno_numero_de_informes() == informes && g.cierra();
 }
 
 lectura_obra lee_obra(const texto &nombre, obra_leida &o, std::string &motivo) {
