@@ -65,6 +65,7 @@ arrPunto3D *pto3dord_puntos(const pto3dord *puntos_ordenados) {
     if (!AFIRMA_NO_NULO(puntos_ordenados)) return nullptr;
     const uint32_t n = apunorde_numelems(puntos_ordenados->puntos, Punto3D);
     arrPunto3D *puntos = arr_CreaPunto3D(n);
+    if (puntos == nullptr) return nullptr;
     Punto3D *p = arr_GetBufferPunto3D(puntos);
     for (uint32_t i = 0; i < n; ++i) p[i] = *apunorde_get(puntos_ordenados->puntos, i, Punto3D);
     return puntos;
