@@ -141,18 +141,26 @@ void graba_general(const plano &p, vornsave *s) {
 std::string nombre_de_seccion(size_t i) { return i == 0 ? "PLANO" : "CAPA " + std::to_string(i); }
 
 // ---------------------------------------------------------------- reading
+// Ends the reading of a file that is no project or is damaged; it stays within this source.
+struct ilegible {};
+// What is read after a report of the library's is not the file's.
+void exige_lo_leido() {
+    if (trapable_ha_fallado() == CIERTO) throw ilegible{};
+}
 // What the file's own numbers say of each other must agree; a file where they do not is damaged.
-// Called inside a trap, where a report does not come back.
 void exige(bool cierto, const char *que) {
     if (!cierto) error_interno(que, VN_AQUI, 0);
+    exige_lo_leido();
 }
 
 std::vector<Punto2D> lee_puntos(vornsave *s) {
     const dueno_puntos a(vornsave_lee_arr_puntos2D(s));
+    exige_lo_leido();
     const Punto2D *p = arr_GetBufferConstPunto2D(a.get());
     return {p, p + arr_NumElemsPunto2D(a.get())};
 }
 std::vector<double> vector_de(dueno_doubles a) {
+    exige_lo_leido();
     const double *p = arr_GetBufferConstDouble(a.get());
     return {p, p + arr_NumElemsDouble(a.get())};
 }
@@ -172,10 +180,12 @@ colores lee_colores(size_t n, vornsave *s) {
 }
 texto lee_texto(vornsave *s) {
     const dueno_ancho t(vornsave_lee_cadena_unicode(s));
+    exige_lo_leido();
     return t ? texto(t.get()) : texto();
 }
 std::vector<texto> lee_textos(vornsave *s) {
     const dueno_cadenas_u a(vornsave_lee_arr_cadenas_unicode(s));
+    exige_lo_leido();
     std::vector<texto> v;
     for (uint32_t i = 0, n = arr_NumElemsCADENA_u(a.get()); i < n; ++i) v.emplace_back(arr_GetCADENA_u(a.get(), i));
     return v;
@@ -268,6 +278,7 @@ void lee_general(plano &p, vornsave *s) {
     p.tipos_de_linea = lee_textos(s);
     const dueno_cadenas clases(vornsave_lee_arr_cadenas(s));
     const dueno_ulongs cuantas(vornsave_lee_arr_ulong(s));
+    exige_lo_leido();
     const uint32_t n = arr_NumElemsCADENA(clases.get());
     exige(arr_NumElemsULong(cuantas.get()) == n, "num_cuentas == num_clases");
     for (uint32_t i = 0; i < n; ++i) p.sin_importar[arr_GetCADENA(clases.get(), i)] = arr_GetULong(cuantas.get(), i);
@@ -278,12 +289,14 @@ void lee_secciones(obra_leida &o, vornsave *s) {
     for (uint32_t i = 0; i < n; ++i) {
         const int64_t desde = vornsave_get_posicion(s);
         const dueno_ansi id(vornsave_lee_seccion(s));
+        exige_lo_leido();
         const std::string nombre = id.get();
         if (nombre == "PLANO") lee_general(o.p, s);
         else if (nombre.starts_with("CAPA ")) o.p.capas.push_back(lee_capa(s));
         // A section of a later version is passed over.
         else vornsave_ir_final_seccion(nombre.c_str(), s);
         vornsave_lee_final_seccion(nombre.c_str(), s);
+        exige_lo_leido();
         o.secciones.push_back({nombre, vornsave_get_posicion(s) - desde});
     }
 }
@@ -312,8 +325,7 @@ struct parcial_mientras_no_acabe {
     }
 };
 
-// Runs inside a trap: whatever is wrong with the file ends it, and nothing is left open.
-void lee(peticion *q) {
+void lee_entera(peticion *q) {
     obra_leida &o = q->leida;
     char *version = nullptr, *revision = nullptr;
     vnbool es_ejemplo = FALSO;
@@ -338,6 +350,14 @@ void lee(peticion *q) {
     lee_secciones(o, s.get());
     exige(lc_bytes_restantes(f.get()) == 0, "lc_bytes_restantes(f) == 0");
     estado.acabado = true;
+}
+
+// Runs inside a trap: whatever is wrong with the file ends it, and nothing is left open.
+void lee(peticion *q) {
+    try {
+        lee_entera(q);
+    } catch (const ilegible &) {
+    }
 }
 
 // A save that is given up, the old file as it was, unless it is closed.

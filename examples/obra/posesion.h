@@ -1,4 +1,4 @@
-// Owners of the library's handles: each is given back when its owner goes, a trap's unwinding included.
+// Owners of the library's handles: each is given back when its owner goes.
 #pragma once
 
 #include "foundation/arr.h"

@@ -3,10 +3,10 @@
 #include "foundation/afirma.h"
 #include "foundation/arr.h"
 #include "foundation/cad.h"
+#include "foundation/error_interno_priv.h"
 #include "foundation/fichconf.h"
 #include "foundation/lc_fichero.h"
 #include "foundation/propio_priv.h"
-#include "foundation/trapable.h"
 #include "foundation/vdir.h"
 #include "foundation/vornfile.h"
 #include "foundation/widestr.h"
@@ -110,10 +110,12 @@ struct escritura {
 void escribe_fichero(escritura *e) {
     vdir_crea_directorios_fichero_si_es_posible_UNICODE(e->ruta);
     fichero_propio f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->ruta));
+    if (f == nullptr) return;
     {
         const std::unique_ptr<vornsave, destruye_protocolo> v(vornsave_registra_bin(f.get()));
         vornsave_graba_arr_punterosST(e->lista, v.get(), registro, graba_registro);
     }
+    if (vn::atrapado()) return;
     vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), e->ruta);
 }
 

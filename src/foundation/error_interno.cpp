@@ -9,7 +9,6 @@
 #include <atomic>
 #include <charconv>
 #include <cstring>
-#include <exception>
 #include <string_view>
 
 namespace {
@@ -18,9 +17,8 @@ namespace {
 std::atomic<vnreceptor_informes> la_funcion{nullptr};
 std::atomic<void *> los_datos{nullptr};
 std::atomic<uint64_t> numero_de_informes{0};
-thread_local int trampas = 0;
+thread_local vn::trampa *trampa_interior = nullptr;
 thread_local bool informando = false;
-thread_local char ultimo_fallo[vn::MAXIMO_LINEA_INFORME] = "";
 
 // Appends to a fixed line; what does not fit is cut at a character's boundary.
 class linea_fija {
@@ -79,8 +77,7 @@ void entrega_al_receptor(const vninforme &informe) {
 
 namespace vn {
 
-int &trampas_abiertas() { return trampas; }
-char *linea_del_ultimo_fallo() { return ultimo_fallo; }
+trampa *&trampa_abierta() { return trampa_interior; }
 
 size_t linea_de_informe(const vninforme &informe, char *linea, size_t maximo) {
     linea_fija l(linea, maximo);
@@ -122,11 +119,10 @@ void escribe_linea_de_error(const vnwchar *texto) {
 void entrega(const vninforme &informe) {
     const plat::guarda_error guarda;
     numero_de_informes.fetch_add(1, std::memory_order_relaxed);
-    // While an exception is already unwinding, a second one would end the process: the report is only counted.
-    if (trampas > 0) {
-        if (std::uncaught_exceptions() > 0) return;
-        linea_de_informe(informe, ultimo_fallo, sizeof ultimo_fallo);
-        throw fallo_atrapado{};
+    if (trampa *t = trampa_interior; t != nullptr) {
+        if (!t->marcada) linea_de_informe(informe, t->linea, sizeof t->linea);
+        t->marcada = true;
+        return;
     }
     // A receiver that fails a check of its own must not report for ever.
     if (informando) return;
@@ -157,7 +153,6 @@ void error_interno_msg_u(const vnwchar *expresion, const char *modulo, uint32_t 
 
 void error_interno_liberando_mensaje_u(const vnwchar *expresion, const char *modulo, uint32_t linea, vnwchar *detalle,
                                        uint16_t clase) {
-    // Freed on the way out, a trap's unwinding included.
     const vn::propio<vnwchar> suyo(detalle);
     error_interno_msg_u(expresion, modulo, linea, detalle, clase);
 }

@@ -1,6 +1,6 @@
 /* Reports: what a failed check does. A report names the failed expression, the module and the line; it goes to the
    receiver that the host installed, or as one line to the error stream, and returns. Inside a trapped call
-   (trapable.h) it unwinds to the trap instead. */
+   (trapable.h) it marks the trap as failed instead, and returns too. */
 #ifndef VN_ERROR_INTERNO_H
 #define VN_ERROR_INTERNO_H
 

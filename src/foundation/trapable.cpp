@@ -3,33 +3,42 @@
 #include "foundation/afirma.h"
 #include "foundation/contexto_priv.h"
 #include "foundation/error_interno_priv.h"
+#include <algorithm>
 #include <cstring>
 #include <new>
 
 namespace {
 
-// Counts a trap of this thread over the call inside it.
-class trampa {
+thread_local char ultimo_fallo[vn::MAXIMO_LINEA_INFORME] = "";
+
+// The innermost trap of this thread over the call inside it.
+class trampa_propia {
   public:
-    trampa() { ++vn::trampas_abiertas(); }
-    ~trampa() { --vn::trampas_abiertas(); }
-    trampa(const trampa &) = delete;
-    trampa &operator=(const trampa &) = delete;
+    trampa_propia() : contextos_(vn::nivel_de_contexto()) {
+        esta_.exterior = vn::trampa_abierta();
+        vn::trampa_abierta() = &esta_;
+    }
+    // Also when an exception of the host's passes through.
+    ~trampa_propia() {
+        vn::trampa_abierta() = esta_.exterior;
+        vn::nivel_de_contexto() = std::min(vn::nivel_de_contexto(), contextos_);
+        if (esta_.marcada) std::strcpy(ultimo_fallo, esta_.linea);
+    }
+    trampa_propia(const trampa_propia &) = delete;
+    trampa_propia &operator=(const trampa_propia &) = delete;
+
+  private:
+    vn::trampa esta_;
+    uint32_t contextos_;
 };
 
 bool ejecuta(vnfunc_trapable funcion, void *datos) {
-    // A call that unwinds leaves the contexts that it had entered.
-    const uint32_t contextos = vn::nivel_de_contexto();
     try {
-        const trampa abierta;
+        const trampa_propia abierta;
         funcion(datos);
-        return true;
-    } catch (const vn::fallo_atrapado &) {
-        vn::nivel_de_contexto() = contextos;
-        return false;
+        return !vn::atrapado();
     } catch (const std::bad_alloc &) {
-        vn::nivel_de_contexto() = contextos;
-        std::strcpy(vn::linea_del_ultimo_fallo(), "memoria agotada\n");
+        std::strcpy(ultimo_fallo, "memoria agotada\n");
         return false;
     }
 }
@@ -43,4 +52,9 @@ vnbool trapable_nousar_recursivo_ejecuta_funcion_segura(vnfunc_trapable funcion,
     return ha_ido_bien;
 }
 
-const char *trapable_texto_del_ultimo_fallo(void) { return vn::linea_del_ultimo_fallo(); }
+vnbool trapable_ha_fallado(void) {
+    const vn::trampa *t = vn::trampa_abierta();
+    return t != nullptr && t->marcada ? CIERTO : FALSO;
+}
+
+const char *trapable_texto_del_ultimo_fallo(void) { return ultimo_fallo; }

@@ -136,7 +136,7 @@ void *reserva_a_cero(size_t tamanyo, const char *modulo, uint32_t linea) {
 
 // Nobody above can go on without the block: inside a trap the call unwinds, elsewhere the process ends with a line.
 [[noreturn, gnu::cold]] void sin_memoria(const char *modulo, uint32_t linea) {
-    if (vn::trampas_abiertas() > 0) throw std::bad_alloc();
+    if (vn::trampa_abierta() != nullptr) throw std::bad_alloc();
     error_interno_msg("memoria != NULL", modulo, linea, "memoria agotada", 0);
     std::abort();
 }

@@ -3,9 +3,9 @@
 #include "foundation/afirma.h"
 #include "foundation/arr.h"
 #include "foundation/avisos.h"
+#include "foundation/error_interno_priv.h"
 #include "foundation/lc_fichero.h"
 #include "foundation/propio_priv.h"
-#include "foundation/trapable.h"
 #include "foundation/unicode.h"
 #include "foundation/vdir.h"
 #include "foundation/vornfile.h"
@@ -113,6 +113,7 @@ void escribe_fichero(escritura *e) {
     vtxt_escr_ulong(num, f.get());
     vtxt_escr_string("; n\xFAmero de ficheros", f.get());
     for (uint32_t i = 0; i < num; ++i) vtxt_escr_cadena_unicode(arr_GetCADENA_u(lista, i), f.get());
+    if (vn::atrapado()) return;
     vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), e->path);
 }
 

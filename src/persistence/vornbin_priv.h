@@ -8,7 +8,7 @@
 
 namespace vn {
 
-// The owner of a stream on the way of a report: a trap unwinds through it.
+// The owner of a stream.
 struct cierra_fichero {
     void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
 };

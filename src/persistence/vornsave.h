@@ -366,8 +366,8 @@ acadorde *vornsave_lee_acadorde_con_funcion(vornsave *vornsave_datos, vnfunc_lee
 
 /* ---- Arrays of structures ---- */
 
-/** Arrays of pointers: the count, then each element by `funcion`. The elements that a reader returned before
-   a report unwound to a trap stay with the caller. */
+/** Arrays of pointers: the count, then each element by `funcion`. The reader's first
+   report ends the reading; the elements that it returned are in the array. */
 void vornsave_graba_arr_punteros(const arrPuntero *array, vornsave *vornsave_datos,
                                  vnfunc_graba_dato funcion);
 arrPuntero *vornsave_lee_arr_punteros(vornsave *vornsave_datos, vnfunc_lee_dato funcion);

@@ -3,6 +3,7 @@
 
 #include "foundation/afirma.h"
 #include "foundation/cad.h"
+#include "foundation/error_interno_priv.h"
 #include "foundation/propio_priv.h"
 #include "foundation/widestr.h"
 #include "persistence/vornsave.h"
@@ -140,7 +141,7 @@ struct vornsave : vn::operaciones_destino {
 
 namespace vn {
 
-// Owners of what is being read: a report inside a trap unwinds through them.
+// Owners of what is being read.
 template <auto DESTRUYE> struct suelta {
     template <class T> void operator()(T *p) const { DESTRUYE(&p); }
 };
@@ -236,11 +237,12 @@ inline uint32_t acota(vornsave *vornsave_datos, uint32_t numero, uint64_t bytes,
     return 0;
 }
 
-// Watches a loop that reads: it ends at its first failure, and over a source that had failed before, at the source's end.
+// Watches a loop that reads: it ends at its first failure, and over a source that had failed before, at the source's end;
+// inside a trap that has failed, at once.
 class vigia {
   public:
     explicit vigia(const vornsave *vornsave_datos) : datos_(vornsave_datos), habia_(falla()) {}
-    bool sigue() const { return !falla() || (habia_ && quedan(datos_, 1, 1)); }
+    bool sigue() const { return !atrapado() && (!falla() || (habia_ && quedan(datos_, 1, 1))); }
 
   private:
     bool falla() const { return datos_->ha_fallado != nullptr && datos_->ha_fallado(datos_->datos_destino); }

@@ -49,14 +49,6 @@ const std::vector<operacion> malas{
          vornspy_calloc(1, 8);
      },
      un_bloque, nullptr, nullptr, nullptr},
-    // Held by nobody while it reports: lost when the report goes to a trap.
-    {"pierde_en_la_trampa",
-     [](const dato *a, dato &) {
-         void *p = vornspy_calloc(1, 8);
-         if (a[0].p == nullptr) error_interno("(b) != NULL", "malas", 1, 0);
-         vornspy_free_pp(&p, 1);
-     },
-     un_bloque, nullptr, nullptr, nullptr},
     {"se_sale",
      [](const dato *a, dato &) {
          if (a[0].p != nullptr) std::memset(a[0].p, 1, 5);

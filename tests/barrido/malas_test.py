@@ -12,7 +12,6 @@ ESPERADAS = {
     "calla_el_rango": ("n=0 is not reported",),
     "no_vuelve": ("does not come back",),
     "pierde_memoria": ("leaves 1 blocks behind",),
-    "pierde_en_la_trampa": ("leaves 1 blocks behind",),
     "se_sale": ("writes beyond the room of s", "ends the process"),
     "destruye_lo_ajeno": ("destroys its argument b",),
     "no_es_neutra": ("b=null does not give the neutral value back",),

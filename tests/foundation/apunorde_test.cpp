@@ -73,7 +73,7 @@ PRUEBA(apunorde, sin_destructor_los_elementos_no_son_suyos) {
     apunorde *a = apunorde_crea(nudo, double, compara, &tolerancia, nullptr);
     for (nudo &n : en_pila) apunorde_inserta_original(a, &n, nudo, nullptr);
     EXPECT_EQ(apunorde_get(a, 0, nudo), &en_pila[1]);
-    // The report of an equal element unwinds; nothing of the set's changes.
+    // An equal element is reported; nothing of the set's changes.
     EXPECT_FALSE(vn::atrapado([&] {
         nudo n = *apunorde_get(a, 1, nudo);
         apunorde_inserta_original(a, &n, nudo, nullptr);

@@ -234,7 +234,7 @@ PRUEBA(arr, las_estructuras_se_ordenan_se_buscan_y_se_destruyen) {
     arr_DestruyeEstructurasST(&a, viga, destruye);
 }
 
-PRUEBA(arr, un_comparador_sin_orden_o_que_salta_no_pierde_elementos) {
+PRUEBA(arr, un_comparador_sin_orden_o_que_informa_no_pierde_elementos) {
     arrPuntero *a = arr_CreaPunteroST(0, viga);
     for (int i = 0; i < 100; ++i) arr_AppendPunteroST(a, nueva(i), viga);
     arr_QSortPunteroST(a, viga, [](const viga *, const viga *) { return 1; });

@@ -390,8 +390,8 @@ PRUEBA(lc_fichero, wide_lines) {
     EXPECT_EQ(lc_fgetws(b, 6, f.get()), nullptr);
 }
 
-// A close that fails inside a trap unwinds it, and the stream is gone all the same.
-PRUEBA(lc_fichero, a_failure_inside_a_trap_unwinds) {
+// A close that fails inside a trap marks it, and the stream is gone all the same.
+PRUEBA(lc_fichero, a_failure_inside_a_trap_marks_it) {
     graba_fichero(ruta("trampa"), "12");
     flujo f = abre("trampa", "rb");
     uint64_t v;

@@ -1,66 +1,88 @@
 #include "foundation/trapable.h"
 #include "foundation/callback.h"
 #include "foundation/vnatexit.h"
+#include "foundation/vnmutex.h"
 #include "foundation/vornfile.h"
 #include "prueba.h"
-#include <cstring>
-#include <memory>
+#include <thread>
 
 namespace {
 
-struct libera {
-    void operator()(void *p) const { vornspy_free_pp(&p, 1); }
-};
+bool corre(const std::function<void()> &f) { return vn::atrapado(f); }
+std::string ultimo() { return trapable_texto_del_ultimo_fallo(); }
 
-void va_bien(void *datos) { *static_cast<int *>(datos) += 1; }
-
-// Holds memory while it fails: unwinding must give it back.
-void falla(void *) {
-    const std::unique_ptr<void, libera> bloque(vornspy_malloc(100));
-    error_interno("se_lee_final_bloque == CIERTO", "prueba", 7, 0);
-    FAIL() << "the report returned inside a trap";
-}
-
-void anidada(void *datos) {
-    vnbool resultado = CIERTO;
-    trapable_nousar_recursivo_ejecuta_funcion_segura(falla, nullptr, &resultado);
-    EXPECT_EQ(resultado, FALSO);
-    va_bien(datos);
-}
+void informa(const char *que, uint32_t linea) { error_interno(que, "prueba", linea, 0); }
 
 } // namespace
 
-PRUEBA(trapable, un_informe_vuelve_como_resultado_y_no_llega_al_receptor) {
-    int n = 0;
-    EXPECT_EQ(trapable_ejecuta_funcion_segura(void, va_bien, &n, nullptr), CIERTO);
-    EXPECT_EQ(trapable_ejecuta_funcion_segura(void, falla, nullptr, nullptr), FALSO);
-    EXPECT_NE(std::strstr(trapable_texto_del_ultimo_fallo(), "se_lee_final_bloque == CIERTO"), nullptr);
-    EXPECT_EQ(trapable_ejecuta_funcion_segura(void, anidada, &n, nullptr), CIERTO);
-    EXPECT_EQ(n, 2);
-    const vnfunc_trapable falla_un_punto = [](void *) {
-        const Punto2D p = {1.5, -2};
-        error_interno_punto_2D("es_convexo", "prueba", 8, &p);
-    };
-    EXPECT_EQ(trapable_ejecuta_funcion_segura(void, falla_un_punto, nullptr, nullptr), FALSO);
-    EXPECT_STREQ(trapable_texto_del_ultimo_fallo(), "prueba, 8: es_convexo: (1.5, -2)\n");
+PRUEBA(trapable, un_informe_marca_su_trampa_y_vuelve) {
+    bool hasta_el_final = false;
+    EXPECT_TRUE(corre([] { EXPECT_EQ(trapable_ha_fallado(), FALSO); }));
+    EXPECT_FALSE(corre([&] {
+        informa("se_lee_final_bloque == CIERTO", 7);
+        EXPECT_EQ(trapable_ha_fallado(), CIERTO);
+        informa("lo que se sigue", 8);
+        hasta_el_final = true;
+    }));
+    EXPECT_TRUE(hasta_el_final);
+    EXPECT_EQ(ultimo(), "prueba, 7: se_lee_final_bloque == CIERTO\n");
+    const Punto2D p = {1.5, -2};
+    EXPECT_FALSE(corre([&] { error_interno_punto_2D("es_convexo", "prueba", 8, &p); }));
+    EXPECT_EQ(ultimo(), "prueba, 8: es_convexo: (1.5, -2)\n");
+    EXPECT_TRUE(corre([] {}));
+    EXPECT_EQ(ultimo(), "prueba, 8: es_convexo: (1.5, -2)\n");
     // Outside again, a report goes to the receiver.
-    ESPERA_INFORME("x", error_interno("x", nullptr, 1, 0));
+    EXPECT_EQ(trapable_ha_fallado(), FALSO);
+    ESPERA_INFORME("x", informa("x", 1));
 }
 
-PRUEBA(trapable, lo_que_se_entrega_se_libera_aunque_el_informe_no_vuelva) {
-    const vnfunc_trapable filas[] = {
-        [](void *) { vornspy_parametro(1, 3, 7); },
-        [](void *) { callback_crea(nullptr, vornspy_parametro(1, 4, 7)); },
-        [](void *) { atexit_anade(nullptr, vornspy_parametro(1, 4, 7)); },
-        [](void *) {
+PRUEBA(trapable, cada_trampa_y_cada_hebra_tiene_su_marca) {
+    EXPECT_TRUE(corre([] {
+        EXPECT_FALSE(corre([] { informa("dentro", 1); }));
+        EXPECT_EQ(trapable_ha_fallado(), FALSO);
+        std::thread([] { ESPERA_INFORME("otra hebra", informa("otra hebra", 2)); }).join();
+    }));
+    // The text is that of the trap that failed last, also when it was marked before one inside it.
+    EXPECT_FALSE(corre([] {
+        informa("fuera", 3);
+        EXPECT_FALSE(corre([] { informa("dentro", 4); }));
+        EXPECT_EQ(ultimo(), "prueba, 4: dentro\n");
+        EXPECT_EQ(trapable_ha_fallado(), CIERTO);
+    }));
+    EXPECT_EQ(ultimo(), "prueba, 3: fuera\n");
+    // A C++ host's own exception passes through and leaves no trap open.
+    EXPECT_THROW(corre([] { throw 1; }), int);
+    ESPERA_INFORME("x", informa("x", 1));
+}
+
+PRUEBA(trapable, lo_que_se_tiene_dentro_se_deja_o_se_libera_tras_un_informe) {
+    vnmutex *m = vnmutex_crea_u(VNU("trapable_test"));
+    const std::function<void()> filas[] = {
+        [&] {
+            vnmutex_entra(m);
+            informa("con el mutex", 1);
+            vnmutex_sal(m);
+        },
+        [] {
+            vnparametros *p = vornspy_parametro(1, 3, 7);
+            vornspy_destruye_parametros(&p);
+        },
+        [] { callback_crea(nullptr, vornspy_parametro(1, 4, 7)); },
+        [] { atexit_anade(nullptr, vornspy_parametro(1, 4, 7)); },
+        [] {
             const auto nombre = vn::ancho(directorio() + "/x");
             vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nombre.c_str());
             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, nullptr);
         },
-        [](void *) {
+        [] {
             vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar((directorio() + "/x").c_str());
             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar(f, nullptr);
         },
     };
-    for (const vnfunc_trapable f : filas) EXPECT_EQ(trapable_ejecuta_funcion_segura(void, f, nullptr, nullptr), FALSO);
+    for (const auto &f : filas) EXPECT_FALSE(corre(f));
+    std::thread([m] {
+        EXPECT_EQ(vnmutex_entra(m), CIERTO);
+        vnmutex_sal(m);
+    }).join();
+    vnmutex_destruye(&m);
 }

@@ -354,7 +354,7 @@ PRUEBA(vornsave_colecciones, vuelven_iguales_de_cada_destino) {
         }
 }
 
-// Cut anywhere: trapped, the first report ends it; reported to the host, it is read on to its end.
+// Cut anywhere: trapped or not, the first report ends the reading of what was cut.
 PRUEBA(vornsave_colecciones, cortadas_en_cada_byte) {
     for (const auto &c : todas()) {
         SCOPED_TRACE(c.nombre);

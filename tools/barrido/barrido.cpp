@@ -326,7 +326,7 @@ void barredor::prueba(const indices &cuales, bool solo) {
               op_.informa ? "is listed as reporting, and does not"
                           : "the call with good values reports: " + ultimo_informe);
     }
-    // The same report on its way through a trap: what was held must be freed.
+    // The same call inside a trap, which keeps the report.
     if (informes == 0) return;
     llama(cuales, true, informes);
     if (roto != nullptr && informes == 0)
