@@ -4,17 +4,16 @@
 #include "foundation/entorno.h"
 #include "foundation/error_interno_priv.h"
 #include "foundation/lastwin.h"
+#include "foundation/par_atomico_priv.h"
 #include "foundation/platform/cuadro.h"
-#include <atomic>
 
 namespace {
 
-std::atomic<vnreceptor_avisos> el_receptor{nullptr};
-std::atomic<void *> los_datos{nullptr};
+constinit vn::par_atomico<vnreceptor_avisos> el_receptor;
 
 vnbool da(vntipo_aviso tipo, const vnwchar *texto) {
-    const vnreceptor_avisos receptor = el_receptor.load(std::memory_order_acquire);
-    if (receptor != nullptr) return receptor(tipo, texto, los_datos.load(std::memory_order_acquire));
+    if (const auto receptor = el_receptor.dame(); receptor.funcion != nullptr)
+        return receptor.funcion(tipo, texto, receptor.datos);
     if (void *ventana = lastwin_win_GetWinMain(); ventana != nullptr && tipo != VN_AVISO_DESARROLLO) {
         const vn::plat::respuesta r = vn::plat::muestra_cuadro(ventana, texto, tipo == VN_AVISO_PREGUNTA);
         if (r != vn::plat::respuesta::nadie) return r == vn::plat::respuesta::si ? CIERTO : FALSO;
@@ -40,7 +39,5 @@ vnbool avisobas_pregunta_u(const vnwchar *texto) {
 }
 
 void avisos_instala_receptor(vnreceptor_avisos receptor, void *datos) {
-    el_receptor.store(nullptr, std::memory_order_release);
-    los_datos.store(datos, std::memory_order_release);
-    el_receptor.store(receptor, std::memory_order_release);
+    el_receptor.pon(receptor, datos);
 }

@@ -3,6 +3,7 @@
 #include "foundation/contexto.h"
 #include "foundation/contexto_priv.h"
 #include "foundation/error_interno_priv.h"
+#include "foundation/par_atomico_priv.h"
 #include "foundation/platform/consola.h"
 #include "foundation/propio_priv.h"
 #include "foundation/utf_priv.h"
@@ -13,9 +14,7 @@
 
 namespace {
 
-// Read without a lock: a report may come from anywhere.
-std::atomic<vnreceptor_informes> la_funcion{nullptr};
-std::atomic<void *> los_datos{nullptr};
+constinit vn::par_atomico<vnreceptor_informes> el_receptor;
 std::atomic<uint64_t> numero_de_informes{0};
 thread_local vn::trampa *trampa_interior = nullptr;
 thread_local bool informando = false;
@@ -64,9 +63,14 @@ class linea_fija {
 };
 
 void entrega_al_receptor(const vninforme &informe) {
-    const vnreceptor_informes funcion = la_funcion.load(std::memory_order_acquire);
-    if (funcion != nullptr) {
-        funcion(&informe, los_datos.load(std::memory_order_acquire));
+    // However the receiver leaves: one that throws or jumps must not silence its thread.
+    struct turno {
+        turno() { informando = true; }
+        ~turno() { informando = false; }
+    };
+    const turno este;
+    if (const auto receptor = el_receptor.dame(); receptor.funcion != nullptr) {
+        receptor.funcion(&informe, receptor.datos);
         return;
     }
     char linea[vn::MAXIMO_LINEA_INFORME];
@@ -125,10 +129,7 @@ void entrega(const vninforme &informe) {
         return;
     }
     // A receiver that fails a check of its own must not report for ever.
-    if (informando) return;
-    informando = true;
-    entrega_al_receptor(informe);
-    informando = false;
+    if (!informando) entrega_al_receptor(informe);
 }
 
 } // namespace vn
@@ -162,9 +163,7 @@ void error_interno_punto_2D(const char *expresion, const char *modulo, uint32_t 
 }
 
 void error_interno_instala_receptor(vnreceptor_informes receptor, void *datos) {
-    la_funcion.store(nullptr, std::memory_order_release);
-    los_datos.store(datos, std::memory_order_release);
-    la_funcion.store(receptor, std::memory_order_release);
+    el_receptor.pon(receptor, datos);
 }
 
 uint64_t error_interno_numero_de_informes(void) { return numero_de_informes.load(std::memory_order_relaxed); }

@@ -18,7 +18,7 @@ typedef struct vninforme {
     uint16_t clase;            /**< 0 programming fault, 1 stack not empty at the end of its life, 2 edited text */
 } vninforme;
 
-/** Receiver of reports. It may be called from any thread; it must not throw. */
+/** Receiver of reports. It may be called from any thread; it must return. */
 typedef void (*vnreceptor_informes)(const vninforme *informe, void *datos);
 
 VN_C_INICIO

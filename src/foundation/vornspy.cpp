@@ -2,6 +2,7 @@
 #include "foundation/vornspy.h"
 #include "foundation/afirma.h"
 #include "foundation/error_interno_priv.h"
+#include "foundation/par_atomico_priv.h"
 #include "foundation/platform/consola.h"
 #include "foundation/propio_priv.h"
 #include "foundation/vnatexit.h"
@@ -41,8 +42,7 @@ struct hoja_de_bits {
 };
 constinit std::atomic<hoja_de_bits *> hojas[size_t{1} << (BITS_DIRECCION - BITS_HOJA)] = {};
 
-constinit std::atomic<vnfunc_permiso> el_permiso{nullptr};
-constinit std::atomic<void *> datos_del_permiso{nullptr};
+constinit vn::par_atomico<vnfunc_permiso> el_permiso;
 constinit std::atomic<bool> fugas_al_salir{false};
 
 hoja_de_bits *hoja_de(uintptr_t direccion) {
@@ -108,8 +108,8 @@ bool esta_vivo(const void *p) {
 }
 
 bool permitido(size_t tamanyo) {
-    const vnfunc_permiso permiso = el_permiso.load(std::memory_order_acquire);
-    return permiso == nullptr || permiso(tamanyo, datos_del_permiso.load(std::memory_order_acquire)) == CIERTO;
+    const auto permiso = el_permiso.dame();
+    return permiso.funcion == nullptr || permiso.funcion(tamanyo, permiso.datos) == CIERTO;
 }
 
 cabeza *cabeza_de(void *p) { return static_cast<cabeza *>(p) - 1; }
@@ -337,7 +337,5 @@ void vornspy_informa_de_fugas_al_salir(vnbool activo) {
 }
 
 void vornspy_instala_permiso(vnfunc_permiso permiso, void *datos) {
-    el_permiso.store(nullptr, std::memory_order_release);
-    datos_del_permiso.store(datos, std::memory_order_release);
-    el_permiso.store(permiso, std::memory_order_release);
+    el_permiso.pon(permiso, datos);
 }

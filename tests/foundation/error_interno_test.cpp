@@ -1,7 +1,9 @@
 #define VN_MODULO "error_interno_test"
 #include "foundation/afirma.h"
 #include "prueba.h"
+#include <atomic>
 #include <cerrno>
+#include <thread>
 
 namespace {
 
@@ -40,6 +42,28 @@ PRUEBA(error_interno, un_receptor_que_informa_no_se_llama_a_si_mismo_y_errno_se_
     error_interno("a", nullptr, 1, 0);
     EXPECT_EQ(errno, ERANGE);
     EXPECT_EQ(llamadas, 1);
+}
+
+// Changed while others report, no receiver is called with the datum of another; one that throws is called again.
+PRUEBA(error_interno, el_receptor_y_su_dato_son_uno) {
+    static std::atomic<int> mezclados{0}, vistos{0};
+    static const char dato_a = 'a', dato_b = 'b';
+    const vnreceptor_informes a = [](const vninforme *, void *d) { mezclados += d != &dato_a, ++vistos; };
+    const vnreceptor_informes b = [](const vninforme *, void *d) { mezclados += d != &dato_b, ++vistos; };
+    error_interno_instala_receptor(a, const_cast<char *>(&dato_a));
+    std::atomic<bool> acaba{false};
+    std::thread otra([&] {
+        while (!acaba) error_interno("a", nullptr, 1, 0);
+    });
+    for (int i = 0; i < 20000 || vistos < 100; ++i)
+        error_interno_instala_receptor(i % 2 != 0 ? a : b, const_cast<char *>(i % 2 != 0 ? &dato_a : &dato_b));
+    acaba = true;
+    otra.join();
+    EXPECT_EQ(mezclados, 0);
+    int llamado = 0;
+    error_interno_instala_receptor([](const vninforme *, void *n) { throw ++*static_cast<int *>(n); }, &llamado);
+    for (int i = 1; i <= 2; ++i) EXPECT_THROW(error_interno("b", nullptr, 1, 0), int) << i;
+    EXPECT_EQ(llamado, 2);
 }
 
 PRUEBA(error_interno, las_afirmaciones_dicen_su_condicion) {
