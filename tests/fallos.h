@@ -13,8 +13,8 @@
 namespace vn {
 
 enum class operacion : uint8_t {
-    abre, lee, escribe, vuelca, trunca, estado_abierto, bloquea, desbloquea, cierra, estado, enlaza, renombra, borra,
-    copia_permisos, vuelca_directorio
+    abre, lee, escribe, vuelca, trunca, estado_abierto, bloquea, desbloquea, cierra, estado, resuelve, enlaza, renombra,
+    renombra_abierto, es_su_nombre, borra, retira, copia_permisos, vuelca_directorio
 };
 
 enum class fallo : uint8_t {

@@ -70,6 +70,19 @@ vnerror_fichero renombra(const vnwchar *existente, const vnwchar *nuevo) {
     ficheros[nuevo] = b;
     return VN_FICH_BIEN;
 }
+vnerror_fichero renombra_abierto(vnid_fichero, const vnwchar *existente, const vnwchar *nuevo) {
+    return renombra(existente, nuevo);
+}
+vnerror_fichero es_su_nombre(vnid_fichero id, const vnwchar *nombre) {
+    const auto f = ficheros.find(nombre);
+    return f == ficheros.end() ? VN_FICH_NO_EXISTE : f->second == abiertos.at(id) ? VN_FICH_BIEN : VN_FICH_YA_EXISTE;
+}
+vnerror_fichero resuelve(const vnwchar *nombre, vnwchar *real, size_t maximo) {
+    const size_t n = std::char_traits<vnwchar>::length(nombre) + 1;
+    if (n > maximo) return VN_FICH_NO_ADMITIDO;
+    std::copy_n(nombre, n, real);
+    return VN_FICH_BIEN;
+}
 vnerror_fichero borra(const vnwchar *nombre) { return ficheros.erase(nombre) != 0 ? VN_FICH_BIEN : VN_FICH_NO_EXISTE; }
 
 } // namespace
@@ -81,8 +94,9 @@ ficheros_en_memoria::ficheros_en_memoria() {
         .trunca = trunca, .estado_abierto = estado_abierto,
         .bloquea = [](vnid_fichero, int64_t, int64_t, uint32_t) { return VN_FICH_BIEN; },
         .desbloquea = [](vnid_fichero, int64_t, int64_t) { return VN_FICH_BIEN; },
-        .cierra = cierra, .estado = estado, .enlaza = enlaza, .renombra = renombra, .borra = borra,
-        .copia_permisos = [](const vnwchar *, const vnwchar *) { return VN_FICH_BIEN; },
+        .cierra = cierra, .estado = estado, .resuelve = resuelve, .enlaza = enlaza, .renombra = renombra,
+        .renombra_abierto = renombra_abierto, .es_su_nombre = es_su_nombre, .borra = borra, .retira = borra,
+        .copia_permisos = [](const vnwchar *, vnid_fichero) { return VN_FICH_BIEN; },
         .vuelca_directorio = [](const vnwchar *) { return VN_FICH_BIEN; },
         .espera = [](uint32_t) {},
     };

@@ -1,7 +1,9 @@
 #define VN_MODULO "fichmem (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/fichmem.h"
 #include "foundation/afirma.h"
+#include "foundation/guardado_priv.h"
 #include "foundation/lc_fichero_priv.h"
+#include "foundation/vornfile.h"
 #include "foundation/vornspy.h"
 #include <cstring>
 #include <utility>
@@ -68,10 +70,10 @@ void fichmem_destruye(fichmem **m) {
 
 vnbool fichmem_graba_unicode(const fichmem *m, const vnwchar *nombre) {
     if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(nombre)) return FALSO;
-    vn::flujo_abierto f(f_lc_fopen_u(nombre, VNU("wb"), VN_AQUI));
+    vn::flujo_abierto f(vornfile_abrir_fichero_escritura_con_temporal_u(nombre, vn::SUFIJO_TEMPORAL, FALSO));
     if (f == nullptr) return FALSO;
     f_lc_fwrite(m->datos, 1, m->longitud, f.get(), VN_AQUI);
-    return lc_fclose(f.release());
+    return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), nombre);
 }
 
 fichmem *fichmem_lee_unicode(const vnwchar *nombre) {

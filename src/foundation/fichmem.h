@@ -25,7 +25,8 @@ char *fichmem_copia_contenido_como_cadena(const fichmem *m);
 /** Frees the memory file and leaves the pointer null. */
 void fichmem_destruye(fichmem **m);
 
-/** Writes the bytes as the whole content of a file. A failure is reported by the stream and gives FALSO. */
+/** Writes the bytes as the whole content of a file, which is replaced as by a save (vornfile.h), without a safety copy.
+    A failure is reported as there and gives FALSO. */
 vnbool fichmem_graba_unicode(const fichmem *m, const vnwchar *nombre);
 /** The content of a file; null, reported, if it cannot be read or is longer than 4294967295 bytes or than memory. The
     name is in the active ANSI code page, or wide in the form `_unicode`. */

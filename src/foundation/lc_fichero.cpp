@@ -1,6 +1,7 @@
 #define VN_MODULO "lc_fichero (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/lc_fichero.h"
 #include "foundation/afirma.h"
+#include "foundation/guardado_priv.h"
 #include "foundation/lc_fichero_priv.h"
 #include "foundation/platform/fichero.h"
 #include "foundation/vornspy.h"
@@ -11,6 +12,8 @@
 
 namespace vn {
 namespace {
+
+thread_local vnerror_fichero ultimo_error = VN_FICH_BIEN;
 
 struct modo_de_apertura {
     uint32_t como;
@@ -80,7 +83,8 @@ vnfichero *abre(const vnwchar *nombre, const modo_de_apertura &m, const pacienci
         if (f->anade) situa(*f, f->tamanyo);
         return f.release();
     }
-    if (informa) error_interno_msg_u(VNU("f_lc_fopen"), modulo, linea, nombre, 0);
+    anota_error(e);
+    if (informa) informa_con_motivo(VNU("f_lc_fopen"), modulo, linea, nombre, e);
     return nullptr;
 }
 
@@ -97,16 +101,22 @@ vnfichero *abre_con(const vnwchar *nombre, const vnwchar *modo, const paciencia 
 
 // Closes the file; true if all that was written is where it should be.
 bool cierra(vnfichero &f, bool a_disco) {
-    bool bien = vacia(f);
-    if (bien && a_disco) bien = operaciones().vuelca(f.id) == VN_FICH_BIEN;
-    const vnid_fichero id = std::exchange(f.id, VN_FICHERO_NINGUNO);
-    if (operaciones().cierra(id) != VN_FICH_BIEN && f.escribe) bien = false;
-    if (!bien) f.fallo_escritura = true;
-    return bien;
+    vacia(f);
+    vnerror_fichero e = VN_FICH_BIEN;
+    if (!f.fallo_escritura && a_disco) e = operaciones().vuelca(f.id);
+    if (f.id != VN_FICHERO_NINGUNO) {
+        const vnerror_fichero al_cerrar = operaciones().cierra(std::exchange(f.id, VN_FICHERO_NINGUNO));
+        if (e == VN_FICH_BIEN && f.escribe) e = al_cerrar;
+    }
+    if (e != VN_FICH_BIEN) f.fallo_escritura = true;
+    anota_error(f, e);
+    if (f.fallo_escritura) anota_error(motivo_de_escritura(f));
+    return !f.fallo_escritura;
 }
 
 bool escribe_en(vnfichero &f, const unsigned char *p, size_t n) {
-    if (escribe_todo(f.id, f.anade ? -1 : f.base, p, n) != VN_FICH_BIEN) {
+    if (const vnerror_fichero e = escribe_todo(f.id, f.anade ? -1 : f.base, p, n); e != VN_FICH_BIEN) {
+        anota_error(f, e);
         f.fallo_escritura = true;
         return false;
     }
@@ -166,6 +176,7 @@ bool anade_al_buffer(vnfichero &f, size_t n) {
     const int64_t desde = f.base + (f.fin - f.buffer);
     const vnerror_fichero e = con_paciencia(UNA_VEZ, [&] { return operaciones().lee(f.id, desde, f.fin, n, &k); });
     if (e != VN_FICH_BIEN || k > n) {
+        anota_error(f, e != VN_FICH_BIEN ? e : VN_FICH_ES);
         f.fallo_lectura = true;
         return false;
     }
@@ -213,9 +224,10 @@ size_t lee_directamente(vnfichero &f, unsigned char *p, size_t n) {
     situa(f, posicion(f));
     f.estado = vnfichero::LEYENDO;
     size_t k = 0;
-    if (lee_todo(f.id, f.base, p, n, &k) != VN_FICH_BIEN)
+    if (const vnerror_fichero e = lee_todo(f.id, f.base, p, n, &k); e != VN_FICH_BIEN) {
+        anota_error(f, e);
         f.fallo_lectura = true;
-    else if (k < n)
+    } else if (k < n)
         f.al_final = true;
     situa(f, f.base + static_cast<int64_t>(k));
     f.estado = vnfichero::LEYENDO;
@@ -252,7 +264,7 @@ size_t lee(vnfichero &f, void *destino, size_t n) {
 
 void informa_lectura(vnfichero &f, const char *modulo, uint32_t linea) {
     f.fallo_lectura = true;
-    error_interno_msg_u(VNU("lc_error_leyendo_fichero"), modulo, linea, f.nombre, 0);
+    informa_con_motivo(VNU("lc_error_leyendo_fichero"), modulo, linea, f.nombre, f.error);
 }
 
 // The bytes of a transfer; false, reported, if no memory holds so many.
@@ -292,7 +304,8 @@ bool vacia(vnfichero &f) {
 void informa_escritura(vnfichero &f, const char *modulo, uint32_t linea) {
     f.fallo_escritura = true;
     if (std::exchange(f.informado, true)) return;
-    error_interno_msg_u(VNU("lc_error_escribiendo_fichero"), modulo, linea, f.nombre, 0);
+    informa_con_motivo(VNU("lc_error_escribiendo_fichero"), modulo, linea, f.nombre,
+                       anota_error(motivo_de_escritura(f)));
 }
 
 bool vacia_informando(vnfichero &f) {
@@ -301,11 +314,43 @@ bool vacia_informando(vnfichero &f) {
     return false;
 }
 
-void informa_que_no_se_escribe(const vnwchar *nombre) {
-    error_interno_msg_u(VNU("lc_error_escribiendo_fichero"), VN_AQUI, nombre, 0);
+vnerror_fichero anota_error(vnerror_fichero e) { return ultimo_error = e; }
+
+void anota_error(vnfichero &f, vnerror_fichero e) {
+    if (e == VN_FICH_BIEN) return;
+    if (f.error == VN_FICH_BIEN) f.error = e;
+    anota_error(e);
+}
+
+vnerror_fichero motivo_de_escritura(const vnfichero &f) { return f.error != VN_FICH_BIEN ? f.error : VN_FICH_DATOS; }
+
+void informa_con_motivo(const vnwchar *expresion, const char *modulo, uint32_t linea, const vnwchar *nombre,
+                        vnerror_fichero e) {
+    cadena_ancha detalle = nombre;
+    if (e != VN_FICH_BIEN) (detalle += VNU(": ")) += lc_texto_error_u(e);
+    error_interno_msg_u(expresion, modulo, linea, detalle.c_str(), 0);
+}
+
+void informa_que_no_se_escribe(const vnwchar *nombre, vnerror_fichero e) {
+    informa_con_motivo(VNU("lc_error_escribiendo_fichero"), VN_AQUI, nombre, e);
+}
+
+vnfichero *flujo_de(std::unique_ptr<guardado> g, const char *modulo, uint32_t linea) {
+    flujo f = crea(g->temporal().c_str(), {VN_ABRE_ESCRITURA, false}, modulo, linea);
+    f->con_posicion = true;
+    f->id = g->id();
+    f->guardado = g.release();
+    return f.release();
+}
+
+std::unique_ptr<guardado> toma_guardado(vnfichero &f) {
+    vacia(f);
+    f.id = VN_FICHERO_NINGUNO;
+    return std::unique_ptr<guardado>(std::exchange(f.guardado, nullptr));
 }
 
 void libera_flujo::operator()(vnfichero *f) const {
+    if (f->guardado != nullptr) std::unique_ptr<guardado>(f->guardado)->suelta();
     if (f->id != VN_FICHERO_NINGUNO) operaciones().cierra(f->id);
     vornspy_free_pp(&f, 1);
 }
@@ -417,5 +462,7 @@ void lc_error_escribiendo_fichero(vnfichero *f) {
     if (!AFIRMA_NO_NULO(f)) return;
     vacia(*f);
     f->fallo_escritura = f->informado = true;
-    informa_que_no_se_escribe(f->nombre);
+    informa_que_no_se_escribe(f->nombre, anota_error(motivo_de_escritura(*f)));
 }
+
+vnerror_fichero lc_ultimo_error(const vnfichero *f) { return f != nullptr ? f->error : ultimo_error; }

@@ -28,8 +28,8 @@ typedef struct vnfichero_ventana {
 
 VN_C_INICIO
 
-/** Opens a file. A failure is reported, with the expression "f_lc_fopen" and the file's name as the detail, and
-    gives null; a file that another program holds is tried again for a tenth of a second first. Name and mode are in the
+/** Opens a file. A failure is reported, with the expression "f_lc_fopen" and the file's name and the reason as the
+    detail, and gives null; a file that another program holds is tried again for a tenth of a second first. Name and mode are in the
     active ANSI code page, or wide in the form `_u`. The stream is closed by lc_fclose. */
 vnfichero *f_lc_fopen(const char *nombre, const char *modo, VN_OPC const char *modulo, uint32_t linea);
 vnfichero *f_lc_fopen_u(const vnwchar *nombre, const vnwchar *modo, VN_OPC const char *modulo, uint32_t linea);
@@ -76,10 +76,16 @@ int f_getc_sin_error(vnfichero *f);
     zero. Returns `buffer`, or null at the end of the file; reports nothing. */
 vnwchar *lc_fgetws(VN_SALIDA VN_LON(maximo) vnwchar *buffer, VN_RANGO(1, 2147483647) int32_t maximo, vnfichero *f);
 
-/** Reports "lc_error_leyendo_fichero" (or escribiendo) with the file's name as the detail, and marks the stream as
-    failed. Reading goes on as before; nothing more is written. */
+/** Reports "lc_error_leyendo_fichero" (or escribiendo) with the file's name as the detail, the reason behind it where
+    the system gave one, and marks the stream as failed. Reading goes on as before; nothing more is written. */
 void lc_error_leyendo_fichero(vnfichero *f);
 void lc_error_escribiendo_fichero(vnfichero *f);
+/** Why: the first failure of the system's that a stream met (VN_FICH_BIEN: none; data that end too early are none), or,
+    with null, the last failure of this thread to open, read, write, close or save a file. Success does not clear it. */
+vnerror_fichero lc_ultimo_error(VN_OPC const vnfichero *f);
+/** The reason in a few words of the active language, to follow a file's name and a colon; empty for VN_FICH_BIEN and,
+    reported, for what is none. Borrowed. */
+const vnwchar *lc_texto_error_u(vnerror_fichero error);
 /** Whether a read has met the end since the last seek. */
 vnbool f_lc_feof(const vnfichero *f);
 /** Whether a read or a write has failed; lc_error_* and short reads that were reported count. */

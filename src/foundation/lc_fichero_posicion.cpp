@@ -99,7 +99,9 @@ vnbool lc_fflush(vnfichero *f) { return AFIRMA_NO_NULO(f) && vacia_informando(*f
 
 vnbool lc_vuelca_a_disco(vnfichero *f) {
     if (!AFIRMA_NO_NULO(f) || !vacia_informando(*f)) return FALSO;
-    if (operaciones().vuelca(f->id) == VN_FICH_BIEN) return CIERTO;
+    const vnerror_fichero e = operaciones().vuelca(f->id);
+    if (e == VN_FICH_BIEN) return CIERTO;
+    anota_error(*f, e);
     informa_escritura(*f, VN_AQUI);
     return FALSO;
 }

@@ -5,6 +5,10 @@
 #include "foundation/operaciones_fichero_priv.h"
 #include <memory>
 
+namespace vn {
+class guardado;
+}
+
 // The buffer holds the bytes of the file from `base` on. Reading, those up to `fin` are valid, and the window is the
 // whole of the rest or, in text, ends at the next CR. Writing, those up to `fin` or `pos`, whichever lies further, are
 // not yet in the file, and the window is all the room there is (none in text that is translated). Neither: it is empty,
@@ -17,10 +21,12 @@ struct vnfichero {
     int64_t tamanyo; // as last seen
     vnid_fichero id;
     vnwchar *nombre;
+    vn::guardado *guardado; // of what is opened to take a file's place at its close
     uint32_t lectura_siguiente; // how much the next filling of the buffer asks for
     enum estado_t : uint8_t { NADA, LEYENDO, ESCRIBIENDO } estado;
     bool lee, escribe, anade, traduce, con_posicion;
     bool al_final, fallo_lectura, fallo_escritura, informado;
+    vnerror_fichero error; // the first one of the system's
 };
 
 namespace vn {
@@ -56,7 +62,22 @@ struct cierra_callando {
 };
 using flujo_abierto = std::unique_ptr<vnfichero, cierra_callando>;
 
+// Remembers the reason for lc_ultimo_error, and gives it back.
+vnerror_fichero anota_error(vnerror_fichero e);
+// Remembers it for the stream too, if it is the first.
+void anota_error(vnfichero &f, vnerror_fichero e);
+// Why a stream has failed to write: the system's reason, or what it was told.
+vnerror_fichero motivo_de_escritura(const vnfichero &f);
+// A report with a file's name as its detail, and the reason behind it if there is one.
+void informa_con_motivo(const vnwchar *expresion, const char *modulo, uint32_t linea, const vnwchar *nombre,
+                        vnerror_fichero e);
 // Reports that a file, by its name, could not be written.
-void informa_que_no_se_escribe(const vnwchar *nombre);
+void informa_que_no_se_escribe(const vnwchar *nombre, vnerror_fichero e);
+
+// A stream that writes the temporary of a saved file.
+vnfichero *flujo_de(std::unique_ptr<guardado> g, const char *modulo, uint32_t linea);
+// The saved file of a stream, to commit or to give up, with what waited in the buffer written; the stream's close has
+// nothing more to do with the file.
+std::unique_ptr<guardado> toma_guardado(vnfichero &f);
 
 } // namespace vn

@@ -21,14 +21,18 @@ void con_cada_entrada(vnoperaciones_fichero &a, const vnoperaciones_fichero &b, 
     f(a.desbloquea, b.desbloquea);
     f(a.cierra, b.cierra);
     f(a.estado, b.estado);
+    f(a.resuelve, b.resuelve);
     f(a.enlaza, b.enlaza);
     f(a.renombra, b.renombra);
+    f(a.renombra_abierto, b.renombra_abierto);
+    f(a.es_su_nombre, b.es_su_nombre);
     f(a.borra, b.borra);
+    f(a.retira, b.retira);
     f(a.copia_permisos, b.copia_permisos);
     f(a.vuelca_directorio, b.vuelca_directorio);
     f(a.espera, b.espera);
 }
-static_assert(sizeof(vnoperaciones_fichero) == 16 * sizeof(void *), "an entry is missing above");
+static_assert(sizeof(vnoperaciones_fichero) == 20 * sizeof(void *), "an entry is missing above");
 
 } // namespace
 
@@ -65,28 +69,18 @@ vnerror_fichero lee_todo(vnid_fichero id, int64_t posicion, void *destino, size_
     return VN_FICH_BIEN;
 }
 
-vnerror_fichero copia_fichero(const vnwchar *origen, const vnwchar *destino) {
+vnerror_fichero copia_contenido(const vnwchar *origen, vnid_fichero destino) {
     constexpr size_t TROZO = 256 * 1024;
     const auto trozo = std::make_unique_for_overwrite<unsigned char[]>(TROZO);
-    vnid_fichero de = VN_FICHERO_NINGUNO, a = VN_FICHERO_NINGUNO;
+    vnid_fichero de = VN_FICHERO_NINGUNO;
     vnerror_fichero e = con_paciencia(UN_SEGUNDO, [&] { return operaciones().abre(origen, VN_ABRE_LECTURA, &de); });
     if (e != VN_FICH_BIEN) return e;
-    e = con_paciencia(
-        UN_SEGUNDO, [&] { return operaciones().abre(destino, VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_TRUNCA, &a); });
-    if (e != VN_FICH_BIEN) {
-        operaciones().cierra(de);
-        return e;
-    }
     size_t k = TROZO;
     for (int64_t posicion = 0; e == VN_FICH_BIEN && k == TROZO; posicion += static_cast<int64_t>(k)) {
         e = lee_todo(de, posicion, trozo.get(), TROZO, &k);
-        if (e == VN_FICH_BIEN) e = escribe_todo(a, posicion, trozo.get(), k);
+        if (e == VN_FICH_BIEN) e = escribe_todo(destino, posicion, trozo.get(), k);
     }
-    if (e == VN_FICH_BIEN) e = operaciones().vuelca(a);
-    const vnerror_fichero al_cerrar = operaciones().cierra(a);
-    if (e == VN_FICH_BIEN) e = al_cerrar;
     operaciones().cierra(de);
-    if (e != VN_FICH_BIEN) operaciones().borra(destino);
     return e;
 }
 

@@ -21,7 +21,9 @@ typedef enum vnerror_fichero {
     VN_FICH_ES_DIRECTORIO = 7, /**< a directory where a file is meant */
     VN_FICH_NO_ADMITIDO = 8,   /**< this file system or this kind of file cannot do it */
     VN_FICH_ES = 9,            /**< input or output error of the device */
-    VN_FICH_OTRO = 10
+    VN_FICH_OTRO = 10,
+    VN_FICH_SIN_ASEGURAR = 11, /**< done, but it may not outlive a power failure: its directory was not flushed */
+    VN_FICH_DATOS = 12         /**< what was told to be written makes no sense or does not fit, and was reported */
 } vnerror_fichero;
 
 /* How a file is opened; one of the first two or both, with any of the others. */
@@ -32,6 +34,8 @@ typedef enum vnerror_fichero {
 #define VN_ABRE_ANADE 16u     /**< each write goes to the end, in one step with finding it */
 #define VN_ABRE_EXCLUSIVO 32u /**< no other writer, before or while it is open */
 #define VN_ABRE_NUEVO 64u     /**< with VN_ABRE_CREA: it must not be there */
+#define VN_ABRE_PROPIO 128u   /**< with VN_ABRE_EXCLUSIVO: not through a link, and nobody else moves or removes it */
+#define VN_ABRE_PRIVADO 256u  /**< with VN_ABRE_NUEVO: for its user alone until it is given other rights */
 
 /* How a zone is locked. */
 #define VN_ZONA_EXCLUSIVA 0u  /**< nobody else holds any of it */
@@ -61,13 +65,24 @@ typedef struct vnoperaciones_fichero {
     vnerror_fichero (*desbloquea)(vnid_fichero id, int64_t inicio, int64_t tamanyo);
     vnerror_fichero (*cierra)(vnid_fichero id);
     vnerror_fichero (*estado)(const vnwchar *nombre, vnestado_fichero *estado);
+    /** The absolute name, at most `maximo` units with the zero, of the file that a name leads to through links; the file
+        need not be there, its directory must. */
+    vnerror_fichero (*resuelve)(const vnwchar *nombre, vnwchar *real, size_t maximo);
     /** A second name for the same file; `nuevo` must be free. */
     vnerror_fichero (*enlaza)(const vnwchar *existente, const vnwchar *nuevo);
     /** In one step, replacing what `nuevo` names; both in one file system. */
     vnerror_fichero (*renombra)(const vnwchar *existente, const vnwchar *nuevo);
+    /** As renombra, of a file that is open with VN_ABRE_PROPIO and stays so. */
+    vnerror_fichero (*renombra_abierto)(vnid_fichero id, const vnwchar *existente, const vnwchar *nuevo);
+    /** VN_FICH_BIEN when the name, itself and not as a link, is that of this very open file; VN_FICH_YA_EXISTE when it
+        is another's. */
+    vnerror_fichero (*es_su_nombre)(vnid_fichero id, const vnwchar *nombre);
     vnerror_fichero (*borra)(const vnwchar *nombre);
-    /** Gives the second file the rights of the first, where rights go with the file and not with the directory. */
-    vnerror_fichero (*copia_permisos)(const vnwchar *origen, const vnwchar *destino);
+    /** As borra, of what somebody left; VN_FICH_COMPARTIDO while somebody has it open with VN_ABRE_EXCLUSIVO. */
+    vnerror_fichero (*retira)(const vnwchar *nombre);
+    /** Gives an open file the rights of a named one, and its group, owner and attributes as far as that is allowed;
+        VN_FICH_NO_ADMITIDO where files have none of their own. */
+    vnerror_fichero (*copia_permisos)(const vnwchar *origen, vnid_fichero destino);
     /** Makes the names in the directory that holds `nombre` last. */
     vnerror_fichero (*vuelca_directorio)(const vnwchar *nombre);
     /** Waits between two tries. */

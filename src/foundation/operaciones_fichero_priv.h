@@ -36,7 +36,7 @@ vnerror_fichero con_paciencia(const paciencia &p, F operacion) {
 vnerror_fichero escribe_todo(vnid_fichero id, int64_t posicion, const void *origen, size_t n);
 // As many of `n` bytes as there are: fewer only at the end of the file or after an error.
 vnerror_fichero lee_todo(vnid_fichero id, int64_t posicion, void *destino, size_t n, size_t *leidos);
-// The file's content as the whole content of another name, which is flushed to the disk; removed if that fails.
-vnerror_fichero copia_fichero(const vnwchar *origen, const vnwchar *destino);
+// The content of a named file into an open one, which is empty.
+vnerror_fichero copia_contenido(const vnwchar *origen, vnid_fichero destino);
 
 } // namespace vn

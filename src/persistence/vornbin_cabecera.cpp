@@ -207,8 +207,6 @@ void graba_mascara_de_ejemplo(vnfichero *f) {
     graba_bytes(f, i_MASCARA_EJEMPLO_VORN, LONGITUD_MASCARA);
 }
 
-texto_u nombre_temporal(const vnwchar *nomfich) { return texto_u(nomfich) + VNU("_TM$"); }
-
 fichero abre_para_leer(const vnwchar *nomfich) {
     bin_etiquetas_al_leer = false;
     return fichero(f_lc_fopen_u(nomfich, VNU("rb"), VN_AQUI));

@@ -1,6 +1,7 @@
 // The header of a binary file: who wrote it, named fields, the reserved list.
 #pragma once
 
+#include "foundation/vornfile.h"
 #include "persistence/vornbin_priv.h"
 #include <string>
 #include <string_view>
@@ -71,23 +72,12 @@ void graba_cabecera_copiada(vnfichero *f, const cabecera &c);
 // Overwrites the mask of a file that has a header, leaving the position anywhere.
 void graba_mascara_de_ejemplo(vnfichero *f);
 
-// Removes a file on the way out unless it is let go.
-class temporal_propio {
-  public:
-    explicit temporal_propio(texto_u nombre) : nombre_(std::move(nombre)) {}
-    ~temporal_propio() {
-        if (!nombre_.empty()) operaciones_fichero_actuales()->borra(nombre_.c_str());
-    }
-    temporal_propio(const temporal_propio &) = delete;
-    temporal_propio &operator=(const temporal_propio &) = delete;
-    const vnwchar *nombre() const { return nombre_.c_str(); }
-    void suelta() { nombre_.clear(); }
-
-  private:
-    texto_u nombre_;
+// The owner of a file's temporary: on the way of a failure the save is given up.
+struct abandona_temporal {
+    void operator()(vnfichero *f) const { vornfile_abandonar_fichero_escritura(f); }
 };
+using temporal = std::unique_ptr<vnfichero, abandona_temporal>;
 
-texto_u nombre_temporal(const vnwchar *nomfich);
 // Opens for reading, reported; clears the tags.
 fichero abre_para_leer(const vnwchar *nomfich);
 bool esta_en_directorio_ejemplos(const vnwchar *ruta);

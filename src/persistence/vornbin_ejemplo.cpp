@@ -32,40 +32,25 @@ bool copia_resto(vnfichero *origen, vnfichero *destino) {
     return true;
 }
 
-// The file as a sample, its texts blanked, under another name; the position in both is told to stay the same.
-bool graba_copia_de_ejemplo(vnfichero *origen, cabecera *c, const vnwchar *nombre) {
-    fichero destino(f_lc_fopen_u(nombre, VNU("wb"), VN_AQUI));
-    if (destino == nullptr) return false;
+// The file as a sample, its texts blanked, into another; the position in both is told to stay the same.
+bool graba_copia_de_ejemplo(vnfichero *origen, cabecera *c, vnfichero *destino) {
     c->listas.blanquea();
     c->es_ejemplo = true;
-    graba_cabecera_copiada(destino.get(), *c);
-    const int64_t pos_cabecera_target = vornio_ftell_i64(destino.get());
+    graba_cabecera_copiada(destino, *c);
+    const int64_t pos_cabecera_target = vornio_ftell_i64(destino);
     const int64_t pos_cabecera_source = vornio_ftell_i64(origen);
-    if (!AFIRMA(pos_cabecera_target == pos_cabecera_source) || !copia_resto(origen, destino.get())) return false;
+    if (!AFIRMA(pos_cabecera_target == pos_cabecera_source) || !copia_resto(origen, destino)) return false;
     const int64_t longitud1 = lc_tamanyo_fichero_i64(origen);
-    const int64_t longitud2 = lc_tamanyo_fichero_i64(destino.get());
-    return AFIRMA(longitud1 == longitud2) && lc_vuelca_a_disco(destino.get()) == CIERTO &&
-           lc_fclose(destino.release()) == CIERTO;
+    const int64_t longitud2 = lc_tamanyo_fichero_i64(destino);
+    return AFIRMA(longitud1 == longitud2);
 }
 
 // No safety copy: it would keep the texts that are blanked.
-bool reemplaza(const vnwchar *nomfich, const vnwchar *nuevo) {
-    const vnoperaciones_fichero *operaciones = operaciones_fichero_actuales();
-    if (operaciones->renombra(nuevo, nomfich) != VN_FICH_BIEN) {
-        error_interno_msg_u(VNU("lc_error_escribiendo_fichero"), VN_AQUI, nomfich, 0);
-        return false;
-    }
-    operaciones->vuelca_directorio(nomfich);
-    return true;
-}
-
 bool marca_con_listas(fichero origen, cabecera *c, const vnwchar *nomfich) {
-    temporal_propio temporal(texto_u(nomfich) + VNU(".TM@"));
-    if (!graba_copia_de_ejemplo(origen.get(), c, temporal.nombre())) return false;
+    temporal destino(vornfile_abrir_fichero_escritura_con_temporal_u(nomfich, VNU(".TM@"), FALSO));
+    if (destino == nullptr || !graba_copia_de_ejemplo(origen.get(), c, destino.get())) return false;
     origen.reset();
-    if (!reemplaza(nomfich, temporal.nombre())) return false;
-    temporal.suelta();
-    return true;
+    return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(destino.release(), nomfich) == CIERTO;
 }
 
 } // namespace
@@ -88,6 +73,10 @@ vnbool vornbin_es_directorio_ejemplos(const char *ruta) {
 
 vnbool vornbin_marca_fichero_ejemplo_u(const vnwchar *nomfich) {
     if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
+    // The temporary of a save is held meanwhile, and goes in the end: no save comes in between, and what one that died
+    // has left, which has the texts that are blanked here, is no more.
+    const vn::temporal turno(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nomfich));
+    if (turno == nullptr) return FALSO;
     vn::fichero f = vn::abre_para_leer(nomfich);
     if (f == nullptr) return FALSO;
     vn::cabecera c = vn::lee_cabecera(f.get());
@@ -97,9 +86,7 @@ vnbool vornbin_marca_fichero_ejemplo_u(const vnwchar *nomfich) {
         lc_error_leyendo_fichero(f.get());
         return FALSO;
     }
-    if (!c.con_listas) f.reset();
-    if (!(c.con_listas ? vn::marca_con_listas(std::move(f), &c, nomfich) : vn::marca_en_su_sitio(nomfich))) return FALSO;
-    // What a save that died may have left: it has the texts that are blanked here.
-    const vn::temporal_propio resto(vn::nombre_temporal(nomfich));
-    return CIERTO;
+    if (c.con_listas) return vn::marca_con_listas(std::move(f), &c, nomfich) ? CIERTO : FALSO;
+    f.reset();
+    return vn::marca_en_su_sitio(nomfich) ? CIERTO : FALSO;
 }

@@ -3,7 +3,6 @@
 #include "foundation/arr.h"
 #include "foundation/cad.h"
 #include "foundation/unicode.h"
-#include "foundation/vornfile.h"
 #include "persistence/ultiobra.h"
 #include "persistence/vornbin_cabecera_priv.h"
 
@@ -11,9 +10,9 @@ namespace vn {
 namespace {
 
 // No tags until a prologue says so.
-fichero abre_temporal(const vnwchar *nomfich) {
+temporal abre_temporal(const vnwchar *nomfich) {
     bin_etiquetas_al_escribir = false;
-    return fichero(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nomfich));
+    return temporal(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nomfich));
 }
 
 // The lists of the file that is about to be replaced. A header that is damaged has none: it must not stand in the way
@@ -22,7 +21,7 @@ bool lee_listas_existentes(const vnwchar *nomfich, listas_cabecera *listas) {
     vnestado_fichero estado{};
     const vnerror_fichero error = operaciones_fichero_actuales()->estado(nomfich, &estado);
     if (error == VN_FICH_NO_EXISTE || (error == VN_FICH_BIEN && estado.es_directorio == CIERTO)) return true;
-    const fichero f(f_lc_fopen_u(nomfich, VNU("rb"), VN_AQUI));
+    const fichero f(f_lc_fopen_en_varios_intentos_u(nomfich, VNU("rb"), VN_AQUI));
     if (f == nullptr) return false;
     *listas = lee_cabecera(f.get()).listas;
     if (lc_ha_fallado(f.get()) == FALSO) return true;
@@ -30,17 +29,18 @@ bool lee_listas_existentes(const vnwchar *nomfich, listas_cabecera *listas) {
     return false;
 }
 
-fichero abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra, const arrCADENA_u *nombres,
+temporal abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra, const arrCADENA_u *nombres,
                           const arrCADENA_u *valores) {
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
+    // Held before the lists are read: no other saver puts fields there in between.
+    temporal f = abre_temporal(nomfich);
     listas_cabecera listas;
-    if (!lee_listas_existentes(nomfich, &listas)) return nullptr;
+    if (f == nullptr || !lee_listas_existentes(nomfich, &listas)) return nullptr;
     for (uint32_t i = 0; nombres != nullptr && i < arr_NumElemsCADENA_u(nombres); ++i) {
         const vnwchar *nombre = arr_GetCADENA_u(nombres, i), *valor = arr_GetCADENA_u(valores, i);
         listas.pon_campo(nombre != nullptr ? nombre : VNU(""), valor != nullptr ? valor : VNU(""));
     }
-    fichero f = abre_temporal(nomfich);
-    if (f != nullptr) graba_cabecera(f.get(), listas);
+    graba_cabecera(f.get(), listas);
     return f;
 }
 
@@ -55,37 +55,45 @@ void graba_prologo(vnfichero *f, uint16_t version, const char *firma, const vnwc
 vnfichero *abre_con_cabecera_y_prologo(const vnwchar *nomfich, uint16_t version, const char *firma,
                                        const vnwchar *titulo, const arrCADENA_u *nombres, const arrCADENA_u *valores,
                                        const vnwchar *obra) {
-    fichero f = abre_con_cabecera(nomfich, obra, nombres, valores);
+    temporal f = abre_con_cabecera(nomfich, obra, nombres, valores);
     if (f != nullptr) graba_prologo(f.get(), version, firma, titulo);
     return f.release();
 }
 
-// Saving over a sample keeps it a sample.
-bool debe_seguir_siendo_ejemplo(const vnwchar *nomfich) {
-    if (!esta_en_directorio_ejemplos(nomfich)) return false;
-    const fichero f(f_lc_fopen_seguro_u(nomfich, VNU("rb"), VN_AQUI));
-    return f != nullptr && lee_cabecera(f.get()).es_ejemplo;
+// Saving over a sample keeps it a sample. False, reported, if the file cannot be looked at.
+bool mira_si_es_ejemplo(const vnwchar *nomfich, bool *es_ejemplo) {
+    vnestado_fichero estado{};
+    *es_ejemplo = false;
+    if (!esta_en_directorio_ejemplos(nomfich) ||
+        operaciones_fichero_actuales()->estado(nomfich, &estado) == VN_FICH_NO_EXISTE)
+        return true;
+    const fichero f(f_lc_fopen_en_varios_intentos_u(nomfich, VNU("rb"), VN_AQUI));
+    if (f == nullptr) return false;
+    *es_ejemplo = lee_cabecera(f.get()).es_ejemplo;
+    if (lc_ha_fallado(f.get()) == FALSO || lc_ultimo_error(f.get()) == VN_FICH_BIEN) return true;
+    lc_error_leyendo_fichero(f.get());
+    return false;
 }
 
-vnbool cierra_como_ejemplo(fichero f, const vnwchar *nomfich) {
-    temporal_propio temporal(nombre_temporal(nomfich));
-    if (lc_fclose(f.release()) == FALSO) return FALSO;
-    f.reset(f_lc_fopen_u(temporal.nombre(), VNU("rb+"), VN_AQUI));
-    if (f == nullptr) return FALSO;
-    const bool hay = lee_cabecera(f.get()).hay;
-    if (lc_ha_fallado(f.get()) == CIERTO) {
-        lc_error_leyendo_fichero(f.get());
-        return FALSO;
+// The mask of a sample over that of what was just written, if it has a header. False, reported, if it cannot be told.
+bool hace_ejemplo(vnfichero *f) {
+    if (lc_fflush(f) == FALSO) return false;
+    const fichero escrito(f_lc_fopen_u(lc_nombre_fichero(f), VNU("rb"), VN_AQUI));
+    if (escrito == nullptr) return false;
+    const bool hay = lee_cabecera(escrito.get()).hay;
+    if (lc_ha_fallado(escrito.get()) == CIERTO) {
+        lc_error_leyendo_fichero(escrito.get());
+        return false;
     }
-    if (hay) graba_mascara_de_ejemplo(f.get());
-    if (lc_fclose(f.release()) == FALSO) return FALSO;
-    const texto_u nombre(temporal.nombre());
-    temporal.suelta();
-    return vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(nomfich, nombre.c_str());
+    if (hay) graba_mascara_de_ejemplo(f);
+    return true;
 }
 
-vnbool cierra_y_reemplaza(fichero f, const vnwchar *nomfich) {
-    if (debe_seguir_siendo_ejemplo(nomfich)) return cierra_como_ejemplo(std::move(f), nomfich);
+vnbool cierra_y_reemplaza(temporal f, const vnwchar *nomfich) {
+    bool es_ejemplo = false;
+    if (lc_ha_fallado(f.get()) == FALSO &&
+        (!mira_si_es_ejemplo(nomfich, &es_ejemplo) || (es_ejemplo && !hace_ejemplo(f.get()))))
+        return FALSO;
     return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), nomfich);
 }
 
@@ -145,7 +153,7 @@ vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(c
                                                                                const vnwchar *obra) {
     if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(titulo)) return nullptr;
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
-    vn::fichero f = vn::abre_temporal(nomfich);
+    vn::temporal f = vn::abre_temporal(nomfich);
     if (f != nullptr) vn::graba_prologo(f.get(), version, firma, titulo);
     return f.release();
 }
@@ -164,7 +172,7 @@ vnbool vornbin_cierra_fichero_abierto_para_escritura_u(vnfichero *f, const vnwch
     if (!AFIRMA_NO_NULO(f)) return FALSO;
     vn::fichero abierto(f);
     if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
-    const vnbool grabado = vn::cierra_y_reemplaza(std::move(abierto), nomfich);
+    const vnbool grabado = vn::cierra_y_reemplaza(vn::temporal(abierto.release()), nomfich);
     if (grabado == CIERTO) ultiobra_guarda_nombre_ultima_obra_u(nomfich, obra);
     return grabado;
 }
@@ -183,9 +191,8 @@ vnbool vornbin_cierra_basico_fichero_abierto_para_escritura(vnfichero *f, const 
 
 void vornbin_abandona_fichero_abierto_para_escritura_u(vnfichero *f, const vnwchar *nomfich) {
     if (!AFIRMA_NO_NULO(f)) return;
-    lc_fclose_seguro(f);
-    if (!AFIRMA_NO_NULO(nomfich)) return;
-    const vn::temporal_propio temporal(vn::nombre_temporal(nomfich));
+    vornfile_abandonar_fichero_escritura(f);
+    AFIRMA_NO_NULO(nomfich);
 }
 
 vnfichero *vornbin_abre_fichero_para_lectura_u(const vnwchar *nomfich, char **version_texto, char **revision_texto,

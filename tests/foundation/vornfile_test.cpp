@@ -52,8 +52,8 @@ PRUEBA(vornfile, refusals_that_stay) {
     ASSERT_TRUE(guardado_definitivo_al_cerrar(ruta("obra"), 0));
     static int veces;
     const vnoperaciones_fichero terco = {
-        .renombra =
-            [](const vnwchar *, const vnwchar *) {
+        .renombra_abierto =
+            [](vnid_fichero, const vnwchar *, const vnwchar *) {
                 ++veces;
                 return VN_FICH_COMPARTIDO;
             },
@@ -75,7 +75,7 @@ PRUEBA(vornfile, refusals_that_stay) {
     lc_fclose(otro);
 
     std::filesystem::create_directory(ruta("carpeta"));
-    EXPECT_FALSE(ESPERA_INFORME("lc_error_escribiendo_fichero", guardado_definitivo_al_cerrar(ruta("carpeta"), 1)));
+    EXPECT_FALSE(ESPERA_INFORME("f_lc_fopen", guardado_definitivo_al_cerrar(ruta("carpeta"), 1)));
     EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", guardado_definitivo_al_cerrar(ruta("no/obra"), 1)), false);
 }
 

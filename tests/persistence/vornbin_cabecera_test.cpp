@@ -445,7 +445,7 @@ PRUEBA(vornbin_cabecera, lo_que_se_abandona_o_falla_deja_el_fichero_de_antes) {
     vnoperaciones_fichero lleno = *operaciones_fichero_del_sistema(), sin_volcado = lleno, sin_cambio = lleno;
     lleno.escribe = [](vnid_fichero, int64_t, const void *, size_t, size_t *n) { *n = 0; return VN_FICH_SIN_ESPACIO; };
     sin_volcado.vuelca = [](vnid_fichero) { return VN_FICH_ES; };
-    sin_cambio.renombra = [](const vnwchar *, const vnwchar *) { return VN_FICH_SIN_PERMISO; };
+    sin_cambio.renombra_abierto = [](vnid_fichero, const vnwchar *, const vnwchar *) { return VN_FICH_SIN_PERMISO; };
     a.graba(ID + "\1" + MARCA + LISTAS);
     for (const auto *tabla : {&lleno, &sin_volcado, &sin_cambio}) {
         operaciones_fichero_instala(tabla);

@@ -1,4 +1,5 @@
 #include "foundation/platform/cerrojo.h"
+#include "foundation/platform/posix/descriptor.h"
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -56,7 +57,7 @@ bool cerrojo::abre() {
     const std::string d = directorio_de_cerrojos();
     if (d.empty()) return false;
     const std::string fichero = d + "/" + nombre_ + ".lock";
-    id_ = ::open(fichero.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    id_ = aparta(::open(fichero.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
     return id_ >= 0;
 }
 

@@ -1,11 +1,11 @@
 #include "foundation/platform/consola.h"
-#include <cerrno>
-#include <unistd.h>
+#include "foundation/platform/posix/descriptor.h"
 
 namespace vn::plat {
 
 namespace {
 void escribe(int salida, const char *utf8, size_t n) {
+    const sin_senyales guarda;
     while (n > 0) {
         const ssize_t k = ::write(salida, utf8, n);
         if (k < 0 && errno == EINTR) continue;

@@ -1,10 +1,8 @@
 #include "foundation/platform/longpath.h"
+#include "foundation/platform/posix/descriptor.h"
 #include "foundation/platform/posix/ruta.h"
-#include <cerrno>
 #include <climits>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace vn::plat {
 namespace {
@@ -28,19 +26,16 @@ void *abre_fichero(const texto &nombre, uint32_t acceso, uint32_t, void *, uint3
     int modo = O_CLOEXEC | DISPOSICIONES[disposicion] | (escribe ? (lee ? O_RDWR : O_WRONLY) : O_RDONLY);
     if ((atributos & VNLONGPATH_FILE_FLAG_WRITE_THROUGH) != 0) modo |= O_DSYNC;
     const mode_t permisos = (atributos & VNLONGPATH_FILE_ATTRIBUTE_READONLY) != 0 ? 0444 : 0666;
-    const int abierto = ::open(ruta.c_str(), modo, permisos);
-    if (abierto < 0) return VNLONGPATH_INVALID_HANDLE;
-    // Never 0, which is no handle.
-    const int fd = abierto > 0 ? abierto : ::fcntl(abierto, F_DUPFD_CLOEXEC, 3);
-    if (abierto == 0) ::close(abierto);
+    const int fd = aparta(::open(ruta.c_str(), modo, permisos));
+    if (fd < 0) return VNLONGPATH_INVALID_HANDLE;
     struct stat s {};
-    if (fd > 0 && ::fstat(fd, &s) == 0 && S_ISDIR(s.st_mode) &&
+    if (::fstat(fd, &s) == 0 && S_ISDIR(s.st_mode) &&
         (atributos & VNLONGPATH_FILE_FLAG_BACKUP_SEMANTICS) == 0) {
         ::close(fd);
         errno = EISDIR;
         return VNLONGPATH_INVALID_HANDLE;
     }
-    if (fd > 0 && (atributos & VNLONGPATH_FILE_FLAG_DELETE_ON_CLOSE) != 0) ::unlink(ruta.c_str());
+    if ((atributos & VNLONGPATH_FILE_FLAG_DELETE_ON_CLOSE) != 0) ::unlink(ruta.c_str());
     return como_handle(fd);
 }
 

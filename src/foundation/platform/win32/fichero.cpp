@@ -1,6 +1,8 @@
 #include "foundation/platform/fichero.h"
 #include "foundation/platform/win32/ruta.h"
 #include <algorithm>
+#include <cstddef>
+#include <memory>
 #include <windows.h>
 
 namespace vn::plat {
@@ -74,13 +76,18 @@ vnerror_fichero trunca(vnid_fichero id, int64_t tamanyo) {
 vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     *id = VN_FICHERO_NINGUNO;
     const std::wstring ruta = ruta_del_sistema(nombre);
-    const DWORD acceso =
-        ((como & VN_ABRE_LECTURA) != 0 ? GENERIC_READ : 0) | ((como & VN_ABRE_ESCRITURA) != 0 ? GENERIC_WRITE : 0);
-    const DWORD otros = (como & VN_ABRE_EXCLUSIVO) != 0 ? TODOS & ~static_cast<DWORD>(FILE_SHARE_WRITE) : TODOS;
+    const bool propio = (como & VN_ABRE_PROPIO) != 0;
+    // One's own may be renamed by its handle, and given rights.
+    const DWORD acceso = ((como & VN_ABRE_LECTURA) != 0 ? GENERIC_READ : 0) |
+                         ((como & VN_ABRE_ESCRITURA) != 0 ? GENERIC_WRITE : 0) | (propio ? DELETE | WRITE_DAC : 0);
+    const DWORD otros = propio                              ? FILE_SHARE_READ
+                        : (como & VN_ABRE_EXCLUSIVO) != 0 ? TODOS & ~static_cast<DWORD>(FILE_SHARE_WRITE)
+                                                            : TODOS;
     const DWORD manera = (como & VN_ABRE_CREA) == 0    ? OPEN_EXISTING
                          : (como & VN_ABRE_NUEVO) != 0 ? CREATE_NEW
                                                        : OPEN_ALWAYS;
-    const HANDLE h = CreateFileW(ruta.c_str(), acceso, otros, nullptr, manera, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE h = CreateFileW(ruta.c_str(), acceso, otros, nullptr, manera,
+                                 FILE_ATTRIBUTE_NORMAL | (propio ? FILE_FLAG_OPEN_REPARSE_POINT : 0), nullptr);
     if (h == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
         const DWORD atributos =
@@ -90,11 +97,15 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
                    : error_de(error);
     }
     const vnid_fichero nuevo = reinterpret_cast<vnid_fichero>(h);
-    if ((como & VN_ABRE_TRUNCA) != 0) {
-        if (const vnerror_fichero e = trunca(nuevo, 0); e != VN_FICH_BIEN) {
-            CloseHandle(h);
-            return e;
-        }
+    BY_HANDLE_FILE_INFORMATION datos;
+    vnerror_fichero e = VN_FICH_BIEN;
+    if (propio && (!GetFileInformationByHandle(h, &datos) || (datos.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0))
+        e = VN_FICH_NO_ADMITIDO;
+    else if ((como & VN_ABRE_TRUNCA) != 0)
+        e = trunca(nuevo, 0);
+    if (e != VN_FICH_BIEN) {
+        CloseHandle(h);
+        return e;
     }
     *id = nuevo;
     return VN_FICH_BIEN;
@@ -157,17 +168,26 @@ vnerror_fichero desbloquea(vnid_fichero id, int64_t inicio, int64_t tamanyo) {
 
 vnerror_fichero cierra(vnid_fichero id) { return resultado(CloseHandle(handle(id))); }
 
+vnerror_fichero resuelve(const vnwchar *nombre, wchar_t *real, size_t maximo) {
+    const auto cabe = [maximo](DWORD n) { return n > 0 && n < maximo; };
+    if (!cabe(GetFullPathNameW(nombre, static_cast<DWORD>(maximo), real, nullptr))) return VN_FICH_NO_EXISTE;
+    const std::wstring ruta = ruta_del_sistema(real);
+    const DWORD atributos = GetFileAttributesW(ruta.c_str());
+    if (atributos == INVALID_FILE_ATTRIBUTES || (atributos & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return VN_FICH_BIEN;
+    const HANDLE h = CreateFileW(ruta.c_str(), FILE_READ_ATTRIBUTES, TODOS, nullptr, OPEN_EXISTING,
+                                 FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (h == INVALID_HANDLE_VALUE) return VN_FICH_NO_ADMITIDO; // a link to nothing
+    const bool bien = cabe(GetFinalPathNameByHandleW(h, real, static_cast<DWORD>(maximo), FILE_NAME_NORMALIZED));
+    CloseHandle(h);
+    return bien ? VN_FICH_BIEN : VN_FICH_NO_ADMITIDO;
+}
+
 vnerror_fichero enlaza(const vnwchar *existente, const vnwchar *nuevo) {
     return resultado(CreateHardLinkW(ruta_del_sistema(nuevo).c_str(), ruta_del_sistema(existente).c_str(), nullptr));
 }
 
-vnerror_fichero renombra(const vnwchar *existente, const vnwchar *nuevo) {
-    const std::wstring final = ruta_del_sistema(nuevo);
-    if (MoveFileExW(ruta_del_sistema(existente).c_str(), final.c_str(),
-                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        return VN_FICH_BIEN;
-    const DWORD error = GetLastError();
-    // A target that somebody holds open is refused as if by rights; unless rights forbid it, that may pass.
+// A target that somebody holds open is refused as if by rights; unless rights forbid it, that may pass.
+vnerror_fichero error_al_renombrar(DWORD error, const std::wstring &final) {
     if (error == ERROR_ACCESS_DENIED) {
         const DWORD atributos = GetFileAttributesW(final.c_str());
         if (atributos != INVALID_FILE_ATTRIBUTES &&
@@ -177,10 +197,85 @@ vnerror_fichero renombra(const vnwchar *existente, const vnwchar *nuevo) {
     return error_de(error);
 }
 
+vnerror_fichero renombra(const vnwchar *existente, const vnwchar *nuevo) {
+    const std::wstring final = ruta_del_sistema(nuevo);
+    if (MoveFileExW(ruta_del_sistema(existente).c_str(), final.c_str(),
+                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        return VN_FICH_BIEN;
+    return error_al_renombrar(GetLastError(), final);
+}
+
+vnerror_fichero es_su_nombre(vnid_fichero id, const vnwchar *nombre) {
+    const HANDLE h = CreateFileW(ruta_del_sistema(nombre).c_str(), FILE_READ_ATTRIBUTES, TODOS, nullptr, OPEN_EXISTING,
+                                 FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (h == INVALID_HANDLE_VALUE) return resultado(FALSE);
+    BY_HANDLE_FILE_INFORMATION a, b;
+    const bool bien = GetFileInformationByHandle(h, &a) && GetFileInformationByHandle(handle(id), &b);
+    const vnerror_fichero e = resultado(bien);
+    CloseHandle(h);
+    if (e != VN_FICH_BIEN) return e;
+    return a.dwVolumeSerialNumber == b.dwVolumeSerialNumber && a.nFileIndexHigh == b.nFileIndexHigh &&
+                   a.nFileIndexLow == b.nFileIndexLow
+               ? VN_FICH_BIEN
+               : VN_FICH_YA_EXISTE;
+}
+
+// By its handle, which nobody else can rename. What readers have open is replaced too where the system can (the second
+// class of information), and the change of names is on the disk when the file is flushed once more.
+vnerror_fichero renombra_abierto(vnid_fichero id, const vnwchar *, const vnwchar *nuevo) {
+    constexpr auto RENOMBRA_CON_LECTORES = static_cast<FILE_INFO_BY_HANDLE_CLASS>(22);
+    constexpr DWORD REEMPLAZA = 1, CON_LECTORES = 2;
+    const std::wstring final = ruta_del_sistema(nuevo);
+    const size_t bytes = final.size() * sizeof(wchar_t);
+    const size_t todo = offsetof(FILE_RENAME_INFO, FileName) + bytes + sizeof(wchar_t);
+    const auto memoria = std::make_unique<unsigned char[]>(std::max(todo, sizeof(FILE_RENAME_INFO)));
+    auto *datos = reinterpret_cast<FILE_RENAME_INFO *>(memoria.get());
+    datos->FileNameLength = static_cast<DWORD>(bytes);
+    std::copy(final.begin(), final.end(), datos->FileName);
+    const auto hace = [&](FILE_INFO_BY_HANDLE_CLASS clase, DWORD banderas) {
+        *reinterpret_cast<DWORD *>(datos) = banderas; // in the place of ReplaceIfExists
+        return SetFileInformationByHandle(handle(id), clase, datos, static_cast<DWORD>(todo)) != 0;
+    };
+    if (!hace(RENOMBRA_CON_LECTORES, REEMPLAZA | CON_LECTORES) && !hace(FileRenameInfo, REEMPLAZA))
+        return error_al_renombrar(GetLastError(), final);
+    return FlushFileBuffers(handle(id)) ? VN_FICH_BIEN : VN_FICH_SIN_ASEGURAR;
+}
+
 vnerror_fichero borra(const vnwchar *nombre) { return resultado(DeleteFileW(ruta_del_sistema(nombre).c_str())); }
 
-// A new file has its rights from the directory.
-vnerror_fichero copia_permisos(const vnwchar *, const vnwchar *) { return VN_FICH_NO_ADMITIDO; }
+// Whoever holds it does not let it go; one that is protected against its removal goes too.
+vnerror_fichero retira(const vnwchar *nombre) {
+    const std::wstring ruta = ruta_del_sistema(nombre);
+    const DWORD atributos = GetFileAttributesW(ruta.c_str());
+    if (atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY) != 0) return VN_FICH_ES_DIRECTORIO;
+    if (atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_READONLY) != 0)
+        SetFileAttributesW(ruta.c_str(), FILE_ATTRIBUTE_NORMAL);
+    return borra(nombre);
+}
+
+// The access list, protected against what the directory gives if it was; and what hides a file.
+vnerror_fichero copia_permisos(const vnwchar *origen, vnid_fichero destino) {
+    const std::wstring de = ruta_del_sistema(origen);
+    const DWORD atributos = GetFileAttributesW(de.c_str());
+    if (atributos == INVALID_FILE_ATTRIBUTES) return resultado(FALSE);
+    FILE_BASIC_INFO datos{};
+    datos.FileAttributes =
+        FILE_ATTRIBUTE_NORMAL | (atributos & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE));
+    if (datos.FileAttributes != FILE_ATTRIBUTE_NORMAL) datos.FileAttributes &= ~static_cast<DWORD>(FILE_ATTRIBUTE_NORMAL);
+    if (!SetFileInformationByHandle(handle(destino), FileBasicInfo, &datos, sizeof datos)) return resultado(FALSE);
+    DWORD n = 0;
+    GetFileSecurityW(de.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &n);
+    const auto lista = std::make_unique<unsigned char[]>(n + 1);
+    SECURITY_DESCRIPTOR_CONTROL control = 0;
+    DWORD revision = 0;
+    if (!GetFileSecurityW(de.c_str(), DACL_SECURITY_INFORMATION, lista.get(), n, &n) ||
+        !GetSecurityDescriptorControl(lista.get(), &control, &revision))
+        return VN_FICH_NO_ADMITIDO;
+    const SECURITY_INFORMATION que =
+        DACL_SECURITY_INFORMATION |
+        ((control & SE_DACL_PROTECTED) != 0 ? PROTECTED_DACL_SECURITY_INFORMATION : UNPROTECTED_DACL_SECURITY_INFORMATION);
+    return SetKernelObjectSecurity(handle(destino), que, lista.get()) ? VN_FICH_BIEN : VN_FICH_NO_ADMITIDO;
+}
 
 // The rename was written through.
 vnerror_fichero vuelca_directorio(const vnwchar *) { return VN_FICH_BIEN; }
@@ -188,6 +283,16 @@ vnerror_fichero vuelca_directorio(const vnwchar *) { return VN_FICH_BIEN; }
 void espera(uint32_t milisegundos) { Sleep(milisegundos); }
 
 } // namespace
+
+bool mismo_camino(const std::wstring &a, const std::wstring &b) {
+    return CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(), static_cast<int>(b.size()), TRUE) ==
+           CSTR_EQUAL;
+}
+
+size_t mide_nombre(std::wstring_view nombre) { return nombre.size(); }
+
+// The rename says so, before anything is lost.
+bool se_puede_reemplazar(const vnwchar *) { return true; }
 
 extern const vnoperaciones_fichero operaciones_de_fichero = {
 #include "foundation/platform/fichero_filas.inl"
