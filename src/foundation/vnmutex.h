@@ -2,9 +2,12 @@
 
    A mutex is recursive: the thread that holds it may enter again, and frees it with as many exits. Two
    mutexes of the same name and kind are the same lock, so each user may make its own and destroy it when
-   done; what was entered through one is left through the same. No wait is for ever: past the time allowed,
-   entering answers FALSO. A program that dies inside frees what it held, and the next one enters; a thread
-   that ends inside keeps it as long as its program runs. */
+   done; what was entered through one is left through the same. Who waits enters in the order in which it came, be it a
+   thread or a program. No wait is for ever: past the time allowed, entering answers FALSO. A program that dies inside
+   frees what it held, and the next one enters; a thread that ends inside keeps it as long as its program runs. A process
+   that splits (fork) keeps what it holds, and its child has entered nothing.
+
+   Threads: every operation may be called from any thread; nobody uses a mutex that another thread destroys. */
 #ifndef VN_VNMUTEX_H
 #define VN_VNMUTEX_H
 
@@ -18,8 +21,9 @@ VN_C_INICIO
     of a name are the same name when it is plain ASCII. */
 vnmutex *vnmutex_crea(const char *nombre);
 vnmutex *vnmutex_crea_u(const vnwchar *nombre);
-/** New mutex between all programs of this user on this machine, and between their threads. The name is any text that
-    is not empty; case counts. On Windows the programs of other users share it too. */
+/** New mutex between all programs of this machine, of all its users, and between their threads. The name is any text
+    that is not empty; case counts. Where the machine refuses the shared lock (somebody made what stands in its place),
+    a developer's warning is given and the programs of this user share one of their own. */
 vnmutex *vnmutex_crea_entre_aplicaciones(const char *nombre);
 
 /** Enters: CIERTO when this thread holds the mutex. FALSO when the time allowed passed, or when the machine refuses

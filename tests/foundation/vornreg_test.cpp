@@ -15,7 +15,6 @@ const std::string CLAVE = "Software\\nucleos_prueba";
 
 // The registry's file, where it has one, in the test's directory; a name under CLAVE that no other run uses.
 std::string clave_propia() {
-    vn::pon_variable("XDG_RUNTIME_DIR", vn::Prueba::directorio());
     fichconf_establece_directorio_base(ancho(vn::Prueba::directorio()).c_str());
     const std::string &d = vn::Prueba::directorio();
     return CLAVE + "\\" + d.substr(d.find_last_of('/') + 1);
@@ -124,7 +123,6 @@ PRUEBA(vornreg, sobre_un_fichero_cualquiera) {
 
 // Arguments: the base directory, the key, the number of the program.
 HIJO(anota_en_el_registro) {
-    vn::pon_variable("XDG_RUNTIME_DIR", args.at(0));
     fichconf_establece_directorio_base(ancho(args.at(0)).c_str());
     for (int i = 0; i < 8; ++i)
         if (!pon(args.at(1), args.at(2) + "." + std::to_string(i), ancho("v" + std::to_string(i)))) return 3;

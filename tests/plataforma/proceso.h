@@ -35,10 +35,17 @@ class proceso {
     std::optional<int> resultado_;
 };
 
-// Sets a variable of the environment, for this process and the children to come.
+// Sets a variable of the environment, for this process and the children to come; an empty value takes it away.
 void pon_variable(const char *nombre, const std::string &valor);
 // Ends the calling process as mata() would.
 [[noreturn]] void muere();
+// Splits the process: what `hijo` answers in the child, which then ends in good order; nothing where processes do not
+// split. The child must not fail a check: the test would go on in both.
+std::optional<int> bifurca(int (*hijo)(void *datos), void *datos);
+// Makes it another user's; false where only the administrator could.
+bool hazlo_de_otro(const std::string &ruta);
+// The file that the lock between programs of a simple name is; empty where it is none.
+std::string fichero_de_cerrojo(const std::string &nombre);
 
 using funcion_hijo = int (*)(const std::vector<std::string> &args);
 struct registra_hijo {

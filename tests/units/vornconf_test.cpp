@@ -19,7 +19,6 @@ namespace {
 // The file in a directory of the test's, and the record of the process as the file has it.
 struct en_directorio {
     explicit en_directorio(const std::string &base = vn::Prueba::directorio()) : nombre(base + "/VORN/estructa/internac.ini") {
-        vn::pon_variable("XDG_RUNTIME_DIR", base);
         msidioma_establece_idioma(0); // in the children too
         fichconf_establece_directorio_base(vn::ancho(base).c_str());
         vornconf_par_lee_internacional(nullptr);

@@ -15,7 +15,7 @@ SEGUNDOS = 1500
 def lanza(orden, carpeta, *argumentos):
     # Everything that a program may write lies in the working directory.
     entorno = dict(os.environ, HOME=carpeta, TMPDIR=carpeta, XDG_CONFIG_HOME=carpeta, XDG_DATA_HOME=carpeta,
-                   XDG_RUNTIME_DIR=carpeta, XDG_STATE_HOME=carpeta)
+                   XDG_STATE_HOME=carpeta)
     for variable in ("ENPRUEBA", "VNCACHINFO_LOG", "DISPLAY"):
         entorno.pop(variable, None)
     try:

@@ -12,11 +12,24 @@ extern char **environ;
 
 namespace vn {
 
-void pon_variable(const char *nombre, const std::string &valor) { ::setenv(nombre, valor.c_str(), 1); }
+void pon_variable(const char *nombre, const std::string &valor) {
+    if (valor.empty()) ::unsetenv(nombre);
+    else ::setenv(nombre, valor.c_str(), 1);
+}
 
 void muere() {
     for (;;) ::kill(::getpid(), SIGKILL);
 }
+
+std::optional<int> bifurca(int (*hijo)(void *datos), void *datos) {
+    const pid_t pid = ::fork();
+    if (pid == 0) std::exit(hijo(datos));
+    return pid > 0 ? plataforma::espera(pid, 30000) : std::nullopt;
+}
+
+bool hazlo_de_otro(const std::string &ruta) { return ::chown(ruta.c_str(), 65534, 65534) == 0; }
+
+std::string fichero_de_cerrojo(const std::string &nombre) { return "/run/lock/nucleos-" + nombre + ".lock"; }
 
 namespace plataforma {
 

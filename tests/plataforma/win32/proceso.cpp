@@ -28,12 +28,16 @@ std::wstring entre_comillas(const std::wstring &a) {
 } // namespace
 
 void pon_variable(const char *nombre, const std::string &valor) {
-    SetEnvironmentVariableW(ancho(nombre).c_str(), ancho(valor).c_str());
+    SetEnvironmentVariableW(ancho(nombre).c_str(), valor.empty() ? nullptr : ancho(valor).c_str());
 }
 
 void muere() {
     for (;;) TerminateProcess(GetCurrentProcess(), proceso::MUERTO);
 }
+
+std::optional<int> bifurca(int (*)(void *), void *) { return std::nullopt; }
+bool hazlo_de_otro(const std::string &) { return false; }
+std::string fichero_de_cerrojo(const std::string &) { return {}; }
 
 namespace plataforma {
 

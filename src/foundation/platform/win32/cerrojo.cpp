@@ -40,8 +40,11 @@ cerrojo::toma cerrojo::entra(uint32_t milisegundos) {
 
 void cerrojo::sal() { ReleaseMutex(mutex_id(id_)); }
 
-cerrojo::~cerrojo() {
+void cerrojo::olvida() {
     if (id_ != -1) CloseHandle(mutex_id(id_));
+    id_ = -1;
 }
+
+void al_bifurcarse(void (*)(), void (*)(), void (*)()) {}
 
 } // namespace vn::plat
