@@ -3,6 +3,7 @@
 #include "foundation/afirma.h"
 #include "foundation/numero_priv.h"
 #include "foundation/operaciones_fichero_priv.h"
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -71,12 +72,27 @@ bool busca(std::string_view datos, std::string_view seccion, std::string_view cl
     return false;
 }
 
+int32_t entero_de(std::string_view datos, std::string_view seccion, std::string_view clave, int32_t por_defecto) {
+    std::string_view valor;
+    if (!busca(datos, sin_blancos(seccion), sin_blancos(clave), valor)) return por_defecto;
+    return vn::lee_entero<int32_t>(valor.data(), valor.size()).valor;
+}
+
 } // namespace
 
 int32_t ini_lee_int(const vnwchar *fichero, const char *seccion, const char *clave, int32_t por_defecto) {
     if (!AFIRMA_NO_NULO(fichero) || !AFIRMA_NO_NULO(seccion) || !AFIRMA_NO_NULO(clave)) return 0;
+    return entero_de(contenido(fichero), seccion, clave, por_defecto);
+}
+
+void ini_lee_varios_int(const vnwchar *fichero, const char *seccion, const char *claves, int32_t *valores,
+                        uint32_t cuantas) {
+    if (!AFIRMA_NO_NULO(fichero) || !AFIRMA_NO_NULO(seccion) || !AFIRMA_NO_NULO(claves) || !AFIRMA_NO_NULO(valores)) return;
     const std::string datos = contenido(fichero);
-    std::string_view valor;
-    if (!busca(datos, sin_blancos(seccion), sin_blancos(clave), valor)) return por_defecto;
-    return vn::lee_entero<int32_t>(valor.data(), valor.size()).valor;
+    std::string_view quedan = claves;
+    for (uint32_t i = 0; i < cuantas; ++i) {
+        const size_t fin = std::min(quedan.find('\n'), quedan.size());
+        valores[i] = entero_de(datos, seccion, quedan.substr(0, fin), 0);
+        quedan.remove_prefix(std::min(fin + 1, quedan.size()));
+    }
 }

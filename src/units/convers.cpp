@@ -36,27 +36,25 @@ columna_convers columna_en_vigor(const fila_convers *convers) {
 
 // With every check, and whatever is made at first use.
 [[gnu::cold, gnu::noinline]] double convierte_despacio(int32_t sentido, uint32_t tipovalor, double valor) {
-    if (tipovalor == CNV_NO_CONVERSION) return valor;
-    const fila_convers *convers = fila_de_convers(tipovalor);
-    if (!AFIRMA_NO_NULO(convers)) return 0;
-    const cifras_convers &c = convers->cifras[columna_en_vigor(convers)];
-    switch (sentido) {
-    case CNV_A_MOSTRADO: return c.a_mostrado(valor);
-    case CNV_A_INTERNO: return c.a_interno(valor);
-    default: AFIRMA_DEFECTO(); return 0;
-    }
+    const vista_convers v(tipovalor);
+    if (!v.es_tipo) return 0;
+    if (v.fila == nullptr || sentido == CNV_A_MOSTRADO) return v.a_mostrado(valor);
+    return sentido == CNV_A_INTERNO ? v.a_interno(valor) : (AFIRMA_DEFECTO(), 0);
 }
 
 } // namespace
 
-bool es_tipovalor(uint32_t tipovalor) {
-    if (tipovalor == CNV_NO_CONVERSION) return true;
+vista_convers::vista_convers(uint32_t tipovalor) {
+    if (tipovalor == CNV_NO_CONVERSION) return;
     const fila_convers *convers = fila_de_convers(tipovalor);
-    return AFIRMA_NO_NULO(convers);
+    es_tipo = AFIRMA_NO_NULO(convers);
+    if (!es_tipo) return;
+    const columna_convers columna = columna_en_vigor(convers);
+    fila = convers;
+    cifras = convers->cifras[columna];
+    unidad = dame_textos_convers()[tipovalor].texto[columna];
+    if (columna == EN_IMPERIAL && !es_uso_residual.load(std::memory_order_relaxed)) formato = convers->formato;
 }
-
-double a_mostrado(uint32_t tipovalor, double interno) { return cnv_convierte(CNV_A_MOSTRADO, tipovalor, interno); }
-double a_interno(uint32_t tipovalor, double mostrado) { return cnv_convierte(CNV_A_INTERNO, tipovalor, mostrado); }
 
 } // namespace vn
 
@@ -74,24 +72,11 @@ double cnv_convierte(int32_t sentido, uint32_t tipovalor, double valor) {
     return convierte_despacio(sentido, tipovalor, valor);
 }
 
-const vnwchar *cnv_strextunids(uint32_t tipovalor) {
-    if (tipovalor == CNV_NO_CONVERSION) return VNU("");
-    const fila_convers *convers = fila_de_convers(tipovalor);
-    if (!AFIRMA_NO_NULO(convers)) return VNU("");
-    return dame_textos_convers()[tipovalor].texto[columna_en_vigor(convers)];
-}
-
-int32_t convers_formato_entrada(uint32_t tipovalor) {
-    if (tipovalor == CNV_NO_CONVERSION) return VORNNUM_FORMATO_NUMERO;
-    const fila_convers *convers = fila_de_convers(tipovalor);
-    if (!AFIRMA_NO_NULO(convers)) return VORNNUM_FORMATO_NUMERO;
-    if (columna_en_vigor(convers) != EN_IMPERIAL || es_uso_residual.load(std::memory_order_relaxed))
-        return VORNNUM_FORMATO_NUMERO;
-    return convers->formato;
-}
+const vnwchar *cnv_strextunids(uint32_t tipovalor) { return vista_convers(tipovalor).unidad; }
+int32_t convers_formato_entrada(uint32_t tipovalor) { return vista_convers(tipovalor).formato; }
 
 vnbool convers_es_longitud_en_sistema_imperial(uint32_t tipovalor) {
-    return convers_formato_entrada(tipovalor) != VORNNUM_FORMATO_NUMERO;
+    return vista_convers(tipovalor).es_longitud_imperial();
 }
 
 uint32_t convers_divisor_maximo_pulgadas(uint32_t tipovalor) {
@@ -108,17 +93,16 @@ void convers_valores_para_vnudcuso(uint32_t tipovalor, double *factor_conversion
                                    double *sumando_conversion_a_unidades_internas,
                                    vnbool *es_correcto_texto_de_unidades_despues_de_valor,
                                    const vnwchar **texto_unidades) {
-    if (!es_tipovalor(tipovalor)) return;
+    const vista_convers v(tipovalor);
+    if (!v.es_tipo) return;
     if (!AFIRMA_NO_NULO(factor_conversion_a_unidades_internas)) return;
     if (!AFIRMA_NO_NULO(sumando_conversion_a_unidades_internas)) return;
     if (!AFIRMA_NO_NULO(es_correcto_texto_de_unidades_despues_de_valor)) return;
     if (!AFIRMA_NO_NULO(texto_unidades)) return;
-    const fila_convers *convers = fila_de_convers(tipovalor);
-    const cifras_convers c = convers != nullptr ? convers->cifras[columna_en_vigor(convers)] : cifras_convers{1, 0};
-    *factor_conversion_a_unidades_internas = 1 / c.coef;
-    *sumando_conversion_a_unidades_internas = 0 - c.sumando;
-    *es_correcto_texto_de_unidades_despues_de_valor = !convers_es_longitud_en_sistema_imperial(tipovalor);
-    *texto_unidades = cnv_strextunids(tipovalor);
+    *factor_conversion_a_unidades_internas = 1 / v.cifras.coef;
+    *sumando_conversion_a_unidades_internas = 0 - v.cifras.sumando;
+    *es_correcto_texto_de_unidades_despues_de_valor = !v.es_longitud_imperial();
+    *texto_unidades = v.unidad;
 }
 
 // ---------------------------------------------------------------- units by name

@@ -51,10 +51,19 @@ inline const fila_convers *fila_de_convers(uint32_t tipovalor) {
     return tipovalor < CNV_NO_CONVERSION ? &FILAS_CONVERS[tipovalor] : nullptr;
 }
 
-// Whether it is a type with a row, or CNV_NO_CONVERSION; reports.
-bool es_tipovalor(uint32_t tipovalor);
-// A value of a type that es_tipovalor, as shown and back.
-double a_mostrado(uint32_t tipovalor, double interno);
-double a_interno(uint32_t tipovalor, double mostrado);
+// A value type as it is shown at one moment. Each operation looks once: what changes meanwhile changes the next one.
+struct vista_convers {
+    bool es_tipo = true;                // false, reported: there is none, and it shows like CNV_NO_CONVERSION
+    const fila_convers *fila = nullptr; // null of CNV_NO_CONVERSION: values as they are
+    cifras_convers cifras{1, 0};
+    const vnwchar *unidad = VNU("");
+    int32_t formato = 0; // entry format in force: VORNNUM_FORMATO_*
+
+    explicit vista_convers(uint32_t tipovalor);
+    bool es_longitud_imperial() const { return formato != 0; }
+    uint32_t denominador() const { return fila != nullptr ? fila->denominador : 0; }
+    double a_mostrado(double interno) const { return fila != nullptr ? cifras.a_mostrado(interno) : interno; }
+    double a_interno(double mostrado) const { return fila != nullptr ? cifras.a_interno(mostrado) : mostrado; }
+};
 
 } // namespace vn

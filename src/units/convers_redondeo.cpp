@@ -37,9 +37,10 @@ double potencia_de_diez(int32_t exponente) {
 
 // The exponent of a precision as it is shown; reports, and is false.
 bool exponente_de(double prec_deseada_uds_internas, uint32_t tipovalor, int32_t *exponente) {
-    if (!AFIRMA(tipovalor != CNV_NO_CONVERSION) || !es_tipovalor(tipovalor)) return false;
-    if (!AFIRMA(prec_deseada_uds_internas > 0.)) return false;
-    const double prec_uds_salida = a_mostrado(tipovalor, prec_deseada_uds_internas);
+    if (!AFIRMA(tipovalor != CNV_NO_CONVERSION)) return false;
+    const vista_convers v(tipovalor);
+    if (!v.es_tipo || !AFIRMA(prec_deseada_uds_internas > 0.)) return false;
+    const double prec_uds_salida = v.a_mostrado(prec_deseada_uds_internas);
     if (!AFIRMA(prec_uds_salida > 0.)) return false;
     *exponente = exponente_decimal(prec_uds_salida);
     return true;
@@ -108,17 +109,13 @@ double redondea_al_paso(double valor, double paso, modo_redondeo modo) {
 }
 
 double redondeado(double valor, double prec, uint32_t tipovalor, modo_redondeo modo) {
-    if (!es_tipovalor(tipovalor)) return valor;
-    const fila_convers *convers = fila_de_convers(tipovalor);
-    double base = 5;
-    if (convers != nullptr && convers->formato == VORNNUM_FORMATO_PIES) {
-        // What is shown in feet is rounded in inches.
-        tipovalor = CNV_LONGITUD_CM;
-        if (convers_es_longitud_en_sistema_imperial(tipovalor) == CIERTO) base = 6;
-    }
-    const double mostrado = a_mostrado(tipovalor, valor);
-    if (!std::isfinite(mostrado)) return valor;
-    return a_interno(tipovalor, redondea_al_paso(mostrado, paso_redondo(a_mostrado(tipovalor, prec), base), modo));
+    // What is shown in feet is rounded in inches.
+    const bool en_pies = tipovalor < CNV_NO_CONVERSION && FILAS_CONVERS[tipovalor].formato == VORNNUM_FORMATO_PIES;
+    const vista_convers v(en_pies ? uint32_t{CNV_LONGITUD_CM} : tipovalor);
+    const double mostrado = v.a_mostrado(valor);
+    if (!v.es_tipo || !std::isfinite(mostrado)) return valor;
+    const double base = en_pies && v.es_longitud_imperial() ? 6 : 5;
+    return v.a_interno(redondea_al_paso(mostrado, paso_redondo(v.a_mostrado(prec), base), modo));
 }
 
 } // namespace
@@ -169,16 +166,15 @@ double convers_valor_redondeado_por_exceso(double valor, double prec, uint32_t t
 }
 
 double convers_valor_adaptado_a_unidades(double valor, uint32_t tipovalor) {
-    if (!es_tipovalor(tipovalor) || tipovalor == CNV_NO_CONVERSION) return valor;
+    const vista_convers v(tipovalor);
     // Not-a-number too.
-    if (!(std::fabs(valor) < 1000000000000.)) return valor;
-    const fila_convers *convers = fila_de_convers(tipovalor);
-    const double mostrado = a_mostrado(tipovalor, valor);
-    const double p = std::fabs(mostrado * convers->relativa);
+    if (v.fila == nullptr || !(std::fabs(valor) < 1000000000000.)) return valor;
+    const double mostrado = v.a_mostrado(valor);
+    const double p = std::fabs(mostrado * v.fila->relativa);
     double base = 6;
-    if (convers_formato_entrada(tipovalor) == VORNNUM_FORMATO_NUMERO) {
-        if (std::fabs(mostrado - convers->cifras[EN_MKS].a_mostrado(valor)) < p) return valor;
+    if (!v.es_longitud_imperial()) {
+        if (std::fabs(mostrado - v.fila->cifras[EN_MKS].a_mostrado(valor)) < p) return valor;
         base = 5;
     }
-    return a_interno(tipovalor, redondea_al_paso(mostrado, paso_redondo(p, base), convers->modo));
+    return v.a_interno(redondea_al_paso(mostrado, paso_redondo(p, base), v.fila->modo));
 }

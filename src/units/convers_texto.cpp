@@ -12,36 +12,27 @@ using namespace vn;
 namespace {
 
 // A length in feet and inches, which no format applies to: the road of every text under the imperial system.
-template <class C> C *texto_imperial(double valor, uint32_t tipovalor, const C *cabecera = nullptr) {
-    if (!AFIRMA(convers_es_longitud_en_sistema_imperial(tipovalor) == CIERTO)) return nullptr;
+template <class C> C *texto_imperial(double valor, const vista_convers &v, const C *cabecera = nullptr) {
+    if (!AFIRMA_TEXTO(v.es_longitud_imperial(), "convers_es_longitud_en_sistema_imperial(tipovalor) == CIERTO")) return nullptr;
     texto_numero<C> t;
-    if (!pon_longitud(t, a_mostrado(tipovalor, valor), convers_formato_entrada(tipovalor),
-                      convers_divisor_maximo_pulgadas(tipovalor)))
-        return nullptr;
+    if (!pon_longitud(t, v.a_mostrado(valor), v.formato, v.denominador())) return nullptr;
     if constexpr (std::is_same_v<C, vnwchar>)
         if (cabecera != nullptr)
             return copiaforu_formatea(VNU("%s: %.*s"), cabecera, static_cast<int>(t.largo()), t.letras());
     return texto_nuevo(t);
 }
 
-// `formatea` makes the text of the value as it is shown.
-template <class C, class F> C *texto_del_numero(double valor, uint32_t tipovalor, F formatea) {
-    if (!es_tipovalor(tipovalor)) return nullptr;
-    if (convers_es_longitud_en_sistema_imperial(tipovalor) == CIERTO) return texto_imperial<C>(valor, tipovalor);
-    return formatea(a_mostrado(tipovalor, valor));
-}
-
-// `formatea` takes the unit too.
-template <class F> vnwchar *texto_con_unidades(double valor, uint32_t tipovalor, F formatea) {
-    return texto_del_numero<vnwchar>(valor, tipovalor,
-                                 [&](double mostrado) { return formatea(mostrado, cnv_strextunids(tipovalor)); });
+// `formatea` makes the text of the value as it is shown, or of the value and its unit.
+template <class C, class F> C *texto_del_valor(double valor, uint32_t tipovalor, F formatea, const C *cabecera = nullptr) {
+    const vista_convers v(tipovalor);
+    if (!v.es_tipo) return nullptr;
+    if (v.es_longitud_imperial()) return texto_imperial<C>(valor, v, cabecera);
+    if constexpr (std::is_invocable_v<F, double>) return formatea(v.a_mostrado(valor));
+    else return formatea(v.a_mostrado(valor), v.unidad);
 }
 
 template <class F> vnwchar *texto_con_cabecera(const vnwchar *cabecera, double valor, uint32_t tipovalor, F formatea) {
-    if (!AFIRMA_NO_NULO(cabecera) || !es_tipovalor(tipovalor)) return nullptr;
-    if (convers_es_longitud_en_sistema_imperial(tipovalor) == CIERTO)
-        return texto_imperial(valor, tipovalor, cabecera);
-    return formatea(a_mostrado(tipovalor, valor), cnv_strextunids(tipovalor));
+    return AFIRMA_NO_NULO(cabecera) ? texto_del_valor<vnwchar>(valor, tipovalor, formatea, cabecera) : nullptr;
 }
 
 // A number of decimals as the formats take it; beyond a million they show a million.
@@ -55,14 +46,14 @@ double con_decimales(double mostrado, uint32_t decimales) { return prec_redondea
 
 #define TEXTO(nombre, nombre_u, formato)                                                                               \
     char *nombre(double valor, uint32_t tipovalor) {                                                                   \
-        return texto_del_numero<char>(valor, tipovalor, [](double v) { return cad_formatea(formato, v); });                \
+        return texto_del_valor<char>(valor, tipovalor, [](double v) { return cad_formatea(formato, v); });                \
     }                                                                                                                  \
     vnwchar *nombre_u(double valor, uint32_t tipovalor) {                                                              \
-        return texto_del_numero<vnwchar>(valor, tipovalor, [](double v) { return copiaforu_formatea(VNU(formato), v); });  \
+        return texto_del_valor<vnwchar>(valor, tipovalor, [](double v) { return copiaforu_formatea(VNU(formato), v); });  \
     }
 #define CON_UNIDADES(nombre, formato)                                                                                  \
     vnwchar *nombre(double valor, uint32_t tipovalor) {                                                                \
-        return texto_con_unidades(valor, tipovalor, [](double v, const vnwchar *unidad) {                              \
+        return texto_del_valor<vnwchar>(valor, tipovalor, [](double v, const vnwchar *unidad) {                              \
             return copiaforu_formatea(VNU(formato), v, unidad);                                                        \
         });                                                                                                            \
     }
@@ -98,36 +89,36 @@ CON_CABECERA(convers_texto_con_cabecera_y_unidades_sin_decimales, "%s: %.0lf %s"
 // ---------------------------------------------------------------- the members that are told the decimals
 
 char *convers_texto_n_decimales(double valor, uint32_t tipovalor, uint32_t n_decimales) {
-    return texto_del_numero<char>(
+    return texto_del_valor<char>(
         valor, tipovalor, [=](double v) { return cad_formatea("%.*lf", precision_de_formato(n_decimales), v); });
 }
 
 vnwchar *convers_texto_n_decimales_u(double valor, uint32_t tipovalor, uint32_t n_decimales) {
-    return texto_del_numero<vnwchar>(valor, tipovalor, [=](double v) {
+    return texto_del_valor<vnwchar>(valor, tipovalor, [=](double v) {
         return copiaforu_formatea(VNU("%.*lf"), precision_de_formato(n_decimales), v);
     });
 }
 
 char *convers_texto_max_n_decimales(double valor, uint32_t tipovalor, uint32_t decimales) {
     if (!AFIRMA(decimales < 256)) return nullptr;
-    return texto_del_numero<char>(valor, tipovalor, [=](double v) { return cad_formatea("%g", con_decimales(v, decimales)); });
+    return texto_del_valor<char>(valor, tipovalor, [=](double v) { return cad_formatea("%g", con_decimales(v, decimales)); });
 }
 
 vnwchar *convers_texto_max_n_decimales_u(double valor, uint32_t tipovalor, uint32_t decimales) {
     if (!AFIRMA(decimales < 256)) return nullptr;
-    return texto_del_numero<vnwchar>(
+    return texto_del_valor<vnwchar>(
         valor, tipovalor, [=](double v) { return copiaforu_formatea(VNU("%g"), con_decimales(v, decimales)); });
 }
 
 vnwchar *convers_texto_con_unidades_n_decimales(double valor, uint32_t tipovalor, uint32_t n_decimales) {
-    return texto_con_unidades(valor, tipovalor, [=](double v, const vnwchar *unidad) {
+    return texto_del_valor<vnwchar>(valor, tipovalor, [=](double v, const vnwchar *unidad) {
         return copiaforu_formatea(VNU("%.*lf %s"), precision_de_formato(n_decimales), v, unidad);
     });
 }
 
 vnwchar *convers_texto_con_unidades_max_n_decimales(double valor, uint32_t tipovalor, uint32_t decimales) {
     if (!AFIRMA(decimales < 256)) return nullptr;
-    return texto_con_unidades(valor, tipovalor, [=](double v, const vnwchar *unidad) {
+    return texto_del_valor<vnwchar>(valor, tipovalor, [=](double v, const vnwchar *unidad) {
         return copiaforu_formatea(VNU("%g %s"), con_decimales(v, decimales), unidad);
     });
 }
@@ -148,17 +139,17 @@ vnwchar *convers_texto_con_cabecera_y_unidades_max_tres_decimales(const vnwchar 
 
 vnwchar *convers_texto_ex(const vnwchar *cabecera, double valor, uint32_t tipovalor, uint32_t decimales,
                           vnbool es_maximo, vnbool con_unidades) {
-    if (!es_tipovalor(tipovalor) || !AFIRMA(decimales < 256)) return nullptr;
+    const vista_convers vista(tipovalor);
+    if (!vista.es_tipo || !AFIRMA(decimales < 256)) return nullptr;
     if (!AFIRMA_LOGICO(es_maximo) || !AFIRMA_LOGICO(con_unidades)) return nullptr;
-    if (convers_es_longitud_en_sistema_imperial(tipovalor) == CIERTO)
-        return texto_imperial(valor, tipovalor, cabecera);
-    const double v = con_decimales(a_mostrado(tipovalor, valor), decimales);
+    if (vista.es_longitud_imperial()) return texto_imperial(valor, vista, cabecera);
+    const double v = con_decimales(vista.a_mostrado(valor), decimales);
     // What is absent is an empty text: heading, its separator, blank, unit.
     const bool unidad = con_unidades == CIERTO && tipovalor != CNV_NO_CONVERSION;
     const vnwchar *const cabeza = cabecera != nullptr ? cabecera : VNU("");
     const vnwchar *const separa = cabecera != nullptr ? VNU(": ") : VNU("");
     const vnwchar *const blanco = unidad ? VNU(" ") : VNU("");
-    const vnwchar *const texto = unidad ? cnv_strextunids(tipovalor) : VNU("");
+    const vnwchar *const texto = unidad ? vista.unidad : VNU("");
     if (es_maximo == CIERTO) return copiaforu_formatea(VNU("%s%s%g%s%s"), cabeza, separa, v, blanco, texto);
     return copiaforu_formatea(VNU("%s%s%.*lf%s%s"), cabeza, separa, static_cast<int>(decimales), v, blanco, texto);
 }
@@ -167,42 +158,46 @@ vnwchar *convers_texto_ex(const vnwchar *cabecera, double valor, uint32_t tipova
 
 vnbool convers_dameNumeroDeCadena(const char *cadena, double *valor, uint32_t tipovalor) {
     if (valor != nullptr) *valor = 0;
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor) || !es_tipovalor(tipovalor)) return FALSO;
-    return vornnum_dameNumeroDeCadena(cadena, valor, convers_formato_entrada(tipovalor));
+    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    const vista_convers v(tipovalor);
+    return v.es_tipo ? vornnum_dameNumeroDeCadena(cadena, valor, v.formato) : FALSO;
 }
 
 vnbool convers_dameNumeroDeCadena_u(const vnwchar *cadena, double *valor, uint32_t tipovalor) {
     if (valor != nullptr) *valor = 0;
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor) || !es_tipovalor(tipovalor)) return FALSO;
-    return vornnum_dameNumeroDeCadena_u(cadena, valor, convers_formato_entrada(tipovalor));
+    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    const vista_convers v(tipovalor);
+    return v.es_tipo ? vornnum_dameNumeroDeCadena_u(cadena, valor, v.formato) : FALSO;
 }
 
 vnbool convers_dameNumeroDeCadenaConDecimales(const char *cadena, double *valor, char sep_millares, char sep_decimales,
                                               uint32_t tipovalor) {
     if (valor != nullptr) *valor = 0;
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor) || !es_tipovalor(tipovalor)) return FALSO;
-    return vornnum_dameNumeroDeCadenaConDecimales(cadena, valor, sep_millares, sep_decimales,
-                                                  convers_formato_entrada(tipovalor));
+    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    const vista_convers v(tipovalor);
+    return v.es_tipo ? vornnum_dameNumeroDeCadenaConDecimales(cadena, valor, sep_millares, sep_decimales, v.formato)
+                     : FALSO;
 }
 
 vnbool convers_dameNumeroDeCadenaConDecimales_u(const vnwchar *cadena, double *valor, vnwchar sep_millares,
                                                 vnwchar sep_decimales, uint32_t tipovalor) {
     if (valor != nullptr) *valor = 0;
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor) || !es_tipovalor(tipovalor)) return FALSO;
-    return vornnum_dameNumeroDeCadenaConDecimales_u(cadena, valor, sep_millares, sep_decimales,
-                                                    convers_formato_entrada(tipovalor));
+    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    const vista_convers v(tipovalor);
+    return v.es_tipo ? vornnum_dameNumeroDeCadenaConDecimales_u(cadena, valor, sep_millares, sep_decimales, v.formato)
+                     : FALSO;
 }
 
 char *convers_double_a_cadena(double valor, char sep_millares, char sep_decimales, int32_t decimales,
                               uint32_t tipovalor) {
-    if (!es_tipovalor(tipovalor)) return nullptr;
-    return vornnum_double_a_cadena(valor, sep_millares, sep_decimales, decimales, convers_formato_entrada(tipovalor),
-                                   convers_divisor_maximo_pulgadas(tipovalor));
+    const vista_convers v(tipovalor);
+    return v.es_tipo ? vornnum_double_a_cadena(valor, sep_millares, sep_decimales, decimales, v.formato, v.denominador())
+                     : nullptr;
 }
 
 vnwchar *convers_double_a_cadena_u(double valor, vnwchar sep_millares, vnwchar sep_decimales, int32_t decimales,
                                    uint32_t tipovalor) {
-    if (!es_tipovalor(tipovalor)) return nullptr;
-    return vornnum_double_a_cadena_u(valor, sep_millares, sep_decimales, decimales, convers_formato_entrada(tipovalor),
-                                     convers_divisor_maximo_pulgadas(tipovalor));
+    const vista_convers v(tipovalor);
+    return v.es_tipo ? vornnum_double_a_cadena_u(valor, sep_millares, sep_decimales, decimales, v.formato, v.denominador())
+                     : nullptr;
 }

@@ -2,6 +2,7 @@
 #include "units/vornconf.h"
 #include "foundation/afirma.h"
 #include "foundation/cad.h"
+#include "foundation/eterno_priv.h"
 #include "foundation/fichconf.h"
 #include "foundation/ini.h"
 #include "foundation/msglocal.h"
@@ -15,7 +16,10 @@
 #include "units/vornconf_priv.h"
 #include <array>
 #include <atomic>
+#include <iterator>
 #include <memory>
+#include <mutex>
+#include <string>
 
 using internacional = vornconf_internacional;
 
@@ -90,17 +94,19 @@ constexpr clave CLAVES[] = {
     {"SistemaUnidadEnergia", &internacional::sistema_unidades_energia},
 };
 
-constexpr const char *SECCION = "Internacional";
-
 vnmutex *el_mutex = nullptr;
+constinit std::atomic<bool> esta_en_la_salida{false}; // whether the exit registry has it
+
+void destruye_el_mutex(vnmutex **mutex) {
+    esta_en_la_salida = false;
+    vnmutex_destruye_saliendo(mutex);
+}
 
 // Inside the mutex between programs, for as long as it lives.
 class turno {
   public:
-    turno() {
-        const bool es_nuevo = el_mutex == nullptr; // two threads may both say so: that it is destroyed at exit may be told twice
-        dentro_ = vnmutex_entra_creando_entre_aplicaciones_si_es_necesario(&el_mutex, "vornconf") == CIERTO;
-        if (es_nuevo) alsalir_destruye_dato(vnmutex, &el_mutex, vnmutex_destruye_saliendo);
+    turno() : dentro_(vnmutex_entra_creando_entre_aplicaciones_si_es_necesario(&el_mutex, "vornconf") == CIERTO) {
+        if (!esta_en_la_salida.exchange(true)) alsalir_destruye_dato(vnmutex, &el_mutex, destruye_el_mutex);
     }
     ~turno() {
         if (dentro_) vnmutex_sal(el_mutex);
@@ -110,7 +116,7 @@ class turno {
     bool dentro() const { return dentro_; }
 
   private:
-    bool dentro_ = false;
+    const bool dentro_;
 };
 
 using ruta_propia = vn::propio<vnwchar>;
@@ -124,10 +130,16 @@ ruta_propia la_ruta() {
 // file is read all the same: it is replaced in one step.
 internacional lee_fichero() {
     const ruta_propia ruta = la_ruta();
-    const turno mio;
+    int32_t valores[std::size(CLAVES)] = {};
+    {
+        const turno mio;
+        std::string claves;
+        for (const clave &c : CLAVES) (claves += c.nombre) += '\n';
+        if (ruta != nullptr)
+            ini_lee_varios_int(ruta.get(), "Internacional", claves.c_str(), valores, static_cast<uint32_t>(std::size(CLAVES)));
+    }
     internacional r{};
-    for (const clave &c : CLAVES)
-        if (ruta != nullptr) r.*c.campo = static_cast<uint32_t>(ini_lee_int(ruta.get(), SECCION, c.nombre, 0));
+    for (size_t i = 0; i < std::size(CLAVES); ++i) r.*CLAVES[i].campo = static_cast<uint32_t>(valores[i]);
     const internacional defecto = por_defecto(static_cast<uint32_t>(msidioma_dame_idioma()));
     for (const clave &c : CLAVES)
         if (r.*c.campo == 0) r.*c.campo = defecto.*c.campo;
@@ -172,7 +184,13 @@ void cambia_en_fichero(uint32_t internacional::*campo, uint32_t norma) {
 // ---------------------------------------------------------------- the record of the process
 
 auto &el_registro = vn::registro_vornconf;
-constinit std::atomic<uint16_t> registro_cargado{0};
+constinit std::atomic<bool> registro_cargado{false};
+
+// Of those that load or change the record, so that what was read before a change is not put after it. Recursive: a report
+// made while the file is read may lead the host to ask.
+std::unique_lock<std::recursive_mutex> cierra_el_registro() {
+    return std::unique_lock(vn::eterno<std::recursive_mutex>());
+}
 
 std::atomic_ref<uint32_t> palabra(uint32_t internacional::*campo) { return std::atomic_ref<uint32_t>(el_registro.*campo); }
 
@@ -180,13 +198,28 @@ void pon(const internacional &r) {
     for (const clave &c : CLAVES) palabra(c.campo).store(r.*c.campo, std::memory_order_relaxed);
 }
 
-[[gnu::cold, gnu::noinline]] void carga() {
-    registro_cargado.store(1, std::memory_order_relaxed);
-    pon(lee_fichero());
+// The file becomes the record. Whoever finds the record loaded finds its values.
+internacional carga() {
+    const auto cerrado = cierra_el_registro();
+    const internacional r = lee_fichero();
+    pon(r);
+    registro_cargado.store(true, std::memory_order_release);
+    return r;
+}
+
+[[gnu::cold, gnu::noinline]] void primera_carga() {
+    const auto cerrado = cierra_el_registro();
+    if (!registro_cargado.load(std::memory_order_relaxed)) carga();
 }
 
 void carga_si_hace_falta() {
-    if (registro_cargado.load(std::memory_order_relaxed) == 0) [[unlikely]] carga();
+    if (!registro_cargado.load(std::memory_order_acquire)) [[unlikely]] primera_carga();
+}
+
+void cambia(uint32_t internacional::*campo, uint32_t valor) {
+    const auto cerrado = cierra_el_registro();
+    carga_si_hace_falta();
+    palabra(campo).store(valor, std::memory_order_relaxed);
 }
 
 uint32_t del_registro(uint32_t internacional::*campo) {
@@ -210,14 +243,12 @@ uint32_t vornconf_Internacional_normaMadera(void) { return del_registro(&interna
 
 void vornconf_Internacional_set_sistema_unidades(uint32_t sistema_unidades) {
     if (!AFIRMA(sistema_unidades == VORNCONF_SU_MKS || sistema_unidades == VORNCONF_SU_INTERNACIONAL || sistema_unidades == VORNCONF_SU_IMPERIAL)) return;
-    carga_si_hace_falta();
-    palabra(&internacional::sistema_unidades).store(sistema_unidades, std::memory_order_relaxed);
+    cambia(&internacional::sistema_unidades, sistema_unidades);
 }
 
 void vornconf_Internacional_set_sistema_unidades_energia(uint32_t sistema_unidades_energia) {
     if (!AFIRMA(sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_JULIO || sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_KCAL || sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_BTU)) return;
-    carga_si_hace_falta();
-    palabra(&internacional::sistema_unidades_energia).store(sistema_unidades_energia, std::memory_order_relaxed);
+    cambia(&internacional::sistema_unidades_energia, sistema_unidades_energia);
 }
 
 uint32_t vornconf_Internacional_idioma(void) {
@@ -241,14 +272,16 @@ void vornconf_graba_norma_acero_conformado(uint32_t norma) { cambia_en_fichero(&
 void vornconf_graba_norma_acero_laminado(uint32_t norma) { cambia_en_fichero(&internacional::laminados, norma); }
 
 void vornconf_par_lee_internacional(internacional *internac) {
-    carga();
-    if (internac != nullptr) *internac = el_registro;
+    const internacional r = carga();
+    if (internac != nullptr) *internac = r;
 }
 
 void vornconf_par_graba_internacional(const internacional *internac) {
     if (!AFIRMA_NO_NULO(internac)) return;
+    const auto cerrado = cierra_el_registro();
     escribe_fichero(*internac);
-    if (internac != &el_registro) pon(*internac);
+    // One that is not loaded is loaded from the file by the next query.
+    if (internac != &el_registro && registro_cargado.load(std::memory_order_relaxed)) pon(*internac);
 }
 
 void vornconf_crea_internac_por_defecto_si_no_existe(uint32_t idioma) {
@@ -262,8 +295,7 @@ void vornconf_crea_internac_por_defecto_si_no_existe(uint32_t idioma) {
         if (ruta == nullptr || vdir_existe_fichero_UNICODE(ruta.get()) == CIERTO) return;
         escribe_fichero(por_defecto(idioma));
     }
-    registro_cargado.store(0, std::memory_order_relaxed);
-    vornconf_par_lee_internacional(nullptr);
+    carga();
 }
 
 char *vornconf_texto_sistema_de_unidades(uint32_t sistema_unidades) {

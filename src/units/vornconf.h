@@ -1,10 +1,10 @@
 /* Unit configuration: the system of units, the energy unit and the design standards in force on this machine.
 
    They stand in the file "internac.ini" of the directory that the programs of the family share (fichconf.h), and in one
-   record of the process, which is loaded from it at the first query or change. The record is not guarded: one thread
-   changes it. Each reading and writing of the file is made inside a mutex between programs, and a program that is
-   killed at any moment leaves the file whole. A value that the file lacks, or has as 0, is the default of the active
-   language. */
+   record of the process, which is loaded from it at the first query or change. Threads: every operation may be called from
+   any thread, the first one too; what one changes the others see from their next operation on. Each reading and writing
+   of the file is made inside a mutex between programs, and a program that is killed at any moment leaves the file whole. A
+   value that the file lacks, or has as 0, is the default of the active language. */
 #ifndef VN_VORNCONF_H
 #define VN_VORNCONF_H
 

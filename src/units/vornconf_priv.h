@@ -6,7 +6,7 @@
 
 namespace vn {
 
-// All zeros until it is loaded. Words that other threads may read while the host's one changes them.
+// All zeros until it is loaded. Words that other threads may read while one changes them.
 inline constinit vornconf_internacional registro_vornconf{};
 
 // The system of units, or 0 while the record is not loaded: vornconf_Internacional_sistema_unidades loads it.
