@@ -99,7 +99,9 @@ vnbool existe(const A *a, const typename A::caracter *s, uint32_t *pos) {
     void S##_destruye(S **a) { destruye(a); }                                                                          \
     vnbool S##_inserta(S *a, const C *s) { return inserta(a, s); }                                                     \
     vnbool S##_existe(const S *a, const C *s, uint32_t *pos) { return existe(a, s, pos); }                             \
-    const C *S##_get(const S *a, uint32_t i) { return vn::hay_ordenado(a, i) ? a->datos[i].texto : nullptr; }           \
+    const C *S##_get(const S *a, uint32_t i) {                                                                         \
+        return vn::hay_ordenado(a, i) ? vn::elemento_ordenado(a, i).texto : nullptr;                                   \
+    }                                                                                                                  \
     uint32_t S##_numelems(const S *a) { return vn::total(a); }                                                         \
     vnbool S##_distingue_may_y_min(const S *a) { return AFIRMA_NO_NULO(a) ? a->distingue : FALSO; }
 

@@ -55,9 +55,15 @@ void apunorde_nousar_inserta_original(apunorde *a, void *p, uint32_t *pos) {
 
 uint32_t apunorde_nousar_numelems(const apunorde *a) { return vn::total(a); }
 
-void *apunorde_nousar_get(const apunorde *a, uint32_t i) { return vn::hay_ordenado(a, i) ? a->datos[i] : nullptr; }
+void *apunorde_nousar_get(const apunorde *a, uint32_t i) {
+    return vn::hay_ordenado(a, i) ? vn::elemento_ordenado(a, i) : nullptr;
+}
 
-void *apunorde_nousar_quita(apunorde *a, uint32_t i) { return vn::hay_ordenado(a, i) ? vn::saca(a, i) : nullptr; }
+void *apunorde_nousar_quita(apunorde *a, uint32_t i) {
+    if (!vn::hay_ordenado(a, i)) return nullptr;
+    vn::asienta(a);
+    return vn::saca(a, i);
+}
 
 void *apunorde_nousar_busca(const apunorde *a, const void *clave, vnfunc_compara comparador) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return nullptr;

@@ -1,5 +1,5 @@
-/* Sorted set of pointers, kept by a comparer of the caller's. It belongs to one thread at a time, also while it is
-   only asked. Call it through the wrappers at the end. */
+/* Sorted set of pointers, kept by a comparer of the caller's. Threads: several may ask a set at once; one that changes it is
+   alone with it. Call it through the wrappers at the end. */
 #ifndef VN_APUNORDE_H
 #define VN_APUNORDE_H
 

@@ -1,7 +1,7 @@
 // What the sorted sets are made of: a settled sorted block, and beside it a short sorted tail of what came out of order
 // since, so that inserting n elements in any order moves n times the square root of n and not n times n. The tail is
-// merged when it has grown to that root, or when an element is asked for by its index. A handle derives from
-// ordenado<T>.
+// merged when it has grown to that root, or when an element is taken out; an element is asked for by its index in both, so
+// that asking writes nothing. A handle derives from ordenado<T>.
 #pragma once
 
 #include "foundation/arreglo_priv.h"
@@ -72,13 +72,24 @@ bool inserta_en(A *a, const sitio_ordenado<typename A::elemento> &sitio, typenam
     return true;
 }
 
-// True when there is an element number `i`, and then all are in the settled block. Settling does not change the set, so
-// that a constant one may be asked.
+// True when there is an element number `i`.
 template <class A>
 bool hay_ordenado(const A *a, uint32_t i) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_TEXTO(i < a->num + a->cola.num, "i < num_elementos")) return false;
-    if (a->cola.num > 0) asienta(const_cast<A *>(a));
-    return true;
+    return AFIRMA_NO_NULO(a) && AFIRMA_TEXTO(i < a->num + a->cola.num, "i < num_elementos");
+}
+
+// Element number `i`, which there is.
+template <class A>
+const typename A::elemento &elemento_ordenado(const A *a, uint32_t i) {
+    // How many of the tail stand before it: each stands at its own number more than the settled ones before it.
+    const auto *const cola = a->cola.datos;
+    uint32_t k = 0;
+    for (uint32_t fin = a->cola.num; k < fin;) {
+        const uint32_t medio = (k + fin) / 2;
+        if (cola[medio].antes + medio < i) k = medio + 1;
+        else fin = medio;
+    }
+    return k < a->cola.num && cola[k].antes + k == i ? cola[k].v : a->datos[i - k];
 }
 
 // Takes the set out of its owner's pointer, settled; null after a report.

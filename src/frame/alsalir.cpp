@@ -9,22 +9,24 @@
 #include "foundation/vnatexit.h"
 #include "foundation/vnmutex.h"
 #include "foundation/widestr.h"
+#include <atomic>
 
 namespace {
 
 // The two lists of addresses of text variables, and the guards of all three; each null until its first use.
 arrPuntero *las_cadenas = nullptr;
 arrPuntero *las_cadenas_u = nullptr;
-vnmutex *mutex_cadena = nullptr;
-vnmutex *mutex_cadena_u = nullptr;
-vnmutex *mutex_dato = nullptr;
+constinit std::atomic<vnmutex *> mutex_cadena{nullptr};
+constinit std::atomic<vnmutex *> mutex_cadena_u{nullptr};
+constinit std::atomic<vnmutex *> mutex_dato{nullptr};
 
 void destruye_cadena(void *cadena) { vornstr_destruye(static_cast<char **>(cadena)); }
 
 void limpia_los_mutex(vnparametros *datosQQ) {
     AFIRMA_TEXTO(datosQQ == nullptr, "datosQQ==NULL");
-    for (vnmutex **mutex : {&mutex_cadena, &mutex_cadena_u, &mutex_dato})
-        if (vornspy_es_memoria_reservada_valida(*mutex) == CIERTO) vnmutex_destruye_saliendo(mutex);
+    for (auto *mutex : {&mutex_cadena, &mutex_cadena_u, &mutex_dato})
+        if (vnmutex *m = mutex->exchange(nullptr); vornspy_es_memoria_reservada_valida(m) == CIERTO)
+            vnmutex_destruye_saliendo(&m);
 }
 
 } // namespace
@@ -32,21 +34,27 @@ void limpia_los_mutex(vnparametros *datosQQ) {
 namespace vn {
 
 // Not of the unnamed namespace: the compiler knows the three calls and would take the check of the mutex away.
-vnbool alsalir_mutex_entra(vnmutex **mutex, const vnwchar *nombre, const char *modulo, uint32_t linea);
+vnmutex *alsalir_mutex_entra(std::atomic<vnmutex *> *mutex, const vnwchar *nombre, const char *modulo, uint32_t linea);
 
-// Enters a mutex, which is made first if it is null.
-vnbool alsalir_mutex_entra(vnmutex **mutex, const vnwchar *nombre, const char *modulo, uint32_t linea) {
-    if (!AFIRMA_NO_NULO(mutex)) return FALSO;
-    if (*mutex == nullptr) {
+// Enters a mutex, which is made first if it is null: of those that threads which meet here make the first one stays. The
+// handle that was entered, or null.
+vnmutex *alsalir_mutex_entra(std::atomic<vnmutex *> *mutex, const vnwchar *nombre, const char *modulo, uint32_t linea) {
+    if (!AFIRMA_NO_NULO(mutex)) return nullptr;
+    vnmutex *m = mutex->load();
+    if (m == nullptr) {
         const propio<vnwchar> modulo_u(utunicode_ANSI_a_UNICODE(modulo != nullptr ? modulo : ""));
         const propio<vnwchar> contexto(
             copiaforu_nousar_formatea(VNU("[alsalir:i_mutex_entra(%s)] %s(%d)"), nombre, modulo_u.get(), static_cast<int>(linea)));
         contexto_dentroDeContexto_u(contexto.get());
-        *mutex = vnmutex_crea_u(nombre);
-        nousar_atexit_anade(limpia_los_mutex, nullptr, modulo, linea);
+        vnmutex *nuevo = vnmutex_crea_u(nombre);
+        if (mutex->compare_exchange_strong(m, nuevo)) {
+            m = nuevo;
+            nousar_atexit_anade(limpia_los_mutex, nullptr, modulo, linea);
+        } else
+            vnmutex_destruye(&nuevo);
         contexto_fueraDeContexto_u(contexto.get());
     }
-    return vnmutex_entra(*mutex);
+    return vnmutex_entra(m) == CIERTO ? m : nullptr;
 }
 
 } // namespace vn
@@ -57,8 +65,8 @@ namespace {
 // to make it would surely lose the text, and two that meet may lose one.
 class dentro {
   public:
-    dentro(vnmutex **mutex, const vnwchar *nombre, const char *modulo, uint32_t linea)
-        : mutex_(vn::alsalir_mutex_entra(mutex, nombre, modulo, linea) == CIERTO ? *mutex : nullptr) {}
+    dentro(std::atomic<vnmutex *> *mutex, const vnwchar *nombre, const char *modulo, uint32_t linea)
+        : mutex_(vn::alsalir_mutex_entra(mutex, nombre, modulo, linea)) {}
     ~dentro() {
         if (mutex_ != nullptr) vnmutex_sal(mutex_);
     }
@@ -66,7 +74,7 @@ class dentro {
     dentro &operator=(const dentro &) = delete;
 
   private:
-    vnmutex *mutex_;
+    vnmutex *const mutex_;
 };
 
 // Destroys what the variables of a list lead to, then the list. Without a destroyer the texts are raw blocks.

@@ -1,4 +1,6 @@
-/* Exit registry: destroys a module's process-wide texts and records when the process ends. */
+/* Exit registry: destroys a module's process-wide texts and records when the process ends.
+
+   Threads: registrations may come from any thread, the first ones too; what is registered is the caller's to guard. */
 #ifndef VN_ALSALIR_H
 #define VN_ALSALIR_H
 

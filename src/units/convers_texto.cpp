@@ -13,7 +13,8 @@ namespace {
 
 // A length in feet and inches, which no format applies to: the road of every text under the imperial system.
 template <class C> C *texto_imperial(double valor, const vista_convers &v, const C *cabecera = nullptr) {
-    if (!AFIRMA_TEXTO(v.es_longitud_imperial(), "convers_es_longitud_en_sistema_imperial(tipovalor) == CIERTO")) return nullptr;
+    if (!AFIRMA_TEXTO(v.es_longitud_imperial(), "convers_es_longitud_en_sistema_imperial(tipovalor) == CIERTO"))
+        return nullptr;
     texto_numero<C> t;
     if (!pon_longitud(t, v.a_mostrado(valor), v.formato, v.denominador())) return nullptr;
     if constexpr (std::is_same_v<C, vnwchar>)
@@ -23,7 +24,8 @@ template <class C> C *texto_imperial(double valor, const vista_convers &v, const
 }
 
 // `formatea` makes the text of the value as it is shown, or of the value and its unit.
-template <class C, class F> C *texto_del_valor(double valor, uint32_t tipovalor, F formatea, const C *cabecera = nullptr) {
+template <class C, class F>
+C *texto_del_valor(double valor, uint32_t tipovalor, F formatea, const C *cabecera = nullptr) {
     const vista_convers v(tipovalor);
     if (!v.es_tipo) return nullptr;
     if (v.es_longitud_imperial()) return texto_imperial<C>(valor, v, cabecera);
@@ -46,14 +48,14 @@ double con_decimales(double mostrado, uint32_t decimales) { return prec_redondea
 
 #define TEXTO(nombre, nombre_u, formato)                                                                               \
     char *nombre(double valor, uint32_t tipovalor) {                                                                   \
-        return texto_del_valor<char>(valor, tipovalor, [](double v) { return cad_formatea(formato, v); });                \
+        return texto_del_valor<char>(valor, tipovalor, [](double v) { return cad_formatea(formato, v); });             \
     }                                                                                                                  \
     vnwchar *nombre_u(double valor, uint32_t tipovalor) {                                                              \
-        return texto_del_valor<vnwchar>(valor, tipovalor, [](double v) { return copiaforu_formatea(VNU(formato), v); });  \
+        return texto_del_valor<vnwchar>(valor, tipovalor, [](double v) { return copiaforu_formatea(VNU(formato), v); }); \
     }
 #define CON_UNIDADES(nombre, formato)                                                                                  \
     vnwchar *nombre(double valor, uint32_t tipovalor) {                                                                \
-        return texto_del_valor<vnwchar>(valor, tipovalor, [](double v, const vnwchar *unidad) {                              \
+        return texto_del_valor<vnwchar>(valor, tipovalor, [](double v, const vnwchar *unidad) {                        \
             return copiaforu_formatea(VNU(formato), v, unidad);                                                        \
         });                                                                                                            \
     }

@@ -263,7 +263,7 @@ static int hijo_del_que_ha_salido(void *datos) {
 // Outlives the parent, which died inside.
 static int hijo_que_queda(void *datos) {
     std::this_thread::sleep_for(std::chrono::seconds(*static_cast<int *>(datos)));
-    return 0;
+    vn::muere();
 }
 HIJO(muere_dentro_con_un_hijo) {
     vnmutex *m = vnmutex_crea_entre_aplicaciones(args.at(0).c_str());
