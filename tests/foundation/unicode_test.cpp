@@ -4,7 +4,6 @@
 #include "foundation/cad.h"
 #include "foundation/widestr.h"
 #include "prueba.h"
-#include <thread>
 
 using namespace vn;
 
@@ -150,17 +149,4 @@ PRUEBA(unicode, formas_que_consumen_y_arrays) {
     EXPECT_EQ(utf8_de(arr_GetCADENA_u(anchos, 1)), "ñ");
     EXPECT_EQ(utf8_de(arr_GetCADENA_u(anchos, 0)), "\xEF\xBF\xBD"); // F1 alone is no UTF-8
     utunicode_destruye_cadenas_UNICODE(&anchos);
-}
-
-// Many threads meet at the first use of a page.
-PRUEBA(unicode, primera_vez_desde_varias_hebras) {
-    std::vector<std::thread> hebras;
-    for (int i = 0; i < 4; ++i)
-        hebras.emplace_back([] {
-            for (const uint32_t idioma : {39u, 12u, 33u, 31u, 10u, 0u}) {
-                char *s = unicode_convierte_UNICODE_a_ANSI_idioma(VNU("x"), idioma, nullptr);
-                vornstr_destruye(&s);
-            }
-        });
-    for (auto &h : hebras) h.join();
 }

@@ -5,10 +5,13 @@
 #include "prueba.h"
 #include "units/vornconf.h"
 #include <algorithm>
+#include <atomic>
 #include <cfloat>
+#include <chrono>
 #include <cmath>
 #include <limits>
 #include <map>
+#include <set>
 #include <thread>
 
 namespace {
@@ -459,16 +462,28 @@ PRUEBA(convers, los_textos_son_del_idioma_del_primer_uso) {
     EXPECT_EQ(vn::utf8_de(convers_texto_grado_centigrado()) + vn::utf8_de(convers_texto_porcentaje()), "°C%");
 }
 
-PRUEBA(convers, varios_hilos_se_encuentran_en_el_primer_uso) {
-    for (int vuelta = 0; vuelta < 20; ++vuelta) {
-        vnatexit_ejecuta();
-        const vnwchar *textos[4] = {};
-        std::vector<std::thread> hilos;
-        for (auto &t : textos) hilos.emplace_back([&t] { t = cnv_strextunids(113); });
-        for (auto &h : hilos) h.join();
-        for (const auto *t : textos) EXPECT_EQ(t, cnv_strextunids(113));
+// A text is of one moment: what is changed meanwhile by another thread never mixes two systems.
+PRUEBA(convers, un_texto_es_de_un_momento) {
+    const en_sistema antes(MKS);
+    std::atomic<bool> basta{false};
+    std::thread otra([&] {
+        while (!basta)
+            for (const uint32_t sistema : {IMPERIAL, MKS}) vornconf_Internacional_set_sistema_unidades(sistema);
+    });
+    std::set<std::string> vistos;
+    for (const auto fin = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
+         std::chrono::steady_clock::now() < fin;) {
+        vistos.insert(toma(convers_texto_con_unidades_dos_decimales(1, 1)));
+        vistos.insert(toma(convers_texto_con_cabecera_y_unidades(VNU("F"), 1, 1)));
+        vistos.insert(toma(convers_texto_ex(nullptr, 1, 1, 1, FALSO, CIERTO)));
     }
-    // Without memory for the table there is no text, and no harm.
+    basta = true;
+    otra.join();
+    const std::set<std::string> posibles = {"1.00 t", "2204.62 lbs", "F: 1 t", "F: 2204.62 lbs", "1.0 t", "2204.6 lbs"};
+    EXPECT_TRUE(std::ranges::includes(posibles, vistos)) << testing::PrintToString(vistos);
+}
+
+PRUEBA(convers, sin_memoria_para_los_textos_no_hay_texto) {
     vnatexit_ejecuta();
     EXPECT_FALSE(vn::atrapado([] { cnv_strextunids(113); }, 0));
     EXPECT_NE(cnv_strextunids(113), nullptr);
