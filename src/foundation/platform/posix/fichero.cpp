@@ -182,7 +182,8 @@ vnerror_fichero estado_abierto(vnid_fichero id, vnestado_fichero *estado) {
 
 vnerror_fichero estado(const vnwchar *nombre, vnestado_fichero *e) {
     struct stat s = {};
-    return estado_de(::stat(bytes(nombre).c_str(), &s), s, e);
+    const ruta_en r(nombre);
+    return estado_de(::fstatat(r.directorio(), r.nombre(), &s, 0), s, e);
 }
 
 vnerror_fichero bloquea(vnid_fichero id, int64_t inicio, int64_t tamanyo, uint32_t modo) {

@@ -1,5 +1,7 @@
 #include "foundation/platform/posix/ruta.h"
 #include "foundation/utf_priv.h"
+#include <algorithm>
+#include <climits>
 
 namespace vn::plat {
 
@@ -31,6 +33,16 @@ std::string ruta_del_sistema(std::basic_string_view<vnwchar> ruta) {
         else s.append(u, escribe_utf8(c, u));
     }
     return s;
+}
+
+ruta_en::ruta_en(std::basic_string_view<vnwchar> ruta) : bytes_(ruta_del_sistema(ruta)) {
+    while (bytes_.size() - desde_ >= PATH_MAX) {
+        const size_t corte = bytes_.rfind('/', desde_ + PATH_MAX - 2);
+        if (corte == std::string::npos || corte < desde_) return; // a name that is too long by itself
+        bytes_[corte] = 0;
+        directorio_ = descriptor(::openat(directorio(), nombre(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        desde_ = directorio() < 0 ? bytes_.size() : std::min(bytes_.find_first_not_of('/', corte + 1), bytes_.size());
+    }
 }
 
 } // namespace vn::plat
