@@ -1,8 +1,9 @@
 /* Files and directories by name: paths and their parts, tests, changes, lists.
 
    Both separators are accepted in every path on both platforms; results have the platform's. A path may be
-   longer than 260 characters and hold any Unicode character; on Linux a name that is not UTF-8 comes back as
-   it was. The operations of a path's text do not look at the disk and answer alike on both platforms:
+   longer than 260 characters (on Linux directories of any depth are made, listed and removed; a file is opened by 4095
+   bytes at most) and hold any Unicode character; on Linux a name that is not UTF-8 comes back as it was. The
+   operations of a path's text do not look at the disk and answer alike on both platforms:
        \\server\share \ directory \ name . extension         C: \ directory \ name . extension
        '---unit-----'                                        unit
    The extension is what follows the last full stop of the last part, unless that stop is its first or last
@@ -95,8 +96,9 @@ vnbool vdir_crea_directorios_del_path_UNICODE(const vnwchar *ruta);
 /** Creates the directories that a file needs. A failure is reported, but for _si_es_posible. */
 vnbool vdir_crea_directorios_fichero_UNICODE(const vnwchar *fichero);
 vnbool vdir_crea_directorios_fichero_si_es_posible_UNICODE(const vnwchar *fichero);
-/** Removes all that the directory holds, or that and the directory itself. Links are removed, never followed. FALSO,
-    without a report, if something is left, and for a root, "." and ".."; CIERTO if the directory was not there. */
+/** Removes all that the directory holds, or that and the directory itself. Links are removed, never followed, also one
+    that takes a directory's place meanwhile. Reported, and FALSO, if something is left, and for a root, "." and "..";
+    CIERTO if the directory was not there. */
 vnbool vdir_borra_contenido_directorio_UNICODE(const vnwchar *ruta);
 vnbool vdir_borra_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta);
 

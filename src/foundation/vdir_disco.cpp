@@ -51,39 +51,46 @@ bool renombra(const texto &origen, const texto &destino) {
     }
 }
 
-// The directories first to last as they are found, emptied of files; then away from the last one, which is
-// empty.
-bool borra_arbol(const texto &raiz, bool tambien_la_raiz) {
-    const vista ultima = descompone(sin_separador_final(raiz)).nombre;
+// Empties the current directory of all that is no directory; these are left in `directorios`.
+bool quita_ficheros(plat::descenso &d, std::vector<texto> &directorios) {
+    std::vector<plat::ficha> contenido;
+    bool todo = d.lista(contenido);
+    for (plat::ficha &f : contenido) {
+        if (f.es_directorio && !f.es_enlace) directorios.push_back(std::move(f.nombre));
+        else todo = d.borra(f.nombre) && todo;
+    }
+    return todo;
+}
+
+bool borra_contenido(const texto &raiz) {
+    plat::descenso d(raiz);
+    if (!d.abierto()) return false;
+    std::vector<std::vector<texto>> faltan(1); // the directories that are left, by depth
+    bool todo = quita_ficheros(d, faltan.back());
+    for (;;) {
+        if (!faltan.back().empty() && d.entra(faltan.back().back())) {
+            faltan.emplace_back();
+            todo = quita_ficheros(d, faltan.back()) && todo;
+            continue;
+        }
+        if (faltan.back().empty()) {
+            faltan.pop_back();
+            if (faltan.empty()) return todo;
+            if (!d.sal()) return false;
+        }
+        // Emptied, or never entered: an empty one that cannot be read, or what has taken its place.
+        todo = d.borra(faltan.back().back()) && todo;
+        faltan.back().pop_back();
+    }
+}
+
+bool borra_arbol(const texto &ruta, bool tambien_la_raiz) {
+    const texto raiz(sin_separador_final(ruta));
+    const vista ultima = descompone(raiz).nombre;
     if (ultima.empty() || ultima == vista(VNU(".")) || ultima == vista(VNU(".."))) return false;
     if (plat::es_enlace(raiz)) return tambien_la_raiz && plat::borra_directorio(raiz);
     if (!hay_algo(raiz)) return true;
-    bool todo = true;
-    std::vector<texto> directorios{raiz};
-    for (size_t i = 0; i < directorios.size(); ++i) {
-        plat::recorrido r(directorios[i], false);
-        if (!r.abierto()) {
-            todo = false;
-            continue;
-        }
-        std::vector<texto> ficheros;
-        for (plat::ficha f; r.siguiente(f);) {
-            const texto ruta = une(directorios[i], f.nombre);
-            if (!f.es_directorio)
-                ficheros.push_back(ruta);
-            else if (f.es_enlace)
-                todo = plat::borra_directorio(ruta) && todo;
-            else
-                directorios.push_back(ruta);
-        }
-        for (const texto &f : ficheros) {
-            if (!plat::es_enlace(f)) plat::quita_proteccion(f);
-            todo = borra_fichero(f) && todo;
-        }
-    }
-    for (size_t i = directorios.size(); i-- > (tambien_la_raiz ? 0u : 1u);)
-        todo = plat::borra_directorio(directorios[i]) && todo;
-    return todo;
+    return borra_contenido(raiz) && (!tambien_la_raiz || plat::borra_directorio(raiz));
 }
 
 vista directorio_del_path(vista ruta) {
@@ -104,18 +111,7 @@ bool existe_fichero(const texto &ruta) {
 
 bool borra_fichero(const texto &ruta) { return tabla().borra(ruta.c_str()) == VN_FICH_BIEN; }
 
-bool crea_directorios(const texto &ruta) {
-    // Upwards to the first that is there or can be made, and down again.
-    std::vector<texto> faltan;
-    for (texto r(sin_separador_final(ruta)); !r.empty() && !plat::crea_directorio(r);) {
-        const vista padre = sin_separador_final(descompone(r).hasta_directorio());
-        if (padre.size() >= r.size()) return false;
-        faltan.push_back(r);
-        r = texto(padre);
-    }
-    return std::all_of(faltan.rbegin(), faltan.rend(),
-                       [](const texto &r) { return plat::crea_directorio(r); });
-}
+bool crea_directorios(const texto &ruta) { return plat::crea_directorios(ruta); }
 
 } // namespace vn
 
@@ -224,9 +220,13 @@ vnbool vdir_crea_directorios_fichero_si_es_posible_UNICODE(const vnwchar *ficher
 }
 
 vnbool vdir_borra_contenido_directorio_UNICODE(const vnwchar *ruta) {
-    return AFIRMA_NO_NULO(ruta) && borra_arbol(ruta, false) ? CIERTO : FALSO;
+    if (!AFIRMA_NO_NULO(ruta)) return FALSO;
+    const bool borrado = borra_arbol(ruta, false);
+    return AFIRMA_DE_FICHERO(borrado, ruta) ? CIERTO : FALSO;
 }
 
 vnbool vdir_borra_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta) {
-    return AFIRMA_NO_NULO(ruta) && borra_arbol(ruta, true) ? CIERTO : FALSO;
+    if (!AFIRMA_NO_NULO(ruta)) return FALSO;
+    const bool borrado = borra_arbol(ruta, true);
+    return AFIRMA_DE_FICHERO(borrado, ruta) ? CIERTO : FALSO;
 }

@@ -48,12 +48,31 @@ class recorrido {
     std::unique_ptr<interior> interior_;
 };
 
-// True also if the directory was there.
-bool crea_directorio(const texto &ruta);
+// A directory and those below it, one step down or up at a time. The walk enters no link and stays where it is whatever
+// becomes of the names that led there; it holds no more of the system's records the deeper it goes, where that is bounded.
+class descenso {
+  public:
+    explicit descenso(const texto &raiz);
+    ~descenso();
+    bool abierto() const;
+    // What the current directory holds.
+    bool lista(std::vector<ficha> &contenido);
+    // Into a directory of the current one: false if it is none (any more), is a link or cannot be read.
+    bool entra(const texto &nombre);
+    // Back to the one above, which is then the current one: false if this one was moved elsewhere meanwhile.
+    bool sal();
+    // Removes a file, a link or an empty directory of the current one, write-protected or not.
+    bool borra(const texto &nombre);
+
+  private:
+    struct interior;
+    std::unique_ptr<interior> interior_;
+};
+
+// The directory and those above it that are missing. True also if it was there.
+bool crea_directorios(const texto &ruta);
 // An empty directory, or a link to one.
 bool borra_directorio(const texto &ruta);
-// Takes away what keeps a file from being removed though its directory may be written.
-void quita_proteccion(const texto &fichero);
 // Whether the file, which exists, can be opened.
 bool puede_leer(const texto &fichero);
 bool puede_escribir(const texto &fichero);

@@ -1,6 +1,7 @@
 #include "foundation/platform/directorio.h"
 #include "foundation/platform/posix/ruta.h"
 #include "foundation/vnlongpath.h"
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
@@ -18,7 +19,17 @@ vnwchar para_comparar(vnwchar c) { return c; }
 
 namespace {
 
-std::string bytes(const texto &ruta) { return ruta_del_sistema(ruta); }
+struct cierra_directorio {
+    void operator()(DIR *d) const { ::closedir(d); }
+};
+using lista_abierta = std::unique_ptr<DIR, cierra_directorio>;
+
+lista_abierta abre_en(int en, const char *nombre, int ademas) {
+    descriptor d(::openat(en, nombre, O_RDONLY | O_DIRECTORY | O_CLOEXEC | ademas));
+    lista_abierta lista(d.numero() >= 0 ? ::fdopendir(d.numero()) : nullptr);
+    if (lista != nullptr) d.suelta();
+    return lista;
+}
 
 // What fstatat finds of `nombre` in the directory `en`.
 bool lee_ficha(int en, const char *nombre, ficha &f) {
@@ -43,8 +54,27 @@ bool lee_ficha(int en, const char *nombre, ficha &f) {
     return true;
 }
 
+// The next one that is not "." nor ".."; false at the end, and, with errno, when it cannot be read.
+bool lee_entrada(DIR *lista, bool con_datos, ficha &f) {
+    while (const struct dirent *e = ::readdir(lista)) {
+        const std::string_view nombre = e->d_name;
+        if (nombre == "." || nombre == "..") continue;
+        f = {};
+        if (con_datos || e->d_type == DT_LNK || e->d_type == DT_UNKNOWN) lee_ficha(::dirfd(lista), e->d_name, f);
+        else f.es_directorio = e->d_type == DT_DIR;
+        f.nombre = ruta_ancha(nombre);
+        return true;
+    }
+    return false;
+}
+
+bool hay_permiso(const texto &fichero, int cual) {
+    const ruta_en r(fichero);
+    return ::faccessat(r.directorio(), r.nombre(), cual, AT_EACCESS) == 0;
+}
+
 texto sin_separador_final(texto t) {
-    while (!t.empty() && t.back() == SEPARADOR) t.pop_back();
+    while (t.size() > 1 && (t.back() == VNU('/') || t.back() == VNU('\\'))) t.pop_back();
     return t;
 }
 
@@ -67,70 +97,111 @@ std::optional<texto> de_usuario(const char *nombre, vista en_casa) {
 
 } // namespace
 
-bool consulta(const texto &ruta, ficha &f) { return lee_ficha(AT_FDCWD, bytes(ruta).c_str(), f); }
+bool consulta(const texto &ruta, ficha &f) {
+    const ruta_en r(ruta);
+    return lee_ficha(r.directorio(), r.nombre(), f);
+}
 
 bool es_enlace(const texto &ruta) {
-    struct stat s {};
-    std::string b = bytes(ruta);
     // With a separator at its end the name would be that of what the link leads to.
-    while (b.size() > 1 && b.back() == '/') b.pop_back();
-    return ::lstat(b.c_str(), &s) == 0 && S_ISLNK(s.st_mode);
+    const ruta_en r(sin_separador_final(ruta));
+    struct stat s {};
+    return ::fstatat(r.directorio(), r.nombre(), &s, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(s.st_mode);
 }
 
 struct recorrido::interior {
-    DIR *directorio;
+    lista_abierta lista;
     bool con_datos;
 };
 
 recorrido::recorrido(const texto &directorio, bool con_datos) : interior_(std::make_unique<interior>()) {
-    *interior_ = {::opendir(directorio.empty() ? "." : bytes(directorio).c_str()), con_datos};
+    const ruta_en r(directorio.empty() ? texto(VNU(".")) : directorio);
+    *interior_ = {abre_en(r.directorio(), r.nombre(), 0), con_datos};
 }
 
-recorrido::~recorrido() {
-    if (abierto()) ::closedir(interior_->directorio);
-}
+recorrido::~recorrido() = default;
 
-bool recorrido::abierto() const { return interior_->directorio != nullptr; }
+bool recorrido::abierto() const { return interior_->lista != nullptr; }
 
 bool recorrido::siguiente(ficha &f) {
     if (!abierto()) return false;
-    while (const struct dirent *e = ::readdir(interior_->directorio)) {
-        const std::string_view nombre = e->d_name;
-        if (nombre == "." || nombre == "..") continue;
-        f = {};
-        if (interior_->con_datos || e->d_type == DT_LNK || e->d_type == DT_UNKNOWN)
-            lee_ficha(::dirfd(interior_->directorio), e->d_name, f);
-        else
-            f.es_directorio = e->d_type == DT_DIR;
-        f.nombre = ruta_ancha(nombre);
-        return true;
-    }
+    errno = 0;
+    if (lee_entrada(interior_->lista.get(), interior_->con_datos, f)) return true;
+    if (errno != 0) interior_->lista.reset();
     return false;
 }
 
-bool crea_directorio(const texto &ruta) {
-    const std::string b = bytes(ruta);
+struct descenso::interior {
+    lista_abierta actual;
+    // Which the directories above are: a directory knows its parent, but may get another one.
+    std::vector<std::pair<dev_t, ino_t>> de_arriba;
+};
+
+descenso::descenso(const texto &raiz) : interior_(std::make_unique<interior>()) {
+    const ruta_en r(sin_separador_final(raiz));
+    interior_->actual = abre_en(r.directorio(), r.nombre(), O_NOFOLLOW);
+}
+
+descenso::~descenso() = default;
+
+bool descenso::abierto() const { return interior_->actual != nullptr; }
+
+bool descenso::lista(std::vector<ficha> &contenido) {
+    errno = 0;
+    for (ficha f; lee_entrada(interior_->actual.get(), false, f); errno = 0) contenido.push_back(std::move(f));
+    return errno == 0;
+}
+
+bool descenso::entra(const texto &nombre) {
     struct stat s {};
-    if (::mkdir(b.c_str(), 0777) == 0) return true;
-    return ::stat(b.c_str(), &s) == 0 && S_ISDIR(s.st_mode);
+    const int en = ::dirfd(interior_->actual.get());
+    lista_abierta dentro = abre_en(en, ruta_del_sistema(nombre).c_str(), O_NOFOLLOW);
+    if (dentro == nullptr || ::fstat(en, &s) != 0) return false;
+    interior_->de_arriba.emplace_back(s.st_dev, s.st_ino);
+    interior_->actual = std::move(dentro);
+    return true;
+}
+
+bool descenso::sal() {
+    struct stat s {};
+    lista_abierta arriba = abre_en(::dirfd(interior_->actual.get()), "..", 0);
+    if (arriba == nullptr || ::fstat(::dirfd(arriba.get()), &s) != 0) return false;
+    if (interior_->de_arriba.back() != std::pair(s.st_dev, s.st_ino)) return false;
+    interior_->de_arriba.pop_back();
+    interior_->actual = std::move(arriba);
+    return true;
+}
+
+bool descenso::borra(const texto &nombre) {
+    const int en = ::dirfd(interior_->actual.get());
+    const std::string b = ruta_del_sistema(nombre);
+    return ::unlinkat(en, b.c_str(), 0) == 0 || (errno == EISDIR && ::unlinkat(en, b.c_str(), AT_REMOVEDIR) == 0);
+}
+
+bool crea_directorios(const texto &ruta) {
+    const std::string b = ruta_del_sistema(ruta);
+    descriptor en(AT_FDCWD);
+    for (size_t i = 0, fin = 0; i < b.size(); i = fin) {
+        fin = std::min(b.find_first_not_of('/', std::min(b.find('/', i), b.size())), b.size());
+        const std::string parte = b.substr(i, fin - i);
+        const auto abre = [&] { return descriptor(::openat(en.numero(), parte.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)); };
+        descriptor d = abre();
+        if (d.numero() < 0 && errno == ENOENT && (::mkdirat(en.numero(), parte.c_str(), 0777) == 0 || errno == EEXIST))
+            d = abre();
+        if (d.numero() < 0) return false;
+        en = std::move(d);
+    }
+    return true;
 }
 
 bool borra_directorio(const texto &ruta) {
-    const std::string b = bytes(ruta);
-    return es_enlace(ruta) ? ::unlink(b.c_str()) == 0 : ::rmdir(b.c_str()) == 0;
+    const ruta_en r(sin_separador_final(ruta));
+    return ::unlinkat(r.directorio(), r.nombre(), es_enlace(ruta) ? 0 : AT_REMOVEDIR) == 0;
 }
 
-void quita_proteccion(const texto &) {}
-
-bool puede_leer(const texto &fichero) {
-    return ::faccessat(AT_FDCWD, bytes(fichero).c_str(), R_OK, AT_EACCESS) == 0;
-}
-bool puede_escribir(const texto &fichero) {
-    return ::faccessat(AT_FDCWD, bytes(fichero).c_str(), W_OK, AT_EACCESS) == 0;
-}
-bool es_ejecutable(const texto &fichero) {
-    return ::faccessat(AT_FDCWD, bytes(fichero).c_str(), X_OK, AT_EACCESS) == 0;
-}
+bool puede_leer(const texto &fichero) { return hay_permiso(fichero, R_OK); }
+bool puede_escribir(const texto &fichero) { return hay_permiso(fichero, W_OK); }
+bool es_ejecutable(const texto &fichero) { return hay_permiso(fichero, X_OK); }
 
 std::optional<texto> variable(const char *nombre) {
     const char *v = std::getenv(nombre);

@@ -1,6 +1,7 @@
 #include "foundation/platform/directorio.h"
 #include "foundation/platform/win32/ruta.h"
 #include "foundation/vnlongpath.h"
+#include <algorithm>
 #include <shlobj.h>
 #include <windows.h>
 
@@ -70,6 +71,28 @@ texto sin_separador_final(texto t) {
     return t;
 }
 
+// True also if the directory was there.
+bool crea_directorio(const texto &ruta) {
+    const std::wstring r = ruta_del_sistema(ruta);
+    if (CreateDirectoryW(r.c_str(), nullptr)) return true;
+    const DWORD a = GetFileAttributesW(r.c_str());
+    return a != INVALID_FILE_ATTRIBUTES && (a & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+// Takes away what keeps a file, or the link itself, from being removed though its directory may be written.
+void quita_proteccion(const texto &del_sistema) {
+    const DWORD a = GetFileAttributesW(del_sistema.c_str());
+    if (a == INVALID_FILE_ATTRIBUTES || (a & FILE_ATTRIBUTE_READONLY) == 0) return;
+    const HANDLE h = CreateFileW(del_sistema.c_str(), FILE_WRITE_ATTRIBUTES,
+                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                 FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (h == INVALID_HANDLE_VALUE) return;
+    FILE_BASIC_INFO d{}; // a time of 0 stays as it is
+    d.FileAttributes = (a & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY)) | FILE_ATTRIBUTE_NORMAL;
+    SetFileInformationByHandle(h, FileBasicInfo, &d, sizeof d);
+    CloseHandle(h);
+}
+
 bool se_crea_en(const texto &raiz) {
     const texto prueba = raiz + L"\\~nucleos" + std::to_wstring(GetCurrentProcessId());
     return CreateDirectoryW(prueba.c_str(), nullptr) && RemoveDirectoryW(prueba.c_str());
@@ -114,6 +137,15 @@ bool consulta(const texto &ruta, ficha &f) {
     return true;
 }
 
+namespace {
+
+void cierra(HANDLE &busqueda) {
+    if (busqueda != INVALID_HANDLE_VALUE && busqueda != nullptr) FindClose(busqueda);
+    busqueda = INVALID_HANDLE_VALUE;
+}
+
+} // namespace
+
 struct recorrido::interior {
     texto directorio;
     HANDLE busqueda;
@@ -130,10 +162,7 @@ recorrido::recorrido(const texto &directorio, bool) : interior_(std::make_unique
     if (!interior_->pendiente && GetLastError() == ERROR_FILE_NOT_FOUND) interior_->busqueda = nullptr;
 }
 
-recorrido::~recorrido() {
-    if (interior_->busqueda != INVALID_HANDLE_VALUE && interior_->busqueda != nullptr)
-        FindClose(interior_->busqueda);
-}
+recorrido::~recorrido() { cierra(interior_->busqueda); }
 
 bool recorrido::abierto() const { return interior_->busqueda != INVALID_HANDLE_VALUE; }
 
@@ -142,6 +171,7 @@ bool recorrido::siguiente(ficha &f) {
     while (i.pendiente) {
         const WIN32_FIND_DATAW d = i.dato;
         i.pendiente = FindNextFileW(i.busqueda, &i.dato) != 0;
+        if (!i.pendiente && GetLastError() != ERROR_NO_MORE_FILES) cierra(i.busqueda);
         const vista nombre = d.cFileName;
         if (nombre == L"." || nombre == L"..") continue;
         f = {};
@@ -158,21 +188,82 @@ bool recorrido::siguiente(ficha &f) {
     return false;
 }
 
-bool crea_directorio(const texto &ruta) {
-    const std::wstring r = ruta_del_sistema(ruta);
-    if (CreateDirectoryW(r.c_str(), nullptr)) return true;
-    const DWORD a = GetFileAttributesW(r.c_str());
-    return a != INVALID_FILE_ATTRIBUTES && (a & FILE_ATTRIBUTE_DIRECTORY) != 0;
+// The directories on the way down are held by handles that nobody can delete or rename them under: then their names lead
+// where they led. A path has 32,767 characters at most, and so bounds the handles.
+struct descenso::interior {
+    struct nivel {
+        handle sujeto;
+        size_t longitud; // of its path
+    };
+    texto ruta;
+    std::vector<nivel> niveles;
+
+    texto ruta_de(const texto &nombre) const { return ruta_del_sistema(ruta + L'\\' + nombre); }
+    bool sujeta() {
+        handle h(CreateFileW(ruta_del_sistema(ruta).c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                             OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+        FILE_ATTRIBUTE_TAG_INFO d{};
+        if (h.get() == INVALID_HANDLE_VALUE) static_cast<void>(h.release());
+        if (!h || !GetFileInformationByHandleEx(h.get(), FileAttributeTagInfo, &d, sizeof d)) return false;
+        if ((d.FileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return false;
+        if ((d.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(d.ReparseTag)) return false;
+        niveles.push_back({std::move(h), ruta.size()});
+        return true;
+    }
+};
+
+descenso::descenso(const texto &raiz) : interior_(std::make_unique<interior>()) {
+    interior_->ruta = sin_separador_final(raiz);
+    interior_->sujeta();
+}
+
+descenso::~descenso() = default;
+
+bool descenso::abierto() const { return !interior_->niveles.empty(); }
+
+bool descenso::lista(std::vector<ficha> &contenido) {
+    recorrido r(interior_->ruta, false);
+    for (ficha f; r.siguiente(f);) contenido.push_back(std::move(f));
+    return r.abierto();
+}
+
+bool descenso::entra(const texto &nombre) {
+    interior_->ruta += L'\\' + nombre;
+    const bool dentro = interior_->sujeta();
+    if (!dentro) interior_->ruta.resize(interior_->niveles.back().longitud);
+    return dentro;
+}
+
+bool descenso::sal() {
+    interior_->niveles.pop_back();
+    interior_->ruta.resize(interior_->niveles.back().longitud);
+    return true;
+}
+
+bool descenso::borra(const texto &nombre) {
+    const texto r = interior_->ruta_de(nombre);
+    quita_proteccion(r);
+    return DeleteFileW(r.c_str()) || RemoveDirectoryW(r.c_str());
+}
+
+bool crea_directorios(const texto &ruta) {
+    const texto entera = sin_separador_final(ruta);
+    size_t fin = entera.size();
+    // Upwards to the first that is there or can be made, and down again.
+    while (fin > 0 && !crea_directorio(entera.substr(0, fin))) {
+        const size_t nombre = entera.find_last_of(L"\\/", fin - 1);
+        if (nombre == texto::npos || nombre == 0) return false;
+        fin = entera.find_last_not_of(L"\\/", nombre) + 1;
+    }
+    if (fin == 0) return entera.empty();
+    while (fin < entera.size()) {
+        fin = std::min(entera.find_first_of(L"\\/", entera.find_first_not_of(L"\\/", fin)), entera.size());
+        if (!crea_directorio(entera.substr(0, fin))) return false;
+    }
+    return true;
 }
 
 bool borra_directorio(const texto &ruta) { return RemoveDirectoryW(ruta_del_sistema(ruta).c_str()) != 0; }
-
-void quita_proteccion(const texto &fichero) {
-    const std::wstring r = ruta_del_sistema(fichero);
-    const DWORD a = GetFileAttributesW(r.c_str());
-    if (a != INVALID_FILE_ATTRIBUTES && (a & FILE_ATTRIBUTE_READONLY) != 0)
-        SetFileAttributesW(r.c_str(), a & ~FILE_ATTRIBUTE_READONLY);
-}
 
 bool puede_leer(const texto &fichero) { return abre(fichero, GENERIC_READ) != nullptr; }
 bool puede_escribir(const texto &fichero) { return abre(fichero, GENERIC_WRITE) != nullptr; }
