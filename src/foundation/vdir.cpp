@@ -7,6 +7,7 @@
 #include "foundation/vdir_priv.h"
 #include "foundation/vornspy.h"
 #include <algorithm>
+#include <iterator>
 
 namespace vn {
 namespace {
@@ -53,7 +54,29 @@ bool es_parte_valida(vista parte) {
            });
 }
 
-bool es_valida(vista ruta) {
+// The names that Windows keeps for devices, whatever extension follows; X stands for a digit from 1.
+constexpr const vnwchar *RESERVADOS[] = {VNU("con"),  VNU("prn"),  VNU("aux"),    VNU("nul"),
+                                         VNU("comX"), VNU("lptX"), VNU("conin$"), VNU("conout$")};
+
+bool es_reservado(vista parte) {
+    vista nombre = parte.substr(0, parte.find(VNU('.')));
+    while (!nombre.empty() && nombre.back() == VNU(' ')) nombre.remove_suffix(1);
+    const auto casan = [](vnwchar c, vnwchar r) {
+        if (r == VNU('X')) return (c >= VNU('1') && c <= VNU('9')) || c == 0xB9 || c == 0xB2 || c == 0xB3;
+        return minuscula(c) == r;
+    };
+    return std::any_of(std::begin(RESERVADOS), std::end(RESERVADOS), [&](vista r) {
+        return std::equal(nombre.begin(), nombre.end(), r.begin(), r.end(), casan);
+    });
+}
+
+// Windows takes the full stops and blanks at the end of a name away, and so would lead to another file.
+bool puede_ser_nombre(vista parte) {
+    if (parte.empty() || parte == vista(VNU(".")) || parte == vista(VNU(".."))) return true;
+    return parte.back() != VNU('.') && parte.back() != VNU(' ') && !es_reservado(parte);
+}
+
+bool es_valida(vista ruta, bool (*vale)(vista parte)) {
     const bool sin_limite =
         ruta.size() > 3 && es_de_red(ruta) && ruta[2] == VNU('?') && es_separador(ruta[3]);
     if (sin_limite) ruta.remove_prefix(4);
@@ -63,7 +86,7 @@ bool es_valida(vista ruta) {
         return false;
     for (size_t i = 0; i < ruta.size(); ++i) {
         const size_t j = fin_de_parte(ruta, i);
-        if (!es_parte_valida(ruta.substr(i, j - i))) return false;
+        if (const vista parte = ruta.substr(i, j - i); !es_parte_valida(parte) || !vale(parte)) return false;
         i = j;
     }
     return true;
@@ -190,7 +213,7 @@ vnbool vdir_splitpath_con_comprobacion_UNICODE(const vnwchar *ruta, vnwchar **un
                                                vnwchar **nombre, vnwchar **extension) {
     for (vnwchar **salida : {unidad, directorio, nombre, extension})
         if (salida != nullptr) *salida = nullptr;
-    if (!AFIRMA_NO_NULO(ruta) || !es_valida(ruta)) return FALSO;
+    if (!AFIRMA_NO_NULO(ruta) || !es_valida(ruta, [](vista) { return true; })) return FALSO;
     const partes p = descompone(ruta);
     if (unidad != nullptr) *unidad = nuevo(con_separadores_propios(p.unidad));
     if (directorio != nullptr) *directorio = nuevo(con_separadores_propios(p.directorio));
@@ -235,7 +258,7 @@ vnwchar *vdir_ruta_y_nombre_fichero_sin_extension_UNICODE(const vnwchar *ruta) {
 
 vnbool vdir_es_path_valido_UNICODE(const vnwchar *ruta, uint32_t clases) {
     if (!AFIRMA_NO_NULO(ruta) || !AFIRMA(clases <= VDIR_PATH_RELATIVO)) return FALSO;
-    if (!es_valida(ruta)) return FALSO;
+    if (!es_valida(ruta, puede_ser_nombre)) return FALSO;
     return clases == VDIR_PATH_CUALQUIERA || es_absoluta(ruta) == (clases == VDIR_PATH_ABSOLUTO) ? CIERTO
                                                                                                  : FALSO;
 }

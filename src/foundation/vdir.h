@@ -31,7 +31,8 @@ char *vdir_concatena_directorios(const char *a, const char *b);
 vnwchar *vdir_makepath_UNICODE(VN_OPC const vnwchar *unidad, VN_OPC const vnwchar *directorio,
                                VN_OPC const vnwchar *nombre, VN_OPC const vnwchar *extension);
 /** The parts of a path: unit, directory (with its first separator, without the last one), name without extension,
-    extension without its full stop; a missing one is an empty text. FALSO and null texts if the path is not valid. */
+    extension without its full stop; a missing one is an empty text. FALSO and null texts if the path is not valid;
+    names that only Windows refuses are taken apart all the same. */
 vnbool vdir_splitpath_con_comprobacion_UNICODE(const vnwchar *ruta, VN_SALIDA_OPC vnwchar **unidad,
                                                VN_SALIDA_OPC vnwchar **directorio,
                                                VN_SALIDA_OPC vnwchar **nombre,
@@ -50,7 +51,8 @@ char *vdir_ruta_acceso_directorio_fichero(const char *ruta);
 /** The path without the extension of its last part. */
 vnwchar *vdir_ruta_y_nombre_fichero_sin_extension_UNICODE(const vnwchar *ruta);
 /** Whether the text can be the path of a file or directory on every platform: not empty, no control characters and
-    none of <>"|?* or a colon but the drive's, no part of more than 255 characters. `clases` is one of VDIR_PATH_*. */
+    none of <>"|?* or a colon but the drive's, no part of more than 255 characters, none that is a device of Windows
+    ("con", "NUL.txt", "COM1") or ends in a full stop or a blank ("." and ".." may). `clases` is one of VDIR_PATH_*. */
 vnbool vdir_es_path_valido_UNICODE(const vnwchar *ruta, VN_RANGO(0, 2) uint32_t clases);
 /** The unit where the running program lies: "C:" or "\\server\share"; always empty on Linux. */
 vnwchar *vdir_disco_de_programa_UNICODE(void);

@@ -140,7 +140,9 @@ vnbool vdir_se_puede_leer_UNICODE(const vnwchar *ruta) {
 vnbool vdir_se_puede_escribir_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta) || *ruta == 0 || es_separador(vista(ruta).back())) return FALSO;
     vnestado_fichero e{};
-    if (estado(ruta, e)) return e.es_directorio == FALSO && plat::puede_escribir(ruta) ? CIERTO : FALSO;
+    const vnerror_fichero hay = tabla().estado(ruta, &e);
+    if (hay == VN_FICH_BIEN) return e.es_directorio == FALSO && plat::puede_escribir(ruta) ? CIERTO : FALSO;
+    if (hay != VN_FICH_NO_EXISTE) return FALSO; // links that lead to each other
     return vdir_se_puede_escribir_en_directorio_UNICODE(texto(descompone(ruta).hasta_directorio()).c_str());
 }
 

@@ -117,6 +117,14 @@ PRUEBA(vdir, que_rutas_son_validas) {
         {"a\tb", false, false},
         {"a\\*", false, false},
         {parte + "p", false, false},
+        {"Con\\x", false, false},
+        {"obra\\NUL.txt", false, false},
+        {"C:\\lpt9 .dat.bak", false, false},
+        {"COM\u00B9", false, false},
+        {"conout$", false, false},
+        {"x.\\y", false, false},
+        {"y ", false, false},
+        {"com0\\com\\com10\\console.txt", true, false},
     };
     for (const auto &f : filas) {
         SCOPED_TRACE(f.ruta);
@@ -261,6 +269,8 @@ PRUEBA(vdir, borrar_un_arbol_no_sale_de_el) {
     fs::create_directory_symlink(directorio() + "/fuera", directorio() + "/arbol/d/enlace", e);
     fs::create_directory_symlink(directorio() + "/no_existe", directorio() + "/arbol/roto", e);
     fs::create_directory_symlink(directorio() + "/fuera", directorio() + "/a_fuera", e);
+    fs::create_symlink(directorio() + "/vuelta", directorio() + "/vuelta", e);
+    EXPECT_EQ(vdir_se_puede_escribir_UNICODE(en("vuelta").c_str()), EN_WINDOWS ? CIERTO : FALSO);
     const bool hay_enlaces = fs::is_symlink(directorio() + "/a_fuera", e);
     EXPECT_TRUE(hay_enlaces || EN_WINDOWS);
     if (hay_enlaces) {
