@@ -442,6 +442,9 @@ int f_getc_sin_error(vnfichero *f) {
 
 vnwchar *lc_fgetws(vnwchar *buffer, int32_t maximo, vnfichero *f) {
     if (!AFIRMA_NO_NULO(buffer) || !AFIRMA(maximo > 0) || !AFIRMA_NO_NULO(f)) return nullptr;
+    // The bytes 0D 0A may be halves of units: they are no line end here, whatever the mode.
+    const bool traduce = std::exchange(f->traduce, false);
+    if (traduce && f->estado == vnfichero::LEYENDO) abre_ventana_de_lectura(*f);
     int32_t n = 0;
     while (n < maximo - 1) {
         const int bajo = vnfichero_toma_byte(f);
@@ -450,6 +453,8 @@ vnwchar *lc_fgetws(vnwchar *buffer, int32_t maximo, vnfichero *f) {
         buffer[n++] = static_cast<vnwchar>(bajo | alto << 8);
         if (buffer[n - 1] == '\n') break;
     }
+    f->traduce = traduce;
+    if (traduce && f->estado == vnfichero::LEYENDO) abre_ventana_de_lectura(*f);
     buffer[n] = 0;
     return n > 0 || maximo == 1 ? buffer : nullptr;
 }

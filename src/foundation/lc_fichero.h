@@ -73,7 +73,8 @@ size_t f_lc_fwrite(VN_OPC const void *origen, size_t tamanyo, size_t numero, vnf
 /** The next byte, 0 to 255, or -1 at the end or after an error; reports nothing. */
 int f_getc_sin_error(vnfichero *f);
 /** Reads a line of little-endian UTF-16, its line feed included, of at most `maximo` - 1 units, and ends it with a
-    zero. Returns `buffer`, or null at the end of the file; reports nothing. */
+    zero. Units are taken as they are in text mode too; to write wide text the stream is opened with "b". Returns
+    `buffer`, or null at the end of the file; reports nothing. */
 vnwchar *lc_fgetws(VN_SALIDA VN_LON(maximo) vnwchar *buffer, VN_RANGO(1, 2147483647) int32_t maximo, vnfichero *f);
 
 /** Reports "lc_error_leyendo_fichero" (or escribiendo) with the file's name as the detail, the reason behind it where

@@ -377,17 +377,19 @@ PRUEBA(lc_fichero, zones_of_two_streams) {
 }
 
 PRUEBA(lc_fichero, wide_lines) {
-    const auto texto = ancho("uno\n\ndos largo");
+    const auto texto = ancho("uno\n\ndos largo\u0D15\n\u0A0D");
     std::string bytes;
     for (const vnwchar c : texto) (bytes += static_cast<char>(c & 0xFF)) += static_cast<char>(c >> 8);
     graba_fichero(ruta("lineas"), bytes + "x");
-    flujo f = abre("lineas", "rb");
-    vnwchar b[6];
-    for (const char *esperada : {"uno\n", "\n", "dos l", "argo"}) {
-        ASSERT_NE(lc_fgetws(b, 6, f.get()), nullptr);
-        EXPECT_EQ(utf8_de(b), esperada);
+    for (const char *modo : {"rb", "rt", "r+t"}) {
+        flujo f = abre("lineas", modo);
+        vnwchar b[6];
+        for (const char *esperada : {"uno\n", "\n", "dos l", "argo\u0D15", "\n", "\u0A0D"}) {
+            ASSERT_NE(lc_fgetws(b, 6, f.get()), nullptr);
+            EXPECT_EQ(utf8_de(b), esperada) << modo;
+        }
+        EXPECT_EQ(lc_fgetws(b, 6, f.get()), nullptr);
     }
-    EXPECT_EQ(lc_fgetws(b, 6, f.get()), nullptr);
 }
 
 // A close that fails inside a trap marks it, and the stream is gone all the same.
