@@ -5,6 +5,7 @@
 #include "foundation/lc_fichero_priv.h"
 #include "foundation/vornfile.h"
 #include "foundation/vornspy.h"
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -19,6 +20,36 @@ propio vacio() {
     propio m(static_cast<fichmem *>(vornspy_malloc(sizeof(fichmem))));
     *m = {};
     return m;
+}
+
+constexpr size_t PRIMER_SITIO = 64 * 1024, SITIO_MAXIMO = size_t{UINT32_MAX} + 1;
+
+// Room for so many bytes, the first `n` of which are there; false if there is none.
+bool crece(fichmem &m, size_t sitio, size_t n) {
+    auto *mas = static_cast<unsigned char *>(vornspy_reserva_seguro(sitio, 1, FALSO, VN_AQUI));
+    if (mas == nullptr) return false;
+    if (m.datos != nullptr) {
+        std::memcpy(mas, m.datos, n);
+        vornspy_free_pp(&m.datos, 1);
+    }
+    m.datos = mas;
+    return true;
+}
+
+// A pipe has no size, and some files of the system say 0: the size that is told is where reading begins, not where it
+// ends. One byte more than it meets the end.
+bool lee_hasta_el_final(fichmem &m, vnfichero *f) {
+    size_t n = 0, sitio = static_cast<size_t>(lc_bytes_restantes(f)) + 1;
+    while (sitio <= SITIO_MAXIMO && crece(m, sitio, n)) {
+        n += f_lc_fread_sin_error(m.datos + n, 1, sitio - n, f);
+        if (n < sitio) {
+            m.longitud = static_cast<uint32_t>(n);
+            return f_lc_ferror(f) == FALSO;
+        }
+        if (sitio == SITIO_MAXIMO) break;
+        sitio = std::max(std::min(2 * sitio, SITIO_MAXIMO), PRIMER_SITIO);
+    }
+    return false;
 }
 
 } // namespace
@@ -80,14 +111,11 @@ fichmem *fichmem_lee_unicode(const vnwchar *nombre) {
     if (!AFIRMA_NO_NULO(nombre)) return nullptr;
     vn::flujo_abierto f(f_lc_fopen_u(nombre, VNU("rb"), VN_AQUI));
     if (f == nullptr) return nullptr;
-    const int64_t n = lc_bytes_restantes(f.get());
     propio m = vacio();
-    if (n > 0 && n <= UINT32_MAX)
-        m->datos = static_cast<unsigned char *>(vornspy_reserva_seguro(static_cast<size_t>(n), 1, FALSO, VN_AQUI));
-    if (n > 0 && m->datos == nullptr) {
+    if (!lee_hasta_el_final(*m, f.get())) {
         lc_error_leyendo_fichero(f.get());
         return nullptr;
     }
-    m->longitud = static_cast<uint32_t>(n);
-    return f_lc_fread(m->datos, 1, m->longitud, f.get(), VN_AQUI) == m->longitud ? m.release() : nullptr;
+    if (m->longitud == 0) vornspy_free_pp(&m->datos, 1);
+    return m.release();
 }

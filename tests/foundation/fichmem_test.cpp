@@ -1,5 +1,7 @@
 #include "foundation/fichmem.h"
 #include "prueba.h"
+#include <fstream>
+#include <iterator>
 
 using namespace vn;
 
@@ -42,4 +44,20 @@ PRUEBA(fichmem, ownership_and_failures) {
     EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", fichmem_lee_unicode(ancho(directorio() + "/memoria").c_str())),
               nullptr);
     vornspy_instala_permiso(nullptr, nullptr);
+}
+
+// Files of the system's, small and large, that say that they have no bytes; and one that cannot be read.
+PRUEBA(fichmem, what_has_no_size_is_read_to_its_end) {
+    for (const char *nombre : {"/proc/filesystems", "/proc/kallsyms"}) {
+        std::ifstream f(nombre, std::ios::binary);
+        const std::string todo{std::istreambuf_iterator<char>(f), {}};
+        if (todo.empty()) continue; // this system has none
+        fichmem *m = fichmem_lee(nombre);
+        ASSERT_NE(m, nullptr);
+        EXPECT_TRUE(std::string(reinterpret_cast<char *>(m->datos), m->longitud) == todo) << nombre << m->longitud;
+        fichmem_destruye(&m);
+    }
+    if (std::ifstream("/proc/self/mem")) {
+        EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", fichmem_lee("/proc/self/mem")), nullptr);
+    }
 }
