@@ -105,6 +105,22 @@ PRUEBA(vornreg, claves_y_nombres_en_cualquier_caja) {
     EXPECT_EQ(ansi, nullptr);
 }
 
+// What somebody wrote by hand, with a mark in front and another system's line ends.
+PRUEBA(vornreg, un_fichero_escrito_a_mano) {
+    if (vn::EN_WINDOWS) return;
+    const base_del_usuario al_salir;
+    const std::string clave = clave_propia(), raiz(1, static_cast<char>('0' + RAIZ)), fichero = directorio() + "/VORN/registro.txt";
+    std::filesystem::create_directories(directorio() + "/VORN");
+    const std::string antes = "[" + raiz + "\\" + clave + "]\r\n; de la oficina\r\nuno=1\r\n\r\n", resto = "; fin\n[" + raiz + "\\Otra]\nB=2";
+    vn::graba_fichero(fichero, "\xEF\xBB\xBF" + antes + "UNO=1b\n" + resto);
+    EXPECT_EQ(lee(clave, "uno"), VNU("1b"));
+    EXPECT_TRUE(pon(clave, "Uno", VNU("3")) && pon("Otra", "c", VNU("4")));
+    EXPECT_TRUE(quita("otra", "b"));
+    EXPECT_TRUE(pon("nueva", "", VNU("5")));
+    EXPECT_EQ(vn::lee_fichero(fichero), "[" + raiz + "\\" + clave + "]\r\n; de la oficina\r\nUno=3\n\r\n; fin\n[" + raiz +
+                                            "\\Otra]\nc=4\n[" + raiz + "\\nueva]\n=5\n");
+}
+
 // A file too large to be one, and a directory in its place: an answer that is true, whatever it is.
 PRUEBA(vornreg, sobre_un_fichero_cualquiera) {
     const base_del_usuario al_salir;

@@ -96,40 +96,80 @@ bool es_camino(const texto &clave) {
     return !clave.empty() && clave.front() != u'\\' && clave.back() != u'\\' && clave.find(u"\\\\") == texto::npos;
 }
 
+// Takes the next line off the text, as it stands; `linea` is without its end.
+std::string_view toma_linea(std::string_view &s, std::string_view &linea) {
+    const std::string_view tal_cual = s.substr(0, std::min(s.find('\n'), s.size() - 1) + 1);
+    s.remove_prefix(tal_cual.size());
+    linea = tal_cual;
+    for (const char c : {'\n', '\r'})
+        if (linea.ends_with(c)) linea.remove_suffix(1);
+    return tal_cual;
+}
+
+bool es_cabecera(std::string_view linea, texto &clave) {
+    if (!linea.starts_with('[') || !linea.ends_with(']')) return false;
+    clave = lee(linea.substr(1, linea.size() - 2), false);
+    return true;
+}
+
+bool es_asignacion(std::string_view linea, texto &nombre, std::string_view &contenido) {
+    const size_t igual = linea.find('=');
+    if (igual == std::string_view::npos || linea[0] == ';') return false;
+    nombre = lee(linea.substr(0, igual), true);
+    contenido = linea.substr(igual + 1);
+    return true;
+}
+
+constexpr std::string_view MARCA_DE_ORDEN = "\xEF\xBB\xBF";
+
 claves interpreta(std::string_view s) {
     claves todas;
     valores *actual = nullptr;
+    if (s.starts_with(MARCA_DE_ORDEN)) s.remove_prefix(MARCA_DE_ORDEN.size());
     while (!s.empty()) {
-        const size_t fin = std::min(s.find('\n'), s.size());
-        std::string_view linea = s.substr(0, fin);
-        s.remove_prefix(std::min(fin + 1, s.size()));
-        if (linea.ends_with('\r')) linea.remove_suffix(1);
-        if (linea.starts_with('[') && linea.ends_with(']')) {
-            const texto clave = lee(linea.substr(1, linea.size() - 2), false);
-            actual = es_camino(clave) ? &todas[clave] : nullptr;
-        } else if (const size_t igual = linea.find('='); actual != nullptr && igual != std::string_view::npos && linea[0] != ';')
-            (*actual)[lee(linea.substr(0, igual), true)] = lee(linea.substr(igual + 1), true);
+        std::string_view linea, contenido;
+        texto t;
+        toma_linea(s, linea);
+        if (es_cabecera(linea, t)) actual = es_camino(t) ? &todas[t] : nullptr;
+        else if (actual != nullptr && es_asignacion(linea, t, contenido)) (*actual)[t] = lee(contenido, true);
     }
     return todas;
 }
 
-std::string texto_de(const claves &todas) {
-    std::string s;
-    for (const auto &[clave, suyos] : todas) {
-        s += '[';
-        for (size_t i = 0; i < clave.size();) {
-            char u[4];
-            s.append(u, escribe_utf8(lee_utf16(clave, i), u));
-        }
-        s += "]\n";
-        for (const auto &[nombre, contenido] : suyos) {
-            escribe(s, nombre, true);
-            s += '=';
-            escribe(s, contenido, false);
-            s += '\n';
-        }
+// The text with a value set or, if null, gone. All else stays as somebody wrote it, comments too.
+std::string con_valor(std::string_view s, const texto &clave, const texto &valor, const vnwchar *contenido, bool esta) {
+    std::string nuevo, linea_nueva;
+    if (contenido != nullptr) {
+        escribe(linea_nueva, valor, true);
+        linea_nueva += '=';
+        escribe(linea_nueva, contenido, false);
+        linea_nueva += '\n';
     }
-    return s;
+    const auto pon = [&] { nuevo += std::exchange(linea_nueva, {}); };
+    if (s.starts_with(MARCA_DE_ORDEN)) s.remove_prefix(MARCA_DE_ORDEN.size());
+    for (bool en_la_clave = false; !s.empty();) {
+        std::string_view linea, nada;
+        texto t;
+        const std::string_view tal_cual = toma_linea(s, linea);
+        const bool cabecera = es_cabecera(linea, t);
+        if (cabecera) en_la_clave = sin_caja().iguales(t, clave);
+        if (!cabecera && en_la_clave && es_asignacion(linea, t, nada) && sin_caja().iguales(t, valor)) {
+            pon();
+            continue;
+        }
+        nuevo += tal_cual;
+        if (!tal_cual.ends_with('\n')) nuevo += '\n';
+        if (cabecera && en_la_clave && !esta) pon();
+    }
+    if (linea_nueva.empty()) return nuevo;
+    nuevo += '[';
+    for (size_t i = 0; i < clave.size();) {
+        char u[4];
+        nuevo.append(u, escribe_utf8(lee_utf16(clave, i), u));
+    }
+    nuevo += "]\n";
+    pon();
+    return nuevo;
 }
 
 // ---------------------------------------------------------------- the file
@@ -139,25 +179,26 @@ propio<vnwchar> ruta_del_fichero() {
 }
 
 // False when the file is there and cannot be read: then it is not to be written either.
-bool carga(const vnwchar *ruta, claves &todas) {
+bool carga(const vnwchar *ruta, std::string &datos) {
     vnestado_fichero estado{};
     const vnerror_fichero e = operaciones().estado(ruta, &estado);
     if (e == VN_FICH_NO_EXISTE) return true;
     if (e != VN_FICH_BIEN || estado.es_normal != CIERTO || estado.tamanyo > MAXIMO) return false;
     vnid_fichero id = VN_FICHERO_NINGUNO;
     if (con_paciencia(UNA_DECIMA, [&] { return operaciones().abre(ruta, VN_ABRE_LECTURA, &id); }) != VN_FICH_BIEN) return false;
-    std::string datos(static_cast<size_t>(estado.tamanyo), '\0');
+    datos.resize(static_cast<size_t>(estado.tamanyo));
     size_t leidos = 0;
     const bool bien = lee_todo(id, 0, datos.data(), datos.size(), &leidos) == VN_FICH_BIEN;
     operaciones().cierra(id);
-    if (bien) todas = interpreta(std::string_view(datos).substr(0, leidos));
+    datos.resize(bien ? leidos : 0);
     return bien;
 }
 
 // The file with what the machine says; what the file says goes first.
 claves todas_las_claves() {
-    claves todas;
-    if (const auto ruta = ruta_del_fichero()) carga(ruta.get(), todas);
+    std::string datos;
+    if (const auto ruta = ruta_del_fichero()) carga(ruta.get(), datos);
+    claves todas = interpreta(datos);
     for (const fila &f : PROPIAS) todas[con_raiz(f.raiz, f.clave)].emplace(f.valor, f.contenido());
     return todas;
 }
@@ -247,16 +288,14 @@ bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, con
     const auto ruta = ruta_del_fichero();
     if (ruta == nullptr || !es_clave(clave)) return false;
     const entre_programas turno;
-    claves todas;
-    if (!turno.dentro() || !carga(ruta.get(), todas)) return false;
+    std::string datos;
+    if (!turno.dentro() || !carga(ruta.get(), datos)) return false;
     const texto entera = con_raiz(raiz, clave);
-    if (contenido != nullptr) {
-        todas[entera][valor] = contenido;
-    } else {
-        const auto c = todas.find(entera);
-        if (c == todas.end() || c->second.erase(valor) == 0) return true;
-    }
-    grabacion g{ruta.get(), texto_de(todas), false};
+    const claves todas = interpreta(datos);
+    const auto suya = todas.find(entera);
+    const bool esta = suya != todas.end() && suya->second.contains(valor);
+    if (contenido == nullptr && !esta) return true;
+    grabacion g{ruta.get(), con_valor(datos, entera, valor, contenido, esta), false};
     return g.datos.size() <= MAXIMO && trapable_ejecuta_funcion_segura(grabacion, graba, &g, nullptr) == CIERTO && g.hecha;
 }
 
