@@ -92,8 +92,9 @@ int64_t vnstdc__time64(VN_SALIDA_OPC int64_t *t);
 /** Local time of `*t`. Borrowed: one record per thread. Null when the year cannot be told. */
 struct tm *vnstdc__localtime64(const int64_t *t);
 
-/** Value of an environment variable, or null. Borrowed, good until the process ends; not to be written on. The
-    ANSI form is in the active code page. */
+/** Value of an environment variable, or null. Borrowed, not to be written on; good until the variable has been read with
+    sixteen other values. The ANSI form is in the active code page; in the wide one the bytes of a Linux value that are
+    not UTF-8 are the lone surrogates U+DC80 to U+DCFF, and vnstdc__wputenv makes them those bytes again. */
 char *vnstdc_getenv(const char *nombre);
 vnwchar *vnstdc__wgetenv(const vnwchar *nombre);
 /** Sets a variable of this process from "NAME=value"; "NAME=" takes it away. 0, or -1 for a text of another form. */

@@ -1,16 +1,18 @@
 #define VN_MODULO "vnstdc (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/afirma.h"
 #include "foundation/calendario_priv.h"
+#include "foundation/eterno_priv.h"
 #include "foundation/platform/hora.h"
 #include "foundation/platform/variables.h"
 #include "foundation/propio_priv.h"
 #include "foundation/unicode.h"
 #include "foundation/vnstdc.h"
 #include <algorithm>
-#include <atomic>
 #include <chrono>
 #include <cstdlib>
-#include <memory>
+#include <list>
+#include <map>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -174,22 +176,25 @@ size_t escribe_fecha(C *destino, size_t n, const C *formato, const std::tm &sin_
 
 template <class C>
 using texto_de = std::basic_string<C>;
+using texto_u = texto_de<vnwchar>;
 
-// Each value that has been lent, once: exit cleaners and other threads may still hold it, so that none goes.
+// Of each variable, the values that were lent last: other threads and exit cleaners may still hold one.
+constexpr size_t VALORES_PRESTADOS = 16;
+
 template <class C>
-C *presta(texto_de<C> valor) {
-    struct prestado {
-        texto_de<C> valor;
-        prestado *anterior;
+C *presta(const texto_u &nombre, texto_de<C> valor) {
+    struct prestados {
+        std::mutex cerrojo;
+        std::map<texto_u, std::list<texto_de<C>>> de; // the last one first
     };
-    static constinit std::atomic<prestado *> el_ultimo{nullptr};
-    for (prestado *p = el_ultimo.load(std::memory_order_acquire); p != nullptr; p = p->anterior)
-        if (p->valor == valor) return p->valor.data();
-    auto *nuevo = std::make_unique<prestado>().release();
-    nuevo->valor = std::move(valor);
-    nuevo->anterior = el_ultimo.load(std::memory_order_relaxed);
-    while (!el_ultimo.compare_exchange_weak(nuevo->anterior, nuevo, std::memory_order_release, std::memory_order_relaxed)) {}
-    return nuevo->valor.data();
+    auto &p = vn::eterno<prestados>();
+    const std::lock_guard dentro(p.cerrojo);
+    std::list<texto_de<C>> &suyos = p.de[nombre];
+    const auto igual = std::find(suyos.begin(), suyos.end(), valor);
+    if (igual != suyos.end()) suyos.splice(suyos.begin(), suyos, igual);
+    else suyos.push_front(std::move(valor));
+    if (suyos.size() > VALORES_PRESTADOS) suyos.pop_back();
+    return suyos.front().data();
 }
 
 bool nombre_posible(const vnwchar *nombre) {
@@ -198,7 +203,7 @@ bool nombre_posible(const vnwchar *nombre) {
 }
 
 int asigna(const vnwchar *asignacion) {
-    const std::basic_string<vnwchar> a(asignacion);
+    const texto_u a(asignacion);
     const size_t igual = a.find(VNU('='));
     if (igual == 0 || igual == a.npos) return -1;
     return vn::plat::establece_variable(a.substr(0, igual).c_str(), a.c_str() + igual + 1) ? 0 : -1;
@@ -232,17 +237,17 @@ struct tm *vnstdc__localtime64(const int64_t *t) {
 char *vnstdc_getenv(const char *nombre) {
     if (!AFIRMA_NO_NULO(nombre)) return nullptr;
     const vn::propio<vnwchar> ancho(unicode_convierte_ANSI_a_UNICODE(nombre));
-    std::basic_string<vnwchar> valor;
+    texto_u valor;
     if (!nombre_posible(ancho.get()) || !vn::plat::lee_variable(ancho.get(), valor)) return nullptr;
     const vn::propio<char> ansi(unicode_UNICODE_a_ANSI(valor.c_str()));
-    return presta<char>(ansi.get());
+    return presta<char>(ancho.get(), ansi.get());
 }
 
 vnwchar *vnstdc__wgetenv(const vnwchar *nombre) {
     if (!AFIRMA_NO_NULO(nombre)) return nullptr;
-    std::basic_string<vnwchar> valor;
+    texto_u valor;
     if (!nombre_posible(nombre) || !vn::plat::lee_variable(nombre, valor)) return nullptr;
-    return presta(std::move(valor));
+    return presta(nombre, std::move(valor));
 }
 
 int vnstdc_putenv(const char *asignacion) {

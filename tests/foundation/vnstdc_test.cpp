@@ -1,6 +1,6 @@
 #include "foundation/vnstdc.h"
 #include "foundation/lc_fichero.h"
-#include "prueba.h"
+#include "texto_ancho.h"
 #include <chrono>
 #include <cmath>
 #include <cstdlib>
@@ -205,6 +205,23 @@ PRUEBA(vnstdc, la_hora_local_es_de_cada_hebra_y_las_variables_llevan_cualquier_c
     EXPECT_EQ(vnstdc_putenv("VN_PRUEBA_ENTORNO="), 0);
     EXPECT_EQ(vnstdc_getenv("VN_PRUEBA_ENTORNO"), nullptr);
     EXPECT_STREQ(prestado, "caf\xE9 ?=x");
+    if (!vn::EN_WINDOWS) {
+        const vnwchar bytes[] = {VNU('V'), VNU('N'), VNU('_'), VNU('B'), VNU('='), 0xDCFF, VNU('\\'), 0xDCC3, 0};
+        EXPECT_EQ(vnstdc__wputenv(bytes), 0);
+        EXPECT_STREQ(std::getenv("VN_B"), "\xFF\\\xC3");
+        EXPECT_EQ(std::basic_string<vnwchar>(vnstdc__wgetenv(VNU("VN_B"))), bytes + 5);
+    }
+    const vnwchar *ultimo = nullptr;
+    for (int i = 0; i < 5000; ++i) {
+        const auto valor = vn::ancho(std::to_string(i));
+        EXPECT_EQ(vnstdc__wputenv((VNU("VN_PRUEBA_ENTORNO=") + valor).c_str()), 0);
+        ultimo = vnstdc__wgetenv(VNU("VN_PRUEBA_ENTORNO"));
+    }
+    for (int i = 0; i < 16; ++i) { // the sixteenth other value is the first that takes its place
+        EXPECT_EQ(vn::utf8_de(ultimo), "4999");
+        EXPECT_EQ(vnstdc_putenv(("VN_PRUEBA_ENTORNO=x" + std::to_string(i)).c_str()), 0);
+        EXPECT_TRUE(i == 15 || vnstdc__wgetenv(VNU("VN_PRUEBA_ENTORNO")) != nullptr);
+    }
     EXPECT_EQ(vnstdc_putenv("=x"), -1);
     EXPECT_EQ(vnstdc_putenv("SIN_IGUAL"), -1);
     EXPECT_EQ(vnstdc_getenv(""), nullptr);

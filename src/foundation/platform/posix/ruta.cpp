@@ -5,13 +5,13 @@
 
 namespace vn::plat {
 
-std::basic_string<vnwchar> ruta_ancha(std::string_view bytes) {
+std::basic_string<vnwchar> texto_ancho(std::string_view bytes, char no_es_texto) {
     std::basic_string<vnwchar> u;
     u.reserve(bytes.size());
     for (size_t i = 0; i < bytes.size();) {
         uint32_t c = 0;
         size_t fin = i;
-        if (!lee_utf8(bytes, fin, c) || c == '\\') {
+        if (!lee_utf8(bytes, fin, c) || (c != 0 && c == static_cast<unsigned char>(no_es_texto))) {
             u += static_cast<vnwchar>(0xDC00 + static_cast<unsigned char>(bytes[i++]));
             continue;
         }
@@ -22,17 +22,24 @@ std::basic_string<vnwchar> ruta_ancha(std::string_view bytes) {
     return u;
 }
 
-std::string ruta_del_sistema(std::basic_string_view<vnwchar> ruta) {
+std::string bytes_de(std::basic_string_view<vnwchar> texto) {
     std::string s;
-    s.reserve(ruta.size() + 16);
-    for (size_t i = 0; i < ruta.size();) {
-        const uint32_t c = lee_utf16(ruta, i);
+    s.reserve(texto.size() + 16);
+    for (size_t i = 0; i < texto.size();) {
+        const uint32_t c = lee_utf16(texto, i);
         char u[4];
-        if (c == '\\') s += '/';
-        else if ((c >= 0xDC80 && c < 0xDD00) || c == 0xDC00 + '\\') s += static_cast<char>(c - 0xDC00);
+        if ((c >= 0xDC80 && c < 0xDD00) || c == 0xDC00 + '\\') s += static_cast<char>(c - 0xDC00);
         else s.append(u, escribe_utf8(c, u));
     }
     return s;
+}
+
+std::basic_string<vnwchar> ruta_ancha(std::string_view bytes) { return texto_ancho(bytes, '\\'); }
+
+std::string ruta_del_sistema(std::basic_string_view<vnwchar> ruta) {
+    std::basic_string<vnwchar> r(ruta);
+    std::replace(r.begin(), r.end(), VNU('\\'), VNU('/'));
+    return bytes_de(r);
 }
 
 ruta_en::ruta_en(std::basic_string_view<vnwchar> ruta) : bytes_(ruta_del_sistema(ruta)) {

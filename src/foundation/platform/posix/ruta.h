@@ -1,4 +1,4 @@
-// File names between the library (UTF-16) and the system (bytes, as a rule UTF-8).
+// File names and other texts between the library (UTF-16) and the system (bytes, as a rule UTF-8).
 #pragma once
 
 #include "foundation/platform/plataforma.h"
@@ -10,11 +10,14 @@
 
 namespace vn::plat {
 
-// Bytes that are not UTF-8 come out as the lone surrogates U+DC80 to U+DCFF, one each, and a backslash within a name,
-// which is a separator to the library, as U+DC5C; ruta_del_sistema turns those into the bytes again: every name that a
-// directory lists can be opened.
+// Bytes that are not UTF-8, and one more if it is not 0, come out as the lone surrogates U+DC80 to U+DCFF (the other's
+// from U+DC00), one each; bytes_de turns those into the bytes again. Another lone surrogate takes the three bytes that its
+// number would take.
+std::basic_string<vnwchar> texto_ancho(std::string_view bytes, char no_es_texto = 0);
+std::string bytes_de(std::basic_string_view<vnwchar> texto);
+// The same for names: every one that a directory lists can be opened. A backslash within a name, which is a separator to
+// the library, is U+DC5C; one that separates becomes a slash.
 std::basic_string<vnwchar> ruta_ancha(std::string_view bytes);
-// A backslash separates like a slash. Another lone surrogate takes the three bytes that its number would take.
 std::string ruta_del_sistema(std::basic_string_view<vnwchar> ruta);
 
 class descriptor {

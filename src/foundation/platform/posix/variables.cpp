@@ -1,6 +1,5 @@
 #include "foundation/platform/variables.h"
-#include "foundation/propio_priv.h"
-#include "foundation/unicode.h"
+#include "foundation/platform/posix/ruta.h"
 #include <cstdlib>
 
 namespace vn::plat {
@@ -14,17 +13,15 @@ std::string idioma_del_usuario() {
 }
 
 bool lee_variable(const vnwchar *nombre, std::basic_string<vnwchar> &valor) {
-    const vn::propio<char> n(unicode_convierte_UNICODE_a_UTF8(nombre));
-    const char *v = std::getenv(n.get());
+    const char *v = std::getenv(bytes_de(nombre).c_str());
     if (v == nullptr) return false;
-    const vn::propio<vnwchar> ancho(unicode_convierte_UTF8_a_UNICODE(v));
-    valor = ancho.get();
+    valor = texto_ancho(v);
     return true;
 }
 
 bool establece_variable(const vnwchar *nombre, const vnwchar *valor) {
-    const vn::propio<char> n(unicode_convierte_UNICODE_a_UTF8(nombre)), v(unicode_convierte_UNICODE_a_UTF8(valor));
-    return (*v.get() == '\0' ? unsetenv(n.get()) : setenv(n.get(), v.get(), 1)) == 0;
+    const std::string n = bytes_de(nombre), v = bytes_de(valor);
+    return (v.empty() ? unsetenv(n.c_str()) : setenv(n.c_str(), v.c_str(), 1)) == 0;
 }
 
 } // namespace vn::plat
