@@ -62,7 +62,8 @@ typedef void (*vnfunc_recorre_cadena_u)(const vnwchar *elemento, void *datos);
 VN_C_INICIO
 
 /** New array of `n` elements, all zero, each settable at once; `n` = 0 gives an empty one that grows by Append. A count
-    out of range, or one that there is no memory for, is reported and gives null. */
+    out of range, or one that there is no memory for, is reported and gives null: the range bounds what a wrong count
+    takes at once; what is added later may pass it, to 4294967295 elements. */
 arrBOOL *arr_CreaBOOL(VN_RANGO(0, 268435456) uint32_t n);
 arrBYTE *arr_CreaBYTE(VN_RANGO(0, 268435456) uint32_t n);
 arrUChar *arr_CreaUChar(VN_RANGO(0, 268435456) uint32_t n);
@@ -279,7 +280,7 @@ vnwchar *arr_GetCopiaCADENA_u(const arrCADENA_u *a, VN_INDICE(a) uint32_t i);
 void arr_SetCADENA(arrCADENA *a, VN_INDICE(a) uint32_t i, VN_OPC const char *s);
 void arr_SetCADENA_u(arrCADENA_u *a, VN_INDICE(a) uint32_t i, VN_OPC const vnwchar *s);
 
-/** Replaces element `i` by the very text `*s`, which the array takes over; `*s` is left null. */
+/** Replaces element `i` by the very text `*s`, which the array takes over; `*s` is left null. After a report it is freed. */
 void arr_SetCADENAOriginal(arrCADENA *a, VN_INDICE(a) uint32_t i, VN_OPC VN_CONSUME char **s);
 void arr_SetCADENAOriginal_u(arrCADENA_u *a, VN_INDICE(a) uint32_t i, VN_OPC VN_CONSUME vnwchar **s);
 
@@ -287,7 +288,7 @@ void arr_SetCADENAOriginal_u(arrCADENA_u *a, VN_INDICE(a) uint32_t i, VN_OPC VN_
 void arr_AppendCADENA(arrCADENA *a, VN_OPC const char *s);
 void arr_AppendCADENA_u(arrCADENA_u *a, VN_OPC const vnwchar *s);
 
-/** Adds at the end the very text `*s`, which the array takes over; `*s` is left null. */
+/** Adds at the end the very text `*s`, which the array takes over; `*s` is left null. After a report it is freed. */
 void arr_AppendCADENAOriginal(arrCADENA *a, VN_OPC VN_CONSUME char **s);
 void arr_AppendCADENAOriginal_u(arrCADENA_u *a, VN_OPC VN_CONSUME vnwchar **s);
 

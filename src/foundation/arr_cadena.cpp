@@ -68,7 +68,7 @@ void reemplaza(A *a, uint32_t i, caracter<A> *s) {
 // The text that the caller hands over, freed should it not arrive.
 template <class C>
 vn::propio<C> toma_texto(C **s) {
-    return vn::propio<C>(std::exchange(*s, nullptr));
+    return vn::propio<C>(s != nullptr ? std::exchange(*s, nullptr) : nullptr);
 }
 
 template <class A>
@@ -112,15 +112,15 @@ vnbool existe_may_o_min(const A *a, const caracter<A> *s, uint32_t *pos) {
         if (vn::hay(a, i)) reemplaza(a, i, vn::copia_texto(s));                                                        \
     }                                                                                                                  \
     void arr_Set##ORIGINAL(arr##S *a, uint32_t i, C **s) {                                                             \
-        if (vn::hay(a, i) && AFIRMA_NO_NULO(s)) reemplaza(a, i, std::exchange(*s, nullptr));                           \
+        vn::propio<C> c = toma_texto(s);                                                                               \
+        if (vn::hay(a, i) && AFIRMA_NO_NULO(s)) reemplaza(a, i, c.release());                                          \
     }                                                                                                                  \
     void arr_Append##S(arr##S *a, const C *s) {                                                                        \
         if (AFIRMA_NO_NULO(a)) inserta_copia(a, a->num, s);                                                            \
     }                                                                                                                  \
     void arr_Append##ORIGINAL(arr##S *a, C **s) {                                                                      \
-        if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return;                                                          \
         vn::propio<C> c = toma_texto(s);                                                                               \
-        if (vn::anade(a, c.get())) static_cast<void>(c.release());                                                     \
+        if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(s) && vn::anade(a, c.get())) static_cast<void>(c.release());           \
     }                                                                                                                  \
     void arr_Insertar##S(arr##S *a, uint32_t i, const C *s) {                                                          \
         if (AFIRMA_NO_NULO(a)) inserta_copia(a, i, s);                                                                 \

@@ -42,9 +42,12 @@ void llena_pares(pagina &p, plat::decodificador &d) {
 void llena_bytes(pagina &p, plat::decodificador *d) {
     for (unsigned b = 0; b < 256; ++b) {
         const unsigned char byte = static_cast<unsigned char>(b);
-        char16_t u = static_cast<char16_t>(b); // what a page leaves undefined, and the control characters of all
+        // What a page of one byte leaves undefined is itself, like the control characters of all. In one of two bytes it is
+        // nothing: others take it for the first half of a pair.
+        const char16_t indefinido = p.doble ? NO_ES : static_cast<char16_t>(b);
+        char16_t u = static_cast<char16_t>(b);
         if (p.lider[b] || (p.utf8 && b >= 0x80)) u = NO_ES;
-        else if (b >= 0x80 && d != nullptr && (!d->unidad(&byte, 1, u) || es_relleno(u))) u = static_cast<char16_t>(b);
+        else if (b >= 0x80 && d != nullptr && (!d->unidad(&byte, 1, u) || es_relleno(u))) u = indefinido;
         p.unidad[b] = u;
         if (u != NO_ES) anade_inversa(p, u, static_cast<uint16_t>(b));
     }

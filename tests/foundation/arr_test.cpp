@@ -115,6 +115,12 @@ PRUEBA(arr, las_cadenas_son_del_array) {
     arr_SetCADENAOriginal(a, 0, &dos);
     EXPECT_EQ(dos, nullptr);
     EXPECT_EQ(arr_GetCADENA(a, 0), el_mismo);
+    for (const bool al_final : {false, true}) { // refused, it is not the caller's any more
+        char *rechazado = nuevo("x");
+        if (al_final) ESPERA_INFORME("(a) != NULL", arr_AppendCADENAOriginal(nullptr, &rechazado));
+        else ESPERA_INFORME("i < num_elementos", arr_SetCADENAOriginal(a, 2, &rechazado));
+        EXPECT_EQ(rechazado, nullptr);
+    }
     arr_SetCADENA(a, 0, arr_GetCADENA(a, 0)); // onto itself
     arr_AppendCADENAOriginal(a, &tres);
     arr_AppendCADENA(a, nullptr);

@@ -51,7 +51,7 @@ PRUEBA(unicode, las_paginas_son_las_mismas_en_todas_partes) {
     } filas[] = {
         {1250, 6895772076171912249u}, {1251, 2671201261049714931u}, {1252, 4811246781337447939u},
         {1253, 12250154106635369279u}, {1254, 13051673659814781517u}, {850, 15667259049449181234u},
-        {932, 6394729091645418573u},  {936, 6363209163826472001u},  {65001, 4586106065103280861u},
+        {932, 2515196498016308220u},  {936, 8438848760219282543u},  {65001, 4586106065103280861u},
     };
     for (const auto &f : filas) {
         const con_pagina activa(f.pagina);
@@ -75,7 +75,7 @@ PRUEBA(unicode, cada_idioma_escribe_en_su_pagina) {
         {11, "înălţime", "\xEEn\xE3l\xFEime", FALSO}, {12, "中文a", "\xD6\xD0\xCE\xC4""a", FALSO},
         {18, "Ё", "\xA8", FALSO},                     {31, "żółw", "\xBF\xF3\xB3w", FALSO},
         {33, "Iğdır", "I\xF0""d\xFDr", FALSO},        {39, "構造~ソ①", "\x8D\x5C\x91\xA2~\x83\x5C\x87\x40", FALSO},
-        {0, "Жα一", "???", CIERTO},                   {39, "é𠮟", "??", CIERTO},
+        {0, "Жα一", "???", CIERTO},                   {39, "éëÿ𠮟", "????", CIERTO},
         {12, "€", "\x80", FALSO},
     };
     for (const auto &f : filas) {
