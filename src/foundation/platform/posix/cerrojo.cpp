@@ -36,7 +36,7 @@ std::string directorio_comun() {
 // A directory that this user alone may write, beside the settings that the locks guard; empty if it cannot be had.
 std::string directorio_propio() {
     const auto base = base_de_configuracion();
-    if (!base || !crea_directorio(*base)) return {};
+    if (!base || !crea_directorios(*base)) return {};
     const std::string d = ruta_del_sistema(*base) + "/nucleos-lock";
     ::mkdir(d.c_str(), 0700);
     struct stat s {};
