@@ -139,10 +139,11 @@ class buscador {
         return true;
     }
 
-    // A point off the plane; the number of points if none is.
-    uint32_t fuera_del_plano(Punto3D o, Punto3D w, double precision) const {
-        return primero(0, 0, [&](uint32_t i) { return !(std::fabs(escalar(p_[i] - o, w)) <= precision); },
-                       [&](const bloque &b) { return b.todos_en_plano(o, w, precision); });
+    // The first point off the plane from the one given on around the ring; SIN_PUNTO if none is.
+    uint32_t fuera_del_plano(uint32_t desde, Punto3D o, Punto3D w, double precision) const {
+        const uint32_t k = primero(desde, 0, [&](uint32_t i) { return !(std::fabs(escalar(p_[i] - o, w)) <= precision); },
+                                   [&](const bloque &b) { return b.todos_en_plano(o, w, precision); });
+        return k < p_.size() ? lugar(desde, k) : SIN_PUNTO;
     }
 
   private:
@@ -218,7 +219,7 @@ struct tolerancias {
 bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marco &m, uint32_t &culpable) {
     culpable = SIN_PUNTO;
     buscador b(p, prec.puntos);
-    uint32_t testigo = SIN_PUNTO, culpable_del_primero = SIN_PUNTO;
+    uint32_t testigo = 0, culpable_del_primero = SIN_PUNTO;
     for (uint32_t s = 0; s < p.size(); ++s) {
         // What has failed from a point fails from its twin.
         if (s > 0 && std::memcmp(&p[s], &p[s - 1], sizeof p[s]) == 0) continue;
@@ -226,11 +227,10 @@ bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marc
         terna t;
         Punto3D w;
         if (!b.busca(s, t) || !ejes_de(t, m, w)) continue;
-        // The point that another plane failed at is likely to be off this one too. After the first start it does not
-        // matter which one is.
-        if (testigo != SIN_PUNTO && !(std::fabs(escalar(p[testigo] - t.p1, w)) <= prec.plano)) continue;
+        // After the first start it does not matter which point is off the plane, and the one that another plane failed at, or
+        // one near it, is likely to be off this one too.
         if (s > 0)
-            if (const uint32_t j = b.fuera_del_plano(t.p1, w, prec.plano); j < p.size()) {
+            if (const uint32_t j = b.fuera_del_plano(testigo, t.p1, w, prec.plano); j != SIN_PUNTO) {
                 testigo = j;
                 continue;
             }

@@ -151,13 +151,14 @@ PRUEBA(polin3d, circulos_y_arcos) {
         for (uint32_t i = 0; i < n; ++i)
             ASSERT_LT(largo(c[i] - m.punto(d / 2 * std::cos(2 * PI * i / n), d / 2 * std::sin(2 * PI * i / n))), l.escala(10.) * 1e-12);
         if (std::fabs(barre) < .01) continue;
-        // The short way, and the long one; the ends at any distance from the centre.
+        // The short way, and the long one; the ends at any distance from the centre, of which the plane has its digits.
+        const double cota = l.escala(100.) * 1e-12 / std::fabs(std::sin(barre));
         const vec e1 = m.punto(3 * std::cos(ini), 3 * std::sin(ini)), e2 = m.punto(std::cos(ini + barre), std::sin(ini + barre));
         for (const vnbool otro : {FALSO, CIERTO}) {
             const puntos r(Pln3D_puntos_arco(XYZ(m.o), XYZ(e1), XYZ(e2), UV_(m), d, n, otro));
             const double s = (otro == CIERTO ? barre - std::copysign(2 * PI, barre) : barre) / (n - 1);
             for (uint32_t i = 0; i < n; ++i)
-                ASSERT_LT(largo(r[i] - m.punto(d / 2 * std::cos(ini + i * s), d / 2 * std::sin(ini + i * s))), l.escala(100.) * 2e-12) << caso;
+                ASSERT_LT(largo(r[i] - m.punto(d / 2 * std::cos(ini + i * s), d / 2 * std::sin(ini + i * s))), cota) << caso;
         }
     }
     // A half circle runs as the axes say.
