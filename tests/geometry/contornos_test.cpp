@@ -1,12 +1,9 @@
-// Against outlines and answers made by others: exact cuts of segments, hulls of real points and of borders of
-// countries.
-#include "foundation/mt.h"
+// Against outlines and answers made by others: hulls of real points and of borders of countries.
 #include "geometry/poligono.h"
 #include "propiedades.h"
 #include "prueba.h"
 #include <algorithm>
 #include <map>
-#include <set>
 
 namespace {
 
@@ -25,7 +22,6 @@ std::vector<double> numeros(const std::string &s) {
 }
 
 using punto = std::pair<int32_t, int32_t>;
-using par = std::set<std::pair<double, double>>;
 
 struct envolvente : poligono_t {
     envolvente() { poligono_crea_pol(this); }
@@ -53,40 +49,6 @@ struct envolvente : poligono_t {
 };
 
 } // namespace
-
-// "cross" is a point inside both, "touch" an end of one on the other, "overlap" a piece in common.
-PRUEBA(contornos, los_cortes_de_segmentos_dificiles_son_los_exactos) {
-    int filas = 0;
-    for (const auto &f : vn::tabla("C_polygons/segment_pairs.tsv")) {
-        double c[12] = {};
-        for (size_t i = 0; i < 8; ++i) c[i] = numero(f[i + 1]);
-        for (size_t i = 8; i < 12; ++i) c[i] = numero(f[i + 2]);
-        mt_segmento_t a{c[0], c[1], c[2], c[3], 0, 0., 0., 0., 0.}, b{c[4], c[5], c[6], c[7], 0, 0., 0., 0., 0.};
-        mt_calcula_inter_segmentos(&a, &b);
-        const std::string &relacion = f[9];
-        SCOPED_TRACE(testing::Message() << ++filas << " " << relacion << " " << a.numcortes << " " << b.numcortes);
-        par vistos;
-        for (const mt_segmento_t *s : {&a, &b}) {
-            if (s->numcortes > 0) vistos.insert({s->x3, s->y3});
-            if (s->numcortes > 1) vistos.insert({s->x4, s->y4});
-        }
-        if (relacion == "cross") { // the same in both, or the end of one on the other
-            ASSERT_EQ(vistos.size(), 1u);
-            EXPECT_TRUE(vn::cerca(vistos.begin()->first, c[8], 1e10) && vn::cerca(vistos.begin()->second, c[9], 1e10));
-            continue;
-        }
-        // The points told, but for those that are ends of both.
-        par esperados;
-        for (const size_t k : {8u, 10u}) {
-            const auto es_extremo = [&](const mt_segmento_t &s) {
-                return (s.x1 == c[k] && s.y1 == c[k + 1]) || (s.x2 == c[k] && s.y2 == c[k + 1]);
-            };
-            if (!f[k + 2].empty() && !(es_extremo(a) && es_extremo(b))) esperados.insert({c[k], c[k + 1]});
-        }
-        EXPECT_EQ(vistos, esperados);
-    }
-    EXPECT_EQ(filas, 37);
-}
 
 PRUEBA(contornos, la_envolvente_de_mil_puntos_reales_tiene_sus_once_vertices) {
     const std::vector<double> v = numeros(vn::lee_fichero(vn::dato("C_polygons/hull_points_1k.json")));
