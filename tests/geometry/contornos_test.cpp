@@ -1,9 +1,10 @@
 // Against outlines and answers made by others: hulls of real points and of borders of countries.
-#include "geometry/poligono.h"
+#include "envolvente.h"
 #include "propiedades.h"
 #include "prueba.h"
-#include <algorithm>
 #include <map>
+
+using namespace envolvente;
 
 namespace {
 
@@ -21,68 +22,54 @@ std::vector<double> numeros(const std::string &s) {
     return v;
 }
 
-using punto = std::pair<int32_t, int32_t>;
+punto redondo(double x, double y, double escala) {
+    return {static_cast<int32_t>(std::lround(x * escala)), static_cast<int32_t>(std::lround(y * escala))};
+}
 
-struct envolvente : poligono_t {
-    envolvente() { poligono_crea_pol(this); }
-    ~envolvente() { poligono_destruye_pol(this); }
-    envolvente(const envolvente &) = delete;
-    envolvente &operator=(const envolvente &) = delete;
-    void anade(double x, double y) {
-        poligono_anade_punto_a_poligono_convexo(this, static_cast<int32_t>(std::lround(x)),
-                                                static_cast<int32_t>(std::lround(y)));
+puntos_t redondos(const std::vector<double> &v, double escala) {
+    puntos_t r;
+    for (size_t i = 0; i + 1 < v.size(); i += 2) r.push_back(redondo(v[i], v[i + 1], escala));
+    return r;
+}
+
+double area(const puntos_t &v) {
+    double doble = 0.;
+    for (size_t i = 0; i < v.size(); ++i) {
+        const punto &a = v[i], &b = v[(i + 1) % v.size()];
+        doble += static_cast<double>(a.x) * b.y - static_cast<double>(b.x) * a.y;
     }
-    double area() const {
-        double doble = 0.;
-        for (int32_t i = 0; i < numVertices; ++i) {
-            const auto &a = vertice[i], &b = vertice[i + 1 < numVertices ? i + 1 : 0];
-            doble += static_cast<double>(a.x) * b.y - static_cast<double>(b.x) * a.y;
-        }
-        return doble / 2.;
-    }
-    std::vector<punto> vertices() const {
-        std::vector<punto> v;
-        for (int32_t i = 0; i < numVertices; ++i) v.emplace_back(vertice[i].x, vertice[i].y);
-        std::rotate(v.begin(), std::min_element(v.begin(), v.end()), v.end());
-        return v;
-    }
-};
+    return doble / 2.;
+}
 
 } // namespace
 
 PRUEBA(contornos, la_envolvente_de_mil_puntos_reales_tiene_sus_once_vertices) {
     const std::vector<double> v = numeros(vn::lee_fichero(vn::dato("C_polygons/hull_points_1k.json")));
     ASSERT_EQ(v.size(), 2000u);
-    envolvente e;
-    for (size_t i = 0; i < v.size(); i += 2) e.anade(v[i] * 1e6, v[i + 1] * 1e6); // six decimals
-    std::vector<punto> esperados;
+    puntos_t esperados;
     for (const auto &f : vn::tabla("C_polygons/hull_points_1k_expected.tsv"))
-        esperados.emplace_back(std::lround(numero(f[1]) * 1e6), std::lround(numero(f[2]) * 1e6));
-    EXPECT_EQ(e.vertices(), esperados);
+        esperados.push_back(redondo(numero(f[1]), numero(f[2]), 1e6)); // six decimals
+    EXPECT_EQ(poligono(redondos(v, 1e6)).todos(), esperados);
 }
 
 // Degrees in ten-millionths. Corners that hardly bend may go, which the area does not notice.
 PRUEBA(contornos, la_envolvente_de_un_pais_tiene_su_area_y_sus_puntos_interiores) {
-    std::map<std::string, std::vector<punto>> dentro;
+    std::map<std::string, puntos_t> dentro;
     for (const auto &f : vn::tabla("C_polygons/borders_points.tsv"))
-        if (f[4] == "in")
-            dentro[f[0] + "/" + f[1]].emplace_back(std::lround(numero(f[2]) * 1e7),
-                                                   std::lround(numero(f[3]) * 1e7));
+        if (f[4] == "in") dentro[f[0] + "/" + f[1]].push_back(redondo(numero(f[2]), numero(f[3]), 1e7));
     int paises = 0, exactas = 0;
     for (const auto &f : vn::tabla("C_polygons/borders.tsv")) {
         SCOPED_TRACE(f[1]);
         const std::string &wkt = f[13];
-        const std::vector<double> v = numeros(wkt.substr(0, wkt.find(')')));
-        envolvente e;
-        for (size_t i = 0; i + 1 < v.size(); i += 2) e.anade(v[i] * 1e7, v[i + 1] * 1e7);
-        EXPECT_NEAR(e.area() / 1e14 / numero(f[9]), 1., 1e-7);
+        poligono e(redondos(numeros(wkt.substr(0, wkt.find(')'))), 1e7));
+        const puntos_t antes = e.todos();
+        EXPECT_NEAR(area(antes) / 1e14 / numero(f[9]), 1., 1e-7);
         EXPECT_LE(e.numVertices, numero(f[8]));
         EXPECT_GE(e.numVertices, numero(f[8]) - 2);
         exactas += e.numVertices == numero(f[8]);
         ++paises;
-        const std::vector<punto> antes = e.vertices();
-        for (const punto &p : dentro[f[0] + "/" + f[2]]) e.anade(p.first, p.second);
-        EXPECT_EQ(e.vertices(), antes);
+        e.anade(dentro[f[0] + "/" + f[2]]);
+        EXPECT_EQ(e.todos(), antes);
     }
     EXPECT_EQ(paises, 30);
     EXPECT_GE(exactas, 25);

@@ -1,43 +1,18 @@
-#include "geometry/poligono.h"
+#include "envolvente.h"
 #include "foundation/mt.h"
 #include "propiedades.h"
 #include "prueba.h"
-#include <algorithm>
-#include <compare>
-#include <vector>
 
+using namespace envolvente;
 using vn::azar;
 
 namespace {
 
-// Ordered by x, then y.
-struct punto {
-    int32_t x, y;
-    auto operator<=>(const punto &) const = default;
-};
-using puntos_t = std::vector<punto>;
 __extension__ using largo = __int128;
 
 largo cruz(const punto &o, const punto &a, const punto &b) {
     return largo(int64_t{a.x} - o.x) * (int64_t{b.y} - o.y) - largo(int64_t{a.y} - o.y) * (int64_t{b.x} - o.x);
 }
-
-struct poligono : poligono_t {
-    explicit poligono(const puntos_t &puntos) {
-        poligono_crea_pol(this);
-        for (const punto &p : puntos) poligono_anade_punto_a_poligono_convexo(this, p.x, p.y);
-    }
-    ~poligono() { poligono_destruye_pol(this); }
-    poligono(const poligono &) = delete;
-    poligono &operator=(const poligono &) = delete;
-    // From the lowest on, so that two of the same vertices are equal.
-    puntos_t todos() const {
-        puntos_t v;
-        for (int32_t i = 0; i < numVertices; ++i) v.push_back({vertice[i].x, vertice[i].y});
-        if (!v.empty()) std::rotate(v.begin(), std::min_element(v.begin(), v.end()), v.end());
-        return v;
-    }
-};
 
 // Monotone chain: the hull without points on its sides, counter-clockwise from the lowest.
 puntos_t cadena(puntos_t p) {
