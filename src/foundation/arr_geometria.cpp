@@ -2,13 +2,14 @@
 #include "foundation/afirma.h"
 #include "foundation/arr.h"
 #include "foundation/arr_priv.h"
+#include "foundation/vector_priv.h"
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace {
 
-constexpr double VUELTA = 6.283185307179586;
+using vn::VUELTA;
 // How much longer than a whole number of steps an arc may be, in steps, before it gets one more.
 constexpr double TOLERANCIA_PASOS = 1e-6;
 

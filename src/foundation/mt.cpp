@@ -2,14 +2,13 @@
 #include "foundation/mt.h"
 #include "foundation/afirma.h"
 #include "foundation/logico_priv.h"
-#include "foundation/mt_priv.h"
+#include "foundation/vector_priv.h"
 #include "foundation/vnmath.h"
 
 using namespace vn;
 
 namespace {
 
-constexpr double VUELTA = 6.283185307179586;
 // Radians to spare at both limits of an arc: cuts that were computed at its very ends belong to it.
 constexpr double TOLERANCIA_RANGO = 1e-6;
 // Turns that the filter of angles takes off one by one, as a sum of roundings; more are one remainder.

@@ -2,7 +2,7 @@
 #include "foundation/afirma.h"
 #include "foundation/logico_priv.h"
 #include "foundation/mt.h"
-#include "foundation/mt_priv.h"
+#include "foundation/vector_priv.h"
 #include <array>
 #include <limits>
 

@@ -37,10 +37,6 @@ bool distintos(Punto3D a, Punto3D b, double precision) {
            (std::fabs(d.x) >= precision || std::fabs(d.y) >= precision || std::fabs(d.z) >= precision);
 }
 
-double modulo(Punto3D a) { return std::sqrt(escalar(a, a)); }
-
-double mayor_coordenada(Punto3D p) { return std::max({std::fabs(p.x), std::fabs(p.y), std::fabs(p.z)}); }
-
 // The line of two points, whose feet are those of mt_proyecta_punto_sobre_recta_3D, bit for bit.
 struct recta {
     Punto3D o, u;

@@ -2,6 +2,7 @@
 #include "geometry/poligono.h"
 #include "foundation/afirma.h"
 #include "foundation/mt.h"
+#include "foundation/vector_priv.h"
 #include "foundation/vornspy.h"
 #include <algorithm>
 #include <cmath>
@@ -11,7 +12,6 @@ namespace {
 
 using vertice = poligono_vertice_t;
 
-constexpr double MEDIA_VUELTA = 3.141592653589793;
 // Cross product beyond which a point is beside an edge; what is less is rounding, as the coordinates are
 // whole.
 constexpr double TOLERANCIA_LADO = 1e-07;
@@ -93,7 +93,7 @@ bool se_puede_quitar(const poligono_t *pol, int32_t i) {
     if (es_esquina_de_los_limites(pol, v)) return false;
     double angulo = mt_angulo(v.x, v.y, antes.x, antes.y) - mt_angulo(v.x, v.y, despues.x, despues.y);
     angulo = std::floor(angulo * DECIMALES_ANGULO + 0.5) / DECIMALES_ANGULO;
-    return mt_filtra_angulo_mayor_que_cero(angulo) >= MEDIA_VUELTA - TOLERANCIA_LLANO;
+    return mt_filtra_angulo_mayor_que_cero(angulo) >= vn::MEDIA_VUELTA - TOLERANCIA_LLANO;
 }
 
 // Takes the vertices for which `sobra` holds, from `vertizq` backwards and from `vertder` onwards.

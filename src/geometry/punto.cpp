@@ -3,16 +3,16 @@
 #include "foundation/afirma.h"
 #include "foundation/logico_priv.h"
 #include "foundation/mt.h"
+#include "foundation/vector_priv.h"
 #include "foundation/vnmath.h"
 #include "foundation/vnstdc.h"
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <iterator>
-#include <numbers>
 #include <utility>
 
-using vn::logico;
+using vn::logico, vn::MEDIA_VUELTA, vn::VUELTA;
 
 namespace {
 
@@ -34,9 +34,6 @@ constexpr double ANGULO_NULO = 1e-08;
 constexpr double GIRO_MINIMO = 1e-07;
 // Width below which a segment that meets the box's side is vertical.
 constexpr double LIMITE_VERTICAL = 1e-06;
-
-constexpr double VUELTA = 2 * std::numbers::pi, MEDIA_VUELTA = std::numbers::pi;
-static_assert(VUELTA == 6.283185307179586 && MEDIA_VUELTA == 3.141592653589793);
 
 Punto2D resta(const Punto2D &p, const Punto2D &q) { return {p.x - q.x, p.y - q.y}; }
 Punto2D relativo(const Punto2D &p, const Punto2D &q, double t) {

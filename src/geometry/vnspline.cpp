@@ -2,13 +2,14 @@
 #include "geometry/vnspline.h"
 #include "foundation/afirma.h"
 #include "foundation/mt.h"
+#include "foundation/vector_priv.h"
 #include "foundation/vnstdc.h"
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr double VUELTA = 6.283185307179586, MEDIA_VUELTA = 3.141592653589793;
+using vn::MEDIA_VUELTA, vn::VUELTA;
 // The steepest slope of the curve against its chord.
 constexpr double PENDIENTE_MAXIMA = 10.;
 
