@@ -260,12 +260,12 @@ int32_t arista_visible(const poligono_t *pol, const vertice &p) {
 }
 
 // Adds the point as the search over all vertices would, in a time that does not grow with their number but for the move
-// of the block. False, and nothing done, where that search has to be made: few vertices, figures that it rounds, and a
-// point that sees vertex 0, about which the edge that the search takes decides where the array begins.
+// of the block. False, and nothing done, where that search has to be made: figures that it rounds, and a point that sees
+// vertex 0, about which the edge that the search takes decides where the array begins.
 bool anade_deprisa(poligono_t *pol, const vertice &p) {
     const double ancho = double(std::max(pol->xmax, p.x)) - std::min(pol->xmin, p.x),
                  alto = double(std::max(pol->ymax, p.y)) - std::min(pol->ymin, p.y);
-    if (pol->numVertices < 5 || !(ancho * alto <= AREA_EXACTA)) return false;
+    if (!(ancho * alto <= AREA_EXACTA)) return false;
     const int32_t visible = arista_visible(pol, p);
     if (visible == NINGUNA)
         return p.x >= pol->xmin && p.x <= pol->xmax && p.y >= pol->ymin && p.y <= pol->ymax;

@@ -128,6 +128,11 @@ PRUEBA(interarc, los_cortes_de_circulos_estan_en_los_dos_tambien_lejos_del_orige
                  {2., 5., 0., 3., 0}, {5., 6., 8., 5., 2}, // touching on a vertical line, and on an oblique one
                  {NAN_, 1., 0., 2., 0}, {INF, 1., 0., 2., 0}};
     for (const auto &f : filas) EXPECT_EQ(entre(0., 0., f.r1, f.x2, f.y2, f.r2).num(), f.puntos) << "row " << &f - filas;
+    // An almost vertical line of equal power stands at its x of the lowest point, where the circles part: arcs notice.
+    const cortes vertical = entre(0., 0., 5., 6., 5e-5, 5.), horizontal = entre(0., 0., 5., 9e-5, 6., 5.);
+    EXPECT_TRUE(cerca(vertical[0].x, 3. + 2.5e-4 / 6., 1e3) && vertical[0].x == vertical[1].x && horizontal[0].y == horizontal[1].y);
+    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 5e-5, 5., 0., VUELTA).num(), 0u);
+    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 1e-6, 5., 0., VUELTA).num(), 2u);
 }
 
 // An arc keeps of its circle's cuts those whose direction it has.
