@@ -61,7 +61,6 @@ struct bloque {
     static constexpr double INF = std::numeric_limits<double>::infinity();
     Punto3D minimo{INF, INF, INF}, maximo{-INF, -INF, -INF}, a, b;
     double lejos = 0.;
-    bool finito = true;
 
     explicit bloque(puntos_t p) : a(mas_lejano(p, p[0])), b(mas_lejano(p, a)) {
         const Punto3D ab = b - a;
@@ -71,7 +70,6 @@ struct bloque {
             maximo = {std::max(maximo.x, q.x), std::max(maximo.y, q.y), std::max(maximo.z, q.z)};
             const double t = ab2 > 0. ? std::clamp(escalar(q - a, ab) / ab2, 0., 1.) : 0.;
             lejos = std::max(lejos, modulo(q - (a + t * ab)));
-            finito = finito && std::isfinite(q.x + q.y + q.z);
         }
     }
 
@@ -90,7 +88,7 @@ struct bloque {
         return std::max(r.desvio(a), r.desvio(b)) + dudoso(r.o) < precision;
     }
     bool todos_en_plano(Punto3D o, Punto3D w, double precision) const {
-        return finito && std::max(std::fabs(escalar(a - o, w)), std::fabs(escalar(b - o, w))) + dudoso(o) <= precision;
+        return std::max(std::fabs(escalar(a - o, w)), std::fabs(escalar(b - o, w))) + dudoso(o) <= precision;
     }
     // What a point may have more than both ends.
     double dudoso(Punto3D o) const {
@@ -224,7 +222,7 @@ bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marc
         Punto3D w;
         if (!b.busca(s, t) || !ejes_de(t, m, w)) continue;
         // After the first start it does not matter which point is off the plane, and the one that another plane failed at, or
-        // one near it, is likely to be off this one too.
+        // one near it, is likely to be off this one too. What is no number may be stepped over, to be found by the whole pass.
         if (s > 0)
             if (const uint32_t j = b.fuera_del_plano(testigo, t.p1, w, prec.plano); j != SIN_PUNTO) {
                 testigo = j;
@@ -239,7 +237,7 @@ bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marc
             return true;
         }
         testigo = r.falla;
-        if (comprueba_no_forma_eje) {
+        if (s == 0 && comprueba_no_forma_eje) {
             culpable_del_primero = r.falla;
             if (r.distancia > FACTOR_SIN_REMEDIO * prec.plano) {
                 culpable = r.falla;
