@@ -130,7 +130,8 @@ void ejes2d_ejes_de_una_cara(double x1, double y1, double z1, double x2, double 
         VN_SALIDA_OPC double *Zo, VN_SALIDA_OPC double *Ux, VN_SALIDA_OPC double *Uy, VN_SALIDA_OPC double *Uz,
         VN_SALIDA_OPC double *Vx, VN_SALIDA_OPC double *Vy, VN_SALIDA_OPC double *Vz);
 
-/** U and V of a vertical plane of normal (A, B, C): V is the global z axis, U = V x (A, B, C) made unit. */
+/** U and V of a vertical plane of normal (A, B, C): V is the global z axis, U = V x (A, B, C) made unit. A normal with no
+    horizontal part is reported, and its U is zero. */
 void ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(double A, double B, double C, VN_SALIDA double *Ux,
         VN_SALIDA double *Uy, VN_SALIDA double *Uz, VN_SALIDA double *Vx, VN_SALIDA double *Vy, VN_SALIDA double *Vz);
 
