@@ -26,133 +26,16 @@ double cuadrado(double x) { return vnstdc_pow(x, 2); }
 
 } // namespace
 
-// One formula a line, in its order of operations, and the names that share it. The order is part of the result: the last
-// bit of x / (G * 1000) is not that of x * (1 / 9810).
 #define MAGNITUD(nombre, formula)                                                                                      \
     double nombre(double x) { return formula; }
-#define MAGNITUDES_2(a, b, formula) MAGNITUD(a, formula) MAGNITUD(b, formula)
-#define MAGNITUDES_3(a, b, c, formula) MAGNITUDES_2(a, b, formula) MAGNITUD(c, formula)
+#include "units/magnitud_tabla.inl"
+#undef MAGNITUD
 
-// clang-format off
-// Forces
-MAGNITUDES_2(magnitud_Tn_a_kN, magnitud_Tn_m2_a_kN_m2, x * G)
-MAGNITUDES_2(magnitud_kN_a_Tn, magnitud_kN_m2_a_Tn_m2, x / G)
-MAGNITUD(magnitud_Tm_a_N, x * (G * 1000))
-MAGNITUDES_2(magnitud_N_a_Tn, magnitud_Pa_a_Tm_m2, x / (G * 1000))
-MAGNITUD(magnitud_MN_a_Tn, x / (G / 1000))
-MAGNITUDES_2(magnitud_Tn_a_kips, magnitud_kgf_a_lb, x / LB)
-MAGNITUDES_2(magnitud_kips_a_Tn, magnitud_lb_a_kgf, x * LB)
-MAGNITUD(magnitud_Tn_a_lb, x / (LB / 1000))
-MAGNITUD(magnitud_lb_a_Tn, x * (LB / 1000))
-MAGNITUD(magnitud_Kn_a_kips, (x / G) / LB)
-MAGNITUD(magnitud_N_a_kips, ((x / 1000) / G) / LB)
-MAGNITUDES_2(magnitud_kips_a_lib, magnitud_kip_div_in2_a_lb_div_in2, x * 1000)
-MAGNITUDES_3(magnitud_lib_a_kips, magnitud_lib_div_ft_a_kip_div_ft, magnitud_lib_ft_a_kip_ft, x / 1000)
-
-// Moments and forces per length
-MAGNITUDES_2(magnitud_kip_ft_a_Tn_m, magnitud_kips_ft_a_Tn_m, x * (LB * FT))
-MAGNITUD(magnitud_Tn_m_a_kip_ft, x / (LB * FT))
-MAGNITUD(magnitud_kips_in_a_Tn_m, x * (LB * IN))
-MAGNITUD(magnitud_Tn_m_a_kip_in, x / (LB * IN))
-MAGNITUD(magnitud_lb_ft_a_Tn_m, x * ((LB / 1000) * FT))
-MAGNITUD(magnitud_lb_in_a_Tn_m, x * ((LB / 1000) * IN))
-MAGNITUD(magnitud_Tn_m_a_lb_in, x / ((LB / 1000) * IN))
-MAGNITUD(magnitud_kip_ft_a_lb_in, (x * 1000) * 12)
-MAGNITUDES_3(magnitud_kip_in_a_kip_ft, magnitud_kip_div_in_a_kip_div_ft, magnitud_in_a_ft, x / 12)
-MAGNITUDES_2(magnitud_lib_in_a_kip_ft, magnitud_lib_div_in_a_kip_div_ft, x / (12 * 1000))
-MAGNITUD(magnitud_kip_div_ft_a_Tn_div_m, (x * LB) / FT)
-
-// Pressures, stresses, weights by volume
-MAGNITUD(magnitud_MPa_a_Tm_m2, x / (G * 0.001))
-MAGNITUD(magnitud_Tm_m2_a_MPa, x * (G * 0.001))
-MAGNITUD(magnitud_N_mm2_a_Tn_m2, x * (cuadrado(1000) / (G * 1000)))
-MAGNITUD(magnitud_Tm_m2_a_N_mm2, x / (cuadrado(1000) / (G * 1000)))
-MAGNITUD(magnitud_kN_mm2_a_Tn_m2, x * (cuadrado(1000) / G))
-MAGNITUD(magnitud_daN_m2_a_Tn_m2, x / (G * 100))
-MAGNITUD(magnitud_kg_cm2_a_Tn_m2, x * (cuadrado(100) / 1000))
-MAGNITUD(magnitud_Tn_m2_a_kg_cm2, x / (cuadrado(100) / 1000))
-MAGNITUDES_2(magnitud_Tn_m2_a_kg_m2, magnitud_Tn_m3_a_kg_m3, x * 1000)
-MAGNITUD(magnitud_kg_m2_a_Tn_m2, x / 1000)
-MAGNITUD(magnitud_lb_ft2_a_Tn_m2, x * (LBFT2 / G))
-MAGNITUD(magnitud_Tn_m2_a_lb_ft2, x / (LBFT2 / G))
-MAGNITUD(magnitud_lb_ft3_a_Tn_m3, (x * 16) * 0.001)
-MAGNITUD(magnitud_ksi_a_Tm_m2, x * KSI)
-MAGNITUD(magnitud_Tm_m2_a_ksi, x / KSI)
-MAGNITUD(magnitud_psi_a_Tm_m2, x * (KSI / 1000))
-MAGNITUD(magnitud_Tm_m2_a_psi, x / (KSI / 1000))
-MAGNITUD(magnitud_Pa_a_psi, (x / (G * 1000)) / (KSI / 1000))
-MAGNITUD(magnitud_bar_a_Pa, x * 100000)
-MAGNITUD(magnitud_mbar_a_Pa, x * (0.001 * 100000))
-MAGNITUD(magnitud_mca_a_Pa, x * 9810)
-MAGNITUD(magnitud_Pa_a_mca, x / 9810)
-MAGNITUD(magnitud_mmca_a_Pa, x * (0.001 * 9810))
-MAGNITUD(magnitud_Pa_a_mmca, x / (0.001 * 9810))
-// By 12 and not by the ratio of the areas: on purpose.
-MAGNITUD(magnitud_kip_div_ft2_a_lb_div_in2, (x * 12) * 1000)
-MAGNITUDES_2(magnitud_lib_div_ft2_a_lb_div_in2, magnitud_ft_a_in, x * 12)
-
-// Lengths, areas, volumes
-MAGNITUD(magnitud_m_a_cm, x * 100)
-MAGNITUD(magnitud_cm_a_m, x / 100)
-MAGNITUD(magnitud_dm_a_m, x / 10)
-MAGNITUD(magnitud_m_a_mm, x * 1000)
-MAGNITUDES_2(magnitud_mm_a_m, magnitud_m_a_km, x / 1000)
-MAGNITUD(magnitud_microm_a_m, x / 1000000)
-MAGNITUD(magnitud_m_a_in, x / IN)
-MAGNITUD(magnitud_in_a_m, x * IN)
-MAGNITUD(magnitud_mm_a_in, (x / 1000) / IN)
-MAGNITUDES_2(magnitud_m_a_ft, magnitud_m_s_a_ft_s, x / FT)
-MAGNITUD(magnitud_ft_a_m, x * FT)
-MAGNITUD(magnitud_km_a_mi, x / MI)
-MAGNITUD(magnitud_mi_a_km, x * MI)
-MAGNITUD(magnitud_m2_a_cm2, x * cuadrado(100))
-MAGNITUD(magnitud_cm2_a_m2, x / cuadrado(100))
-MAGNITUD(magnitud_m2_a_mm2, x * cuadrado(1000))
-MAGNITUD(magnitud_mm2_a_m2, x / cuadrado(1000))
-MAGNITUD(magnitud_m2_a_ft2, x / cuadrado(FT))
-MAGNITUD(magnitud_ft2_a_m2, x * cuadrado(FT))
-MAGNITUD(magnitud_m2_a_in2, x / cuadrado(IN))
-MAGNITUD(magnitud_in2_a_m2, x * cuadrado(IN))
-MAGNITUDES_3(magnitud_m3_a_l, magnitud_m3_h_a_l_h, magnitud_m3_s_a_l_s, x * 1000)
-MAGNITUDES_3(magnitud_l_a_m3, magnitud_l_h_a_m3_h, magnitud_l_s_a_m3_s, x / 1000)
-
-// Speeds, flows, time
-MAGNITUD(magnitud_m_s_a_km_h, x * (S_HORA / 1000))
-MAGNITUD(magnitud_km_h_a_m_s, x / (S_HORA / 1000))
-MAGNITUD(magnitud_m_s_a_milla_h, ((x / 1000) * S_HORA) / MI)
-MAGNITUD(magnitud_l_s_a_m3_h, x * (S_HORA / 1000))
-MAGNITUD(magnitud_m3_h_a_l_s, x / (S_HORA / 1000))
-MAGNITUDES_3(magnitud_h_a_s, magnitud_l_s_a_l_h, magnitud_m3_s_a_m3_h, x * S_HORA)
-MAGNITUD(magnitud_m3_h_a_m3_s, x / S_HORA)
-MAGNITUD(magnitud_m3_s_a_l_h, x * (1000 * S_HORA))
-MAGNITUD(magnitud_l_h_a_m3_s, x / (1000 * S_HORA))
-MAGNITUDES_3(magnitud_l_s_a_l_min, magnitud_min_a_s, magnitud_l_min_a_l_h, x * MIN_HORA)
-MAGNITUD(magnitud_l_min_a_l_s, x / MIN_HORA)
-MAGNITUD(magnitud_l_min_a_m3_s, x / (1000 * MIN_HORA))
-MAGNITUD(magnitud_h_a_dias, x / H_DIA)
-MAGNITUD(magnitud_meses_a_dias, x * DIAS_MES)
-MAGNITUD(magnitud_anyos_a_dias, x * DIAS_ANYO)
-
-// Energy, power, temperature, levels
-MAGNITUD(magnitud_J_a_MJ, x / 1000000)
-MAGNITUD(magnitud_MJ_a_J, x * 1000000)
-MAGNITUD(magnitud_J_a_Wh, x / S_HORA)
-MAGNITUD(magnitud_W_a_Btu_h, x * BTU)
-MAGNITUDES_2(magnitud_kcal_h_a_W, magnitud_kcal_hC_a_W_K, x * ((1000 * KCAL) / S_HORA))
-MAGNITUDES_2(magnitud_W_a_kcal_h, magnitud_W_K_a_kcal_hC, x / ((1000 * KCAL) / S_HORA))
-MAGNITUD(magnitud_grados_C_a_grados_F, (x * 1.8) + 32)
-MAGNITUD(magnitud_incremento_grados_C_a_grados_F, x * 1.8)
-MAGNITUD(magnitud_grados_C_a_grados_K, x + CELSIUS_A_KELVIN)
-MAGNITUD(magnitud_grados_K_a_grados_C, x - CELSIUS_A_KELVIN)
-MAGNITUD(magnitud_ul_a_dB, 10 * vnstdc_log10(x))
-MAGNITUD(magnitud_dB_a_ul, vnstdc_pow(10, x / 10))
-MAGNITUD(magnitud_W_a_dBmicroV, 20 * (6 + vnstdc_log10(std::sqrt(75 * x))))
-MAGNITUD(magnitud_dBW_a_dBmicroV, magnitud_W_a_dBmicroV(vnstdc_pow(10, x / 10)))
-
-// Angles
-MAGNITUD(degrees, (x * 180) / PI)
-MAGNITUD(radian, (x * PI) / 180)
-// clang-format on
+// Levels
+double magnitud_ul_a_dB(double x) { return 10 * vnstdc_log10(x); }
+double magnitud_dB_a_ul(double x) { return vnstdc_pow(10, x / 10); }
+double magnitud_W_a_dBmicroV(double x) { return 20 * (6 + vnstdc_log10(std::sqrt(75 * x))); }
+double magnitud_dBW_a_dBmicroV(double x) { return magnitud_W_a_dBmicroV(vnstdc_pow(10, x / 10)); }
 
 double magnitud_pixel_a_cm(uint32_t pixels) { return pixels * 0.013; }
 
