@@ -17,6 +17,7 @@
 #include "foundation/vdir.h"
 #include "foundation/vnlongpath.h"
 #include "foundation/vnmutex.h"
+#include "foundation/vornfile.h"
 #include "foundation/vornspy.h"
 #include "geometry/poligono.h"
 #include "geometry/pto3dord.h"
@@ -94,6 +95,12 @@ parametro fichero_nuevo(const char *nombre, unsigned opciones) {
     return p;
 }
 template <class C>
+parametro fichero_carpeta(const char *nombre, unsigned opciones) {
+    parametro p = fichero<C>(nombre, opciones);
+    std::swap(p.valores[0], p.valores[4]);
+    return p;
+}
+template <class C>
 parametro modo_de_abrir(const char *nombre) {
     if constexpr (sizeof(C) == 1)
         return textos(nombre, {"rb", "w", "a+", "r+b", "", "%s", "rw"});
@@ -137,6 +144,9 @@ inline void destruye_lista(void *lista) {
 
 inline vnfichero *flujo_binario() { return f_lc_fopen_seguro_u(VNU("flujo.bin"), VNU("r+b"), "barrido", 0); }
 inline vnfichero *flujo_texto() { return f_lc_fopen_seguro_u(VNU("flujo.txt"), VNU("r+"), "barrido", 0); }
+inline vnfichero *flujo_de_guardado() {
+    return vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(VNU("entrada.bin"));
+}
 inline vnfichero *flujo_que_no_escribe() {
     return f_lc_fopen_seguro_u(VNU("flujo.bin"), VNU("rb"), "barrido", 0);
 }

@@ -5,6 +5,8 @@ build with its name."""
 # column is for the operations whose name matches it, and stands before the general one.
 MANEJOS = [
     # type, operations, creator, destroyer, elements
+    ("vnfichero", r"vorn(bin_(cierra|abandona)\w*_para_escritura|file_(cerrar|abandonar)_fichero_escritura)", "flujo_de_guardado()",
+     "vornfile_abandonar_fichero_escritura(p)", 0),
     ("vnfichero", r"bin_lee_SN", "flujo_con(\"S\")", "lc_fclose_seguro(p)", 0),
     ("vnfichero", r"vtxt_lee_bool", "flujo_con(\"a\\\\n\")", "lc_fclose_seguro(p)", 0),
     ("vnfichero", r"vtxt_leer_BOOL", "flujo_con(\"1\\\\n\")", "lc_fclose_seguro(p)", 0),
@@ -92,6 +94,7 @@ SIN_OBJETOS = {"idxdatos", "insocket"}
 REGISTROS = {
     "vnoperaciones_fichero": "*operaciones_fichero_del_sistema()",
     "tm": "tm{{}}",  # a platform's may have pointers
+    "vornconf_internacional": "vornconf_internacional{{47, 8, 10, 4, 3, 1, 0}}",
     "vnFILETIME": "vnFILETIME{{0, 0x1C60D9D}}",  # of 2005
     # No two points alike, nor three in a line.
     "Punto2D": "Punto2D{{{i}., {i}. * {i}.}}",
@@ -169,6 +172,7 @@ PARAMETROS = [
        f'textos_u({{n}}, {{{{u"{uno}", u"{otro}", u"entrada.bin", u"proyecto.bin", u"obra.bin", u"no_hay", u"carpeta", u""}}}})')
       for que, uno, otro in (("con_version", "firmado.bin", "suelto.bin"), ("sin_cabecera", "suelto.bin", "firmado.bin"))),
     (r"vornfile_hacer_definitivo.*", r"temporal", 'textos_u({n}, {{u"flujo.txt", u"no_hay", u"carpeta", u""}})'),
+    (r"vdir_borra_(contenido_directorio|directorio_y_subdirectorios)_UNICODE", r"ruta", "fichero_carpeta<{t}>"),
     (r"vdir_crea_directorios_UNICODE|vdir_renombra_fichero_UNICODE", r"ruta|destino", "fichero_nuevo<{t}>"),
     (r".*", r"obra|path_lista", "fichero_nuevo<{t}>"),
     (r".*", r"nomfich|fichero|nombre_fichero|nombre_fichero_obra|ruta|rutas?_\w+|path|path_\w+|directorio", "fichero<{t}>"),
@@ -180,6 +184,7 @@ PARAMETROS = [
 LLAMADAS = {
     # Pairs of a size and a value, as many as the greatest count.
     "vornspy_parametro": "r.p = vornspy_parametro(static_cast<int>(a[0].i), " + ", ".join(["4, 1"] * 16) + ")",
+    "contexto_fueraDeContexto_u": "contexto_dentroDeContexto_u({argumentos}), contexto_fueraDeContexto_u({argumentos})",
     # Not on the heap: closed here.
     "vnlongpath_CreateFileW": "vnlongpath_CloseHandle(vnlongpath_CreateFileW({argumentos}))",
 }
