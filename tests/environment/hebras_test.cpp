@@ -1,0 +1,112 @@
+// Every family from several threads at once, each with objects of its own, while another thread changes what is set for the
+// whole process. What is wrong here is seen by ThreadSanitizer, or in an answer that is of no setting.
+#include "foundation/contexto.h"
+#include "foundation/fichconf.h"
+#include "foundation/msglocal.h"
+#include "foundation/unicode.h"
+#include "foundation/vnregional.h"
+#include "persistence/vornbin.h"
+#include "persistence/vornsave.h"
+#include "prueba.h"
+#include "time/sysdata.h"
+#include "time/vorntime.h"
+#include "units/convers.h"
+#include "units/magnitud.h"
+#include "units/vnnumlet.h"
+#include "units/vornconf.h"
+#include <algorithm>
+#include <atomic>
+#include <thread>
+
+namespace {
+
+using vn::toma;
+
+bool es_uno_de(const std::string &s, std::initializer_list<const char *> posibles) {
+    return std::ranges::any_of(posibles, [&](const char *p) { return s == p; });
+}
+
+// A project of its own, written and read.
+bool guarda_y_lee(int hebra, int vuelta) {
+    const auto nombre = vn::ancho(vn::Prueba::directorio() + "/obra" + std::to_string(hebra));
+    vnfichero *f = vornbin_abre_fichero_para_escritura_u(nombre.c_str(), nullptr);
+    vornsave *s = vornsave_registra_bin(f);
+    vornsave_graba_inicio_seccion("vigas", s);
+    vornsave_graba_long(hebra * 1000 + vuelta, s);
+    vornsave_graba_cadena("dintel", s);
+    vornsave_graba_fin_seccion("vigas", s);
+    vornsave_libera(&s);
+    bool bien = vornbin_cierra_fichero_abierto_para_escritura_u(f, nombre.c_str(), nullptr) == CIERTO;
+    f = vornbin_abre_fichero_para_lectura_unicode(nombre.c_str(), nullptr);
+    s = vornsave_registra_bin(f);
+    char *seccion = vornsave_lee_seccion(s);
+    bien = bien && vornsave_lee_long(s) == hebra * 1000 + vuelta;
+    bien = bien && toma(vornsave_lee_cadena(s)) == "dintel";
+    vornsave_lee_final_seccion(seccion, s);
+    vornspy_free_pp(&seccion, 1);
+    vornsave_libera(&s);
+    vornbin_cierra_fichero_abierto_para_lectura_u(f, nombre.c_str(), nullptr);
+    return bien;
+}
+
+// A report inside a trap stays with its thread.
+void informa(const int *) { vnnumlet_numero_en_cifras_a_letra("abc", FALSO); }
+
+bool valores() {
+    const std::string fuerza = toma(convers_texto_con_unidades_dos_decimales(1, CNV_FUERZA));
+    return es_uno_de(fuerza, {"1.00 t", "9.81 kN", "2204.62 lbs"}) &&
+           es_uno_de(toma(convers_texto_ex(nullptr, 1, CNV_FUERZA, 1, FALSO, CIERTO)), {"1.0 t", "9.8 kN", "2204.6 lbs"}) &&
+           convers_valor_redondeado_por_exceso(1, 0.1, CNV_FUERZA) > 0.99 &&
+           es_uno_de(toma(vnnumlet_numero_en_cifras_a_letra("21", FALSO)), {"veintiun", "vingt et un", "twenty-one"}) &&
+           vornconf_Internacional_sistema_unidades() - 1 < 3 && magnitud_m_a_ft(1) > 3;
+}
+
+bool textos(int vuelta) {
+    contexto_dentroDeContexto_u(VNU("hebra"));
+    const std::string fecha = toma(vtm_time_a_cadena_ordenable_AAAA_MM_DD_u(86400 * vuelta + 43200));
+    vnwchar decimal = 0, millares = 0;
+    vnregional_separadores(&decimal, &millares);
+    contexto_fueraDeContexto_u(VNU("hebra"));
+    return fecha.starts_with("1970-") && (decimal == ',' || decimal == '.') && decimal != millares &&
+           !toma(sysdata_nombre_dia(static_cast<uint32_t>(vuelta % 7))).empty() &&
+           !toma(sysdata_formateaNumero_u(1234.5, 1)).empty() && !std::string(vornconf_texto_sistema_unidades()).empty() &&
+           !toma(unicode_UNICODE_a_ANSI(VNU("ñandú Ł"))).empty();
+}
+
+} // namespace
+
+PRUEBA(hebras, cada_familia_a_la_vez_mientras_cambia_lo_comun) {
+    fichconf_establece_directorio_base(vn::ancho(directorio()).c_str());
+    EXPECT_EQ(toma(convers_texto_con_unidades_dos_decimales(1, CNV_FUERZA)), "1.00 t"); // their language is the first one's
+    std::atomic<bool> basta{false};
+    std::atomic<int> mal{0};
+    std::thread cambia([&] {
+        for (int i = 0; !basta; ++i) {
+            constexpr int IDIOMAS[] = {0, 1, 8};
+            constexpr const char *REGIONES[] = {"es-ES", "en-US", nullptr};
+            msidioma_establece_idioma(IDIOMAS[i % 3]);
+            vornconf_Internacional_set_sistema_unidades(1 + static_cast<uint32_t>(i % 3));
+            unicode_establece_pagina_ANSI(i % 2 == 0 ? 1252 : 1250);
+            vnregional_establece(REGIONES[i % 3]);
+        }
+    });
+    std::vector<std::thread> hebras;
+    for (int h = 0; h < 6; ++h)
+        hebras.emplace_back([&, h] {
+            for (int vuelta = 0; vuelta < 60; ++vuelta) {
+                const int nada = 0;
+                mal += !guarda_y_lee(h, vuelta);
+                mal += !valores();
+                mal += !textos(vuelta);
+                mal += trapable_ejecuta_funcion_segura(const int, informa, &nada, nullptr) != FALSO;
+            }
+        });
+    for (auto &h : hebras) h.join();
+    basta = true;
+    cambia.join();
+    EXPECT_EQ(mal, 0);
+    unicode_establece_pagina_ANSI(1252);
+    vnregional_establece(nullptr);
+    vornconf_Internacional_set_sistema_unidades(VORNCONF_SU_MKS);
+    fichconf_establece_directorio_base(nullptr);
+}
