@@ -1,4 +1,5 @@
-/* Messages: user-visible texts in the languages of the family, and which language is active. */
+/* Messages: user-visible texts in the languages of the family, and which language is active. Threads: any may ask; the
+   language is the process's, and a change is seen by each at its next text. */
 #ifndef VN_MSGLOCAL_H
 #define VN_MSGLOCAL_H
 

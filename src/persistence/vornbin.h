@@ -1,5 +1,6 @@
 /* Binary project files: the values on an open stream (bin_*), and the header and format prologue that open a file
-   (vornbin_*). Everything is little-endian, nothing is aligned, no value has a header of its own. */
+   (vornbin_*). Everything is little-endian, nothing is aligned, no value has a header of its own. Threads: one for each
+   stream; the directory of the samples is set before other threads open files. */
 #ifndef VN_VORNBIN_H
 #define VN_VORNBIN_H
 

@@ -4,7 +4,11 @@
    Texts that are returned are new blocks of the tracked heap, freed with vornstr_destruye (ANSI) or widestr_destruye
    (wide), one allocation each; unit texts belong to the table and are not freed. Numbers have a period, whatever the
    region; not-a-number shows as "nan", an infinity as "inf". A type beyond CNV_NO_CONVERSION is reported: 0, an empty unit
-   text, a null text, or, where a value is rounded, the value as it came. */
+   text, a null text, or, where a value is rounded, the value as it came.
+
+   Unit texts are those of the language that was active at the first query, until the exit list runs (vnatexit_ejecuta): a
+   host that changes the language runs it first. Threads: any, the first query included; each operation looks once at its
+   type, the system and the unit, so that a change by another thread is seen whole or not at all. */
 #ifndef VN_CONVERS_H
 #define VN_CONVERS_H
 
