@@ -135,9 +135,13 @@ constexpr std::array<fila_convers, CNV_NO_CONVERSION> FILAS_CONVERS = calcula();
 const textos_convers *crea_textos_convers() {
     propio<textos_convers> nuevos(
         static_cast<textos_convers *>(vornspy_malloc(sizeof(textos_convers) * CNV_NO_CONVERSION)));
-    uint32_t num_conversiones = 0;
-    for (const definicion &d : DEFINICIONES) anade(nuevos.get(), &num_conversiones, d);
-    AFIRMA_TEXTO(num_conversiones == CNV_NO_CONVERSION, "num_conversiones == (unsigned long)CNV_NO_CONVERSION");
+    int idioma = 0;
+    do { // all in one language: anew when it was changed meanwhile
+        idioma = msidioma_dame_idioma();
+        uint32_t num_conversiones = 0;
+        for (const definicion &d : DEFINICIONES) anade(nuevos.get(), &num_conversiones, d);
+        AFIRMA_TEXTO(num_conversiones == CNV_NO_CONVERSION, "num_conversiones == (unsigned long)CNV_NO_CONVERSION");
+    } while (idioma != msidioma_dame_idioma());
     const textos_convers *puestos = nullptr;
     if (!textos_de_convers.compare_exchange_strong(puestos, nuevos.get(), std::memory_order_acq_rel)) return puestos;
     atexit_anade(libera_textos, nullptr);
