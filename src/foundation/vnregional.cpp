@@ -10,6 +10,7 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <utility>
 
 using vn::texto;
 using vn::vista;
@@ -45,8 +46,7 @@ void allana(region &r) {
                              &region::separador_fechas, &region::separador_horas, &region::fecha_corta, &region::fecha_larga,
                              &region::signo_menos, &region::antes_de_mediodia, &region::despues_de_mediodia, &region::era})
         llano(r.*t, 0xA0);
-    for (texto region::*t : {&region::hora, &region::hora_corta}) llano(r.*t, VNU(' '));
-    r.hora_corta.resize(std::min(r.hora_corta.find(VNU(';')), r.hora_corta.size())); // the first of several
+    llano(r.hora, VNU(' '));
 }
 
 vnwchar primero(const texto &t) { return t.empty() ? vnwchar{0} : t[0]; }
@@ -146,7 +146,7 @@ texto pinta_fecha(const region &r, const momento &m, vista modelo) {
     texto t;
     const auto campo = [&](vnwchar c, size_t n) {
         if (c == VNU('g')) t += r.era;
-        else if (c == VNU('d') && n > 2) t += (n > 3 ? r.dias : r.dias_abreviados)[dia];
+        else if (c == VNU('d') && n > 2) t += (n > 3 ? r.dias_en_fecha : r.dias_abreviados_en_fecha)[dia];
         else if (c == VNU('M') && n > 2) t += (n == 3 ? r.meses_abreviados : con_dia ? r.meses_en_fecha : r.meses)[mes];
         else if (c == VNU('y')) pon_numero(t, n > 2 ? m.anyo : m.anyo % 100, n);
         else pon_numero(t, c == VNU('d') ? m.dia : m.mes, n);
@@ -157,17 +157,28 @@ texto pinta_fecha(const region &r, const momento &m, vista modelo) {
     return t;
 }
 
-texto pinta_hora(const region &r, const momento &m, vista modelo) {
-    texto t;
-    recorre(modelo, VNU("hHmst"), [&](vista s) { t += s; }, [&](vnwchar c, size_t n) {
-        if (c == VNU('t')) {
-            const texto &mitad = m.hora < 12 ? r.antes_de_mediodia : r.despues_de_mediodia;
-            t += n == 1 ? mitad.substr(0, 1) : mitad;
+// Without seconds, the text on both sides of them goes too, but for the blanks before what follows.
+texto pinta_hora(const region &r, const momento &m, bool con_segundos) {
+    texto t, blancos;
+    size_t ultimo = 0; // where the last field ended
+    bool sin_segundos = false;
+    const auto campo = [&](vnwchar c, size_t n) {
+        if (c == VNU('s') && !con_segundos) {
+            t.resize(ultimo);
+            sin_segundos = true;
             return;
         }
+        if (std::exchange(sin_segundos, false)) t += blancos;
+        const texto &mitad = m.hora < 12 ? r.antes_de_mediodia : r.despues_de_mediodia;
         const int32_t valor = c == VNU('H') ? m.hora : c == VNU('h') ? (m.hora + 11) % 12 + 1 : c == VNU('m') ? m.minuto : m.segundo;
-        pon_numero(t, valor, std::min<size_t>(n, 2) > 1 ? 2 : 1);
-    });
+        if (c == VNU('t')) t += n == 1 ? mitad.substr(0, 1) : mitad;
+        else pon_numero(t, valor, n > 1 ? 2 : 1);
+        ultimo = t.size();
+    };
+    recorre(r.hora, VNU("hHmst"), [&](vista s) {
+        if (!sin_segundos) t += s;
+        else if (s == vista(VNU(" "))) blancos += s;
+    }, campo);
     return t;
 }
 
@@ -281,7 +292,7 @@ vnwchar *vnregional_hora_u(int32_t hora, int32_t minuto, int32_t segundo, vnbool
     if (!AFIRMA_LOGICO(con_segundos)) return nullptr;
     if (hora < 0 || hora > 23 || minuto < 0 || minuto > 59 || segundo < 0 || segundo > 59) return nullptr;
     const auto r = la_region();
-    return vn::nuevo(pinta_hora(*r, {1, 2, 1980, 5, hora, minuto, segundo}, con_segundos == CIERTO ? r->hora : r->hora_corta));
+    return vn::nuevo(pinta_hora(*r, {1, 2, 1980, 5, hora, minuto, segundo}, con_segundos == CIERTO));
 }
 
 vnwchar *vnregional_numero_u(const vnwchar *numero, uint32_t maximo) {

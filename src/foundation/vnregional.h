@@ -35,7 +35,8 @@ void vnregional_separadores(VN_SALIDA vnwchar *decimal, VN_SALIDA vnwchar *milla
     Pictures have d, dd, ddd, dddd, M, MM, MMM, MMMM, y, yy, yyyy, gg and text, in single quotes where it has such
     letters. Null when there is no such day; years 1601 to 9999. */
 vnwchar *vnregional_fecha_u(int32_t dia, int32_t mes, int32_t anyo, VN_OPC const vnwchar *modelo, vnbool larga);
-/** Text of a time of day, new. Null when there is no such time. */
+/** Text of a time of day by the picture of the time, new; without seconds, the same without them and what separates
+    them. Null when there is no such time. */
 vnwchar *vnregional_hora_u(int32_t hora, int32_t minuto, int32_t segundo, vnbool con_segundos);
 /** A number of the form "-1234.5" as the region writes it, with its number of decimals (rounded, halves away from zero),
     its grouping and its sign, new. Null when the text is no such number or the result takes `maximo` units or more. */

@@ -1,10 +1,11 @@
 /* Regional data, and the names of the machine and of its user: the library's one door to what the user set in the system.
 
    Windows' regional settings; elsewhere those of the environment (LC_ALL, or LC_NUMERIC for numbers and LC_TIME for the
-   rest, or LANG), as the tables of Unicode have them, in the forms that Windows uses. What is set while the program
-   runs is seen half a second later at most; another region than the user's can be set in foundation/vnregional.h. A
-   narrow or thin blank that does not break comes as the plain one (U+00A0), a minus sign of its own (U+2212) as '-',
-   on every platform: one character of the ANSI pages each.
+   rest, or LANG), as the tables of Unicode have them, as pictures in the letters of Windows; what a region's picture is may
+   differ between the two (d/M/yyyy, dd/MM/yyyy). Dates are Gregorian in every region. What is set while the program runs
+   is seen half a second later at most; another region than the user's can be set in foundation/vnregional.h. A narrow or
+   thin blank that does not break comes as the plain one (U+00A0), a minus sign of its own (U+2212) as '-', on every
+   platform: one character of the ANSI pages each.
 
    Results are new texts, the caller's. ANSI ones are in the active ANSI page. */
 #ifndef VN_SYSDATA_H
@@ -49,7 +50,7 @@ vnwchar *sysdata_hora_u(int32_t segundo, int32_t minuto, int32_t hora, vnbool co
     "%.*f" writes it. */
 vnwchar *sysdata_formateaNumero_u(double valor, int32_t decimales);
 
-/** Name of a day of the week, 0 Sunday to 6 Saturday, whole or abbreviated; another is reported as "dia < 7" and gives
+/** Name of a day of the week as it stands alone, 0 Sunday to 6 Saturday, whole or abbreviated; another is reported as "dia < 7" and gives
     null. */
 char *sysdata_nombre_dia(VN_RANGO(0, 6) uint32_t dia);
 char *sysdata_nombre_dia_abreviado(VN_RANGO(0, 6) uint32_t dia);

@@ -171,20 +171,20 @@ template <class C> C *todos_los_decimales(double valor) {
     return texto_nuevo(t);
 }
 
-// A separator in a width of text.
-template <class C> C separador(vnwchar c) {
+// A separator in a width of text, or another one where the ANSI page has it not, or not in one byte.
+template <class C> C separador(vnwchar c, char otro) {
     if (sizeof(C) > 1 || c < 0x80) return static_cast<C>(c);
     const vnwchar texto[] = {c, 0};
-    return static_cast<C>(*propio<char>(unicode_UNICODE_a_ANSI(texto)));
+    const propio<char> ansi(unicode_UNICODE_a_ANSI(texto));
+    return static_cast<C>(ansi.get()[0] == '?' || ansi.get()[1] != 0 ? otro : ansi.get()[0]);
 }
 
 // How the region shows numbers.
 template <class C> aspecto<C> de_la_region(int32_t decimales, bool con_millares) {
     vnwchar decimal, millares;
     vnregional_separadores(&decimal, &millares);
-    if (decimal == 0) decimal = '.';
-    if (!con_millares || millares == decimal) millares = 0;
-    return {separador<C>(millares), separador<C>(decimal), false, decimales};
+    const C d = separador<C>(decimal != 0 ? decimal : VNU('.'), '.'), m = con_millares ? separador<C>(millares, 0) : C{0};
+    return {m == d ? C{0} : m, d, false, decimales};
 }
 
 template <class C> C *entero_a_string(int64_t valor, C sep_millares) {

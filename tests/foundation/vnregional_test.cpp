@@ -52,6 +52,25 @@ PRUEBA(vnregional, los_modelos_de_fecha) {
     EXPECT_EQ(fecha(29, 2, 2000, "d"), "29");
 }
 
+// The name of a day by itself and in the date of a region; a region of another calendar.
+PRUEBA(vnregional, los_nombres_solos_y_en_una_fecha) {
+    const auto miercoles = [] { return toma(vnregional_dato_u(VNREGIONAL_NOMBRE_DIA + 2)); };
+    {
+        const en_region r("fi-FI");
+        EXPECT_EQ(miercoles(), "keskiviikko");
+        EXPECT_EQ(toma(vnregional_fecha_u(4, 3, 2026, nullptr, CIERTO)).substr(0, 12), "keskiviikko ");
+    }
+    if (vn::EN_WINDOWS) return; // whose tables have one form, and the system's own calendar
+    {
+        const en_region r("gl-ES");
+        EXPECT_EQ(miercoles() + fecha(4, 3, 2026, " dddd"), "Mércores mércores");
+    }
+    for (const auto &[region, larga] : {std::pair{"fa-IR", "پنجشنبه 5 مارس 2026"}, {"th-TH", "วันพฤหัสบดีที่ 5 มีนาคม ค.ศ. 2026"}}) {
+        const en_region r(region);
+        EXPECT_EQ(toma(vnregional_fecha_u(5, 3, 2026, nullptr, CIERTO)), larga);
+    }
+}
+
 PRUEBA(vnregional, el_dia_de_la_semana_de_toda_fecha) {
     using namespace std::chrono;
     const en_region r("en-US");
@@ -72,7 +91,7 @@ PRUEBA(vnregional, las_horas) {
     } filas[] = {
         {"en-US", 0, 0, 0, "12:00:00 AM", "12:00 AM"},   {"en-US", 12, 59, 9, "12:59:09 PM", "12:59 PM"},
         {"en-US", 13, 4, 5, "1:04:05 PM", "1:04 PM"},    {"de-DE", 0, 4, 59, "00:04:59", "00:04"},
-        {"fr-CA", 9, 4, 5, "09 h 04 min 05 s", "09 h 04"}, {"fr-FR", 24, 0, 0, "(null)", "(null)"},
+        {"fr-CA", 9, 4, 5, "09 h 04 min 05 s", "09 h 04"}, {"fi-FI", 9, 4, 5, "9.04.05", "9.04"}, {"fr-FR", 24, 0, 0, "(null)", "(null)"},
         {"fr-FR", 0, 60, 0, "(null)", "(null)"},         {"fr-FR", 0, 0, -1, "(null)", "(null)"},
     };
     for (const auto &f : filas) {

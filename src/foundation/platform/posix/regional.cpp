@@ -87,9 +87,12 @@ size_t fin_de_cita(vista s, size_t i) {
     return i;
 }
 
+texto patron_de(const UDateFormat *f) {
+    return con_sitio([&](vnwchar *p, int32_t n, UErrorCode *e) { return udat_toPattern(f, 0, p, n, e); });
+}
+
 // Quoting is the same in both; a year has four digits, as in a short date of Windows.
-texto modelo_de(const UDateFormat *f) {
-    const texto patron = con_sitio([&](vnwchar *p, int32_t n, UErrorCode *e) { return udat_toPattern(f, 0, p, n, e); });
+texto modelo_de(const texto &patron) {
     texto modelo;
     for (size_t i = 0; i < patron.size();) {
         const vnwchar c = patron[i];
@@ -141,21 +144,35 @@ void lee_nombres(const UDateFormat *f, UDateFormatSymbolType que, int32_t primer
         });
 }
 
+// The dates of the library are Gregorian, and so must pictures and names be where people use another calendar.
+std::string con_calendario(const std::string &nombre) {
+    char sitio[ULOC_FULLNAME_CAPACITY + 32] = {};
+    UErrorCode error = U_ZERO_ERROR;
+    nombre.copy(sitio, ULOC_FULLNAME_CAPACITY);
+    uloc_setKeywordValue("calendar", "gregorian", sitio, sizeof sitio, &error);
+    return U_FAILURE(error) ? nombre : sitio;
+}
+
 bool lee_fechas(const std::string &nombre, region &r) {
-    const fechas corta = abre(nombre, UDAT_NONE, UDAT_SHORT), larga = abre(nombre, UDAT_NONE, UDAT_FULL);
-    const fechas hora = abre(nombre, UDAT_MEDIUM, UDAT_NONE), hora_corta = abre(nombre, UDAT_SHORT, UDAT_NONE);
-    if (!corta || !larga || !hora || !hora_corta) return false;
-    r.fecha_corta = modelo_de(corta.get());
-    r.fecha_larga = modelo_de(larga.get());
-    r.hora = modelo_de(hora.get());
-    r.hora_corta = modelo_de(hora_corta.get());
+    const std::string suyo = con_calendario(nombre);
+    const fechas corta = abre(suyo, UDAT_NONE, UDAT_SHORT), larga = abre(suyo, UDAT_NONE, UDAT_FULL);
+    const fechas hora = abre(suyo, UDAT_MEDIUM, UDAT_NONE);
+    if (!corta || !larga || !hora) return false;
+    const texto patron_largo = patron_de(larga.get());
+    r.fecha_corta = modelo_de(patron_de(corta.get()));
+    r.fecha_larga = modelo_de(patron_largo);
+    r.hora = modelo_de(patron_de(hora.get()));
     r.separador_fechas = separador_de(r.fecha_corta);
     r.separador_horas = separador_de(r.hora);
     r.orden_fecha = orden_de(r.fecha_corta);
     r.modo_horario = r.hora.find(u'H') != texto::npos ? u'1' : u'0';
     const UDateFormat *f = larga.get();
-    lee_nombres(f, UDAT_WEEKDAYS, 1, r.dias);
-    lee_nombres(f, UDAT_SHORT_WEEKDAYS, 1, r.dias_abreviados);
+    lee_nombres(f, UDAT_STANDALONE_WEEKDAYS, 1, r.dias);
+    lee_nombres(f, UDAT_STANDALONE_SHORT_WEEKDAYS, 1, r.dias_abreviados);
+    // A region says which form its dates take.
+    const bool solos = patron_largo.find(u'c') != texto::npos;
+    lee_nombres(f, solos ? UDAT_STANDALONE_WEEKDAYS : UDAT_WEEKDAYS, 1, r.dias_en_fecha);
+    lee_nombres(f, solos ? UDAT_STANDALONE_SHORT_WEEKDAYS : UDAT_SHORT_WEEKDAYS, 1, r.dias_abreviados_en_fecha);
     lee_nombres(f, UDAT_STANDALONE_MONTHS, 0, r.meses);
     lee_nombres(f, UDAT_SHORT_MONTHS, 0, r.meses_abreviados);
     lee_nombres(f, UDAT_MONTHS, 0, r.meses_en_fecha);

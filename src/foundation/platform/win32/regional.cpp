@@ -17,7 +17,6 @@ constexpr fila DATOS[] = {
     {LOCALE_SSHORTDATE, &region::fecha_corta},
     {LOCALE_SLONGDATE, &region::fecha_larga},
     {LOCALE_STIMEFORMAT, &region::hora},
-    {LOCALE_SSHORTTIME, &region::hora_corta},
     {LOCALE_IDATE, &region::orden_fecha},
     {LOCALE_ITIME, &region::modo_horario},
     {LOCALE_SGROUPING, &region::agrupacion},
@@ -77,6 +76,8 @@ bool lee_region(const char *nombre, region &r) {
     if (!lee_dias(lee, LOCALE_SDAYNAME1, r.dias) || !lee_dias(lee, LOCALE_SABBREVDAYNAME1, r.dias_abreviados) ||
         !lee(LOCALE_SMONTHNAME1, r.meses) || !lee(LOCALE_SABBREVMONTHNAME1, r.meses_abreviados))
         return false;
+    r.dias_en_fecha = r.dias;
+    r.dias_abreviados_en_fecha = r.dias_abreviados;
     for (LCTYPE i = 0; i < 12; ++i)
         if (!lee((LOCALE_SMONTHNAME1 + i) | LOCALE_RETURN_GENITIVE_NAMES, r.meses_en_fecha[i]) || r.meses_en_fecha[i].empty())
             r.meses_en_fecha[i] = r.meses[i];
