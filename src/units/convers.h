@@ -14,7 +14,9 @@
 
 #include "foundation/tipos.h"
 
-/** Value types; the table says what each is. CNV_NO_CONVERSION: a plain number, no unit. */
+/** Value types; the table says what each is. CNV_NO_CONVERSION: a plain number, no unit. In the imperial system types 73,
+    74 and 115 have the figures of the family's files, which are not the physical ones: what 73 and 74 show is 0.00863 of
+    the true figure, what 115 shows 115.9 times it, and what is typed in errs the other way. */
 enum {
 #define X(tipo, nombre, ...) nombre = tipo,
 #include "units/convers_tabla.inl"
@@ -31,8 +33,9 @@ VN_C_INICIO
 /** `valor` from its internal unit to the one shown (CNV_A_MOSTRADO: valor * multiplier + addend) or back (CNV_A_INTERNO:
     (valor - addend) / multiplier). Another direction is reported, and 0; with CNV_NO_CONVERSION there is none to tell. */
 double cnv_convierte(VN_RANGO(0, 1) int32_t sentido, VN_RANGO(0, 145) uint32_t tipovalor, double valor);
-/** The text of the unit shown, in the language that was active when the table was first used; empty for
-    CNV_NO_CONVERSION. Good until the process ends. */
+/** The text of the unit shown, in the language that was active when the table was first used (as in every text of this
+    header: for those of another the host runs the exit registry, vnatexit_ejecuta, and asks anew); empty for
+    CNV_NO_CONVERSION. Good until then. */
 const vnwchar *cnv_strextunids(VN_RANGO(0, 145) uint32_t tipovalor);
 /** How a value of the type is typed in and shown: VORNNUM_FORMATO_* (vornnum.h), 0 but for lengths of the imperial system. */
 int32_t convers_formato_entrada(VN_RANGO(0, 145) uint32_t tipovalor);

@@ -1,19 +1,20 @@
 /* The unit texts that some language writes otherwise than Spanish does. Those without a row are the same in all.
 
-   X(spanish, T(LANGUAGE, text)...): columns as in msglocal_priv.h. Russian has symbols of its own for the metric units;
-   what counts pounds, feet and Btu stays as it is there too. */
+   X(spanish, T(LANGUAGE, text)...): columns as in msglocal_priv.h. Russian and Bulgarian have symbols of their own for the
+   metric units, as in the labels of budget units; what counts pounds, feet and Btu stays as it is there too. */
 
-/* Russian alone. */
-#define SR(es, ru) X(es, T(EN, es), T(RU, ru))
+/* Those in Cyrillic alone. */
+#define SR(es, ru) X(es, T(EN, es), T(BG, ru), T(RU, ru))
 /* A tonne of force is "tf" where "t" is kept for mass. */
-#define TN(es, tf, ru) X(es, T(PT_BR, tf), T(EN, es), T(ZH, tf), T(RU, ru), T(JA, tf))
-/* The kilopond of Spanish, Catalan, Galician and German is the kilogram-force elsewhere; the megapond, the tonne-force. */
+#define TN(es, tf, ru) X(es, T(PT_BR, tf), T(EN, es), T(BG, ru), T(ZH, tf), T(RU, ru), T(JA, tf))
+/* The kilopond of Spanish, Catalan, Galician and German is the kilogram-force elsewhere; the megapond, the
+   tonne-force as the language writes it in every other unit. */
 #define KP(es, am, kgf, pl, ru)                                                                                        \
-    X(es, T(FR, kgf), T(PT_BR, kgf), T(PT, kgf), T(IT, kgf), T(ES_AM, am), T(EN, kgf), T(BG, kgf), T(RO, kgf),         \
+    X(es, T(FR, kgf), T(PT_BR, kgf), T(PT, kgf), T(IT, kgf), T(ES_AM, am), T(EN, kgf), T(BG, ru), T(RO, kgf),          \
       T(ZH, kgf), T(DE, es), T(RU, ru), T(PL, pl), T(TR, kgf), T(JA, kgf))
-#define MP(es, tf, ru)                                                                                                 \
-    X(es, T(FR, tf), T(PT_BR, tf), T(PT, tf), T(IT, tf), T(ES_AM, tf), T(EN, tf), T(BG, tf), T(RO, tf), T(ZH, tf),     \
-      T(DE, es), T(RU, ru), T(PL, es), T(TR, tf), T(JA, tf))
+#define MP(es, t, tf, ru)                                                                                              \
+    X(es, T(FR, t), T(PT_BR, tf), T(PT, t), T(IT, t), T(ES_AM, t), T(EN, t), T(BG, ru), T(RO, t), T(ZH, tf), T(DE, es), \
+      T(RU, ru), T(PL, es), T(TR, t), T(JA, tf))
 
 KP("<47976>kp/cm²", "<47976>kg/cm²", "<47976>kgf/cm²", "<47976>kG/cm²", "<47976>кгс/см²")
 KP("<47979>kp", "<47979>kgf", "<47979>kgf", "<47979>kG", "<47979>кгс")
@@ -22,8 +23,8 @@ KP("<47995>kp/m²", "<47995>kgf/m²", "<47995>kgf/m²", "<47995>kG/m²", "<47995
 KP("<47999>m·kp/m", "<47999>m·kgf/m", "<47999>m·kgf/m", "<47999>m·kG/m", "<47999>м·кгс/м")
 KP("<48000>kp/m", "<48000>kgf/m", "<48000>kgf/m", "<48000>kG/m", "<48000>кгс/м")
 
-MP("<47974>Mp·m²", "<47974>tf·m²", "<47974>тс·м²")
-MP("<48001>m²·Mp/m", "<48001>m²·tf/m", "<48001>м²·тс/м")
+MP("<47974>Mp·m²", "<47974>t·m²", "<47974>tf·m²", "<47974>тс·м²")
+MP("<48001>m²·Mp/m", "<48001>m²·t/m", "<48001>m²·tf/m", "<48001>м²·тс/м")
 
 TN("t", "tf", "тс")
 TN("t/m", "tf/m", "тс/м")
@@ -39,20 +40,20 @@ X("<32341>grados", T(FR, "<32341>degrés"), T(PT_BR, "<32341>graus"), T(PT, "<32
   T(IT, "<32341>gradi"), T(EN, "<32341>degrees"), T(GL, "<32341>graos"), T(BG, "<32341>градуса"),
   T(RO, "<32341>grade"), T(ZH, "<32341>度"), T(DE, "<32341>Grad"), T(RU, "<32341>град."), T(PL, "<32341>stopni"),
   T(TR, "<32341>derece"), T(JA, "<32341>度"))
-X("<47987>mRad", T(CA, "<47987>mrad"), T(EN, "<47987>mrad"), T(GL, "<47987>mrad"), T(RU, "<47987>мрад"))
+X("<47987>mRad", T(CA, "<47987>mrad"), T(EN, "<47987>mrad"), T(GL, "<47987>mrad"), T(BG, "<47987>мрад"), T(RU, "<47987>мрад"))
 X("<47990>m.c.a.", T(FR, "<47990>m.c.e."), T(PT_BR, "<47990>m.c.a."), T(PT, "<47990>m.c.a."),
-  T(IT, "<47990>m.c.a."), T(EN, "<47990>mH2O"), T(RO, "<47990>m c.a."),
+  T(IT, "<47990>m.c.a."), T(EN, "<47990>mH2O"), T(BG, "<47990>м в. ст."), T(RO, "<47990>m c.a."),
   T(DE, "<47990>mWS"), T(RU, "<47990>м вод. ст."), T(TR, "<47990>mSS"), T(JA, "<47990>mAq"))
-X("<48004>dB/oct", T(IT, "<48004>dB/ott"), T(EN, "<48004>dB/oct"), T(DE, "<48004>dB/Okt"),
+X("<48004>dB/oct", T(IT, "<48004>dB/ott"), T(EN, "<48004>dB/oct"), T(BG, "<48004>дБ/окт"), T(DE, "<48004>dB/Okt"),
   T(RU, "<48004>дБ/окт"), T(PL, "<48004>dB/okt"), T(TR, "<48004>dB/okt"))
 X("<48006>mm.c.a.", T(FR, "<48006>mm.c.e."), T(PT_BR, "<48006>mm.c.a."), T(PT, "<48006>mm.c.a."),
-  T(IT, "<48006>mm.c.a."), T(EN, "<48006>mmH2O"), T(RO, "<48006>mm c.a."),
+  T(IT, "<48006>mm.c.a."), T(EN, "<48006>mmH2O"), T(BG, "<48006>мм в. ст."), T(RO, "<48006>mm c.a."),
   T(DE, "<48006>mmWS"), T(RU, "<48006>мм вод. ст."), T(TR, "<48006>mmSS"), T(JA, "<48006>mmAq"))
 X("<48007>dBA", T(FR, "<48007>dB(A)"), T(PT_BR, "<48007>dB(A)"), T(PT, "<48007>dB(A)"), T(IT, "<48007>dB(A)"),
-  T(EN, "<48007>dBA"), T(BG, "<48007>dB(A)"), T(RO, "<48007>dB(A)"), T(ZH, "<48007>dB(A)"), T(DE, "<48007>dB(A)"),
+  T(EN, "<48007>dBA"), T(BG, "<48007>дБА"), T(RO, "<48007>dB(A)"), T(ZH, "<48007>dB(A)"), T(DE, "<48007>dB(A)"),
   T(RU, "<48007>дБА"), T(PL, "<48007>dB(A)"), T(TR, "<48007>dB(A)"), T(JA, "<48007>dB(A)"))
 X("<48008>mm.c.a./m", T(FR, "<48008>mm.c.e./m"), T(PT_BR, "<48008>mm.c.a./m"), T(PT, "<48008>mm.c.a./m"),
-  T(IT, "<48008>mm.c.a./m"), T(EN, "<48008>mmH2O/m"), T(RO, "<48008>mm c.a./m"),
+  T(IT, "<48008>mm.c.a./m"), T(EN, "<48008>mmH2O/m"), T(BG, "<48008>мм в. ст./м"), T(RO, "<48008>mm c.a./m"),
   T(DE, "<48008>mmWS/m"), T(RU, "<48008>мм вод. ст./м"), T(TR, "<48008>mmSS/m"), T(JA, "<48008>mmAq/m"))
 
 SR("GPa", "ГПа")

@@ -77,12 +77,14 @@ uint32_t quita_del_final(std::string_view &cifras, size_t n) {
 
 int es_cifra(char c) { return vnstdc_isdigit(static_cast<unsigned char>(c)); }
 
-// What stands behind the whole part: nothing, or a separator and two digits.
-bool lee_fraccion(const char *pStrAux, uint32_t &fraccion) {
+// What stands behind the whole part: nothing, or a separator and two digits. What follows these, or a character that
+// cannot be a separator before digits alone, would tell of another amount than the words.
+bool lee_fraccion(const char *pStrAux, bool hay_entera, uint32_t &fraccion) {
     if (*pStrAux == 0) return true;
-    ++pStrAux;
+    const char separador = *pStrAux++;
     if (!AFIRMA_TEXTO(es_cifra(pStrAux[0]), "vnstdc_isdigit(pStrAux[0])")) return false;
     if (!AFIRMA_TEXTO(es_cifra(pStrAux[1]), "vnstdc_isdigit(pStrAux[1])")) return false;
+    if (!AFIRMA(pStrAux[2] == 0) || !AFIRMA(hay_entera || separador == '.' || separador == ',')) return false;
     fraccion = numero_de({pStrAux, 2});
     return true;
 }
@@ -101,7 +103,7 @@ char *en_letra(const char *cadena, vnbool negativo, const moneda &m) {
     x.menor = quita_del_final(cifras, 9);
     x.miles_de_millones = quita_del_final(cifras, 3);
     x.billones = quita_del_final(cifras, 3);
-    if (!lee_fraccion(cadena + n, x.fraccion)) return nullptr;
+    if (!lee_fraccion(cadena + n, n > 0, x.fraccion)) return nullptr;
     std::string texto;
     f.m->escribe(&texto, x, m, idioma);
     return cad_copia_cadena(texto.c_str());

@@ -126,7 +126,13 @@ PRUEBA(vnnumlet, lo_que_no_es_un_importe_se_informa) {
         EXPECT_EQ(ESPERA_INFORME("vnstdc_isdigit(pStrAux[0])", vnnumlet_numero_en_cifras_a_letra(cadena, FALSO)), nullptr);
     for (const char *cadena : {"12.5", "x7", "0,1 "})
         EXPECT_EQ(ESPERA_INFORME("vnstdc_isdigit(pStrAux[1])", vnnumlet_numero_en_cifras_a_letra(cadena, FALSO)), nullptr);
-    EXPECT_EQ(numero(ES, "3.077zz"), "tres con siete");
+    for (const char *cadena : {"3.077", "1.234,56", "12.34 "})
+        EXPECT_EQ(ESPERA_INFORME("pStrAux[2] == 0", vnnumlet_numero_en_cifras_a_letra(cadena, FALSO)), nullptr);
+    for (const char *cadena : {" 12", "-50", "x07"})
+        EXPECT_EQ(ESPERA_INFORME("hay_entera || separador == '.' || separador == ','",
+                                 vnnumlet_numero_en_cifras_a_letra(cadena, FALSO)),
+                  nullptr);
+    EXPECT_EQ(numero(ES, ",07") + numero(ES, "12 34"), "cero con sietedoce con treinta y cuatro");
     EXPECT_EQ(numero(ES, std::string(100000, '7')), "ERR desbordamiento");
 }
 
