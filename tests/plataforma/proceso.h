@@ -37,6 +37,8 @@ class proceso {
 
 // Sets a variable of the environment, for this process and the children to come; an empty value takes it away.
 void pon_variable(const char *nombre, const std::string &valor);
+// Makes the calling process one of a user who has no name; false where that cannot be.
+bool se_queda_sin_usuario();
 // Ends the calling process as mata() would.
 [[noreturn]] void muere();
 // Splits the process: what `hijo` answers in the child, which then ends in good order; nothing where processes do not

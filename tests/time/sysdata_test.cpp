@@ -2,6 +2,7 @@
 #include "time/sysdata.h"
 #include "foundation/operaciones_fichero.h"
 #include "foundation/vnregional.h"
+#include "plataforma/proceso.h"
 #include "prueba.h"
 #include <cfloat>
 #include <cmath>
@@ -118,7 +119,14 @@ PRUEBA(sysdata, numeros_que_no_caben_o_no_lo_son_salen_llanos) {
     EXPECT_EQ(toma(sysdata_formateaNumero_u(-DBL_MAX, 3)).size(), 1u + 309 + 4);
 }
 
+HIJO(dice_su_usuario) {
+    if (!vn::se_queda_sin_usuario()) return 2;
+    return toma(sysdata_nombre_usuario_actual_u()) == "USUARIO" ? 0 : 1;
+}
+
 PRUEBA(sysdata, la_maquina_y_su_usuario) {
+    vn::proceso sin_nombre("dice_su_usuario", {});
+    EXPECT_NE(sin_nombre.espera(30000).value_or(1), 1); // 2: only root becomes another, and not on Windows
     const std::string maquina = toma(sysdata_nombre_maquina_u());
     EXPECT_TRUE(!maquina.empty() && maquina.size() <= 30 && maquina.find('.') == std::string::npos) << maquina;
     EXPECT_EQ(maquina.find_first_of("abcdefghijklmnopqrstuvwxyz"), std::string::npos);

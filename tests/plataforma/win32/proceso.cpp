@@ -31,6 +31,8 @@ void pon_variable(const char *nombre, const std::string &valor) {
     SetEnvironmentVariableW(ancho(nombre).c_str(), valor.empty() ? nullptr : ancho(valor).c_str());
 }
 
+bool se_queda_sin_usuario() { return false; }
+
 void muere() {
     for (;;) TerminateProcess(GetCurrentProcess(), proceso::MUERTO);
 }
