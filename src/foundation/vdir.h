@@ -7,7 +7,9 @@
        \\server\share \ directory \ name . extension         C: \ directory \ name . extension
        '---unit-----'                                        unit
    The extension is what follows the last full stop of the last part, unless that stop is its first or last
-   character. An operation without _UNICODE takes and gives ANSI text. Results are new texts. */
+   character. An operation without _UNICODE takes and gives ANSI text, of the active code page:
+   1252 on Linux too until the host sets another (unicode.h), so that a name in UTF-8 would be another. Results are
+   new texts. */
 #ifndef VN_VDIR_H
 #define VN_VDIR_H
 
