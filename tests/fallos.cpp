@@ -1,5 +1,5 @@
 #include "fallos.h"
-#include "foundation/lc_fichero.h"
+#include "foundation/vornfile.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
 #include <algorithm>
@@ -8,6 +8,8 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <thread>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -20,6 +22,7 @@ std::vector<std::string> los_riesgos;
 bool nombres_sin_volcar;
 std::map<vnid_fichero, std::string> abiertos;
 std::set<vnid_fichero> escritos;
+bool colado; // what is done now is somebody else's
 bool cierre_perdido; // the close of what was written failed
 std::map<std::string, bool> sucios; // by name: written and not flushed
 
@@ -33,6 +36,7 @@ bool toma_sitio(operacion o) {
 // The operation under the plan; `a_medias` does half of it.
 template <typename F, typename G>
 vnerror_fichero intenta(operacion o, F de_verdad, G a_medias) {
+    if (colado) return de_verdad();
     const size_t k = las_hechas.size();
     las_hechas.push_back(o);
     const auto hace = [&] { return el_plan.sin_enlaces && o == operacion::enlaza ? VN_FICH_NO_ADMITIDO : de_verdad(); };
@@ -61,6 +65,11 @@ vnerror_fichero intenta(operacion o, F de_verdad, G a_medias) {
         return VN_FICH_COMPARTIDO;
     case fallo::sin_permiso:
         return VN_FICH_SIN_PERMISO;
+    case fallo::se_cuela:
+        colado = true;
+        std::thread(el_plan.otro).join(); // in none of this one's traps
+        colado = false;
+        break;
     case fallo::sin_espacio_siempre:
     case fallo::ninguno:
         break;
@@ -202,7 +211,8 @@ bool esta(const std::vector<operacion> &v, operacion o) { return std::find(v.beg
 
 class conductor {
   public:
-    explicit conductor(const char *guardado) : nombre_(guardado), guarda_(guardados().at(guardado)) {
+    conductor(const char *guardado, const manera_de_guardar &manera)
+        : nombre_(guardado), guarda_(guardados().at(guardado)), manera_(manera) {
         fs::create_directories(carpeta());
         for (int edicion = 0; edicion < 4; ++edicion) {
             limpia();
@@ -216,9 +226,9 @@ class conductor {
         for (const bool habia : {false, true})
             for (const bool sin_enlaces : {false, true}) {
                 // Without an old file there is nothing to link.
-                if (sin_enlaces && !habia) continue;
+                if (sin_enlaces && (!habia || !manera_.con_copia)) continue;
                 habia_ = habia;
-                plan_ = {fallo::ninguno, SIZE_MAX, sin_enlaces};
+                plan_ = {fallo::ninguno, SIZE_MAX, sin_enlaces, {}};
                 conduce_una();
             }
     }
@@ -226,7 +236,7 @@ class conductor {
   private:
     fs::path carpeta() const { return fs::path(u8(Prueba::directorio())) / "guardado"; }
     static std::u8string u8(const std::string &s) { return {s.begin(), s.end()}; }
-    std::string fichero() const { return Prueba::directorio() + "/guardado/obra"; }
+    std::string fichero() const { return Prueba::directorio() + "/guardado/" + manera_.fichero; }
     std::string copia() const { return fichero() + ".bak"; }
     void limpia() const {
         for (const auto &e : fs::directory_iterator(carpeta())) fs::remove(e);
@@ -236,7 +246,7 @@ class conductor {
         limpia();
         if (!habia_) return;
         graba_fichero(fichero(), bytes_[1]);
-        graba_fichero(copia(), bytes_[0]);
+        if (manera_.con_copia) graba_fichero(copia(), bytes_[0]);
     }
 
     void conduce_una() {
@@ -248,6 +258,8 @@ class conductor {
                     plan_.donde = k;
                     falla(ops[k], fila.no_importa);
                 }
+        for (size_t k = 0; k < ops.size(); ++k)
+            for (const bool acaba : {false, true}) se_cuela_otro(k, ops[k], acaba);
         size_t ultima = 0;
         for (size_t k = 0; k < ops.size(); ++k)
             if (esta(MORTALES, ops[k])) {
@@ -283,18 +295,21 @@ class conductor {
         SCOPED_TRACE(caso(o));
         prepara();
         bool dicho = false;
+        f_lc_fopen_un_solo_intento_u(VNU(""), VNU("rb"), nullptr, 0); // its reason is not one of those below
         {
             const con_fallos puestos(plan_);
             dicho = guarda_(fichero(), 2);
             EXPECT_EQ(puestos.riesgos(), std::vector<std::string>{});
-            EXPECT_FALSE(dicho && (puestos.directorio_sin_volcar() || cierre_perdido));
+            EXPECT_FALSE(manera_.dice && dicho && (puestos.directorio_sin_volcar() || cierre_perdido));
         }
         const bool sin_asegurar = !dicho && lc_ultimo_error(nullptr) == VN_FICH_SIN_ASEGURAR;
         const size_t informes = Prueba::toma_informes().size();
         EXPECT_TRUE(dicho || !no_importa);
-        EXPECT_EQ(informes, dicho ? 0u : 1u);
+        EXPECT_EQ(informes, dicho || !manera_.informa ? 0u : 1u);
+        // What could not be removed, or looked at to be removed, waits for the next save.
+        if (!dicho && o != borra && o != retira && o != es_su_nombre) nada_de_mas();
         // Only where the new file stands but may not last is it there after a no.
-        juzga(dicho || sin_asegurar);
+        juzga(manera_.dice ? std::optional(dicho || sin_asegurar) : std::nullopt);
     }
 
     void mata(fallo que, size_t k, operacion o) {
@@ -316,7 +331,7 @@ class conductor {
         const bool viejo = habia_ ? hay && contenido == bytes_[1] : !hay;
         EXPECT_TRUE(nuevo || viejo) << "neither the old file nor the new one: " << contenido.size() << " bytes";
         EXPECT_TRUE(!dicho || (*dicho ? nuevo : viejo)) << "it told " << dicho.value_or(false);
-        EXPECT_EQ(existe(copia()), habia_);
+        EXPECT_EQ(existe(copia()), habia_ && manera_.con_copia);
         if (habia_ && existe(copia())) {
             const std::string guardada = lee_fichero(copia());
             EXPECT_TRUE(guardada == bytes_[1] || (!nuevo && guardada == bytes_[0])) << "the safety copy is neither";
@@ -325,17 +340,65 @@ class conductor {
         const con_fallos ninguno({});
         EXPECT_TRUE(guarda_(fichero(), 3));
         EXPECT_TRUE(lee_fichero(fichero()) == bytes_[3]);
-        EXPECT_EQ(existe(copia()), hay);
+        EXPECT_EQ(existe(copia()), hay && manera_.con_copia);
         EXPECT_TRUE(!existe(copia()) || lee_fichero(copia()) == contenido);
+        nada_de_mas();
+    }
+
+    void nada_de_mas() const {
         for (const auto &e : fs::directory_iterator(carpeta())) {
             const auto u = e.path().filename().u8string();
             const std::string resto(u.begin(), u.end());
-            EXPECT_TRUE(resto == "obra" || resto == "obra.bak") << resto << " was left";
+            EXPECT_TRUE(resto == manera_.fichero || resto == manera_.fichero + std::string(".bak")) << resto << " was left";
         }
+    }
+
+    // The other saver: a second stream on the file.
+    struct otro_saver {
+        vnfichero *f = nullptr;
+        std::basic_string<vnwchar> nombre;
+        void abre() { f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nombre.c_str()); }
+        bool acaba(const std::string &s) {
+            if (f == nullptr) return false;
+            f_lc_fwrite(s.data(), 1, s.size(), f, nullptr, 0);
+            return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(std::exchange(f, nullptr), nombre.c_str()) ==
+                   CIERTO;
+        }
+    };
+
+    void se_cuela_otro(size_t donde, operacion o, bool acaba) {
+        plan_.que = fallo::se_cuela;
+        plan_.donde = donde;
+        SCOPED_TRACE(caso(o) + (acaba ? ", another saver to its end" : ", another saver that stays"));
+        prepara();
+        otro_saver otro{nullptr, ancho(fichero())};
+        bool suyo = false, mio = false;
+        plan_.otro = [&] {
+            otro.abre();
+            if (acaba) suyo = otro.acaba(bytes_[3]);
+        };
+        {
+            const con_fallos puestos(plan_);
+            mio = guarda_(fichero(), 2);
+            EXPECT_TRUE(!mio || suyo || lee_fichero(fichero()) == bytes_[2]);
+            if (!acaba) suyo = otro.acaba(bytes_[3]);
+        }
+        const auto informes = Prueba::toma_informes();
+        EXPECT_EQ(informes.empty(), (mio || !manera_.informa) && suyo);
+        const std::string contenido = existe(fichero()) ? lee_fichero(fichero()) : "";
+        const auto es = [&](int edicion) { return contenido == bytes_[edicion]; };
+        EXPECT_TRUE((mio && es(2)) || (suyo && es(3)) || (!mio && !suyo && (habia_ ? es(1) : contenido.empty())))
+            << "told " << mio << " and " << suyo << ", and there are " << contenido.size() << " bytes";
+        if (existe(copia())) {
+            const std::string guardada = lee_fichero(copia());
+            EXPECT_TRUE(std::count(bytes_, bytes_ + 4, guardada) == 1) << "the safety copy is no edition";
+        }
+        nada_de_mas();
     }
 
     std::string nombre_;
     funcion_guarda guarda_;
+    manera_de_guardar manera_;
     std::string bytes_[4];
     bool habia_ = false;
     plan_de_fallos plan_;
@@ -362,10 +425,10 @@ bool con_fallos::directorio_sin_volcar() const { return nombres_sin_volcar; }
 registra_guardado::registra_guardado(const char *nombre, funcion_guarda funcion) { guardados()[nombre] = funcion; }
 
 HIJO(guarda_con_fallos) {
-    const con_fallos puestos({static_cast<fallo>(std::stoi(args.at(2))), std::stoul(args.at(3)), args.at(4) == "1"});
+    const con_fallos puestos({static_cast<fallo>(std::stoi(args.at(2))), std::stoul(args.at(3)), args.at(4) == "1", {}});
     return guardados().at(args.at(0))(args.at(1), 2) ? 0 : 1;
 }
 
-void comprueba_guardado(const char *guardado) { conductor(guardado).conduce(); }
+void comprueba_guardado(const char *guardado, const manera_de_guardar &manera) { conductor(guardado, manera).conduce(); }
 
 } // namespace vn

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,13 +29,15 @@ enum class fallo : uint8_t {
     escribe_poco,        // half of a transfer is done
     interrumpe,          // nothing is done, once
     compartido,          // another holder is in the way, once
-    sin_permiso
+    sin_permiso,
+    se_cuela             // somebody else comes first: plan_de_fallos::otro runs, uncounted
 };
 
 struct plan_de_fallos {
     fallo que = fallo::ninguno;
     size_t donde = SIZE_MAX;  // number of the operation, from 0
     bool sin_enlaces = false; // the file system has no hard links
+    std::function<void()> otro;
 };
 
 // From here to the end of its life the library's file operations are counted, and fail as planned. Waits are skipped.
@@ -60,10 +63,20 @@ struct registra_guardado {
     registra_guardado(const char *nombre, funcion_guarda funcion);
 };
 
+// How a save differs from one that reports its failures and keeps a safety copy.
+struct manera_de_guardar {
+    const char *fichero = "obra"; // its own name for the file, in the directory "guardado" of the test's
+    bool con_copia = true;
+    bool informa = true;
+    bool dice = true; // its result is the truth that it tells; else it only says what is there
+};
 // Drives every boundary of the save over an old file with its safety copy and over none, with hard links and without,
 // through every failure. In every case: the file is the old one or the new one, whole; what the save told is true;
-// the safety copy is whole and never missing; the next save succeeds and leaves the file and its safety copy alone.
-void comprueba_guardado(const char *guardado);
+// the safety copy is whole and never missing; nothing else is left by a save that ended, and the next one that is not
+// hindered succeeds and leaves the file and its safety copy alone, whatever died before. Another saver of the file that
+// comes at a boundary, and goes on to its end or stays until this one has ended, is refused or leaves the file and its
+// copy whole, and each was told the truth.
+void comprueba_guardado(const char *guardado, const manera_de_guardar &manera = {});
 
 } // namespace vn
 

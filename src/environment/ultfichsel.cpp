@@ -8,7 +8,7 @@
 #include "foundation/lc_fichero.h"
 #include "foundation/propio_priv.h"
 #include "foundation/vdir.h"
-#include "foundation/vornfile.h"
+#include "foundation/temporal_priv.h"
 #include "foundation/widestr.h"
 #include "persistence/vornsave.h"
 #include <memory>
@@ -109,7 +109,7 @@ struct escritura {
 
 void escribe_fichero(escritura *e) {
     vdir_crea_directorios_fichero_si_es_posible_UNICODE(e->ruta);
-    fichero_propio f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->ruta));
+    vn::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->ruta));
     if (f == nullptr) return;
     {
         const std::unique_ptr<vornsave, destruye_protocolo> v(vornsave_registra_bin(f.get()));

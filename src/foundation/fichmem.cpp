@@ -3,7 +3,7 @@
 #include "foundation/afirma.h"
 #include "foundation/guardado_priv.h"
 #include "foundation/lc_fichero_priv.h"
-#include "foundation/vornfile.h"
+#include "foundation/temporal_priv.h"
 #include "foundation/vornspy.h"
 #include <algorithm>
 #include <cstring>
@@ -101,7 +101,7 @@ void fichmem_destruye(fichmem **m) {
 
 vnbool fichmem_graba_unicode(const fichmem *m, const vnwchar *nombre) {
     if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(nombre)) return FALSO;
-    vn::flujo_abierto f(vornfile_abrir_fichero_escritura_con_temporal_u(nombre, vn::SUFIJO_TEMPORAL, FALSO));
+    vn::temporal f(vornfile_abrir_fichero_escritura_con_temporal_u(nombre, vn::SUFIJO_TEMPORAL, FALSO));
     if (f == nullptr) return FALSO;
     f_lc_fwrite(m->datos, 1, m->longitud, f.get(), VN_AQUI);
     return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), nombre);

@@ -164,16 +164,15 @@ vnerror_fichero guardado::confirma() {
         e = con_paciencia(UN_SEGUNDO, [&] {
             return operaciones().renombra_abierto(id_, temporal_.c_str(), destino_.c_str());
         });
-    if (e != VN_FICH_BIEN && e != VN_FICH_SIN_ASEGURAR) {
+    if (e != VN_FICH_BIEN) {
         abandona();
         return e;
     }
     // From here on the new file stands, and all that can still be told is whether it will last.
-    const vnerror_fichero directorio =
-        con_paciencia(UNA_VEZ, [&] { return operaciones().vuelca_directorio(destino_.c_str()); });
     const vnerror_fichero al_cerrar = operaciones().cierra(std::exchange(id_, VN_FICHERO_NINGUNO));
-    const bool dura = (directorio == VN_FICH_BIEN || directorio == VN_FICH_NO_ADMITIDO) && al_cerrar == VN_FICH_BIEN;
-    return dura ? e : VN_FICH_SIN_ASEGURAR;
+    e = con_paciencia(UN_SEGUNDO, [&] { return operaciones().vuelca_directorio(destino_.c_str()); });
+    const bool dura = (e == VN_FICH_BIEN || e == VN_FICH_NO_ADMITIDO) && al_cerrar == VN_FICH_BIEN;
+    return dura ? VN_FICH_BIEN : VN_FICH_SIN_ASEGURAR;
 }
 
 void guardado::abandona() {

@@ -83,7 +83,7 @@ typedef struct vnoperaciones_fichero {
     /** Gives an open file the rights of a named one, and its group, owner and attributes as far as that is allowed;
         VN_FICH_NO_ADMITIDO where files have none of their own. */
     vnerror_fichero (*copia_permisos)(const vnwchar *origen, vnid_fichero destino);
-    /** Makes the names in the directory that holds `nombre` last. */
+    /** Makes the name `nombre` of a file last. */
     vnerror_fichero (*vuelca_directorio)(const vnwchar *nombre);
     /** Waits between two tries. */
     void (*espera)(uint32_t milisegundos);

@@ -6,14 +6,15 @@
 #include "foundation/error_interno_priv.h"
 #include "foundation/lc_fichero.h"
 #include "foundation/propio_priv.h"
+#include "foundation/temporal_priv.h"
 #include "foundation/unicode.h"
 #include "foundation/vdir.h"
-#include "foundation/vornfile.h"
 #include "foundation/vtxt.h"
 #include "foundation/widestr.h"
 #include "persistence/ultiobra_msg_priv.h"
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -73,24 +74,27 @@ void lee_fichero(lectura *l) {
     l->leidas = std::move(o);
 }
 
-// The list as it stands in the file; empty, and the file deleted, if it is damaged.
-obras lee(const vnwchar *path_lista) {
+// The list as it stands in the file; empty, and the file deleted, if it is damaged. Nothing when it cannot be read for now,
+// because another program holds it or the disk fails: then it is not to be written either.
+std::optional<obras> lee_si_se_puede(const vnwchar *path_lista) {
     uint64_t tamanyo = 0;
-    if (path_lista == nullptr || vdir_existe_fichero_UNICODE(path_lista) != CIERTO) return {};
+    if (path_lista == nullptr || vdir_existe_fichero_UNICODE(path_lista) != CIERTO) return obras();
     if (vdir_longitud_fichero_seguro_u(path_lista, &tamanyo) == CIERTO && tamanyo == 0) {
         vdir_borra_fichero_con_comprobacion_UNICODE(path_lista);
-        return {};
+        return obras();
     }
     fichero_propio f(f_lc_fopen_seguro_u(path_lista, VNU("rb"), VN_AQUI));
-    // A file that another program holds for the moment is not a damaged one.
-    if (f == nullptr) return {};
+    if (f == nullptr) return std::nullopt;
     lectura l{f.get(), {}};
     const vnbool bien = trapable_ejecuta_funcion_segura(lectura, lee_fichero, &l, nullptr);
+    if (lc_ultimo_error(f.get()) != VN_FICH_BIEN) return std::nullopt;
     f.reset();
     if (bien == CIERTO) return std::move(l.leidas);
     vdir_borra_fichero_con_comprobacion_UNICODE(path_lista);
-    return {};
+    return obras();
 }
+
+obras lee(const vnwchar *path_lista) { return lee_si_se_puede(path_lista).value_or(obras()); }
 
 struct escritura {
     const vnwchar *path;
@@ -105,7 +109,7 @@ void escribe_fichero(escritura *e) {
         vdir_borra_fichero_si_existe_UNICODE(e->path);
         return;
     }
-    fichero_propio f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->path));
+    vn::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->path));
     if (f == nullptr) return;
     vtxt_escr_ushrt(VERSION_NOMBRE_OBRA, f.get());
     vtxt_escr_string("; version", f.get());
@@ -159,11 +163,11 @@ uint32_t busca(const arrCADENA_u *lista, const vnwchar *nombre_opcional, uint32_
 
 // Takes an entry out of the list as it stands in the file, so that what a filter hides is not lost.
 void elimina(const vnwchar *path_lista, const vnwchar *entrada) {
-    const obras o = lee(path_lista);
-    const uint32_t i = arr_BuscarCADENA_u(o.lista.get(), entrada);
+    const auto o = lee_si_se_puede(path_lista);
+    const uint32_t i = o ? arr_BuscarCADENA_u(o->lista.get(), entrada) : SIN_INDICE;
     if (i == SIN_INDICE) return;
-    arr_BorrarCADENA_u(o.lista.get(), i);
-    escribe(path_lista, o);
+    arr_BorrarCADENA_u(o->lista.get(), i);
+    escribe(path_lista, *o);
 }
 
 vnbool existe_obra(const vnwchar *path_lista, const vnwchar *nombre_opcional, uint32_t indice_obra_opcional,
@@ -191,8 +195,9 @@ vnbool existe_obra(const vnwchar *path_lista, const vnwchar *nombre_opcional, ui
 
 void ultiobra_guarda_nombre_ultima_obra_u(const vnwchar *nombre, const vnwchar *path_lista) {
     if (path_lista == nullptr) return;
-    obras o = lee(path_lista);
-    arrCADENA_u *lista = o.lista.get();
+    auto o = lee_si_se_puede(path_lista);
+    if (!o) return;
+    arrCADENA_u *lista = o->lista.get();
     uint32_t i = 0;
     if (nombre != nullptr) {
         while (arr_ExisteMayMinCADENA_u(lista, nombre, &i) == CIERTO) arr_BorrarCADENA_u(lista, i);
@@ -203,15 +208,16 @@ void ultiobra_guarda_nombre_ultima_obra_u(const vnwchar *nombre, const vnwchar *
         arr_InsertarCADENA_u(lista, 0, VNU(""));
     }
     while (arr_NumElemsCADENA_u(lista) > MAXIMO_OBRAS) arr_BorrarCADENA_u(lista, arr_NumElemsCADENA_u(lista) - 1);
-    o.finalizada = FALSO;
-    escribe(path_lista, o);
+    o->finalizada = FALSO;
+    escribe(path_lista, *o);
 }
 
 void ultiobra_finaliza_ultima_obra_u(const vnwchar *path_lista) {
     if (path_lista == nullptr) return;
-    obras o = lee(path_lista);
-    o.finalizada = CIERTO;
-    escribe(path_lista, o);
+    auto o = lee_si_se_puede(path_lista);
+    if (!o) return;
+    o->finalizada = CIERTO;
+    escribe(path_lista, *o);
 }
 
 arrCADENA_u *ultiobra_lee_ultimas_obras_u(const vnwchar *path_lista, const arrCADENA_u *extensiones) {

@@ -1,7 +1,7 @@
 // The header of a binary file: who wrote it, named fields, the reserved list.
 #pragma once
 
-#include "foundation/vornfile.h"
+#include "foundation/temporal_priv.h"
 #include "persistence/vornbin_priv.h"
 #include <string>
 #include <string_view>
@@ -71,12 +71,6 @@ void graba_cabecera(vnfichero *f, const listas_cabecera &listas);
 void graba_cabecera_copiada(vnfichero *f, const cabecera &c);
 // Overwrites the mask of a file that has a header, leaving the position anywhere.
 void graba_mascara_de_ejemplo(vnfichero *f);
-
-// The owner of a file's temporary: on the way of a failure the save is given up.
-struct abandona_temporal {
-    void operator()(vnfichero *f) const { vornfile_abandonar_fichero_escritura(f); }
-};
-using temporal = std::unique_ptr<vnfichero, abandona_temporal>;
 
 // Opens for reading, reported; clears the tags.
 fichero abre_para_leer(const vnwchar *nomfich);

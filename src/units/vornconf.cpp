@@ -7,9 +7,9 @@
 #include "foundation/ini.h"
 #include "foundation/msglocal.h"
 #include "foundation/propio_priv.h"
+#include "foundation/temporal_priv.h"
 #include "foundation/vdir.h"
 #include "foundation/vnmutex.h"
-#include "foundation/vornfile.h"
 #include "foundation/vtxt.h"
 #include "frame/alsalir.h"
 #include "units/vornconf_msg_priv.h"
@@ -151,10 +151,6 @@ internacional lee_fichero() {
     return r;
 }
 
-struct cierra_callando {
-    void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
-};
-
 void escribe_linea(const char *nombre, uint32_t valor, vnfichero *f) {
     vtxt_escr_string_sin_salto_de_linea(nombre, f);
     vtxt_escr_string_sin_salto_de_linea("=", f);
@@ -166,8 +162,7 @@ void escribe_fichero(const internacional &r) {
     const ruta_propia ruta = la_ruta();
     const turno mio;
     if (!AFIRMA_NO_NULO(ruta) || !AFIRMA(mio.dentro())) return;
-    std::unique_ptr<vnfichero, cierra_callando> f(
-        vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(ruta.get()));
+    vn::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(ruta.get()));
     if (f == nullptr) return;
     vtxt_escr_string("[Internacional]", f.get());
     escribe_linea("Idioma", vornconf_Internacional_idioma(), f.get());

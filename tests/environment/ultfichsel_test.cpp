@@ -2,6 +2,7 @@
 #include "foundation/arr.h"
 #include "foundation/fichconf.h"
 #include "foundation/widestr.h"
+#include "fallos.h"
 #include "prueba.h"
 #include <filesystem>
 
@@ -90,4 +91,21 @@ PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
     EXPECT_EQ(numero(lista), 0u);
     ultfichsel_destruye(&lista);
     fichconf_establece_directorio_base(nullptr);
+}
+
+GUARDADO(ultimos_ficheros) {
+    fichconf_establece_directorio_base(vn::ancho(fichero.substr(0, fichero.rfind("/guardado/"))).c_str());
+    fichconf_registra_nombre_distribuidor_no_vorn(VNU("guardado"));
+    arrPuntero *lista = lee();
+    const std::string nombre(7000, static_cast<char>('0' + edicion));
+    registra(lista, "k", "", nombre.c_str());
+    ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(lista);
+    ultfichsel_destruye(&lista);
+    fichconf_registra_nombre_distribuidor_no_vorn(VNU("VORN"));
+    fichconf_establece_directorio_base(nullptr);
+    return vn::existe(fichero) && vn::lee_fichero(fichero).find(nombre.substr(0, 1) + '\0' + nombre.substr(0, 1)) != std::string::npos;
+}
+
+PRUEBA(ultfichsel, cada_fallo_al_grabarlos) {
+    vn::comprueba_guardado("ultimos_ficheros", {.fichero = "pnlselfic.cfg", .informa = false, .dice = false});
 }

@@ -1,7 +1,17 @@
 #include "fallos.h"
+#include "foundation/fichmem.h"
+#include "foundation/vnmutex.h"
 #include "foundation/vornfile.h"
+#include "plataforma/ficheros.h"
+#include "plataforma/proceso.h"
+#include "plataforma/regional.h"
 #include "prueba.h"
+#include "texto_ancho.h"
+#include <chrono>
+#include <deque>
 #include <filesystem>
+#include <set>
+#include <thread>
 
 using namespace vn;
 
@@ -37,12 +47,30 @@ GUARDADO(definitivo_al_cerrar) {
 GUARDADO(hacer_definitivo) {
     const auto n = ancho(fichero), temporal = ancho(fichero + "_TM$");
     vnfichero *f = lc_fopen_u(temporal.c_str(), VNU("wb"));
-    if (f == nullptr) return false;
-    escribe_edicion(f, edicion);
-    return lc_fclose(f) == CIERTO &&
-           vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(n.c_str(), temporal.c_str()) == CIERTO;
+    const bool escrito = f != nullptr && escribe_edicion(f, edicion);
+    if (f == nullptr || lc_fclose(f) == FALSO || !escrito) {
+        std::error_code error;
+        std::filesystem::remove(std::filesystem::path(temporal), error); // its maker's
+        return false;
+    }
+    return vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(n.c_str(), temporal.c_str()) == CIERTO;
 }
 
+GUARDADO(copia_segura) {
+    const std::string origen = fichero.substr(0, fichero.rfind("/guardado/")) + "/origen";
+    graba_fichero(origen, contenido(edicion));
+    return vf_copyfile_seguro_u(ancho(origen).c_str(), ancho(fichero).c_str()) == CIERTO;
+}
+
+GUARDADO(fichero_de_memoria) {
+    fichmem *m = fichmem_crea_desde_cadena(contenido(edicion).c_str());
+    const bool bien = fichmem_graba_unicode(m, ancho(fichero).c_str()) == CIERTO;
+    fichmem_destruye(&m);
+    return bien;
+}
+
+PRUEBA(vornfile, every_boundary_of_a_copy) { comprueba_guardado("copia_segura", {.con_copia = false, .informa = false}); }
+PRUEBA(vornfile, every_boundary_of_a_memory_file) { comprueba_guardado("fichero_de_memoria", {.con_copia = false}); }
 PRUEBA(vornfile, every_boundary_of_a_save_that_commits_at_close) { comprueba_guardado("definitivo_al_cerrar"); }
 PRUEBA(vornfile, every_boundary_of_a_save_that_commits_a_temporary) { comprueba_guardado("hacer_definitivo"); }
 
@@ -84,22 +112,304 @@ PRUEBA(vornfile, copies_and_appends) {
     EXPECT_EQ(vf_copyfile_seguro_u(nombre("origen").c_str(), nombre("copia").c_str()), CIERTO);
     EXPECT_EQ(vf_copyfile_seguro_u(nombre("no").c_str(), nombre("copia").c_str()), FALSO);
     EXPECT_TRUE(lee_fichero(ruta("copia")) == contenido(5));
-    // Every failure of a copy leaves what was there.
     graba_fichero(ruta("otro"), "otro");
-    for (size_t k = 0, total = 1; k < total; ++k) {
-        bool bien;
-        {
-            const con_fallos puestos({fallo::error_una_vez, k});
-            bien = vf_copyfile_seguro_u(nombre("otro").c_str(), nombre("copia").c_str()) == CIERTO;
-            total = std::max(total, puestos.hechas().size());
-        }
-        EXPECT_TRUE(lee_fichero(ruta("copia")) == (bien ? "otro" : contenido(5))) << k;
-        graba_fichero(ruta("copia"), contenido(5));
-    }
     EXPECT_EQ(vf_appendfile_u(nombre("otro").c_str(), nombre("copia").c_str()), CIERTO);
     EXPECT_EQ(vf_appendfile_u(nombre("otro").c_str(), nombre("otro").c_str()), CIERTO);
     EXPECT_EQ(vf_appendfile_u(nombre("otro").c_str(), nombre("nuevo").c_str()), CIERTO);
     EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", vf_appendfile_u(nombre("no").c_str(), nombre("otro").c_str())), FALSO);
     EXPECT_TRUE(lee_fichero(ruta("copia")) == contenido(5) + "otro");
     EXPECT_EQ(lee_fichero(ruta("nuevo")), "otrootro");
+}
+// ---------------------------------------------------------------- what is replaced, and what is in the way
+
+namespace {
+
+using namespace vn::plataforma;
+namespace fs = std::filesystem;
+
+constexpr int MIA = 3;
+bool es_la_mia(const std::string &fichero) { return lee_fichero(fichero) == contenido(MIA); }
+
+// A save that must be refused; why.
+vnerror_fichero motivo(const std::string &fichero) {
+    EXPECT_FALSE(guardado_definitivo_al_cerrar(fichero, MIA));
+    EXPECT_EQ(Prueba::toma_informes().size(), 1u) << fichero;
+    return lc_ultimo_error(nullptr);
+}
+
+// False where there are no links for programs like this one.
+bool enlaza(const char *a, const char *nombre_corto) {
+    std::error_code error;
+    fs::create_symlink(a, fs::path(ruta(nombre_corto)), error);
+    return !error;
+}
+
+} // namespace
+
+// A link is followed to the file that it leads to, there or not, and stays a link.
+PRUEBA(vornfile, links_are_saved_through) {
+    fs::create_directory(ruta("lejos"));
+    graba_fichero(ruta("lejos/obra"), "vieja");
+    if (!enlaza("lejos/obra", "obra") || !enlaza("obra", "doble") || !enlaza("lejos/nueva", "colgado")) GTEST_SKIP();
+    EXPECT_TRUE(guardado_definitivo_al_cerrar(ruta("doble"), MIA) && guardado_definitivo_al_cerrar(ruta("colgado"), MIA));
+    EXPECT_TRUE(es_la_mia(ruta("lejos/obra")) && es_la_mia(ruta("lejos/nueva")));
+    EXPECT_TRUE(fs::is_symlink(ruta("obra")) && fs::is_symlink(ruta("doble")) && fs::is_symlink(ruta("colgado")));
+    EXPECT_EQ(lee_fichero(ruta("lejos/obra.bak")), "vieja");
+    EXPECT_FALSE(existe(ruta("doble.bak")));
+    ASSERT_TRUE(enlaza("circulo", "circulo"));
+    EXPECT_EQ(motivo(ruta("circulo")), VN_FICH_NO_ADMITIDO);
+}
+
+// Whatever stands under the temporary's name goes, and what it leads to is not touched; but not a directory.
+PRUEBA(vornfile, what_is_planted_under_the_temporary_s_name) {
+    const std::string temporal = ruta("obra_TM$"), victima = ruta("victima");
+    for (const int planta : {0, 1, 2, 3}) {
+        SCOPED_TRACE(planta);
+        graba_fichero(victima, "victima");
+        if (planta == 0 && !enlaza("victima", "obra_TM$")) continue;
+        if (planta == 1) fs::create_hard_link(victima, temporal);
+        if (planta == 2 && !hace_tuberia(temporal)) continue;
+        if (planta == 3) {
+            graba_fichero(temporal, "de otro");
+            hace_de_solo_lectura(temporal);
+        }
+        EXPECT_TRUE(guardado_definitivo_al_cerrar(ruta("obra"), MIA));
+        EXPECT_EQ(lee_fichero(victima), "victima");
+        EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(ruta("obra"))) && es_la_mia(ruta("obra")));
+        graba_fichero(ruta("normal"), "");
+        EXPECT_EQ(particularidades(ruta("obra")), particularidades(ruta("normal")));
+        EXPECT_FALSE(existe(temporal));
+        fs::remove(ruta("obra"));
+    }
+    // A finished temporary that is a link is not put in place either.
+    if (enlaza("victima", "obra_TM$")) {
+        EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero",
+                                 vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(
+                                     nombre("obra").c_str(), nombre("obra_TM$").c_str())),
+                  FALSO);
+    }
+    EXPECT_EQ(lee_fichero(victima), "victima");
+    fs::remove(temporal);
+    fs::create_directory(temporal);
+    EXPECT_EQ(motivo(ruta("obra")), VN_FICH_ES_DIRECTORIO);
+    EXPECT_EQ(motivo(temporal), VN_FICH_ES_DIRECTORIO);
+    EXPECT_TRUE(!hace_tuberia(ruta("tuberia")) || motivo(ruta("tuberia")) == VN_FICH_NO_ADMITIDO);
+}
+
+// Rights, group, notes, access list, attributes: as they were, by every road, in the safety copy too where it is a copy.
+PRUEBA(vornfile, the_new_file_is_what_the_old_one_was) {
+    const std::string obra = ruta("obra");
+    const auto n = nombre("obra");
+    graba_fichero(ruta("origen"), contenido(MIA));
+    constexpr funcion_guarda CAMINOS[] = {guardado_definitivo_al_cerrar, guardado_hacer_definitivo,
+                                          guardado_fichero_de_memoria, [](const std::string &f, int) {
+                                              return vf_copyfile_seguro_u(nombre("origen").c_str(), ancho(f).c_str()) == CIERTO;
+                                          }};
+    for (const auto guarda : CAMINOS)
+        for (const bool sin_enlaces : {false, true}) {
+            fs::remove(obra), fs::remove(obra + ".bak");
+            graba_fichero(obra, "vieja");
+            const std::string normales = particularidades(obra);
+            hace_particular(obra);
+            const std::string antes = particularidades(obra);
+            EXPECT_NE(antes, normales);
+            {
+                const con_fallos puestos({fallo::ninguno, SIZE_MAX, sin_enlaces, {}});
+                EXPECT_TRUE(guarda(obra, MIA));
+            }
+            EXPECT_TRUE(es_la_mia(obra));
+            EXPECT_EQ(particularidades(obra), antes);
+            EXPECT_TRUE(!existe(obra + ".bak") || particularidades(obra + ".bak") == antes);
+        }
+    // What is the user's alone is so from the first byte; and a copy has the rights of what it is made from.
+    graba_fichero(ruta("privada"), "vieja");
+    if (!hace_privado(ruta("privada"))) return;
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nombre("privada").c_str());
+    EXPECT_TRUE(es_privado(ruta("privada_TM$")));
+    EXPECT_EQ(vornfile_abandonar_fichero_escritura(f), CIERTO);
+    EXPECT_EQ(vf_copyfile_seguro_u(nombre("privada").c_str(), nombre("copia").c_str()), CIERTO);
+    EXPECT_TRUE(es_privado(ruta("copia")));
+}
+
+// Names as long as a directory takes, two of them that differ at their end, and a working directory that changes.
+PRUEBA(vornfile, long_and_relative_names) {
+    for (const char fin : {'a', 'b'})
+        for (const size_t largo : {250, 251, 252, 255}) {
+            const std::string obra = ruta((std::string(largo - 3, 'x') + (EN_WINDOWS ? "nn" : "ñ") + fin).c_str());
+            EXPECT_TRUE(guardado_definitivo_al_cerrar(obra, fin - 'a') && guardado_definitivo_al_cerrar(obra, MIA)) << largo;
+            EXPECT_TRUE(es_la_mia(obra));
+        }
+    size_t copias[2] = {0, 0}, todos = 0;
+    for (const auto &e : fs::directory_iterator(directorio())) {
+        ++todos;
+        for (const int k : {0, 1})
+            if (fs::file_size(e) == contenido(k).size() && lee_fichero(e.path().string()) == contenido(k)) ++copias[k];
+    }
+    EXPECT_EQ(std::to_string(todos) + " " + std::to_string(copias[0]) + " " + std::to_string(copias[1]), "16 4 4");
+
+    const fs::path antes = fs::current_path();
+    fs::current_path(directorio());
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(VNU("relativa"));
+    escribe_edicion(f, MIA);
+    fs::current_path(antes);
+    EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, VNU("relativa")), CIERTO);
+    EXPECT_TRUE(es_la_mia(ruta("relativa")));
+}
+
+// The close and the giving up take a stream that was opened for them, by its name; any other is closed and nothing else.
+PRUEBA(vornfile, streams_that_are_not_the_save_s_own) {
+    graba_fichero(ruta("x"), "x");
+    graba_fichero(ruta("y"), "y");
+    const auto n = nombre("x"), otro = nombre("y");
+    vnfichero *f = lc_fopen_u(n.c_str(), VNU("rb"));
+    EXPECT_EQ(ESPERA_INFORME("abierto para hacerse definitivo al cerrar",
+                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str())), FALSO);
+    f = lc_fopen_u(n.c_str(), VNU("rb"));
+    EXPECT_EQ(ESPERA_INFORME("abierto para hacerse definitivo al cerrar", vornfile_abandonar_fichero_escritura(f)), FALSO);
+    f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    EXPECT_EQ(ESPERA_INFORME("nombre con el que se ha abierto",
+                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, otro.c_str())), FALSO);
+    EXPECT_EQ(lee_fichero(ruta("x")) + lee_fichero(ruta("y")), "xy");
+    // Told nonsense: it fails, and says so.
+    f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    ESPERA_INFORME("lc_error_escribiendo_fichero", (lc_error_escribiendo_fichero(f), 0));
+    EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, (ruta("./x").c_str(), n.c_str())), FALSO);
+    EXPECT_EQ(lc_ultimo_error(nullptr), VN_FICH_DATOS);
+    EXPECT_EQ(lee_fichero(ruta("x")), "x");
+    EXPECT_FALSE(existe(ruta("x_TM$")));
+}
+
+// The second saver is told why, in the report too; the temporary that somebody has taken away is missed.
+PRUEBA(vornfile, the_reason_is_told) {
+    const auto n = nombre("obra");
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    EXPECT_EQ(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str()), nullptr);
+    const auto informes = toma_informes();
+    ASSERT_EQ(informes.size(), 1u);
+    EXPECT_EQ(informes[0].expresion + "|" + informes[0].detalle, "f_lc_fopen|" + ruta("obra") + ": lo tiene abierto otro programa");
+    EXPECT_EQ(lc_ultimo_error(nullptr), VN_FICH_COMPARTIDO);
+    std::error_code error;
+    if (fs::remove(ruta("obra_TM$"), error)) {
+        graba_fichero(ruta("obra_TM$"), "de otro");
+        EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero",
+                                 vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str())), FALSO);
+        EXPECT_EQ(lee_fichero(ruta("obra_TM$")), "de otro");
+        EXPECT_FALSE(existe(ruta("obra")));
+    } else {
+        EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str()), CIERTO);
+    }
+    EXPECT_EQ(f_lc_fopen_seguro_u(nombre("no").c_str(), VNU("rb"), VN_AQUI), nullptr);
+    EXPECT_EQ(lc_ultimo_error(nullptr), VN_FICH_NO_EXISTE);
+    EXPECT_EQ(utf8_de(lc_texto_error_u(lc_ultimo_error(nullptr))), "no existe");
+    // The system's own flushes are the system's: they refuse what is none of its files.
+    const vnoperaciones_fichero &sistema = *operaciones_fichero_del_sistema();
+    EXPECT_NE(sistema.vuelca(VN_FICHERO_NINGUNO), VN_FICH_BIEN);
+    EXPECT_NE(sistema.vuelca_directorio(nombre("no/obra").c_str()), VN_FICH_BIEN);
+}
+
+// Arguments: a file. Nothing of what the program prints goes into it, and a limit of size is a disk that is full.
+HIJO(guarda_sin_los_tres) {
+    const std::string obra = args.at(0);
+    if (!cierra_los_tres()) return 0;
+    error_interno_instala_receptor(nullptr, nullptr);
+    const auto n = ancho(obra);
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    vnmutex *m = vnmutex_crea_entre_aplicaciones("vornfile");
+    vnmutex_entra(m);
+    std::printf("to the output\n");
+    std::fflush(stdout);
+    f_lc_feof(nullptr); // reported on the error stream
+    escribe_edicion(f, MIA);
+    f_lc_feof(nullptr);
+    vnmutex_destruye_saliendo(&m);
+    return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str()) == CIERTO && es_la_mia(obra) ? 0 : 1;
+}
+
+HIJO(guarda_con_limite) {
+    if (!limita_tamanyo(65536)) return 0;
+    if (guardado_definitivo_al_cerrar(args.at(0), MIA) || lc_ultimo_error(nullptr) != VN_FICH_SIN_ESPACIO) return 1;
+    return existe(args.at(0) + "_TM$") ? 2 : 0;
+}
+
+PRUEBA(vornfile, closed_standard_streams_and_a_limit_of_size) {
+    EXPECT_EQ(proceso("guarda_sin_los_tres", {ruta("obra")}).espera(60000), 0);
+    graba_fichero(ruta("obra"), "vieja");
+    EXPECT_EQ(proceso("guarda_con_limite", {ruta("obra")}).espera(60000), 0);
+    EXPECT_EQ(lee_fichero(ruta("obra")), "vieja");
+}
+
+// Arguments: which of two users, a directory, what it has of the other's. The result is the number of the first surprise.
+HIJO(guarda_como_usuario) {
+    const std::string d = args.at(1) + "/";
+    if (!se_hace_usuario(std::stoi(args.at(0)))) return 0;
+    error_interno_instala_receptor([](const vninforme *, void *) {}, nullptr);
+    const auto guarda = [&](const char *corto) { return guardado_definitivo_al_cerrar(d + corto, MIA); };
+    const auto se_queda = [&](const char *corto) { return lee_fichero(d + corto) != contenido(MIA); };
+    if (args.at(0) == "1") {
+        if (!guarda("ajeno") || !guarda("protegido") || !guarda("pegado/suyo")) return 1;
+        // What another's saver that died has left: it can be read, and not written.
+        graba_fichero(d + "ajeno_TM$", "resto");
+        graba_fichero(d + "pegado/suyo", "suya");
+        fs::permissions(d + "pegado/suyo", static_cast<fs::perms>(0666));
+        graba_fichero(d + "protegido", "protegida");
+        hace_de_solo_lectura(d + "protegido");
+        return guarda("protegido") || lc_ultimo_error(nullptr) != VN_FICH_SIN_PERMISO || !se_queda("protegido") ? 2 : 0;
+    }
+    if (!guarda("nuevo") || guarda("protegido") || lc_ultimo_error(nullptr) != VN_FICH_SIN_PERMISO) return 3;
+    if (guarda("pegado/suyo") || lc_ultimo_error(nullptr) != VN_FICH_SIN_PERMISO || !se_queda("pegado/suyo")) return 4;
+    if (existe(d + "pegado/suyo_TM$") || existe(d + "pegado/suyo_BK$")) return 5;
+    if (guarda("ajeno") || existe(d + "ajeno_TM$")) return 6; // the file may not be written, what was left could go
+    return !guarda("ilegible/obra") ? 7 : 0;
+}
+
+PRUEBA(vornfile, other_users_files) {
+    fs::create_directory(ruta("ilegible"));
+    fs::create_directory(ruta("pegado"));
+    fs::permissions(directorio(), static_cast<fs::perms>(0777));
+    fs::permissions(ruta("pegado"), static_cast<fs::perms>(01777));
+    if (!hace_ilegible(ruta("ilegible"))) GTEST_SKIP();
+    EXPECT_EQ(proceso("guarda_como_usuario", {"1", directorio()}).espera(60000), 0);
+    EXPECT_EQ(proceso("guarda_como_usuario", {"2", directorio()}).espera(60000), 0);
+    fs::permissions(ruta("ilegible"), static_cast<fs::perms>(0777));
+}
+
+// Arguments: a file, the number of the program. It writes down what it was told was saved.
+HIJO(guarda_sin_parar) {
+    error_interno_instala_receptor([](const vninforme *, void *) {}, nullptr);
+    for (int i = 0;; ++i) {
+        const std::string quien = args.at(1) + "." + std::to_string(i) + "\n";
+        const auto n = ancho(args.at(0));
+        vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+        for (int k = 0; f != nullptr && k < 20000; ++k) lc_fwrite(quien.data(), 1, quien.size(), f);
+        if (f != nullptr) vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str());
+    }
+}
+
+// Programs that save one file, some of them killed at any moment: the file and its copy are always whole.
+PRUEBA(vornfile, programs_that_save_one_file) {
+    const auto entero = [](const std::string &s) {
+        const size_t n = s.find('\n') + 1;
+        return s.size() == n * 20000 && std::equal(s.begin() + static_cast<ptrdiff_t>(n), s.end(), s.begin());
+    };
+    std::set<std::string> vistos;
+    std::deque<proceso> hijos;
+    for (int k = 0; k < 12; ++k) {
+        if (hijos.size() == 3) hijos.pop_front(); // which kills it
+        hijos.emplace_back("guarda_sin_parar", std::vector<std::string>{ruta("obra"), std::to_string(k)});
+        for (int i = 0; i < 20; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(EN_WINDOWS ? 15 : 5));
+            for (const char *corto : {"obra", "obra.bak"}) {
+                vnfichero *f = f_lc_fopen_seguro_u(nombre(corto).c_str(), VNU("rb"), VN_AQUI);
+                if (f == nullptr) continue;
+                std::string s(static_cast<size_t>(lc_bytes_restantes(f)), 0);
+                lc_fread(s.data(), 1, s.size(), f);
+                lc_fclose(f);
+                EXPECT_TRUE(entero(s)) << corto << " of " << s.size() << " bytes";
+                vistos.insert(s.substr(0, s.find('\n')));
+            }
+        }
+    }
+    hijos.clear();
+    EXPECT_GT(vistos.size(), 5u);
+    EXPECT_TRUE(guardado_definitivo_al_cerrar(ruta("obra"), MIA) && es_la_mia(ruta("obra")));
 }

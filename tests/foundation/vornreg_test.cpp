@@ -2,6 +2,7 @@
 #include "foundation/vornreg.h"
 #include "foundation/fichconf.h"
 #include "foundation/vdir.h"
+#include "fallos.h"
 #include "plataforma/proceso.h"
 #include "texto_ancho.h"
 
@@ -156,4 +157,21 @@ PRUEBA(vornreg, varios_programas_a_la_vez) {
     for (int i = 0; i < PROGRAMAS; ++i)
         for (int k = 0; k < 8; ++k)
             EXPECT_EQ(lee(clave, std::to_string(i) + "." + std::to_string(k)), ancho("v" + std::to_string(k)));
+}
+
+// Where the registry is a file: one value, which each edition replaces.
+GUARDADO(registro) {
+    const std::string carpeta = fichero.substr(0, fichero.rfind("/guardado/"));
+    vn::pon_variable("XDG_RUNTIME_DIR", carpeta);
+    fichconf_establece_directorio_base(ancho(carpeta).c_str());
+    fichconf_registra_nombre_distribuidor_no_vorn(VNU("guardado"));
+    const bool puesto = pon("k", "v", std::basic_string<vnwchar>(70000, static_cast<vnwchar>('0' + edicion)));
+    fichconf_registra_nombre_distribuidor_no_vorn(VNU("VORN"));
+    fichconf_establece_directorio_base(nullptr);
+    return puesto;
+}
+
+PRUEBA(vornreg, cada_fallo_al_grabarlo) {
+    if (vn::EN_WINDOWS) GTEST_SKIP();
+    vn::comprueba_guardado("registro", {.fichero = "registro.txt", .informa = false});
 }

@@ -2,8 +2,10 @@
 #include "foundation/arr.h"
 #include "foundation/msglocal.h"
 #include "foundation/widestr.h"
+#include "fallos.h"
 #include "prueba.h"
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -131,4 +133,15 @@ PRUEBA(ultiobra, la_obra_que_falta_se_quita_si_el_usuario_quiere) {
     EXPECT_EQ(obras(), "b.obr|c.txt|"); // what the filter hid is still there
     EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 9, ext, existe_la_b, nullptr, nullptr), FALSO);
     arr_DestruyeCADENA_u(&ext);
+}
+
+// The same work in another case takes the place of itself. What fails is told to nobody, and loses nothing.
+GUARDADO(ultimas_obras) {
+    const char *const nombre = std::array{"obra", "Obra", "oBra", "obrA"}[static_cast<size_t>(edicion)];
+    ultiobra_guarda_nombre_ultima_obra_u(vn::ancho(nombre).c_str(), vn::ancho(fichero).c_str());
+    return vn::existe(fichero) && vn::lee_fichero(fichero).find(nombre) != std::string::npos;
+}
+
+PRUEBA(ultiobra, cada_fallo_al_leer_y_grabar_la_lista) {
+    vn::comprueba_guardado("ultimas_obras", {.informa = false, .dice = false});
 }

@@ -4,12 +4,12 @@
 #include "foundation/operaciones_fichero_priv.h"
 #include "foundation/platform/maquina.h"
 #include "foundation/propio_priv.h"
+#include "foundation/temporal_priv.h"
 #include "foundation/trapable.h"
 #include "foundation/numero_priv.h"
 #include "foundation/utf_priv.h"
 #include "foundation/vdir.h"
 #include "foundation/vnmutex.h"
-#include "foundation/vornfile.h"
 #include "foundation/vornreg.h"
 #include "foundation/widestr.h"
 #include <map>
@@ -212,10 +212,7 @@ struct grabacion {
 // Runs inside a trap: a file that cannot be written stays as it was.
 void graba(grabacion *g) {
     vdir_crea_directorios_fichero_si_es_posible_UNICODE(g->ruta);
-    struct cierra {
-        void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
-    };
-    std::unique_ptr<vnfichero, cierra> f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(g->ruta));
+    temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(g->ruta));
     if (f == nullptr) return;
     lc_fwrite(g->datos.data(), 1, g->datos.size(), f.get());
     g->hecha = vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), g->ruta) == CIERTO;

@@ -220,8 +220,7 @@ vnerror_fichero es_su_nombre(vnid_fichero id, const vnwchar *nombre) {
                : VN_FICH_YA_EXISTE;
 }
 
-// By its handle, which nobody else can rename. What readers have open is replaced too where the system can (the second
-// class of information), and the change of names is on the disk when the file is flushed once more.
+// By its handle, which nobody else can rename. What readers have open is replaced too where the system can.
 vnerror_fichero renombra_abierto(vnid_fichero id, const vnwchar *, const vnwchar *nuevo) {
     constexpr auto RENOMBRA_CON_LECTORES = static_cast<FILE_INFO_BY_HANDLE_CLASS>(22);
     constexpr DWORD REEMPLAZA = 1, CON_LECTORES = 2;
@@ -236,9 +235,9 @@ vnerror_fichero renombra_abierto(vnid_fichero id, const vnwchar *, const vnwchar
         *reinterpret_cast<DWORD *>(datos) = banderas; // in the place of ReplaceIfExists
         return SetFileInformationByHandle(handle(id), clase, datos, static_cast<DWORD>(todo)) != 0;
     };
-    if (!hace(RENOMBRA_CON_LECTORES, REEMPLAZA | CON_LECTORES) && !hace(FileRenameInfo, REEMPLAZA))
-        return error_al_renombrar(GetLastError(), final);
-    return FlushFileBuffers(handle(id)) ? VN_FICH_BIEN : VN_FICH_SIN_ASEGURAR;
+    return hace(RENOMBRA_CON_LECTORES, REEMPLAZA | CON_LECTORES) || hace(FileRenameInfo, REEMPLAZA)
+               ? VN_FICH_BIEN
+               : error_al_renombrar(GetLastError(), final);
 }
 
 vnerror_fichero borra(const vnwchar *nombre) { return resultado(DeleteFileW(ruta_del_sistema(nombre).c_str())); }
@@ -277,8 +276,14 @@ vnerror_fichero copia_permisos(const vnwchar *origen, vnid_fichero destino) {
     return SetKernelObjectSecurity(handle(destino), que, lista.get()) ? VN_FICH_BIEN : VN_FICH_NO_ADMITIDO;
 }
 
-// The rename was written through.
-vnerror_fichero vuelca_directorio(const vnwchar *) { return VN_FICH_BIEN; }
+// A file that is flushed has its name on the disk too.
+vnerror_fichero vuelca_directorio(const vnwchar *nombre) {
+    vnid_fichero id = VN_FICHERO_NINGUNO;
+    if (const vnerror_fichero e = abre(nombre, VN_ABRE_ESCRITURA, &id); e != VN_FICH_BIEN) return e;
+    const vnerror_fichero e = vuelca(id);
+    cierra(id);
+    return e;
+}
 
 void espera(uint32_t milisegundos) { Sleep(milisegundos); }
 
