@@ -5,7 +5,11 @@
 #include "geometry/punto.h"
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <map>
 #include <numeric>
+#include <optional>
+#include <tuple>
 
 namespace obra {
 namespace {
@@ -21,7 +25,7 @@ struct tramo {
 using tramos = std::vector<tramo>;
 
 // A stored drawing may hold anything: what is no place takes no part.
-bool es_finito(const Punto2D &p) { return std::isfinite(p.x) && std::isfinite(p.y); }
+bool es_finito(const Punto2D &p) { return std::fabs(p.x) < 1e100 && std::fabs(p.y) < 1e100; }
 Punto2D por(const Punto2D &p, double escala) { return {p.x * escala, p.y * escala}; }
 
 // From its first angle counter-clockwise to its last, above 0; equal angles are a full turn.
@@ -46,61 +50,65 @@ void cada_tramo(const polilinea &p, R &&con_recta, A &&con_arco) {
 
 // ---------------------------------------------------------------- outlines that close
 
-// Rings of pieces end to end: where every end is that of exactly two pieces.
+// Rings of pieces end to end: where every end is that of exactly two pieces. One drawn twice counts once.
 class anillos {
   public:
-    void anade(const Punto2D &a, const Punto2D &b) {
+    // `medio` and `giro` tell pieces with the same ends apart: the middle, or the centre, and how it turns.
+    void anade(const Punto2D &a, const Punto2D &b, const Punto2D &medio, double giro) {
         if (!es_finito(a) || !es_finito(b) || p_igual(&a, &b) == CIERTO) return;
-        piezas_.push_back({redondeado(a), redondeado(b)});
+        const size_t i = nudo_en(a), j = nudo_en(b);
+        piezas_.emplace_back(std::min(i, j), std::max(i, j), medio.x, medio.y, i < j ? giro : -giro);
     }
 
-    size_t cuenta() const {
-        std::vector<Punto2D> nudos;
-        for (const tramo &t : piezas_) nudos.insert(nudos.end(), {t.a, t.b});
-        std::sort(nudos.begin(), nudos.end(), antes);
-        nudos.erase(
-            std::unique(nudos.begin(), nudos.end(), [](const Punto2D &p, const Punto2D &q) { return !antes(p, q); }),
-            nudos.end());
-        std::vector<size_t> grado(nudos.size()), grupo(nudos.size());
+    size_t cuenta() {
+        std::sort(piezas_.begin(), piezas_.end());
+        piezas_.erase(std::unique(piezas_.begin(), piezas_.end()), piezas_.end());
+        std::vector<size_t> grado(nudos_.size()), grupo(nudos_.size());
         std::iota(grupo.begin(), grupo.end(), size_t{0});
         const auto raiz = [&grupo](size_t i) {
             while (grupo[i] != i) i = grupo[i] = grupo[grupo[i]];
             return i;
         };
-        for (const tramo &t : piezas_) {
-            size_t nudo[2];
-            for (const auto &[p, i] : {std::pair{t.a, 0}, std::pair{t.b, 1}}) {
-                nudo[i] = static_cast<size_t>(std::lower_bound(nudos.begin(), nudos.end(), p, antes) - nudos.begin());
-                ++grado[nudo[i]];
-            }
-            grupo[raiz(nudo[0])] = raiz(nudo[1]);
+        for (const auto &[i, j, x, y, giro] : piezas_) {
+            ++grado[i], ++grado[j];
+            grupo[raiz(i)] = raiz(j);
         }
-        std::vector<bool> abierto(nudos.size());
-        for (size_t i = 0; i < nudos.size(); ++i)
+        std::vector<bool> abierto(nudos_.size());
+        for (size_t i = 0; i < nudos_.size(); ++i)
             if (grado[i] != 2) abierto[raiz(i)] = true;
         size_t n = 0;
-        for (size_t i = 0; i < nudos.size(); ++i) n += grupo[i] == i && !abierto[i];
+        for (size_t i = 0; i < nudos_.size(); ++i) n += grupo[i] == i && !abierto[i];
         return n;
     }
 
   private:
-    static Punto2D redondeado(const Punto2D &p) {
-        return {prec_redondea_decimales(p.x, PASO_DE_EXTREMOS), prec_redondea_decimales(p.y, PASO_DE_EXTREMOS)};
+    // The first one that is near enough, or a new one. Near ones stand in the same square of a grid or in one beside it.
+    size_t nudo_en(const Punto2D &p) {
+        const double x = std::floor(p.x / PASO_DE_EXTREMOS), y = std::floor(p.y / PASO_DE_EXTREMOS);
+        for (const double i : {x - 1, x, x + 1})
+            for (auto n = cuadros_.lower_bound({i, y - 1}); n != cuadros_.end() && n->first <= std::pair{i, y + 1}; ++n)
+                if (std::hypot(nudos_[n->second].x - p.x, nudos_[n->second].y - p.y) <= PASO_DE_EXTREMOS) return n->second;
+        cuadros_.emplace(std::pair{x, y}, nudos_.size());
+        nudos_.push_back(p);
+        return nudos_.size() - 1;
     }
-    static bool antes(const Punto2D &p, const Punto2D &q) { return p.x < q.x || (p.x == q.x && p.y < q.y); }
 
-    tramos piezas_;
+    std::vector<std::tuple<size_t, size_t, double, double, double>> piezas_;
+    std::vector<Punto2D> nudos_;
+    std::multimap<std::pair<double, double>, size_t> cuadros_;
 };
+
+Punto2D medio_de(const Punto2D &a, const Punto2D &b) { return {(a.x + b.x) / 2, (a.y + b.y) / 2}; }
 
 size_t contornos_de(const capa &c, double metros) {
     size_t n = c.circulos.size();
     anillos sueltas;
-    for (const linea &l : c.lineas) sueltas.anade(por(l.a, metros), por(l.b, metros));
+    for (const linea &l : c.lineas) sueltas.anade(por(l.a, metros), por(l.b, metros), medio_de(l.a, l.b), 0);
     for (const arco &a : c.arcos) {
         const auto en = [&](double t) {
             return por({a.centro.x + a.radio * std::cos(t), a.centro.y + a.radio * std::sin(t)}, metros);
         };
-        sueltas.anade(en(a.desde), en(a.hasta));
+        sueltas.anade(en(a.desde), en(a.hasta), a.centro, barrido_de(a.desde, a.hasta));
     }
     for (const elipse &e : c.elipses) n += SON_IGUALES(barrido_de(e.desde, e.hasta), VUELTA) == CIERTO;
     for (const polilinea &p : c.polilineas) {
@@ -109,17 +117,13 @@ size_t contornos_de(const capa &c, double metros) {
         if (p.cerrada || (p.vertices.size() > 2 && p_igual(&primero, &ultimo) == CIERTO))
             ++n;
         else
-            sueltas.anade(primero, ultimo);
+            sueltas.anade(primero, ultimo, medio_de(p.vertices[p.vertices.size() / 2], p.vertices[(p.vertices.size() - 1) / 2]),
+                          std::accumulate(p.curvaturas.begin(), p.curvaturas.end(), 0.));
     }
     return n + sueltas.cuenta();
 }
 
 // ---------------------------------------------------------------- crossings
-
-struct caja {
-    double xmin, ymin, xmax, ymax;
-    const tramo *de;
-};
 
 // Whether a segment lies wholly on one side of the line of another, further from it than the margin.
 bool a_un_lado(const tramo &de, const tramo &otro) {
@@ -132,33 +136,121 @@ bool a_un_lado(const tramo &de, const tramo &otro) {
 
 bool es_extremo(const Punto2D &p, const tramo &t) { return p_igual(&p, &t.a) == CIERTO || p_igual(&p, &t.b) == CIERTO; }
 
-bool se_cruzan(const tramo &s, const tramo &t) {
-    if (a_un_lado(s, t) || a_un_lado(t, s)) return false;
+// Where two segments meet, unless it is at an end of both.
+std::optional<Punto2D> cruce_de(const tramo &s, const tramo &t) {
+    if (a_un_lado(s, t) || a_un_lado(t, s)) return {};
     Punto2D *r = p_cortan(&s.a, &s.b, &t.a, &t.b);
-    if (r == nullptr) return false;
-    const bool solo_se_tocan = es_extremo(*r, s) && es_extremo(*r, t);
+    if (r == nullptr) return {};
+    const Punto2D p = *r;
     vornspy_free_pp(&r, sizeof(Punto2D));
-    return !solo_se_tocan;
+    return es_extremo(p, s) && es_extremo(p, t) ? std::optional<Punto2D>() : p;
 }
 
-// By a sweep from left to right: each segment meets those whose boxes the sweep line still crosses, and only pairs
-// whose boxes touch are asked about.
-size_t cruces_de(const tramos &todos) {
-    std::vector<caja> cajas;
-    for (const tramo &t : todos)
-        cajas.push_back(
-            {std::min(t.a.x, t.b.x), std::min(t.a.y, t.b.y), std::max(t.a.x, t.b.x), std::max(t.a.y, t.b.y), &t});
-    std::sort(cajas.begin(), cajas.end(), [](const caja &p, const caja &q) { return p.xmin < q.xmin; });
-    std::vector<caja> vivas;
-    size_t n = 0;
-    for (const caja &c : cajas) {
-        std::erase_if(vivas, [&](const caja &v) { return v.xmax < c.xmin - MARGEN_DE_CAJA; });
-        for (const caja &v : vivas)
-            if (v.ymin <= c.ymax + MARGEN_DE_CAJA && c.ymin <= v.ymax + MARGEN_DE_CAJA) n += se_cruzan(*v.de, *c.de);
-        vivas.push_back(c);
+// The crossings of segments, by halving the plane as long as that leaves fewer pairs to look at. A crossing counts where
+// its point lies: each place belongs to one part.
+class cruces {
+  public:
+    explicit cruces(tramos todos) : todos_(std::move(todos)) {
+        // One drawn twice counts once; one of no length is none.
+        std::erase_if(todos_, [](const tramo &t) { return p_igual(&t.a, &t.b) == CIERTO; });
+        const auto clave = [](const tramo &t) { return std::tuple(t.a.x, t.a.y, t.b.x, t.b.y); };
+        for (tramo &t : todos_)
+            if (clave({t.b, t.a}) < clave(t)) std::swap(t.a, t.b);
+        std::sort(todos_.begin(), todos_.end(), [&](const tramo &s, const tramo &t) { return clave(s) < clave(t); });
+        todos_.erase(std::unique(todos_.begin(), todos_.end(), [&](const tramo &s, const tramo &t) { return clave(s) == clave(t); }),
+                     todos_.end());
+        quedan_ = MINIMO_DE_PAREJAS + PAREJAS_POR_TRAMO * todos_.size();
+        std::vector<pieza> piezas;
+        for (const tramo &t : todos_) piezas.push_back({{t.a.x, t.a.y}, {t.b.x, t.b.y}, static_cast<uint32_t>(piezas.size())});
+        constexpr double INF = std::numeric_limits<double>::infinity();
+        busca(std::move(piezas), {{-INF, -INF}, {INF, INF}}, MAXIMO_DE_PARTICIONES);
     }
-    return n;
-}
+
+    size_t cuantos() const { return cuantos_; }
+    bool todos() const { return quedan_ > 0 && cuantos_ < MAXIMO_DE_CRUCES; }
+
+  private:
+    // What is asked about at the most: beyond it the crossings are that many or more.
+    static constexpr size_t MAXIMO_DE_CRUCES = 1'000'000, MINIMO_DE_PAREJAS = 4'000'000, PAREJAS_POR_TRAMO = 1000;
+    static constexpr size_t POCAS = 16;
+    static constexpr int MAXIMO_DE_PARTICIONES = 100;
+
+    // The part of a segment in a zone; its coordinates by number.
+    struct pieza {
+        double a[2], b[2];
+        uint32_t de;
+        double minimo(int eje) const { return std::min(a[eje], b[eje]); }
+        double maximo(int eje) const { return std::max(a[eje], b[eje]); }
+        // Without what lies beyond `hasta`, which is a higher or a lower coordinate.
+        pieza cortada(int eje, double hasta, bool mayor) const {
+            pieza p = *this;
+            const double t = (hasta - a[eje]) / (b[eje] - a[eje]);
+            if (!(t > 0 && t < 1)) return p;
+            double *fuera = (a[eje] > hasta) == mayor ? p.a : p.b;
+            fuera[1 - eje] = a[1 - eje] + (b[1 - eje] - a[1 - eje]) * t;
+            fuera[eje] = hasta;
+            return p;
+        }
+    };
+    struct zona {
+        double desde[2], hasta[2];
+    };
+
+    tramos todos_;
+    size_t cuantos_ = 0, quedan_;
+
+    void busca(std::vector<pieza> piezas, const zona &z, int nivel) {
+        const double todas = static_cast<double>(piezas.size()) * static_cast<double>(piezas.size());
+        double mejor = 0.8 * todas, corte = 0;
+        int eje = -1;
+        for (int k = 0; k < 2 && piezas.size() > POCAS && nivel > 0; ++k) {
+            double desde = piezas[0].a[k], hasta = desde, abajo = 0, arriba = 0;
+            for (const pieza &p : piezas) desde = std::min(desde, p.minimo(k)), hasta = std::max(hasta, p.maximo(k));
+            const double medio = desde + (hasta - desde) / 2;
+            for (const pieza &p : piezas) abajo += p.minimo(k) <= medio + MARGEN_DE_CAJA, arriba += p.maximo(k) >= medio - MARGEN_DE_CAJA;
+            if (abajo * abajo + arriba * arriba >= mejor) continue;
+            mejor = abajo * abajo + arriba * arriba;
+            eje = k;
+            corte = medio;
+        }
+        if (eje < 0) return compara(piezas, z);
+        std::vector<pieza> abajo, arriba;
+        for (const pieza &p : piezas) {
+            if (p.minimo(eje) <= corte + MARGEN_DE_CAJA) abajo.push_back(p.cortada(eje, corte + MARGEN_DE_CAJA, true));
+            if (p.maximo(eje) >= corte - MARGEN_DE_CAJA) arriba.push_back(p.cortada(eje, corte - MARGEN_DE_CAJA, false));
+        }
+        piezas = {};
+        zona de_abajo = z, de_arriba = z;
+        de_abajo.hasta[eje] = de_arriba.desde[eje] = corte;
+        busca(std::move(abajo), de_abajo, nivel - 1);
+        busca(std::move(arriba), de_arriba, nivel - 1);
+    }
+
+    // By a sweep across the longest one, so that those along it are soon behind.
+    void compara(const std::vector<pieza> &piezas, const zona &z) {
+        const auto largo = [](const pieza &p) { return std::hypot(p.b[0] - p.a[0], p.b[1] - p.a[1]); };
+        const auto mayor = std::max_element(piezas.begin(), piezas.end(), [&](const pieza &p, const pieza &q) { return largo(p) < largo(q); });
+        if (mayor == piezas.end() || !(largo(*mayor) > 0)) return;
+        const double ux = (mayor->a[1] - mayor->b[1]) / largo(*mayor), uy = (mayor->b[0] - mayor->a[0]) / largo(*mayor);
+        struct banda {
+            double desde, hasta;
+            uint32_t de;
+        };
+        std::vector<banda> bandas;
+        for (const pieza &p : piezas) {
+            const double a = ux * p.a[0] + uy * p.a[1], b = ux * p.b[0] + uy * p.b[1];
+            bandas.push_back({std::min(a, b), std::max(a, b), p.de});
+        }
+        std::sort(bandas.begin(), bandas.end(), [](const banda &p, const banda &q) { return p.desde < q.desde; });
+        for (auto i = bandas.begin(); i != bandas.end(); ++i)
+            for (auto j = i + 1; j != bandas.end() && j->desde <= i->hasta + MARGEN_DE_CAJA; ++j) {
+                if (!todos()) return;
+                --quedan_;
+                const auto p = cruce_de(todos_[std::min(i->de, j->de)], todos_[std::max(i->de, j->de)]);
+                if (p && z.desde[0] <= p->x && p->x < z.hasta[0] && z.desde[1] <= p->y && p->y < z.hasta[1]) ++cuantos_;
+            }
+    }
+};
 
 // ---------------------------------------------------------------- points of the curves
 
@@ -200,7 +292,9 @@ geometria_capa geometria_de(const capa &c, double metros_por_unidad) {
     const auto mide = [&arcos](const arco &a) { arcos += a.radio * barrido_de(a.desde, a.hasta); };
     for (const arco &a : c.arcos) mide(a);
     for (const polilinea &p : c.polilineas) cada_tramo(p, anade, mide);
-    g.cruces = cruces_de(rectos);
+    const cruces hallados(std::move(rectos));
+    g.cruces = hallados.cuantos();
+    g.hay_mas_cruces = !hallados.todos();
     g.longitud_arcos = arcos * metros_por_unidad;
     return g;
 }

@@ -12,8 +12,9 @@ using dueno_rectangulo = std::unique_ptr<rectangulo_t, suelta<rec_Destruye>>;
 struct geometria_capa {
     // Circles, whole ellipses, closed polylines, and rings of lines, arcs and open polylines end to end.
     size_t contornos = 0;
-    // Pairs of straight pieces that meet elsewhere than at an end of both.
+    // Pairs of straight pieces that meet elsewhere than at an end of both; these or more, where there are very many.
     size_t cruces = 0;
+    bool hay_mas_cruces = false;
     double longitud_arcos = 0; // arcs, and those of polylines
 };
 geometria_capa geometria_de(const capa &c, double metros_por_unidad);

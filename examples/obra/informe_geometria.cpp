@@ -8,6 +8,7 @@ namespace {
 void suma(geometria_capa &total, const geometria_capa &g) {
     total.contornos += g.contornos;
     total.cruces += g.cruces;
+    total.hay_mas_cruces = total.hay_mas_cruces || g.hay_mas_cruces;
     total.longitud_arcos += g.longitud_arcos;
 }
 
@@ -16,7 +17,8 @@ bool hay(const geometria_capa &g) { return g.contornos != 0 || g.cruces != 0 || 
 std::string numero_de(vnfunc_mensaje que, size_t n) { return etiqueta(que) + " " + std::to_string(n); }
 
 std::string dila(const geometria_capa &g) {
-    const std::string s = numero_de(mensaje::contornos, g.contornos) + ", " + numero_de(mensaje::cruces, g.cruces);
+    const std::string s = numero_de(mensaje::contornos, g.contornos) + ", " + etiqueta(mensaje::cruces) + " " +
+                          (g.hay_mas_cruces ? di(mensaje::al_menos) + " " : "") + std::to_string(g.cruces);
     return g.longitud_arcos != 0 ? s + ", " + di(mensaje::arcos) + " " + longitud(g.longitud_arcos) : s;
 }
 

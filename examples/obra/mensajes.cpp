@@ -51,4 +51,11 @@ void rellena(vnmensaje *m, const columnas &t) {
 #undef X
 #undef T
 
+void habla_un_solo_idioma() {
+    const int i = msidioma_dame_idioma();
+    for (const int propio : IDIOMAS)
+        if (i == propio) return;
+    if (de_reserva(i) == EN) msidioma_establece_idioma(EN);
+}
+
 } // namespace obra::mensaje

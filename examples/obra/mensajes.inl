@@ -6,55 +6,54 @@
 X(uso,
   T(ES, "uso: obra importa PLANO.dxf OBRA [CAMPO=VALOR...]\n"
         "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-        "     N: 0 español, 1 francés, 2 portugués de Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés, 9 gallego,\n"
-        "     10 búlgaro, 11 rumano, 12 chino, 13 alemán, 18 ruso, 31 polaco, 33 turco, 39 japonés"),
+        "     N: 0 español, 1 francés, 2 portugués de Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés, 9 gallego, 13 alemán"),
   T(FR, "utilisation : obra importa PLAN.dxf PROJET [CHAMP=VALEUR...]\n"
         "              obra informa PROJET [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
         "              N : 0 espagnol, 1 français, 2 portugais du Brésil, 3 catalan, 4 italien, 5 portugais, 8 anglais,\n"
-        "              9 galicien, 10 bulgare, 11 roumain, 12 chinois, 13 allemand, 18 russe, 31 polonais, 33 turc,\n"
-        "              39 japonais"),
+        "              9 galicien, 13 allemand"),
   T(PT_BR, "uso: obra importa PLANTA.dxf OBRA [CAMPO=VALOR...]\n"
            "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-           "     N: 0 espanhol, 1 francês, 2 português do Brasil, 3 catalão, 4 italiano, 5 português, 8 inglês, 9 galego,\n"
-           "     10 búlgaro, 11 romeno, 12 chinês, 13 alemão, 18 russo, 31 polonês, 33 turco, 39 japonês"),
+           "     N: 0 espanhol, 1 francês, 2 português do Brasil, 3 catalão, 4 italiano, 5 português, 8 inglês, 9 galego, 13 alemão"),
   T(PT, "utilização: obra importa PLANTA.dxf OBRA [CAMPO=VALOR...]\n"
         "            obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
         "            N: 0 espanhol, 1 francês, 2 português do Brasil, 3 catalão, 4 italiano, 5 português, 8 inglês,\n"
-        "            9 galego, 10 búlgaro, 11 romeno, 12 chinês, 13 alemão, 18 russo, 31 polaco, 33 turco, 39 japonês"),
+        "            9 galego, 13 alemão"),
   T(CA, "ús: obra importa PLÀNOL.dxf OBRA [CAMP=VALOR...]\n"
         "    obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-        "    N: 0 espanyol, 1 francès, 2 portuguès del Brasil, 3 català, 4 italià, 5 portuguès, 8 anglès, 9 gallec,\n"
-        "    10 búlgar, 11 romanès, 12 xinès, 13 alemany, 18 rus, 31 polonès, 33 turc, 39 japonès"),
+        "    N: 0 espanyol, 1 francès, 2 portuguès del Brasil, 3 català, 4 italià, 5 portuguès, 8 anglès, 9 gallec, 13 alemany"),
   T(IT, "uso: obra importa DISEGNO.dxf PROGETTO [CAMPO=VALORE...]\n"
         "     obra informa PROGETTO [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
         "     N: 0 spagnolo, 1 francese, 2 portoghese del Brasile, 3 catalano, 4 italiano, 5 portoghese, 8 inglese,\n"
-        "     9 galiziano, 10 bulgaro, 11 rumeno, 12 cinese, 13 tedesco, 18 russo, 31 polacco, 33 turco, 39 giapponese"),
+        "     9 galiziano, 13 tedesco"),
   T(EN, "usage: obra importa DRAWING.dxf PROJECT [FIELD=VALUE...]\n"
         "       obra informa PROJECT [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
         "       N: 0 Spanish, 1 French, 2 Portuguese of Brazil, 3 Catalan, 4 Italian, 5 Portuguese, 8 English,\n"
-        "       9 Galician, 10 Bulgarian, 11 Romanian, 12 Chinese, 13 German, 18 Russian, 31 Polish, 33 Turkish,\n"
-        "       39 Japanese"),
+        "       9 Galician, 13 German"),
   T(GL, "uso: obra importa PLANO.dxf OBRA [CAMPO=VALOR...]\n"
         "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-        "     N: 0 español, 1 francés, 2 portugués do Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés, 9 galego,\n"
-        "     10 búlgaro, 11 romanés, 12 chinés, 13 alemán, 18 ruso, 31 polaco, 33 turco, 39 xaponés"),
+        "     N: 0 español, 1 francés, 2 portugués do Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés, 9 galego, 13 alemán"),
   T(DE, "Aufruf: obra importa PLAN.dxf PROJEKT [FELD=WERT...]\n"
         "        obra informa PROJEKT [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
         "        N: 0 Spanisch, 1 Französisch, 2 brasilianisches Portugiesisch, 3 Katalanisch, 4 Italienisch,\n"
-        "        5 Portugiesisch, 8 Englisch, 9 Galicisch, 10 Bulgarisch, 11 Rumänisch, 12 Chinesisch, 13 Deutsch,\n"
-        "        18 Russisch, 31 Polnisch, 33 Türkisch, 39 Japanisch"))
+        "        5 Portugiesisch, 8 Englisch, 9 Galicisch, 13 Deutsch"))
 
 /* What goes wrong, after the name of the file or the argument. */
 X(falta_obra, T(ES, "falta el nombre de la obra"), T(FR, "il manque le nom du projet"), T(PT_BR, "falta o nome da obra"),
   T(CA, "falta el nom de l'obra"), T(IT, "manca il nome del progetto"), T(EN, "the name of the project is missing"),
   T(GL, "falta o nome da obra"), T(DE, "der Name des Projekts fehlt"))
-X(sobra, T(ES, "no se entiende"), T(FR, "argument non reconnu"), T(PT_BR, "argumento não reconhecido"),
-  T(CA, "argument no reconegut"), T(IT, "argomento non riconosciuto"), T(EN, "it is not understood"),
-  T(GL, "argumento non recoñecido"), T(DE, "wird nicht verstanden"))
-X(no_vale, T(ES, "no vale; ha de ser uno de:"), T(FR, "valeur non valable ; valeurs possibles :"),
+X(falta_plano, T(ES, "falta el nombre del dibujo"), T(FR, "il manque le nom du dessin"),
+  T(PT_BR, "falta o nome do desenho"), T(CA, "falta el nom del dibuix"), T(IT, "manca il nome del disegno"),
+  T(EN, "the name of the drawing is missing"), T(GL, "falta o nome do debuxo"), T(DE, "der Name der Zeichnung fehlt"))
+X(falta_orden, T(ES, "falta la orden"), T(FR, "il manque la commande"), T(PT_BR, "falta o comando"),
+  T(CA, "falta l'ordre"), T(IT, "manca il comando"), T(EN, "the command is missing"), T(GL, "falta a orde"),
+  T(DE, "der Befehl fehlt"))
+X(sobra, T(ES, "argumento desconocido"), T(FR, "argument non reconnu"), T(PT_BR, "argumento não reconhecido"),
+  T(CA, "argument no reconegut"), T(IT, "argomento non riconosciuto"), T(EN, "unknown argument"),
+  T(GL, "argumento non recoñecido"), T(DE, "unbekanntes Argument"))
+X(no_vale, T(ES, "valor no válido; ha de ser uno de:"), T(FR, "valeur non valable ; valeurs possibles :"),
   T(PT_BR, "valor inválido; deve ser um destes:"), T(PT, "valor inválido; tem de ser um destes:"),
   T(CA, "valor no vàlid; ha de ser un d'aquests:"), T(IT, "valore non valido; valori ammessi:"),
-  T(EN, "it will not do; it must be one of:"), T(GL, "valor non válido; ten que ser un destes:"),
+  T(EN, "invalid value; one of:"), T(GL, "valor non válido; ten que ser un destes:"),
   T(DE, "unzulässiger Wert; möglich sind:"))
 X(no_existe, T(ES, "el fichero no existe o no se puede leer"), T(FR, "le fichier n'existe pas ou ne peut pas être lu"),
   T(PT_BR, "o arquivo não existe ou não pode ser lido"), T(PT, "o ficheiro não existe ou não pode ser lido"),
@@ -65,9 +64,42 @@ X(es_directorio, T(ES, "es un directorio"), T(FR, "c'est un répertoire"), T(PT_
   T(CA, "és un directori"), T(IT, "è una cartella"), T(EN, "is a directory"), T(GL, "é un directorio"),
   T(DE, "ist ein Verzeichnis"))
 X(no_es_dxf, T(ES, "no es un DXF"), T(FR, "ce n'est pas un fichier DXF"), T(PT_BR, "não é um arquivo DXF"),
-  T(PT, "não é um ficheiro DXF"), T(CA, "no és un fitxer DXF"), T(IT, "non è un file DXF"), T(EN, "it is no DXF"),
+  T(PT, "não é um ficheiro DXF"), T(CA, "no és un fitxer DXF"), T(IT, "non è un file DXF"), T(EN, "not a DXF file"),
   T(GL, "non é un ficheiro DXF"), T(DE, "ist keine DXF-Datei"))
-X(sin_lector, T(ES, "no se puede leer el DXF"), T(FR, "impossible de lire le fichier DXF"),
+X(es_binario, T(ES, "es un DXF binario; solo se leen los de texto"),
+  T(FR, "c'est un fichier DXF binaire ; seuls ceux en texte peuvent être lus"),
+  T(PT_BR, "é um DXF binário; só se leem os de texto"), T(CA, "és un DXF binari; només es llegeixen els de text"),
+  T(IT, "è un file DXF binario; si leggono solo quelli di testo"),
+  T(EN, "a binary DXF file; only text ones can be read"), T(GL, "é un DXF binario; só se len os de texto"),
+  T(DE, "ist eine binäre DXF-Datei; nur solche in Textform können gelesen werden"))
+X(danado, T(ES, "el DXF está dañado en la línea"), T(FR, "le fichier DXF est endommagé à la ligne"),
+  T(PT_BR, "o DXF está danificado na linha"), T(CA, "el DXF està malmès a la línia"),
+  T(IT, "il file DXF è danneggiato alla riga"), T(EN, "the DXF is damaged at line"),
+  T(GL, "o DXF está danado na liña"), T(DE, "die DXF-Datei ist beschädigt in Zeile"))
+X(sin_final, T(ES, "aviso: el DXF acaba antes de su final; se importa lo que hay"),
+  T(FR, "avertissement : le fichier DXF s'arrête avant sa fin ; ce qu'il contient est importé"),
+  T(PT_BR, "aviso: o DXF acaba antes do seu fim; importa-se o que há"),
+  T(CA, "avís: el DXF s'acaba abans del final; s'importa el que hi ha"),
+  T(IT, "avviso: il file DXF finisce prima della sua fine; si importa quanto contiene"),
+  T(EN, "warning: the DXF stops before its end; what it holds is imported"),
+  T(GL, "aviso: o DXF acaba antes do seu final; impórtase o que hai"),
+  T(DE, "Warnung: die DXF-Datei bricht vor ihrem Ende ab; importiert wird, was sie enthält"))
+X(unidad_ignorada, T(ES, "aviso: unidad de dibujo desconocida; se toman metros. Su código:"),
+  T(FR, "avertissement : unité de dessin inconnue ; le mètre est employé. Son code :"),
+  T(PT_BR, "aviso: unidade de desenho desconhecida; tomam-se metros. O seu código:"),
+  T(CA, "avís: unitat de dibuix desconeguda; es prenen metres. El seu codi:"),
+  T(IT, "avviso: unità di disegno sconosciuta; si usano i metri. Il suo codice:"),
+  T(EN, "warning: unknown drawing unit; metres are taken. Its code:"),
+  T(GL, "aviso: unidade de debuxo descoñecida; tómanse metros. O seu código:"),
+  T(DE, "Warnung: unbekannte Zeichnungseinheit; es gelten Meter. Ihr Code:"))
+X(sin_memoria, T(ES, "no hay memoria suficiente"), T(FR, "mémoire insuffisante"), T(PT_BR, "memória insuficiente"),
+  T(CA, "no hi ha prou memòria"), T(IT, "memoria insufficiente"), T(EN, "not enough memory"),
+  T(GL, "non hai memoria abonda"), T(DE, "nicht genügend Speicher"))
+X(sin_salida, T(ES, "no se puede escribir el resultado"), T(FR, "impossible d'écrire le résultat"),
+  T(PT_BR, "não é possível escrever o resultado"), T(CA, "no es pot escriure el resultat"),
+  T(IT, "impossibile scrivere il risultato"), T(EN, "the result cannot be written"),
+  T(GL, "non se pode escribir o resultado"), T(DE, "das Ergebnis kann nicht geschrieben werden"))
+X(no_se_lee, T(ES, "no se puede leer el DXF"), T(FR, "impossible de lire le fichier DXF"),
   T(PT_BR, "não é possível ler o DXF"), T(CA, "no es pot llegir el DXF"), T(IT, "impossibile leggere il file DXF"),
   T(EN, "the DXF cannot be read"), T(GL, "non se pode ler o DXF"), T(DE, "die DXF-Datei kann nicht gelesen werden"))
 X(demasiado, T(ES, "el dibujo tiene demasiadas entidades"), T(FR, "le dessin contient trop d'entités"),
@@ -81,20 +113,20 @@ X(no_se_graba, T(ES, "no se ha podido grabar; el fichero anterior queda como est
   T(PT, "não foi possível gravar; o ficheiro anterior fica como estava"),
   T(CA, "no s'ha pogut desar; el fitxer anterior queda com estava"),
   T(IT, "impossibile salvare; il file precedente resta com'era"),
-  T(EN, "it could not be saved; the previous file is as it was"),
+  T(EN, "could not be saved; a previous file is as it was"),
   T(GL, "non se puido gravar; o ficheiro anterior queda como estaba"),
   T(DE, "konnte nicht gespeichert werden; die vorherige Datei bleibt unverändert"))
 X(no_es_obra, T(ES, "no es una obra o está dañada"), T(FR, "ce n'est pas un fichier de projet, ou il est endommagé"),
   T(PT_BR, "não é um arquivo de obra ou está danificado"), T(PT, "não é um ficheiro de obra ou está danificado"),
   T(CA, "no és una obra o està malmesa"), T(IT, "non è un file di progetto o è danneggiato"),
-  T(EN, "it is no project file or is damaged"), T(GL, "non é unha obra ou está danada"),
+  T(EN, "not a project file, or damaged"), T(GL, "non é unha obra ou está danada"),
   T(DE, "ist keine Projektdatei oder ist beschädigt"))
 X(superior, T(ES, "está grabada con una versión superior a la que puede leer este programa"),
   T(FR, "enregistré avec une version plus récente que celles que ce programme peut lire"),
   T(PT_BR, "foi gravado com uma versão posterior à que este programa pode ler"),
   T(CA, "està desada amb una versió posterior a la que pot llegir aquest programa"),
   T(IT, "salvato con una versione successiva a quella che questo programma può leggere"),
-  T(EN, "it was saved by a later version than this program can read"),
+  T(EN, "saved by a later version than this program can read"),
   T(GL, "está gravada cunha versión posterior á que pode ler este programa"),
   T(DE, "wurde mit einer neueren Version gespeichert, als dieses Programm lesen kann"))
 X(importado, T(ES, "importado en"), T(FR, "importé dans"), T(PT_BR, "importado para"), T(CA, "importat a"),
@@ -117,7 +149,7 @@ X(ejemplo, T(ES, "ejemplo"), T(FR, "exemple"), T(PT_BR, "exemplo"), T(CA, "exemp
 X(formato, T(ES, "Formato"), T(FR, "Format"), T(PT_BR, "Formato"), T(CA, "Format"), T(IT, "Formato"), T(EN, "Format"),
   T(GL, "Formato"), T(DE, "Format"))
 X(actual, T(ES, "la actual es la"), T(FR, "l'actuelle est la"), T(PT_BR, "a atual é a"), T(CA, "l'actual és la"),
-  T(IT, "l'attuale è la"), T(EN, "the present one is"), T(GL, "a actual é a"), T(DE, "die aktuelle ist"))
+  T(IT, "l'attuale è la"), T(EN, "current:"), T(GL, "a actual é a"), T(DE, "die aktuelle ist"))
 X(dibujo, T(ES, "Dibujo"), T(FR, "Dessin"), T(PT_BR, "Desenho"), T(CA, "Dibuix"), T(IT, "Disegno"), T(EN, "Drawing"),
   T(GL, "Debuxo"), T(DE, "Zeichnung"))
 X(unidad, T(ES, "m por unidad"), T(FR, "m par unité"), T(PT_BR, "m por unidade"), T(CA, "m per unitat"),
@@ -194,3 +226,5 @@ X(contornos, T(ES, "contornos cerrados"), T(FR, "contours fermés"), T(PT_BR, "c
   T(DE, "geschlossene Umrisse"))
 X(cruces, T(ES, "cruces"), T(FR, "intersections"), T(PT_BR, "cruzamentos"), T(CA, "encreuaments"),
   T(IT, "intersezioni"), T(EN, "crossings"), T(GL, "cruzamentos"), T(DE, "Kreuzungen"))
+X(al_menos, T(ES, "al menos"), T(FR, "au moins"), T(PT_BR, "pelo menos"), T(CA, "com a mínim"), T(IT, "almeno"),
+  T(EN, "at least"), T(GL, "polo menos"), T(DE, "mindestens"))

@@ -2,7 +2,8 @@
 //   obra importa PLANO.dxf OBRA [CAMPO=VALOR...]   a drawing into a project file
 //   obra informa OBRA [--sistema ...] [--energia ...] [--idioma N]
 //                                                  what a project file holds, in a system of units and a language
-// A failure is one line on the error stream and exit status 1; nothing is lost or left half written.
+// A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or left
+// half written.
 #include "dxf.h"
 #include "foundation/avisos.h"
 #include "foundation/error_interno.h"
@@ -16,6 +17,7 @@
 #include "plataforma/argumentos.h"
 #include "posesion.h"
 #include <cstdio>
+#include <new>
 
 namespace {
 
@@ -31,12 +33,13 @@ int falla(const std::string &fichero, const std::string &que) {
     return 1;
 }
 
-int uso() {
-    std::fprintf(stderr, "%s\n", di(mensaje::uso).c_str());
-    return 1;
+// What is wrong with the arguments, and how they are written.
+int uso(const std::string &que) {
+    std::fprintf(stderr, "obra: %s\n%s\n", que.c_str(), di(mensaje::uso).c_str());
+    return 2;
 }
 
-// The reports of the library are for its developers: this program says its own line, and shows them when asked to.
+// The reports of the library are for its developers: this program says its own line.
 void recibe_informe(const vninforme *, void *) {}
 
 // 0, or the exit status when there is no such file to read.
@@ -47,23 +50,34 @@ int comprueba_que_se_lee(const std::string &nombre) {
     return 0;
 }
 
+int lee_plano(const std::string &dxf, plano &p) {
+    noticias_dxf n;
+    switch (lee_dxf(ancho(dxf), p, n)) {
+    case lectura_dxf::bien: break;
+    case lectura_dxf::no_se_lee: return falla(dxf, di(mensaje::no_se_lee));
+    case lectura_dxf::no_es_dxf: return falla(dxf, di(mensaje::no_es_dxf));
+    case lectura_dxf::es_binario: return falla(dxf, di(mensaje::es_binario));
+    case lectura_dxf::danado: return falla(dxf, di(mensaje::danado) + " " + std::to_string(n.linea));
+    case lectura_dxf::demasiado_grande: return falla(dxf, di(mensaje::demasiado));
+    }
+    if (n.sin_final) falla(dxf, di(mensaje::sin_final));
+    if (n.unidad_ignorada) falla(dxf, di(mensaje::unidad_ignorada) + " " + std::to_string(*n.unidad_ignorada));
+    return 0;
+}
+
 int importa(const std::vector<std::string> &args) {
+    if (args.size() < 4) return uso(di(args.size() < 3 ? mensaje::falta_plano : mensaje::falta_obra));
     const std::string &dxf = args[2], &destino = args[3];
     campos_t campos;
     for (size_t i = 4; i < args.size(); ++i) {
         const size_t igual = args[i].find('=');
-        if (igual == std::string::npos || igual == 0) return uso();
+        if (igual == std::string::npos || igual == 0) return uso(args[i] + ": " + di(mensaje::sobra));
         campos.emplace_back(ancho(args[i].substr(0, igual)), ancho(args[i].substr(igual + 1)));
     }
     if (const int e = comprueba_que_se_lee(dxf); e != 0) return e;
     if (vdir_existe_directorio_UNICODE(ancho(destino).c_str()) == CIERTO) return falla(destino, di(mensaje::es_directorio));
     plano p;
-    switch (lee_dxf(dxf, p)) {
-    case lectura_dxf::bien: break;
-    case lectura_dxf::no_se_abre: return falla(dxf, di(mensaje::sin_lector));
-    case lectura_dxf::no_es_dxf: return falla(dxf, di(mensaje::no_es_dxf));
-    case lectura_dxf::demasiado_grande: return falla(dxf, di(mensaje::demasiado));
-    }
+    if (const int e = lee_plano(dxf, p); e != 0) return e;
     const size_t barra = dxf.find_last_of("/\\");
     const texto titulo = ancho(barra == std::string::npos ? dxf : dxf.substr(barra + 1));
     if (!graba_obra(ancho(destino), p, titulo, campos)) return falla(destino, di(mensaje::no_se_graba));
@@ -74,10 +88,7 @@ int importa(const std::vector<std::string> &args) {
 int informa(const std::vector<std::string> &args) {
     opciones dichas;
     std::string falta;
-    if (!lee_opciones({args.begin() + 2, args.end()}, dichas, falta)) {
-        std::fprintf(stderr, "obra: %s\n", falta.c_str());
-        return uso();
-    }
+    if (!lee_opciones({args.begin() + 2, args.end()}, dichas, falta)) return uso(falta);
     aplica(dichas);
     const std::string &nombre = dichas.obra;
     if (const int e = comprueba_que_se_lee(nombre); e != 0) return e;
@@ -93,9 +104,12 @@ int informa(const std::vector<std::string> &args) {
 }
 
 int ejecuta(const std::vector<std::string> &args) {
-    if (args.size() >= 4 && args[1] == "importa") return importa(args);
-    if (args.size() >= 2 && args[1] == "informa") return informa(args);
-    return uso();
+    for (const std::string &a : args)
+        if (a == "--help" || a == "-h") return std::puts(di(mensaje::uso).c_str()) < 0;
+    if (args.size() < 2) return uso(di(mensaje::falta_orden));
+    if (args[1] == "importa") return importa(args);
+    if (args[1] == "informa") return informa(args);
+    return uso(args[1] + ": " + di(mensaje::sobra));
 }
 
 } // namespace
@@ -104,6 +118,14 @@ int main(int argc, char **argv) {
     prepara_consola();
     version_establece_u(VNU("0.1.a"), VNU("0.1"), 'a');
     error_interno_instala_receptor(recibe_informe, nullptr);
-    const int salida = ejecuta(argumentos_utf8(argc, argv));
-    return std::fflush(stdout) == 0 ? salida : 1;
+    mensaje::habla_un_solo_idioma();
+    int salida = 1;
+    try {
+        salida = ejecuta(argumentos_utf8(argc, argv));
+    } catch (const std::bad_alloc &) {
+        std::fprintf(stderr, "obra: %s\n", di(mensaje::sin_memoria).c_str());
+    }
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return salida;
+    std::fprintf(stderr, "obra: %s\n", di(mensaje::sin_salida).c_str());
+    return 1;
 }

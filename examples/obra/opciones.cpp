@@ -30,10 +30,12 @@ bool toma(const valor_con_nombre (&tabla)[N], const std::string &dicho, std::opt
 bool toma_idioma(const std::string &dicho, std::optional<int> &donde, std::string &validos) {
     int n = -1;
     const auto [fin, error] = std::from_chars(dicho.data(), dicho.data() + dicho.size(), n);
-    validos = "0 .. " + std::to_string(NUM_IDIOMAS);
-    if (error != std::errc() || fin != dicho.data() + dicho.size() || n < 0 || n > NUM_IDIOMAS) return false;
-    donde = n;
-    return true;
+    if (error != std::errc() || fin != dicho.data() + dicho.size()) n = -1;
+    for (const int i : mensaje::IDIOMAS) {
+        if (i == n) donde = n;
+        validos += (validos.empty() ? "" : ", ") + std::to_string(i);
+    }
+    return donde.has_value();
 }
 
 // An option and its value; each at most once.

@@ -12,7 +12,7 @@ struct opciones {
     std::string obra;
     std::optional<uint32_t> sistema; // VORNCONF_SU_*
     std::optional<uint32_t> energia; // VORNNORM_UNIDAD_ENERGIA_*
-    std::optional<int> idioma;       // 0 to 40
+    std::optional<int> idioma;       // one that the program has texts in
 };
 
 // From the words behind "informa": one name of a file, and options anywhere. False on any that is wrong; `falta` says

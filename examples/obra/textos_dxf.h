@@ -5,21 +5,25 @@
 
 namespace obra {
 
-// While it lives, the active ANSI page is that of a drawing: UTF-8 from version AC1021 on, else what $DWGCODEPAGE says.
-class pagina_del_dibujo {
+// While it lives, the active ANSI page is that of a drawing: what $DWGCODEPAGE says, else 1252.
+class textos_dxf {
   public:
-    pagina_del_dibujo(const std::string &version, const std::string &pagina);
-    ~pagina_del_dibujo();
-    pagina_del_dibujo(const pagina_del_dibujo &) = delete;
-    pagina_del_dibujo &operator=(const pagina_del_dibujo &) = delete;
+    textos_dxf(const std::string &version, const std::string &pagina);
+    ~textos_dxf();
+    textos_dxf(const textos_dxf &) = delete;
+    textos_dxf &operator=(const textos_dxf &) = delete;
+
+    // Wide text of a value, UTF-8 from version AC1021 on; \U+XXXX, \M+nXXXX, ^x, %%c, %%d, %%p, %%nnn become what they
+    // stand for, and what only underlines is dropped.
+    texto sencillo(const std::string &bytes) const;
+    // A paragraph text, without its formatting codes; ends of paragraph become spaces.
+    texto parrafo(const std::string &bytes) const;
 
   private:
-    uint32_t anterior_;
-};
+    texto ancho(const std::string &bytes) const;
 
-// Wide text of the bytes of a DXF, in the active page; \U+XXXX and %%c, %%d, %%p, %%nnn become what they stand for.
-texto a_texto(const std::string &bytes);
-// A paragraph text without its formatting codes; ends of paragraph become spaces.
-std::string sin_formato(const std::string &bytes);
+    uint32_t anterior_;
+    bool utf8_;
+};
 
 } // namespace obra

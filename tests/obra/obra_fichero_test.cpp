@@ -1,15 +1,9 @@
 // Project files of the sample host: what is saved comes back, and what has been damaged is refused whole.
-#include "foundation/operaciones_fichero.h"
 #include "fallos.h"
 #include "informe.h"
-#include "memoria.h"
-#include "persistence/vornbin.h"
 #include "plano_fichero.h"
 #include "propiedades.h"
 #include "prueba.h"
-#include <cmath>
-#include <cstring>
-#include <limits>
 
 using namespace obra;
 
@@ -74,29 +68,6 @@ bool graba(const Fichero &f, const campos_t &campos = {}) {
     return graba_obra(f.ancho, plano_de_prueba(), vn::ancho("Un t\u00edtulo"), campos);
 }
 
-// Bytes that the tracked heap is asked for, freed or not: more than its peak.
-std::atomic<uint64_t> pedidos{0};
-vnbool cuenta_pedidos(size_t n, void *) {
-    pedidos += n;
-    return CIERTO;
-}
-
-// Reads damaged bytes: never a crash, a leak or memory without bound. Returns whether they were taken.
-bool lee_bytes(vn::ficheros_en_memoria &disco, const Fichero &f, const std::string &bytes) {
-    disco.pon(f.ancho, bytes);
-    pedidos = 0;
-    vornspy_instala_permiso(cuenta_pedidos, nullptr);
-    obra_leida o;
-    std::string motivo;
-    const lectura_obra r = lee_obra(f.ancho, o, motivo);
-    vornspy_instala_permiso(nullptr, nullptr);
-    // 16 MiB for the run-coded arrays, of which the file has several; 1 MiB where they are as they were written.
-    EXPECT_LE(pedidos.load(), (r == lectura_obra::bien ? 1u << 20 : 16u << 20) + 8 * bytes.size()) << motivo;
-    EXPECT_EQ(r == lectura_obra::no_es_obra, !motivo.empty());
-    EXPECT_EQ(r == lectura_obra::bien, !o.secciones.empty());
-    return r == lectura_obra::bien;
-}
-
 } // namespace
 
 PRUEBA(obra_fichero, lo_que_se_graba_se_lee_y_los_campos_se_conservan) {
@@ -130,47 +101,19 @@ PRUEBA(obra_fichero, los_bytes_son_los_mismos_en_toda_plataforma) {
     EXPECT_EQ((vn::huella() << bytes)(), 2748994739658136108u);
 }
 
-PRUEBA(obra_fichero, cortado_en_cada_byte_se_rechaza_y_cambiado_no_rompe) {
-    const Fichero f;
-    vn::ficheros_en_memoria disco;
-    ASSERT_TRUE(graba(f, {{vn::ancho("autor"), vn::ancho("A")}}));
-    const std::string bytes = disco.dame(f.ancho);
-    for (size_t n = 0; n < bytes.size(); ++n) ASSERT_FALSE(lee_bytes(disco, f, bytes.substr(0, n))) << n;
-    ASSERT_TRUE(lee_bytes(disco, f, bytes));
-    ASSERT_FALSE(lee_bytes(disco, f, bytes + "x"));
-    // Bits and counts changed: read or refused.
-    for (size_t i = 0; i < bytes.size(); ++i) {
-        std::string otro = bytes;
-        otro[i] = static_cast<char>(otro[i] ^ (1 << i % 8));
-        lee_bytes(disco, f, otro);
-    }
-    constexpr uint32_t LIMITES[] = {0, 1, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 0x10000, 0xFFFFFFF0};
-    for (size_t i = 0; i + 4 <= bytes.size(); i += 3) {
-        std::string otro = bytes;
-        std::memcpy(otro.data() + i, &LIMITES[i / 3 % std::size(LIMITES)], 4);
-        lee_bytes(disco, f, otro);
-    }
-}
-
-PRUEBA(obra_fichero, otra_firma_una_version_superior_y_lo_que_no_es_un_fichero) {
+PRUEBA(obra_fichero, una_version_superior_y_lo_que_no_es_una_obra) {
     const Fichero f;
     obra_leida o;
     std::string motivo;
-    vn::ficheros_en_memoria disco;
     ASSERT_TRUE(graba(f));
-    const std::string bytes = disco.dame(f.ancho);
-    std::string otro = bytes;
-    const size_t firma = otro.find(FIRMA);
-    ASSERT_NE(firma, std::string::npos);
-    otro[firma] = 'X';
-    EXPECT_FALSE(lee_bytes(disco, f, otro));
-    otro = bytes;
-    otro[firma - 4] = 99; // the version stands before the signature's length
-    disco.pon(f.ancho, otro);
+    std::string otro = vn::lee_fichero(f.utf8);
+    otro[otro.find(FIRMA) - 4] = 99; // the version stands before the signature's length
+    vn::graba_fichero(f.utf8, otro);
     EXPECT_EQ(lee_obra(f.ancho, o, motivo), lectura_obra::version_superior);
-    operaciones_fichero_instala(nullptr);
-    EXPECT_EQ(lee_obra(vn::ancho(directorio()), o, motivo), lectura_obra::no_es_obra);
-    EXPECT_EQ(lee_obra(vn::ancho(directorio() + "/no est\u00e1"), o, motivo), lectura_obra::no_es_obra);
+    for (const std::string &nombre : {directorio(), directorio() + "/no est\u00e1"}) {
+        EXPECT_EQ(lee_obra(vn::ancho(nombre), o, motivo), lectura_obra::no_es_obra);
+        EXPECT_FALSE(motivo.empty());
+    }
 }
 
 // Every boundary of a save, the death of the program at each one included.
@@ -178,39 +121,3 @@ GUARDADO(obra_de_ejemplo) {
     return graba_obra(vn::ancho(fichero), plano_de_prueba(), vn::ancho(std::string("Edici\u00f3n ") + static_cast<char>('0' + edicion)), {});
 }
 PRUEBA(obra_fichero, un_guardado_deja_la_obra_de_antes_o_la_nueva) { vn::comprueba_guardado("obra_de_ejemplo"); }
-
-// Memory runs out at the k-th allocation, once or from there on: the trap gets it, nothing is lost or left behind.
-PRUEBA(obra_fichero, sin_memoria_en_cada_reserva) {
-    struct fallo {
-        uint64_t en, van = 0;
-        bool para_siempre;
-    };
-    const auto permiso = [](size_t, void *datos) -> vnbool {
-        auto *q = static_cast<fallo *>(datos);
-        const uint64_t n = q->van++;
-        return n == q->en || (n > q->en && q->para_siempre) ? FALSO : CIERTO;
-    };
-    const Fichero f;
-    bool hecho = false;
-    ASSERT_TRUE(graba(f));
-    const std::string antes = vn::lee_fichero(f.utf8);
-    const auto graba_y_lee = [&] {
-        obra_leida o;
-        std::string motivo;
-        hecho = graba(f) && lee_obra(f.ancho, o, motivo) == lectura_obra::bien;
-    };
-    for (const bool para_siempre : {false, true}) {
-        bool acabado = false;
-        for (uint64_t k = 0; !acabado; ++k) {
-            fallo q{k, 0, para_siempre};
-            hecho = false;
-            vornspy_instala_permiso(permiso, &q);
-            vn::atrapado(graba_y_lee);
-            vornspy_instala_permiso(nullptr, nullptr);
-            acabado = q.van <= k;
-            EXPECT_EQ(hecho, acabado) << k;
-            ASSERT_EQ(vn::lee_fichero(f.utf8), antes) << k;
-        }
-    }
-    EXPECT_FALSE(vn::existe(f.utf8 + "_TM$"));
-}

@@ -56,6 +56,7 @@ PRUEBA(obra_geometria, el_barrido_encuentra_los_mismos_cruces_que_todos_con_todo
             const auto punto = [&] { return Punto2D{static_cast<double>(z.entero_entre(-lado, lado)), z.entre(-3, 3)}; };
             c.lineas.push_back({punto(), punto()});
             if (i % 5 == 0) c.lineas.back().b = c.lineas[static_cast<size_t>(i) / 2].a; // an end in common
+            c.lineas.back().a.y += lado == 5 ? 0 : 100. * static_cast<double>(i % 7); // and in heaps
         }
         size_t todos = 0;
         for (size_t i = 0; i < c.lineas.size(); ++i)
@@ -66,7 +67,31 @@ PRUEBA(obra_geometria, el_barrido_encuentra_los_mismos_cruces_que_todos_con_todo
                 todos += !((p_igual(r, &s.a) || p_igual(r, &s.b)) && (p_igual(r, &t.a) || p_igual(r, &t.b)));
                 vornspy_free_pp(&r, sizeof(Punto2D));
             }
-        EXPECT_EQ(geometria_de(c, 1).cruces, todos);
         EXPECT_GT(todos, 1000u);
+        EXPECT_EQ(geometria_de(c, 1).cruces, todos);
+        // Pasted onto itself, there and back, with pieces of no length: the same drawing.
+        for (const linea &l : std::vector(c.lineas)) c.lineas.insert(c.lineas.end(), {{l.b, l.a}, l, {l.a, l.a}});
+        EXPECT_EQ(geometria_de(c, 1).cruces, todos);
+        EXPECT_FALSE(geometria_de(c, 1).hay_mas_cruces);
     }
+}
+
+// What grows with the square of a drawing is left at a bound, and said; what only looks so is counted.
+PRUEBA(obra_geometria, los_cruces_y_los_contornos_de_un_dibujo_hecho_para_costar) {
+    capa estrella, rayado, repetido, cuadros;
+    for (int i = 0; i < 8000; ++i) estrella.lineas.push_back({{std::cos(i), std::sin(i)}, {-std::cos(i), -std::sin(i)}});
+    for (int i = 0; i < 60000; ++i) {
+        rayado.lineas.push_back({{i * .01, 0}, {i * .01 + 1000, 1000}});
+        repetido.lineas.insert(repetido.lineas.end(), {{{0, 0}, {1, 1}}, {{5, 5}, {5, 5}}});
+    }
+    // Squares whose ends are the last bit apart, in eighths of an inch.
+    for (int i = 0; i < 200; ++i) {
+        const double x = i / 8., bit = i % 2 == 0 ? 4e-12 : 0;
+        cuadros.lineas.insert(cuadros.lineas.end(), {{{x, 0}, {x + .1, 0}}, {{x + .1 + bit, 0}, {x + .1, .1}}, {{x + .1, .1 - bit}, {x, .1}}, {{x, .1}, {x - bit, 0}}});
+    }
+    EXPECT_TRUE(geometria_de(estrella, 1).hay_mas_cruces);
+    EXPECT_GE(geometria_de(estrella, 1).cruces, 1'000'000u);
+    for (const capa *c : {&rayado, &repetido}) EXPECT_TRUE(geometria_de(*c, 1).cruces == 0 && !geometria_de(*c, 1).hay_mas_cruces);
+    EXPECT_EQ(geometria_de(cuadros, .0254).contornos, 200u);
+    EXPECT_EQ(geometria_de(repetido, 1).contornos, 0u);
 }
