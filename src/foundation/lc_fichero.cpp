@@ -99,9 +99,15 @@ vnfichero *abre_con(const vnwchar *nombre, const vnwchar *modo, const paciencia 
     return abre(nombre, m, p, informa, modulo, linea);
 }
 
+// At the end of a stream: what it was told that made no sense is a failure now.
+void vacia_del_todo(vnfichero &f) {
+    vacia(f);
+    if (f.sin_sentido) f.fallo_escritura = true;
+}
+
 // Closes the file; true if all that was written is where it should be.
 bool cierra(vnfichero &f, bool a_disco) {
-    vacia(f);
+    vacia_del_todo(f);
     vnerror_fichero e = VN_FICH_BIEN;
     if (!f.fallo_escritura && a_disco) e = operaciones().vuelca(f.id);
     if (f.id != VN_FICHERO_NINGUNO) {
@@ -344,7 +350,7 @@ vnfichero *flujo_de(std::unique_ptr<guardado> g, const char *modulo, uint32_t li
 }
 
 std::unique_ptr<guardado> toma_guardado(vnfichero &f) {
-    vacia(f);
+    vacia_del_todo(f);
     f.id = VN_FICHERO_NINGUNO;
     return std::unique_ptr<guardado>(std::exchange(f.guardado, nullptr));
 }

@@ -48,8 +48,9 @@ vnfichero *f_lc_fopen_un_solo_intento_u(const vnwchar *nombre, const vnwchar *mo
     write, and nobody else can open it to write until it is closed. `modo` writes. `informa`: report a failure. */
 vnfichero *f_lc_fopen_modo_escritura_u(const vnwchar *nombre, const vnwchar *modo, vnbool informa,
                                        VN_OPC const char *modulo, uint32_t linea);
-/** Closes the stream and frees it. CIERTO when everything that was written has reached the system. A failure to write
-    that had not been reported is reported now. */
+/** Closes the stream and frees it. CIERTO when everything that was written has reached the system, and it made sense: a
+    null text, or a section left open, has been reported by who was told so, and ends here. A failure to write that had
+    not been reported is reported now. */
 vnbool lc_fclose(VN_CONSUME vnfichero *f);
 /** As lc_fclose; nothing is reported. For owners that close on the way out of a failure. */
 vnbool lc_fclose_seguro(VN_CONSUME vnfichero *f);
@@ -89,7 +90,7 @@ vnerror_fichero lc_ultimo_error(VN_OPC const vnfichero *f);
 const vnwchar *lc_texto_error_u(vnerror_fichero error);
 /** Whether a read has met the end since the last seek. */
 vnbool f_lc_feof(const vnfichero *f);
-/** Whether a read or a write has failed; lc_error_* and short reads that were reported count. */
+/** Whether a read or a write has failed; lc_error_*, short reads that were reported and senseless values count. */
 vnbool f_lc_ferror(const vnfichero *f);
 vnbool lc_ha_fallado(const vnfichero *f);
 /** Forgets the end of the file and failures to read; a failure to write stays. */

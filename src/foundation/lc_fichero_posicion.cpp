@@ -47,7 +47,7 @@ using namespace vn;
 
 vnbool f_lc_feof(const vnfichero *f) { return AFIRMA_NO_NULO(f) && f->al_final ? CIERTO : FALSO; }
 vnbool f_lc_ferror(const vnfichero *f) {
-    return AFIRMA_NO_NULO(f) && (f->fallo_lectura || f->fallo_escritura) ? CIERTO : FALSO;
+    return AFIRMA_NO_NULO(f) && (f->fallo_lectura || f->fallo_escritura || f->sin_sentido) ? CIERTO : FALSO;
 }
 vnbool lc_ha_fallado(const vnfichero *f) { return f_lc_ferror(f); }
 

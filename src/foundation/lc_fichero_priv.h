@@ -27,6 +27,8 @@ struct vnfichero {
     bool lee, escribe, anade, traduce, con_posicion;
     bool al_final, fallo_lectura, fallo_escritura, informado;
     vnerror_fichero error; // the first one of the system's
+    bool sin_sentido; // of what it was given to write
+    bool etiquetas_al_leer, etiquetas_al_escribir; // each binary value has the letter of its kind before it
 };
 
 namespace vn {
@@ -71,6 +73,15 @@ vnerror_fichero motivo_de_escritura(const vnfichero &f);
 // A report with a file's name as its detail, and the reason behind it if there is one.
 void informa_con_motivo(const vnwchar *expresion, const char *modulo, uint32_t linea, const vnwchar *nombre,
                         vnerror_fichero e);
+// What was told made no sense, and that has been reported: a stream that writes goes on, but its close fails, so that the
+// old file stays; what is read is not to be trusted. Quiet; nothing for null.
+inline void marca_fallo_escritura(vnfichero *f) {
+    if (f != nullptr && f->escribe) f->sin_sentido = true;
+}
+inline void marca_fallo_lectura(vnfichero *f) {
+    if (f != nullptr && f->lee) f->fallo_lectura = true;
+}
+
 // Reports that a file, by its name, could not be written.
 void informa_que_no_se_escribe(const vnwchar *nombre, vnerror_fichero e);
 

@@ -8,158 +8,77 @@
 
 namespace vn {
 
-// No lock, as told; atomic so that two threads that save plain files do not race on the flag that each clears.
-std::atomic<bool> bin_etiquetas_al_escribir{false};
-std::atomic<bool> bin_etiquetas_al_leer{false};
-
 void bin_graba_modo_debug(vnfichero *f) {
-    if (vnstdc_getenv("GRABARCONDEBUG") != nullptr) bin_etiquetas_al_escribir = true;
-    const uint8_t modo = bin_etiquetas_al_escribir ? 1 : 0;
+    f->etiquetas_al_escribir = vnstdc_getenv("GRABARCONDEBUG") != nullptr;
+    const uint8_t modo = f->etiquetas_al_escribir ? 1 : 0;
     vnfichero_pon(f, &modo, 1, VN_AQUI);
 }
 
 bool bin_lee_modo_debug(vnfichero *f) {
     uint8_t modo = 0;
     if (f_lc_fread_sin_error(&modo, 1, 1, f) != 1 || modo > 1) return false;
-    bin_etiquetas_al_leer = modo == 1;
+    f->etiquetas_al_leer = modo == 1;
     return true;
 }
 
-} // namespace vn
-
-namespace {
-
-// Everything off the fast path is a call in tail position that takes values, not addresses: on the fast path nothing is
-// saved and the value stays in its register.
-void pon_etiqueta(char etiqueta, vnfichero *f) {
-    if (vn::bin_etiquetas_al_escribir) vnfichero_pon(f, &etiqueta, 1, VN_AQUI);
+template <class T> void graba_despacio(T dato, char etiqueta, vnfichero *f) {
+    if (!AFIRMA_NO_NULO(f)) return;
+    if (f->etiquetas_al_escribir) vnfichero_pon(f, &etiqueta, 1, VN_AQUI);
+    if constexpr (std::is_same_v<T, double>)
+        AFIRMA_TEXTO(es_numero_valido(dato), "defmath_es_numero_valido(dato) == CIERTO");
+    vnfichero_pon(f, &dato, sizeof dato, VN_AQUI);
 }
 
-void comprueba_etiqueta(char etiqueta, vnfichero *f) {
-    if (!vn::bin_etiquetas_al_leer) return;
-    char leida = 0;
-    vnfichero_toma(f, &leida, 1, VN_AQUI);
-    if (leida != etiqueta) lc_error_leyendo_fichero(f);
-}
-
-template <class T> [[gnu::noinline]] void pon_al_final_del_buffer(T dato, vnfichero *f) {
-    f_lc_fwrite(&dato, sizeof dato, 1, f, VN_AQUI);
-}
-
-template <class T> [[gnu::noinline]] T toma_al_final_del_buffer(vnfichero *f) {
+template <class T> T lee_despacio(char etiqueta, vnfichero *f) {
+    if (!AFIRMA_NO_NULO(f)) return {};
+    if (f->etiquetas_al_leer) {
+        char leida = 0;
+        vnfichero_toma(f, &leida, 1, VN_AQUI);
+        if (leida != etiqueta) lc_error_leyendo_fichero(f);
+    }
     T dato{};
-    f_lc_fread(&dato, sizeof dato, 1, f, VN_AQUI);
+    vnfichero_toma(f, &dato, sizeof dato, VN_AQUI);
     return dato;
 }
 
-template <class T> inline void pon(T dato, vnfichero *f) {
-    auto *v = reinterpret_cast<vnfichero_ventana *>(f);
-    if (v->fin_escritura - v->pos >= static_cast<ptrdiff_t>(sizeof(T))) [[likely]] {
-        memcpy(v->pos, &dato, sizeof(T));
-        v->pos += sizeof(T);
-    } else {
-        pon_al_final_del_buffer(dato, f);
-    }
-}
+#define DESPACIO(tipo)                                                                                                 \
+    template void graba_despacio(tipo, char, vnfichero *);                                                             \
+    template tipo lee_despacio(char, vnfichero *);
+DESPACIO(uint8_t) DESPACIO(char) DESPACIO(int16_t) DESPACIO(uint16_t) DESPACIO(int32_t) DESPACIO(uint32_t)
+DESPACIO(int64_t) DESPACIO(uint64_t) DESPACIO(float) DESPACIO(double)
 
-template <class T> inline T toma(vnfichero *f) {
-    auto *v = reinterpret_cast<vnfichero_ventana *>(f);
-    if (v->fin_lectura - v->pos >= static_cast<ptrdiff_t>(sizeof(T))) [[likely]] {
-        T dato;
-        memcpy(&dato, v->pos, sizeof(T));
-        v->pos += sizeof(T);
-        return dato;
-    }
-    return toma_al_final_del_buffer<T>(f);
-}
+} // namespace vn
 
-template <class T> [[gnu::cold, gnu::noinline]] void graba_despacio(T dato, char etiqueta, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(f)) return;
-    pon_etiqueta(etiqueta, f);
-    pon(dato, f);
-}
-
-template <class T> [[gnu::cold, gnu::noinline]] T lee_despacio(char etiqueta, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(f)) return {};
-    comprueba_etiqueta(etiqueta, f);
-    return toma<T>(f);
-}
-
-// One scalar, whole. Inline in each operation, so that none calls another through the export table.
-template <class T> inline void graba_escalar(T dato, char etiqueta, vnfichero *f) {
-    if (f == nullptr || vn::bin_etiquetas_al_escribir.load(std::memory_order_relaxed)) [[unlikely]]
-        return graba_despacio(dato, etiqueta, f);
-    pon(dato, f);
-}
-
-template <class T> inline T lee_escalar(char etiqueta, vnfichero *f) {
-    if (f == nullptr || vn::bin_etiquetas_al_leer.load(std::memory_order_relaxed)) [[unlikely]]
-        return lee_despacio<T>(etiqueta, f);
-    return toma<T>(f);
-}
-
-// A finite number, without a call: the exponent is not all ones.
-inline bool es_numero_valido(double x) {
-    uint64_t bits;
-    memcpy(&bits, &x, sizeof bits);
-    return (bits & 0x7FF0000000000000u) != 0x7FF0000000000000u;
-}
-
-[[gnu::cold, gnu::noinline]] void graba_double_despacio(double dato, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(f)) return;
-    pon_etiqueta('d', f);
-    AFIRMA_TEXTO(es_numero_valido(dato), "defmath_es_numero_valido(dato) == CIERTO");
-    pon(dato, f);
-}
-
-} // namespace
-
-// A row: type, tag, writer, reader.
-#define ESCALARES(X)                                                                                                   \
-    X(uint8_t, 'b', bin_graba_byte, bin_lee_byte)                                                                      \
-    X(char, 'c', bin_graba_char, bin_lee_char)                                                                         \
-    X(uint8_t, 'u', bin_graba_uchar, bin_lee_uchar)                                                                    \
-    X(int16_t, 's', bin_graba_short, bin_lee_short)                                                                    \
-    X(uint16_t, 'u', bin_graba_ushort, bin_lee_ushort)                                                                 \
-    X(int32_t, 'l', bin_graba_long, bin_lee_long)                                                                      \
-    X(uint32_t, 'u', bin_graba_ulong, bin_lee_ulong)                                                                   \
-    X(int64_t, 'l', bin_graba_long64, bin_lee_long64)                                                                  \
-    X(uint64_t, 'u', bin_graba_ulong64, bin_lee_ulong64)                                                               \
-    X(float, 'f', bin_graba_float, bin_lee_float)
-#define X(tipo, etiqueta, graba, lee)                                                                                  \
-    void graba(tipo dato, vnfichero *f) { graba_escalar<tipo>(dato, etiqueta, f); }                                    \
-    tipo lee(vnfichero *f) { return lee_escalar<tipo>(etiqueta, f); }
-ESCALARES(X)
+#define X(tipo, etiqueta, nombre, graba, lee)                                                                          \
+    void graba(tipo dato, vnfichero *f) { vn::directo::graba_##nombre(dato, f); }                                      \
+    tipo lee(vnfichero *f) { return vn::directo::lee_##nombre(f); }
+VN_BIN_ESCALARES(X)
 #undef X
 
-void bin_graba_double(double dato, vnfichero *f) {
-    if (f == nullptr || vn::bin_etiquetas_al_escribir.load(std::memory_order_relaxed) || !es_numero_valido(dato)) [[unlikely]]
-        return graba_double_despacio(dato, f);
-    pon(dato, f);
-}
+void bin_graba_double(double dato, vnfichero *f) { vn::directo::graba_double(dato, f); }
 
-double bin_lee_double(vnfichero *f) { return lee_escalar<double>('d', f); }
+double bin_lee_double(vnfichero *f) { return vn::directo::lee_double(f); }
 
 void bin_graba_bool(vnbool valor, vnfichero *f) {
-    AFIRMA_LOGICO(valor);
-    graba_escalar(static_cast<uint8_t>(valor), 'b', f);
+    if (!AFIRMA_LOGICO(valor)) vn::marca_fallo_escritura(f);
+    vn::directo::graba_byte(static_cast<uint8_t>(valor), f);
 }
 
 vnbool bin_lee_bool(vnfichero *f) {
-    const auto valor = lee_escalar<uint8_t>('b', f);
+    const auto valor = vn::directo::lee_byte(f);
     if (valor > 1) [[unlikely]]
         lc_error_leyendo_fichero(f);
     return valor;
 }
 
 void bin_graba_SN(char dato, vnfichero *f) {
-    AFIRMA(dato == 'S' || dato == 'N');
-    graba_escalar(dato, 'c', f);
+    if (!AFIRMA(dato == 'S' || dato == 'N')) vn::marca_fallo_escritura(f);
+    vn::directo::graba_char(dato, f);
 }
 
 char bin_lee_SN(vnfichero *f) {
     if (!AFIRMA_NO_NULO(f)) return 0;
-    const char dato = lee_escalar<char>('c', f);
+    const char dato = vn::directo::lee_char(f);
     if (dato != 'S' && dato != 'N') lc_error_leyendo_fichero(f);
     return dato;
 }
@@ -229,7 +148,7 @@ template <class T, class F> void por_trozos(T *datos, uint32_t n, uint32_t trozo
 }
 
 template <class T> void graba_bloque(void (*graba)(T, vnfichero *), const T *datos, uint32_t n, vnfichero *f) {
-    if (bin_etiquetas_al_escribir) std::for_each_n(datos, n, [=](T dato) { graba(dato, f); });
+    if (f->etiquetas_al_escribir) std::for_each_n(datos, n, [=](T dato) { graba(dato, f); });
     else f_lc_fwrite(datos, sizeof(T), n, f, VN_AQUI);
 }
 
@@ -253,12 +172,12 @@ bool son_numeros_validos(const double *d, uint32_t n) {
 
 // One look over all of them, and one write: pieces would not meet the pages of the file.
 template <> void graba_bloque(void (*graba)(double, vnfichero *), const double *datos, uint32_t n, vnfichero *f) {
-    if (!bin_etiquetas_al_escribir && son_numeros_validos(datos, n)) f_lc_fwrite(datos, sizeof *datos, n, f, VN_AQUI);
+    if (!f->etiquetas_al_escribir && son_numeros_validos(datos, n)) f_lc_fwrite(datos, sizeof *datos, n, f, VN_AQUI);
     else std::for_each_n(datos, n, [=](double dato) { graba(dato, f); });
 }
 
 template <class T> void lee_bloque(T (*lee)(vnfichero *), T *datos, uint32_t n, vnfichero *f) {
-    if (bin_etiquetas_al_leer) std::generate_n(datos, n, [=] { return lee(f); });
+    if (f->etiquetas_al_leer) std::generate_n(datos, n, [=] { return lee(f); });
     else f_lc_fread(datos, sizeof(T), n, f, VN_AQUI);
 }
 
@@ -266,7 +185,7 @@ template <class T> void lee_bloque(T (*lee)(vnfichero *), T *datos, uint32_t n, 
 
 void bin_graba_bloque_bool(const vnbool *datos, uint32_t n, vnfichero *f) {
     por_trozos(datos, n, TROZO_LOGICOS, [=](const vnbool *d, uint32_t k) {
-        if (bin_etiquetas_al_escribir || std::any_of(d, d + k, [](vnbool v) { return v > 1; })) {
+        if (f->etiquetas_al_escribir || std::any_of(d, d + k, [](vnbool v) { return v > 1; })) {
             std::for_each_n(d, k, [=](vnbool v) { bin_graba_bool(v, f); });
             return;
         }

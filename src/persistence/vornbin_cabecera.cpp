@@ -208,7 +208,6 @@ void graba_mascara_de_ejemplo(vnfichero *f) {
 }
 
 fichero abre_para_leer(const vnwchar *nomfich) {
-    bin_etiquetas_al_leer = false;
     return fichero(f_lc_fopen_u(nomfich, VNU("rb"), VN_AQUI));
 }
 

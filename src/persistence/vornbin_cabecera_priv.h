@@ -72,7 +72,7 @@ void graba_cabecera_copiada(vnfichero *f, const cabecera &c);
 // Overwrites the mask of a file that has a header, leaving the position anywhere.
 void graba_mascara_de_ejemplo(vnfichero *f);
 
-// Opens for reading, reported; clears the tags.
+// Opens for reading, reported.
 fichero abre_para_leer(const vnwchar *nomfich);
 bool esta_en_directorio_ejemplos(const vnwchar *ruta);
 

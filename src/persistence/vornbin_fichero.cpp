@@ -9,9 +9,7 @@
 namespace vn {
 namespace {
 
-// No tags until a prologue says so.
 temporal abre_temporal(const vnwchar *nomfich) {
-    bin_etiquetas_al_escribir = false;
     return temporal(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nomfich));
 }
 

@@ -1,9 +1,9 @@
-// What the binary layer shares inside the library: owners, the debug form's flags, the transfer of whole arrays.
+// What the binary layer shares inside the library: owners, the debug form, scalars, the transfer of whole arrays.
 #pragma once
 
+#include "foundation/lc_fichero_priv.h"
 #include "foundation/propio_priv.h"
 #include "persistence/vornbin.h"
-#include <atomic>
 #include <memory>
 
 namespace vn {
@@ -14,14 +14,74 @@ struct cierra_fichero {
 };
 using fichero = std::unique_ptr<vnfichero, cierra_fichero>;
 
-// Process-wide, set when a file is opened: each value carries the letter of its kind before it.
-extern std::atomic<bool> bin_etiquetas_al_escribir;
-extern std::atomic<bool> bin_etiquetas_al_leer;
-
-// Writes the debug byte that begins a prologue, and turns the tags on for what follows if GRABARCONDEBUG is defined.
+// Writes the debug byte that begins a prologue; if GRABARCONDEBUG is defined, what the stream is given from then on has
+// tags, whatever other files are open.
 void bin_graba_modo_debug(vnfichero *f);
 // Reads it, quietly; false for a byte that is neither 0 nor 1 and at the end of the file.
 bool bin_lee_modo_debug(vnfichero *f);
+
+// The scalars. A row: type, tag, name, writer, reader. The double is one more, whose writer looks at its value.
+#define VN_BIN_ESCALARES(X)                                                                                            \
+    X(uint8_t, 'b', byte, bin_graba_byte, bin_lee_byte)                                                                \
+    X(char, 'c', char, bin_graba_char, bin_lee_char)                                                                   \
+    X(uint8_t, 'u', uchar, bin_graba_uchar, bin_lee_uchar)                                                             \
+    X(int16_t, 's', short, bin_graba_short, bin_lee_short)                                                             \
+    X(uint16_t, 'u', ushort, bin_graba_ushort, bin_lee_ushort)                                                         \
+    X(int32_t, 'l', long, bin_graba_long, bin_lee_long)                                                                \
+    X(uint32_t, 'u', ulong, bin_graba_ulong, bin_lee_ulong)                                                            \
+    X(int64_t, 'l', long64, bin_graba_long64, bin_lee_long64)                                                          \
+    X(uint64_t, 'u', ulong64, bin_graba_ulong64, bin_lee_ulong64)                                                      \
+    X(float, 'f', float, bin_graba_float, bin_lee_float)
+
+// Null streams, tags, the ends of the buffer: off the fast path, a call in tail position that takes values, so that on
+// it nothing is saved and the value stays in its register.
+template <class T> void graba_despacio(T dato, char etiqueta, vnfichero *f);
+template <class T> T lee_despacio(char etiqueta, vnfichero *f);
+
+template <class T> inline void graba_escalar(T dato, char etiqueta, vnfichero *f) {
+    if (f != nullptr && !f->etiquetas_al_escribir) [[likely]] {
+        unsigned char *const pos = f->v.pos;
+        if (f->v.fin_escritura - pos >= static_cast<ptrdiff_t>(sizeof(T))) [[likely]] {
+            memcpy(pos, &dato, sizeof(T));
+            f->v.pos = pos + sizeof(T);
+            return;
+        }
+    }
+    graba_despacio(dato, etiqueta, f);
+}
+template <class T> inline T lee_escalar(char etiqueta, vnfichero *f) {
+    if (f != nullptr && !f->etiquetas_al_leer) [[likely]] {
+        unsigned char *const pos = f->v.pos;
+        if (f->v.fin_lectura - pos >= static_cast<ptrdiff_t>(sizeof(T))) [[likely]] {
+            T dato;
+            memcpy(&dato, pos, sizeof(T));
+            f->v.pos = pos + sizeof(T);
+            return dato;
+        }
+    }
+    return lee_despacio<T>(etiqueta, f);
+}
+
+// A finite number, without a call: the exponent is not all ones.
+inline bool es_numero_valido(double x) {
+    uint64_t bits;
+    memcpy(&bits, &x, sizeof bits);
+    return (bits & 0x7FF0000000000000u) != 0x7FF0000000000000u;
+}
+
+// The scalar operations, inline in whatever stands on them.
+namespace directo {
+#define X(tipo, etiqueta, nombre, graba, lee)                                                                          \
+    inline void graba_##nombre(tipo dato, vnfichero *f) { graba_escalar<tipo>(dato, etiqueta, f); }                    \
+    inline tipo lee_##nombre(vnfichero *f) { return lee_escalar<tipo>(etiqueta, f); }
+VN_BIN_ESCALARES(X)
+#undef X
+inline void graba_double(double dato, vnfichero *f) {
+    if (es_numero_valido(dato)) [[likely]] graba_escalar(dato, 'd', f);
+    else graba_despacio(dato, 'd', f);
+}
+inline double lee_double(vnfichero *f) { return lee_escalar<double>('d', f); }
+} // namespace directo
 
 // Whole arrays: the bytes, the tags and the checks of one call of the scalar operation per element, in one transfer where
 // no tag goes between; a short read is reported once and the rest is zero. `n` elements at `datos`, which may be null if

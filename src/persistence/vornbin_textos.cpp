@@ -43,27 +43,33 @@ char convierte_char(char c) {
     return texto[0];
 }
 
+// What is to be written has passed its check; if not, which has been reported, the save fails.
+bool hay_dato(bool bien, vnfichero *f) {
+    if (!bien) vn::marca_fallo_escritura(f);
+    return bien;
+}
+
 // The flag before something that may be null; only 1 says that it is there.
 bool lee_no_es_null(vnfichero *f) {
     const uint8_t resultado = bin_lee_byte(f);
     if (resultado == 1) return true;
-    AFIRMA(resultado == 0);
+    if (!AFIRMA(resultado == 0)) vn::marca_fallo_lectura(f);
     return false;
 }
 
 } // namespace
 
 void bin_graba_cadena(const char *buf, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(buf) || !AFIRMA_NO_NULO(f)) return;
+    if (!hay_dato(AFIRMA_NO_NULO(buf), f) || !AFIRMA_NO_NULO(f)) return;
     const size_t l = strlen(buf);
-    AFIRMA(l <= USHRT_MAX);
+    hay_dato(AFIRMA(l <= USHRT_MAX), f);
     const auto longitud = static_cast<uint16_t>(l);
     vnfichero_pon(f, &longitud, sizeof longitud, VN_AQUI);
     vnfichero_pon(f, buf, longitud, VN_AQUI);
 }
 
 void bin_graba_cadena_unicode(const vnwchar *buf, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(buf) || !AFIRMA_NO_NULO(f)) return;
+    if (!hay_dato(AFIRMA_NO_NULO(buf), f) || !AFIRMA_NO_NULO(f)) return;
     const size_t l = std::char_traits<vnwchar>::length(buf);
     const auto longitud = static_cast<uint32_t>(l);
     vnfichero_pon(f, &longitud, sizeof longitud, VN_AQUI);
@@ -89,24 +95,24 @@ void bin_graba_double_posible_null(const double *dato, vnfichero *f) {
 }
 
 void bin_graba_punto(const Punto2D *pto, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(pto) || !AFIRMA_NO_NULO(f)) return;
+    if (!hay_dato(AFIRMA_NO_NULO(pto), f) || !AFIRMA_NO_NULO(f)) return;
     bin_graba_double(pto->x, f);
     bin_graba_double(pto->y, f);
 }
 
 void bin_graba_punto2D(const Punto2D *pto, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(pto) || !AFIRMA_NO_NULO(f)) return;
-    if (vn::bin_etiquetas_al_escribir) vnfichero_pon(f, "p", 1, VN_AQUI);
+    if (!hay_dato(AFIRMA_NO_NULO(pto), f) || !AFIRMA_NO_NULO(f)) return;
+    if (f->etiquetas_al_escribir) vnfichero_pon(f, "p", 1, VN_AQUI);
     vnfichero_pon(f, pto, sizeof *pto, VN_AQUI);
 }
 
 void bin_graba_buffer(const void *buf, uint32_t tamanyo, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(buf) || !AFIRMA_NO_NULO(f)) return;
+    if (!hay_dato(AFIRMA_NO_NULO(buf), f) || !AFIRMA_NO_NULO(f)) return;
     f_lc_fwrite(buf, 1, tamanyo, f, VN_AQUI);
 }
 
 void bin_graba_buffer_u(const vnwchar *buf, uint32_t tamanyo, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(buf) || !AFIRMA_NO_NULO(f)) return;
+    if (!hay_dato(AFIRMA_NO_NULO(buf), f) || !AFIRMA_NO_NULO(f)) return;
     f_lc_fwrite(buf, sizeof *buf, tamanyo, f, VN_AQUI);
 }
 
@@ -178,7 +184,7 @@ Punto2D *bin_lee_punto_float(vnfichero *f) {
 
 void bin_lee_punto2D(Punto2D *destino, vnfichero *f) {
     if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(f)) return;
-    if (vn::bin_etiquetas_al_leer) {
+    if (f->etiquetas_al_leer) {
         char etiqueta = 0;
         vnfichero_toma(f, &etiqueta, 1, VN_AQUI);
         if (etiqueta != 'p') lc_error_leyendo_fichero(f);

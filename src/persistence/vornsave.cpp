@@ -70,6 +70,11 @@ bool es_de_memoria(vornsave **vornsave_datos) {
 
 } // namespace
 
+bool vn::falla(const vornsave *vornsave_datos) {
+    if (vornsave_datos != nullptr) vornsave_datos->marca_fallo(vornsave_datos->datos_destino);
+    return false;
+}
+
 vornsave *vornsave_registra_bin(vnfichero *f) {
     return vornsave_registra_bin_con_version(f, nullptr, nullptr);
 }
@@ -136,6 +141,8 @@ void vornsave_libera(vornsave **vornsave_datos) {
     if (!AFIRMA_NO_NULO(*vornsave_datos)) return;
     const std::unique_ptr<vornsave, suelta<destruye_objeto>> objeto(*vornsave_datos);
     *vornsave_datos = nullptr;
+    // What a writer left open has no end: a file with it cannot be read.
+    if (arr_NumElemsPunteroST(objeto->pila_marcas, i_marca_t) > 0) falla(objeto.get());
     switch (objeto->tipo_status_lectura) {
     case 0:
         AFIRMA_TEXTO_CLASE(arr_NumElemsPunteroST(objeto->pila_marcas, i_marca_t) == 0,

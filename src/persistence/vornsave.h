@@ -5,7 +5,9 @@
    skipper takes the object. Arrays and texts that a reader returns are new and the caller's; those given to a
    writer stay the caller's. Where the destination has no form for a value, the missing entry of its table is
    reported and the result is 0 or null. After a report while reading, what comes back is as far as it could
-   be read: 0, an empty text, an array that is shorter or ends in zeros. A stored count is never believed: one
+   be read: 0, an empty text, an array that is shorter or ends in zeros. After a report while writing (a null
+   text, a value that the destination cannot hold, a block that is not closed) the stream is marked: its close
+   answers FALSO, and a file that was to be replaced stays as it was. A stored count is never believed: one
    that the rest of the source cannot hold is reported as an error of reading, and the array comes back empty.
 
    An operation that takes a function of the caller's has a typed form: the same name without `nousar` or,
@@ -108,7 +110,8 @@ vnbool vornsave_se_comprueba_cabecera_bin(const char *marca, vornsave *vornsave_
 vnbool vornsave_es_posible_marcar_bloques(const vornsave *vornsave_datos);
 /** Opens and closes a block or section for writing; what lies between can be passed over by a reader that
    does not know it. They nest. The forms without 64 need positions below 2 GiB. `id` of a block holds no
-   zero. */
+   zero and is not empty. What is left open, closed in another order or ends where its positions cannot tell is
+   reported, and the save fails. */
 void vornsave_graba_inicio_bloque(const char *id, vornsave *vornsave_datos);
 void vornsave_graba_fin_bloque(const char *id, vornsave *vornsave_datos);
 void vornsave_graba_inicio_bloque64(const char *id, vornsave *vornsave_datos);
@@ -124,9 +127,11 @@ void vornsave_lee_final_bloque64(const char *id, vornsave *vornsave_datos);
 /** Whether the block `id` is next; if so it is passed over whole. */
 vnbool vornsave_se_salta_bloque(const char *id, vornsave *vornsave_datos);
 vnbool vornsave_se_salta_bloque64(const char *id, vornsave *vornsave_datos);
-/** Opens the next section: its identifier, a new text. */
+/** Opens the next section: its identifier, a new text. Where no section can stand there, as in a file that has none,
+   that is reported, nothing is opened and the text is empty. */
 char *vornsave_lee_seccion(vornsave *vornsave_datos);
-/** Jumps to the end of the open section `id`, which vornsave_lee_final_seccion then closes. */
+/** Jumps to the end of the open section `id`, which vornsave_lee_final_seccion then closes. One that was not read to
+   its end, or beyond it, is reported there, and the reading goes on behind it; so it does after a block. */
 void vornsave_ir_final_seccion(const char *id, vornsave *vornsave_datos);
 void vornsave_lee_final_seccion(const char *id, vornsave *vornsave_datos);
 
@@ -259,7 +264,7 @@ void vornsave_salta_cadena_campo(vornsave *vornsave_datos, const char *campo);
 void vornsave_graba_cadena_como_buffer(const char *texto, vornsave *vornsave_datos);
 char *vornsave_lee_cadena_como_buffer(vornsave *vornsave_datos);
 /** Bytes as they are; their number is not stored. Reading returns a new block of `tamanyo` + 1 bytes, the
-   last 0, to be freed with vornspy_free_pp. */
+   last 0, to be freed with vornspy_free_pp; null, and reported, where the source does not hold so many. */
 void vornsave_graba_buffer(VN_LON(tamanyo) const void *datos_buffer, uint32_t tamanyo,
                            vornsave *vornsave_datos);
 uint8_t *vornsave_lee_buffer(uint32_t tamanyo, vornsave *vornsave_datos);

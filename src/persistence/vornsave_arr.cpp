@@ -128,7 +128,7 @@ template <class ARR, auto ENTRADA, auto ABIERTA, auto BLOQUE, progreso PROGRESO>
 // A row: operation, array, entry of the last scalar of an element, of those before it, whole arrays, progress.
 #define GRABA_ARR(nombre, arr, entrada, abierta, bloque, progreso)                                                      \
     void nombre(const arr *array, vornsave *vornsave_datos) {                                                          \
-        if (!AFIRMA_NO_NULO(array)) return;                                                                            \
+        if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;                                                  \
         graba_valores<GRABAR(entrada), GRABAR(abierta), &bloques_t::graba_##bloque, progreso>(                         \
             familia<arr>::buffer_const(array), familia<arr>::numelems(array), vornsave_datos);                         \
     }
@@ -158,7 +158,7 @@ LEE_ARR(vornsave_lee_arr_puntos3D, arrPunto3D, double_y_salta, double_sin_salto,
 
 // Truth values are unsigned shorts on a binary stream.
 void vornsave_graba_arr_bool(const arrBOOL *array, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(array)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
     const vnbool *valores = arr_GetBufferConstBOOL(array);
     const uint32_t n = arr_NumElemsBOOL(array);
@@ -168,7 +168,7 @@ void vornsave_graba_arr_bool(const arrBOOL *array, vornsave *vornsave_datos) {
     }
     for (uint32_t i = 0; i < n; ++i) {
         const vnbool elem = valores[i];
-        AFIRMA(elem == CIERTO || elem == FALSO);
+        if (!AFIRMA(elem == CIERTO || elem == FALSO)) falla(vornsave_datos);
     }
     graba_valores<GRABAR(ushort), GRABAR(ushort), &bloques_t::graba_ushort, SIN_PROGRESO>(valores, n, vornsave_datos);
 }
@@ -182,7 +182,7 @@ arrBOOL *vornsave_lee_arr_bool(vornsave *vornsave_datos) {
     const vnbool *valores = array != nullptr ? arr_GetBufferConstBOOL(array.get()) : nullptr;
     for (uint32_t i = 0, n = valores != nullptr ? arr_NumElemsBOOL(array.get()) : 0; i < n; ++i) {
         const vnbool elem = valores[i];
-        AFIRMA(elem == 1 || elem == 0);
+        if (!AFIRMA(elem == 1 || elem == 0)) falla(vornsave_datos);
     }
     return array.release();
 }
@@ -233,7 +233,7 @@ LEAN *lee_arulong(vornsave *d) {
 } // namespace
 
 void vornsave_graba_arulong(const arulong *array, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(array)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     graba_valores<GRABAR(ulong_y_salta), GRABAR(ulong_y_salta), &bloques_t::graba_ulong, CON_PROGRESO>(
         arulong_get_buffer_const(array), arulong_numelems(array), vornsave_datos);
 }
@@ -244,7 +244,7 @@ arulong *vornsave_lee_arulong(vornsave *vornsave_datos) {
 }
 
 void vornsave_graba_arulong64(const arulong64 *array, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(array)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     graba_valores<GRABAR(ulong64_y_salta), GRABAR(ulong64_y_salta), &bloques_t::graba_ulong64, CON_PROGRESO>(
         arulong64_get_buffer_const(array), arulong64_numelems(array), vornsave_datos);
 }

@@ -25,11 +25,26 @@ constexpr i_marca_t marca_final(int32_t posicion) {
     return {nullptr, MARCA_32, LARGO_MAX, posicion, 0, 0};
 }
 
-i_marca_t *ultima_marca(const vornsave *d) {
+// The mark of what was opened last; null, and no report, if nothing is open.
+const i_marca_t *marca_abierta(const vornsave *d) {
     const uint32_t num_marcas = arr_NumElemsPunteroST(d->pila_marcas, i_marca_t);
-    if (!AFIRMA(num_marcas > 0)) return nullptr;
-    i_marca_t *marca = arr_GetPunteroST(d->pila_marcas, num_marcas - 1, i_marca_t);
+    return num_marcas > 0 ? arr_GetPunteroST(d->pila_marcas, num_marcas - 1, i_marca_t) : nullptr;
+}
+const i_marca_t *ultima_marca(const vornsave *d) {
+    const uint32_t num_marcas = arr_NumElemsPunteroST(d->pila_marcas, i_marca_t);
+    if (!AFIRMA(num_marcas > 0)) {
+        falla(d);
+        return nullptr;
+    }
+    const i_marca_t *marca = marca_abierta(d);
     return AFIRMA_NO_NULO(marca) ? marca : nullptr;
+}
+bool es_seccion_que_se_lee(const i_marca_t &m) {
+    return m.clase == MARCA_32 && m.posicion_inicial == LARGO_MAX;
+}
+// Where what is being read ends, as it was stored.
+int64_t fin_de(const i_marca_t &m) {
+    return m.clase == MARCA_64 ? m.posicion_inicial64 : es_seccion_que_se_lee(m) ? m.posicion_final : m.posicion_inicial;
 }
 void quita_ultima_marca(vornsave *d) {
     arr_BorrarEstructuraST(d->pila_marcas, arr_NumElemsPunteroST(d->pila_marcas, i_marca_t) - 1, i_marca_t, destruye_marca);
@@ -46,7 +61,7 @@ bool saca_marca(vornsave *d, const char *id_marca, int32_t *posicion_inicial_mar
                 int64_t *posicion_inicial_marca64_opc) {
     const i_marca_t *marca = ultima_marca(d);
     if (marca == nullptr) return false;
-    AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO);
+    if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO)) falla(d);
     bool dada = false;
     switch (marca->clase) {
     case MARCA_32:
@@ -78,7 +93,7 @@ bool saca_marca(vornsave *d, const char *id_marca, int32_t *posicion_inicial_mar
 void saca_marca_de_seccion(vornsave *d, const char *id_marca) {
     const i_marca_t *marca = ultima_marca(d);
     if (marca == nullptr) return;
-    AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO);
+    if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO)) falla(d);
     switch (marca->clase) {
     case MARCA_32:
         ES_LARGO_MAX(posicion_inicial);
@@ -121,19 +136,31 @@ bool hay_posiciones(const vornsave *vornsave_datos, clase_marca clase) {
                              : AFIRMA_NO_NULO(vornsave_datos->fncptr_get_posicion64) &&
                                    AFIRMA_NO_NULO(vornsave_datos->fncptr_set_posicion64);
 }
+// The position in the widest form that there is; -1 where there is none.
+int64_t aqui(const vornsave *d) {
+    if (d->fncptr_get_posicion64 != nullptr) return posicion(d, MARCA_64);
+    return d->fncptr_get_posicion != nullptr ? posicion(d, MARCA_32) : -1;
+}
 // Whether a stored end lies between here and the end of what is open, and of the source.
 bool fin_valido(const vornsave *d, int64_t fin) {
     if (d->fncptr_get_posicion64 == nullptr && d->fncptr_get_posicion == nullptr) return true;
-    const int64_t aqui = posicion(d, d->fncptr_get_posicion64 != nullptr ? MARCA_64 : MARCA_32);
-    const uint32_t n = arr_NumElemsPunteroST(d->pila_marcas, i_marca_t);
-    int64_t limite = LARGO64_MAX;
-    if (n > 0) {
-        const i_marca_t *abierta = arr_GetPunteroST(d->pila_marcas, n - 1, i_marca_t);
-        limite = abierta->clase == MARCA_64                ? abierta->posicion_inicial64
-                 : abierta->posicion_inicial == LARGO_MAX ? abierta->posicion_final
-                                                           : abierta->posicion_inicial;
-    }
-    return aqui >= 0 && fin >= aqui && fin <= limite && quedan(d, static_cast<uint64_t>(fin - aqui), 1);
+    const int64_t desde = aqui(d);
+    const i_marca_t *abierta = marca_abierta(d);
+    const int64_t limite = abierta != nullptr ? fin_de(*abierta) : LARGO64_MAX;
+    return desde >= 0 && fin >= desde && fin <= limite && quedan(d, static_cast<uint64_t>(fin - desde), 1);
+}
+// What is open and has this name was not read up to its end, or beyond: goes there, if that is known and is there.
+bool ve_al_final_de_lo_abierto(const vornsave *d, const char *id, clase_marca clase) {
+    const i_marca_t *abierta = marca_abierta(d);
+    const int64_t desde = aqui(d);
+    if (abierta == nullptr || desde < 0 || abierta->clase != clase) return false;
+    const int64_t fin = fin_de(*abierta);
+    // Back only to the end of a section, which has been looked at: a walk over damaged blocks must end.
+    if (fin == desde || (fin < desde && !es_seccion_que_se_lee(*abierta))) return false;
+    if (cad_cadenas_iguales(abierta->id_marca, id) != CIERTO) return false;
+    if (fin > desde && !quedan(d, static_cast<uint64_t>(fin - desde), 1)) return false;
+    ve_a(d, clase, fin);
+    return true;
 }
 
 // ---- Writing
@@ -144,11 +171,12 @@ using fncptr_marca = void (*)(const char *id, void *destino);
 
 // What writes the mark of that form; null, reported, where the destination takes no marks.
 fncptr_marca puede_marcar(const char *id, const vornsave *vornsave_datos, forma f, clase_marca clase) {
-    if (!AFIRMA_NO_NULO(id)) return nullptr;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(id))) return nullptr;
     if (clase == MARCA_32 ? !puede_grabar<GRABAR(long)>(vornsave_datos) : !puede_grabar<GRABAR(ulong)>(vornsave_datos))
         return nullptr;
-    if (!AFIRMA_NO_NULO(vornsave_datos->fncptr_graba_cabecera_bloque)) return nullptr;
-    if (!hay_posiciones(vornsave_datos, clase)) return nullptr;
+    if (!SE_GRABA(vornsave_datos, f == SECCION || AFIRMA(*id != '\0'))) return nullptr;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(vornsave_datos->fncptr_graba_cabecera_bloque))) return nullptr;
+    if (!SE_GRABA(vornsave_datos, hay_posiciones(vornsave_datos, clase))) return nullptr;
     const fncptr_marca fncptr_graba_marca = f == BLOQUE ? vornsave_datos->fncptr_graba_cabecera_bloque
                                                          : vornsave_datos->fncs_grabar->fncptr_graba_cadena;
     return AFIRMA_NO_NULO(fncptr_graba_marca) ? fncptr_graba_marca : nullptr;
@@ -158,7 +186,9 @@ void graba_inicio(const char *id, vornsave *d, forma f, clase_marca clase) {
     const fncptr_marca graba_marca = puede_marcar(id, d, f, clase);
     if (graba_marca == nullptr) return;
     graba_marca(id, d->datos_destino);
-    empuja_marca(d, id, marca_inicial(clase, posicion(d, clase)));
+    const int64_t hueco = posicion(d, clase);
+    if (hueco < 0) falla(d);
+    empuja_marca(d, id, marca_inicial(clase, hueco));
     graba_posicion(d, clase, 0);
 }
 
@@ -170,9 +200,12 @@ void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
     const int64_t p_sig = posicion(d, clase);
     int32_t hueco = 0;
     int64_t hueco64 = 0;
-    if (!saca_marca(d, id, clase == MARCA_32 ? &hueco : nullptr, clase == MARCA_64 ? &hueco64 : nullptr)) return;
+    const bool dado = saca_marca(d, id, clase == MARCA_32 ? &hueco : nullptr, clase == MARCA_64 ? &hueco64 : nullptr);
     const int64_t donde = clase == MARCA_32 ? hueco : hueco64;
-    if (donde < 0 || p_fin < 0 || p_sig < 0) return; // beyond what 32 bits hold: reported, and nothing is overwritten
+    if (!dado || donde < 0 || p_fin < 0 || p_sig < 0) { // or beyond what 32 bits hold: reported, and nothing is overwritten
+        falla(d);
+        return;
+    }
     ve_a(d, clase, donde);
     graba_posicion(d, clase, p_fin);
     ve_a(d, clase, p_sig);
@@ -181,7 +214,7 @@ void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
 // ---- Reading
 
 bool puede_leer_bloques(const char *id, const vornsave *vornsave_datos, clase_marca clase) {
-    if (!AFIRMA_NO_NULO(id)) return false;
+    if (!AFIRMA_NO_NULO(id) || !AFIRMA(*id != '\0')) return false;
     return clase == MARCA_32
                ? puede_leer<LEER(long)>(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncptr_se_lee_inicio_bloque)
                : puede_leer<LEER(ulong)>(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncptr_se_lee_inicio_bloque64);
@@ -202,7 +235,10 @@ vnbool se_inicia_lectura(const char *id, vornsave *d, clase_marca clase) {
 void lee_final(const char *id, vornsave *d, clase_marca clase) {
     if (!puede_leer_bloques(id, d, clase)) return;
     const vnbool se_lee_final_bloque = se_lee_marca(id, d, clase);
-    AFIRMA(se_lee_final_bloque == CIERTO);
+    if (!AFIRMA(se_lee_final_bloque == CIERTO)) {
+        falla(d);
+        if (ve_al_final_de_lo_abierto(d, id, clase)) se_lee_marca(id, d, clase);
+    }
     int32_t largo = 0;
     int64_t largo64 = 0;
     saca_marca(d, id, clase == MARCA_32 ? &largo : nullptr, clase == MARCA_64 ? &largo64 : nullptr);
@@ -213,11 +249,11 @@ vnbool se_salta(const char *id, vornsave *d, clase_marca clase) {
     if (se_lee_marca(id, d, clase) != CIERTO) return FALSO;
     const int64_t fin = lee_posicion(d, clase);
     vnbool se_lee_fin_bloque = FALSO;
-    if (fin >= posicion(d, clase)) { // never back: a walk over damaged blocks must end
+    if (fin_valido(d, fin)) { // nor back: a walk over damaged blocks must end
         ve_a(d, clase, fin);
         se_lee_fin_bloque = se_lee_marca(id, d, clase);
     }
-    AFIRMA(se_lee_fin_bloque == CIERTO);
+    if (!AFIRMA(se_lee_fin_bloque == CIERTO)) falla(d);
     return CIERTO;
 }
 
@@ -287,12 +323,12 @@ char *vornsave_lee_seccion(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(cadena)>(vornsave_datos) || !puede_leer<LEER(long)>(vornsave_datos)) return nullptr;
     const vigia guarda(vornsave_datos);
     dueno_cadena id(lee<LEER(cadena)>(vornsave_datos));
-    if (id == nullptr || !guarda.sigue()) return nullptr;
+    if (id == nullptr || !guarda.sigue()) return cad_copia_cadena("");
     const int32_t fin = lee<LEER(long)>(vornsave_datos);
-    if (!guarda.sigue()) return nullptr;
+    if (!guarda.sigue()) return cad_copia_cadena("");
     if (!fin_valido(vornsave_datos, fin)) {
         error_leyendo(vornsave_datos);
-        return nullptr;
+        return cad_copia_cadena("");
     }
     empuja_marca(vornsave_datos, id.get(), marca_final(fin));
     return id.release();
@@ -303,7 +339,7 @@ void vornsave_ir_final_seccion(const char *id_seccion, vornsave *vornsave_datos)
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
     const i_marca_t *marca = ultima_marca(vornsave_datos);
     if (marca == nullptr) return;
-    AFIRMA(cad_cadenas_iguales(marca->id_marca, id_seccion) == CIERTO);
+    if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_seccion) == CIERTO)) falla(vornsave_datos);
     switch (marca->clase) {
     case MARCA_32:
         if (hay_posiciones(vornsave_datos, MARCA_32)) ve_a(vornsave_datos, MARCA_32, marca->posicion_final);
@@ -319,9 +355,13 @@ void vornsave_ir_final_seccion(const char *id_seccion, vornsave *vornsave_datos)
 void vornsave_lee_final_seccion(const char *id_seccion, vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(id_seccion)) return;
     if (!puede_leer<LEER(cadena)>(vornsave_datos)) return;
+    // Not read to its end, or beyond: what stands here is not its name. What follows is read on from its end.
+    const i_marca_t *abierta = marca_abierta(vornsave_datos);
+    const bool se_sabe = abierta != nullptr && es_seccion_que_se_lee(*abierta);
+    const bool movida = se_sabe && ve_al_final_de_lo_abierto(vornsave_datos, id_seccion, MARCA_32);
     const dueno_cadena final(lee<LEER(cadena)>(vornsave_datos));
-    const char *id_seccion_final = final != nullptr ? final.get() : "";
-    AFIRMA(cad_cadenas_iguales(id_seccion_final, id_seccion) == CIERTO);
+    const char *id_seccion_final = movida || final == nullptr ? "" : final.get();
+    if (!AFIRMA(cad_cadenas_iguales(id_seccion_final, id_seccion) == CIERTO)) falla(vornsave_datos);
     saca_marca_de_seccion(vornsave_datos, id_seccion);
 }
 
@@ -340,7 +380,7 @@ vnbool vornsave_se_comprueba_cabecera_bin(const char *marca, vornsave *vornsave_
 }
 
 void vornsave_graba_comentario(const char *comentario, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(comentario)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(comentario))) return;
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
     if (vornsave_datos->con_comentarios == CIERTO)
         vornsave_datos->graba_comentario(comentario, vornsave_datos->datos_destino);

@@ -36,13 +36,14 @@ propio<uint8_t> vn::lee_bytes(vornsave *vornsave_datos, uint32_t &tamanyo, uint3
         hechos += n;
         if (!guarda.sigue()) break;
     }
+    tamanyo = caben;
     return bytes;
 }
 
 // ---- ANSI texts
 
 void vornsave_graba_cadena(const char *valor, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(valor)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(valor))) return;
     graba<GRABAR(cadena), CON_PROGRESO>(vornsave_datos, valor);
 }
 
@@ -65,8 +66,8 @@ char *vornsave_lee_cadena_ascii(vornsave *vornsave_datos) {
 }
 
 void vornsave_graba_cadena_campo(const char *valor, const char *campo, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(valor)) return;
-    if (!AFIRMA_NO_NULO(campo)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(valor))) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(campo))) return;
     graba<GRABAR(cadena_campo)>(vornsave_datos, valor, campo);
 }
 
@@ -84,7 +85,7 @@ void vornsave_salta_cadena_campo(vornsave *vornsave_datos, const char *campo) {
 // ---- Wide texts
 
 void vornsave_graba_cadena_unicode(const vnwchar *valor, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(valor)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(valor))) return;
     graba<GRABAR(cadena_unicode), CON_PROGRESO>(vornsave_datos, valor);
 }
 
@@ -102,7 +103,7 @@ vnwchar *vornsave_lee_cadena_ANSI_a_unicode(vornsave *vornsave_datos) {
 }
 
 void vornsave_graba_cadena_UTF8(const vnwchar *texto, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(texto)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto))) return;
     if (!puede_grabar<GRABAR(cadena)>(vornsave_datos)) return;
     const dueno_cadena utf8(unicode_convierte_UNICODE_a_UTF8(texto));
     vornsave_graba_cadena(utf8.get(), vornsave_datos);
@@ -116,7 +117,7 @@ vnwchar *vornsave_lee_cadena_UTF8(vornsave *vornsave_datos) {
 // ---- Bytes
 
 void vornsave_graba_cadena_como_buffer(const char *texto, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(texto)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto))) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(buffer)>(vornsave_datos)) return;
     const uint32_t longitud = cad_longitud_cadena(texto);
     graba<GRABAR(ulong)>(vornsave_datos, longitud);
@@ -130,21 +131,23 @@ char *vornsave_lee_cadena_como_buffer(vornsave *vornsave_datos) {
 }
 
 void vornsave_graba_buffer(const void *datos_buffer, uint32_t tamanyo, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(datos_buffer)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(datos_buffer))) return;
     graba<GRABAR(buffer), CON_PROGRESO>(vornsave_datos, datos_buffer, tamanyo);
 }
 
 uint8_t *vornsave_lee_buffer(uint32_t tamanyo, vornsave *vornsave_datos) {
     if (!puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
-    return lee_bytes(vornsave_datos, tamanyo, UINT32_MAX).release();
+    uint32_t leidos = tamanyo;
+    propio<uint8_t> bytes = lee_bytes(vornsave_datos, leidos, UINT32_MAX);
+    return leidos == tamanyo ? bytes.release() : nullptr; // the caller takes it for as long as was asked
 }
 
 void vornsave_salta_buffer(uint32_t tamanyo, vornsave *vornsave_datos) {
-    const propio<uint8_t> bytes(vornsave_lee_buffer(tamanyo, vornsave_datos));
+    if (puede_leer<LEER(buffer)>(vornsave_datos)) lee_bytes(vornsave_datos, tamanyo, UINT32_MAX);
 }
 
 void vornsave_graba_fichmem(const fichmem *fichero, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(fichero)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(fichero))) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(buffer)>(vornsave_datos)) return;
     graba<GRABAR(ulong)>(vornsave_datos, fichero->longitud);
     uint32_t n = 0;

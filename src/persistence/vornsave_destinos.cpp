@@ -4,7 +4,11 @@
 #include "foundation/cambtipo.h"
 #include "foundation/lc_fichero.h"
 #include "foundation/vtxt.h"
+#include "foundation/vtxt_priv.h"
 #include "persistence/vornbin_priv.h"
+#include <cstring>
+#include <string>
+#include <utility>
 
 // The bindings: destination by entry, by name. An entry that is not named is absent, and using it is reported. A module
 // that is a further destination adds its row here.
@@ -112,17 +116,79 @@ template <auto COMPRUEBA> vnbool se_lee_inicio_bloque(const char *id, vnfichero 
     set_posicion64(f, posicion);
     return FALSO;
 }
-// A line of up to 255 characters.
+
+// ---- Values as lines of a text stream.
+
+// A truth value that is none has no line: what follows would be out of step.
+void graba_BOOL(vnbool v, vnfichero *f) {
+    if (v > CIERTO) marca_fallo_escritura(f);
+    vtxt_escr_BOOL(v, f);
+}
+void graba_bool_con_textos(vnfichero *f, vnbool v, const char *texto1, const char *texto2) {
+    if (v > CIERTO) marca_fallo_escritura(f);
+    vtxt_graba_bool(f, v, texto1, texto2);
+}
+
+// A line end inside a text, and the escape itself, go as wide texts have them; an escape of another form is a text's own.
+constexpr char ESCAPADOS[] = {'\n', '\r', ESCAPE_DE_UNIDAD, '\0'};
+constexpr size_t CIFRAS = 4;
+std::string escapa(const char *s) {
+    std::string t;
+    for (size_t n; *s != '\0'; s += n) {
+        n = std::strcspn(s, ESCAPADOS);
+        t.append(s, n);
+        if (s[n] == '\0') break;
+        t += ESCAPE_DE_UNIDAD;
+        t += s[n] == '\n' ? "000A" : s[n] == '\r' ? "000D" : "0010";
+        ++n;
+    }
+    return t;
+}
+char *quita_escapes(char *s) {
+    char *d = std::strchr(s, ESCAPE_DE_UNIDAD);
+    for (const char *p = d; p != nullptr && (*d = *p) != '\0'; ++p, ++d) {
+        if (*p != ESCAPE_DE_UNIDAD) continue;
+        for (const auto &[cifras, c] : {std::pair("000A", '\n'), std::pair("000D", '\r'), std::pair("0010", ESCAPE_DE_UNIDAD)})
+            if (std::strncmp(p + 1, cifras, CIFRAS) == 0) {
+                *d = c;
+                p += CIFRAS;
+                break;
+            }
+    }
+    return s;
+}
+void graba_cadena_en_linea(const char *s, vnfichero *f) {
+    if (s[std::strcspn(s, ESCAPADOS)] == '\0') vtxt_escr_string(s, f);
+    else vtxt_escr_string(escapa(s).c_str(), f);
+}
+char *lee_cadena_de_linea(vnfichero *f) {
+    return quita_escapes(vtxt_lee_cadena(f));
+}
+// A text of an array: a line of up to 255 characters.
+constexpr size_t TAMANYO_LINEA = 256;
+void graba_linea(const char *s, vnfichero *f) {
+    const size_t longitud = escapa(s).size();
+    if (!AFIRMA(longitud < TAMANYO_LINEA)) marca_fallo_escritura(f);
+    graba_cadena_en_linea(s, f);
+}
 char *lee_linea(vnfichero *f) {
-    char linea[256];
+    char linea[TAMANYO_LINEA];
     vtxt_lee_string(f, linea, sizeof linea);
-    return cad_copia_cadena(linea);
+    return cad_copia_cadena(quita_escapes(linea));
 }
 bool quedan_en_fichero(vnfichero *f, uint64_t numero, uint64_t tamanyo) {
     return lc_quedan(f, numero, tamanyo) == CIERTO;
 }
 bool fichero_ha_fallado(vnfichero *f) {
     return lc_ha_fallado(f) == CIERTO;
+}
+void marca_fallo(vnfichero *f) {
+    marca_fallo_escritura(f);
+    marca_fallo_lectura(f);
+}
+constexpr bool dice_sus_fallos(const destino &d) {
+    const operaciones_destino &o = d.operaciones;
+    return o.ha_fallado && o.error_leyendo && o.marca_fallo;
 }
 
 constexpr destino DESTINO_BIN{
@@ -134,16 +200,16 @@ constexpr destino DESTINO_BIN{
         .fncptr_graba_cadena = usa<bin_graba_cadena>,
         .fncptr_graba_cadena_unicode = usa<bin_graba_cadena_unicode>,
         .fncptr_graba_cadena_campo = graba_sin_campo<bin_graba_cadena>,
-        .fncptr_graba_char = usa<bin_graba_char>,
-        .fncptr_graba_short = usa<bin_graba_short>,
-        .fncptr_graba_long = usa<bin_graba_long>,
-        .fncptr_graba_long64 = usa<bin_graba_long64>,
-        .fncptr_graba_float = usa<bin_graba_float>,
-        .fncptr_graba_double = usa<bin_graba_double>,
-        .fncptr_graba_uchar = usa<bin_graba_uchar>,
-        .fncptr_graba_ushort = usa<bin_graba_ushort>,
-        .fncptr_graba_ulong = usa<bin_graba_ulong>,
-        .fncptr_graba_ulong64 = usa<bin_graba_ulong64>,
+        .fncptr_graba_char = usa<directo::graba_char>,
+        .fncptr_graba_short = usa<directo::graba_short>,
+        .fncptr_graba_long = usa<directo::graba_long>,
+        .fncptr_graba_long64 = usa<directo::graba_long64>,
+        .fncptr_graba_float = usa<directo::graba_float>,
+        .fncptr_graba_double = usa<directo::graba_double>,
+        .fncptr_graba_uchar = usa<directo::graba_uchar>,
+        .fncptr_graba_ushort = usa<directo::graba_ushort>,
+        .fncptr_graba_ulong = usa<directo::graba_ulong>,
+        .fncptr_graba_ulong64 = usa<directo::graba_ulong64>,
         .fncptr_graba_buffer = usa<bin_graba_buffer>,
     }),
     .leer = sin_lineas({
@@ -153,18 +219,18 @@ constexpr destino DESTINO_BIN{
         .fncptr_lee_cadena_unicode = usa<bin_lee_cadena_unicode>,
         .fncptr_lee_cadena_campo = lee_sin_campo<bin_lee_cadena>,
         .fncptr_lee_cadena_ASCII = usa<bin_lee_cadena_ASCII>,
-        .fncptr_lee_char = usa<bin_lee_char>,
+        .fncptr_lee_char = usa<directo::lee_char>,
         .fncptr_lee_char_ASCII = usa<bin_lee_char_ASCII>,
-        .fncptr_lee_short = usa<bin_lee_short>,
-        .fncptr_lee_long = usa<bin_lee_long>,
-        .fncptr_lee_long64 = usa<bin_lee_long64>,
-        .fncptr_lee_double = usa<bin_lee_double>,
+        .fncptr_lee_short = usa<directo::lee_short>,
+        .fncptr_lee_long = usa<directo::lee_long>,
+        .fncptr_lee_long64 = usa<directo::lee_long64>,
+        .fncptr_lee_double = usa<directo::lee_double>,
         .fncptr_lee_double_con_posible_error = usa<bin_lee_double_con_posible_error>,
-        .fncptr_lee_float = usa<bin_lee_float>,
-        .fncptr_lee_uchar = usa<bin_lee_uchar>,
-        .fncptr_lee_ushort = usa<bin_lee_ushort>,
-        .fncptr_lee_ulong = usa<bin_lee_ulong>,
-        .fncptr_lee_ulong64 = usa<bin_lee_ulong64>,
+        .fncptr_lee_float = usa<directo::lee_float>,
+        .fncptr_lee_uchar = usa<directo::lee_uchar>,
+        .fncptr_lee_ushort = usa<directo::lee_ushort>,
+        .fncptr_lee_ulong = usa<directo::lee_ulong>,
+        .fncptr_lee_ulong64 = usa<directo::lee_ulong64>,
         .fncptr_lee_buffer = usa<bin_lee_buffer>,
     }),
     .bloques = {
@@ -192,6 +258,7 @@ constexpr destino DESTINO_BIN{
         .tamanyo_origen = usa<lc_tamanyo_fichero_i64>,
         .ha_fallado = usa<fichero_ha_fallado>,
         .error_leyendo = usa<lc_error_leyendo_fichero>,
+        .marca_fallo = usa<marca_fallo>,
     },
 };
 
@@ -200,11 +267,11 @@ constexpr destino destino_txt(bool con_comentarios) {
         .tipo = TXT,
         .es_texto = true,
         .grabar = con_lineas({
-            .fncptr_graba_bool_texto = usa<vtxt_graba_bool>,
-            .fncptr_graba_bool = usa<vtxt_escr_BOOL>,
-            .fncptr_graba_cadena = usa<vtxt_escr_string>,
+            .fncptr_graba_bool_texto = usa<graba_bool_con_textos>,
+            .fncptr_graba_bool = usa<graba_BOOL>,
+            .fncptr_graba_cadena = usa<graba_cadena_en_linea>,
             .fncptr_graba_cadena_unicode = usa<vtxt_escr_cadena_unicode>,
-            .fncptr_graba_cadena_campo = graba_sin_campo<vtxt_escr_string>,
+            .fncptr_graba_cadena_campo = graba_sin_campo<graba_cadena_en_linea>,
             .fncptr_graba_char = usa<vtxt_escr_char>,
             .fncptr_graba_short = usa<vtxt_escr_signed_short>,
             .fncptr_graba_long = usa<vtxt_escr_long>,
@@ -228,9 +295,9 @@ constexpr destino destino_txt(bool con_comentarios) {
         .leer = con_lineas({
             .fncptr_lee_bool_texto = usa<vtxt_lee_bool>,
             .fncptr_lee_bool = usa<vtxt_leer_BOOL>,
-            .fncptr_lee_cadena = usa<vtxt_lee_cadena>,
+            .fncptr_lee_cadena = usa<lee_cadena_de_linea>,
             .fncptr_lee_cadena_unicode = usa<vtxt_lee_cadena_unicode>,
-            .fncptr_lee_cadena_campo = lee_sin_campo<vtxt_lee_cadena>,
+            .fncptr_lee_cadena_campo = lee_sin_campo<lee_cadena_de_linea>,
             .fncptr_lee_cadena_ASCII = usa<vtxt_lee_cadena_ASCII>,
             .fncptr_lee_char = usa<vtxt_lee_char>,
             .fncptr_lee_char_ASCII = usa<vtxt_lee_char_ASCII>,
@@ -255,6 +322,7 @@ constexpr destino destino_txt(bool con_comentarios) {
             .fncptr_lee_ulong64_y_salta = usa<vtxt_lee_ulong64_y_salta>,
         }, con_comentarios),
         .operaciones = {
+            .graba_linea = usa<graba_linea>,
             .lee_linea = usa<lee_linea>,
             .graba_comentario = usa<vtxt_escr_comentario_y_salta>,
             .salta_linea = usa<vtxt_salta_linea>,
@@ -262,10 +330,12 @@ constexpr destino destino_txt(bool con_comentarios) {
             .tamanyo_origen = usa<lc_tamanyo_fichero_i64>,
             .ha_fallado = usa<fichero_ha_fallado>,
             .error_leyendo = usa<lc_error_leyendo_fichero>,
+            .marca_fallo = usa<marca_fallo>,
         },
     };
 }
 constexpr destino DESTINO_TXT = destino_txt(false), DESTINO_TXT_CON_COMENTARIOS = destino_txt(true);
+static_assert(dice_sus_fallos(DESTINO_BIN) && dice_sus_fallos(DESTINO_TXT) && dice_sus_fallos(DESTINO_TXT_CON_COMENTARIOS));
 
 // By kind; null until the destination's module is part of the library.
 constexpr const destino *DESTINOS[] = {&DESTINO_BIN, &DESTINO_TXT, nullptr, nullptr, nullptr, nullptr};

@@ -52,8 +52,8 @@ SALTA(vornsave_salta_double, double, CON_PROGRESO)
 
 void vornsave_graba_bool_con_texto(vnbool valor, vornsave *vornsave_datos, const char *texto1, const char *texto2) {
     if (!puede_grabar<GRABAR(bool_texto)>(vornsave_datos)) return;
-    if (!AFIRMA_NO_NULO(texto1)) return;
-    if (!AFIRMA_NO_NULO(texto2)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto1))) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto2))) return;
     vornsave_datos->fncs_grabar->fncptr_graba_bool_texto(vornsave_datos->datos_destino, valor, texto1, texto2);
 }
 
@@ -96,7 +96,7 @@ double vornsave_lee_double_con_posible_error_en_binario(vornsave *vornsave_datos
 }
 
 void vornsave_graba_punto(const Punto2D *pto, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(pto)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(pto))) return;
     if (!puede_grabar<GRABAR(double)>(vornsave_datos)) return;
     graba<GRABAR(double)>(vornsave_datos, pto->x);
     graba<GRABAR(double)>(vornsave_datos, pto->y);
@@ -156,6 +156,7 @@ int64_t vornsave_lee_time(vornsave *vornsave_datos) {
 
 void vornsave_graba_time32(int64_t valor, vornsave *vornsave_datos) {
     if (!puede_grabar<GRABAR(long)>(vornsave_datos)) return;
+    if (valor < INT32_MIN || valor > INT32_MAX) falla(vornsave_datos); // reported by the conversion
     vornsave_graba_long(cambtipo_time_t_a_long(valor), vornsave_datos);
 }
 

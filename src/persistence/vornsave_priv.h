@@ -77,6 +77,7 @@ struct operaciones_destino {
     void (*graba_cadena_o_null_unicode)(const vnwchar *valor, void *destino) = nullptr;
     char *(*lee_cadena_o_null)(void *origen) = nullptr;
     vnwchar *(*lee_cadena_o_null_unicode)(void *origen) = nullptr;
+    void (*graba_linea)(const char *valor, void *destino) = nullptr;
     char *(*lee_linea)(void *origen) = nullptr;
     void (*graba_comentario)(const char *comentario, void *destino) = nullptr;
     void (*salta_linea)(void *origen) = nullptr;
@@ -84,8 +85,10 @@ struct operaciones_destino {
     bool (*quedan)(void *origen, uint64_t numero, uint64_t tamanyo) = nullptr;
     // The size of the source in bytes, 0 where it cannot be known.
     int64_t (*tamanyo_origen)(void *origen) = nullptr;
+    // Failures, which every row tells and takes: `error_leyendo` reports one; the mark is quiet, and follows a report.
     bool (*ha_fallado)(void *origen) = nullptr;
     void (*error_leyendo)(void *origen) = nullptr;
+    void (*marca_fallo)(void *destino) = nullptr;
     // Memory destinations are made and ended by the protocol itself.
     void *(*crea_para_escritura)(uint32_t tamanyo) = nullptr;
     void *(*crea_para_lectura)(const fichmem *fichero) = nullptr;
@@ -152,10 +155,10 @@ using dueno_cadena_u = std::unique_ptr<vnwchar, suelta<suelta_cadena_u>>;
 
 void destruye_marca(i_marca_t **marca);
 
-// One text of an array. `con_null`: in the form in which null elements survive, where the destination has one; a null
-// one elsewhere is reported and goes as an empty text, so that what follows stays in step.
-void graba_texto_de_array(const char *texto, vornsave *vornsave_datos, bool con_null);
-char *lee_texto_de_array(vornsave *vornsave_datos, bool con_null);
+// One text of an array, in the form in which null elements survive, where the destination has one; a null one elsewhere is
+// reported and goes as an empty text, so that what follows stays in step.
+void graba_texto_o_null(const char *texto, vornsave *vornsave_datos);
+char *lee_texto_o_null(vornsave *vornsave_datos);
 
 [[gnu::cold]] void refresca_grabacion(vornsave *vornsave_datos);
 [[gnu::cold]] void refresca_lectura(vornsave *vornsave_datos);
@@ -172,9 +175,15 @@ inline void progreso_al_leer(vornsave *vornsave_datos) {
         refresca_lectura(vornsave_datos);
 }
 
+// What was told cannot be written, or what was read cannot be: it has been reported, and the destination is marked, so that
+// what is saved is not taken for whole and loops over what is read end. Always false.
+[[gnu::cold]] bool falla(const vornsave *vornsave_datos);
+// A check of what is to be written: SE_GRABA(object, AFIRMA_...).
+#define SE_GRABA(vornsave_datos, comprobacion) ((comprobacion) || ::vn::falla(vornsave_datos))
+
 template <auto ENTRADA> inline bool puede_grabar(const vornsave *vornsave_datos) {
     return AFIRMA_NO_NULO(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncs_grabar) &&
-           AFIRMA_TEXTO(vornsave_datos->fncs_grabar->*ENTRADA != nullptr, TEXTO_ENTRADA<ENTRADA>);
+           SE_GRABA(vornsave_datos, AFIRMA_TEXTO(vornsave_datos->fncs_grabar->*ENTRADA != nullptr, TEXTO_ENTRADA<ENTRADA>));
 }
 template <auto ENTRADA> inline bool puede_leer(const vornsave *vornsave_datos) {
     return AFIRMA_NO_NULO(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncs_leer) &&
@@ -228,7 +237,7 @@ inline bool quedan(const vornsave *vornsave_datos, uint64_t numero, uint64_t byt
                : vornsave_datos->quedan(vornsave_datos->datos_destino, numero, bytes);
 }
 inline void error_leyendo(vornsave *vornsave_datos) {
-    if (vornsave_datos->error_leyendo != nullptr) vornsave_datos->error_leyendo(vornsave_datos->datos_destino);
+    vornsave_datos->error_leyendo(vornsave_datos->datos_destino);
 }
 // A count just read: itself, or 0 once it has been reported that the source cannot hold so many.
 inline uint32_t acota(vornsave *vornsave_datos, uint32_t numero, uint64_t bytes, uint64_t caracteres = 1) {
@@ -238,16 +247,19 @@ inline uint32_t acota(vornsave *vornsave_datos, uint32_t numero, uint64_t bytes,
 }
 
 // Watches a loop that reads: it ends at its first failure, and over a source that had failed before, at the source's end;
-// inside a trap that has failed, at once.
+// so it does where a failure leaves the source in step, as a line that is too long; inside a trap that has failed, at once.
 class vigia {
   public:
-    explicit vigia(const vornsave *vornsave_datos) : datos_(vornsave_datos), habia_(falla()) {}
-    bool sigue() const { return !atrapado() && (!falla() || (habia_ && quedan(datos_, 1, 1))); }
+    explicit vigia(const vornsave *vornsave_datos, bool en_su_sitio = false)
+        : datos_(vornsave_datos), hasta_el_final_(en_su_sitio || falla()) {}
+    bool sigue() const {
+        return !atrapado() && (!falla() || (hasta_el_final_ && quedan(datos_, datos_->es_texto ? 2 : 1, 1)));
+    }
 
   private:
-    bool falla() const { return datos_->ha_fallado != nullptr && datos_->ha_fallado(datos_->datos_destino); }
+    bool falla() const { return datos_->ha_fallado(datos_->datos_destino); }
     const vornsave *datos_;
-    bool habia_;
+    bool hasta_el_final_;
 };
 
 // How many elements are made room for at once: all, or where the source cannot tell, a first step.
@@ -257,7 +269,8 @@ inline uint32_t primer_paso(const vornsave *vornsave_datos, uint32_t numero) {
 }
 
 // Reads `tamanyo` bytes in pieces of at most `trozo` through the buffer entry, which the caller has checked, into a new
-// block with a zero after them; a size that the source cannot hold is reported and gives an empty block.
+// block with a zero after them. A size that the source cannot hold is reported and gives an empty block; `tamanyo` comes
+// back as what there is.
 propio<uint8_t> lee_bytes(vornsave *vornsave_datos, uint32_t &tamanyo, uint32_t trozo);
 
 } // namespace vn

@@ -14,7 +14,8 @@ bool posicion_de_barra(const vornsave *vornsave_datos, uint32_t &valor) {
     if (vornsave_datos->fncptr_get_posicion64 != nullptr) {
         posicion = vornsave_datos->fncptr_get_posicion64(vornsave_datos->datos_destino);
     } else {
-        if (!AFIRMA_NO_NULO(vornsave_datos->fncptr_get_posicion)) return false;
+        if (!AFIRMA_TEXTO(vornsave_datos->fncptr_get_posicion != nullptr, "(vornsave->fncptr_get_posicion) != NULL"))
+            return false;
         posicion = vornsave_datos->fncptr_get_posicion(vornsave_datos->datos_destino);
     }
     if (!AFIRMA(posicion >= 0)) return false;

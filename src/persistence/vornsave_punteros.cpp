@@ -55,9 +55,9 @@ apunorde *lee_conjunto(vornsave *d, LEE lee_una, vnfunc_compara_con_dato compara
 } // namespace
 
 void vornsave_graba_arr_punteros(const arrPuntero *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
-    if (!AFIRMA_NO_NULO(array)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos)) return;
-    if (!AFIRMA_NO_NULO(funcion)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
     const uint32_t n = arr_NumElemsPuntero(array);
     vornsave_graba_ulong(n, vornsave_datos);
     for (uint32_t i = 0; i < n; ++i) funcion(arr_GetPunteroConTipo(array, i), vornsave_datos);
@@ -89,14 +89,14 @@ void vornsave_nousar_salta_arr_punteros_ST(vornsave *vornsave_datos, vnfunc_salt
 }
 
 void vornsave_graba_arr_punteros_array(const arrPuntero *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
-    if (!AFIRMA_NO_NULO(array)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos)) return;
-    if (!AFIRMA_NO_NULO(funcion)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
     const uint32_t n = arr_NumElemsPuntero(array);
     vornsave_graba_ulong(n, vornsave_datos);
     for (uint32_t i = 0; i < n; ++i) {
         const auto *elem = static_cast<const arrPuntero *>(arr_GetPunteroConTipo(array, i));
-        if (AFIRMA_NO_NULO(elem))
+        if (SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(elem)))
             vornsave_graba_arr_punteros(elem, vornsave_datos, funcion);
         else
             vornsave_graba_ulong(0, vornsave_datos); // the file stays in step
@@ -115,9 +115,9 @@ arrPuntero *vornsave_lee_arr_punteros_array(vornsave *vornsave_datos, vnfunc_lee
 }
 
 void vornsave_nousar_graba_apunorde(const apunorde *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
-    if (!AFIRMA_NO_NULO(array)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos)) return;
-    if (!AFIRMA_NO_NULO(funcion)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
     const uint32_t n = apunorde_nousar_numelems(array);
     vornsave_graba_ulong(n, vornsave_datos);
     for (uint32_t i = 0; i < n; ++i) funcion(apunorde_nousar_get(array, i), vornsave_datos);
@@ -142,9 +142,9 @@ apunorde *vornsave_nousar_lee_apunorde_con_1_dato_extra(vornsave *vornsave_datos
 // ---- Points with a private value of the caller's.
 
 void vornsave_graba_arr_puntos2DXPriv(const arrPunto2DXPriv *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
-    if (!AFIRMA_NO_NULO(array)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(double)>(vornsave_datos)) return;
-    if (!AFIRMA_NO_NULO(funcion)) return;
+    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
     const uint32_t n = arr_NumElemsPunto2DXPriv(array);
     const Punto2DXPriv *puntos = arr_GetBufferConstPunto2DXPriv(array);
     vornsave_graba_ulong(n, vornsave_datos);

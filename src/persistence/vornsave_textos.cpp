@@ -54,14 +54,15 @@ struct ancha {
 };
 
 template <class W> void graba_texto(const typename W::caracter *texto, vornsave *d, bool con_null) {
-    if (con_null && d->*W::GRABA_O_NULL != nullptr)
-        (d->*W::GRABA_O_NULL)(texto, d->datos_destino);
-    else
-        (d->fncs_grabar->*W::GRABA)(AFIRMA_NO_NULO(texto) ? texto : W::VACIA, d->datos_destino);
+    if (con_null && d->*W::GRABA_O_NULL != nullptr) return (d->*W::GRABA_O_NULL)(texto, d->datos_destino);
+    if (!SE_GRABA(d, AFIRMA_NO_NULO(texto))) texto = W::VACIA;
+    if constexpr (std::is_same_v<W, ansi>)
+        if (d->graba_linea != nullptr) return d->graba_linea(texto, d->datos_destino);
+    (d->fncs_grabar->*W::GRABA)(texto, d->datos_destino);
 }
 
 template <class W> void graba_textos(const typename W::arr *array, vornsave *d, bool con_null) {
-    if (!AFIRMA_NO_NULO(array)) return;
+    if (!SE_GRABA(d, AFIRMA_NO_NULO(array))) return;
     if (!puede_grabar<GRABAR(ulong_y_salta)>(d) || !puede_grabar<W::GRABA>(d)) return;
     const uint32_t n = W::numelems(array);
     const auto textos = W::textos(array);
@@ -69,6 +70,10 @@ template <class W> void graba_textos(const typename W::arr *array, vornsave *d, 
     for (uint32_t i = 0; i < n; ++i) graba_texto<W>(textos[i], d, con_null);
 }
 
+// Texts that are read as lines: one that is too long leaves the source in step.
+template <class W> bool por_lineas(const vornsave *d) {
+    return std::is_same_v<W, ansi> && d->lee_linea != nullptr;
+}
 // One text of an array: its own form, the line, or the plain entry.
 template <class W> typename W::caracter *lee_texto(vornsave *d, bool con_null) {
     if (con_null && d->*W::LEE_O_NULL != nullptr) return (d->*W::LEE_O_NULL)(d->datos_destino);
@@ -84,7 +89,7 @@ template <class W> typename W::arr *lee_textos(vornsave *d, bool con_null, bool 
     typename W::dueno_arr array(W::crea(primer_paso(d, n)));
     if (array == nullptr) return nullptr;
     const uint32_t listos = W::numelems(array.get());
-    const vigia guarda(d);
+    const vigia guarda(d, por_lineas<W>(d));
     uint32_t i = 0;
     for (; i < n && guarda.sigue(); ++i) {
         typename W::dueno_texto texto(lee_texto<W>(d, con_null));
@@ -106,12 +111,12 @@ bool lee_ascii(const vornsave *d) {
 
 } // namespace
 
-void vn::graba_texto_de_array(const char *texto, vornsave *vornsave_datos, bool con_null) {
-    graba_texto<ansi>(texto, vornsave_datos, con_null);
+void vn::graba_texto_o_null(const char *texto, vornsave *vornsave_datos) {
+    graba_texto<ansi>(texto, vornsave_datos, true);
 }
 
-char *vn::lee_texto_de_array(vornsave *vornsave_datos, bool con_null) {
-    return lee_texto<ansi>(vornsave_datos, con_null);
+char *vn::lee_texto_o_null(vornsave *vornsave_datos) {
+    return lee_texto<ansi>(vornsave_datos, true);
 }
 
 void vornsave_graba_arr_cadenas(const arrCADENA *array, vornsave *vornsave_datos) {
@@ -194,9 +199,9 @@ struct orden_u {
 template <class O>
 void graba_conjunto(const typename O::conjunto *array, bool con_funcion, vnfunc_graba_texto fncptr_cs_graba_cadena,
                     vornsave *d) {
-    if (!AFIRMA_NO_NULO(array)) return;
-    if (con_funcion ? !AFIRMA_NO_NULO(fncptr_cs_graba_cadena)
-                    : !AFIRMA_TEXTO(fncptr_cs_graba_cadena == nullptr, "fncptr_cs_graba_cadena == NULL"))
+    if (!SE_GRABA(d, AFIRMA_NO_NULO(array))) return;
+    if (!SE_GRABA(d, con_funcion ? AFIRMA_NO_NULO(fncptr_cs_graba_cadena)
+                                 : AFIRMA_TEXTO(fncptr_cs_graba_cadena == nullptr, "fncptr_cs_graba_cadena == NULL")))
         return;
     if (!puede_grabar<GRABAR(bool)>(d) || !puede_grabar<GRABAR(ulong_y_salta)>(d)) return;
     if (!con_funcion && !puede_grabar<O::texto::GRABA>(d)) return;
@@ -208,9 +213,9 @@ void graba_conjunto(const typename O::conjunto *array, bool con_funcion, vnfunc_
             if (con_funcion)
                 fncptr_cs_graba_cadena(O::get(array, i), d);
             else
-                graba<O::texto::GRABA>(d, O::get(array, i));
+                graba_texto<ansi>(O::get(array, i), d, false);
         } else {
-            graba<O::texto::GRABA>(d, O::get(array, i));
+            graba_texto<ancha>(O::get(array, i), d, false);
         }
 }
 
@@ -220,7 +225,7 @@ template <class O> typename O::conjunto *lee_conjunto(vornsave *d, vnfunc_lee_te
     const vnbool distingue = lee<LEER(bool)>(d) == CIERTO ? CIERTO : FALSO;
     std::unique_ptr<typename O::conjunto, suelta<O::destruye>> array(O::crea(distingue));
     const uint32_t n = acota(d, lee<LEER(ulong_y_salta)>(d), funcion != nullptr ? 1 : O::texto::BYTES);
-    const vigia guarda(d);
+    const vigia guarda(d, funcion == nullptr && por_lineas<typename O::texto>(d));
     for (uint32_t i = 0; i < n && guarda.sigue(); ++i) {
         typename O::texto::dueno_texto texto;
         if constexpr (std::is_same_v<O, orden>)

@@ -184,18 +184,25 @@ PRUEBA(vornbin, un_valor_malo_se_informa_y_se_escribe_igual) {
         const char *informe;
         accion graba;
         std::string bytes;
+        vnbool vale = FALSO;
     } malos[] = {
         {"valor == CIERTO || valor == FALSO", [](auto f) { bin_graba_bool(2, f); }, "\2"},
         {"dato == 'S' || dato == 'N'", [](auto f) { bin_graba_SN('s', f); }, "s"},
-        {"defmath_es_numero_valido(dato) == CIERTO", [=](auto f) { bin_graba_double(infinito, f); }, "\0\0\0\0\0\0\xF0\x7F"s},
-        {"defmath_es_numero_valido(dato) == CIERTO", [=](auto f) { bin_graba_punto(&p, f); }, "\0\0\0\0\0\0\xF0\x7F"s + UNO},
+        {"defmath_es_numero_valido(dato) == CIERTO", [=](auto f) { bin_graba_double(infinito, f); }, "\0\0\0\0\0\0\xF0\x7F"s, CIERTO},
+        {"defmath_es_numero_valido(dato) == CIERTO", [=](auto f) { bin_graba_punto(&p, f); }, "\0\0\0\0\0\0\xF0\x7F"s + UNO, CIERTO},
         {"l <= USHRT_MAX", [&](auto f) { bin_graba_cadena(largo.c_str(), f); }, "\3\0aaa"s},
         {"(buf) != NULL", [](auto f) { bin_graba_cadena(nullptr, f); }, ""},
         {"(pto) != NULL", [](auto f) { bin_graba_punto(nullptr, f); }, ""},
     };
+    const std::string nombre = vn::Prueba::directorio() + "/malo";
     for (const auto &m : malos) {
-        datos d;
-        EXPECT_EQ(d.graba([&](vnfichero *f) { con_informe(m.informe, [&] { m.graba(f); }); }), m.bytes) << m.informe;
+        SCOPED_TRACE(m.informe);
+        vnfichero *f = lc_fopen_u(vn::ancho(nombre).c_str(), VNU("wb"));
+        con_informe(m.informe, [&] { m.graba(f); });
+        // What cannot be read back, or was not there to be written, does not close well.
+        EXPECT_EQ(lc_ha_fallado(f), m.vale == CIERTO ? FALSO : CIERTO);
+        EXPECT_EQ(lc_fclose_seguro(f), m.vale);
+        EXPECT_EQ(vn::lee_fichero(nombre), m.bytes);
     }
     // The raw point is not looked at; the longest text is.
     datos d;

@@ -1,7 +1,9 @@
 #include "persistence/prueba_vornsave.h"
 #include "foundation/cad.h"
 #include "foundation/unicode.h"
+#include "foundation/vornfile.h"
 #include "foundation/widestr.h"
+#include "persistence/vornsave_priv.h"
 #include <cmath>
 
 using namespace vn;
@@ -187,6 +189,63 @@ PRUEBA(vornsave, los_destinos_sin_modulo_se_informan) {
               nullptr);
 }
 
+// What a destination cannot hold, or is no value, is reported; the file that was there stays.
+PRUEBA(vornsave, un_guardado_sin_sentido_deja_el_fichero_de_antes) {
+    static const std::string largo(65536, 'a');
+    static const std::basic_string<vnwchar> enyes(40000, u'\u00f1');
+    const struct {
+        const destino_de_prueba &destino;
+        const char *informe;
+        std::function<void(vornsave *)> graba;
+    } filas[] = {
+        {EN_BIN, "(valor) != NULL", [](vornsave *d) { vornsave_graba_cadena(nullptr, d); }},
+        {EN_TXT, "(valor) != NULL", [](vornsave *d) { vornsave_graba_cadena_unicode(nullptr, d); }},
+        {EN_BIN, "(texto) != NULL", [](vornsave *d) {
+             arrCADENA *a = arr_CreaCADENA(1);
+             vornsave_graba_arr_cadenas(a, d);
+             arr_DestruyeCADENA(&a);
+         }},
+        {EN_BIN, "(array) != NULL", [](vornsave *d) { vornsave_graba_arr_double(nullptr, d); }},
+        {EN_BIN, "valor == CIERTO || valor == FALSO", [](vornsave *d) { vornsave_graba_bool(2, d); }},
+        {EN_TXT, "v == CIERTO || v == FALSO", [](vornsave *d) { vornsave_graba_bool(2, d); }},
+        {EN_TXT, "v == CIERTO || v == FALSO", [](vornsave *d) { vornsave_graba_bool_con_texto(2, d, "si", "no"); }},
+        {EN_BIN, "l <= USHRT_MAX", [](vornsave *d) { vornsave_graba_cadena(largo.c_str(), d); }},
+        {EN_BIN, "l <= USHRT_MAX", [](vornsave *d) { vornsave_graba_cadena_UTF8(enyes.c_str(), d); }},
+        {EN_TXT, "(vornsave_datos->fncs_grabar->fncptr_graba_float) != NULL", [](vornsave *d) { vornsave_graba_float(1, d); }},
+        {EN_TXT, "(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL", [](vornsave *d) { vornsave_graba_inicio_bloque("B", d); }},
+        {EN_BIN, "arr_NumElemsPunteroST((*vornsave_datos)->pila_marcas, i_marca_t) == 0",
+         [](vornsave *d) { vornsave_graba_inicio_seccion("abierta", d); }},
+        {EN_BIN, "posicion <= LONG_MAX", [](vornsave *d) {
+             vornsave_graba_inicio_bloque64("todo", d);
+             vornsave_graba_inicio_seccion("larga", d);
+             vornio_fseek_i64(static_cast<vnfichero *>(d->datos_destino), int64_t(1) << 31, VN_DESDE_EL_PRINCIPIO);
+             vornsave_graba_fin_seccion("larga", d);
+             vornsave_graba_fin_bloque64("todo", d);
+         }},
+        {EN_BIN, "cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO", [](vornsave *d) {
+             vornsave_graba_inicio_seccion("A", d);
+             vornsave_graba_inicio_seccion("B", d);
+             vornsave_graba_fin_seccion("A", d);
+             vornsave_graba_fin_seccion("B", d);
+         }},
+    };
+    const std::string nombre = Prueba::directorio() + "/guardado";
+    for (const auto &fila : filas) {
+        SCOPED_TRACE(fila.informe);
+        graba_fichero(nombre, "antes");
+        vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(ancho(nombre).c_str());
+        vornsave *d = fila.destino.texto ? vornsave_registra_txt(f, FALSO) : vornsave_registra_bin(f);
+        fila.graba(d);
+        vornsave_libera(&d);
+        EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, ancho(nombre).c_str()), FALSO);
+        const auto informes = toma_informes();
+        ASSERT_FALSE(informes.empty());
+        EXPECT_EQ(informes[0].expresion, fila.informe);
+        EXPECT_EQ(informes.back().expresion, "lc_error_escribiendo_fichero");
+        EXPECT_EQ(lee_fichero(nombre), "antes");
+    }
+}
+
 PRUEBA(vornsave, vida_de_un_objeto) {
     graba_fichero(abierto::ruta(), "");
     vnfichero *f = lc_fopen_u(ancho(abierto::ruta()).c_str(), VNU("r+b"));
@@ -228,7 +287,7 @@ PRUEBA(vornsave, vida_de_un_objeto) {
     vornsave_graba_inicio_seccion("S", d);
     EXPECT_FALSE(atrapado([&] { vornsave_libera(&d); }));
     EXPECT_EQ(d, nullptr);
-    lc_fclose(f);
+    EXPECT_EQ(lc_fclose_seguro(f), FALSO); // sections that have no end
 }
 
 PRUEBA(vornsave, los_textos_viejos_se_convierten_segun_la_version) {
