@@ -5,6 +5,7 @@
 #include "foundation/propio_priv.h"
 #include "foundation/unicode.h"
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -13,16 +14,18 @@ struct texto_doble {
     std::basic_string<vnwchar> ancho;
     std::string ansi;
 
-    void pon(const vnwchar *texto) {
+    explicit texto_doble(const vnwchar *texto) : ancho(texto) {
         const vn::propio<char> convertido(unicode_UNICODE_a_ANSI(texto));
-        ancho = texto;
         ansi = convertido.get();
     }
 };
 
+// Files say "MASK-major-revision" in less than 200 characters: what would not come back from there is no version.
+constexpr size_t LIMITE_MAYOR = 192;
+
 struct identidad {
-    texto_doble aplicacion{VNU("1.0"), "1.0"};
-    texto_doble mayor{VNU("1"), "1"};
+    texto_doble aplicacion{VNU("1.0")};
+    texto_doble mayor{VNU("1")};
     char revision = 'a';
 };
 identidad &la_identidad() { return vn::eterno<identidad>(); }
@@ -37,8 +40,12 @@ char version_revision(void) { return la_identidad().revision; }
 
 void version_establece_u(const vnwchar *version_aplicacion, const vnwchar *version_mayor, char revision) {
     if (!AFIRMA_NO_NULO(version_aplicacion) || !AFIRMA_NO_NULO(version_mayor)) return;
+    texto_doble aplicacion(version_aplicacion), mayor(version_mayor);
+    if (!AFIRMA(mayor.ansi.find('-') == std::string::npos) || !AFIRMA(mayor.ansi.size() <= LIMITE_MAYOR)) return;
+    const auto codigo = static_cast<unsigned char>(revision);
+    if (!AFIRMA(codigo > ' ' && codigo != 127 && revision != '-')) return;
     identidad &i = la_identidad();
-    i.aplicacion.pon(version_aplicacion);
-    i.mayor.pon(version_mayor);
+    i.aplicacion = std::move(aplicacion);
+    i.mayor = std::move(mayor);
     i.revision = revision;
 }

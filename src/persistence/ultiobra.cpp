@@ -50,14 +50,30 @@ void anade(obras &o, texto_propio texto) {
 
 struct lectura {
     vnfichero *fichero;
+    uint16_t version;
     obras leidas;
 };
+
+// What stands behind a number: its comment, on its line or on one of its own.
+void salta_comentario(vnfichero *f) {
+    const auto toma_linea_de_comentario = [f] {
+        const int64_t aqui = vornio_ftell_i64(f);
+        const bool es_comentario = vnfichero_toma_byte(f) == ';';
+        vornio_fseek_i64(f, aqui, VN_DESDE_EL_PRINCIPIO);
+        if (es_comentario) vtxt_salta_linea(f);
+        return es_comentario;
+    };
+    if (toma_linea_de_comentario()) return;
+    vtxt_salta_linea(f);
+    toma_linea_de_comentario();
+}
 
 // Runs inside a trap: whatever the file holds that it should not comes back as a failure.
 void lee_fichero(lectura *l) {
     vnfichero *f = l->fichero;
     obras o;
-    const uint16_t version = vtxt_lee_ushrt_y_salta(f);
+    const uint16_t version = l->version = vtxt_lee_ushrt(f);
+    salta_comentario(f);
     if (!AFIRMA(version <= VERSION_NOMBRE_OBRA)) return;
     if (version < 2) {
         char *nombre = vtxt_lee_cadena_ansi_ascii(f, version, ULTIMA_VERSION_ASCII);
@@ -67,7 +83,8 @@ void lee_fichero(lectura *l) {
         return;
     }
     o.finalizada = version >= 3 ? vtxt_leer_BOOL(f) : CIERTO;
-    const uint32_t numFicheros = vtxt_lee_ulong_y_salta(f);
+    const uint32_t numFicheros = vtxt_lee_ulong(f);
+    salta_comentario(f);
     if (!AFIRMA(numFicheros > 0)) return;
     for (uint32_t i = 0; i < std::min(numFicheros, MAXIMO_OBRAS); ++i)
         anade(o, texto_propio(version < 5 ? vtxt_lee_cadena_ansi_a_unicode(f) : vtxt_lee_cadena_unicode(f)));
@@ -85,11 +102,14 @@ std::optional<obras> lee_si_se_puede(const vnwchar *path_lista) {
     }
     fichero_propio f(f_lc_fopen_seguro_u(path_lista, VNU("rb"), VN_AQUI));
     if (f == nullptr) return std::nullopt;
-    lectura l{f.get(), {}};
+    lectura l{f.get(), 0, {}};
     const vnbool bien = trapable_ejecuta_funcion_segura(lectura, lee_fichero, &l, nullptr);
     if (lc_ultimo_error(f.get()) != VN_FICH_BIEN) return std::nullopt;
     f.reset();
     if (bien == CIERTO) return std::move(l.leidas);
+    // The trap kept the report to itself; a list of a newer program is worth telling.
+    const uint16_t version = l.version;
+    AFIRMA(version <= VERSION_NOMBRE_OBRA);
     vdir_borra_fichero_con_comprobacion_UNICODE(path_lista);
     return obras();
 }
@@ -204,7 +224,7 @@ void ultiobra_guarda_nombre_ultima_obra_u(const vnwchar *nombre, const vnwchar *
         // An empty head says "no work open"; there is one now.
         if (arr_NumElemsCADENA_u(lista) > 0 && *arr_GetCADENA_u(lista, 0) == 0) arr_SetCADENA_u(lista, 0, nombre);
         else arr_InsertarCADENA_u(lista, 0, nombre);
-    } else if (arr_NumElemsCADENA_u(lista) > 0) {
+    } else if (arr_NumElemsCADENA_u(lista) > 0 && *arr_GetCADENA_u(lista, 0) != 0) { // said once
         arr_InsertarCADENA_u(lista, 0, VNU(""));
     }
     while (arr_NumElemsCADENA_u(lista) > MAXIMO_OBRAS) arr_BorrarCADENA_u(lista, arr_NumElemsCADENA_u(lista) - 1);

@@ -6,6 +6,8 @@
 #include "foundation/version.h"
 #include "foundation/vnstdc.h"
 #include <algorithm>
+#include <unordered_map>
+#include <utility>
 
 namespace vn {
 namespace {
@@ -122,30 +124,50 @@ texto_u listas_cabecera::texto_en(size_t &pos) const {
     return texto;
 }
 
-void listas_cabecera::pon_campo(vista_u nombre, vista_u valor) {
-    const auto inserta_texto = [this](size_t pos, vista_u texto) {
-        const auto n = static_cast<uint32_t>(texto.size());
-        unsigned char longitud[TAM_NUMERO];
-        memcpy(longitud, &n, sizeof n);
-        const auto *p = reinterpret_cast<const unsigned char *>(texto.data());
-        bytes_.insert(bytes_.begin() + static_cast<ptrdiff_t>(pos), p, p + texto.size() * sizeof(vnwchar));
-        bytes_.insert(bytes_.begin() + static_cast<ptrdiff_t>(pos), longitud, longitud + sizeof longitud);
-        fin_campos_ += TAM_NUMERO + texto.size() * sizeof(vnwchar);
+void listas_cabecera::pon_campos(const arrCADENA_u *nombres, const arrCADENA_u *valores) {
+    // One pass over what there is, whatever is new: the value of each name, the last one given; those not met are added.
+    struct nuevo {
+        vista_u nombre, valor;
+        bool puesto = false;
     };
-    uint32_t n = num_campos();
-    for (size_t pos = TAM_NUMERO, i = n; i != 0; --i) {
-        const texto_u este = texto_en(pos);
-        const size_t comienzo = pos;
-        texto_en(pos);
-        if (este != nombre) continue;
-        bytes_.erase(bytes_.begin() + static_cast<ptrdiff_t>(comienzo), bytes_.begin() + static_cast<ptrdiff_t>(pos));
-        fin_campos_ -= pos - comienzo;
-        return inserta_texto(comienzo, valor);
+    const auto vista = [](const vnwchar *s) { return s != nullptr ? vista_u(s) : vista_u(); };
+    std::vector<nuevo> nuevos;
+    std::unordered_map<vista_u, size_t> indice;
+    for (uint32_t i = 0; i < arr_NumElemsCADENA_u(nombres); ++i) {
+        const vista_u nombre = vista(arr_GetCADENA_u(nombres, i));
+        const size_t k = indice.emplace(nombre, nuevos.size()).first->second;
+        if (k == nuevos.size()) nuevos.push_back({nombre, {}});
+        nuevos[k].valor = vista(arr_GetCADENA_u(valores, i));
     }
-    inserta_texto(fin_campos_, nombre);
-    inserta_texto(fin_campos_, valor);
-    ++n;
-    memcpy(bytes_.data(), &n, sizeof n);
+    std::vector<unsigned char> bytes(TAM_NUMERO);
+    const auto pon_bytes = [&bytes](const void *p, size_t n) {
+        bytes.insert(bytes.end(), static_cast<const unsigned char *>(p), static_cast<const unsigned char *>(p) + n);
+    };
+    const auto pon_texto = [&](vista_u texto) {
+        const auto n = static_cast<uint32_t>(texto.size());
+        pon_bytes(&n, sizeof n);
+        pon_bytes(texto.data(), texto.size() * sizeof(vnwchar));
+    };
+    uint32_t total = 0;
+    recorre_campos([&](const texto_u &nombre, const texto_u &valor) {
+        const auto este = indice.find(nombre);
+        // Of equal names only the first is given the value.
+        const bool cambia = este != indice.end() && !std::exchange(nuevos[este->second].puesto, true);
+        pon_texto(nombre);
+        pon_texto(cambia ? nuevos[este->second].valor : vista_u(valor));
+        ++total;
+    });
+    for (const nuevo &n : nuevos) {
+        if (n.puesto) continue;
+        pon_texto(n.nombre);
+        pon_texto(n.valor);
+        ++total;
+    }
+    memcpy(bytes.data(), &total, sizeof total);
+    const size_t fin = bytes.size();
+    pon_bytes(bytes_.data() + fin_campos_, bytes_.size() - fin_campos_);
+    bytes_ = std::move(bytes);
+    fin_campos_ = fin;
 }
 
 void listas_cabecera::blanquea() {
@@ -189,6 +211,9 @@ cabecera lee_cabecera(vnfichero *f) {
 void graba_cabecera(vnfichero *f, const listas_cabecera &listas) {
     const propio<char> identificacion(
         nousar_formatea("%s-%s-%c", i_MASCARA_VORN, version_versionMayor(), version_revision()));
+    const std::string_view texto = identificacion.get();
+    cabecera leida;
+    if (!AFIRMA(texto.size() < LIMITE_IDENTIFICACION && interpreta_identificacion(texto, leida))) marca_fallo_escritura(f);
     graba_identificacion(f, identificacion.get());
     graba_cuerpo(f, FORMA_ACTUAL, listas);
 }

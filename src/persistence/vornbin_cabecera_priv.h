@@ -1,6 +1,7 @@
 // The header of a binary file: who wrote it, named fields, the reserved list.
 #pragma once
 
+#include "foundation/arr.h"
 #include "foundation/temporal_priv.h"
 #include "persistence/vornbin_priv.h"
 #include <string>
@@ -29,8 +30,8 @@ class listas_cabecera {
             funcion(nombre, texto_en(pos));
         }
     }
-    // Gives a field its value, in its place or at the end.
-    void pon_campo(vista_u nombre, vista_u valor);
+    // Gives fields their values, in their places or at the end; as many names as values, a null text an empty one.
+    void pon_campos(const arrCADENA_u *nombres, const arrCADENA_u *valores);
     // Every text becomes as many spaces, every number of the reserved list 0.
     void blanquea();
 
@@ -66,7 +67,8 @@ void da_textos(const cabecera &c, char **version_texto, char **revision_texto);
 
 // Reads the header at the position of the stream; reports nothing.
 cabecera lee_cabecera(vnfichero *f);
-// Writes the header of this program, or that of another file with its form and its mask.
+// Writes the header of this program, or that of another file with its form and its mask. One that could not be read back
+// is reported, and the save fails.
 void graba_cabecera(vnfichero *f, const listas_cabecera &listas);
 void graba_cabecera_copiada(vnfichero *f, const cabecera &c);
 // Overwrites the mask of a file that has a header, leaving the position anywhere.

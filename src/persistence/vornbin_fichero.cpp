@@ -21,7 +21,10 @@ bool lee_listas_existentes(const vnwchar *nomfich, listas_cabecera *listas) {
     if (error == VN_FICH_NO_EXISTE || (error == VN_FICH_BIEN && estado.es_directorio == CIERTO)) return true;
     const fichero f(f_lc_fopen_en_varios_intentos_u(nomfich, VNU("rb"), VN_AQUI));
     if (f == nullptr) return false;
-    *listas = lee_cabecera(f.get()).listas;
+    const cabecera c = lee_cabecera(f.get());
+    *listas = c.listas;
+    // A form of later programs: what it holds cannot be kept.
+    if (!c.valida && !c.truncada) error_interno_msg_u(VNU("fichero_valido == CIERTO"), VN_AQUI, nomfich, 0);
     if (lc_ha_fallado(f.get()) == FALSO) return true;
     lc_error_leyendo_fichero(f.get());
     return false;
@@ -34,16 +37,15 @@ temporal abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra, const ar
     temporal f = abre_temporal(nomfich);
     listas_cabecera listas;
     if (f == nullptr || !lee_listas_existentes(nomfich, &listas)) return nullptr;
-    for (uint32_t i = 0; nombres != nullptr && i < arr_NumElemsCADENA_u(nombres); ++i) {
-        const vnwchar *nombre = arr_GetCADENA_u(nombres, i), *valor = arr_GetCADENA_u(valores, i);
-        listas.pon_campo(nombre != nullptr ? nombre : VNU(""), valor != nullptr ? valor : VNU(""));
-    }
+    if (nombres != nullptr) listas.pon_campos(nombres, valores);
     graba_cabecera(f.get(), listas);
     return f;
 }
 
 void graba_prologo(vnfichero *f, uint16_t version, const char *firma, const vnwchar *titulo) {
     const propio<char> titulo_ansi(unicode_UNICODE_a_ANSI(titulo));
+    const propio<vnwchar> titulo_leido(unicode_convierte_ANSI_a_UNICODE(titulo_ansi.get()));
+    AFIRMA_TEXTO(vista_u(titulo_leido.get()) == titulo, "vornbin: el titulo no cabe en la pagina de codigos");
     bin_graba_modo_debug(f);
     bin_graba_ushort(version, f);
     bin_graba_cadena(firma, f);

@@ -253,7 +253,7 @@ vnwchar *vornsave_lee_cadena_unicode(vornsave *vornsave_datos);
 void vornsave_salta_cadena_unicode(vornsave *vornsave_datos);
 /** Wide text of an ANSI one that was stored. */
 vnwchar *vornsave_lee_cadena_ANSI_a_unicode(vornsave *vornsave_datos);
-/** Wide text stored as UTF-8. */
+/** Wide text stored as UTF-8. Half of a surrogate pair that stands alone is reported, and is read as U+FFFD. */
 void vornsave_graba_cadena_UTF8(const vnwchar *texto, vornsave *vornsave_datos);
 vnwchar *vornsave_lee_cadena_UTF8(vornsave *vornsave_datos);
 /** ANSI text with the name of its field, which only editable text shows. */

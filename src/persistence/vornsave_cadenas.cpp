@@ -3,6 +3,7 @@
 
 #include "foundation/fichmem.h"
 #include "foundation/unicode.h"
+#include "foundation/utf_priv.h"
 #include <algorithm>
 #include <cstring>
 
@@ -12,6 +13,15 @@ namespace {
 
 // The largest piece in which a memory file goes.
 constexpr uint32_t i_TAMANO_TROZO_FICHMEM = 65534;
+
+// Half of a surrogate pair that stands alone has no form in UTF-8.
+bool esta_bien_formado(std::basic_string_view<vnwchar> s) {
+    for (size_t i = 0; i < s.size();) {
+        const uint32_t c = lee_utf16(s, i);
+        if (es_alto(c) || es_bajo(c)) return false;
+    }
+    return true;
+}
 
 char *lee_cadena_de(vornsave *vornsave_datos, bool ansi) {
     return ansi ? lee<LEER(cadena)>(vornsave_datos) : lee<LEER(cadena_ASCII)>(vornsave_datos);
@@ -105,6 +115,7 @@ vnwchar *vornsave_lee_cadena_ANSI_a_unicode(vornsave *vornsave_datos) {
 void vornsave_graba_cadena_UTF8(const vnwchar *texto, vornsave *vornsave_datos) {
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto))) return;
     if (!puede_grabar<GRABAR(cadena)>(vornsave_datos)) return;
+    AFIRMA_TEXTO(esta_bien_formado(texto), "vornsave: el texto tiene medios caracteres");
     const dueno_cadena utf8(unicode_convierte_UNICODE_a_UTF8(texto));
     vornsave_graba_cadena(utf8.get(), vornsave_datos);
 }

@@ -35,5 +35,14 @@ PRUEBA(entorno, la_identidad_que_declara_el_programa_sale_en_los_dos_anchos) {
     EXPECT_EQ(vn::utf8_de(version_versionAplicacion_u()), "2026.ñ");
     EXPECT_STREQ(version_versionMayor(), "2026");
     EXPECT_EQ(version_revision(), 'b');
+    // What the header of a file could not give back changes nothing.
+    const std::basic_string<vnwchar> largo(193, VNU('9'));
+    ESPERA_INFORME("mayor.ansi.find('-') == std::string::npos", version_establece_u(VNU("1"), VNU("2026-SP1"), 'a'));
+    ESPERA_INFORME("mayor.ansi.size() <= LIMITE_MAYOR", version_establece_u(VNU("1"), largo.c_str(), 'a'));
+    for (const char revision : {'-', '\0', ' ', '\n', '\x7f'})
+        ESPERA_INFORME("codigo > ' ' && codigo != 127 && revision != '-'", version_establece_u(VNU("1"), VNU("3"), revision));
+    EXPECT_STREQ(version_versionMayor(), "2026");
+    version_establece_u(VNU("1"), largo.c_str() + 1, '\xF1');
+    EXPECT_EQ(version_revision(), '\xF1');
     version_establece_u(VNU("1.0"), VNU("1"), 'a');
 }

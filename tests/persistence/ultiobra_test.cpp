@@ -61,6 +61,7 @@ PRUEBA(ultiobra, la_marca_de_obra_cerrada_y_la_de_ninguna_abierta) {
     ultiobra_finaliza_ultima_obra_u(lista().c_str());
     EXPECT_EQ(ultima_finalizada(), "a.obr");
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, lista().c_str());
+    for (int i = 0; i < 40; ++i) ultiobra_guarda_nombre_ultima_obra_u(nullptr, lista().c_str()); // openings that failed
     EXPECT_NE(vn::lee_fichero(fichero()).find("\n2 ;"), std::string::npos);
     EXPECT_EQ(obras(), "a.obr|");
     guarda("b.obr"); // takes the place of the mark
@@ -82,9 +83,10 @@ PRUEBA(ultiobra, cada_version_se_lee_y_lo_danyado_se_borra_sin_ruido) {
         {"2 ; version\n2 ; n\na.obr\nb.obr\n", "a.obr|b.obr|", "a.obr"},
         {"3 ; version\r\n0\r\n1 ; n\r\nn\xF1o.obr\r\n", "nño.obr|", "-"},
         {"5 ; version\n1\n1 ; n\nn\xC3\xB1o.obr\n", "nño.obr|", "nño.obr"},
+        {"5\n; version\n1\n2\n; n\n;a.obr\n;b.obr\n", ";a.obr|;b.obr|", ";a.obr"}, // comments on lines of their own
+        {"5 ; version\n1\n1 ; n\n;a.obr\n", ";a.obr|", ";a.obr"},
         {"5 ; version\n1\n4000000000 ; n\na.obr\n", "", nullptr},
         {"5 ; version\n1\n0 ; n\n", "", nullptr},
-        {"6 ; version\n1\n1 ; n\na.obr\n", "", nullptr},
         {"", "", nullptr},
         {"\x01\xFF\xFE garbage", "", nullptr},
         {"5 ; version\n7\n1 ; n\na.obr\n", "", nullptr},
@@ -97,6 +99,10 @@ PRUEBA(ultiobra, cada_version_se_lee_y_lo_danyado_se_borra_sin_ruido) {
         EXPECT_EQ(vn::existe(fichero()), f.finalizada != nullptr);
         if (f.finalizada != nullptr) { EXPECT_EQ(ultima_finalizada(), f.finalizada); }
     }
+    // A list of a newer program goes too, but not without a word.
+    vn::graba_fichero(fichero(), "6 ; version\n1\n1 ; n\na.obr\n");
+    EXPECT_EQ(ESPERA_INFORME("version <= VERSION_NOMBRE_OBRA", obras()), "");
+    EXPECT_FALSE(vn::existe(fichero()));
 }
 
 PRUEBA(ultiobra, el_filtro_mira_la_ruta_detras_de_los_corchetes) {

@@ -218,6 +218,25 @@ PRUEBA(vornbin_cabecera, los_campos_y_la_lista_reservada_pasan_de_un_guardado_a_
     EXPECT_EQ(campos(a), "obra;autor;=fin;;");
     EXPECT_NE(a.lee().find(numero(2) + numero(7) + texto_u("x") + numero(9) + texto_u("") + PROLOGO), std::string::npos);
     EXPECT_EQ(ESPERA_INFORME("arr_NumElemsCADENA_u(nombres) == arr_NumElemsCADENA_u(valores)", da({VNU("obra")}, {})), nullptr);
+    // Many, over many.
+    arrCADENA_u *n = arr_CreaCADENA_u(0), *v = arr_CreaCADENA_u(0);
+    for (int32_t k = 0; k < 200000; ++k) arr_AppendCADENA_u(n, vn::ancho("campo " + std::to_string(k)).c_str());
+    arr_ConcatenaCADENA_u(v, n);
+    vornbin_cierra_fichero_abierto_para_escritura_u(
+        vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "F", VNU(""), n, v, nullptr), a.u(), nullptr);
+    for (uint32_t k = 0; k < 300; ++k) arr_SetCADENA_u(n, k, vn::ancho("nuevo " + std::to_string(k)).c_str());
+    vornbin_cierra_fichero_abierto_para_escritura_u(
+        vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "F", VNU(""), n, v, nullptr), a.u(), nullptr);
+    arr_DestruyeCADENA_u(&n);
+    arr_DestruyeCADENA_u(&v);
+    EXPECT_EQ(vornbin_lee_campos_cabecera_u(a.u(), &n, &v), CIERTO);
+    EXPECT_EQ(arr_NumElemsCADENA_u(n), 200302u);
+    EXPECT_EQ(vn::utf8_de(arr_GetCADENA_u(n, 200301)) + vn::utf8_de(arr_GetCADENA_u(v, 200301)), "nuevo 299campo 299");
+    arr_DestruyeCADENA_u(&n);
+    arr_DestruyeCADENA_u(&v);
+    // A form of later programs cannot be kept, which is said.
+    a.graba(ID + "\3" + PROLOGO);
+    EXPECT_EQ(ESPERA_INFORME("fichero_valido == CIERTO", guarda(a)), CIERTO);
     // A damaged header does not stand in the way of saving over it.
     a.graba(ID + "\1" + MARCA + numero(0x40000000) + "x");
     EXPECT_EQ(campos(a), "no");
@@ -347,6 +366,27 @@ PRUEBA(vornbin_cabecera, la_forma_de_depuracion_marca_la_version_y_los_datos_per
     EXPECT_EQ(a.lee(), ID + "\1" + MARCA + SIN_LISTAS + "\1u\3\0"s + PROLOGO.substr(3) + "cD");
     EXPECT_EQ(bin_fichero_valido_u(a.u(), 3, "FIRMA", 0, nullptr, 0), CIERTO);
     EXPECT_EQ(abre_completo(a, 3, nullptr).resto, "cD");
+    // Each stream keeps its form, whatever others are open.
+    const archivo b("otro");
+    vnstdc_putenv("GRABARCONDEBUG=1");
+    vnfichero *con = vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(a.u(), 3, "FIRMA", VNU("T"), nullptr);
+    vnstdc_putenv("GRABARCONDEBUG=");
+    EXPECT_EQ(guarda(b), CIERTO);
+    bin_graba_long(5, con);
+    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(con, a.u(), nullptr), CIERTO);
+    uint16_t version = 0;
+    vnwchar *titulo = nullptr;
+    const auto abre = [&](const archivo &que) {
+        vnfichero *abierto = vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(que.u(), 3, "FIRMA", nullptr, &version, &titulo, 0, nullptr, nullptr);
+        vn::toma(titulo);
+        return abierto;
+    };
+    vnfichero *sin = abre(b);
+    con = abre(a);
+    EXPECT_EQ(bin_lee_char(sin), 'D');
+    EXPECT_EQ(bin_lee_long(con), 5);
+    lc_fclose(sin);
+    lc_fclose(con);
     // The next file is plain again, and so is reading it.
     EXPECT_EQ(guarda(a), CIERTO);
     EXPECT_EQ(a.lee(), ID + "\1" + MARCA + SIN_LISTAS + PROLOGO + "D");
