@@ -50,22 +50,24 @@ DESPACIO(int64_t) DESPACIO(uint64_t) DESPACIO(float) DESPACIO(double)
 } // namespace vn
 
 #define X(tipo, etiqueta, nombre, graba, lee)                                                                          \
-    void graba(tipo dato, vnfichero *f) { vn::directo::graba_##nombre(dato, f); }                                      \
-    tipo lee(vnfichero *f) { return vn::directo::lee_##nombre(f); }
+    void graba(tipo dato, vnfichero *f) {                                                                              \
+        if (f != nullptr) [[likely]] vn::directo::graba_##nombre(dato, f);                                             \
+        else vn::graba_despacio<tipo>(dato, etiqueta, f);                                                              \
+    }                                                                                                                  \
+    tipo lee(vnfichero *f) {                                                                                           \
+        return f != nullptr ? vn::directo::lee_##nombre(f) : vn::lee_despacio<tipo>(etiqueta, f);                      \
+    }
 VN_BIN_ESCALARES(X)
+X(double, 'd', double, bin_graba_double, bin_lee_double)
 #undef X
-
-void bin_graba_double(double dato, vnfichero *f) { vn::directo::graba_double(dato, f); }
-
-double bin_lee_double(vnfichero *f) { return vn::directo::lee_double(f); }
 
 void bin_graba_bool(vnbool valor, vnfichero *f) {
     if (!AFIRMA_LOGICO(valor)) vn::marca_fallo_escritura(f);
-    vn::directo::graba_byte(static_cast<uint8_t>(valor), f);
+    bin_graba_byte(static_cast<uint8_t>(valor), f);
 }
 
 vnbool bin_lee_bool(vnfichero *f) {
-    const auto valor = vn::directo::lee_byte(f);
+    const uint8_t valor = bin_lee_byte(f);
     if (valor > 1) [[unlikely]]
         lc_error_leyendo_fichero(f);
     return valor;
@@ -73,7 +75,7 @@ vnbool bin_lee_bool(vnfichero *f) {
 
 void bin_graba_SN(char dato, vnfichero *f) {
     if (!AFIRMA(dato == 'S' || dato == 'N')) vn::marca_fallo_escritura(f);
-    vn::directo::graba_char(dato, f);
+    bin_graba_char(dato, f);
 }
 
 char bin_lee_SN(vnfichero *f) {

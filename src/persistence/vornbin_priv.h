@@ -39,7 +39,7 @@ template <class T> void graba_despacio(T dato, char etiqueta, vnfichero *f);
 template <class T> T lee_despacio(char etiqueta, vnfichero *f);
 
 template <class T> inline void graba_escalar(T dato, char etiqueta, vnfichero *f) {
-    if (f != nullptr && !f->etiquetas_al_escribir) [[likely]] {
+    if (!f->etiquetas_al_escribir) [[likely]] {
         unsigned char *const pos = f->v.pos;
         if (f->v.fin_escritura - pos >= static_cast<ptrdiff_t>(sizeof(T))) [[likely]] {
             memcpy(pos, &dato, sizeof(T));
@@ -50,7 +50,7 @@ template <class T> inline void graba_escalar(T dato, char etiqueta, vnfichero *f
     graba_despacio(dato, etiqueta, f);
 }
 template <class T> inline T lee_escalar(char etiqueta, vnfichero *f) {
-    if (f != nullptr && !f->etiquetas_al_leer) [[likely]] {
+    if (!f->etiquetas_al_leer) [[likely]] {
         unsigned char *const pos = f->v.pos;
         if (f->v.fin_lectura - pos >= static_cast<ptrdiff_t>(sizeof(T))) [[likely]] {
             T dato;
@@ -69,7 +69,7 @@ inline bool es_numero_valido(double x) {
     return (bits & 0x7FF0000000000000u) != 0x7FF0000000000000u;
 }
 
-// The scalar operations, inline in whatever stands on them.
+// The scalar operations, inline in whatever stands on them; the stream is there.
 namespace directo {
 #define X(tipo, etiqueta, nombre, graba, lee)                                                                          \
     inline void graba_##nombre(tipo dato, vnfichero *f) { graba_escalar<tipo>(dato, etiqueta, f); }                    \

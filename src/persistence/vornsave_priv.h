@@ -200,7 +200,7 @@ template <auto ENTRADA, progreso PROGRESO, class... A>
 }
 template <auto ENTRADA, progreso PROGRESO = SIN_PROGRESO, class... A>
 inline void graba(vornsave *vornsave_datos, A... valores) {
-    if (vornsave_datos != nullptr && vornsave_datos->fncs_grabar != nullptr) [[likely]] {
+    if (vornsave_datos != nullptr) [[likely]] { // an object has its tables
         const auto entrada = vornsave_datos->fncs_grabar->*ENTRADA;
         if (entrada != nullptr && (PROGRESO == SIN_PROGRESO || vornsave_datos->con_progreso == FALSO)) [[likely]]
             return entrada(valores..., vornsave_datos->datos_destino);
@@ -217,7 +217,7 @@ template <auto ENTRADA, progreso PROGRESO, class... A>
 }
 template <auto ENTRADA, progreso PROGRESO = SIN_PROGRESO, class... A>
 inline resultado_de<ENTRADA, A...> lee(vornsave *vornsave_datos, A... extras) {
-    if (vornsave_datos != nullptr && vornsave_datos->fncs_leer != nullptr) [[likely]] {
+    if (vornsave_datos != nullptr) [[likely]] {
         const auto entrada = vornsave_datos->fncs_leer->*ENTRADA;
         if (entrada != nullptr && (PROGRESO == SIN_PROGRESO || vornsave_datos->con_progreso == FALSO)) [[likely]]
             return entrada(vornsave_datos->datos_destino, extras...);
