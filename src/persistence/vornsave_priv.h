@@ -83,8 +83,6 @@ struct operaciones_destino {
     void (*salta_linea)(void *origen) = nullptr;
     // Whether so many elements of so many bytes can still be there; absent where it cannot be known.
     bool (*quedan)(void *origen, uint64_t numero, uint64_t tamanyo) = nullptr;
-    // The size of the source in bytes, 0 where it cannot be known.
-    int64_t (*tamanyo_origen)(void *origen) = nullptr;
     // Failures, which every row tells and takes: `error_leyendo` reports one; the mark is quiet, and follows a report.
     bool (*ha_fallado)(void *origen) = nullptr;
     void (*error_leyendo)(void *origen) = nullptr;

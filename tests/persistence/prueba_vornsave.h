@@ -1,8 +1,11 @@
 // The destinations over which the suites of the save protocol run, and a file to write and to read through each.
 #pragma once
 
-#include "foundation/lc_fichero.h"
-#include "persistence/vornsave.h"
+#ifndef VN_MODULO
+#define VN_MODULO "prueba"
+#endif
+#include "foundation/lc_fichero_priv.h"
+#include "persistence/vornsave_priv.h"
 #include "prueba.h"
 #include <functional>
 
@@ -10,18 +13,23 @@ namespace vn {
 
 struct destino_de_prueba {
     const char *nombre;
-    bool texto, comentarios;
+    bool texto = false, comentarios = false;
+    bool etiquetas = false;   // the debug form
+    bool sin_tamanyo = false; // as a source that cannot tell how much is left of it
 };
-inline constexpr destino_de_prueba EN_BIN{"BIN", false, false}, EN_TXT{"TXT", true, false},
-    EN_TXT_CON{"TXT with comments", true, true};
-inline constexpr destino_de_prueba DESTINOS[] = {EN_BIN, EN_TXT, EN_TXT_CON};
+inline constexpr destino_de_prueba EN_BIN{"BIN"}, EN_TXT{"TXT", true}, EN_TXT_CON{"TXT with comments", true, true},
+    EN_BIN_CON{"BIN with tags", false, false, true}, EN_BIN_SIN{"BIN of unknown size", false, false, false, true};
+inline constexpr destino_de_prueba DESTINOS[] = {EN_BIN, EN_TXT, EN_TXT_CON, EN_BIN_CON, EN_BIN_SIN};
 
 // A file of the test's directory, open as a destination until it goes out of scope; so it does in a trapped call.
 class abierto {
   public:
     abierto(const destino_de_prueba &d, const char *modo)
         : f_(lc_fopen_u(ancho(ruta()).c_str(), ancho(std::string(modo) + (d.texto ? "t" : "b")).c_str())),
-          datos_(d.texto ? vornsave_registra_txt(f_, d.comentarios ? CIERTO : FALSO) : vornsave_registra_bin(f_)) {}
+          datos_(d.texto ? vornsave_registra_txt(f_, d.comentarios ? CIERTO : FALSO) : vornsave_registra_bin(f_)) {
+        f_->etiquetas_al_leer = f_->etiquetas_al_escribir = d.etiquetas;
+        if (d.sin_tamanyo) datos_->quedan = nullptr;
+    }
     ~abierto() {
         // What a damaged file leaves open is not this fixture's affair.
         if (std::uncaught_exceptions() > 0) vornsave_set_tipo_status_lectura(datos_, 1, nullptr);
