@@ -127,8 +127,8 @@ const vnwchar *lc_nombre_fichero(const vnfichero *f);
 
 /** Locks a zone of the file: `modo` is VN_ZONA_EXCLUSIVA or VN_ZONA_COMPARTIDA, plus VN_ZONA_ESPERA to wait; FALSO when
     another stream, of this or another process, holds part of it or it cannot be done. The zone may lie beyond the end.
-    What is read afterwards is read from the file anew. An exclusive lock needs a stream that writes, a shared one a
-    stream that reads. On Windows others can neither read nor write what is locked against them; elsewhere they are
+    What is read afterwards is read from the file anew. An exclusive lock needs a stream that writes. The byte 2^62 is
+    where writers hold a file: a zone ends before it. On Windows others can neither read nor write what is locked against them; elsewhere they are
     only refused the lock. */
 vnbool lc_bloquea_zona_fichero(vnfichero *f, VN_RANGO(0, 9223372036854775807) int64_t inicio,
                                VN_RANGO(1, 4294967295) uint32_t tamanyo, VN_RANGO(0, 3) uint32_t modo);

@@ -123,7 +123,11 @@ PRUEBA(lc_fichero, modes) {
                  {"wt", nullptr, "XY"},     {"ab", nullptr, "XY"}};
     for (const auto &fila : filas) {
         if (fila.al_abrir != nullptr) graba_fichero(ruta("modo"), fila.al_abrir);
-        pon(abre("modo", fila.modo), "XY");
+        {
+            flujo f = abre("modo", fila.modo);
+            EXPECT_EQ(vornio_ftell_i64(f.get()), fila.modo[0] == 'a' && fila.al_abrir != nullptr ? 5 : 0) << fila.modo;
+            pon(f, "XY");
+        }
         EXPECT_EQ(lee_fichero(ruta("modo")), fila.despues) << fila.modo;
         operaciones_fichero_actuales()->borra(nombre("modo").c_str());
     }
@@ -374,6 +378,11 @@ PRUEBA(lc_fichero, zones_of_two_streams) {
     EXPECT_EQ(lc_desbloquea_zona_fichero(a.get(), 0, 10), CIERTO);
     EXPECT_EQ(lc_bloquea_zona_fichero(b.get(), 0, 5, VN_ZONA_EXCLUSIVA), CIERTO);
     EXPECT_EQ(toma(b, 4), "2345") << "the buffer was filled before the lock";
+    // Beside other writers any writer can lock, either way; not the byte by which they are writers.
+    flujo c = abre("dos", "wb");
+    EXPECT_EQ(lc_bloquea_zona_fichero(c.get(), 100, 4000000000, VN_ZONA_EXCLUSIVA), CIERTO);
+    EXPECT_EQ(lc_bloquea_zona_fichero(c.get(), 20, 1, VN_ZONA_COMPARTIDA), CIERTO);
+    EXPECT_EQ(lc_bloquea_zona_fichero(b.get(), 20, 1, VN_ZONA_EXCLUSIVA), FALSO);
 }
 
 PRUEBA(lc_fichero, wide_lines) {

@@ -4,6 +4,7 @@
 #include "foundation/vnstdc.h"
 #include "persistence/ultiobra.h"
 #include "persistence/vornbin.h"
+#include "fallos.h"
 #include "prueba.h"
 
 namespace {
@@ -481,17 +482,29 @@ PRUEBA(vornbin_cabecera, lo_que_se_abandona_o_falla_deja_el_fichero_de_antes) {
     vornbin_abandona_fichero_abierto_para_escritura_u(f, a.u());
     EXPECT_FALSE(a.hay("_TM$"));
     EXPECT_EQ(a.lee(), antes);
-    // The blanking of a sample on a full disk, with a refused flush or a refused rename is whole or nothing too.
-    vnoperaciones_fichero lleno = *operaciones_fichero_del_sistema(), sin_volcado = lleno, sin_cambio = lleno;
-    lleno.escribe = [](vnid_fichero, int64_t, const void *, size_t, size_t *n) { *n = 0; return VN_FICH_SIN_ESPACIO; };
-    sin_volcado.vuelca = [](vnid_fichero) { return VN_FICH_ES; };
-    sin_cambio.renombra_abierto = [](vnid_fichero, const vnwchar *, const vnwchar *) { return VN_FICH_SIN_PERMISO; };
-    a.graba(ID + "\1" + MARCA + LISTAS);
-    for (const auto *tabla : {&lleno, &sin_volcado, &sin_cambio}) {
-        operaciones_fichero_instala(tabla);
-        EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero", vornbin_marca_fichero_ejemplo_u(a.u())), FALSO);
-        operaciones_fichero_instala(nullptr);
-        EXPECT_EQ(a.lee(), ID + "\1" + MARCA + LISTAS);
-        EXPECT_FALSE(a.hay(".TM@"));
-    }
+    // The blanking of a sample, at each of its operations, is whole or nothing too, and says which; a saver of the file
+    // keeps it out.
+    const std::string entero = ID + "\1" + MARCA + LISTAS + std::string(5000, 'd');
+    for (const auto que : {vn::fallo::error_una_vez, vn::fallo::sin_espacio_siempre})
+        for (size_t k = 0, total = 1; k < total; ++k) {
+            SCOPED_TRACE(k);
+            a.graba(entero);
+            bool bien = false;
+            {
+                const vn::con_fallos puestos({que, k, false, {}});
+                bien = vornbin_marca_fichero_ejemplo_u(a.u()) == CIERTO;
+                total = std::max(total, puestos.hechas().size());
+                EXPECT_FALSE(bien && puestos.directorio_sin_volcar());
+                EXPECT_EQ(puestos.riesgos(), std::vector<std::string>{});
+            }
+            EXPECT_EQ(toma_informes().empty(), bien);
+            const std::string queda = a.lee();
+            EXPECT_EQ(queda.find("WENK") == 4, bien || lc_ultimo_error(nullptr) == VN_FICH_SIN_ASEGURAR);
+            EXPECT_TRUE(queda == entero || (queda.find("WENK") == 4 && queda.size() == entero.size()));
+            EXPECT_EQ(vornbin_marca_fichero_ejemplo_u(a.u()), CIERTO);
+            EXPECT_FALSE(a.hay(".TM@") || a.hay("_TM$"));
+        }
+    f = vornbin_abre_fichero_para_escritura_u(a.u(), nullptr);
+    EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", vornbin_marca_fichero_ejemplo_u(a.u())), FALSO);
+    vornbin_abandona_fichero_abierto_para_escritura_u(f, a.u());
 }
