@@ -1,5 +1,6 @@
 /* Recent works: the list of the works that the user last opened, in a small text file whose path the host gives. A list
-   that cannot be read is discarded: it never stops a program. */
+   that is damaged is discarded: it never stops a program. One that cannot be read for the moment, because another program
+   holds it or the disk fails, reads as empty and is left as it is: nothing is written over it. */
 #ifndef VN_ULTIOBRA_H
 #define VN_ULTIOBRA_H
 

@@ -148,7 +148,8 @@ void bin_trata_punto(Punto2D *pto, vnfichero *f, vnbool graba);
 
 /* Files. A file is an optional header (who wrote it, in which version of the program, named fields), an optional format
    prologue (debug byte, format version, signature, title), and the caller's data. Saving goes to `nomfich` with "_TM$"
-   appended; the file itself is only touched by the close. `nomfich` is the final name throughout. `obra` is the file
+   appended, as vornfile.h tells: one saver at a time, the file itself only touched by the close; lc_ultimo_error(NULL)
+   tells why something failed. `nomfich` is the final name throughout. `obra` is the file
    with the list of recent works that is told, or null. Names are wide in operations ending in _u or _unicode and ANSI
    in the others.
 
@@ -179,14 +180,16 @@ vnfichero *vornbin_abre_basico_fichero_para_escritura(const char *nomfich);
 
 /** Closes a stream opened for writing and makes it the file: flushed to disk, the old file kept as its safety copy,
     replaced in one step. A sample stays a sample. CIERTO when all of it was done; FALSO, after its report, leaves the
-    old file as it was. The stream is closed in any case. */
+    old file as it was (but for VN_FICH_SIN_ASEGURAR, vornfile.h). The stream is closed in any case; one that no opening
+    for writing made, or that was opened by another name, is reported and nothing else. */
 vnbool vornbin_cierra_fichero_abierto_para_escritura_u(VN_CONSUME vnfichero *f, const vnwchar *nomfich,
                                                        VN_OPC const vnwchar *obra);
 vnbool vornbin_cierra_fichero_abierto_para_escritura(VN_CONSUME vnfichero *f, const char *nomfich,
                                                      VN_OPC const char *obra);
 /** The same, with no word to any list of recent works. */
 vnbool vornbin_cierra_basico_fichero_abierto_para_escritura(VN_CONSUME vnfichero *f, const char *nomfich);
-/** Closes a stream opened for writing and gives the save up: the temporary is removed, the file stays as it was. */
+/** Closes a stream opened for writing and gives the save up: its temporary is removed, the file stays as it was. Another
+    stream is reported and just closed. */
 void vornbin_abandona_fichero_abierto_para_escritura_u(VN_CONSUME vnfichero *f, const vnwchar *nomfich);
 
 /** Opens for reading and passes over the header, if there is one: the stream stands at the data. The two texts are new
@@ -244,8 +247,9 @@ vnbool vornbin_lee_campos_cabecera_u(const vnwchar *nomfich, VN_SALIDA arrCADENA
 void vornbin_establece_directorio_ejemplos_u(VN_OPC const vnwchar *directorio);
 /** Whether the path begins, in any case, with the directory of the samples. */
 vnbool vornbin_es_directorio_ejemplos(const char *ruta);
-/** Turns a file with a header into a sample, its size unchanged: named fields are blanked. CIERTO when it is done;
-    FALSO, after its report, leaves the file as it was. */
+/** Turns a file with a header into a sample, its size unchanged: named fields are blanked, and what a save that died has
+    left is removed. Refused while somebody saves the file. CIERTO when it is done; FALSO, after its report, leaves the
+    file as it was. */
 vnbool vornbin_marca_fichero_ejemplo_u(const vnwchar *nomfich);
 
 /** Whether the next bytes are those of `id`, without its terminator. On CIERTO the stream stands after them, otherwise,

@@ -161,6 +161,7 @@ PARAMETROS = [
     (r"f_lc_fopen_modo_escritura_u", r"modo", 'textos_u({n}, {{u"w", u"r", u"r+b", u"", u"%s"}})'),
     (r".*", r"modo", 'modo_de_abrir<{t}>({n})'),
     (r"vnnumlet_(numero|moneda)_en_cifras_a_letra", r"cadena", 'textos({n}, {{"12.50", "0", "", "-1", "999999999999999999999.1", "1,5"}})'),
+    (r"vornfile_.*", r"sufijo", 'textos_u({n}, {{u"_X$", u"", u"a/b"}})'),
     (r"vornstrhex_.*", r"texto", 'textos({n}, {{"6162", "", "6", "zz", "0g", "%s"}})'),
     (r".*", r"patron", 'patron_de_ficheros<{t}>({n})'),
     # Keys that may be made in a real registry.
@@ -216,6 +217,7 @@ NEUTROS = [
     (r"vnstdc_(str|wcs|mem)(n?cpy|cat)", "first", ""),
     (r"nousar_(msglocal_)?original(_u)?|vorntime_obtener_nombre_mes(_abreviado)?(_u)?|vtm_letra_inicial.*", "*", "an empty text"),
     (r"cnv_strextunids", "*", "an empty text"),
+    (r"lc_texto_error_u", "*", "an empty text"),
     (r"convers_valor_.*", "*", "the value as it came"),
     (r"vtm_crea", "*", "the start of 1970"),
     (r"vornspy_(nousar_(malloc|calloc|realloc)|reserva_seguro)", "*", "a block all the same"),

@@ -86,8 +86,14 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     const DWORD manera = (como & VN_ABRE_CREA) == 0    ? OPEN_EXISTING
                          : (como & VN_ABRE_NUEVO) != 0 ? CREATE_NEW
                                                        : OPEN_ALWAYS;
-    const HANDLE h = CreateFileW(ruta.c_str(), acceso, otros, nullptr, manera,
-                                 FILE_ATTRIBUTE_NORMAL | (propio ? FILE_FLAG_OPEN_REPARSE_POINT : 0), nullptr);
+    const auto intenta = [&](DWORD con) {
+        return CreateFileW(ruta.c_str(), con, otros, nullptr, manera,
+                           FILE_ATTRIBUTE_NORMAL | (propio ? FILE_FLAG_OPEN_REPARSE_POINT : 0), nullptr);
+    };
+    HANDLE h = intenta(acceso);
+    // Some file systems of a network give nobody the right to change rights.
+    if (h == INVALID_HANDLE_VALUE && propio && GetLastError() == ERROR_ACCESS_DENIED)
+        h = intenta(acceso & ~static_cast<DWORD>(WRITE_DAC));
     if (h == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
         const DWORD atributos =
