@@ -260,6 +260,7 @@ class conductor {
                 }
         for (size_t k = 0; k < ops.size(); ++k)
             for (const bool acaba : {false, true}) se_cuela_otro(k, ops[k], acaba);
+        if (!manera_.muere) return;
         size_t ultima = 0;
         for (size_t k = 0; k < ops.size(); ++k)
             if (esta(MORTALES, ops[k])) {

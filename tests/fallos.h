@@ -68,6 +68,7 @@ struct manera_de_guardar {
     const char *fichero = "obra"; // its own name for the file, in the directory "guardado" of the test's
     bool con_copia = true;
     bool informa = true;
+    bool muere = true; // killed at each of its operations too: not needed where another of these does the same saving
     bool dice = true; // its result is the truth that it tells; else it only says what is there
 };
 // Drives every boundary of the save over an old file with its safety copy and over none, with hard links and without,

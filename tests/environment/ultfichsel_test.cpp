@@ -107,5 +107,5 @@ GUARDADO(ultimos_ficheros) {
 }
 
 PRUEBA(ultfichsel, cada_fallo_al_grabarlos) {
-    vn::comprueba_guardado("ultimos_ficheros", {.fichero = "pnlselfic.cfg", .informa = false, .dice = false});
+    vn::comprueba_guardado("ultimos_ficheros", {.fichero = "pnlselfic.cfg", .informa = false, .muere = false, .dice = false});
 }

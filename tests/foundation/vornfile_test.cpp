@@ -69,8 +69,8 @@ GUARDADO(fichero_de_memoria) {
     return bien;
 }
 
-PRUEBA(vornfile, every_boundary_of_a_copy) { comprueba_guardado("copia_segura", {.con_copia = false, .informa = false}); }
-PRUEBA(vornfile, every_boundary_of_a_memory_file) { comprueba_guardado("fichero_de_memoria", {.con_copia = false}); }
+PRUEBA(vornfile, every_boundary_of_a_copy) { comprueba_guardado("copia_segura", {.con_copia = false, .informa = false, .muere = false}); }
+PRUEBA(vornfile, every_boundary_of_a_memory_file) { comprueba_guardado("fichero_de_memoria", {.con_copia = false, .muere = false}); }
 PRUEBA(vornfile, every_boundary_of_a_save_that_commits_at_close) { comprueba_guardado("definitivo_al_cerrar"); }
 PRUEBA(vornfile, every_boundary_of_a_save_that_commits_a_temporary) { comprueba_guardado("hacer_definitivo"); }
 

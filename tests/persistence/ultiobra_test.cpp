@@ -149,5 +149,5 @@ GUARDADO(ultimas_obras) {
 }
 
 PRUEBA(ultiobra, cada_fallo_al_leer_y_grabar_la_lista) {
-    vn::comprueba_guardado("ultimas_obras", {.informa = false, .dice = false});
+    vn::comprueba_guardado("ultimas_obras", {.informa = false, .muere = false, .dice = false});
 }
