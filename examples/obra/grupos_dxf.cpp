@@ -2,11 +2,13 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 namespace obra {
 namespace {
 
 constexpr const char *BLANCOS = " \t";
+constexpr size_t MAXIMO_CODIGO = 1024; // what is longer is no code, and perhaps has no end
 
 std::string_view sin_blancos(std::string_view s) {
     const size_t desde = s.find_first_not_of(BLANCOS);
@@ -24,15 +26,15 @@ bool grupos_dxf::llena() {
     return !bloque_.empty();
 }
 
-// Into the value, without its end, which is LF, CR LF or CR.
-bool grupos_dxf::otra_linea() {
+// Into the value, without its end, which is LF, CR LF or CR. One longer than `maximo` is not read whole.
+bool grupos_dxf::otra_linea(size_t maximo) {
     valor_.clear();
     if (aqui_ == bloque_.size() && !llena()) return false;
     ++linea_;
     size_t fin;
     while ((fin = bloque_.find_first_of("\r\n", aqui_)) == std::string::npos) {
         valor_.append(bloque_, aqui_);
-        if (!llena()) break;
+        if (!llena() || valor_.size() > maximo) break;
     }
     if (fin != std::string::npos) {
         valor_.append(bloque_, aqui_, fin - aqui_);
@@ -45,19 +47,19 @@ bool grupos_dxf::otra_linea() {
 }
 
 bool grupos_dxf::siguiente() {
-    if (danado_ || !otra_linea()) return false;
+    if (danado_ || !otra_linea(MAXIMO_CODIGO)) return false;
     if (linea_ == 1 && valor_.starts_with("\xEF\xBB\xBF")) valor_.erase(0, 3);
     const std::string_view s = sin_blancos(valor_);
     const auto [fin, error] = std::from_chars(s.data(), s.data() + s.size(), codigo_);
     if (error != std::errc() || fin != s.data() + s.size()) {
         // Blank lines may follow the last group.
         const uint64_t aqui = linea_;
-        while (sin_blancos(valor_).empty() && otra_linea()) {}
+        while (sin_blancos(valor_).empty() && otra_linea(MAXIMO_CODIGO)) {}
         danado_ = !sin_blancos(valor_).empty();
         linea_ = aqui;
         return false;
     }
-    return otra_linea();
+    return otra_linea(SIZE_MAX);
 }
 
 std::string grupos_dxf::nombre() const { return std::string(sin_blancos(valor_)); }

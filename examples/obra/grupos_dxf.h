@@ -1,4 +1,4 @@
-// The groups of a DXF, one after another: a code on a line, its value on the next. Lines have no limit of length.
+// The groups of a DXF, one after another: a code on a line, its value on the next, which has no limit of length.
 #pragma once
 
 #include "foundation/lc_fichero.h"
@@ -24,7 +24,7 @@ class grupos_dxf {
     uint64_t bytes() const { return bytes_; } // read so far
 
   private:
-    bool otra_linea();
+    bool otra_linea(size_t maximo);
     bool llena();
 
     vnfichero *f_;

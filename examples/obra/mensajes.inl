@@ -6,21 +6,24 @@
 X(uso,
   T(ES, "uso: obra importa PLANO.dxf OBRA [CAMPO=VALOR...]\n"
         "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-        "     N: 0 español, 1 francés, 2 portugués de Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés, 9 gallego, 13 alemán"),
+        "     N: 0 español, 1 francés, 2 portugués de Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés, 9 gallego,\n"
+        "     13 alemán"),
   T(FR, "utilisation : obra importa PLAN.dxf PROJET [CHAMP=VALEUR...]\n"
         "              obra informa PROJET [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
         "              N : 0 espagnol, 1 français, 2 portugais du Brésil, 3 catalan, 4 italien, 5 portugais, 8 anglais,\n"
         "              9 galicien, 13 allemand"),
   T(PT_BR, "uso: obra importa PLANTA.dxf OBRA [CAMPO=VALOR...]\n"
            "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-           "     N: 0 espanhol, 1 francês, 2 português do Brasil, 3 catalão, 4 italiano, 5 português, 8 inglês, 9 galego, 13 alemão"),
+           "     N: 0 espanhol, 1 francês, 2 português do Brasil, 3 catalão, 4 italiano, 5 português, 8 inglês, 9 galego,\n"
+           "     13 alemão"),
   T(PT, "utilização: obra importa PLANTA.dxf OBRA [CAMPO=VALOR...]\n"
         "            obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
         "            N: 0 espanhol, 1 francês, 2 português do Brasil, 3 catalão, 4 italiano, 5 português, 8 inglês,\n"
         "            9 galego, 13 alemão"),
   T(CA, "ús: obra importa PLÀNOL.dxf OBRA [CAMP=VALOR...]\n"
         "    obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-        "    N: 0 espanyol, 1 francès, 2 portuguès del Brasil, 3 català, 4 italià, 5 portuguès, 8 anglès, 9 gallec, 13 alemany"),
+        "    N: 0 espanyol, 1 francès, 2 portuguès del Brasil, 3 català, 4 italià, 5 portuguès, 8 anglès, 9 gallec,\n"
+        "    13 alemany"),
   T(IT, "uso: obra importa DISEGNO.dxf PROGETTO [CAMPO=VALORE...]\n"
         "     obra informa PROGETTO [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
         "     N: 0 spagnolo, 1 francese, 2 portoghese del Brasile, 3 catalano, 4 italiano, 5 portoghese, 8 inglese,\n"
@@ -31,7 +34,8 @@ X(uso,
         "       9 Galician, 13 German"),
   T(GL, "uso: obra importa PLANO.dxf OBRA [CAMPO=VALOR...]\n"
         "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-        "     N: 0 español, 1 francés, 2 portugués do Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés, 9 galego, 13 alemán"),
+        "     N: 0 español, 1 francés, 2 portugués do Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés, 9 galego,\n"
+        "     13 alemán"),
   T(DE, "Aufruf: obra importa PLAN.dxf PROJEKT [FELD=WERT...]\n"
         "        obra informa PROJEKT [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
         "        N: 0 Spanisch, 1 Französisch, 2 brasilianisches Portugiesisch, 3 Katalanisch, 4 Italienisch,\n"
@@ -55,11 +59,6 @@ X(no_vale, T(ES, "valor no válido; ha de ser uno de:"), T(FR, "valeur non valab
   T(CA, "valor no vàlid; ha de ser un d'aquests:"), T(IT, "valore non valido; valori ammessi:"),
   T(EN, "invalid value; one of:"), T(GL, "valor non válido; ten que ser un destes:"),
   T(DE, "unzulässiger Wert; möglich sind:"))
-X(no_existe, T(ES, "el fichero no existe o no se puede leer"), T(FR, "le fichier n'existe pas ou ne peut pas être lu"),
-  T(PT_BR, "o arquivo não existe ou não pode ser lido"), T(PT, "o ficheiro não existe ou não pode ser lido"),
-  T(CA, "el fitxer no existeix o no es pot llegir"), T(IT, "il file non esiste o non può essere letto"),
-  T(EN, "the file does not exist or cannot be read"), T(GL, "o ficheiro non existe ou non se pode ler"),
-  T(DE, "die Datei ist nicht vorhanden oder nicht lesbar"))
 X(es_directorio, T(ES, "es un directorio"), T(FR, "c'est un répertoire"), T(PT_BR, "é um diretório"),
   T(CA, "és un directori"), T(IT, "è una cartella"), T(EN, "is a directory"), T(GL, "é un directorio"),
   T(DE, "ist ein Verzeichnis"))
@@ -99,23 +98,23 @@ X(sin_salida, T(ES, "no se puede escribir el resultado"), T(FR, "impossible d'é
   T(PT_BR, "não é possível escrever o resultado"), T(CA, "no es pot escriure el resultat"),
   T(IT, "impossibile scrivere il risultato"), T(EN, "the result cannot be written"),
   T(GL, "non se pode escribir o resultado"), T(DE, "das Ergebnis kann nicht geschrieben werden"))
-X(no_se_lee, T(ES, "no se puede leer el DXF"), T(FR, "impossible de lire le fichier DXF"),
-  T(PT_BR, "não é possível ler o DXF"), T(CA, "no es pot llegir el DXF"), T(IT, "impossibile leggere il file DXF"),
-  T(EN, "the DXF cannot be read"), T(GL, "non se pode ler o DXF"), T(DE, "die DXF-Datei kann nicht gelesen werden"))
+X(no_se_lee, T(ES, "no se puede leer"), T(FR, "ne peut pas être lu"), T(PT_BR, "não pode ser lido"),
+  T(CA, "no es pot llegir"), T(IT, "non può essere letto"), T(EN, "cannot be read"), T(GL, "non se pode ler"),
+  T(DE, "kann nicht gelesen werden"))
 X(demasiado, T(ES, "el dibujo tiene demasiadas entidades"), T(FR, "le dessin contient trop d'entités"),
   T(PT_BR, "o desenho tem entidades demais"), T(PT, "o desenho tem demasiadas entidades"),
   T(CA, "el dibuix té massa entitats"), T(IT, "il disegno contiene troppe entità"),
   T(EN, "the drawing has too many entities"), T(GL, "o debuxo ten demasiadas entidades"),
   T(DE, "die Zeichnung enthält zu viele Objekte"))
-X(no_se_graba, T(ES, "no se ha podido grabar; el fichero anterior queda como estaba"),
-  T(FR, "l'enregistrement a échoué ; le fichier précédent reste inchangé"),
-  T(PT_BR, "não foi possível gravar; o arquivo anterior fica como estava"),
-  T(PT, "não foi possível gravar; o ficheiro anterior fica como estava"),
-  T(CA, "no s'ha pogut desar; el fitxer anterior queda com estava"),
-  T(IT, "impossibile salvare; il file precedente resta com'era"),
-  T(EN, "could not be saved; a previous file is as it was"),
-  T(GL, "non se puido gravar; o ficheiro anterior queda como estaba"),
-  T(DE, "konnte nicht gespeichert werden; die vorherige Datei bleibt unverändert"))
+X(no_se_graba, T(ES, "no se ha podido grabar; el fichero anterior, si lo hay, queda como estaba"),
+  T(FR, "l'enregistrement a échoué ; le fichier précédent, s'il existe, reste inchangé"),
+  T(PT_BR, "não foi possível gravar; o arquivo anterior, se houver, fica como estava"),
+  T(PT, "não foi possível gravar; o ficheiro anterior, se houver, fica como estava"),
+  T(CA, "no s'ha pogut desar; el fitxer anterior, si n'hi ha, queda com estava"),
+  T(IT, "impossibile salvare; il file precedente, se c'è, resta com'era"),
+  T(EN, "could not be saved; the previous file, if there is one, is as it was"),
+  T(GL, "non se puido gravar; o ficheiro anterior, se o hai, queda como estaba"),
+  T(DE, "konnte nicht gespeichert werden; eine vorherige Datei bleibt unverändert"))
 X(no_es_obra, T(ES, "no es una obra o está dañada"), T(FR, "ce n'est pas un fichier de projet, ou il est endommagé"),
   T(PT_BR, "não é um arquivo de obra ou está danificado"), T(PT, "não é um ficheiro de obra ou está danificado"),
   T(CA, "no és una obra o està malmesa"), T(IT, "non è un file di progetto o è danneggiato"),

@@ -42,19 +42,25 @@ int uso(const std::string &que) {
 // The reports of the library are for its developers: this program says its own line.
 void recibe_informe(const vninforme *, void *) {}
 
+// With why, where the system said it of the last file that failed.
+std::string con_motivo(vnfunc_mensaje que) {
+    const std::string motivo = utf8(lc_texto_error_u(lc_ultimo_error(nullptr)));
+    return motivo.empty() ? di(que) : di(que) + " (" + motivo + ")";
+}
+
 // 0, or the exit status when there is no such file to read.
 int comprueba_que_se_lee(const std::string &nombre) {
     const texto u = ancho(nombre);
     if (vdir_existe_directorio_UNICODE(u.c_str()) == CIERTO) return falla(nombre, di(mensaje::es_directorio));
-    if (vdir_se_puede_leer_UNICODE(u.c_str()) == FALSO) return falla(nombre, di(mensaje::no_existe));
-    return 0;
+    const dueno_fichero f(f_lc_fopen_seguro_u(u.c_str(), VNU("rb"), VN_AQUI));
+    return f != nullptr ? 0 : falla(nombre, con_motivo(mensaje::no_se_lee));
 }
 
 int lee_plano(const std::string &dxf, plano &p) {
     noticias_dxf n;
     switch (lee_dxf(ancho(dxf), p, n)) {
     case lectura_dxf::bien: break;
-    case lectura_dxf::no_se_lee: return falla(dxf, di(mensaje::no_se_lee));
+    case lectura_dxf::no_se_lee: return falla(dxf, con_motivo(mensaje::no_se_lee));
     case lectura_dxf::no_es_dxf: return falla(dxf, di(mensaje::no_es_dxf));
     case lectura_dxf::es_binario: return falla(dxf, di(mensaje::es_binario));
     case lectura_dxf::danado: return falla(dxf, di(mensaje::danado) + " " + std::to_string(n.linea));
@@ -80,7 +86,11 @@ int importa(const std::vector<std::string> &args) {
     if (const int e = lee_plano(dxf, p); e != 0) return e;
     const size_t barra = dxf.find_last_of("/\\");
     const texto titulo = ancho(barra == std::string::npos ? dxf : dxf.substr(barra + 1));
-    if (!graba_obra(ancho(destino), p, titulo, campos)) return falla(destino, di(mensaje::no_se_graba));
+    if (!graba_obra(ancho(destino), p, titulo, campos)) {
+        // The one failure after which the new file stands; its reason says so.
+        if (const auto e = lc_ultimo_error(nullptr); e == VN_FICH_SIN_ASEGURAR) return falla(destino, utf8(lc_texto_error_u(e)));
+        return falla(destino, con_motivo(mensaje::no_se_graba));
+    }
     std::printf("%s: %s %s\n", dxf.c_str(), di(mensaje::importado).c_str(), destino.c_str());
     return 0;
 }
