@@ -54,8 +54,9 @@ bool grupos_dxf::siguiente() {
     if (error != std::errc() || fin != s.data() + s.size()) {
         // Blank lines may follow the last group.
         const uint64_t aqui = linea_;
-        while (sin_blancos(valor_).empty() && otra_linea(MAXIMO_CODIGO)) {}
-        danado_ = !sin_blancos(valor_).empty();
+        const auto en_blanco = [&] { return valor_.size() <= MAXIMO_CODIGO && sin_blancos(valor_).empty(); };
+        while (en_blanco() && otra_linea(MAXIMO_CODIGO)) {}
+        danado_ = !en_blanco();
         linea_ = aqui;
         return false;
     }
