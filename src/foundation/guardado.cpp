@@ -1,3 +1,4 @@
+#define VN_MODULO "guardado (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/guardado_priv.h"
 #include "foundation/platform/fichero.h"
 #include <string_view>
