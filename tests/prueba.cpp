@@ -106,10 +106,17 @@ mayor_bloque::mayor_bloque() {
 mayor_bloque::~mayor_bloque() { vornspy_instala_permiso(nullptr, nullptr); }
 
 bool atrapado(const std::function<void()> &f, int reservas) {
+    struct agotada {};
     if (reservas != INT32_MAX)
         vornspy_instala_permiso([](size_t, void *quedan) -> vnbool { return (*static_cast<int *>(quedan))-- > 0 ? CIERTO : FALSO; }, &reservas);
-    const vnbool bien = trapable_ejecuta_funcion_segura(
-        const std::function<void()>, [](const std::function<void()> *g) { (*g)(); }, &f, nullptr);
+    vornspy_instala_memoria_agotada([](void *) { throw agotada{}; }, nullptr);
+    vnbool bien = FALSO;
+    try {
+        bien = trapable_ejecuta_funcion_segura(
+            const std::function<void()>, [](const std::function<void()> *g) { (*g)(); }, &f, nullptr);
+    } catch (const agotada &) {
+    }
+    vornspy_instala_memoria_agotada(nullptr, nullptr);
     if (reservas != INT32_MAX) vornspy_instala_permiso(nullptr, nullptr);
     return bien == CIERTO;
 }

@@ -61,7 +61,7 @@ class mayor_bloque {
   private:
     size_t mayor_ = 0;
 };
-// Runs it inside a trap with so many allocations allowed, all by default; whether it came to its end.
+// Runs it inside a trap with so many allocations allowed, all by default; whether it came to its end without a report.
 bool atrapado(const std::function<void()> &f, int reservas = INT32_MAX);
 // Gives the process a locale of the C library with a decimal comma, if it has one; whether it had.
 bool pon_locale_con_coma();

@@ -45,7 +45,7 @@ void apunorde_nousar_destruye(apunorde **a) {
 
 void apunorde_nousar_inserta_original(apunorde *a, void *p, uint32_t *pos) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(p)) return;
-    // The set took it: what it does not keep is destroyed, also when the comparer or the heap unwinds.
+    // The set took it: what it does not keep is destroyed, also when memory runs out.
     const auto destruye = [a](void *q) { destruye_elemento(a, q); };
     std::unique_ptr<void, decltype(destruye)> propio(p, destruye);
     const auto sitio = busca_elemento(a, p);

@@ -119,8 +119,8 @@ uint32_t arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(arrPuntero *a, void *
     return vn::inserta(a, i, p) ? i : VN_ARR_NO_ESTA;
 }
 
-// Merges runs of 1, 2, 4... between two copies, so that a comparer that has no order, or that unwinds out of the
-// sort, leaves the array with the elements that it had.
+// Merges runs of 1, 2, 4... between two copies, so that a comparer that has no order leaves the array with the elements that
+// it had.
 void arr_QSortPunteroConTipo(arrPuntero *a, vnfunc_compara comparador) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador) || a->num < 2) return;
     const uint32_t n = a->num;

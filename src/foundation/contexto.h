@@ -7,7 +7,7 @@
 VN_C_INICIO
 
 /** Enters a piece of work that `texto` describes. The text is copied (its first 159 units; from the 17th level on only
-    the level counts). A trap that catches a report leaves what was entered inside it. */
+    the level counts). The end of a trap leaves what was entered inside it. */
 void contexto_dentroDeContexto_u(const vnwchar *texto);
 /** Leaves the piece of work that was entered last; `texto` must be its description. Another text is reported and
     leaves down to the level of that text; one that was not entered is reported and leaves nothing. */

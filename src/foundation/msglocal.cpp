@@ -126,7 +126,7 @@ const char *texto_ansi(const char *celda, uint32_t ancho_id, int indice) {
     const std::lock_guard<std::mutex> dentro(d.cerrojo);
     const std::pair clave(indice, std::string(celda));
     if (const auto sitio = d.textos.find(clave); sitio != d.textos.end()) return sitio->second.c_str();
-    // Kept once it is whole: inside a trap the heap may unwind out of any of this.
+    // Kept once it is whole: memory may run out in any of this.
     const vn::propio<char> ansi(
         unicode_convierte_UNICODE_a_ANSI_idioma(sin_id(ancho.c_str(), ancho_id), static_cast<uint32_t>(indice), nullptr));
     if (!d.registrado) atexit_anade(olvida_los_descodificados, nullptr);

@@ -5,7 +5,6 @@
 #include "foundation/error_interno_priv.h"
 #include <algorithm>
 #include <cstring>
-#include <new>
 
 namespace {
 
@@ -33,14 +32,9 @@ class trampa_propia {
 };
 
 bool ejecuta(vnfunc_trapable funcion, void *datos) {
-    try {
-        const trampa_propia abierta;
-        funcion(datos);
-        return !vn::atrapado();
-    } catch (const std::bad_alloc &) {
-        std::strcpy(ultimo_fallo, "memoria agotada\n");
-        return false;
-    }
+    const trampa_propia abierta;
+    funcion(datos);
+    return !vn::atrapado();
 }
 
 } // namespace

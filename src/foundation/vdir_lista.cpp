@@ -18,7 +18,7 @@ bool nombres_en(const texto &directorio, vista mascara, clase que, std::vector<t
 }
 
 arrCADENA_u *nueva_lista(const std::vector<texto> &textos) {
-    // Held until it is whole: memory may run out inside a trap.
+    // Held until it is whole: memory may run out.
     struct destruye {
         void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
     };

@@ -3,8 +3,12 @@
 #include "foundation/afirma.h"
 #include "foundation/propio_priv.h"
 #define EIGEN_NO_DEBUG // its checks end the process; every size is checked here before it gets there
-#include <Eigen/Dense>
 #include <algorithm>
+// It calls operator new then, which comes to the wall, where it would throw.
+#pragma push_macro("__EXCEPTIONS")
+#undef __EXCEPTIONS
+#include <Eigen/Dense>
+#pragma pop_macro("__EXCEPTIONS")
 #include <cmath>
 #include <utility>
 

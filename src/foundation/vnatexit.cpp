@@ -25,19 +25,9 @@ void apila(entrada *nueva, entrada *vieja) {
     while (!la_ultima.compare_exchange_weak(vieja->anterior, nueva, std::memory_order_release, std::memory_order_relaxed)) {}
 }
 
-// What has been taken off the list and not yet run; what is left goes back if a call unwinds to a trap.
+// What has been taken off the list and not yet run.
 class tomadas {
   public:
-    tomadas() = default;
-    ~tomadas() {
-        if (primera_ == nullptr) return;
-        entrada *vieja = primera_;
-        while (vieja->anterior != nullptr) vieja = vieja->anterior;
-        apila(primera_, vieja);
-    }
-    tomadas(const tomadas &) = delete;
-    tomadas &operator=(const tomadas &) = delete;
-
     // The newest entry of all, the ones added meanwhile before the ones taken earlier; null at the end.
     entrada *toma() {
         if (entrada *nuevas = la_ultima.exchange(nullptr, std::memory_order_acquire)) {
@@ -55,13 +45,11 @@ class tomadas {
     entrada *primera_ = nullptr;
 };
 
-struct suelta {
-    entrada *e;
-    ~suelta() {
-        if (e->parametros != nullptr) vornspy_destruye_parametros(&e->parametros);
-        vornspy_free_pp(&e, sizeof(entrada));
-    }
-};
+// Destructors that run later may add more: that is registered anew.
+void al_final() {
+    registrada = false;
+    vnatexit_ejecuta();
+}
 
 } // namespace
 
@@ -69,9 +57,12 @@ void nousar_atexit_anade(vnfunc_atexit funcion, vnparametros *parametros, const 
     vn::propio<vnparametros> suyos(parametros); // whatever happens from here on
     if (!AFIRMA_NO_NULO(funcion)) return;
     if (!registrada.exchange(true)) {
-        vn::plat::fija_en_memoria();
-        std::atexit(vnatexit_ejecuta);
+        vn::plat::fija_en_memoria(&registrada);
+        std::atexit(al_final);
     }
+    // The caller's module, and the one that it registers for.
+    vn::plat::fija_en_memoria(reinterpret_cast<const void *>(funcion));
+    vn::plat::fija_en_memoria(modulo);
     auto *e = static_cast<entrada *>(vornspy_nousar_malloc(sizeof(entrada), modulo, linea));
     *e = {funcion, suyos.release(), nullptr};
     apila(e, e);
@@ -80,7 +71,8 @@ void nousar_atexit_anade(vnfunc_atexit funcion, vnparametros *parametros, const 
 void vnatexit_ejecuta(void) {
     tomadas lista;
     while (entrada *e = lista.toma()) {
-        const suelta al_acabar{e};
         e->funcion(e->parametros);
+        if (e->parametros != nullptr) vornspy_destruye_parametros(&e->parametros);
+        vornspy_free_pp(&e, sizeof(entrada));
     }
 }

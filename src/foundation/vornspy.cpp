@@ -13,7 +13,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
-#include <new>
 #include <utility>
 
 // A block is the platform's own, with a 16-byte head before it that says who asked. Whether an address is a live
@@ -31,35 +30,51 @@ static_assert(sizeof(cabeza) == 16, "blocks keep the platform's alignment");
 constexpr unsigned BITS_TAMANYO = 44;
 constexpr uint64_t MAXIMO_TAMANYO = uint64_t{1} << (BITS_TAMANYO - 1);
 
-// The map of live blocks: a first level over the 47 bits of a user address, leaves made at first use.
-constexpr unsigned BITS_DIRECCION = 47, BITS_HOJA = 28, BITS_GRANO = 4;
+// The map of live blocks: leaves of 256 MiB of addresses each, made at first use, in a table that any address finds its own
+// in.
+constexpr unsigned BITS_HOJA = 28, BITS_GRANO = 4, BITS_TABLA = 16;
 constexpr size_t PALABRAS_HOJA = size_t{1} << (BITS_HOJA - BITS_GRANO - 6);
 using palabra = std::atomic<uint64_t>;
 // A bit of the summary stands for 64 words that have ever held a live block: what a walk has to look at.
 struct hoja_de_bits {
+    uintptr_t numero;
     palabra bits[PALABRAS_HOJA];
     palabra resumen[PALABRAS_HOJA / 64 / 64];
 };
-constinit std::atomic<hoja_de_bits *> hojas[size_t{1} << (BITS_DIRECCION - BITS_HOJA)] = {};
+constinit std::atomic<hoja_de_bits *> hojas[size_t{1} << BITS_TABLA] = {};
 
 constinit vn::par_atomico<vnfunc_permiso> el_permiso;
+constinit vn::par_atomico<vnfunc_memoria_agotada> el_agotamiento;
 constinit std::atomic<bool> fugas_al_salir{false};
 
+// The place in the table of an address's leaf, or the empty one where it belongs; null when the table is full.
+std::atomic<hoja_de_bits *> *sitio_de(uintptr_t numero, hoja_de_bits *&hoja) {
+    constexpr size_t MASCARA = std::size(hojas) - 1;
+    size_t i = static_cast<size_t>((uint64_t{numero} * 0x9E3779B97F4A7C15u) >> (64 - BITS_TABLA));
+    for (size_t k = 0; k <= MASCARA; ++k, i = (i + 1) & MASCARA) {
+        hoja = hojas[i].load(std::memory_order_acquire);
+        if (hoja == nullptr || hoja->numero == numero) [[likely]] return &hojas[i];
+    }
+    return nullptr;
+}
+
 hoja_de_bits *hoja_de(uintptr_t direccion) {
-    if (direccion >> BITS_DIRECCION != 0) return nullptr;
-    return hojas[direccion >> BITS_HOJA].load(std::memory_order_acquire);
+    hoja_de_bits *hoja = nullptr;
+    return sitio_de(direccion >> BITS_HOJA, hoja) != nullptr ? hoja : nullptr;
 }
 
 hoja_de_bits *hoja_creada(uintptr_t direccion) {
-    if (direccion >> BITS_DIRECCION != 0) return nullptr;
-    std::atomic<hoja_de_bits *> &sitio = hojas[direccion >> BITS_HOJA];
-    hoja_de_bits *hoja = sitio.load(std::memory_order_acquire);
-    if (hoja != nullptr) [[likely]] return hoja;
-    auto *nueva = static_cast<hoja_de_bits *>(std::calloc(1, sizeof(hoja_de_bits)));
-    if (nueva == nullptr) return nullptr;
-    if (sitio.compare_exchange_strong(hoja, nueva, std::memory_order_acq_rel)) return nueva;
-    std::free(nueva);
-    return hoja;
+    const uintptr_t numero = direccion >> BITS_HOJA;
+    hoja_de_bits *hoja = nullptr, *nueva = nullptr;
+    std::atomic<hoja_de_bits *> *sitio = sitio_de(numero, hoja);
+    for (; sitio != nullptr && hoja == nullptr; sitio = sitio_de(numero, hoja)) {
+        if (nueva == nullptr) nueva = static_cast<hoja_de_bits *>(std::calloc(1, sizeof(hoja_de_bits)));
+        if (nueva == nullptr) return nullptr;
+        nueva->numero = numero;
+        if (sitio->compare_exchange_strong(hoja, nueva, std::memory_order_acq_rel)) return nueva;
+    }
+    std::free(nueva); // another thread was first
+    return sitio != nullptr ? hoja : nullptr;
 }
 
 struct bit {
@@ -107,17 +122,59 @@ bool esta_vivo(const void *p) {
     return (b.en.load(std::memory_order_relaxed) & b.mascara) != 0;
 }
 
+// What no machine has is not asked for.
 bool permitido(size_t tamanyo) {
+    if (tamanyo > MAXIMO_TAMANYO) [[unlikely]] return false;
     const auto permiso = el_permiso.dame();
     return permiso.funcion == nullptr || permiso.funcion(tamanyo, permiso.datos) == CIERTO;
 }
 
+size_t producto(size_t num, size_t tamanyo) {
+    size_t total = 0;
+    return __builtin_mul_overflow(num, tamanyo, &total) ? SIZE_MAX : total;
+}
+
 cabeza *cabeza_de(void *p) { return static_cast<cabeza *>(p) - 1; }
+
+// ---- Who asked, in texts of our own: those of a module that is unloaded go with it.
+
+struct nombre { // the text stands behind it
+    const nombre *siguiente;
+    const char *texto() const { return reinterpret_cast<const char *>(this + 1); }
+};
+constinit std::atomic<const nombre *> nombres{nullptr};
+constexpr unsigned BITS_VISTOS = 12;
+constinit std::atomic<const char *> vistos[size_t{1} << BITS_VISTOS] = {}; // by the caller's address; its text decides
+
+[[gnu::cold, gnu::noinline]] const char *apunta_nombre(const char *modulo) {
+    const nombre *primero = nombres.load(std::memory_order_acquire);
+    for (const nombre *n = primero; n != nullptr; n = n->siguiente)
+        if (std::strcmp(n->texto(), modulo) == 0) return n->texto();
+    const size_t bytes = std::strlen(modulo) + 1;
+    auto *nuevo = static_cast<nombre *>(std::malloc(sizeof(nombre) + bytes));
+    if (nuevo == nullptr) return nullptr;
+    std::memcpy(nuevo + 1, modulo, bytes);
+    // Two threads at the same name leave it twice: harmless.
+    nuevo->siguiente = primero;
+    while (!nombres.compare_exchange_weak(nuevo->siguiente, nuevo, std::memory_order_release, std::memory_order_relaxed)) {}
+    return nuevo->texto();
+}
+
+const char *propio_nombre(const char *modulo) {
+    if (modulo == nullptr) return nullptr;
+    std::atomic<const char *> &visto =
+        vistos[(uint64_t{reinterpret_cast<uintptr_t>(modulo)} * 0x9E3779B97F4A7C15u) >> (64 - BITS_VISTOS)];
+    const char *n = visto.load(std::memory_order_acquire);
+    if (n != nullptr && std::strcmp(n, modulo) == 0) [[likely]] return n;
+    n = apunta_nombre(modulo);
+    visto.store(n, std::memory_order_release);
+    return n;
+}
 
 // Fills the head and enters the block in the map; null hands null on.
 void *estrena(cabeza *c, size_t tamanyo, const char *modulo, uint32_t linea) {
     if (c == nullptr) return nullptr;
-    c->modulo = modulo;
+    c->modulo = propio_nombre(modulo);
     c->linea_y_tamanyo = (uint64_t{linea} << BITS_TAMANYO) | tamanyo;
     if (apunta(c + 1)) [[likely]] return c + 1;
     std::free(c);
@@ -134,9 +191,10 @@ void *reserva_a_cero(size_t tamanyo, const char *modulo, uint32_t linea) {
     return estrena(static_cast<cabeza *>(std::calloc(1, tamanyo + sizeof(cabeza))), tamanyo, modulo, linea);
 }
 
-// Nobody above can go on without the block: inside a trap the call unwinds, elsewhere the process ends with a line.
+// Nobody above can go on without the block: the host's handler, or one line, and the process ends.
 [[noreturn, gnu::cold]] void sin_memoria(const char *modulo, uint32_t linea) {
-    if (vn::trampa_abierta() != nullptr) throw std::bad_alloc();
+    if (const auto h = el_agotamiento.dame(); h.funcion != nullptr) h.funcion(h.datos);
+    vn::trampa_abierta() = nullptr; // no trap keeps this to itself
     error_interno_msg("memoria != NULL", modulo, linea, "memoria agotada", 0);
     std::abort();
 }
@@ -161,10 +219,10 @@ void por_cada_vivo(F &&funcion) {
         funcion(p, static_cast<size_t>(c->linea_y_tamanyo & ((uint64_t{1} << BITS_TAMANYO) - 1)), c->modulo,
                 static_cast<uint32_t>(c->linea_y_tamanyo >> BITS_TAMANYO));
     };
-    for (size_t h = 0; h < std::size(hojas); ++h) {
-        const hoja_de_bits *hoja = hojas[h].load(std::memory_order_acquire);
+    for (const auto &sitio : hojas) {
+        const hoja_de_bits *hoja = sitio.load(std::memory_order_acquire);
         if (hoja == nullptr) continue;
-        const size_t primer_grano = h << (BITS_HOJA - BITS_GRANO);
+        const size_t primer_grano = hoja->numero << (BITS_HOJA - BITS_GRANO);
         for (size_t r = 0; r < std::size(hoja->resumen); ++r) {
             por_cada_bit(hoja->resumen[r], r << 6, [&](size_t grupo) {
                 for (size_t w = grupo << 6; w < (grupo + 1) << 6; ++w) por_cada_bit(hoja->bits[w], primer_grano + (w << 6), di);
@@ -178,17 +236,14 @@ void *&puntero_en(void *pp) { return *static_cast<void **>(pp); }
 } // namespace
 
 void *vornspy_nousar_malloc(size_t tamanyo, const char *modulo, uint32_t linea) {
-    if (!AFIRMA(tamanyo <= MAXIMO_TAMANYO)) tamanyo = 0;
     return exige(reserva(tamanyo, modulo, linea), modulo, linea);
 }
 
 void *vornspy_nousar_calloc(size_t num, size_t tamanyo, const char *modulo, uint32_t linea) {
-    if (!AFIRMA(tamanyo == 0 || num <= MAXIMO_TAMANYO / tamanyo)) num = 0;
-    return exige(reserva_a_cero(num * tamanyo, modulo, linea), modulo, linea);
+    return exige(reserva_a_cero(producto(num, tamanyo), modulo, linea), modulo, linea);
 }
 
 void *vornspy_nousar_realloc(void *p, size_t tamanyo, const char *modulo, uint32_t linea) {
-    if (!AFIRMA(tamanyo <= MAXIMO_TAMANYO)) return p;
     if (p == nullptr) return exige(reserva(tamanyo, modulo, linea), modulo, linea);
     if (!AFIRMA(vornspy_es_memoria_reservada_valida(p) == CIERTO)) return nullptr;
     if (!permitido(tamanyo)) sin_memoria(modulo, linea);
@@ -204,8 +259,8 @@ void *vornspy_nousar_realloc(void *p, size_t tamanyo, const char *modulo, uint32
 
 void *vornspy_reserva_seguro(size_t num, size_t tamanyo, vnbool a_cero, const char *modulo, uint32_t linea) {
     if (!AFIRMA_LOGICO(a_cero)) a_cero = CIERTO;
-    if (tamanyo != 0 && num > MAXIMO_TAMANYO / tamanyo) return nullptr;
-    return a_cero == CIERTO ? reserva_a_cero(num * tamanyo, modulo, linea) : reserva(num * tamanyo, modulo, linea);
+    const size_t total = producto(num, tamanyo);
+    return a_cero == CIERTO ? reserva_a_cero(total, modulo, linea) : reserva(total, modulo, linea);
 }
 
 void vornspy_nousar_free_pp(void *p, size_t) {
@@ -327,7 +382,7 @@ void vornspy_informa_de_fugas_al_salir(vnbool activo) {
     static std::atomic<bool> registrado{false};
     fugas_al_salir = activo == CIERTO;
     if (activo == CIERTO && !registrado.exchange(true)) {
-        vn::plat::fija_en_memoria();
+        vn::plat::fija_en_memoria(&fugas_al_salir);
         std::atexit([] {
             // Whichever of the two was registered first, the list runs before its blocks are counted.
             vnatexit_ejecuta();
@@ -335,6 +390,8 @@ void vornspy_informa_de_fugas_al_salir(vnbool activo) {
         });
     }
 }
+
+void vornspy_instala_memoria_agotada(vnfunc_memoria_agotada funcion, void *datos) { el_agotamiento.pon(funcion, datos); }
 
 void vornspy_instala_permiso(vnfunc_permiso permiso, void *datos) {
     el_permiso.pon(permiso, datos);

@@ -101,7 +101,7 @@ class texto_creciente {
     void anade(char c) {
         if (n_ + 1 >= capacidad_) {
             capacidad_ = capacidad_ * 2 + 32;
-            // The old block stays owned should the heap unwind.
+            // The old block stays owned should memory run out.
             auto *mayor = static_cast<char *>(vornspy_realloc(p_.get(), capacidad_));
             static_cast<void>(p_.release());
             p_.reset(mayor);

@@ -151,10 +151,7 @@ void bin_trata_punto(Punto2D *pto, vnfichero *f, vnbool graba);
    appended, as vornfile.h tells: one saver at a time, the file itself only touched by the close; lc_ultimo_error(NULL)
    tells why something failed. `nomfich` is the final name throughout. `obra` is the file
    with the list of recent works that is told, or null. Names are wide in operations ending in _u or _unicode and ANSI
-   in the others.
-
-   A stream that an opening operation returned is the host's: a host that works inside a trapped call keeps it outside,
-   so that it can close it when the trap has caught a failure. */
+   in the others. */
 
 /** Opens for writing with a header. The named fields of an existing file are carried over. The stream stands after the
     header; null if the file cannot be opened, which is reported. */

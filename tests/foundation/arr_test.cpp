@@ -275,7 +275,7 @@ PRUEBA(arr, un_array_de_arrays_y_el_paseo_que_lo_cambia) {
     arulong64_destruye(&u);
 }
 
-// Each allocation fails in its turn, inside a trap: what was there stays as it was, or has grown by whole elements, and
+// Each allocation fails in its turn: what was there stays as it was, or has grown by whole elements, and
 // nothing that was being made is lost.
 PRUEBA(arr, sin_memoria_no_se_pierde_nada) {
     struct caso {

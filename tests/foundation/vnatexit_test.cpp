@@ -1,6 +1,8 @@
 #include "foundation/vnatexit.h"
+#include "plataforma/proceso.h"
 #include "prueba.h"
 #include <atomic>
+#include <cstdlib>
 #include <thread>
 
 namespace {
@@ -37,6 +39,21 @@ PRUEBA(vnatexit, una_llamada_que_falla_en_una_trampa_no_detiene_las_demas) {
     atexit_anade(falla, nullptr);
     EXPECT_EQ(trapable_nousar_recursivo_ejecuta_funcion_segura(ejecuta, nullptr, nullptr), FALSO);
     EXPECT_EQ(orden, "a");
+}
+
+// A handler that was registered before the list's own runs after it.
+HIJO(vnatexit_tarde) {
+    static std::string fichero;
+    fichero = args.at(0);
+    std::atexit([] { atexit_anade([](vnparametros *) { vn::graba_fichero(fichero, "tarde"); }, nullptr); });
+    atexit_anade(cuenta, nullptr);
+    return 0;
+}
+
+PRUEBA(vnatexit, lo_que_se_anade_cuando_ya_ha_corrido_corre_tambien) {
+    vn::proceso p("vnatexit_tarde", {directorio() + "/visto"});
+    EXPECT_EQ(p.espera(20000), 0);
+    EXPECT_EQ(vn::lee_fichero(directorio() + "/visto"), "tarde");
 }
 
 PRUEBA(vnatexit, muchas_hebras_registran_y_ejecutan_a_la_vez) {

@@ -1,5 +1,6 @@
 #define VN_MODULO "vornspy_test"
 #include "foundation/vornspy.h"
+#include "plataforma/proceso.h"
 #include "prueba.h"
 #include <cstring>
 #include <thread>
@@ -57,6 +58,42 @@ PRUEBA(vornspy, varias_hebras_a_la_vez) {
     std::thread a(trabaja), b(trabaja);
     a.join();
     b.join();
+}
+
+// A size that nobody has is exhausted memory, never a smaller block.
+PRUEBA(vornspy, lo_que_no_cabe_no_da_un_bloque_menor) {
+    struct agotada {};
+    int veces = 0;
+    void *p = vornspy_malloc(8);
+    const auto salta = [](void *n) {
+        ++*static_cast<int *>(n);
+        throw agotada{};
+    };
+    vornspy_instala_memoria_agotada(salta, &veces);
+    EXPECT_THROW(vornspy_malloc(SIZE_MAX), agotada);
+    EXPECT_THROW(vornspy_calloc(size_t{1} << 32, size_t{1} << 32), agotada);
+    for (const size_t n : {SIZE_MAX, SIZE_MAX - 8, size_t{1} << 60}) EXPECT_THROW(vornspy_realloc(p, n), agotada) << n;
+    EXPECT_EQ(vornspy_reserva_seguro(SIZE_MAX, 2, FALSO, VN_AQUI), nullptr);
+    vornspy_instala_memoria_agotada(nullptr, nullptr);
+    EXPECT_EQ(veces, 5);
+    EXPECT_EQ(vornspy_es_memoria_reservada_valida(p), CIERTO);
+    vornspy_free_pp(&p, 1);
+}
+
+// Without a handler, or with one that returns, the process ends, inside a trap too.
+HIJO(vornspy_sin_memoria) {
+    if (args.at(0) == "vuelve") vornspy_instala_memoria_agotada([](void *) {}, nullptr);
+    const vnfunc_trapable pide = [](void *) { vornspy_malloc(SIZE_MAX); };
+    trapable_ejecuta_funcion_segura(void, pide, nullptr, nullptr);
+    return 0;
+}
+
+PRUEBA(vornspy, sin_memoria_se_acaba_el_proceso) {
+    for (const char *que : {"nada", "vuelve"}) {
+        vn::proceso p("vornspy_sin_memoria", {que});
+        const auto fin = p.espera(30000);
+        EXPECT_TRUE(fin.has_value() && *fin != 0) << que;
+    }
 }
 
 PRUEBA(vornspy, un_paquete_devuelve_sus_valores) {

@@ -140,7 +140,7 @@ PRUEBA(widestr, mapas_de_letras_iguales_en_todas_partes) {
     EXPECT_EQ(h, 9815241886362381049u);
 }
 
-// Each allocation of each of these fails in its turn, inside a trap: no text is left half changed.
+// Each allocation of each of these fails in its turn: no text is left half changed.
 PRUEBA(widestr, sin_memoria_no_se_pierde_nada) {
     using operacion = void (*)(vnwchar **);
     const operacion operaciones[] = {

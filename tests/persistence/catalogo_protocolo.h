@@ -31,8 +31,8 @@ struct azar { // the same everywhere
 };
 inline uint32_t hasta(azar &a, uint32_t n) { return a() % n; }
 
-// No form in text; begins with a count; elements of a host's; what is read is not what would be written again.
-enum clase : uint8_t { SOLO_BIN = 1, CON_CUENTA = 2, AJENOS = 4, SIN_COPIA = 8 };
+// No form in text; begins with a count; what is read is not what would be written again.
+enum clase : uint8_t { SOLO_BIN = 1, CON_CUENTA = 2, SIN_COPIA = 4 };
 struct fila {
     const char *nombre;
     int clase;
@@ -410,20 +410,20 @@ inline const std::vector<fila> &filas() {
              LEE(una_viga(vornsave_lee_estructura_opcional2_con_1_dato_extraST(d, viga, const int32_t, viga::lee_mas, &MAS)))),
         hace("estructura con 2", 0, crea_una, graba_una_menos,
              LEE(una_viga(vornsave_lee_estructura_opcional2_con_2_dato_extraST(d, viga, const int32_t, const int32_t, viga::lee_mas_por, &MAS, &POR)))),
-        hace("arr_punteros", CON_CUENTA | AJENOS, crea_vigas, graba_vigas, LEE(vigas(vornsave_lee_arr_punterosST(d, viga, viga::lee))),
+        hace("arr_punteros", CON_CUENTA, crea_vigas, graba_vigas, LEE(vigas(vornsave_lee_arr_punterosST(d, viga, viga::lee))),
              [](vornsave *d) { vornsave_salta_arr_punteros_ST(d, viga::salta); }),
-        hace("arr_punteros con 1", CON_CUENTA | AJENOS, crea_vigas, graba_vigas_menos,
+        hace("arr_punteros con 1", CON_CUENTA, crea_vigas, graba_vigas_menos,
              LEE(vigas(vornsave_lee_arr_punteros_con_1_dato_extraST(d, viga, const int32_t, viga::lee_mas, &MAS)))),
-        hace("arr_punteros con 2", CON_CUENTA | AJENOS, crea_vigas, graba_vigas_menos,
+        hace("arr_punteros con 2", CON_CUENTA, crea_vigas, graba_vigas_menos,
              LEE(vigas(vornsave_lee_arr_punteros_con_2_datos_extraST(d, viga, const int32_t, const int32_t, viga::lee_mas_por, &MAS, &POR)))),
-        hace("arr_punteros_opcional", AJENOS, crea_vigas_opc, ESCRIBE(vigas, vornsave_graba_arr_punteros_opcional(v.get(), d, viga, viga::graba)),
+        hace("arr_punteros_opcional", 0, crea_vigas_opc, ESCRIBE(vigas, vornsave_graba_arr_punteros_opcional(v.get(), d, viga, viga::graba)),
              LEE(vigas(vornsave_lee_arr_punteros_opcional(d, viga, viga::lee))), [](vornsave *d) { vornsave_salta_arr_punteros_opcionalST(d, viga::salta); }),
-        hace("arr_punteros_opcional con 1", AJENOS, crea_vigas_opc,
+        hace("arr_punteros_opcional con 1", 0, crea_vigas_opc,
              ESCRIBE(vigas, vornsave_graba_arr_punteros_opcional(v.get(), d, viga, viga::graba_menos)),
              LEE(vigas(vornsave_lee_arr_punteros_opcional_con_1_dato_extra(d, viga, const int32_t, viga::lee_mas, &MAS)))),
-        hace("arr_punteros_array", CON_CUENTA | AJENOS, crea_arrays, ESCRIBE(arrays, vornsave_graba_arr_punteros_arrayST(v.get(), d, viga, viga::graba)),
+        hace("arr_punteros_array", CON_CUENTA, crea_arrays, ESCRIBE(arrays, vornsave_graba_arr_punteros_arrayST(v.get(), d, viga, viga::graba)),
              LEE(arrays(vornsave_lee_arr_punteros_arrayST(d, viga, viga::lee)))),
-        hace("arr_punteros_array_opcional", AJENOS, crea_arrays_opc,
+        hace("arr_punteros_array_opcional", 0, crea_arrays_opc,
              ESCRIBE(arrays, vornsave_graba_arr_punteros_array_opcionalST(v.get(), d, viga, viga::graba)),
              LEE(arrays(vornsave_lee_arr_punteros_array_opcionalST(d, viga, viga::lee)))),
         hace("apunorde", CON_CUENTA, crea_orden, ESCRIBE(orden, vornsave_graba_apunorde(v.get(), d, viga, viga::graba)),
@@ -432,7 +432,7 @@ inline const std::vector<fila> &filas() {
              LEE(orden(vornsave_lee_apunorde_con_1_dato_extra(d, &MAS, viga, const int32_t, viga::lee_mas, const int32_t, viga::compara, &SENTIDO, viga::destruye)))),
         hace("apunorde_opcional", 0, crea_orden_opc, ESCRIBE(orden, vornsave_graba_apunorde_opcional(v.get(), d, viga, viga::graba)),
              LEE(orden(vornsave_lee_apunorde_opcional(d, viga, viga::lee, const int32_t, viga::compara, &SENTIDO, viga::destruye)))),
-        hace("arr_puntos2DXPriv", CON_CUENTA | AJENOS, crea_xpriv, ESCRIBE(xpriv, vornsave_graba_arr_puntos2DXPrivST(v.get(), d, viga, viga::graba)),
+        hace("arr_puntos2DXPriv", CON_CUENTA, crea_xpriv, ESCRIBE(xpriv, vornsave_graba_arr_puntos2DXPrivST(v.get(), d, viga, viga::graba)),
              LEE(xpriv(vornsave_lee_arr_puntos2DXPrivST(d, viga, viga::lee)))),
     };
     return todas;

@@ -7,6 +7,7 @@
 #include "barrido.h"
 #include "foundation/avisos.h"
 #include "foundation/error_interno.h"
+#include "foundation/operaciones_fichero.h"
 #include "foundation/trapable.h"
 #include "foundation/vornspy.h"
 #include <algorithm>
@@ -15,9 +16,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <new>
 #include <set>
 #include <string_view>
 #include <thread>
+#include <utility>
 
 namespace barrido {
 namespace {
@@ -114,16 +117,31 @@ struct {
     uint64_t quedan = 0;
 } agotamiento;
 
+bool toca_fallar() {
+    if (!agotamiento.armado || agotamiento.quedan-- != 0) return false;
+    agotamiento.llegado = true;
+    if (agotamiento.para_siempre)
+        agotamiento.quedan = 0;
+    else
+        agotamiento.armado = false;
+    return true;
+}
+
 vnbool hay_memoria(size_t tamanyo, void *) {
-    if (agotamiento.armado && agotamiento.quedan-- == 0) {
-        agotamiento.llegado = true;
-        if (agotamiento.para_siempre)
-            agotamiento.quedan = 0;
-        else
-            agotamiento.armado = false;
-        return FALSO;
-    }
+    if (toca_fallar()) return FALSO;
     return tamanyo <= (size_t{64} << 20) ? CIERTO : FALSO; // no swept call needs more in one block
+}
+
+// All frames between are C++: what the call holds is released on the way.
+struct agotada {};
+void se_agota(void *) { throw agotada{}; }
+
+// Destructors take files away, and nothing can be thrown out of those: there is memory for that.
+vnerror_fichero borra(const vnwchar *nombre) {
+    const bool armado = std::exchange(agotamiento.armado, false);
+    const vnerror_fichero e = operaciones_fichero_del_sistema()->borra(nombre);
+    agotamiento.armado = armado;
+    return e;
 }
 
 // The swept operations may have taken them away.
@@ -131,6 +149,10 @@ void instala_receptores() {
     error_interno_instala_receptor(anota_informe, nullptr);
     avisos_instala_receptor(responde_no, nullptr);
     vornspy_instala_permiso(hay_memoria, nullptr);
+    vornspy_instala_memoria_agotada(se_agota, nullptr);
+    vnoperaciones_fichero tabla = *operaciones_fichero_del_sistema();
+    tabla.borra = borra;
+    operaciones_fichero_instala(&tabla);
 }
 
 std::string barredor::describe(const indices &cuales, bool atrapada) const {
@@ -262,7 +284,7 @@ void barredor::recoge(const indices &cuales, std::vector<argumento> &args, const
         falta(cuales, false, "destroying what the call left is reported: " + ultimo_informe);
 }
 
-// One call; false when it was trapped and memory ran out. Says how many reports it made.
+// One call; false when memory ran out. Says how many reports it made.
 bool barredor::llama(const indices &cuales, bool atrapada, uint64_t &informes, bool *neutro) {
     std::vector<argumento> args;
     std::vector<dato> d;
@@ -277,18 +299,18 @@ bool barredor::llama(const indices &cuales, bool atrapada, uint64_t &informes, b
     dato r{};
     bool alcanza = true;
     const uint64_t antes = error_interno_numero_de_informes();
-    if (atrapada) {
-        agotamiento.armado = agotando_;
+    agotamiento.armado = agotando_;
+    try {
         en_trampa e{&op_, d.data(), &r};
-        const bool bien =
-            trapable_nousar_recursivo_ejecuta_funcion_segura(llama_en_trampa, &e, nullptr) == CIERTO;
-        agotamiento.armado = false;
-        informes = error_interno_numero_de_informes() - antes;
-        alcanza = bien || informes != 0;
-    } else {
-        op_.llama(d.data(), r);
-        informes = error_interno_numero_de_informes() - antes;
+        if (atrapada)
+            trapable_nousar_recursivo_ejecuta_funcion_segura(llama_en_trampa, &e, nullptr);
+        else
+            llama_en_trampa(&e);
+    } catch (const agotada &) {
+        alcanza = false;
     }
+    agotamiento.armado = false;
+    informes = error_interno_numero_de_informes() - antes;
     if (neutro != nullptr) *neutro = es_neutro(d, r);
     const std::string del_informe = ultimo_informe;
     instala_receptores();
@@ -310,7 +332,7 @@ void barredor::prueba(const indices &cuales, bool solo) {
         }
     }
     uint64_t informes = 0;
-    // What asks for more memory than there is may only unwind to a trap.
+    // What asks for more memory than there is comes to no report.
     if (enorme && !llama(cuales, true, informes)) return;
     ultimo_informe.clear();
     bool neutro = true;
@@ -465,6 +487,9 @@ void vigila(unsigned long segundos) {
 
 } // namespace
 } // namespace barrido
+
+// The libraries ask for their scratch here, where one symbol serves the whole process.
+void *operator new(size_t n, const std::nothrow_t &) noexcept { return barrido::toca_fallar() ? nullptr : ::operator new(n); }
 
 int main(int argc, char **argv) {
     using namespace barrido;

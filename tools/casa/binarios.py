@@ -15,6 +15,11 @@ SISTEMA = {"kernel32", "msvcrt", "user32", "advapi32", "shell32", "gdi32", "glu3
 PREFIJO_MINGW = "x86_64-w64-mingw32-"
 
 
+# What would throw for want of memory, or at all, goes to the wall of the library.
+LANZAN = re.compile(r"__cxa_throw(_bad_array\w*)?|_Zn[wa][my](St11align_val_t)?|_ZSt\d+__throw_(bad_|length_error)\w*|"
+                    r"_ZNK?St7__cxx1112basic_string\w*")
+
+
 def salida(*orden):
     return subprocess.run(orden, capture_output=True, text=True, check=True).stdout
 
@@ -36,6 +41,9 @@ def mira_elf(ruta, lista, version):
         yield f"SONAME {soname and soname[1]}, not {esperado}"
     if "NODELETE" not in dinamica:
         yield "may be unmapped while its exit cleaners are registered"
+    for linea in salida("nm", "-D", "--undefined-only", ruta).splitlines():
+        if LANZAN.fullmatch(nombre := linea.split()[-1].partition("@")[0]):
+            yield f"calls {nombre}, which throws past the library"
     yield from compara(nombres, lista)
 
 

@@ -1,5 +1,6 @@
 #include "foundation/platform/consola.h"
 #include "foundation/platform/posix/descriptor.h"
+#include <dlfcn.h>
 
 namespace vn::plat {
 
@@ -22,7 +23,11 @@ void escribe_salida(const char *utf8, size_t n) { escribe(STDOUT_FILENO, utf8, n
 guarda_error::guarda_error() : errno_(errno), ultimo_(0) {}
 guarda_error::~guarda_error() { errno = errno_; }
 
-// The library is linked with -z nodelete.
-void fija_en_memoria() {}
+void fija_en_memoria(const void *direccion) {
+    Dl_info suya;
+    if (::dladdr(direccion, &suya) == 0) return;
+    // A reference of its own goes again: the mark stays.
+    if (void *modulo = ::dlopen(suya.dli_fname, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE)) ::dlclose(modulo);
+}
 
 } // namespace vn::plat

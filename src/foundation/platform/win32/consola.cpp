@@ -22,10 +22,10 @@ guarda_error::~guarda_error() {
     SetLastError(ultimo_);
 }
 
-void fija_en_memoria() {
+void fija_en_memoria(const void *direccion) {
     HMODULE modulo = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
-                       reinterpret_cast<LPCWSTR>(&fija_en_memoria), &modulo);
+                       static_cast<LPCWSTR>(direccion), &modulo);
 }
 
 } // namespace vn::plat
