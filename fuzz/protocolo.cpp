@@ -1,5 +1,5 @@
 // The protocol's readers over binary and text streams. An input is: destination, number of operations, the operations
-// (one byte each), and the content that they read in turn. What they could read is written and read again: the same.
+// (one byte each, passed over from 128 on), and the content that they read in turn. What they could read is written and read again: the same.
 #include "objetivo.h"
 #include "persistence/catalogo_protocolo.h"
 
@@ -97,15 +97,17 @@ void lee_graba_y_lee(destino d, const uint8_t *ops, size_t numero) {
         const abierto de(d, "r"), a(d, "w", COPIA);
         // Few bytes may ask for 256 MiB in a run-coded array: so many of them, once.
         for (size_t i = 0, iguales = 0; i < numero; ++i) {
-            const size_t op = ops[i] % num_operaciones();
+            const size_t op = (ops[i] & 0x7F) % num_operaciones();
+            const bool salta = ops[i] > 0x7F;
             const fila *f = valor(op);
             if (f == nullptr) {
                 marco(op).lee(de.s);
                 continue;
             }
             if (std::strstr(f->nombre, "iguales") != nullptr && iguales++ > 0) continue;
-            if (de.falla() || !entera || !tiene_forma(d, op) || !f->copia) {
-                f->lee(de.s);
+            if (de.falla() || !entera || !tiene_forma(d, op) || !f->copia || salta) {
+                if (salta && f->salta) f->salta(de.s);
+                else f->lee(de.s);
                 continue;
             }
             std::string texto = f->copia(de.s, a.s);
