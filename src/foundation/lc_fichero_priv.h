@@ -73,8 +73,8 @@ vnerror_fichero motivo_de_escritura(const vnfichero &f);
 // A report with a file's name as its detail, and the reason behind it if there is one.
 void informa_con_motivo(const vnwchar *expresion, const char *modulo, uint32_t linea, const vnwchar *nombre,
                         vnerror_fichero e);
-// What was told made no sense, and that has been reported: a stream that writes goes on, but its close fails, so that the
-// old file stays; what is read is not to be trusted. Quiet; nothing for null.
+// What was told made no sense, and that has been reported: a stream that writes goes on, but its close fails, so that
+// the old file stays; what is read is not to be trusted. Quiet; nothing for null.
 inline void marca_fallo_escritura(vnfichero *f) {
     if (f != nullptr && f->escribe) f->sin_sentido = true;
 }

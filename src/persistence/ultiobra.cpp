@@ -91,8 +91,8 @@ void lee_fichero(lectura *l) {
     l->leidas = std::move(o);
 }
 
-// The list as it stands in the file; empty, and the file deleted, if it is damaged. Nothing when it cannot be read for now,
-// because another program holds it or the disk fails: then it is not to be written either.
+// The list as it stands in the file; empty, and the file deleted, if it is damaged. Nothing when it cannot be read for
+// now, because another program holds it or the disk fails: then it is not to be written either.
 std::optional<obras> lee_si_se_puede(const vnwchar *path_lista) {
     uint64_t tamanyo = 0;
     if (path_lista == nullptr || vdir_existe_fichero_UNICODE(path_lista) != CIERTO) return obras();

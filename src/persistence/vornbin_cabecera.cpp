@@ -21,7 +21,8 @@ bool lee_exacto(vnfichero *f, void *destino, size_t n) { return f_lc_fread_sin_e
 
 bool es_letra(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
-// "MASK-version-revision": exactly three pieces, a known mask, and a revision of one character or beginning with a letter.
+// "MASK-version-revision": exactly three pieces, a known mask, and a revision of one character or beginning with a
+// letter.
 bool interpreta_identificacion(std::string_view texto, cabecera &c) {
     texto = texto.substr(0, texto.find('\0'));
     if (std::count(texto.begin(), texto.end(), '-') != 2) return false;
@@ -125,7 +126,8 @@ texto_u listas_cabecera::texto_en(size_t &pos) const {
 }
 
 void listas_cabecera::pon_campos(const arrCADENA_u *nombres, const arrCADENA_u *valores) {
-    // One pass over what there is, whatever is new: the value of each name, the last one given; those not met are added.
+    // One pass over what there is, whatever is new: the value of each name, the last one given; those not met are
+    // added.
     struct nuevo {
         vista_u nombre, valor;
         bool puesto = false;
@@ -213,7 +215,8 @@ void graba_cabecera(vnfichero *f, const listas_cabecera &listas) {
         nousar_formatea("%s-%s-%c", i_MASCARA_VORN, version_versionMayor(), version_revision()));
     const std::string_view texto = identificacion.get();
     cabecera leida;
-    if (!AFIRMA(texto.size() < LIMITE_IDENTIFICACION && interpreta_identificacion(texto, leida))) marca_fallo_escritura(f);
+    if (!AFIRMA(texto.size() < LIMITE_IDENTIFICACION && interpreta_identificacion(texto, leida)))
+        marca_fallo_escritura(f);
     graba_identificacion(f, identificacion.get());
     graba_cuerpo(f, FORMA_ACTUAL, listas);
 }

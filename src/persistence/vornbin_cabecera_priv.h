@@ -67,8 +67,8 @@ void da_textos(const cabecera &c, char **version_texto, char **revision_texto);
 
 // Reads the header at the position of the stream; reports nothing.
 cabecera lee_cabecera(vnfichero *f);
-// Writes the header of this program, or that of another file with its form and its mask. One that could not be read back
-// is reported, and the save fails.
+// Writes the header of this program, or that of another file with its form and its mask. One that could not be read
+// back is reported, and the save fails.
 void graba_cabecera(vnfichero *f, const listas_cabecera &listas);
 void graba_cabecera_copiada(vnfichero *f, const cabecera &c);
 // Overwrites the mask of a file that has a header, leaving the position anywhere.

@@ -83,9 +83,9 @@ inline void graba_double(double dato, vnfichero *f) {
 inline double lee_double(vnfichero *f) { return lee_escalar<double>('d', f); }
 } // namespace directo
 
-// Whole arrays: the bytes, the tags and the checks of one call of the scalar operation per element, in one transfer where
-// no tag goes between; a short read is reported once and the rest is zero. `n` elements at `datos`, which may be null if
-// `n` is 0. Readers are called with an `n` that lc_quedan has accepted.
+// Whole arrays: the bytes, the tags and the checks of one call of the scalar operation per element, in one transfer
+// where no tag goes between; a short read is reported once and the rest is zero. `n` elements at `datos`, which may be
+// null if `n` is 0. Readers are called with an `n` that lc_quedan has accepted.
 #define VN_BIN_BLOQUES(X)                                                                                              \
     X(byte, uint8_t)                                                                                                   \
     X(char, char)                                                                                                      \

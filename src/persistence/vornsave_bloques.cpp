@@ -44,7 +44,8 @@ bool es_seccion_que_se_lee(const i_marca_t &m) {
 }
 // Where what is being read ends, as it was stored.
 int64_t fin_de(const i_marca_t &m) {
-    return m.clase == MARCA_64 ? m.posicion_inicial64 : es_seccion_que_se_lee(m) ? m.posicion_final : m.posicion_inicial;
+    if (m.clase == MARCA_64) return m.posicion_inicial64;
+    return es_seccion_que_se_lee(m) ? m.posicion_final : m.posicion_inicial;
 }
 void quita_ultima_marca(vornsave *d) {
     arr_BorrarEstructuraST(d->pila_marcas, arr_NumElemsPunteroST(d->pila_marcas, i_marca_t) - 1, i_marca_t, destruye_marca);
@@ -202,7 +203,7 @@ void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
     int64_t hueco64 = 0;
     const bool dado = saca_marca(d, id, clase == MARCA_32 ? &hueco : nullptr, clase == MARCA_64 ? &hueco64 : nullptr);
     const int64_t donde = clase == MARCA_32 ? hueco : hueco64;
-    if (!dado || donde < 0 || p_fin < 0 || p_sig < 0) { // or beyond what 32 bits hold: reported, and nothing is overwritten
+    if (!dado || donde < 0 || p_fin < 0 || p_sig < 0) { // beyond what 32 bits hold: reported, nothing is overwritten
         falla(d);
         return;
     }

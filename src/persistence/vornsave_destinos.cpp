@@ -129,7 +129,8 @@ void graba_bool_con_textos(vnfichero *f, vnbool v, const char *texto1, const cha
     vtxt_graba_bool(f, v, texto1, texto2);
 }
 
-// A line end inside a text, and the escape itself, go as wide texts have them; an escape of another form is a text's own.
+// A line end inside a text, and the escape itself, go as wide texts have them; an escape of another form is a text's
+// own.
 constexpr char ESCAPADOS[] = {'\n', '\r', ESCAPE_DE_UNIDAD, '\0'};
 constexpr size_t CIFRAS = 4;
 std::string escapa(const char *s) {
@@ -148,7 +149,8 @@ char *quita_escapes(char *s) {
     char *d = std::strchr(s, ESCAPE_DE_UNIDAD);
     for (const char *p = d; p != nullptr && (*d = *p) != '\0'; ++p, ++d) {
         if (*p != ESCAPE_DE_UNIDAD) continue;
-        for (const auto &[cifras, c] : {std::pair("000A", '\n'), std::pair("000D", '\r'), std::pair("0010", ESCAPE_DE_UNIDAD)})
+        constexpr std::pair<const char *, char> FORMAS[] = {{"000A", '\n'}, {"000D", '\r'}, {"0010", ESCAPE_DE_UNIDAD}};
+        for (const auto &[cifras, c] : FORMAS)
             if (std::strncmp(p + 1, cifras, CIFRAS) == 0) {
                 *d = c;
                 p += CIFRAS;
@@ -333,7 +335,8 @@ constexpr destino destino_txt(bool con_comentarios) {
     };
 }
 constexpr destino DESTINO_TXT = destino_txt(false), DESTINO_TXT_CON_COMENTARIOS = destino_txt(true);
-static_assert(dice_sus_fallos(DESTINO_BIN) && dice_sus_fallos(DESTINO_TXT) && dice_sus_fallos(DESTINO_TXT_CON_COMENTARIOS));
+static_assert(dice_sus_fallos(DESTINO_BIN) && dice_sus_fallos(DESTINO_TXT) &&
+              dice_sus_fallos(DESTINO_TXT_CON_COMENTARIOS));
 
 // By kind; null until the destination's module is part of the library.
 constexpr const destino *DESTINOS[] = {&DESTINO_BIN, &DESTINO_TXT, nullptr, nullptr, nullptr, nullptr};

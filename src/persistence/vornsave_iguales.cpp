@@ -5,15 +5,15 @@
 #include <algorithm>
 #include <cstring>
 
-// Arrays in groups of equal values: the total; then, until it is reached, whether the group is of equal values, how many
-// it has, and one value or all of them.
+// Arrays in groups of equal values: the total; then, until it is reached, whether the group is of equal values, how
+// many it has, and one value or all of them.
 using namespace vn;
 
 namespace {
 
-// Few bytes can stand for many values: those of groups of equal ones may take this much memory, and eight times the bytes
-// that the groups up to them take. Writer and reader count alike, in binary form whatever the destination's, so that what
-// was written is read; where equal values would pass it they are written one by one.
+// Few bytes can stand for many values: those of groups of equal ones may take this much memory, and eight times the
+// bytes that the groups up to them take. Writer and reader count alike, in binary form whatever the destination's, so
+// that what was written is read; where equal values would pass it they are written one by one.
 class presupuesto {
   public:
     static constexpr uint64_t POR_GRUPO = 5; // the truth value and the count
@@ -98,9 +98,9 @@ void graba_grupos(vornsave *d, const T *valores, uint32_t n, IGUALES son_iguales
     if (hecho < n) graba_grupo(d, false, hecho, n - hecho, graba_valor);
 }
 
-// Reads the groups of `n` elements, each of at least so many bytes, or characters in text, and adds what they hold one by
-// one. A group beyond the budget is reported; it and what follows it are passed over. A group that has no values, or more
-// than are missing, or than the source can hold, ends it.
+// Reads the groups of `n` elements, each of at least so many bytes, or characters in text, and adds what they hold one
+// by one. A group beyond the budget is reported; it and what follows it are passed over. A group that has no values, or
+// more than are missing, or than the source can hold, ends it.
 template <class LEE_VALOR, class ANADE>
 void lee_grupos(vornsave *d, uint32_t n, uint64_t bytes, uint64_t caracteres, LEE_VALOR lee_valor, ANADE anade) {
     vigia guarda(d);
@@ -110,7 +110,8 @@ void lee_grupos(vornsave *d, uint32_t n, uint64_t bytes, uint64_t caracteres, LE
         const bool iguales = lee<LEER(bool)>(d) == CIERTO;
         num_valores = lee<LEER(ulong_y_salta)>(d);
         const uint32_t guardados = iguales ? 1 : num_valores;
-        if (!guarda.sigue() || num_valores == 0 || num_valores > n - hechos || !quedan(d, guardados, bytes, caracteres)) break;
+        if (!guarda.sigue() || num_valores == 0 || num_valores > n - hechos) break;
+        if (!quedan(d, guardados, bytes, caracteres)) break;
         p.gasta_bytes(presupuesto::POR_GRUPO);
         for (uint32_t i = 0; i < guardados && guarda.sigue(); ++i) {
             const auto valor = lee_valor();

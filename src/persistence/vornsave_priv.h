@@ -153,8 +153,8 @@ using dueno_cadena_u = std::unique_ptr<vnwchar, suelta<suelta_cadena_u>>;
 
 void destruye_marca(i_marca_t **marca);
 
-// One text of an array, in the form in which null elements survive, where the destination has one; a null one elsewhere is
-// reported and goes as an empty text, so that what follows stays in step.
+// One text of an array, in the form in which null elements survive, where the destination has one; a null one elsewhere
+// is reported and goes as an empty text, so that what follows stays in step.
 void graba_texto_o_null(const char *texto, vornsave *vornsave_datos);
 char *lee_texto_o_null(vornsave *vornsave_datos);
 
@@ -173,15 +173,16 @@ inline void progreso_al_leer(vornsave *vornsave_datos) {
         refresca_lectura(vornsave_datos);
 }
 
-// What was told cannot be written, or what was read cannot be: it has been reported, and the destination is marked, so that
-// what is saved is not taken for whole and loops over what is read end. Always false.
+// What was told cannot be written, or what was read cannot be: it has been reported, and the destination is marked, so
+// that what is saved is not taken for whole and loops over what is read end. Always false.
 [[gnu::cold]] bool falla(const vornsave *vornsave_datos);
 // A check of what is to be written: SE_GRABA(object, AFIRMA_...).
 #define SE_GRABA(vornsave_datos, comprobacion) ((comprobacion) || ::vn::falla(vornsave_datos))
 
 template <auto ENTRADA> inline bool puede_grabar(const vornsave *vornsave_datos) {
     return AFIRMA_NO_NULO(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncs_grabar) &&
-           SE_GRABA(vornsave_datos, AFIRMA_TEXTO(vornsave_datos->fncs_grabar->*ENTRADA != nullptr, TEXTO_ENTRADA<ENTRADA>));
+           SE_GRABA(vornsave_datos,
+                    AFIRMA_TEXTO(vornsave_datos->fncs_grabar->*ENTRADA != nullptr, TEXTO_ENTRADA<ENTRADA>));
 }
 template <auto ENTRADA> inline bool puede_leer(const vornsave *vornsave_datos) {
     return AFIRMA_NO_NULO(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncs_leer) &&
@@ -244,8 +245,9 @@ inline uint32_t acota(vornsave *vornsave_datos, uint32_t numero, uint64_t bytes,
     return 0;
 }
 
-// Watches a loop that reads: it ends at its first failure, and over a source that had failed before, at the source's end;
-// so it does where a failure leaves the source in step, as a line that is too long; inside a trap that has failed, at once.
+// Watches a loop that reads: it ends at its first failure, and over a source that had failed before, at the source's
+// end; so it does where a failure leaves the source in step, as a line that is too long; inside a trap that has failed,
+// at once.
 class vigia {
   public:
     explicit vigia(const vornsave *vornsave_datos, bool en_su_sitio = false)
@@ -267,8 +269,8 @@ inline uint32_t primer_paso(const vornsave *vornsave_datos, uint32_t numero) {
 }
 
 // Reads `tamanyo` bytes in pieces of at most `trozo` through the buffer entry, which the caller has checked, into a new
-// block with a zero after them. A size that the source cannot hold is reported and gives an empty block; `tamanyo` comes
-// back as what there is.
+// block with a zero after them. A size that the source cannot hold is reported and gives an empty block; `tamanyo`
+// comes back as what there is.
 propio<uint8_t> lee_bytes(vornsave *vornsave_datos, uint32_t &tamanyo, uint32_t trozo);
 
 } // namespace vn

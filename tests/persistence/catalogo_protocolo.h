@@ -283,7 +283,7 @@ inline lean64 crea_lean64(azar &a) {
     return v;
 }
 inline memoria crea_memoria(azar &a) {
-    std::string bytes(hasta(a, 10) == 0 && !a.breve ? 65533 + hasta(a, 3) : hasta(a, 9), ' ');
+    std::string bytes(hasta(a, 10) == 0 && !a.breve ? (1 + hasta(a, 2)) * 65534 - 1 + hasta(a, 3) : hasta(a, 9), ' ');
     for (char &b : bytes) b = "\0a\n\xff"[hasta(a, 4)];
     return memoria(fichmem_crea32(bytes.data(), static_cast<uint32_t>(bytes.size())));
 }

@@ -2,7 +2,6 @@
 #include "persistence/catalogo_protocolo.h"
 #include <algorithm>
 #include <cstring>
-#include <numeric>
 
 using namespace vn;
 using catalogo::azar;
@@ -202,26 +201,6 @@ PRUEBA(vornsave_colecciones, grupos_de_valores_iguales) {
                                        vornsave_lee_arr_cadenas_con_valores_iguales(d))),
                   "x|x");
     });
-}
-
-PRUEBA(vornsave_colecciones, los_ficheros_de_memoria_van_en_trozos) {
-    for (const uint32_t n : {0u, 1u, 65533u, 65534u, 65535u, 131068u, 131069u})
-        for (const auto &destino : {EN_BIN, EN_TXT}) {
-            std::string contenido(n, '\0');
-            std::iota(contenido.begin(), contenido.end(), '\x1c'); // with zeros and line ends
-            fichmem *m = fichmem_crea32(contenido.data(), n);
-            const std::string datos = grabado(destino, [&](vornsave *d) { vornsave_graba_fichmem(m, d); });
-            fichmem_destruye(&m);
-            if (!destino.texto) {
-                EXPECT_EQ(datos, le(n) + contenido);
-            }
-            if (destino.texto && datos.find('\r') != std::string::npos && n > 31) continue; // raw bytes in translated text
-            leido(destino, datos, [&](vornsave *d) {
-                fichmem *leido_m = vornsave_lee_fichmem(d);
-                EXPECT_EQ(std::string(reinterpret_cast<char *>(leido_m->datos), leido_m->longitud), contenido);
-                fichmem_destruye(&leido_m);
-            });
-        }
 }
 
 PRUEBA(vornsave_colecciones, una_cuenta_falsa_no_reserva_memoria) {
