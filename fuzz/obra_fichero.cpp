@@ -32,7 +32,8 @@ obra::plano plano() {
 
 std::vector<std::string> fuzz::semillas() {
     return {fuzz::lo_que_graba([] {
-        fuzz::exige(obra::graba_obra(NOMBRE, plano(), obra::texto(1, 'T'), {{obra::texto(1, 'a'), obra::texto(1, 'b')}}), "a seed is saved");
+        const obra::campos_t campos = {{obra::texto(1, 'a'), obra::texto(1, 'b')}};
+        fuzz::exige(obra::graba_obra(NOMBRE, plano(), obra::texto(1, 'T'), campos), "a seed is saved");
     })};
 }
 

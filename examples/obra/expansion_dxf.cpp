@@ -1,6 +1,6 @@
+#include "foundation/unicode.h"
 #include "modelo_dxf.h"
 #include "posesion.h"
-#include "foundation/unicode.h"
 #include <algorithm>
 #include <cmath>
 
@@ -29,7 +29,8 @@ bool es_arco(const poli_dxf &p, size_t i) {
 class expansion {
   public:
     expansion(modelo_dxf &m, plano &p, uint64_t bytes)
-        : m_(m), p_(p), maximo_visitas_(maximo_de_visitas(bytes)), maximo_bytes_(64 * maximo_visitas_), en_plano_(m.capas.cuantos(), SIN_CAPA) {}
+        : m_(m), p_(p), maximo_visitas_(maximo_de_visitas(bytes)), maximo_bytes_(64 * maximo_visitas_),
+          en_plano_(m.capas.cuantos(), SIN_CAPA) {}
 
     bool hazlo() {
         p_.version_dxf.assign(m_.version.begin(), m_.version.end());

@@ -117,7 +117,8 @@ size_t contornos_de(const capa &c, double metros) {
         if (p.cerrada || (p.vertices.size() > 2 && p_igual(&primero, &ultimo) == CIERTO))
             ++n;
         else
-            sueltas.anade(primero, ultimo, medio_de(p.vertices[p.vertices.size() / 2], p.vertices[(p.vertices.size() - 1) / 2]),
+            sueltas.anade(primero, ultimo,
+                          medio_de(p.vertices[p.vertices.size() / 2], p.vertices[(p.vertices.size() - 1) / 2]),
                           std::accumulate(p.curvaturas.begin(), p.curvaturas.end(), 0.));
     }
     return n + sueltas.cuenta();
@@ -156,12 +157,14 @@ class cruces {
         const auto clave = [](const tramo &t) { return std::tuple(t.a.x, t.a.y, t.b.x, t.b.y); };
         for (tramo &t : todos_)
             if (clave({t.b, t.a}) < clave(t)) std::swap(t.a, t.b);
-        std::sort(todos_.begin(), todos_.end(), [&](const tramo &s, const tramo &t) { return clave(s) < clave(t); });
-        todos_.erase(std::unique(todos_.begin(), todos_.end(), [&](const tramo &s, const tramo &t) { return clave(s) == clave(t); }),
-                     todos_.end());
+        const auto antes = [&](const tramo &s, const tramo &t) { return clave(s) < clave(t); };
+        const auto el_mismo = [&](const tramo &s, const tramo &t) { return clave(s) == clave(t); };
+        std::sort(todos_.begin(), todos_.end(), antes);
+        todos_.erase(std::unique(todos_.begin(), todos_.end(), el_mismo), todos_.end());
         quedan_ = MINIMO_DE_PAREJAS + PAREJAS_POR_TRAMO * todos_.size();
         std::vector<pieza> piezas;
-        for (const tramo &t : todos_) piezas.push_back({{t.a.x, t.a.y}, {t.b.x, t.b.y}, static_cast<uint32_t>(piezas.size())});
+        for (uint32_t i = 0; i < todos_.size(); ++i)
+            piezas.push_back({{todos_[i].a.x, todos_[i].a.y}, {todos_[i].b.x, todos_[i].b.y}, i});
         constexpr double INF = std::numeric_limits<double>::infinity();
         busca(std::move(piezas), {{-INF, -INF}, {INF, INF}}, MAXIMO_DE_PARTICIONES);
     }
@@ -207,11 +210,12 @@ class cruces {
             double desde = piezas[0].a[k], hasta = desde, abajo = 0, arriba = 0;
             for (const pieza &p : piezas) desde = std::min(desde, p.minimo(k)), hasta = std::max(hasta, p.maximo(k));
             const double medio = desde + (hasta - desde) / 2;
-            for (const pieza &p : piezas) abajo += p.minimo(k) <= medio + MARGEN_DE_CAJA, arriba += p.maximo(k) >= medio - MARGEN_DE_CAJA;
-            if (abajo * abajo + arriba * arriba >= mejor) continue;
-            mejor = abajo * abajo + arriba * arriba;
-            eje = k;
-            corte = medio;
+            for (const pieza &p : piezas) {
+                abajo += p.minimo(k) <= medio + MARGEN_DE_CAJA;
+                arriba += p.maximo(k) >= medio - MARGEN_DE_CAJA;
+            }
+            const double parejas = abajo * abajo + arriba * arriba;
+            if (parejas < mejor) mejor = parejas, eje = k, corte = medio;
         }
         if (eje < 0) return compara(piezas, z);
         std::vector<pieza> abajo, arriba;
@@ -229,9 +233,11 @@ class cruces {
     // By a sweep across the longest one, so that those along it are soon behind.
     void compara(const std::vector<pieza> &piezas, const zona &z) {
         const auto largo = [](const pieza &p) { return std::hypot(p.b[0] - p.a[0], p.b[1] - p.a[1]); };
-        const auto mayor = std::max_element(piezas.begin(), piezas.end(), [&](const pieza &p, const pieza &q) { return largo(p) < largo(q); });
-        if (mayor == piezas.end() || !(largo(*mayor) > 0)) return;
-        const double ux = (mayor->a[1] - mayor->b[1]) / largo(*mayor), uy = (mayor->b[0] - mayor->a[0]) / largo(*mayor);
+        const auto mayor = std::max_element(piezas.begin(), piezas.end(),
+                                            [&](const pieza &p, const pieza &q) { return largo(p) < largo(q); });
+        if (mayor == piezas.end()) return;
+        const double n = std::max(largo(*mayor), MARGEN_DE_CAJA);
+        const double ux = (mayor->a[1] - mayor->b[1]) / n, uy = (mayor->b[0] - mayor->a[0]) / n;
         struct banda {
             double desde, hasta;
             uint32_t de;

@@ -72,7 +72,8 @@ bool grupos_dxf::numero(double &x) const {
     const char *desde = s.data() + s.starts_with('+'), *final = s.data() + s.size();
     if (desde == final) return true;
     const auto [fin, error] = std::from_chars(desde, final, x);
-    if (error == std::errc::result_out_of_range) return s.find("e-") != std::string::npos || s.find("E-") != std::string::npos;
+    // Too near to 0 is 0.
+    if (error == std::errc::result_out_of_range) return s.find_first_of("eE") + 1 == s.find('-', 1);
     return error == std::errc() && fin == final && std::isfinite(x);
 }
 

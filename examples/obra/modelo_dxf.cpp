@@ -119,7 +119,8 @@ class lector {
         if (g_.codigo() == 9) variable_ = g_.nombre();
         else if (variable_ == "$ACADVER") m_.version = g_.nombre();
         else if (variable_ == "$DWGCODEPAGE") pagina_ = g_.nombre();
-        else if (double x; variable_ == "$INSUNITS") m_.unidades = g_.numero(x) && std::fabs(x) < INT_MAX ? static_cast<int>(x) : -1;
+        else if (double x; variable_ == "$INSUNITS")
+            m_.unidades = g_.numero(x) && std::fabs(x) < INT_MAX ? static_cast<int>(x) : -1;
     }
     void campo(int c) {
         switch (c) {
@@ -227,9 +228,8 @@ class lector {
     }
     void parrafo() {
         const bool con_direccion = r_.real(11) != 0 || r_.real(21) != 0;
-        pon(texto_dxf{r_.punto(10), r_.real(40), con_direccion ? std::atan2(r_.real(21), r_.real(11)) : r_.real(50) * GRADOS,
-                      textos().parrafo(r_.trozos + r_.texto)},
-            false);
+        const double angulo = con_direccion ? std::atan2(r_.real(21), r_.real(11)) : r_.real(50) * GRADOS;
+        pon(texto_dxf{r_.punto(10), r_.real(40), angulo, textos().parrafo(r_.trozos + r_.texto)}, false);
     }
 
     // ------------------------------------------------------------ polylines
@@ -248,8 +248,8 @@ class lector {
             return;
         }
         // A polyline in space is given in the world's axes.
-        poli_ = entidad_dxf{capa_de(r_.capa), r_.color(COLOR_DE_CAPA), (marcas & EN_EL_ESPACIO) == 0 ? r_.normal : vector3{0, 0, 1},
-                            poli_dxf{(marcas & 1) != 0, {}, {}}};
+        const vector3 normal = (marcas & EN_EL_ESPACIO) == 0 ? r_.normal : vector3{0, 0, 1};
+        poli_ = entidad_dxf{capa_de(r_.capa), r_.color(COLOR_DE_CAPA), normal, poli_dxf{(marcas & 1) != 0, {}, {}}};
         elevacion_ = r_.real(30);
         poli_fuera_ = r_.en_papel();
         poli_danada_ = r_.danado;

@@ -88,7 +88,8 @@ int importa(const std::vector<std::string> &args) {
     const texto titulo = ancho(barra == std::string::npos ? dxf : dxf.substr(barra + 1));
     if (!graba_obra(ancho(destino), p, titulo, campos)) {
         // The one failure after which the new file stands; its reason says so.
-        if (const auto e = lc_ultimo_error(nullptr); e == VN_FICH_SIN_ASEGURAR) return falla(destino, utf8(lc_texto_error_u(e)));
+        if (const auto e = lc_ultimo_error(nullptr); e == VN_FICH_SIN_ASEGURAR)
+            return falla(destino, utf8(lc_texto_error_u(e)));
         return falla(destino, con_motivo(mensaje::no_se_graba));
     }
     std::printf("%s: %s %s\n", dxf.c_str(), di(mensaje::importado).c_str(), destino.c_str());
