@@ -14,7 +14,7 @@ void lee() {
     const uint64_t antes = fuzz::pedido_al_monton();
     const bool bien = obra::lee_dxf(NOMBRE, p, n) == obra::lectura_dxf::bien;
     // Vectors grow by doubling, and a drawing is there twice.
-    fuzz::exige(fuzz::pedido_al_monton() - antes <= 4 * 64 * obra::maximo_de_visitas(n.bytes),
+    fuzz::exige(fuzz::pedido_al_monton() - antes <= 4 * obra::maximo_de_memoria(n.bytes),
                 "memory in proportion to the file");
     fuzz::exige(n.visitadas <= obra::maximo_de_visitas(n.bytes), "entities in proportion to the file");
     fuzz::exige(bien || p.capas.empty(), "nothing of what was refused");

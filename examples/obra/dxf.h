@@ -20,7 +20,8 @@ struct noticias_dxf {
 lectura_dxf lee_dxf(const texto &nombre, plano &p, noticias_dxf &noticias);
 
 // What a drawing of so many bytes may ask for, whatever it says of copies and nesting: entities and vertices to go
-// through, and as many times 64 bytes.
+// through, and bytes to keep them in.
 constexpr uint64_t maximo_de_visitas(uint64_t bytes) { return 64 * bytes + 1'000'000; }
+constexpr uint64_t maximo_de_memoria(uint64_t bytes) { return 64 * (bytes + 1'000'000); }
 
 } // namespace obra

@@ -29,7 +29,7 @@ bool es_arco(const poli_dxf &p, size_t i) {
 class expansion {
   public:
     expansion(modelo_dxf &m, plano &p, uint64_t bytes)
-        : m_(m), p_(p), maximo_visitas_(maximo_de_visitas(bytes)), maximo_bytes_(64 * maximo_visitas_),
+        : m_(m), p_(p), maximo_visitas_(maximo_de_visitas(bytes)), maximo_bytes_(maximo_de_memoria(bytes)),
           en_plano_(m.capas.cuantos(), SIN_CAPA) {}
 
     bool hazlo() {
