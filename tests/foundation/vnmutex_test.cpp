@@ -307,16 +307,18 @@ PRUEBA(vnmutex, un_proceso_bifurcado_no_tiene_lo_de_su_padre) {
 // Who makes something else where the shared lock should be gets nothing written, and the user's programs share one of
 // their own, which is told.
 PRUEBA(vnmutex, lo_que_ocupa_el_sitio_del_cerrojo_no_se_toca) {
-    const std::string victima = directorio() + "/victima", casa = directorio() + "/casa";
+    const std::string victima = directorio() + "/victima", vacia = directorio() + "/vacia", casa = directorio() + "/casa";
     vn::pon_variable("XDG_CONFIG_HOME", casa);
     vn::pon_variable("ENPRUEBA", "1");
     const std::pair<const char *, std::function<void(const std::string &)>> ocupantes[] = {
         {"directory", [](const auto &f) { fs::create_directory(f); }},
         {"link", [&](const auto &f) { fs::create_symlink(victima, f); }},
+        {"link to an empty file", [&](const auto &f) { fs::create_symlink(vacia, f); }},
         {"second name", [](const auto &f) { vn::graba_fichero(f, ""), fs::create_hard_link(f, f + "2"); }},
         {"file of something else", [&](const auto &f) { fs::copy_file(victima, f); }},
     };
     vn::graba_fichero(victima, "suyo");
+    vn::graba_fichero(vacia, "");
     for (const auto &[que, ocupa] : ocupantes) {
         SCOPED_TRACE(que);
         const nombre_propio nombre;
@@ -332,7 +334,7 @@ PRUEBA(vnmutex, lo_que_ocupa_el_sitio_del_cerrojo_no_se_toca) {
         EXPECT_EQ(vnmutex_entra(m), CIERTO);
         vnmutex_destruye_saliendo(&m);
         EXPECT_EQ(toma_avisos().size(), 1u);
-        EXPECT_EQ(vn::lee_fichero(victima), "suyo");
+        EXPECT_EQ(vn::lee_fichero(victima) + vn::lee_fichero(vacia), "suyo");
         EXPECT_TRUE(!fs::is_regular_file(fichero) || vn::lee_fichero(fichero).size() != 1);
 
         // Not that of others, either.
