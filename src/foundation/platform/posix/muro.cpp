@@ -14,6 +14,11 @@ namespace {
     __builtin_unreachable();
 }
 
+void *exige(void *p) {
+    if (p == nullptr) [[unlikely]] sin_memoria();
+    return p;
+}
+
 } // namespace
 
 extern "C" {
@@ -24,12 +29,8 @@ void *__wrap__Znam(size_t n);
 [[noreturn]] void __wrap__ZSt28__throw_bad_array_new_lengthv();
 [[noreturn]] void __wrap__ZSt20__throw_length_errorPKc(const char *);
 
-void *__wrap__Znwm(size_t n) {
-    void *p = ::operator new(n, std::nothrow);
-    if (p == nullptr) [[unlikely]] sin_memoria();
-    return p;
-}
-void *__wrap__Znam(size_t n) { return __wrap__Znwm(n); }
+void *__wrap__Znwm(size_t n) { return exige(::operator new(n, std::nothrow)); }
+void *__wrap__Znam(size_t n) { return exige(::operator new[](n, std::nothrow)); }
 void __wrap__ZSt17__throw_bad_allocv() { sin_memoria(); }
 void __wrap__ZSt28__throw_bad_array_new_lengthv() { sin_memoria(); }
 void __wrap__ZSt20__throw_length_errorPKc(const char *) { sin_memoria(); }
