@@ -43,11 +43,11 @@ void llena_bytes(pagina &p, plat::decodificador *d) {
     for (unsigned b = 0; b < 256; ++b) {
         const unsigned char byte = static_cast<unsigned char>(b);
         // What a page of one byte leaves undefined is itself, like the control characters of all. In one of two bytes it is
-        // nothing: others take it for the first half of a pair.
-        const char16_t indefinido = p.doble ? NO_ES : static_cast<char16_t>(b);
+        // nothing, whether a platform says so or gives the control character: others take it for half of a pair.
         char16_t u = static_cast<char16_t>(b);
         if (p.lider[b] || (p.utf8 && b >= 0x80)) u = NO_ES;
-        else if (b >= 0x80 && d != nullptr && (!d->unidad(&byte, 1, u) || es_relleno(u))) u = indefinido;
+        else if (b >= 0x80 && d != nullptr && (!d->unidad(&byte, 1, u) || es_relleno(u))) u = static_cast<char16_t>(b);
+        if (p.doble && b >= 0x80 && u == b) u = NO_ES;
         p.unidad[b] = u;
         if (u != NO_ES) anade_inversa(p, u, static_cast<uint16_t>(b));
     }

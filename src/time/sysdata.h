@@ -50,8 +50,8 @@ vnwchar *sysdata_hora_u(int32_t segundo, int32_t minuto, int32_t hora, vnbool co
     "%.*f" writes it. */
 vnwchar *sysdata_formateaNumero_u(double valor, int32_t decimales);
 
-/** Name of a day of the week as it stands alone, 0 Sunday to 6 Saturday, whole or abbreviated; another is reported as "dia < 7" and gives
-    null. */
+/** Name of a day of the week as it stands alone (where the system tells that form from the other), 0 Sunday to 6 Saturday,
+    whole or abbreviated; another is reported as "dia < 7" and gives null. */
 char *sysdata_nombre_dia(VN_RANGO(0, 6) uint32_t dia);
 char *sysdata_nombre_dia_abreviado(VN_RANGO(0, 6) uint32_t dia);
 
