@@ -165,14 +165,16 @@ std::vector<double> vector_de(dueno_doubles a) {
     return {p, p + arr_NumElemsDouble(a.get())};
 }
 std::vector<double> lee_doubles(vornsave *s) { return vector_de(dueno_doubles(vornsave_lee_arr_double(s))); }
-std::vector<double> lee_iguales(vornsave *s) {
-    return vector_de(dueno_doubles(vornsave_lee_arr_double_con_valores_iguales(s)));
+// As many as there must be: few bytes can stand for very many.
+std::vector<double> lee_iguales(size_t n, vornsave *s) {
+    dueno_doubles a(vornsave_lee_arr_double_con_valores_iguales(s));
+    exige_lo_leido();
+    exige(arr_NumElemsDouble(a.get()) == n, "num_valores_iguales == num_entidades");
+    return vector_de(std::move(a));
 }
 colores lee_colores(size_t n, vornsave *s) {
-    const std::vector<double> v = lee_iguales(s);
-    exige(v.size() == n, "num_colores == num_entidades");
     colores c;
-    for (const double x : v) {
+    for (const double x : lee_iguales(n, s)) {
         exige(x >= 0 && x <= 0x1FFFFFF, "color >= 0 && color <= MAXIMO_COLOR");
         c.push_back(static_cast<uint32_t>(x));
     }
@@ -218,10 +220,9 @@ void lee_polilineas(capa &c, vornsave *s) {
     const dueno_ulongs cuantos(vornsave_lee_arr_ulong(s));
     const dueno_uchars cerradas(vornsave_lee_arr_uchar(s));
     const auto vertices = lee_puntos(s);
-    const auto curvaturas = lee_iguales(s);
+    const auto curvaturas = lee_iguales(vertices.size(), s);
     const uint32_t n = arr_NumElemsULong(cuantos.get());
     exige(arr_NumElemsUChar(cerradas.get()) == n, "num_cerradas == num_polilineas");
-    exige(curvaturas.size() == vertices.size(), "num_curvaturas == num_vertices");
     size_t desde = 0;
     for (uint32_t i = 0; i < n; ++i) {
         const size_t k = arr_GetULong(cuantos.get(), i);
@@ -249,9 +250,9 @@ void lee_elipses(capa &c, vornsave *s) {
 void lee_rotulos(capa &c, vornsave *s) {
     if (vornsave_se_inicia_lectura_bloque("TEXTOS", s) == FALSO) return;
     const auto p = lee_puntos(s);
-    const auto alturas = lee_iguales(s), angulos = lee_iguales(s);
+    const auto alturas = lee_iguales(p.size(), s), angulos = lee_iguales(p.size(), s);
     const auto letras = lee_textos(s);
-    exige(alturas.size() == p.size() && angulos.size() == p.size() && letras.size() == p.size(), "num_textos == num_puntos");
+    exige(letras.size() == p.size(), "num_textos == num_puntos");
     for (size_t i = 0; i < p.size(); ++i) c.rotulos.push_back({p[i], alturas[i], angulos[i], letras[i]});
     c.color_rotulos = lee_colores(p.size(), s);
     vornsave_lee_final_bloque("TEXTOS", s);
