@@ -39,6 +39,8 @@ std::vector<std::string> fuzz::semillas() {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {
+    // A report makes, once, what the library keeps of units and region.
+    static const std::string primero = obra::informe_de("x", {});
     fuzz::con_fichero(datos, n, cota_de_biblioteca(n), [n] {
         obra::obra_leida o;
         std::string motivo;
