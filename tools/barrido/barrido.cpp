@@ -137,9 +137,9 @@ struct agotada {};
 void se_agota(void *) { throw agotada{}; }
 
 // Destructors take files away, and nothing can be thrown out of those: there is memory for that.
-vnerror_fichero borra(const vnwchar *nombre) {
+template <auto Entrada, typename... A> vnerror_fichero con_memoria(A... a) {
     const bool armado = std::exchange(agotamiento.armado, false);
-    const vnerror_fichero e = operaciones_fichero_del_sistema()->borra(nombre);
+    const vnerror_fichero e = (operaciones_fichero_del_sistema()->*Entrada)(a...);
     agotamiento.armado = armado;
     return e;
 }
@@ -151,7 +151,8 @@ void instala_receptores() {
     vornspy_instala_permiso(hay_memoria, nullptr);
     vornspy_instala_memoria_agotada(se_agota, nullptr);
     vnoperaciones_fichero tabla = *operaciones_fichero_del_sistema();
-    tabla.borra = borra;
+    tabla.borra = con_memoria<&vnoperaciones_fichero::borra>;
+    tabla.es_su_nombre = con_memoria<&vnoperaciones_fichero::es_su_nombre>;
     operaciones_fichero_instala(&tabla);
 }
 

@@ -91,13 +91,15 @@ vnerror_fichero entra_como_escritor(int d, uint32_t como) {
     return e == VN_FICH_COMPARTIDO || (unico && (como & VN_ABRE_PROPIO) == 0) ? e : VN_FICH_BIEN;
 }
 
-vnerror_fichero es_su_nombre(vnid_fichero id, const vnwchar *nombre) {
+vnerror_fichero lleva_a(const std::string &ruta, int d) {
     struct stat s, t;
-    if (::fstat(fd(id), &s) != 0 || ::lstat(bytes(nombre).c_str(), &t) != 0) return ultimo_error();
+    if (::fstat(d, &s) != 0 || ::lstat(ruta.c_str(), &t) != 0) return ultimo_error();
     return s.st_dev == t.st_dev && s.st_ino == t.st_ino ? VN_FICH_BIEN : VN_FICH_YA_EXISTE;
 }
 
-vnerror_fichero prepara(int d, const vnwchar *nombre, uint32_t como) {
+vnerror_fichero es_su_nombre(vnid_fichero id, const vnwchar *nombre) { return lleva_a(bytes(nombre), fd(id)); }
+
+vnerror_fichero prepara(int d, const std::string &ruta, uint32_t como) {
     struct stat s;
     if (::fstat(d, &s) != 0) return ultimo_error();
     if (S_ISDIR(s.st_mode)) return VN_FICH_ES_DIRECTORIO;
@@ -108,7 +110,7 @@ vnerror_fichero prepara(int d, const vnwchar *nombre, uint32_t como) {
     if ((como & VN_ABRE_ESCRITURA) != 0)
         if (const vnerror_fichero e = entra_como_escritor(d, como); e != VN_FICH_BIEN) return e;
     // Between its opening and the lock somebody may have taken it for abandoned, or put another in its place.
-    if ((como & VN_ABRE_PROPIO) != 0 && es_su_nombre(d, nombre) != VN_FICH_BIEN) return VN_FICH_INTERRUMPIDA;
+    if ((como & VN_ABRE_PROPIO) != 0 && lleva_a(ruta, d) != VN_FICH_BIEN) return VN_FICH_INTERRUMPIDA;
     return (como & VN_ABRE_TRUNCA) != 0 && s.st_size > 0 ? resultado(::ftruncate(d, 0)) : VN_FICH_BIEN;
 }
 
@@ -128,10 +130,11 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     if ((como & VN_ABRE_NUEVO) != 0) modo |= O_EXCL;
     if ((como & VN_ABRE_ANADE) != 0) modo |= O_APPEND;
     if ((como & VN_ABRE_PROPIO) != 0) modo |= O_NOFOLLOW;
-    const int d = aparta(abre_descriptor(bytes(nombre), modo, (como & VN_ABRE_LECTURA) != 0,
+    const std::string ruta = bytes(nombre);
+    const int d = aparta(abre_descriptor(ruta, modo, (como & VN_ABRE_LECTURA) != 0,
                                          (como & VN_ABRE_ESCRITURA) != 0, (como & VN_ABRE_PRIVADO) != 0 ? 0600 : 0666));
     if (d < 0) return ultimo_error();
-    const vnerror_fichero e = prepara(d, nombre, como);
+    const vnerror_fichero e = prepara(d, ruta, como);
     if (e != VN_FICH_BIEN)
         ::close(d);
     else
@@ -240,8 +243,8 @@ vnerror_fichero renombra_abierto(vnid_fichero id, const vnwchar *existente, cons
 
 vnerror_fichero borra(const vnwchar *nombre) { return resultado(::unlink(bytes(nombre).c_str())); }
 
-// What may be anything but a file of somebody's who is at work goes, unopened: a link, a pipe. So does a file that nobody
-// could look at, once its owner has had the time to give it its rights.
+// What cannot be a file of somebody's who is at work goes, unopened: a link, a pipe. So does a file that nobody could look
+// at, once its owner has had the time to give it its rights.
 vnerror_fichero retira(const vnwchar *nombre) {
     const std::string ruta = bytes(nombre);
     struct stat s;
@@ -259,9 +262,9 @@ vnerror_fichero retira(const vnwchar *nombre) {
         const time_t edad = ::time(nullptr) - s.st_ctime;
         if (d < 0 && edad >= 0 && edad < 2) return VN_FICH_COMPARTIDO;
         if (d >= 0 && zona(d, F_OFD_SETLK, tipo, BYTE_DE_ESCRITORES, 1) == VN_FICH_COMPARTIDO) e = VN_FICH_COMPARTIDO;
-        if (d >= 0 && e == VN_FICH_BIEN && es_su_nombre(d, nombre) != VN_FICH_BIEN) e = VN_FICH_INTERRUMPIDA;
+        if (d >= 0 && e == VN_FICH_BIEN && lleva_a(ruta, d) != VN_FICH_BIEN) e = VN_FICH_INTERRUMPIDA;
     }
-    if (e == VN_FICH_BIEN) e = borra(nombre);
+    if (e == VN_FICH_BIEN) e = resultado(::unlink(ruta.c_str()));
     if (d >= 0) ::close(d);
     return e;
 }
