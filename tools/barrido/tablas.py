@@ -146,6 +146,7 @@ PARAMETROS = [
     (r"num_double_a_string(_u)?", r"sep_millares", "enteros({n}, {{'.', ',', 0, -1}})"),
     (r"num_double_a_string(_u)?", r"sep_decimales", "enteros({n}, {{',', '.', 0, -1}})"),
     (r"bin_graba_SN", r"dato", "enteros({n}, {{'S', 'N', 0, -1}})"),
+    (r"version_establece_u", r"revision", "enteros({n}, {{'b', '-', ' ', -1}})"),
     # Room as the sizes say.
     (r"f_lc_f(read|write).*", r"destino|origen", "bufer({n}, 1, 4096, -1, OPCIONAL)"),
     (r"f_lc_f(read|write).*|lc_quedan", r"tamanyo|numero", "enteros({n}, {{1, 0, 3, 16}})"),
