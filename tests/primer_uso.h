@@ -7,7 +7,6 @@
 #include "prueba.h"
 #include <algorithm>
 #include <atomic>
-#include <barrier>
 #include <deque>
 #include <span>
 #include <thread>
@@ -26,12 +25,12 @@ constexpr int HEBRAS = 8, PROCESOS = 64;
 inline int usa_por_primera_vez(std::span<const uso> usos, size_t desde) {
     for (size_t k = 0; k < usos.size(); ++k) {
         const size_t cual = (desde + k) % usos.size();
-        std::barrier salida(HEBRAS);
-        std::atomic<int> bien{0};
+        // They start together by turning, not by std::barrier, which loses a wake-up now and then on Windows.
+        std::atomic<int> llegadas{0}, bien{0};
         std::vector<std::thread> hebras;
         for (int h = 0; h < HEBRAS; ++h)
             hebras.emplace_back([&, h] {
-                salida.arrive_and_wait();
+                for (++llegadas; llegadas < HEBRAS;) std::this_thread::yield();
                 bien += usos[cual].de_hebra(h);
             });
         for (auto &h : hebras) h.join();
