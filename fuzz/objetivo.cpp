@@ -20,7 +20,11 @@ vnbool cuenta(size_t n, void *) {
     return CIERTO;
 }
 uint64_t hechos = 0;
-void calla(const vninforme *, void *) { ++hechos; }
+std::string el_ultimo;
+void calla(const vninforme *informe, void *) {
+    ++hechos;
+    el_ultimo = informe->expresion != nullptr ? informe->expresion : "";
+}
 vnbool responde_que_no(vntipo_aviso, const vnwchar *, void *) { return FALSO; }
 
 // Made at first use, and there until the process ends.
@@ -75,6 +79,7 @@ std::string lo_que_graba(const std::function<void()> &graba) {
 }
 
 uint64_t informes() { return hechos; }
+const std::string &ultimo_informe() { return el_ultimo; }
 std::string contenido() { return disco().dame(nombre_fichero()); }
 
 bool atrapa(const std::function<void()> &f) {

@@ -26,6 +26,8 @@ std::string lo_que_graba(const std::function<void()> &graba);
 std::string contenido();
 // The reports made since the input was put there.
 uint64_t informes();
+// The expression of the last one.
+const std::string &ultimo_informe();
 // Runs `f` inside a trap; false when a report ended it.
 bool atrapa(const std::function<void()> &f);
 // Ends the program with a line when the condition does not hold.
