@@ -13,6 +13,7 @@
 #include "foundation/vornreg.h"
 #include "foundation/widestr.h"
 #include <map>
+#include <memory>
 
 // The file: lines "[root\key\key]", each followed by its "name=text". UTF-8; "\\" is a backslash, and "\" with four
 // hexadecimal digits a unit that has no place in a line of text or that says something in it.
@@ -220,14 +221,15 @@ void graba(grabacion *g) {
 
 class entre_programas {
   public:
-    entre_programas() : mutex_(vnmutex_crea_entre_aplicaciones("vornreg")) { dentro_ = vnmutex_entra(mutex_) == CIERTO; }
-    ~entre_programas() { vnmutex_destruye_saliendo(&mutex_); }
-    entre_programas(const entre_programas &) = delete;
-    entre_programas &operator=(const entre_programas &) = delete;
+    entre_programas()
+        : mutex_(vnmutex_crea_entre_aplicaciones("vornreg")), dentro_(vnmutex_entra(mutex_.get()) == CIERTO) {}
     bool dentro() const { return dentro_; }
 
   private:
-    vnmutex *mutex_;
+    struct sale {
+        void operator()(vnmutex *m) const { vnmutex_destruye_saliendo(&m); }
+    };
+    std::unique_ptr<vnmutex, sale> mutex_;
     bool dentro_;
 };
 
