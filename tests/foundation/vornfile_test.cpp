@@ -318,14 +318,15 @@ HIJO(guarda_sin_los_tres) {
     if (!cierra_los_tres()) return 0;
     error_interno_instala_receptor(nullptr, nullptr);
     const auto n = ancho(obra);
-    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    // What is opened first would be the input, and the file the output.
     vnmutex *m = vnmutex_crea_entre_aplicaciones("vornfile");
     vnmutex_entra(m);
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    escribe_edicion(f, MIA);
+    lc_fflush(f);
     std::printf("to the output\n");
     std::fflush(stdout);
     f_lc_feof(nullptr); // reported on the error stream
-    escribe_edicion(f, MIA);
-    f_lc_feof(nullptr);
     vnmutex_destruye_saliendo(&m);
     const vnbool bien = vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str());
     return bien == CIERTO && es_la_mia(obra) ? 0 : 1;
