@@ -171,6 +171,7 @@ void escribe_fichero(const internacional &r) {
 }
 
 void cambia_en_fichero(uint32_t internacional::*campo, uint32_t norma) {
+    const turno mio; // over both: what another program changes in between would be lost
     internacional r = lee_fichero();
     r.*campo = norma;
     escribe_fichero(r);
