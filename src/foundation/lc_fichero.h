@@ -29,8 +29,8 @@ typedef struct vnfichero_ventana {
 VN_C_INICIO
 
 /** Opens a file. A failure is reported, with the expression "f_lc_fopen" and the file's name and the reason as the
-    detail, and gives null; a file that another program holds is tried again for a tenth of a second first. Name and mode are in the
-    active ANSI code page, or wide in the form `_u`. The stream is closed by lc_fclose. */
+    detail, and gives null; a file that another program holds is tried again for a tenth of a second first. Name and
+    mode are in the active ANSI code page, or wide in the form `_u`. The stream is closed by lc_fclose. */
 vnfichero *f_lc_fopen(const char *nombre, const char *modo, VN_OPC const char *modulo, uint32_t linea);
 vnfichero *f_lc_fopen_u(const vnwchar *nombre, const vnwchar *modo, VN_OPC const char *modulo, uint32_t linea);
 /** As f_lc_fopen, trying a file that another program holds again for up to two seconds. */
@@ -128,8 +128,8 @@ const vnwchar *lc_nombre_fichero(const vnfichero *f);
 /** Locks a zone of the file: `modo` is VN_ZONA_EXCLUSIVA or VN_ZONA_COMPARTIDA, plus VN_ZONA_ESPERA to wait; FALSO when
     another stream, of this or another process, holds part of it or it cannot be done. The zone may lie beyond the end.
     What is read afterwards is read from the file anew. An exclusive lock needs a stream that writes. The byte 2^62 is
-    where writers hold a file: a zone ends before it. On Windows others can neither read nor write what is locked against them; elsewhere they are
-    only refused the lock. */
+    where writers hold a file: a zone ends before it. On Windows others can neither read nor write what is locked
+    against them; elsewhere they are only refused the lock. */
 vnbool lc_bloquea_zona_fichero(vnfichero *f, VN_RANGO(0, 9223372036854775807) int64_t inicio,
                                VN_RANGO(1, 4294967295) uint32_t tamanyo, VN_RANGO(0, 3) uint32_t modo);
 /** Unlocks a zone that was locked with this very start and size, having handed to the system what was written. */

@@ -12,8 +12,9 @@ typedef void (*vnfunc_trapable)(void *datos);
 VN_C_INICIO
 
 /** Runs `funcion(datos)` to its end. The result is FALSO if anything inside was reported, on this thread and outside of
-    traps opened within; those reports do not go to the receiver. Traps nest; the contexts entered inside and left open are
-    left. Memory that has run out is no fault of this kind: see vornspy_instala_memoria_agotada. The result is returned and, if `resultado` is not null, stored. */
+    traps opened within; those reports do not go to the receiver. Traps nest; the contexts entered inside and left open
+    are left. Memory that has run out is no fault of this kind: see vornspy_instala_memoria_agotada. The result is
+    returned and, if `resultado` is not null, stored. */
 vnbool trapable_nousar_recursivo_ejecuta_funcion_segura(vnfunc_trapable funcion, VN_DATO void *datos,
                                                         VN_SALIDA_OPC vnbool *resultado);
 /** Whether the innermost open trap of this thread has caught a report already; FALSO outside of traps. For a trapped

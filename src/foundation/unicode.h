@@ -1,9 +1,9 @@
-/* Code pages and Unicode forms. ANSI text is in the active ANSI code page: what Windows says there, 1252 elsewhere, until
-   the host sets another. A byte that a page of one byte leaves undefined stands for the control character of the same
-   value (as 81, 8D, 8F, 90 and 9D of page 1252); a character that a page does not have becomes '?', never a similar one. The results
-   are the same on every platform. Bytes that are no character of a two-byte page or of UTF-8, and halves of surrogate
-   pairs, become U+FFFD. Texts that are returned are new and the caller's. Threads: any; the page is the process's, and each
-   conversion is whole in the page that it began with. */
+/* Code pages and Unicode forms. ANSI text is in the active ANSI code page: what Windows says there, 1252 elsewhere,
+   until the host sets another. A byte that a page of one byte leaves undefined stands for the control character of
+   the same value (as 81, 8D, 8F, 90 and 9D of page 1252); a character that a page does not have becomes '?', never a
+   similar one. The results are the same on every platform. Bytes that are no character of a two-byte page or of
+   UTF-8, and halves of surrogate pairs, become U+FFFD. Texts that are returned are new and the caller's. Threads:
+   any; the page is the process's, and each conversion is whole in the page that it began with. */
 #ifndef VN_UNICODE_H
 #define VN_UNICODE_H
 

@@ -74,7 +74,8 @@ arrPuntero *polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
     near as can be to that of the section before. A corner with no fillet, of unit directions d1 and d2, has its section
     in the plane's direction from the next point to corner + (d2 - d1), or as before where it hardly turns or
     that direction is the way to the point before; if it is the last corner, W at the end is the part of d2 square to d1.
-    With `V_vertical` each section is given the vertical V of its plane; one across a vertical bar has none, and is reported. The second one makes no fillets, of a bar of diameter 0. The caller frees the axes with
+    With `V_vertical` each section is given the vertical V of its plane; one across a vertical bar has none, and is
+    reported. The second one makes no fillets, of a bar of diameter 0. The caller frees the axes with
     arr_DestruyeEstructurasST(a, ejes2d, ejes2d_destruye). */
 arrPuntero *polin3d_ejes2d_polilinea_con_radios_de_acuerdo(const arrPunto3D *puntos, double diametro, double radio,
         double num_grados_dibujo_doblado, vnbool V_vertical);

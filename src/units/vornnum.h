@@ -51,15 +51,16 @@ double vornnum_wtof(const vnwchar *cadena);
 uint32_t num_string_hex_a_ulong(const char *cadena);
 uint32_t num_string_hex_a_ulong_u(const vnwchar *cadena);
 
-/** New text of a number. With a number of decimals: rounded to them as prec_redondea_numero_decimales does (halves away
-    from zero, by the digits that tell a double: 0.125 gives 0.13), and cut to fewer decimals from a million on, so
-    that no more than 15 or 16 digits are shown. (Of the texts of value types, convers_texto_dos_decimales and
-    _n_decimales go by the binary value instead: 0.12.) A number beyond 1e15 / 10^decimales or below 10^-decimales is first
-    rounded to one decimal more and, if it is still there, what was rounded comes out in the scientific form, "1.25e+16",
-    as it does when `cientifica` asks for it: of a small number only what stands in those decimals is shown, 0.0014999 with
-    two as "1.00e-03" and 0.0004 as "0.00e+00". The scientific form of wide text has one decimal more than that of ANSI
-    text. With -1 decimals: as many as are sure, 15 at most, without the zeros at the end; scientific, with all its zeros,
-    from 1e15 on and below 1e-14. The separators must differ, and `sep_decimales` not be 0. */
+/** New text of a number. With a number of decimals: rounded to them as prec_redondea_numero_decimales does (halves
+    away from zero, by the digits that tell a double: 0.125 gives 0.13), and cut to fewer decimals from a million on,
+    so that no more than 15 or 16 digits are shown. (Of the texts of value types, convers_texto_dos_decimales and
+    _n_decimales go by the binary value instead: 0.12.) A number beyond 1e15 / 10^decimales or below 10^-decimales is
+    first rounded to one decimal more and, if it is still there, what was rounded comes out in the scientific form,
+    "1.25e+16", as it does when `cientifica` asks for it: of a small number only what stands in those decimals is
+    shown, 0.0014999 with two as "1.00e-03" and 0.0004 as "0.00e+00". The scientific form of wide text has one
+    decimal more than that of ANSI text. With -1 decimals: as many as are sure, 15 at most, without the zeros at the
+    end; scientific, with all its zeros, from 1e15 on and below 1e-14. The separators must differ, and
+    `sep_decimales` not be 0. */
 char *num_double_a_string(double valor, char sep_millares, char sep_decimales, vnbool cientifica,
                           VN_RANGO(-1, 9) int32_t decimales);
 vnwchar *num_double_a_string_u(double valor, vnwchar sep_millares, vnwchar sep_decimales, vnbool cientifica,
