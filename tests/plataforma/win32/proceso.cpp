@@ -51,9 +51,12 @@ intptr_t lanza(const std::vector<std::string> &args) {
     STARTUPINFOW inicio{};
     inicio.cb = sizeof inicio;
     PROCESS_INFORMATION p{};
-    if (!CreateProcessW(programa.c_str(), linea.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &inicio,
-                        &p))
-        return 0;
+    // About one process in ten thousand dies in Wine's loader before its first instruction: none that did anything.
+    const auto crea = [&] {
+        return CreateProcessW(programa.c_str(), linea.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &inicio, &p);
+    };
+    for (int intentos = 3; !crea(); --intentos)
+        if (GetLastError() != ERROR_INTERNAL_ERROR || intentos == 0) return 0;
     CloseHandle(p.hThread);
     return reinterpret_cast<intptr_t>(p.hProcess);
 }
