@@ -1,6 +1,6 @@
 // Axes out of a list of points, beside a bare pass that finds the plane's distance and the turn at each point; then lists
 // on which the search has no luck.
-#include "foundation/arr.h"
+#include "foundation/listas/arr.h"
 #include "geometry.h"
 #include "geometry/ejes2d.h"
 #include <chrono>

@@ -1,6 +1,6 @@
 // A million points through a kept matrix: the array form, the same into another matrix, and one exported call
 // a point.
-#include "foundation/vmatr.h"
+#include "foundation/numeros/vmatr.h"
 #include "geometry.h"
 #include <cmath>
 #include <Eigen/Dense>

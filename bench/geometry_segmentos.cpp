@@ -1,6 +1,6 @@
 // A million pairs of segments in a square: where they cross, and what of the first lies in a rectangle. Our crossing is
 // a new point of the tracked heap, which the road frees.
-#include "foundation/vornspy.h"
+#include "foundation/suelo/vornspy.h"
 #include "geometry.h"
 #include "geometry/punto.h"
 #include "geometry/rectng.h"

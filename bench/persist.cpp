@@ -2,11 +2,11 @@
 // without its lock and QDataStream; whole arrays beside one block transfer; the tracked heap beside malloc.
 // usage: persist [passes]
 #include "caminos.h"
-#include "foundation/arr.h"
-#include "foundation/cad.h"
-#include "foundation/lc_fichero.h"
-#include "foundation/vornspy.h"
-#include "foundation/widestr.h"
+#include "foundation/listas/arr.h"
+#include "foundation/texto/cad.h"
+#include "foundation/ficheros/lc_fichero.h"
+#include "foundation/suelo/vornspy.h"
+#include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
 #include "plataforma/stdio_sin_cerrojo.h"
 #include <cstdlib>

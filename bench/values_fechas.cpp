@@ -1,6 +1,6 @@
 // Dates: to seconds and back, and their text. The date library is inlined; ours is a call for each date.
 #include "values.h"
-#include "foundation/vornspy.h"
+#include "foundation/suelo/vornspy.h"
 #include "time/vorntime.h"
 #include <cstdio>
 #include <ctime>

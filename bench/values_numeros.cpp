@@ -1,9 +1,9 @@
 // Number text: two decimals with thousands grouped, and grouped text back to numbers. Ours returns a new text, which is
 // freed; its peers write into the caller's room.
 #include "values.h"
-#include "foundation/cad.h"
-#include "foundation/vnmath.h"
-#include "foundation/widestr.h"
+#include "foundation/texto/cad.h"
+#include "foundation/numeros/vnmath.h"
+#include "foundation/texto/widestr.h"
 #include "units/vornnum.h"
 #include <algorithm>
 #include <charconv>

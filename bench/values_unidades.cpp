@@ -1,6 +1,6 @@
 // Units: one value from its internal unit to the one shown, the tolerant comparison, and the text of a value.
 #include "values.h"
-#include "foundation/widestr.h"
+#include "foundation/texto/widestr.h"
 #include "units/convers.h"
 #include "units/magnitud.h"
 #include "units/vornconf.h"

@@ -1,17 +1,18 @@
 # What a host gets: headers, libraries, a CMake package and a pkg-config file, all of which survive being moved.
 include(CMakePackageConfigHelpers)
 
-# The public headers, in their tree: all but <module>_priv.h, the checks, and the platform's own. Of the tables (.inl)
-# those that a public header includes.
+# The public headers, in their tree: all but _priv.h (of a folder), _int.h (of the library) and the platform's own. Of the
+# tables (.inl) those that a public header includes.
 set(VN_FUENTES ${CMAKE_CURRENT_SOURCE_DIR}/src)
 file(GLOB_RECURSE VN_CABECERAS RELATIVE ${VN_FUENTES} CONFIGURE_DEPENDS ${VN_FUENTES}/*.h)
-list(FILTER VN_CABECERAS EXCLUDE REGEX "_priv\\.h$|^foundation/afirma\\.h$|^foundation/platform/")
+list(FILTER VN_CABECERAS EXCLUDE REGEX "_(priv|int)\\.h$|^foundation/platform/")
 list(APPEND VN_CABECERAS foundation/platform/plataforma.h)
 list(SORT VN_CABECERAS)
 set(tablas)
 foreach(cabecera ${VN_CABECERAS})
   file(STRINGS ${VN_FUENTES}/${cabecera} incluidas REGEX "^#include \".*\\.inl\"")
-  list(TRANSFORM incluidas REPLACE "^#include \"(.*)\".*" "\\1")
+  get_filename_component(carpeta ${cabecera} DIRECTORY)
+  list(TRANSFORM incluidas REPLACE "^#include \"(.*)\".*" "${carpeta}/\\1")
   list(APPEND tablas ${incluidas})
 endforeach()
 list(REMOVE_DUPLICATES tablas)

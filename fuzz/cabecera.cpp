@@ -1,10 +1,10 @@
 // Headers and format prologues of project files: every reader of them, and that a file that is taken can be saved over.
 #include "objetivo.h"
-#include "foundation/arr.h"
-#include "foundation/cad.h"
-#include "foundation/lc_fichero.h"
-#include "foundation/vornspy.h"
-#include "foundation/widestr.h"
+#include "foundation/listas/arr.h"
+#include "foundation/texto/cad.h"
+#include "foundation/ficheros/lc_fichero.h"
+#include "foundation/suelo/vornspy.h"
+#include "foundation/texto/widestr.h"
 #include "persistence/vornbin.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // Configuration files of sections, as that of the units: whatever the file holds, a number comes, and no report.
 #include "objetivo.h"
-#include "foundation/ini.h"
+#include "foundation/ficheros/ini.h"
 #include <cstring>
 
 namespace {

@@ -1,7 +1,7 @@
 // Dates out of texts: whatever the text, a date that is one or nothing at all, and no report. A date that was read is
 // written in a form that reads as the same date.
 #include "objetivo.h"
-#include "foundation/vornspy.h"
+#include "foundation/suelo/vornspy.h"
 #include "time/vorntime.h"
 #include <cstring>
 #include <memory>

@@ -1,7 +1,7 @@
 // The number parsers: whatever the text, it is a number or it is none, told without a report; both widths agree, and the
 // number's own text is that number again.
 #include "objetivo.h"
-#include "foundation/cad.h"
+#include "foundation/texto/cad.h"
 #include "units/vornnum.h"
 #include <cmath>
 

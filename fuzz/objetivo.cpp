@@ -1,7 +1,7 @@
 #include "objetivo.h"
-#include "foundation/avisos.h"
-#include "foundation/trapable.h"
-#include "foundation/vornspy.h"
+#include "foundation/sistema/avisos.h"
+#include "foundation/suelo/trapable.h"
+#include "foundation/suelo/vornspy.h"
 #include "memoria.h"
 #include <cstdio>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // The list of recent works: whatever the file holds, it is read or thrown away, and what was read can be saved.
 #include "objetivo.h"
-#include "foundation/arr.h"
-#include "foundation/widestr.h"
+#include "foundation/listas/arr.h"
+#include "foundation/texto/widestr.h"
 #include "persistence/ultiobra.h"
 
 namespace {

@@ -1,10 +1,10 @@
 // The registry's file, where it has one: whatever it holds, keys and texts come or do not, and what is then set is read back.
 #include "objetivo.h"
-#include "foundation/arr.h"
-#include "foundation/fichconf.h"
-#include "foundation/vornfile.h"
-#include "foundation/vornreg.h"
-#include "foundation/widestr.h"
+#include "foundation/listas/arr.h"
+#include "foundation/sistema/fichconf.h"
+#include "foundation/ficheros/vornfile.h"
+#include "foundation/sistema/vornreg.h"
+#include "foundation/texto/widestr.h"
 #include <cstring>
 
 namespace {

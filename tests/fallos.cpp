@@ -1,5 +1,5 @@
 #include "fallos.h"
-#include "foundation/vornfile.h"
+#include "foundation/ficheros/vornfile.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
 #include <algorithm>

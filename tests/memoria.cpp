@@ -1,5 +1,5 @@
 #include "memoria.h"
-#include "foundation/operaciones_fichero.h"
+#include "foundation/suelo/operaciones_fichero.h"
 #include <algorithm>
 #include <cstring>
 #include <map>

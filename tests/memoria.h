@@ -1,7 +1,7 @@
 // A file system of memory under the library's file operations: for tests that read many small files, and for fuzzing.
 #pragma once
 
-#include "foundation/tipos.h"
+#include "foundation/suelo/tipos.h"
 #include <string>
 
 namespace vn {

@@ -1,8 +1,8 @@
 #include "prueba.h"
-#include "foundation/operaciones_fichero.h"
+#include "foundation/suelo/operaciones_fichero.h"
 #include "plataforma/proceso.h"
-#include "foundation/msglocal.h"
-#include "foundation/vnatexit.h"
+#include "foundation/texto/msglocal.h"
+#include "foundation/suelo/vnatexit.h"
 #include <algorithm>
 #include <atomic>
 #include <clocale>

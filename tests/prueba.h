@@ -2,10 +2,10 @@
 // expect, or with a block of the tracked heap that it did not free.
 #pragma once
 
-#include "foundation/avisos.h"
-#include "foundation/error_interno.h"
-#include "foundation/trapable.h"
-#include "foundation/vornspy.h"
+#include "foundation/sistema/avisos.h"
+#include "foundation/suelo/error_interno.h"
+#include "foundation/suelo/trapable.h"
+#include "foundation/suelo/vornspy.h"
 #include <cstdint>
 #include <functional>
 #include <gtest/gtest.h>

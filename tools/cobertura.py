@@ -17,8 +17,8 @@ PERFILES = os.path.join(ARBOL, "perfiles")
 BIBLIOTECAS = [os.path.join(ARBOL, "lib", f"lib{b}.so") for b in ("nucleos_foundation", "nucleos")]
 PROFDATA = os.path.join(PERFILES, "todos.profdata")
 LEE_GUARDA_CIERRA = re.compile(
-    r"persistence/.*|foundation/(vornfile|guarda\w*|operaciones_fichero|lc_fichero\w*|fichmem|ini|vnmutex|vornreg)\.cpp|"
-    r"foundation/platform/posix/(fichero|cerrojo|registro)\.cpp|units/vornconf\.cpp|environment/.*")
+    r"persistence/.*|foundation/(?:suelo|ficheros|sistema)/(vornfile|guarda\w*|operaciones_fichero|lc_fichero\w*|fichmem|ini|vnmutex|vornreg)\.cpp|"
+    r"foundation/(?:sistema/registro_de_fichero|platform/posix/(?:fichero|cerrojo))\.cpp|units/vornconf\.cpp|environment/.*")
 
 
 def llvm_cov(orden, *opciones):

@@ -1,4 +1,4 @@
-#include "foundation/unicode.h"
+#include "foundation/texto/unicode.h"
 #include "modelo_dxf.h"
 #include "posesion.h"
 #include <algorithm>

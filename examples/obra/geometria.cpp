@@ -1,6 +1,6 @@
 #include "geometria.h"
-#include "foundation/mt.h"
-#include "foundation/vnmath.h"
+#include "foundation/numeros/mt.h"
+#include "foundation/numeros/vnmath.h"
 #include "geometry/poligono.h"
 #include "geometry/punto.h"
 #include <algorithm>

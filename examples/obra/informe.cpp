@@ -1,5 +1,5 @@
 #include "informe.h"
-#include "foundation/unicode.h"
+#include "foundation/texto/unicode.h"
 #include "informe_priv.h"
 
 namespace obra {

@@ -1,7 +1,7 @@
 // The report of a project file.
 #pragma once
 
-#include "foundation/msglocal.h"
+#include "foundation/texto/msglocal.h"
 #include "plano_fichero.h"
 
 namespace obra {

@@ -5,12 +5,12 @@
 // A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or left
 // half written.
 #include "dxf.h"
-#include "foundation/avisos.h"
-#include "foundation/error_interno.h"
-#include "foundation/unicode.h"
-#include "foundation/vdir.h"
-#include "foundation/version.h"
-#include "foundation/vornspy.h"
+#include "foundation/sistema/avisos.h"
+#include "foundation/suelo/error_interno.h"
+#include "foundation/texto/unicode.h"
+#include "foundation/ficheros/vdir.h"
+#include "foundation/sistema/version.h"
+#include "foundation/suelo/vornspy.h"
 #include "informe.h"
 #include "mensajes.h"
 #include "opciones.h"

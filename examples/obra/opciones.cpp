@@ -1,5 +1,5 @@
 #include "opciones.h"
-#include "foundation/msglocal.h"
+#include "foundation/texto/msglocal.h"
 #include "informe.h"
 #include "mensajes.h"
 #include "units/vornconf.h"

@@ -2,7 +2,7 @@
 // angles in radians, counter-clockwise; everything in plan.
 #pragma once
 
-#include "foundation/tipos.h"
+#include "foundation/suelo/tipos.h"
 #include <cstdint>
 #include <map>
 #include <string>

@@ -1,5 +1,5 @@
 #include "plano_fichero.h"
-#include "foundation/trapable.h"
+#include "foundation/suelo/trapable.h"
 #include "persistence/vornbin.h"
 #include "posesion.h"
 #include <utility>

@@ -1,10 +1,10 @@
 // Owners of the library's handles: each is given back when its owner goes.
 #pragma once
 
-#include "foundation/arr.h"
-#include "foundation/cad.h"
-#include "foundation/lc_fichero.h"
-#include "foundation/widestr.h"
+#include "foundation/listas/arr.h"
+#include "foundation/texto/cad.h"
+#include "foundation/ficheros/lc_fichero.h"
+#include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
 #include <memory>
 

@@ -1,5 +1,5 @@
 #include "textos_dxf.h"
-#include "foundation/unicode.h"
+#include "foundation/texto/unicode.h"
 #include "posesion.h"
 #include <charconv>
 

@@ -1,5 +1,5 @@
 #include "valores.h"
-#include "foundation/unicode.h"
+#include "foundation/texto/unicode.h"
 #include "informe.h"
 #include "posesion.h"
 #include "time/sysdata.h"

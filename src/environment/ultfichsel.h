@@ -2,7 +2,7 @@
 #ifndef VN_ULTFICHSEL_H
 #define VN_ULTFICHSEL_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 /** Array of pointers (arr.h). Its elements here are records of this module. */
 typedef struct arrPuntero arrPuntero;

@@ -1,14 +1,14 @@
 #define VN_MODULO "alsalir (NUCLEOS.DLL)"
 #include "frame/alsalir.h"
-#include "foundation/afirma.h"
-#include "foundation/arr.h"
-#include "foundation/cad.h"
-#include "foundation/contexto.h"
-#include "foundation/propio_priv.h"
-#include "foundation/unicode.h"
-#include "foundation/vnatexit.h"
-#include "foundation/vnmutex.h"
-#include "foundation/widestr.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/arr.h"
+#include "foundation/texto/cad.h"
+#include "foundation/suelo/contexto.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/texto/unicode.h"
+#include "foundation/suelo/vnatexit.h"
+#include "foundation/sistema/vnmutex.h"
+#include "foundation/texto/widestr.h"
 #include <atomic>
 
 namespace {

@@ -4,7 +4,7 @@
 #ifndef VN_ALSALIR_H
 #define VN_ALSALIR_H
 
-#include "foundation/vornspy.h"
+#include "../foundation/suelo/vornspy.h"
 
 VN_C_INICIO
 

@@ -1,7 +1,7 @@
 #define VN_MODULO "calsecbas (NUCLEOS.DLL)"
 #include "geometry/calsecbas.h"
-#include "foundation/afirma.h"
-#include "foundation/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/sistema/vnstdc.h"
 #include <algorithm>
 #include <cmath>
 

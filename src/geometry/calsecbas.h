@@ -2,7 +2,7 @@
 #ifndef VN_CALSECBAS_H
 #define VN_CALSECBAS_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 VN_C_INICIO
 

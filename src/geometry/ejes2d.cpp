@@ -1,9 +1,9 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 #include "geometry/ejes2d.h"
-#include "foundation/afirma.h"
-#include "foundation/logico_priv.h"
-#include "foundation/mt.h"
-#include "foundation/vornspy.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
+#include "foundation/numeros/mt.h"
+#include "foundation/suelo/vornspy.h"
 #include "geometry/ejes2d_priv.h"
 #include <cmath>
 

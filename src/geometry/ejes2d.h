@@ -10,7 +10,7 @@
 #ifndef VN_EJES2D_H
 #define VN_EJES2D_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 typedef struct arrPunto2D arrPunto2D;
 typedef struct arrPunto3D arrPunto3D;

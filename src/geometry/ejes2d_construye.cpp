@@ -1,8 +1,8 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Axes out of points, vectors and angles; the equation of their plane.
 #include "geometry/ejes2d.h"
-#include "foundation/afirma.h"
-#include "foundation/mt.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/numeros/mt.h"
 #include "geometry/ejes2d_priv.h"
 #include <cmath>
 

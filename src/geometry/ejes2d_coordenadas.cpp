@@ -1,9 +1,9 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Points, vectors and lines from global to local and back.
 #include "geometry/ejes2d.h"
-#include "foundation/afirma.h"
-#include "foundation/arr.h"
-#include "foundation/vmatr.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/arr.h"
+#include "foundation/numeros/vmatr.h"
 #include "geometry/ejes2d_priv.h"
 #include <cmath>
 #include <memory>

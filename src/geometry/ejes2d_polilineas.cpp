@@ -1,8 +1,8 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Whole polylines from global to local and back.
 #include "geometry/ejes2d.h"
-#include "foundation/afirma.h"
-#include "foundation/arr_priv.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/arr_int.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 // What the sources of the axes of planes share: a frame as one value, the tolerances.
 #pragma once
 
-#include "foundation/vector_priv.h"
+#include "foundation/numeros/vector_int.h"
 
 // The parameters of a frame in a definition, plain or with a suffix, and the frame that they are.
 #define EJES_DE(s)                                                                                                     \

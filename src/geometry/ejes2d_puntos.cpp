@@ -1,9 +1,9 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Axes out of a list of points.
 #include "geometry/ejes2d.h"
-#include "foundation/afirma.h"
-#include "foundation/arr_priv.h"
-#include "foundation/mt.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/arr_int.h"
+#include "foundation/numeros/mt.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
 #include <cfloat>

@@ -1,8 +1,8 @@
 #define VN_MODULO "interarc (NUCLEOS.DLL)"
 #include "geometry/interarc.h"
-#include "foundation/afirma.h"
-#include "foundation/mt.h"
-#include "foundation/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/numeros/mt.h"
+#include "foundation/numeros/vnmath.h"
 #include <algorithm>
 #include <cmath>
 #include <vector>

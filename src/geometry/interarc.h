@@ -7,7 +7,7 @@
 #ifndef VN_INTERARC_H
 #define VN_INTERARC_H
 
-#include "foundation/arr.h"
+#include "../foundation/listas/arr.h"
 
 VN_C_INICIO
 

@@ -1,9 +1,9 @@
 #define VN_MODULO "poligono (NUCLEOS.DLL)"
 #include "geometry/poligono.h"
-#include "foundation/afirma.h"
-#include "foundation/mt.h"
-#include "foundation/vector_priv.h"
-#include "foundation/vornspy.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/numeros/mt.h"
+#include "foundation/numeros/vector_int.h"
+#include "foundation/suelo/vornspy.h"
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>

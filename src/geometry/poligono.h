@@ -2,7 +2,7 @@
 #ifndef VN_POLIGONO_H
 #define VN_POLIGONO_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 /** A vertex. */
 typedef struct poligono_vertice_t {

@@ -1,10 +1,10 @@
 #define VN_MODULO "polin3d (NUCLEOS.DLL)"
 // Circles, arcs and fillets as points; lists of points.
 #include "geometry/polin3d.h"
-#include "foundation/afirma.h"
-#include "foundation/arr_priv.h"
-#include "foundation/mt.h"
-#include "foundation/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/arr_int.h"
+#include "foundation/numeros/mt.h"
+#include "foundation/numeros/vnmath.h"
 #include "geometry/polin3d_priv.h"
 #include <algorithm>
 #include <cmath>

@@ -7,7 +7,7 @@
 #ifndef VN_POLIN3D_H
 #define VN_POLIN3D_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 typedef struct arrPunto3D arrPunto3D;
 typedef struct arrPuntero arrPuntero;

@@ -1,8 +1,8 @@
 // What the sources of the polylines share: the fillet between three points, the tolerances.
 #pragma once
 
-#include "foundation/arr.h"
-#include "foundation/vector_priv.h"
+#include "foundation/listas/arr.h"
+#include "foundation/numeros/vector_int.h"
 #include <memory>
 #include <vector>
 

@@ -1,9 +1,9 @@
 #define VN_MODULO "polin3d (NUCLEOS.DLL)"
 // Polylines with fillets, and the sections along them.
 #include "geometry/polin3d.h"
-#include "foundation/afirma.h"
-#include "foundation/arr_priv.h"
-#include "foundation/mt.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/arr_int.h"
+#include "foundation/numeros/mt.h"
 #include "geometry/ejes2d.h"
 #include "geometry/polin3d_priv.h"
 #include <cmath>

@@ -1,9 +1,9 @@
 #define VN_MODULO "pto3dord (NUCLEOS.DLL)"
 #include "geometry/pto3dord.h"
-#include "foundation/afirma.h"
-#include "foundation/apunorde.h"
-#include "foundation/propio_priv.h"
-#include "foundation/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/apunorde.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/numeros/vnmath.h"
 
 struct pto3dord {
     apunorde *puntos;

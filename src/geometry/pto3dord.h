@@ -2,7 +2,7 @@
 #ifndef VN_PTO3DORD_H
 #define VN_PTO3DORD_H
 
-#include "foundation/arr.h"
+#include "../foundation/listas/arr.h"
 
 typedef struct pto3dord pto3dord;
 

@@ -1,11 +1,11 @@
 #define VN_MODULO "punto (NUCLEOS.DLL)"
 #include "geometry/punto.h"
-#include "foundation/afirma.h"
-#include "foundation/logico_priv.h"
-#include "foundation/mt.h"
-#include "foundation/vector_priv.h"
-#include "foundation/vnmath.h"
-#include "foundation/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
+#include "foundation/numeros/mt.h"
+#include "foundation/numeros/vector_int.h"
+#include "foundation/numeros/vnmath.h"
+#include "foundation/sistema/vnstdc.h"
 #include <algorithm>
 #include <cmath>
 #include <cstdint>

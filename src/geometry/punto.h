@@ -11,7 +11,7 @@
 #ifndef VN_PUNTO_H
 #define VN_PUNTO_H
 
-#include "foundation/punto.h"
+#include "../foundation/numeros/punto.h"
 
 /** What nousar_posicion_relativa_al_segmento gives for a point off a segment that has no direction. */
 #define P_POSICION_DESCONOCIDA (-1e+100)

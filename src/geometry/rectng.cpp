@@ -1,9 +1,9 @@
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
 #include "geometry/rectng.h"
-#include "foundation/afirma.h"
-#include "foundation/logico_priv.h"
-#include "foundation/vector_priv.h"
-#include "foundation/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
+#include "foundation/numeros/vector_int.h"
+#include "foundation/numeros/vnmath.h"
 #include <cfloat>
 #include <cmath>
 #include <iterator>

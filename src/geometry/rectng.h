@@ -5,7 +5,7 @@
 #ifndef VN_RECTNG_H
 #define VN_RECTNG_H
 
-#include "foundation/arr.h"
+#include "../foundation/listas/arr.h"
 
 /** A rectangle. With `calculados`, xmin <= xmax and ymin <= ymax; reset, they are the extremes of the type, inverted. */
 typedef struct rectangulo_t {

@@ -1,7 +1,7 @@
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
 // Arrays of rectangles: moving them, what holds them all, and strips lengthened and condensed.
 #include "geometry/rectng.h"
-#include "foundation/afirma.h"
+#include "foundation/suelo/afirma_int.h"
 #include <cmath>
 #include <memory>
 #include <span>

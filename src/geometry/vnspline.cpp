@@ -1,9 +1,9 @@
 #define VN_MODULO "vnspline (NUCLEOS.DLL)"
 #include "geometry/vnspline.h"
-#include "foundation/afirma.h"
-#include "foundation/mt.h"
-#include "foundation/vector_priv.h"
-#include "foundation/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/numeros/mt.h"
+#include "foundation/numeros/vector_int.h"
+#include "foundation/sistema/vnstdc.h"
 #include <algorithm>
 #include <cmath>
 

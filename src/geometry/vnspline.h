@@ -2,7 +2,7 @@
 #ifndef VN_VNSPLINE_H
 #define VN_VNSPLINE_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 VN_C_INICIO
 

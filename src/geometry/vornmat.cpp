@@ -1,6 +1,6 @@
 #define VN_MODULO "vornmat (NUCLEOS.DLL)"
 #include "geometry/vornmat.h"
-#include "foundation/afirma.h"
+#include "foundation/suelo/afirma_int.h"
 #include <cmath>
 
 namespace {

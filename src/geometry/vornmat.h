@@ -2,7 +2,7 @@
 #ifndef VN_VORNMAT_H
 #define VN_VORNMAT_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 VN_C_INICIO
 

@@ -4,7 +4,7 @@
 #ifndef VN_ULTIOBRA_H
 #define VN_ULTIOBRA_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 /** Array of wide texts (arr.h). */
 typedef struct arrCADENA_u arrCADENA_u;

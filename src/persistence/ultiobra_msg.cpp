@@ -1,6 +1,6 @@
 #define VN_MODULO "ultiobra (NUCLEOS.DLL)"
 #include "persistence/ultiobra_msg_priv.h"
-#include "foundation/msglocal_priv.h"
+#include "foundation/texto/msglocal_int.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // User texts of ultiobra.
 #pragma once
 
-#include "foundation/msglocal.h"
+#include "foundation/texto/msglocal.h"
 
 // "<160946>": the files of the work %s (wide text) are not there any more or cannot be reached.
 void ultiobra_msg_160946(vnmensaje *mensaje);

@@ -1,7 +1,7 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
 #include "persistence/vornbin.h"
-#include "foundation/afirma.h"
-#include "foundation/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/sistema/vnstdc.h"
 #include "persistence/vornbin_priv.h"
 #include <algorithm>
 #include <cmath>

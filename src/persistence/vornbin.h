@@ -4,7 +4,7 @@
 #ifndef VN_VORNBIN_H
 #define VN_VORNBIN_H
 
-#include "foundation/lc_fichero.h"
+#include "../foundation/ficheros/lc_fichero.h"
 
 /** Array of wide texts (arr.h). */
 typedef struct arrCADENA_u arrCADENA_u;

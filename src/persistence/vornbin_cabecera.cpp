@@ -1,10 +1,10 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
 #include "persistence/vornbin_cabecera_priv.h"
-#include "foundation/afirma.h"
-#include "foundation/cad.h"
-#include "foundation/unicode.h"
-#include "foundation/version.h"
-#include "foundation/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/cad.h"
+#include "foundation/texto/unicode.h"
+#include "foundation/sistema/version.h"
+#include "foundation/sistema/vnstdc.h"
 #include <algorithm>
 #include <unordered_map>
 #include <utility>

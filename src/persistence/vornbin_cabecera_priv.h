@@ -1,8 +1,8 @@
 // The header of a binary file: who wrote it, named fields, the reserved list.
 #pragma once
 
-#include "foundation/arr.h"
-#include "foundation/temporal_priv.h"
+#include "foundation/listas/arr.h"
+#include "foundation/ficheros/temporal_int.h"
 #include "persistence/vornbin_priv.h"
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
-#include "foundation/widestr.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/widestr.h"
 #include "persistence/vornbin_cabecera_priv.h"
 #include <algorithm>
 

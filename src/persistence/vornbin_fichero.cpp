@@ -1,8 +1,8 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
-#include "foundation/arr.h"
-#include "foundation/cad.h"
-#include "foundation/unicode.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/arr.h"
+#include "foundation/texto/cad.h"
+#include "foundation/texto/unicode.h"
 #include "persistence/ultiobra.h"
 #include "persistence/vornbin_cabecera_priv.h"
 

@@ -1,8 +1,8 @@
 // What the binary layer shares inside the library: owners, the debug form, scalars, the transfer of whole arrays.
 #pragma once
 
-#include "foundation/lc_fichero_priv.h"
-#include "foundation/propio_priv.h"
+#include "foundation/ficheros/lc_fichero_int.h"
+#include "foundation/suelo/propio_int.h"
 #include "persistence/vornbin.h"
 #include <memory>
 

@@ -1,9 +1,9 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
 #include "persistence/vornbin.h"
-#include "foundation/afirma.h"
-#include "foundation/cad.h"
-#include "foundation/punto.h"
-#include "foundation/vncopro.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/cad.h"
+#include "foundation/numeros/punto.h"
+#include "foundation/numeros/vncopro.h"
 #include "persistence/vornbin_priv.h"
 #include <cfloat>
 #include <climits>

@@ -16,11 +16,11 @@
 #ifndef VN_VORNSAVE_H
 #define VN_VORNSAVE_H
 
-#include "foundation/acadorde.h"
-#include "foundation/apunorde.h"
-#include "foundation/fichmem.h"
-#include "foundation/lc_fichero.h"
-#include "foundation/tipos.h"
+#include "../foundation/listas/acadorde.h"
+#include "../foundation/listas/apunorde.h"
+#include "../foundation/ficheros/fichmem.h"
+#include "../foundation/ficheros/lc_fichero.h"
+#include "../foundation/suelo/tipos.h"
 
 /** The protocol object. One thread at a time, one direction at a time; the destination stays the caller's. */
 typedef struct vornsave vornsave;

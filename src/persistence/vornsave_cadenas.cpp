@@ -1,9 +1,9 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
 #include "persistence/vornsave_priv.h"
 
-#include "foundation/fichmem.h"
-#include "foundation/unicode.h"
-#include "foundation/utf_priv.h"
+#include "foundation/ficheros/fichmem.h"
+#include "foundation/texto/unicode.h"
+#include "foundation/suelo/utf_int.h"
 #include <algorithm>
 #include <cstring>
 

@@ -1,10 +1,10 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
 #include "persistence/vornsave_priv.h"
 
-#include "foundation/cambtipo.h"
-#include "foundation/lc_fichero.h"
-#include "foundation/vtxt.h"
-#include "foundation/vtxt_priv.h"
+#include "foundation/numeros/cambtipo.h"
+#include "foundation/ficheros/lc_fichero.h"
+#include "foundation/ficheros/vtxt.h"
+#include "foundation/ficheros/vtxt_int.h"
 #include "persistence/vornbin_priv.h"
 #include <cstring>
 #include <string>

@@ -1,9 +1,9 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
 #include "persistence/vornsave_priv.h"
 
-#include "foundation/cambtipo.h"
-#include "foundation/punto.h"
-#include "foundation/vnmath.h"
+#include "foundation/numeros/cambtipo.h"
+#include "foundation/numeros/punto.h"
+#include "foundation/numeros/vnmath.h"
 
 using namespace vn;
 

@@ -1,7 +1,7 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
 #include "persistence/vornsave_priv.h"
 
-#include "foundation/vnmath.h"
+#include "foundation/numeros/vnmath.h"
 #include <algorithm>
 #include <cstring>
 

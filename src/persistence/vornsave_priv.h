@@ -1,11 +1,11 @@
 // What the sources of the save protocol share: the two tables, the object, the one dispatcher, the watch over loops.
 #pragma once
 
-#include "foundation/afirma.h"
-#include "foundation/cad.h"
-#include "foundation/error_interno_priv.h"
-#include "foundation/propio_priv.h"
-#include "foundation/widestr.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/cad.h"
+#include "foundation/suelo/error_interno_int.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
 #include <memory>
 

@@ -1,7 +1,7 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
 #include "persistence/vornsave_priv.h"
 
-#include "foundation/unicode.h"
+#include "foundation/texto/unicode.h"
 
 // Arrays and ordered sets of texts.
 using namespace vn;

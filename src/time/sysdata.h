@@ -3,7 +3,7 @@
    Windows' regional settings; elsewhere those of the environment (LC_ALL, or LC_NUMERIC for numbers and LC_TIME for the
    rest, or LANG), as the tables of Unicode have them, as pictures in the letters of Windows; what a region's picture is may
    differ between the two (d/M/yyyy, dd/MM/yyyy). Dates are Gregorian in every region. What is set while the program runs
-   is seen half a second later at most; another region than the user's can be set in foundation/vnregional.h. A narrow or
+   is seen half a second later at most; another region than the user's can be set in foundation/sistema/vnregional.h. A narrow or
    thin blank that does not break comes as the plain one (U+00A0), a minus sign of its own (U+2212) as '-', on every
    platform: one character of the ANSI pages each.
 
@@ -11,7 +11,7 @@
 #ifndef VN_SYSDATA_H
 #define VN_SYSDATA_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 VN_C_INICIO
 

@@ -1,7 +1,7 @@
 // What number text asks of the regional data for each number.
 #pragma once
 
-#include "foundation/tipos.h"
+#include "foundation/suelo/tipos.h"
 
 namespace vn {
 

@@ -1,7 +1,7 @@
 #define VN_MODULO "timecalc (NUCLEOS.DLL)"
 #include "time/timecalc.h"
-#include "foundation/afirma.h"
-#include "foundation/calendario_priv.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/calendario_int.h"
 
 using namespace vn;
 

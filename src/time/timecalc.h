@@ -3,7 +3,7 @@
 #ifndef VN_TIMECALC_H
 #define VN_TIMECALC_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 /** A Windows file time: steps of 100 ns since 1601, laid out as the system's own record. */
 typedef struct vnFILETIME {

@@ -1,9 +1,9 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
 #include "time/vorntime.h"
-#include "foundation/afirma.h"
-#include "foundation/arr.h"
-#include "foundation/calendario_priv.h"
-#include "foundation/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/arr.h"
+#include "foundation/suelo/calendario_int.h"
+#include "foundation/sistema/vnstdc.h"
 #include "persistence/vornsave.h"
 #include "time/vorntime_priv.h"
 #include <algorithm>

@@ -6,7 +6,7 @@
 #ifndef VN_VORNTIME_H
 #define VN_VORNTIME_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 typedef struct arrPuntero arrPuntero;
 typedef struct vornsave vornsave;

@@ -1,5 +1,5 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
+#include "foundation/suelo/afirma_int.h"
 #include "time/sysdata.h"
 #include "time/vorntime_priv.h"
 #include <string_view>

@@ -1,7 +1,7 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
-#include "foundation/calendario_priv.h"
-#include "foundation/unicode.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/calendario_int.h"
+#include "foundation/texto/unicode.h"
 #include "time/vorntime_priv.h"
 #include <optional>
 #include <string_view>

@@ -1,6 +1,6 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
 #include "time/vorntime_msg_priv.h"
-#include "foundation/msglocal_priv.h"
+#include "foundation/texto/msglocal_int.h"
 #include <array>
 #include <cstdint>
 #include <string_view>

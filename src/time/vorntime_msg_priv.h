@@ -1,7 +1,7 @@
 // User texts of vorntime.
 #pragma once
 
-#include "foundation/msglocal.h"
+#include "foundation/texto/msglocal.h"
 
 // Fillers of the names, wide and ANSI, in tables of the same order: months from January, days from Sunday.
 extern const vnfunc_mensaje vorntime_msg_mes_u[12], vorntime_msg_mes[12];

@@ -1,7 +1,7 @@
 // What the sources of vorntime share.
 #pragma once
 
-#include "foundation/propio_priv.h"
+#include "foundation/suelo/propio_int.h"
 #include "time/vorntime.h"
 
 namespace vn {

@@ -1,6 +1,6 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
-#include "foundation/cad.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/cad.h"
 #include "time/sysdata.h"
 #include "time/vorntime_priv.h"
 

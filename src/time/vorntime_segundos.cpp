@@ -1,7 +1,7 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
-#include "foundation/calendario_priv.h"
-#include "foundation/cambtipo.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/calendario_int.h"
+#include "foundation/numeros/cambtipo.h"
 #include "time/vorntime_priv.h"
 
 using namespace vn;

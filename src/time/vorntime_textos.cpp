@@ -1,8 +1,8 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
-#include "foundation/cad.h"
-#include "foundation/vnstdc.h"
-#include "foundation/widestr.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/cad.h"
+#include "foundation/sistema/vnstdc.h"
+#include "foundation/texto/widestr.h"
 #include "time/vorntime_msg_priv.h"
 #include "time/vorntime_priv.h"
 #include <algorithm>

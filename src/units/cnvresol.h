@@ -3,7 +3,7 @@
 #ifndef VN_CNVRESOL_H
 #define VN_CNVRESOL_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 VN_C_INICIO
 

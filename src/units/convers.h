@@ -12,14 +12,14 @@
 #ifndef VN_CONVERS_H
 #define VN_CONVERS_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 /** Value types; the table says what each is. CNV_NO_CONVERSION: a plain number, no unit. In the imperial system types 73,
     74 and 115 have the figures of the family's files, which are not the physical ones: what 73 and 74 show is 0.00863 of
     the true figure, what 115 shows 115.9 times it, and what is typed in errs the other way. */
 enum {
 #define X(tipo, nombre, ...) nombre = tipo,
-#include "units/convers_tabla.inl"
+#include "convers_tabla.inl"
 #undef X
     CNV_NO_CONVERSION = 145
 };

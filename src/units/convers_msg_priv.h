@@ -1,7 +1,7 @@
 // The unit texts of convers.msg, found by their Spanish words.
 #pragma once
 
-#include "foundation/msglocal_priv.h"
+#include "foundation/texto/msglocal_int.h"
 #include <cstddef>
 #include <iterator>
 

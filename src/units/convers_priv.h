@@ -1,7 +1,7 @@
 // The table of value types as the sources of convers read it.
 #pragma once
 
-#include "foundation/afirma.h"
+#include "foundation/suelo/afirma_int.h"
 #include "units/convers.h"
 #include <array>
 #include <atomic>

@@ -1,7 +1,7 @@
 #define VN_MODULO "convers (NUCLEOS.DLL)"
-#include "foundation/cad.h"
-#include "foundation/vnmath.h"
-#include "foundation/widestr.h"
+#include "foundation/texto/cad.h"
+#include "foundation/numeros/vnmath.h"
+#include "foundation/texto/widestr.h"
 #include "units/convers_priv.h"
 #include "units/vornnum_priv.h"
 #include <algorithm>

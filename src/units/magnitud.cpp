@@ -1,8 +1,8 @@
 #define VN_MODULO "magnitud (NUCLEOS.DLL)"
 #include "units/magnitud.h"
-#include "foundation/afirma.h"
-#include "foundation/vnmath.h"
-#include "foundation/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/numeros/vnmath.h"
+#include "foundation/sistema/vnstdc.h"
 #include "units/vornconf.h"
 #include <cmath>
 

@@ -8,7 +8,7 @@
 #ifndef VN_MAGNITUD_H
 #define VN_MAGNITUD_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 VN_C_INICIO
 

@@ -2,7 +2,7 @@
 #ifndef VN_MONEDAS_H
 #define VN_MONEDAS_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 VN_C_INICIO
 

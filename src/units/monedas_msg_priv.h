@@ -1,7 +1,7 @@
 // User texts of monedas.
 #pragma once
 
-#include "foundation/msglocal.h"
+#include "foundation/texto/msglocal.h"
 
 // "<124345>": pesetas, abbreviated. "<124346>": euros.
 void monedas_msg_124345(vnmensaje *mensaje);

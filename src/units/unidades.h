@@ -3,7 +3,7 @@
 #ifndef VN_UNIDADES_H
 #define VN_UNIDADES_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 VN_C_INICIO
 

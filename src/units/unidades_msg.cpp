@@ -1,6 +1,6 @@
 #define VN_MODULO "unidades (NUCLEOS.DLL)"
 #include "units/unidades_msg_priv.h"
-#include "foundation/msglocal_priv.h"
+#include "foundation/texto/msglocal_int.h"
 
 // Every column that differs. Four have ANSI texts of their own, in the code page of the column's language, 1252 where
 // nothing is said: Bulgarian and Russian 1251, Romanian and Polish 1250, Turkish 1254, Chinese 936, Japanese 932. The pages

@@ -1,7 +1,7 @@
 // Labels of the units of a budget: for the wide reader and, ending in _ansi, for the ANSI one.
 #pragma once
 
-#include "foundation/msglocal.h"
+#include "foundation/texto/msglocal.h"
 
 void unidades_msg_165177(vnmensaje *mensaje);      // unit of things that are counted
 void unidades_msg_165177_ansi(vnmensaje *mensaje);

@@ -15,7 +15,7 @@
 #ifndef VN_VNNUMLET_H
 #define VN_VNNUMLET_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 VN_C_INICIO
 

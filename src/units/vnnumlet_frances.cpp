@@ -1,7 +1,7 @@
 #define VN_MODULO "vnnumlet (NUCLEOS.DLL)"
 // French, in its long scale (a milliard is ten to the ninth, a billion ten to the twelfth) and with the blanks and hyphens
 // from before the reform of 1990.
-#include "foundation/afirma.h"
+#include "foundation/suelo/afirma_int.h"
 #include "units/vnnumlet_priv.h"
 #include <iterator>
 

@@ -1,6 +1,6 @@
 #define VN_MODULO "vnnumlet (NUCLEOS.DLL)"
 // The languages whose numbers are built in the Spanish way: one engine, a table of words each.
-#include "foundation/afirma.h"
+#include "foundation/suelo/afirma_int.h"
 #include "units/vnnumlet_priv.h"
 #include <iterator>
 

@@ -8,7 +8,7 @@
 #ifndef VN_VORNCONF_H
 #define VN_VORNCONF_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 /** Systems of units. The first counts force in tonnes-force. */
 #define VORNCONF_SU_MKS 1u

@@ -1,6 +1,6 @@
 #define VN_MODULO "vornconf (NUCLEOS.DLL)"
 #include "units/vornconf_msg_priv.h"
-#include "foundation/msglocal_priv.h"
+#include "foundation/texto/msglocal_int.h"
 
 // Romanian with the cedillas that its ANSI page has.
 

@@ -1,7 +1,7 @@
 // User texts of vornconf, for the ANSI reader.
 #pragma once
 
-#include "foundation/msglocal.h"
+#include "foundation/texto/msglocal.h"
 
 // "<32343>": the label of the choice of a system.
 void vornconf_msg_32343(vnmensaje *mensaje);

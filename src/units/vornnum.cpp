@@ -1,10 +1,10 @@
 #define VN_MODULO "vornnum (NUCLEOS.DLL)"
 #include "units/vornnum.h"
-#include "foundation/afirma.h"
-#include "foundation/propio_priv.h"
-#include "foundation/unicode.h"
-#include "foundation/vnmath.h"
-#include "foundation/vnregional.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/texto/unicode.h"
+#include "foundation/numeros/vnmath.h"
+#include "foundation/sistema/vnregional.h"
 #include "units/vornnum_priv.h"
 #include <algorithm>
 #include <array>

@@ -8,7 +8,7 @@
 #ifndef VN_VORNNUM_H
 #define VN_VORNNUM_H
 
-#include "foundation/tipos.h"
+#include "../foundation/suelo/tipos.h"
 
 /** Room that holds any formatted number and its end. */
 #define TAM_BUFFER_NUM 64

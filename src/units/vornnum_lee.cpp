@@ -1,9 +1,9 @@
 #define VN_MODULO "vornnum (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
-#include "foundation/cad.h"
-#include "foundation/numero_priv.h"
-#include "foundation/vnmath.h"
-#include "foundation/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/cad.h"
+#include "foundation/texto/numero_int.h"
+#include "foundation/numeros/vnmath.h"
+#include "foundation/sistema/vnstdc.h"
 #include "units/vornnum_priv.h"
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
 #define VN_MODULO "vornnum (NUCLEOS.DLL)"
-#include "foundation/afirma.h"
-#include "foundation/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/numeros/vnmath.h"
 #include "units/vornnum.h"
 #include "units/vornnum_priv.h"
 #include <algorithm>

@@ -1,7 +1,7 @@
 // The core formatter of number text, one for both widths.
 #pragma once
 
-#include "foundation/afirma.h"
+#include "foundation/suelo/afirma_int.h"
 #include "units/vornnum.h"
 #include <string_view>
 

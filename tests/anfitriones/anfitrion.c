@@ -1,9 +1,9 @@
 /* A host in C whose frames nothing can be thrown through: it is compiled without unwind tables. Traps, call-backs under
    them, refused arguments and a size that nobody has. */
-#include "foundation/arr.h"
-#include "foundation/trapable.h"
-#include "foundation/vnmutex.h"
-#include "foundation/vornspy.h"
+#include "foundation/listas/arr.h"
+#include "foundation/suelo/trapable.h"
+#include "foundation/sistema/vnmutex.h"
+#include "foundation/suelo/vornspy.h"
 #include "persistence/vornsave.h"
 #include <stdint.h>
 #include <stdio.h>

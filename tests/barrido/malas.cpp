@@ -1,7 +1,7 @@
 // Operations with one fault each, and one without: what the sweep of arguments must find, and must not.
 #include "barrido.h"
-#include "foundation/error_interno.h"
-#include "foundation/vornspy.h"
+#include "foundation/suelo/error_interno.h"
+#include "foundation/suelo/vornspy.h"
 #include <cstdlib>
 #include <cstring>
 

@@ -12,20 +12,28 @@ CABEZA = '#define VN_MODULO "{} (NUCLEOS{}.DLL)"\n'
 
 # File, content, and what the check must say of it (nothing: the file is in order).
 TEXTOS = [
-    ("src/foundation/bien.h", "#include <stdint.h>\n// #ifdef _WIN32 in a comment, #include <windows.h> too\n", None),
-    ("src/foundation/bien.cpp", CABEZA.format("bien", "_FOUNDATION") + '#include "foundation/bien.h"\n#include <vector>\n', None),
+    ("src/foundation/suelo/bien.h", "#include <stdint.h>\n// #ifdef _WIN32 in a comment, #include <windows.h> too\n", None),
+    ("src/foundation/suelo/bien.cpp",
+     CABEZA.format("bien", "_FOUNDATION") + '#include "foundation/suelo/bien.h"\n#include <vector>\n', None),
+    ("src/foundation/suelo/de_todos_int.h", '#include "foundation/suelo/bien.h"\n', None),
+    ("src/foundation/suelo/suya_priv.h", '#include "foundation/suelo/de_todos_int.h"\n', None),
     ("src/foundation/platform/posix/x.cpp", "#include <unistd.h>\n#ifdef __linux__\n#endif\n", None),
-    ("src/foundation/arriba.h", '#include "persistence/algo.h"\n', "foundation may not include persistence"),
-    ("src/persistence/arriba.h", '#include "environment/algo.h"\n', "persistence may not include environment"),
-    ("src/persistence/sin_carpeta.h", '#include "algo.h"\n', "includes name their folder"),
+    ("src/foundation/texto/abajo.h", '#include "../suelo/bien.h"\n', None),
+    ("src/foundation/texto/arriba_priv.h", '#include "foundation/listas/algo.h"\n', "may not include foundation/listas"),
+    ("src/foundation/texto/desde_src.h", '#include "foundation/suelo/bien.h"\n', "by their place beside it"),
+    ("src/foundation/texto/cuenta_lo_suyo.h", '#include "../suelo/de_todos_int.h"\n', "by their place beside it"),
+    ("src/foundation/texto/ajena.cpp", CABEZA.format("ajena", "_FOUNDATION") + '#include "foundation/suelo/suya_priv.h"\n',
+     "is foundation/suelo's own"),
+    ("src/persistence/arriba_priv.h", '#include "environment/algo.h"\n', "persistence may not include environment"),
+    ("src/persistence/sin_carpeta_priv.h", '#include "algo.h"\n', "includes name their folder"),
     ("src/nueva/algo.h", "\n", "has no row in the table of layers"),
     ("src/frame/sistema.h", "#include <windows.h>\n", "only platform/ includes"),
     ("tests/frame/sistema_test.cpp", "#include <sys/mman.h>\n", "only platform/ includes"),
     ("src/frame/condicion.h", "#  if defined(_WIN32) && 1\n#endif\n", "#if of a platform (_WIN32)"),
     ("src/frame/anonimo.cpp", '#include "frame/anonimo.h"\n', "the first line is not #define VN_MODULO"),
     ("src/frame/ajeno.cpp", CABEZA.format("ajeno", "_FOUNDATION"), "is not the library of this folder"),
-    ("src/foundation/tarde.h", "\n", None),
-    ("src/foundation/tarde.cpp", CABEZA.format("tarde", "_FOUNDATION") + '#include <vector>\n#include "foundation/tarde.h"\n',
+    ("src/foundation/suelo/tarde.h", "\n", None),
+    ("src/foundation/suelo/tarde.cpp", CABEZA.format("tarde", "_FOUNDATION") + '#include <vector>\n#include "foundation/suelo/tarde.h"\n',
      "is not its own header"),
     ("src/frame/largo.h", "int f(void);\n" * 801, "more than 800 lines"),
     ("src/frame/tabla.inl", 'X(1, "a")\n' * 900, None),
@@ -87,10 +95,10 @@ def main():
     with tempfile.TemporaryDirectory() as arbol:
         escribe(arbol, "cabeceras_publicas.txt", "foundation/algo.h\n")
         with open(os.path.join(construido, "cabeceras_publicas.txt"), encoding="utf-8") as f:
-            assert "foundation/anotaciones.h" in f.read().split()
-        with open(os.path.join(AQUI, "../../src/foundation/anotaciones.h"), encoding="utf-8") as f:
-            escribe(arbol, "src/foundation/anotaciones.h", f.read())
-        escribe(arbol, "src/foundation/algo.h", '#include "foundation/anotaciones.h"\n' +
+            assert "foundation/suelo/anotaciones.h" in f.read().split()
+        with open(os.path.join(AQUI, "../../src/foundation/suelo/anotaciones.h"), encoding="utf-8") as f:
+            escribe(arbol, "src/foundation/suelo/anotaciones.h", f.read())
+        escribe(arbol, "src/foundation/algo.h", '#include "suelo/anotaciones.h"\n' +
                 "\n\n".join(d for d, _ in DECLARACIONES) + "\n")
         escribe(arbol, "src/exports/foundation.txt", "fantasma\nlistada\n")
         escribe(arbol, "src/exports/nucleos.txt", "")

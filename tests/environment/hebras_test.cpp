@@ -1,10 +1,10 @@
 // Every family from several threads at once, each with objects of its own, while another thread changes what is set for the
 // whole process. What is wrong here is seen by ThreadSanitizer, or in an answer that is of no setting.
-#include "foundation/contexto.h"
-#include "foundation/fichconf.h"
-#include "foundation/msglocal.h"
-#include "foundation/unicode.h"
-#include "foundation/vnregional.h"
+#include "foundation/suelo/contexto.h"
+#include "foundation/sistema/fichconf.h"
+#include "foundation/texto/msglocal.h"
+#include "foundation/texto/unicode.h"
+#include "foundation/sistema/vnregional.h"
 #include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
 #include "prueba.h"

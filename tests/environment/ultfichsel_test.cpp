@@ -1,7 +1,7 @@
 #include "environment/ultfichsel.h"
-#include "foundation/arr.h"
-#include "foundation/fichconf.h"
-#include "foundation/widestr.h"
+#include "foundation/listas/arr.h"
+#include "foundation/sistema/fichconf.h"
+#include "foundation/texto/widestr.h"
 #include "fallos.h"
 #include "prueba.h"
 #include <filesystem>

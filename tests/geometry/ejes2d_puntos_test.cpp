@@ -1,5 +1,5 @@
 #include "espacio.h"
-#include "foundation/mt.h"
+#include "foundation/numeros/mt.h"
 #include "geometry/ejes2d.h"
 #include "prueba.h"
 #include <algorithm>

@@ -1,8 +1,8 @@
 // Points, vectors and frames for the tests of geometry in space.
 #pragma once
 
-#include "foundation/arr.h"
-#include "foundation/tipos.h"
+#include "foundation/listas/arr.h"
+#include "foundation/suelo/tipos.h"
 #include "propiedades.h"
 #include <cmath>
 #include <memory>

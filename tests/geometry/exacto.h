@@ -1,7 +1,7 @@
 // Segments whose ends have whole coordinates: what is true of them exactly, to hold the tolerant geometry against.
 #pragma once
 
-#include "foundation/punto.h"
+#include "foundation/numeros/punto.h"
 #include "propiedades.h"
 
 namespace exacto {

@@ -1,6 +1,6 @@
 #include "geometry/interarc.h"
-#include "foundation/arr_priv.h"
-#include "foundation/mt.h"
+#include "foundation/listas/arr_int.h"
+#include "foundation/numeros/mt.h"
 #include "propiedades.h"
 #include "prueba.h"
 #include <limits>

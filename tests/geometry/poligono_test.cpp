@@ -1,5 +1,5 @@
 #include "envolvente.h"
-#include "foundation/mt.h"
+#include "foundation/numeros/mt.h"
 #include "propiedades.h"
 #include "prueba.h"
 

@@ -1,5 +1,5 @@
 #include "geometry/pto3dord.h"
-#include "foundation/arr_priv.h"
+#include "foundation/listas/arr_int.h"
 #include "propiedades.h"
 #include "prueba.h"
 #include <limits>

@@ -1,5 +1,5 @@
 // Crossings and clips of other programs' hardest cases, with their exact answers.
-#include "foundation/mt.h"
+#include "foundation/numeros/mt.h"
 #include "geometry/punto.h"
 #include "geometry/rectng.h"
 #include "propiedades.h"

@@ -1,8 +1,8 @@
 // What the report of the sample host measures, and how it says it.
 #include "informe.h"
 #include "medidas.h"
-#include "foundation/fichconf.h"
-#include "foundation/vnregional.h"
+#include "foundation/sistema/fichconf.h"
+#include "foundation/sistema/vnregional.h"
 #include "opciones.h"
 #include "prueba.h"
 #include "units/vornconf.h"

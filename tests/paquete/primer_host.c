@@ -1,4 +1,4 @@
-#include "foundation/error_interno.h"
+#include "foundation/suelo/error_interno.h"
 #include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
 #include <stdio.h>

@@ -2,10 +2,10 @@
 // came back. The suites and the fuzz target go over these rows.
 #pragma once
 
-#include "foundation/cad.h"
-#include "foundation/punto.h"
-#include "foundation/vornspy.h"
-#include "foundation/widestr.h"
+#include "foundation/texto/cad.h"
+#include "foundation/numeros/punto.h"
+#include "foundation/suelo/vornspy.h"
+#include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
 #include <cmath>
 #include <cstring>

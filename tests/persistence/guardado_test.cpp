@@ -1,7 +1,7 @@
 // A whole project file saved under every failure and killed at every operation: what is left is the old file or the new
 // one, and what the close says is true.
 #include "fallos.h"
-#include "foundation/arr.h"
+#include "foundation/listas/arr.h"
 #include "persistence/vornbin.h"
 #include "prueba.h"
 

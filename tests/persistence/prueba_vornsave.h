@@ -4,7 +4,7 @@
 #ifndef VN_MODULO
 #define VN_MODULO "prueba"
 #endif
-#include "foundation/lc_fichero_priv.h"
+#include "foundation/ficheros/lc_fichero_int.h"
 #include "persistence/vornsave_priv.h"
 #include "prueba.h"
 #include <functional>

@@ -1,7 +1,7 @@
 #include "persistence/ultiobra.h"
-#include "foundation/arr.h"
-#include "foundation/msglocal.h"
-#include "foundation/widestr.h"
+#include "foundation/listas/arr.h"
+#include "foundation/texto/msglocal.h"
+#include "foundation/texto/widestr.h"
 #include "fallos.h"
 #include "prueba.h"
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "persistence/vornbin.h"
-#include "foundation/unicode.h"
-#include "foundation/vnstdc.h"
+#include "foundation/texto/unicode.h"
+#include "foundation/sistema/vnstdc.h"
 #include "prueba.h"
 #include <cfloat>
 #include <cmath>

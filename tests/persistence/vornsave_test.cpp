@@ -1,8 +1,8 @@
 #include "persistence/prueba_vornsave.h"
-#include "foundation/cad.h"
-#include "foundation/unicode.h"
-#include "foundation/vornfile.h"
-#include "foundation/widestr.h"
+#include "foundation/texto/cad.h"
+#include "foundation/texto/unicode.h"
+#include "foundation/ficheros/vornfile.h"
+#include "foundation/texto/widestr.h"
 #include <cmath>
 
 using namespace vn;

@@ -1,7 +1,7 @@
 #define VN_MODULO "sysdata_test"
 #include "time/sysdata.h"
-#include "foundation/operaciones_fichero.h"
-#include "foundation/vnregional.h"
+#include "foundation/suelo/operaciones_fichero.h"
+#include "foundation/sistema/vnregional.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
 #include <cfloat>

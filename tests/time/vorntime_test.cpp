@@ -1,6 +1,6 @@
 #define VN_MODULO "vorntime_test"
 #include "time/vorntime.h"
-#include "foundation/arr.h"
+#include "foundation/listas/arr.h"
 #include "persistence/prueba_vornsave.h"
 #include <array>
 #include <chrono>

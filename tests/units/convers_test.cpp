@@ -1,6 +1,6 @@
 #include "units/convers.h"
-#include "foundation/msglocal.h"
-#include "foundation/vnatexit.h"
+#include "foundation/texto/msglocal.h"
+#include "foundation/suelo/vnatexit.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
 #include "units/vornconf.h"

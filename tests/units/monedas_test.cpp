@@ -1,5 +1,5 @@
 #include "units/monedas.h"
-#include "foundation/msglocal.h"
+#include "foundation/texto/msglocal.h"
 #include "prueba.h"
 #include <cfloat>
 #include <cmath>

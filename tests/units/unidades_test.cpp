@@ -1,6 +1,6 @@
 #include "units/unidades.h"
-#include "foundation/msglocal.h"
-#include "foundation/unicode.h"
+#include "foundation/texto/msglocal.h"
+#include "foundation/texto/unicode.h"
 #include "prueba.h"
 
 using namespace vn;

@@ -1,5 +1,5 @@
 #include "units/vnnumlet.h"
-#include "foundation/vnstdc.h"
+#include "foundation/sistema/vnstdc.h"
 #include "palabras.h"
 #include <set>
 

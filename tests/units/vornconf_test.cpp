@@ -1,9 +1,9 @@
 #define VN_MODULO "vornconf_test"
 #include "units/vornconf.h"
 #include "fallos.h"
-#include "foundation/fichconf.h"
-#include "foundation/msglocal.h"
-#include "foundation/operaciones_fichero.h"
+#include "foundation/sistema/fichconf.h"
+#include "foundation/texto/msglocal.h"
+#include "foundation/suelo/operaciones_fichero.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
 #include <array>

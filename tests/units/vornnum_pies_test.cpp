@@ -1,5 +1,5 @@
 #define VN_MODULO "vornnum_pies_test"
-#include "foundation/cad.h"
+#include "foundation/texto/cad.h"
 #include "propiedades.h"
 #include "prueba.h"
 #include "units/vornnum.h"

@@ -5,11 +5,11 @@
 // usage: barrido OUTPUT PAIRS SECONDS FROM PART PARTS [NAME]: operations k >= FROM with k mod PARTS = PART;
 // with NAME, only that one, telling each call. SECONDS: how long a call may take.
 #include "barrido.h"
-#include "foundation/avisos.h"
-#include "foundation/error_interno.h"
-#include "foundation/operaciones_fichero.h"
-#include "foundation/trapable.h"
-#include "foundation/vornspy.h"
+#include "foundation/sistema/avisos.h"
+#include "foundation/suelo/error_interno.h"
+#include "foundation/suelo/operaciones_fichero.h"
+#include "foundation/suelo/trapable.h"
+#include "foundation/suelo/vornspy.h"
 #include <algorithm>
 #include <atomic>
 #include <chrono>

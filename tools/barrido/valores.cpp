@@ -1,6 +1,6 @@
 // The good and the bad values of each kind of parameter.
 #include "barrido.h"
-#include "foundation/tipos.h"
+#include "foundation/suelo/tipos.h"
 #include <cmath>
 #include <deque>
 #include <map>

@@ -9,16 +9,27 @@ import sys
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
 from lee_cabeceras import RAIZ, lista_de_exportaciones, sin_comentarios
 
-# Each folder of src/ and what it may include beside itself, lowest layer first. A folder that is not here is a fault.
-BASE = {"foundation"}
+# Each folder of src/, and each room of the Foundation, with what it may include beside itself, lowest layer first. A folder
+# that is not here is a fault. `platform` calls the system and takes types from `suelo`, which stands on it: one floor.
+SUELO = {"foundation/platform", "foundation/suelo"}
+NUMEROS = SUELO | {"foundation/numeros"}
+TEXTO = NUMEROS | {"foundation/texto"}
+LISTAS = TEXTO | {"foundation/listas"}
+FICHEROS = LISTAS | {"foundation/ficheros"}
+BASE = FICHEROS | {"foundation/sistema"}
 MEDIOS = BASE | {"frame"}
-ALTOS = MEDIOS | {"persistence", "units", "geometry", "time", "text"}
+GUARDADO = MEDIOS | {"units", "text"}  # a text form needs number text and text tools
+ALTOS = GUARDADO | {"geometry", "persistence", "time"}
 CAPAS = {
-    "foundation": set(),
+    "foundation/platform": {"foundation/suelo"},
+    "foundation/suelo": {"foundation/platform"},
+    "foundation/numeros": SUELO, "foundation/texto": NUMEROS, "foundation/listas": TEXTO, "foundation/ficheros": LISTAS,
+    "foundation/sistema": FICHEROS,
     "frame": BASE,
-    "persistence": MEDIOS, "geometry": MEDIOS, "text": MEDIOS,
-    "time": MEDIOS | {"persistence"},  # a date saves itself
-    "units": MEDIOS | {"time"},  # number text follows the regional data
+    "geometry": MEDIOS, "units": MEDIOS,
+    "text": MEDIOS | {"units"},
+    "persistence": GUARDADO,
+    "time": GUARDADO | {"persistence"},  # a date saves itself
     "mesh": ALTOS, "colour": ALTOS,
     "drawing": ALTOS | {"mesh", "colour"},
     "environment": ALTOS | {"mesh", "colour", "drawing"},
@@ -62,22 +73,50 @@ def es_tabla(lineas):
     return len(filas) > 0.7 * len(codigo)
 
 
+def carpeta_de(ruta):
+    """The folder of a path below src/, which is its layer: a room of the Foundation, or one of the others."""
+    partes = ruta.split("/")
+    return "/".join(partes[:2]) if partes[0] == "foundation" and len(partes) > 2 else partes[0]
+
+
+def es_publica(ruta):
+    return ruta.startswith("src/") and ruta.endswith(".h") and not ruta.endswith(("_priv.h", "_int.h")) and \
+        (not es_de_plataforma(ruta) or ruta.endswith("/plataforma.h"))
+
+
+def mira_inclusion(ruta, n, que):
+    """An include of ours in src/: down only, a folder's own header from that folder only. A public header, which a host
+    reads from anywhere, names others from where it stands; the library's own files name them from src/."""
+    carpeta = carpeta_de(ruta[4:])
+    if es_publica(ruta):
+        entera = os.path.normpath(os.path.join(os.path.dirname(ruta[4:]), que))
+        if que.endswith(("_priv.h", "_int.h")) or not os.path.exists(os.path.join(RAIZ, "src", entera)):
+            falta(ruta, n, f'"{que}": a public header includes public headers, by their place beside it')
+        que = entera
+    elif "/" not in que:
+        falta(ruta, n, f'"{que}": includes name their folder')
+        return
+    otra = carpeta_de(que)
+    if otra == carpeta:
+        return
+    if otra not in CAPAS[carpeta]:
+        falta(ruta, n, f"{carpeta} may not include {otra}: {que}")
+    elif que.endswith("_priv.h"):
+        falta(ruta, n, f"{que} is {otra}'s own: what others need stands in an _int.h")
+
+
 def mira_inclusiones(ruta, lineas, limpias):
-    carpeta = ruta.split("/")[1] if ruta.startswith("src/") else None
-    if carpeta is not None and carpeta not in CAPAS:
-        falta(ruta, 1, f"the folder {carpeta} has no row in the table of layers of {os.path.basename(__file__)}")
+    de_la_biblioteca = ruta.startswith("src/")
+    if de_la_biblioteca and carpeta_de(ruta[4:]) not in CAPAS:
+        falta(ruta, 1, f"the folder {carpeta_de(ruta[4:])} has no row in the table of layers of {os.path.basename(__file__)}")
         return
     for n, (linea, limpia) in enumerate(zip(lineas, limpias), 1):
         m = re.match(r'\s*#\s*include\s*([<"])([^>"]+)[>"]', linea)
         if m is None or not limpia.strip():
             continue
         que = m[2]
-        if m[1] == '"' and carpeta is not None:
-            otra = que.split("/")[0]
-            if "/" not in que:
-                falta(ruta, n, f'"{que}": includes name their folder')
-            elif otra != carpeta and otra not in CAPAS[carpeta]:
-                falta(ruta, n, f"{carpeta} may not include {otra}: {que}")
+        if m[1] == '"' and de_la_biblioteca:
+            mira_inclusion(ruta, n, que)
         if m[1] == "<" and not es_de_plataforma(ruta) and que not in ESTANDAR and \
                 not que.startswith(OTRAS.get(ruta.split("/")[0], ())):
             falta(ruta, n, f"<{que}>: only platform/ includes what is not a standard header")

@@ -1,7 +1,7 @@
 // A message box over the host's main window.
 #pragma once
 
-#include "foundation/tipos.h"
+#include "foundation/suelo/tipos.h"
 
 namespace vn::plat {
 

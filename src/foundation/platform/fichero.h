@@ -1,7 +1,7 @@
 // The platform's own file operations.
 #pragma once
 
-#include "foundation/operaciones_fichero.h"
+#include "foundation/suelo/operaciones_fichero.h"
 #include <string>
 #include <string_view>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "foundation/platform/directorio.h"
-#include "foundation/vnlongpath.h"
+#include "foundation/suelo/vnlongpath.h"
 
 namespace vn::plat {
 

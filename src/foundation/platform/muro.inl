@@ -1,7 +1,7 @@
 // The wall: what the library's own containers would throw for want of memory is not thrown. The linker hands those calls of
 // the library, and nobody else's, to these and to the platform's forms of operator new (vn_biblioteca), and they end where a
 // block of the tracked heap that cannot be had does.
-#include "foundation/vornspy.h"
+#include "foundation/suelo/vornspy.h"
 #include <cstdint>
 
 namespace {

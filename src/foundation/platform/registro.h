@@ -14,6 +14,6 @@ bool hay_clave_de_registro(uint32_t raiz, const texto &clave);
 bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t que_vista, std::vector<std::pair<texto, texto>> &textos);
 // Null takes the value away. False when it cannot be done.
 bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, const vnwchar *contenido);
-bool puede_escribir_registro();
+bool puede_escribir_registro(uint32_t raiz);
 
 } // namespace vn::plat

@@ -1,7 +1,7 @@
 // The process's environment variables, and the user's language.
 #pragma once
 
-#include "foundation/tipos.h"
+#include "foundation/suelo/tipos.h"
 #include <string>
 
 namespace vn::plat {

@@ -1,5 +1,5 @@
 #include "plataforma/regional.h"
-#include "foundation/vnregional.h"
+#include "foundation/sistema/vnregional.h"
 #include <algorithm>
 #include <cstdlib>
 #include <map>

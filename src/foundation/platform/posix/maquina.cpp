@@ -1,5 +1,5 @@
 #include "foundation/platform/maquina.h"
-#include "foundation/utf_priv.h"
+#include "foundation/suelo/utf_int.h"
 #include <array>
 #include <ctime>
 #include <pwd.h>

@@ -1,5 +1,5 @@
 #include "foundation/platform/posix/ruta.h"
-#include "foundation/utf_priv.h"
+#include "foundation/suelo/utf_int.h"
 #include <algorithm>
 #include <climits>
 

@@ -1,6 +1,6 @@
 #include "foundation/platform/directorio.h"
 #include "foundation/platform/win32/ruta.h"
-#include "foundation/vnlongpath.h"
+#include "foundation/suelo/vnlongpath.h"
 #include <algorithm>
 #include <shlobj.h>
 #include <windows.h>

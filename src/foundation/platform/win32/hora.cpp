@@ -1,5 +1,5 @@
 #include "foundation/platform/hora.h"
-#include "foundation/calendario_priv.h"
+#include "foundation/suelo/calendario_int.h"
 #include <windows.h>
 
 namespace vn::plat {

@@ -1,5 +1,4 @@
 #include "foundation/platform/registro.h"
-#include "foundation/vornreg.h"
 #include <windows.h>
 
 namespace vn::plat {
@@ -81,6 +80,6 @@ bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, con
     return RegSetValueExW(h.get(), valor.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE *>(contenido), bytes) == ERROR_SUCCESS;
 }
 
-bool puede_escribir_registro() { return abre(VORNREG_MAQUINA, L"Software", KEY_WRITE) != nullptr; }
+bool puede_escribir_registro(uint32_t raiz) { return abre(raiz, L"Software", KEY_WRITE) != nullptr; }
 
 } // namespace vn::plat

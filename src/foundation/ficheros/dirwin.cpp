@@ -1,0 +1,50 @@
+#define VN_MODULO "dirwin (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/ficheros/dirwin.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/ficheros/vdir_int.h"
+#include "foundation/suelo/vnlongpath.h"
+#include "foundation/suelo/vornspy.h"
+#include <algorithm>
+#include <iterator>
+#include <new>
+
+struct dirwin {
+    explicit dirwin(vn::partes p)
+        : mascara(p.nombre_con_extension()), recorrido(vn::texto(p.hasta_directorio()), true) {}
+    vn::texto mascara;
+    vn::plat::recorrido recorrido;
+};
+
+dirwin *dirwin_crea_UNICODE(const vnwchar *patron) {
+    if (!AFIRMA_NO_NULO(patron)) return nullptr;
+    vn::propio<void> sitio(vornspy_malloc(sizeof(dirwin)));
+    auto *d = new (sitio.get()) dirwin(vn::descompone(patron));
+    static_cast<void>(sitio.release());
+    return d;
+}
+
+vnbool dirwin_findnextfile_UNICODE(dirwin *d, dirwin_dato *dato) {
+    if (dato != nullptr) *dato = {};
+    if (!AFIRMA_NO_NULO(d) || !AFIRMA_NO_NULO(dato)) return FALSO;
+    for (vn::plat::ficha f; d->recorrido.siguiente(f);) {
+        if (f.nombre.size() >= std::size(dato->nombre) || !vn::casa_con(d->mascara, f.nombre)) continue;
+        std::copy(f.nombre.begin(), f.nombre.end(), dato->nombre);
+        dato->atributos = f.atributos | (f.es_directorio ? VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY : 0);
+        dato->tamanyo = f.tamanyo;
+        dato->fecha_UTC = f.fecha;
+        return CIERTO;
+    }
+    return FALSO;
+}
+
+vnbool dirwin_es_directorio_UNICODE(const dirwin_dato *dato) {
+    return AFIRMA_NO_NULO(dato) && (dato->atributos & VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY) != 0 ? CIERTO
+                                                                                                : FALSO;
+}
+
+void dirwin_destruye_UNICODE(dirwin **d) {
+    if (!AFIRMA_NO_NULO(d) || *d == nullptr) return;
+    (*d)->~dirwin();
+    vornspy_free_pp(d, 1);
+}

@@ -1,0 +1,58 @@
+#define VN_MODULO "vdir (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/ficheros/vdir.h"
+#include "foundation/ficheros/vdir_int.h"
+#include "foundation/suelo/vornspy.h"
+#include <algorithm>
+#include <memory>
+
+namespace vn {
+
+bool nombres_en(const texto &directorio, vista mascara, clase que, std::vector<texto> &nombres) {
+    plat::recorrido r(directorio, false);
+    for (plat::ficha f; r.siguiente(f);)
+        if (f.es_directorio == (que == clase::directorios) && casa_con(mascara, f.nombre))
+            nombres.push_back(f.nombre);
+    std::sort(nombres.begin(), nombres.end());
+    return r.abierto();
+}
+
+arrCADENA_u *nueva_lista(const std::vector<texto> &textos) {
+    // Held until it is whole: memory may run out.
+    struct destruye {
+        void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
+    };
+    std::unique_ptr<arrCADENA_u, destruye> a(arr_CreaCADENA_u(0));
+    for (const texto &t : textos) arr_AppendCADENA_u(a.get(), t.c_str());
+    return a.release();
+}
+
+} // namespace vn
+
+using namespace vn;
+
+namespace {
+
+vnbool lista(const vnwchar *ruta, const vnwchar *mascara, clase que, arrCADENA_u **salida) {
+    if (!AFIRMA_NO_NULO(salida)) return FALSO;
+    *salida = nullptr;
+    if (!AFIRMA_NO_NULO(ruta) || !AFIRMA_NO_NULO(mascara)) return FALSO;
+    std::vector<texto> nombres;
+    const bool leido = nombres_en(ruta, mascara, que, nombres);
+    *salida = nueva_lista(nombres);
+    return leido ? CIERTO : FALSO;
+}
+
+} // namespace
+
+vnbool vdir_lista_de_ficheros_UNICODE(const vnwchar *ruta, const vnwchar *mascara, arrCADENA_u **salida) {
+    return lista(ruta, mascara, clase::ficheros, salida);
+}
+
+vnbool vdir_lista_de_directorios_UNICODE(const vnwchar *ruta, const vnwchar *mascara, arrCADENA_u **salida) {
+    return lista(ruta, mascara, clase::directorios, salida);
+}
+
+void vdir_libera_lista_de_ficheros_UNICODE(arrCADENA_u **salida) {
+    if (AFIRMA_NO_NULO(salida) && *salida != nullptr) arr_DestruyeCADENA_u(salida);
+}

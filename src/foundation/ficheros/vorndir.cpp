@@ -1,0 +1,182 @@
+#define VN_MODULO "vorndir (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/ficheros/vorndir.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/operaciones_fichero.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/ficheros/vdir_int.h"
+#include "foundation/suelo/vornspy.h"
+#include <algorithm>
+#include <atomic>
+#include <random>
+
+namespace vn {
+namespace {
+
+// Letters and digits that no other call, in no other program, will hit upon.
+texto nombre_nuevo() {
+    static std::atomic<uint32_t> serie{0};
+    std::random_device azar;
+    uint64_t n = static_cast<uint64_t>(azar()) << 32 | (azar() + ++serie);
+    texto t = VNU("vn");
+    for (int i = 0; i < 13; ++i, n >>= 5) t += VNU("0123456789abcdefghjkmnpqrstvwxyz")[n & 31];
+    return t;
+}
+
+} // namespace
+
+bool crea_fichero_unico(const texto &directorio, vista extension, texto &ruta) {
+    const vnoperaciones_fichero &t = *operaciones_fichero_actuales();
+    for (int intentos = 0; intentos < 100; ++intentos) {
+        texto nombre = nombre_nuevo();
+        if (!extension.empty() && extension.front() != VNU('.')) nombre += VNU('.');
+        ruta = une(directorio, nombre += extension);
+        vnid_fichero id = VN_FICHERO_NINGUNO;
+        switch (t.abre(ruta.c_str(), VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_NUEVO, &id)) {
+        case VN_FICH_BIEN:
+            return t.cierra(id) == VN_FICH_BIEN;
+        case VN_FICH_YA_EXISTE:
+        case VN_FICH_INTERRUMPIDA:
+            break;
+        default:
+            return false;
+        }
+    }
+    return false;
+}
+
+} // namespace vn
+
+using namespace vn;
+
+namespace {
+
+// A path of the system's as ANSI text, which must lead to the same place.
+char *como_ansi(const texto &t) {
+    char *texto_ansi = nuevo_ansi_fiel(t);
+    return AFIRMA_DE_FICHERO(texto_ansi != nullptr, t.c_str()) ? texto_ansi : nullptr;
+}
+
+bool es_extension(vista ext) {
+    return std::none_of(ext.begin(), ext.end(), [](vnwchar c) { return es_separador(c) || c == VNU(':'); });
+}
+
+bool fichero_temporal(vista ext, texto &ruta) {
+    return AFIRMA(es_extension(ext)) && crea_fichero_unico(plat::directorio_temporal(), ext, ruta);
+}
+
+bool es_programa(const texto &ruta) { return existe_fichero(ruta) && plat::es_ejecutable(ruta); }
+
+bool busca_ejecutable(const texto &nombre, texto &hallado) {
+    const partes p = descompone(nombre);
+    if (p.nombre.empty()) return false;
+    const bool con_ruta = !p.hasta_directorio().empty();
+    const auto terminaciones = plat::terminaciones_de_programas();
+    for (const texto &d : con_ruta ? std::vector<texto>{texto()} : plat::directorios_de_programas())
+        for (const texto &t : terminaciones) {
+            // Where endings tell a program, a name without one is none.
+            if (t.empty() && terminaciones.size() > 1 && p.extension.empty()) continue;
+            hallado = une(d, nombre + t);
+            if (es_programa(hallado)) return true;
+        }
+    return false;
+}
+
+// The files that match a pattern, with their path as the pattern has it.
+bool ficheros_de(vista patron, std::vector<texto> &rutas) {
+    const partes p = descompone(patron);
+    const texto directorio(p.hasta_directorio());
+    const bool leido = nombres_en(directorio, p.nombre_con_extension(), clase::ficheros, rutas);
+    for (texto &r : rutas) r = une(directorio, r);
+    return leido;
+}
+
+} // namespace
+
+vnwchar *vorndir_dameDirectorioTemporal_UNICODE(void) { return nuevo(plat::directorio_temporal()); }
+char *vorndir_dameDirectorioTemporal(void) { return como_ansi(plat::directorio_temporal()); }
+
+vnwchar *vorndir_creaFicheroTemporalConExt_UNICODE(const vnwchar *ext) {
+    if (!AFIRMA_NO_NULO(ext)) return nullptr;
+    texto ruta;
+    return fichero_temporal(ext, ruta) ? nuevo(ruta) : nullptr;
+}
+
+char *vorndir_creaFicheroTemporalConExt(const char *ext) {
+    if (!AFIRMA_NO_NULO(ext)) return nullptr;
+    texto ruta;
+    if (!fichero_temporal(de_ansi(ext), ruta)) return nullptr;
+    char *s = nuevo_ansi_fiel(ruta);
+    if (s == nullptr) borra_fichero(ruta);
+    AFIRMA_DE_FICHERO(s != nullptr, ruta.c_str());
+    return s;
+}
+
+vnwchar *vorndir_dame_path_completo_del_programa_UNICODE(void) { return nuevo(plat::ruta_del_programa()); }
+
+vnwchar *vorndir_busca_ejecutable_del_path_UNICODE(const vnwchar *nombre) {
+    if (!AFIRMA_NO_NULO(nombre)) return nullptr;
+    texto hallado;
+    return busca_ejecutable(nombre, hallado) ? nuevo(hallado) : nullptr;
+}
+
+char *vorndir_busca_ejecutable_del_path(const char *nombre) {
+    if (!AFIRMA_NO_NULO(nombre)) return nullptr;
+    texto hallado;
+    return busca_ejecutable(de_ansi(nombre), hallado) ? como_ansi(hallado) : nullptr;
+}
+
+vnbool vorndir_lista_de_fichero_UNICODE(const vnwchar *patron, arrCADENA_u **lista) {
+    if (!AFIRMA_NO_NULO(lista)) return FALSO;
+    *lista = nullptr;
+    if (!AFIRMA_NO_NULO(patron)) return FALSO;
+    std::vector<texto> rutas;
+    const bool leido = ficheros_de(patron, rutas);
+    *lista = nueva_lista(rutas);
+    return leido ? CIERTO : FALSO;
+}
+
+vnbool vorndir_lista_de_fichero(const char *patron, arrCADENA **lista) {
+    if (!AFIRMA_NO_NULO(lista)) return FALSO;
+    *lista = nullptr;
+    if (!AFIRMA_NO_NULO(patron)) return FALSO;
+    std::vector<texto> rutas;
+    const bool leido = ficheros_de(de_ansi(patron), rutas);
+    *lista = arr_CreaCADENA(0);
+    for (const texto &r : rutas)
+        if (const propio<char> s(nuevo_ansi_fiel(r)); s != nullptr) arr_AppendCADENA(*lista, s.get());
+    return leido ? CIERTO : FALSO;
+}
+
+vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta,
+                                                                        const vnwchar *mascara,
+                                                                        arrCADENA_u **ficheros,
+                                                                        arrCADENA_u **directorios) {
+    if (ficheros != nullptr) *ficheros = nullptr;
+    if (directorios != nullptr) *directorios = nullptr;
+    if (!AFIRMA_NO_NULO(ruta) || !AFIRMA_NO_NULO(mascara)) return FALSO;
+    if (!AFIRMA_NO_NULO(ficheros) || !AFIRMA_NO_NULO(directorios)) return FALSO;
+    std::vector<texto> todos_los_ficheros, todos_los_directorios, por_visitar{ruta};
+    bool leido = true;
+    for (size_t i = 0; i < por_visitar.size(); ++i) {
+        std::vector<texto> nombres;
+        const bool este = nombres_en(por_visitar[i], mascara, clase::ficheros, nombres);
+        if (i == 0) leido = este;
+        for (const texto &n : nombres) todos_los_ficheros.push_back(une(por_visitar[i], n));
+        nombres.clear();
+        nombres_en(por_visitar[i], VNU("*"), clase::directorios, nombres);
+        for (const texto &n : nombres) {
+            todos_los_directorios.push_back(une(por_visitar[i], n));
+            if (!plat::es_enlace(todos_los_directorios.back()))
+                por_visitar.push_back(todos_los_directorios.back());
+        }
+    }
+    *ficheros = nueva_lista(todos_los_ficheros);
+    *directorios = nueva_lista(todos_los_directorios);
+    return leido ? CIERTO : FALSO;
+}
+
+void vorndir_libera_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(arrCADENA_u **ficheros,
+                                                                             arrCADENA_u **directorios) {
+    for (arrCADENA_u **lista : {ficheros, directorios})
+        if (AFIRMA_NO_NULO(lista) && *lista != nullptr) arr_DestruyeCADENA_u(lista);
+}

@@ -1,0 +1,88 @@
+#define VN_MODULO "apunorde (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/listas/apunorde.h"
+#include "foundation/listas/ordenado_priv.h"
+
+struct apunorde : vn::ordenado<void *> {
+    vnfunc_compara_con_dato comparador;
+    void *dato;
+    vnfunc_destruye destructor; // null: the elements are not the set's
+};
+
+namespace {
+
+void destruye_elemento(const apunorde *a, void *p) {
+    if (a->destructor != nullptr && p != nullptr) a->destructor(&p);
+}
+
+auto busca_elemento(const apunorde *a, const void *p) {
+    return vn::busca(a, [=](const void *e) { return a->comparador(p, e, a->dato); });
+}
+
+auto busca_clave(const apunorde *a, const void *clave, vnfunc_compara comparador) {
+    return vn::busca(a, [=](const void *e) { return comparador(clave, e); });
+}
+
+vnbool responde(const vn::sitio_ordenado<void *> &sitio, uint32_t *pos) {
+    if (pos != nullptr) *pos = sitio.pos;
+    return sitio.elemento != nullptr ? CIERTO : FALSO;
+}
+
+} // namespace
+
+apunorde *apunorde_nousar_crea(vnfunc_compara_con_dato comparador, void *dato, vnfunc_destruye destructor) {
+    if (!AFIRMA_NO_NULO(comparador)) return nullptr;
+    apunorde *a = vn::crea<apunorde>(0);
+    a->comparador = comparador;
+    a->dato = dato;
+    a->destructor = destructor;
+    return a;
+}
+
+void apunorde_nousar_destruye(apunorde **a) {
+    const auto propio = vn::toma_ordenado(a);
+    for (uint32_t i = 0; propio != nullptr && i < propio->num; ++i) destruye_elemento(propio.get(), propio->datos[i]);
+}
+
+void apunorde_nousar_inserta_original(apunorde *a, void *p, uint32_t *pos) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(p)) return;
+    // The set took it: what it does not keep is destroyed, also when memory runs out.
+    const auto destruye = [a](void *q) { destruye_elemento(a, q); };
+    std::unique_ptr<void, decltype(destruye)> propio(p, destruye);
+    const auto sitio = busca_elemento(a, p);
+    const bool existe = responde(sitio, pos) == CIERTO;
+    if (AFIRMA_TEXTO(!existe, "existe == FALSO") && vn::inserta_en(a, sitio, p)) static_cast<void>(propio.release());
+}
+
+uint32_t apunorde_nousar_numelems(const apunorde *a) { return vn::total(a); }
+
+void *apunorde_nousar_get(const apunorde *a, uint32_t i) {
+    return vn::hay_ordenado(a, i) ? vn::elemento_ordenado(a, i) : nullptr;
+}
+
+void *apunorde_nousar_quita(apunorde *a, uint32_t i) {
+    if (!vn::hay_ordenado(a, i)) return nullptr;
+    vn::asienta(a);
+    return vn::saca(a, i);
+}
+
+void *apunorde_nousar_busca(const apunorde *a, const void *clave, vnfunc_compara comparador) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return nullptr;
+    const auto sitio = busca_clave(a, clave, comparador);
+    return sitio.elemento != nullptr ? *sitio.elemento : nullptr;
+}
+
+void *apunorde_nousar_dame(const apunorde *a, const void *clave, vnfunc_compara comparador) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return nullptr;
+    const auto sitio = busca_clave(a, clave, comparador);
+    return AFIRMA_TEXTO(sitio.elemento != nullptr, "existe == CIERTO") ? *sitio.elemento : nullptr;
+}
+
+vnbool apunorde_nousar_existe(const apunorde *a, const void *clave, vnfunc_compara comparador, uint32_t *pos) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return FALSO;
+    return responde(busca_clave(a, clave, comparador), pos);
+}
+
+vnbool apunorde_nousar_existe_elemento(const apunorde *a, const void *p, uint32_t *pos) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(p)) return FALSO;
+    return responde(busca_elemento(a, p), pos);
+}

@@ -1,0 +1,59 @@
+#define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/listas/arr.h"
+#include "foundation/listas/arr_int.h"
+#include "foundation/listas/arreglo_int.h"
+
+// The operations of the plain families, one expansion a family; arr.h spells their names.
+
+namespace {
+
+template <class A>
+constexpr bool ES_LOGICO = false;
+template <>
+constexpr bool ES_LOGICO<arrBOOL> = true;
+
+template <class A>
+bool vale(typename A::elemento v) {
+    if constexpr (ES_LOGICO<A>) return AFIRMA_LOGICO(v);
+    else return true;
+}
+
+} // namespace
+
+#define FAMILIA(S, T)                                                                                                  \
+    struct arr##S : vn::arreglo<T> {};                                                                                 \
+    arr##S *arr_Crea##S(uint32_t n) { return vn::crea<arr##S>(n); }                                                    \
+    void arr_Destruye##S(arr##S **a) { vn::toma(a); }                                                                  \
+    arr##S *arr_Copia##S(const arr##S *a) { return vn::copia(a); }                                                     \
+    uint32_t arr_NumElems##S(const arr##S *a) { return vn::numelems(a); }                                              \
+    T arr_Get##S(const arr##S *a, uint32_t i) { return vn::elemento(a, i); }                                           \
+    void arr_Set##S(arr##S *a, uint32_t i, T v) {                                                                      \
+        if (vn::hay(a, i) && vale<arr##S>(v)) a->datos[i] = v;                                                         \
+    }                                                                                                                  \
+    void arr_Append##S(arr##S *a, T v) {                                                                               \
+        if (AFIRMA_NO_NULO(a) && vale<arr##S>(v)) vn::anade(a, v);                                                     \
+    }                                                                                                                  \
+    void arr_Inicializa##S(arr##S *a, T v) {                                                                           \
+        if (AFIRMA_NO_NULO(a) && vale<arr##S>(v)) vn::inicializa(a, v);                                                \
+    }                                                                                                                  \
+    void arr_Concatena##S(arr##S *a, const arr##S *b) { vn::concatena(a, b); }                                         \
+    vnbool arr_SonIguales##S(const arr##S *a, const arr##S *b) { return vn::iguales(a, b) ? CIERTO : FALSO; }          \
+    T *arr_GetBuffer##S(arr##S *a) { return vn::bloque_de(a); }                                                        \
+    const T *arr_GetBufferConst##S(const arr##S *a) { return vn::bloque_de(a); }
+
+VN_ARR_SIMPLES(FAMILIA)
+
+vnbool arr_ExisteBOOL(const arrBOOL *a, vnbool v, uint32_t *pos) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_LOGICO(v)) return FALSO;
+    return vn::existe(a, pos, 0, [v](vnbool e) { return e == v; });
+}
+
+vnbool arr_ExisteULong(const arrULong *a, uint32_t v, uint32_t desde, uint32_t *pos) {
+    if (!AFIRMA_NO_NULO(a)) return FALSO;
+    return vn::existe(a, pos, desde, [v](uint32_t e) { return e == v; });
+}
+
+void arr_nousar_RecorreChar(const arrChar *a, vnfunc_recorre_char funcion, void *datos, const char *, uint32_t) {
+    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(funcion)) return;
+    for (uint32_t i = 0; i < a->num; ++i) funcion(a->datos[i], datos);
+}

@@ -1,0 +1,43 @@
+#define VN_MODULO "avisos (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/sistema/avisos.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/sistema/entorno.h"
+#include "foundation/suelo/error_interno_int.h"
+#include "foundation/sistema/lastwin.h"
+#include "foundation/suelo/par_atomico_int.h"
+#include "foundation/platform/cuadro.h"
+
+namespace {
+
+constinit vn::par_atomico<vnreceptor_avisos> el_receptor;
+
+vnbool da(vntipo_aviso tipo, const vnwchar *texto) {
+    if (const auto receptor = el_receptor.dame(); receptor.funcion != nullptr)
+        return receptor.funcion(tipo, texto, receptor.datos);
+    if (void *ventana = lastwin_win_GetWinMain(); ventana != nullptr && tipo != VN_AVISO_DESARROLLO) {
+        const vn::plat::respuesta r = vn::plat::muestra_cuadro(ventana, texto, tipo == VN_AVISO_PREGUNTA);
+        if (r != vn::plat::respuesta::nadie) return r == vn::plat::respuesta::si ? CIERTO : FALSO;
+    }
+    vn::escribe_linea_de_error(texto);
+    return FALSO;
+}
+
+} // namespace
+
+void assert_aviso(const vnwchar *texto) {
+    if (!AFIRMA_NO_NULO(texto)) return;
+    if (env_esta_definido_ENPRUEBA() == CIERTO) da(VN_AVISO_DESARROLLO, texto);
+}
+
+void vnaviso_aviso_interno_como_error_u(const vnwchar *texto) {
+    if (AFIRMA_NO_NULO(texto)) da(VN_AVISO_ERROR, texto);
+}
+
+vnbool avisobas_pregunta_u(const vnwchar *texto) {
+    if (!AFIRMA_NO_NULO(texto)) return FALSO;
+    return da(VN_AVISO_PREGUNTA, texto) == CIERTO ? CIERTO : FALSO;
+}
+
+void avisos_instala_receptor(vnreceptor_avisos receptor, void *datos) {
+    el_receptor.pon(receptor, datos);
+}

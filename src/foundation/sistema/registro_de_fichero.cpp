@@ -1,0 +1,308 @@
+#define VN_MODULO "vornreg (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/platform/registro.h"
+#include "foundation/sistema/fichconf.h"
+#include "foundation/ficheros/lc_fichero.h"
+#include "foundation/suelo/operaciones_fichero_int.h"
+#include "foundation/platform/maquina.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/ficheros/temporal_int.h"
+#include "foundation/suelo/trapable.h"
+#include "foundation/texto/numero_int.h"
+#include "foundation/suelo/utf_int.h"
+#include "foundation/ficheros/vdir.h"
+#include "foundation/sistema/vnmutex.h"
+#include "foundation/sistema/vornreg.h"
+#include "foundation/texto/widestr.h"
+#include <map>
+#include <memory>
+
+// The file: lines "[root\key\key]", each followed by its "name=text". UTF-8; "\\" is a backslash, and "\" with four
+// hexadecimal digits a unit that has no place in a line of text or that says something in it.
+
+namespace vn::plat {
+namespace {
+
+constexpr uint64_t MAXIMO = 16 * 1024 * 1024;
+
+// Without regard to case, in the order of the upper-case letters.
+struct sin_caja {
+    bool operator()(const texto &a, const texto &b) const {
+        const auto mayuscula = [](vnwchar c) { return widestr_convertir_caracter_a_mayusculas(c); };
+        for (size_t i = 0; i < a.size() && i < b.size(); ++i)
+            if (const vnwchar x = mayuscula(a[i]), y = mayuscula(b[i]); x != y) return x < y;
+        return a.size() < b.size();
+    }
+    bool iguales(const texto &a, const texto &b) const { return !(*this)(a, b) && !(*this)(b, a); }
+};
+using valores = std::map<texto, texto, sin_caja>;
+using claves = std::map<texto, valores, sin_caja>;
+
+texto con_raiz(uint32_t raiz, const texto &clave) {
+    texto t(1, static_cast<vnwchar>(u'0' + raiz));
+    return clave.empty() ? t : (t + u'\\') + clave;
+}
+
+// What the machine itself says.
+struct fila {
+    uint32_t raiz;
+    const vnwchar *clave, *valor;
+    texto (*contenido)();
+};
+constexpr fila PROPIAS[] = {
+    {VORNREG_CLASES, u"CLSID\\{20D04FE0-3AEA-1069-A2D8-08002B30309D}", u"", nombre_de_la_maquina},
+};
+
+// ---------------------------------------------------------------- the text of the file
+
+bool se_escapa(uint32_t c, bool nombre) {
+    return c < 32 || c == 127 || (c >= 0xD800 && c < 0xE000) || (nombre && (c == u'=' || c == u'[' || c == u';'));
+}
+
+void escribe(std::string &s, const texto &t, bool nombre) {
+    constexpr char CIFRAS[] = "0123456789ABCDEF";
+    for (size_t i = 0; i < t.size();) {
+        const uint32_t c = lee_utf16(t, i);
+        char u[4];
+        if (c == u'\\') s += "\\\\";
+        else if (!se_escapa(c, nombre)) s.append(u, escribe_utf8(c, u));
+        else {
+            s += '\\';
+            for (int k = 12; k >= 0; k -= 4) s += CIFRAS[c >> k & 15];
+        }
+    }
+}
+
+// Wide text of a piece of a line; `escapes`: with what escribe() writes.
+texto lee(std::string_view s, bool escapes) {
+    texto t;
+    for (size_t i = 0; i < s.size();) {
+        uint32_t c = 0;
+        if (!lee_utf8(s, i, c)) c = REEMPLAZO;
+        if (escapes && c == u'\\' && i < s.size()) {
+            c = 0;
+            if (s[i] == '\\') c = static_cast<unsigned char>(s[i++]);
+            else
+                for (int k = 0; k < 4 && i < s.size() && cifra_hexadecimal(static_cast<unsigned char>(s[i])) < 16; ++k)
+                    c = c << 4 | cifra_hexadecimal(static_cast<unsigned char>(s[i++]));
+        }
+        if (c == 0) continue; // no text holds it
+        vnwchar par[2];
+        if (c >= 0xD800 && c < 0xE000) t += static_cast<vnwchar>(c);
+        else t.append(par, escribe_utf16(c, par));
+    }
+    return t;
+}
+
+// Names with one backslash between two.
+bool es_camino(const texto &clave) {
+    return !clave.empty() && clave.front() != u'\\' && clave.back() != u'\\' && clave.find(u"\\\\") == texto::npos;
+}
+
+// Takes the next line off the text, as it stands; `linea` is without its end.
+std::string_view toma_linea(std::string_view &s, std::string_view &linea) {
+    const std::string_view tal_cual = s.substr(0, std::min(s.find('\n'), s.size() - 1) + 1);
+    s.remove_prefix(tal_cual.size());
+    linea = tal_cual;
+    for (const char c : {'\n', '\r'})
+        if (linea.ends_with(c)) linea.remove_suffix(1);
+    return tal_cual;
+}
+
+bool es_cabecera(std::string_view linea, texto &clave) {
+    if (!linea.starts_with('[') || !linea.ends_with(']')) return false;
+    clave = lee(linea.substr(1, linea.size() - 2), false);
+    return true;
+}
+
+bool es_asignacion(std::string_view linea, texto &nombre, std::string_view &contenido) {
+    const size_t igual = linea.find('=');
+    if (igual == std::string_view::npos || linea[0] == ';') return false;
+    nombre = lee(linea.substr(0, igual), true);
+    contenido = linea.substr(igual + 1);
+    return true;
+}
+
+constexpr std::string_view MARCA_DE_ORDEN = "\xEF\xBB\xBF";
+
+claves interpreta(std::string_view s) {
+    claves todas;
+    valores *actual = nullptr;
+    if (s.starts_with(MARCA_DE_ORDEN)) s.remove_prefix(MARCA_DE_ORDEN.size());
+    while (!s.empty()) {
+        std::string_view linea, contenido;
+        texto t;
+        toma_linea(s, linea);
+        if (es_cabecera(linea, t)) actual = es_camino(t) ? &todas[t] : nullptr;
+        else if (actual != nullptr && es_asignacion(linea, t, contenido)) (*actual)[t] = lee(contenido, true);
+    }
+    return todas;
+}
+
+// The text with a value set or, if null, gone. All else stays as somebody wrote it, comments too.
+std::string con_valor(std::string_view s, const texto &clave, const texto &valor, const vnwchar *contenido, bool esta) {
+    std::string nuevo, linea_nueva;
+    if (contenido != nullptr) {
+        escribe(linea_nueva, valor, true);
+        linea_nueva += '=';
+        escribe(linea_nueva, contenido, false);
+        linea_nueva += '\n';
+    }
+    const auto pon = [&] { nuevo += std::exchange(linea_nueva, {}); };
+    if (s.starts_with(MARCA_DE_ORDEN)) s.remove_prefix(MARCA_DE_ORDEN.size());
+    for (bool en_la_clave = false; !s.empty();) {
+        std::string_view linea, nada;
+        texto t;
+        const std::string_view tal_cual = toma_linea(s, linea);
+        const bool cabecera = es_cabecera(linea, t);
+        if (cabecera) en_la_clave = sin_caja().iguales(t, clave);
+        if (!cabecera && en_la_clave && es_asignacion(linea, t, nada) && sin_caja().iguales(t, valor)) {
+            pon();
+            continue;
+        }
+        nuevo += tal_cual;
+        if (!tal_cual.ends_with('\n')) nuevo += '\n';
+        if (cabecera && en_la_clave && !esta) pon();
+    }
+    if (linea_nueva.empty()) return nuevo;
+    nuevo += '[';
+    for (size_t i = 0; i < clave.size();) {
+        char u[4];
+        nuevo.append(u, escribe_utf8(lee_utf16(clave, i), u));
+    }
+    nuevo += "]\n";
+    pon();
+    return nuevo;
+}
+
+// ---------------------------------------------------------------- the file
+
+propio<vnwchar> ruta_del_fichero() {
+    return propio<vnwchar>(fichconf_dame_ruta_fichero_en_directorio_configuracion(u"registro.txt"));
+}
+
+// False when the file is there and cannot be read: then it is not to be written either.
+bool carga(const vnwchar *ruta, std::string &datos) {
+    vnestado_fichero estado{};
+    const vnerror_fichero e = operaciones().estado(ruta, &estado);
+    if (e == VN_FICH_NO_EXISTE) return true;
+    if (e != VN_FICH_BIEN || estado.es_normal != CIERTO || estado.tamanyo > MAXIMO) return false;
+    vnid_fichero id = VN_FICHERO_NINGUNO;
+    if (con_paciencia(UNA_DECIMA, [&] { return operaciones().abre(ruta, VN_ABRE_LECTURA, &id); }) != VN_FICH_BIEN) return false;
+    datos.resize(static_cast<size_t>(estado.tamanyo));
+    size_t leidos = 0;
+    const bool bien = lee_todo(id, 0, datos.data(), datos.size(), &leidos) == VN_FICH_BIEN;
+    operaciones().cierra(id);
+    datos.resize(bien ? leidos : 0);
+    return bien;
+}
+
+// The file with what the machine says; what the file says goes first.
+claves todas_las_claves() {
+    std::string datos;
+    if (const auto ruta = ruta_del_fichero()) carga(ruta.get(), datos);
+    claves todas = interpreta(datos);
+    for (const fila &f : PROPIAS) todas[con_raiz(f.raiz, f.clave)].emplace(f.valor, f.contenido());
+    return todas;
+}
+
+struct grabacion {
+    const vnwchar *ruta;
+    std::string datos;
+    bool hecha;
+};
+
+// Runs inside a trap: a file that cannot be written stays as it was.
+void graba(grabacion *g) {
+    vdir_crea_directorios_fichero_si_es_posible_UNICODE(g->ruta);
+    temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(g->ruta));
+    if (f == nullptr) return;
+    lc_fwrite(g->datos.data(), 1, g->datos.size(), f.get());
+    g->hecha = vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), g->ruta) == CIERTO;
+}
+
+class entre_programas {
+  public:
+    entre_programas()
+        : mutex_(vnmutex_crea_entre_aplicaciones("vornreg")), dentro_(vnmutex_entra(mutex_.get()) == CIERTO) {}
+    bool dentro() const { return dentro_; }
+
+  private:
+    struct sale {
+        void operator()(vnmutex *m) const { vnmutex_destruye_saliendo(&m); }
+    };
+    std::unique_ptr<vnmutex, sale> mutex_;
+    bool dentro_;
+};
+
+bool es_clave(const texto &clave) {
+    for (size_t i = 0; i < clave.size();)
+        if (const uint32_t c = lee_utf16(clave, i); se_escapa(c, false)) return false;
+    return es_camino(clave);
+}
+
+// Whether `otra` lies under `clave`.
+bool esta_debajo(const texto &clave, const texto &otra) {
+    return otra.size() > clave.size() && otra[clave.size()] == u'\\' && sin_caja().iguales(otra.substr(0, clave.size()), clave);
+}
+
+} // namespace
+
+bool lee_registro(uint32_t raiz, const texto &clave, const texto &valor, texto &contenido) {
+    const claves todas = todas_las_claves();
+    const auto c = todas.find(con_raiz(raiz, clave));
+    if (c == todas.end()) return false;
+    const auto v = c->second.find(valor);
+    if (v == c->second.end()) return false;
+    contenido = v->second;
+    return true;
+}
+
+bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto> &nombres) {
+    const texto entera = con_raiz(raiz, clave);
+    bool hay = clave.empty();
+    std::map<texto, bool, sin_caja> vistos;
+    for (const auto &[otra, suyos] : todas_las_claves()) {
+        const bool debajo = esta_debajo(entera, otra);
+        hay = hay || debajo || sin_caja().iguales(otra, entera);
+        if (debajo) vistos.emplace(otra.substr(entera.size() + 1, otra.find(u'\\', entera.size() + 1) - entera.size() - 1), true);
+    }
+    for (const auto &[nombre, visto] : vistos) nombres.push_back(nombre);
+    return hay;
+}
+
+bool hay_clave_de_registro(uint32_t raiz, const texto &clave) {
+    std::vector<texto> nombres;
+    return subclaves_de_registro(raiz, clave, nombres);
+}
+
+bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t, std::vector<std::pair<texto, texto>> &textos) {
+    const claves todas = todas_las_claves();
+    if (const auto c = todas.find(con_raiz(raiz, clave)); c != todas.end()) {
+        textos.assign(c->second.begin(), c->second.end());
+        return true;
+    }
+    return hay_clave_de_registro(raiz, clave);
+}
+
+bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, const vnwchar *contenido) {
+    const auto ruta = ruta_del_fichero();
+    if (ruta == nullptr || !es_clave(clave)) return false;
+    const entre_programas turno;
+    std::string datos;
+    if (!turno.dentro() || !carga(ruta.get(), datos)) return false;
+    const texto entera = con_raiz(raiz, clave);
+    const claves todas = interpreta(datos);
+    const auto suya = todas.find(entera);
+    const bool esta = suya != todas.end() && suya->second.contains(valor);
+    if (contenido == nullptr && !esta) return true;
+    grabacion g{ruta.get(), con_valor(datos, entera, valor, contenido, esta), false};
+    return g.datos.size() <= MAXIMO && trapable_ejecuta_funcion_segura(grabacion, graba, &g, nullptr) == CIERTO && g.hecha;
+}
+
+bool puede_escribir_registro(uint32_t) {
+    const auto ruta = ruta_del_fichero();
+    return ruta != nullptr && vdir_crea_directorios_fichero_si_es_posible_UNICODE(ruta.get()) == CIERTO &&
+           vdir_se_puede_escribir_UNICODE(ruta.get()) == CIERTO;
+}
+
+} // namespace vn::plat

@@ -1,0 +1,317 @@
+#define VN_MODULO "vnregional (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/sistema/vnregional.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/calendario_int.h"
+#include "foundation/suelo/eterno_int.h"
+#include "foundation/platform/maquina.h"
+#include "foundation/platform/regional.h"
+#include "foundation/ficheros/vdir_int.h"
+#include <algorithm>
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <utility>
+
+using vn::texto;
+using vn::vista;
+using vn::plat::region;
+
+namespace {
+
+// ---------------------------------------------------------------- the settings in force
+
+constexpr uint64_t VALE_MILISEGUNDOS = 500;
+
+struct vigente {
+    std::mutex cerrojo; // guards what follows
+    std::shared_ptr<const region> suya;
+    std::string origen;
+};
+
+// What number text asks, and until when it holds: read without the lock. A reader may see the one before the change of
+// the other, which is then another reading of the same moment.
+constinit std::atomic<uint32_t> separadores{0};
+constinit std::atomic<uint64_t> caduca{0};
+
+// One character of the ANSI pages for the narrow blanks and the sign that newer tables have; a plain blank in a time.
+void llano(texto &t, vnwchar blanco) {
+    for (vnwchar &c : t) {
+        if (c == 0x202F || c == 0x2009 || (c == 0xA0 && blanco == VNU(' '))) c = blanco;
+        else if (c == 0x2212) c = VNU('-');
+    }
+}
+
+void allana(region &r) {
+    for (texto region::*t : {&region::separador_campos, &region::separador_decimal, &region::separador_millares,
+                             &region::separador_fechas, &region::separador_horas, &region::fecha_corta, &region::fecha_larga,
+                             &region::signo_menos, &region::antes_de_mediodia, &region::despues_de_mediodia, &region::era})
+        llano(r.*t, 0xA0);
+    llano(r.hora, VNU(' '));
+}
+
+vnwchar primero(const texto &t) { return t.empty() ? vnwchar{0} : t[0]; }
+
+// Makes a region the one in force; the caller holds the lock.
+void pon(vigente &v, std::shared_ptr<region> r, std::string origen) {
+    allana(*r);
+    separadores = static_cast<uint32_t>(static_cast<uint16_t>(primero(r->separador_decimal))) << 16 |
+                  static_cast<uint16_t>(primero(r->separador_millares));
+    v.suya = std::move(r);
+    v.origen = std::move(origen);
+}
+
+std::shared_ptr<const region> la_region() {
+    vigente &v = vn::eterno<vigente>();
+    const std::lock_guard guarda(v.cerrojo);
+    const uint64_t ahora = vn::plat::milisegundos_de_la_maquina();
+    if (v.suya != nullptr && ahora < caduca) return v.suya;
+    std::string origen = vn::plat::origen_de_la_region();
+    if (v.suya == nullptr || origen.empty() || origen != v.origen) {
+        auto r = std::make_shared<region>();
+        if (vn::plat::lee_region(nullptr, *r) || v.suya == nullptr) pon(v, std::move(r), std::move(origen));
+    }
+    caduca = ahora + VALE_MILISEGUNDOS;
+    return v.suya;
+}
+
+// ---------------------------------------------------------------- items
+
+struct fila {
+    uint32_t numero;
+    texto region::*campo;
+};
+constexpr fila DATOS[] = {
+    {VNREGIONAL_SEPARADOR_CAMPOS, &region::separador_campos},
+    {VNREGIONAL_SEPARADOR_DECIMAL, &region::separador_decimal},
+    {VNREGIONAL_SEPARADOR_MILLARES, &region::separador_millares},
+    {VNREGIONAL_SEPARADOR_FECHAS, &region::separador_fechas},
+    {VNREGIONAL_SEPARADOR_HORAS, &region::separador_horas},
+    {VNREGIONAL_FECHA_CORTA, &region::fecha_corta},
+    {VNREGIONAL_FECHA_LARGA, &region::fecha_larga},
+    {VNREGIONAL_ORDEN_FECHA, &region::orden_fecha},
+    {VNREGIONAL_MODO_HORARIO, &region::modo_horario},
+    {VNREGIONAL_HORA, &region::hora},
+};
+
+const texto *dato(const region &r, uint32_t numero) {
+    for (const fila &f : DATOS)
+        if (f.numero == numero) return &(r.*f.campo);
+    // Monday comes first by number.
+    if (numero - VNREGIONAL_NOMBRE_DIA < 7) return &r.dias[(numero - VNREGIONAL_NOMBRE_DIA + 1) % 7];
+    if (numero - VNREGIONAL_NOMBRE_DIA_ABREVIADO < 7)
+        return &r.dias_abreviados[(numero - VNREGIONAL_NOMBRE_DIA_ABREVIADO + 1) % 7];
+    return nullptr;
+}
+
+// ---------------------------------------------------------------- pictures
+
+struct momento {
+    int32_t dia, mes, anyo, dia_semana; // month from 1, days from Sunday
+    int32_t hora, minuto, segundo;
+};
+
+void pon_numero(texto &t, int32_t n, size_t cifras) {
+    texto s;
+    for (; n > 0 || s.size() < cifras; n /= 10) s.insert(s.begin(), static_cast<vnwchar>(VNU('0') + n % 10));
+    t += s;
+}
+
+// Calls `cita` with each piece of plain text of a picture and `campo` with each run of one letter of `letras`.
+template <class C, class F> void recorre(vista modelo, vista letras, C cita, F campo) {
+    for (size_t i = 0; i < modelo.size();) {
+        const vnwchar c = modelo[i];
+        if (c == VNU('\'')) {
+            // Two quotes inside quotes are one of the text.
+            for (++i; i < modelo.size(); ++i) {
+                if (modelo[i] == VNU('\'') && (i + 1 >= modelo.size() || modelo[i + 1] != VNU('\''))) break;
+                if (modelo[i] == VNU('\'')) ++i;
+                cita(modelo.substr(i, 1));
+            }
+            ++i;
+        } else if (letras.find(c) != vista::npos) {
+            const size_t fin = std::min(modelo.find_first_not_of(c, i), modelo.size());
+            campo(c, fin - i);
+            i = fin;
+        } else {
+            cita(modelo.substr(i++, 1));
+        }
+    }
+}
+
+texto pinta_fecha(const region &r, const momento &m, vista modelo) {
+    constexpr const vnwchar *LETRAS = VNU("dMyg");
+    bool con_dia = false; // of the month: its name has another form then in some languages
+    recorre(modelo, LETRAS, [](vista) {}, [&](vnwchar c, size_t n) { con_dia = con_dia || (c == VNU('d') && n < 3); });
+    const auto dia = static_cast<size_t>(m.dia_semana), mes = static_cast<size_t>(m.mes - 1);
+    texto t;
+    const auto campo = [&](vnwchar c, size_t n) {
+        if (c == VNU('g')) t += r.era;
+        else if (c == VNU('d') && n > 2) t += (n > 3 ? r.dias_en_fecha : r.dias_abreviados_en_fecha)[dia];
+        else if (c == VNU('M') && n > 2) t += (n == 3 ? r.meses_abreviados : con_dia ? r.meses_en_fecha : r.meses)[mes];
+        else if (c == VNU('y')) pon_numero(t, n > 2 ? m.anyo : m.anyo % 100, n);
+        else pon_numero(t, c == VNU('d') ? m.dia : m.mes, n);
+    };
+    // A year has as many digits as it needs, and a run of y no more than four.
+    recorre(modelo, LETRAS, [&](vista s) { t += s; },
+            [&](vnwchar c, size_t n) { campo(c, c == VNU('y') ? std::min<size_t>(n, 4) : n); });
+    return t;
+}
+
+// Without seconds, the text on both sides of them goes too, but for the blanks before what follows.
+texto pinta_hora(const region &r, const momento &m, bool con_segundos) {
+    texto t, blancos;
+    size_t ultimo = 0; // where the last field ended
+    bool sin_segundos = false;
+    const auto campo = [&](vnwchar c, size_t n) {
+        if (c == VNU('s') && !con_segundos) {
+            t.resize(ultimo);
+            sin_segundos = true;
+            return;
+        }
+        if (std::exchange(sin_segundos, false)) t += blancos;
+        const texto &mitad = m.hora < 12 ? r.antes_de_mediodia : r.despues_de_mediodia;
+        const int32_t valor = c == VNU('H') ? m.hora : c == VNU('h') ? (m.hora + 11) % 12 + 1 : c == VNU('m') ? m.minuto : m.segundo;
+        if (c == VNU('t')) t += n == 1 ? mitad.substr(0, 1) : mitad;
+        else pon_numero(t, valor, n > 1 ? 2 : 1);
+        ultimo = t.size();
+    };
+    recorre(r.hora, VNU("hHmst"), [&](vista s) {
+        if (!sin_segundos) t += s;
+        else if (s == vista(VNU(" "))) blancos += s;
+    }, campo);
+    return t;
+}
+
+bool es_fecha(int32_t dia, int32_t mes, int32_t anyo) {
+    return anyo >= 1601 && anyo <= 9999 && mes >= 1 && mes <= 12 && dia >= 1 &&
+           dia <= vn::dias_del_mes(static_cast<uint32_t>(mes - 1), anyo);
+}
+
+int32_t dia_de_la_semana(int32_t dia, int32_t mes, int32_t anyo) {
+    return vn::semana_de(vn::dias_de(anyo, static_cast<uint32_t>(mes - 1), dia));
+}
+
+// ---------------------------------------------------------------- numbers
+
+bool es_cifra(vnwchar c) { return c >= VNU('0') && c <= VNU('9'); }
+
+// A sign, digits, and decimals behind a point; false if the text is anything else.
+struct numero {
+    bool negativo = false;
+    texto entera, decimal;
+
+    bool lee(vista s) {
+        negativo = !s.empty() && s[0] == VNU('-');
+        if (negativo) s.remove_prefix(1);
+        const size_t punto = s.find(VNU('.'));
+        entera = s.substr(0, punto);
+        decimal = punto == vista::npos ? vista() : s.substr(punto + 1);
+        for (const texto &t : {entera, decimal})
+            for (const vnwchar c : t)
+                if (!es_cifra(c)) return false;
+        entera.erase(0, entera.find_first_not_of(VNU('0'))); // all of it, of zeros
+        return s.size() > (punto == vista::npos ? 0u : 1u);
+    }
+
+    // To so many decimals, halves away from zero.
+    void redondea(size_t cifras) {
+        const bool sube = decimal.size() > cifras && decimal[cifras] >= VNU('5');
+        decimal.resize(cifras, VNU('0'));
+        if (!sube) return;
+        for (texto *t : {&decimal, &entera})
+            for (size_t i = t->size(); i-- > 0; (*t)[i] = VNU('0'))
+                if ((*t)[i] != VNU('9')) {
+                    ++(*t)[i];
+                    return;
+                }
+        entera.insert(entera.begin(), VNU('1'));
+    }
+
+    texto agrupada(vista grupos, const texto &separador) const {
+        texto t = entera;
+        size_t en = t.size(), cuantas = 0;
+        for (size_t i = 0; i < grupos.size() && es_cifra(grupos[i]); i += 2) {
+            // A zero at the end: the one before it again and again; without it what is left is one group.
+            const bool repite = grupos[i] == VNU('0');
+            if (!repite) cuantas = static_cast<size_t>(grupos[i] - VNU('0'));
+            if (cuantas == 0) break;
+            while (en > cuantas) {
+                en -= cuantas;
+                t.insert(en, separador);
+                if (!repite) break;
+            }
+        }
+        return t;
+    }
+};
+
+// How a negative number is written, by the system's number of the form: n the number, - the sign.
+constexpr const vnwchar *FORMAS_NEGATIVAS[] = {VNU("(n)"), VNU("-n"), VNU("- n"), VNU("n-"), VNU("n -")};
+
+uint32_t cifra(const texto &t) { return t.empty() || !es_cifra(t[0]) ? 0 : static_cast<uint32_t>(t[0] - VNU('0')); }
+
+texto pinta_numero(const region &r, const numero &n) {
+    texto t = n.agrupada(r.agrupacion, r.separador_millares);
+    if (t.empty() && (r.cero_inicial != VNU("0") || n.decimal.empty())) t = VNU("0");
+    if (!n.decimal.empty()) (t += r.separador_decimal) += n.decimal;
+    if (!n.negativo) return t;
+    texto con_signo;
+    const uint32_t forma = r.forma_negativa.empty() ? 1 : cifra(r.forma_negativa);
+    for (const vnwchar c : vista(FORMAS_NEGATIVAS[forma < 5 ? forma : 1])) {
+        if (c == VNU('n')) con_signo += t;
+        else if (c == VNU('-')) con_signo += r.signo_menos;
+        else con_signo += c;
+    }
+    return con_signo;
+}
+
+} // namespace
+
+vnwchar *vnregional_dato_u(uint32_t numero) {
+    const auto r = la_region();
+    const texto *t = dato(*r, numero);
+    return t != nullptr ? vn::nuevo(*t) : nullptr;
+}
+
+void vnregional_separadores(vnwchar *decimal, vnwchar *millares) {
+    if (!AFIRMA_NO_NULO(decimal) || !AFIRMA_NO_NULO(millares)) return;
+    if (vn::plat::milisegundos_de_la_maquina() >= caduca.load(std::memory_order_acquire)) la_region();
+    const uint32_t los_dos = separadores.load(std::memory_order_relaxed);
+    *decimal = static_cast<vnwchar>(los_dos >> 16);
+    *millares = static_cast<vnwchar>(los_dos & 0xFFFF);
+}
+
+vnwchar *vnregional_fecha_u(int32_t dia, int32_t mes, int32_t anyo, const vnwchar *modelo, vnbool larga) {
+    if (!AFIRMA_LOGICO(larga) || !es_fecha(dia, mes, anyo)) return nullptr;
+    const auto r = la_region();
+    const vista el_modelo = modelo != nullptr ? vista(modelo) : larga == CIERTO ? vista(r->fecha_larga) : vista(r->fecha_corta);
+    return vn::nuevo(pinta_fecha(*r, {dia, mes, anyo, dia_de_la_semana(dia, mes, anyo), 0, 0, 0}, el_modelo));
+}
+
+vnwchar *vnregional_hora_u(int32_t hora, int32_t minuto, int32_t segundo, vnbool con_segundos) {
+    if (!AFIRMA_LOGICO(con_segundos)) return nullptr;
+    if (hora < 0 || hora > 23 || minuto < 0 || minuto > 59 || segundo < 0 || segundo > 59) return nullptr;
+    const auto r = la_region();
+    return vn::nuevo(pinta_hora(*r, {1, 2, 1980, 5, hora, minuto, segundo}, con_segundos == CIERTO));
+}
+
+vnwchar *vnregional_numero_u(const vnwchar *numero, uint32_t maximo) {
+    if (!AFIRMA_NO_NULO(numero)) return nullptr;
+    struct numero n;
+    if (vista(numero).size() >= maximo || !n.lee(numero)) return nullptr;
+    const auto r = la_region();
+    n.redondea(cifra(r->decimales));
+    const texto t = pinta_numero(*r, n);
+    return t.size() < maximo ? vn::nuevo(t) : nullptr;
+}
+
+vnbool vnregional_establece(const char *nombre) {
+    vigente &v = vn::eterno<vigente>();
+    auto r = std::make_shared<region>();
+    if (nombre != nullptr && !vn::plat::lee_region(nombre, *r)) return FALSO;
+    const std::lock_guard guarda(v.cerrojo);
+    if (nombre != nullptr) pon(v, std::move(r), "");
+    else v.suya = nullptr;
+    caduca = nombre != nullptr ? UINT64_MAX : 0;
+    return CIERTO;
+}

@@ -1,0 +1,106 @@
+#define VN_MODULO "vornreg (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/sistema/vornreg.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/listas/arr.h"
+#include "foundation/platform/registro.h"
+#include "foundation/texto/unicode.h"
+#include "foundation/ficheros/vdir_int.h"
+#include <algorithm>
+#include <memory>
+
+using vn::texto;
+
+namespace {
+
+constexpr uint32_t ULTIMA_RAIZ = VORNREG_USUARIOS, ULTIMA_VISTA = VORNREG_VISTA_64;
+
+struct destruye_lista {
+    void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
+};
+using lista_propia = std::unique_ptr<arrCADENA_u, destruye_lista>;
+
+// A key without backslashes at its ends.
+texto limpia(vn::vista clave) {
+    const size_t i = clave.find_first_not_of(VNU('\\'));
+    return i == vn::vista::npos ? texto() : texto(clave.substr(i, clave.find_last_not_of(VNU('\\')) - i + 1));
+}
+
+// The subkeys of a key as a new array; null if there is no such key.
+arrCADENA_u *subclaves(uint32_t raiz, const texto &clave) {
+    std::vector<texto> nombres;
+    if (!vn::plat::subclaves_de_registro(raiz, limpia(clave), nombres)) return nullptr;
+    std::sort(nombres.begin(), nombres.end());
+    return vn::nueva_lista(nombres);
+}
+
+} // namespace
+
+vnbool vornreg_lee_cadena_u(uint32_t raiz, const vnwchar *clave, const vnwchar *valor, vnwchar **el_texto) {
+    if (!AFIRMA_TEXTO(el_texto != nullptr, "(texto) != NULL")) return FALSO;
+    *el_texto = nullptr;
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    texto contenido;
+    if (!vn::plat::lee_registro(raiz, limpia(clave), valor, contenido)) return FALSO;
+    *el_texto = vn::nuevo(contenido);
+    return CIERTO;
+}
+
+vnbool vornreg_lee_cadena(uint32_t raiz, const char *clave, const char *valor, char **el_texto) {
+    if (!AFIRMA_TEXTO(el_texto != nullptr, "(texto) != NULL")) return FALSO;
+    *el_texto = nullptr;
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    texto contenido;
+    if (!vn::plat::lee_registro(raiz, limpia(vn::de_ansi(clave)), vn::de_ansi(valor), contenido)) return FALSO;
+    *el_texto = vn::nuevo_ansi(contenido);
+    return CIERTO;
+}
+
+vnbool vornreg_dame_subclaves_u(uint32_t raiz, const vnwchar *clave, arrCADENA_u **lista) {
+    if (!AFIRMA_NO_NULO(lista)) return FALSO;
+    *lista = nullptr;
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave)) return FALSO;
+    *lista = subclaves(raiz, clave);
+    return *lista != nullptr ? CIERTO : FALSO;
+}
+
+vnbool vornreg_dame_subclaves(uint32_t raiz, const char *clave, arrCADENA **lista) {
+    if (!AFIRMA_NO_NULO(lista)) return FALSO;
+    *lista = nullptr;
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave)) return FALSO;
+    const lista_propia ancha(subclaves(raiz, vn::de_ansi(clave)));
+    if (ancha == nullptr) return FALSO;
+    *lista = utunicode_cadenas_UNICODE_a_ANSI(ancha.get());
+    return CIERTO;
+}
+
+vnbool vornreg_existe_clave_u(uint32_t raiz, const vnwchar *clave) {
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave)) return FALSO;
+    return vn::plat::hay_clave_de_registro(raiz, limpia(clave)) ? CIERTO : FALSO;
+}
+
+vnbool vornreg_lee_valores_cadena_clave_ex_u(uint32_t raiz, const vnwchar *clave, uint32_t vista, arrCADENA_u **nombres,
+                                             arrCADENA_u **textos) {
+    if (nombres != nullptr) *nombres = nullptr;
+    if (textos != nullptr) *textos = nullptr;
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA(vista <= ULTIMA_VISTA) ||
+        !AFIRMA_NO_NULO(nombres) || !AFIRMA_NO_NULO(textos))
+        return FALSO;
+    std::vector<std::pair<texto, texto>> pares;
+    if (!vn::plat::textos_de_registro(raiz, limpia(clave), vista, pares)) return FALSO;
+    std::sort(pares.begin(), pares.end());
+    lista_propia n(arr_CreaCADENA_u(0)), t(arr_CreaCADENA_u(0));
+    for (const auto &[nombre, contenido] : pares) {
+        arr_AppendCADENA_u(n.get(), nombre.c_str());
+        arr_AppendCADENA_u(t.get(), contenido.c_str());
+    }
+    *nombres = n.release();
+    *textos = t.release();
+    return CIERTO;
+}
+
+vnbool vornreg_establece_cadena_u(uint32_t raiz, const vnwchar *clave, const vnwchar *valor, const vnwchar *contenido) {
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    return vn::plat::escribe_registro(raiz, limpia(clave), valor, contenido) ? CIERTO : FALSO;
+}
+
+vnbool vornreg_tiene_permisos_escribir_en_registro(void) { return vn::plat::puede_escribir_registro(VORNREG_MAQUINA) ? CIERTO : FALSO; }

@@ -1,0 +1,31 @@
+#define VN_MODULO "callback (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/suelo/callback.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/propio_int.h"
+
+struct vncallback {
+    vnfunc_callback funcion;
+    vnparametros *parametros;
+};
+
+vncallback *callback_nousar_crea(vnfunc_callback funcion, vnparametros *parametros) {
+    vn::propio<vnparametros> suyos(parametros); // whatever happens from here on
+    if (!AFIRMA_NO_NULO(funcion)) return nullptr;
+    auto *c = static_cast<vncallback *>(vornspy_malloc(sizeof(vncallback)));
+    *c = {funcion, suyos.release()};
+    return c;
+}
+
+void callback_nousar_lanza_void(vncallback *c) {
+    if (AFIRMA_NO_NULO(c)) c->funcion(c->parametros, nullptr);
+}
+
+void callback_nousar_lanza_void_dato(vncallback *c, void *dato) {
+    if (AFIRMA_NO_NULO(c)) c->funcion(c->parametros, dato);
+}
+
+void callback_nousar_destruye(vncallback **c) {
+    if (!AFIRMA_NO_NULO(c) || !AFIRMA_TEXTO(*c != nullptr, "(*c) != NULL")) return;
+    if ((*c)->parametros != nullptr) vornspy_destruye_parametros(&(*c)->parametros);
+    vornspy_free_pp(c, sizeof(vncallback));
+}

@@ -1,0 +1,10 @@
+// A condition of this language as the truth value of the interface.
+#pragma once
+
+#include "foundation/suelo/tipos.h"
+
+namespace vn {
+
+constexpr vnbool logico(bool v) { return v ? CIERTO : FALSO; }
+
+} // namespace vn

@@ -1,0 +1,116 @@
+#define VN_MODULO "tratatxt (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/texto/tratatxt.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/texto_priv.h"
+
+using namespace vn;
+using vista = std::string_view;
+
+namespace {
+
+constexpr char ALMOHADILLA = '#', CALDERON = '\xB6';
+
+struct marca {
+    char escapada, letra;
+};
+constexpr marca MARCAS[] = {{'\n', 's'}, {'\r', 'r'}, {'\t', 't'}, {' ', 'e'}, {'[', '['}, {'#', '#'}};
+
+// The characters of a text of the active page, two-byte ones whole: `con` is called with each.
+template <class F> void recorre(vista s, F con) {
+    const texto::juego<char> j;
+    for (size_t i = 0; i < s.size();) {
+        const size_t n = j.paso(s.data() + i, s.data() + s.size());
+        con(i, n);
+        i += n;
+    }
+}
+
+char *nuevo(const std::string &s) { return texto::copia<char>(s, {VN_AQUI}); }
+
+void pon_marca(std::string &r, char c) {
+    for (const marca &m : MARCAS)
+        if (m.escapada == c) (r += ALMOHADILLA) += m.letra;
+}
+
+bool corta(char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; }
+
+constexpr vista COLORES[] = {"rojo", "amarillo", "verde", "cian", "azul", "magenta", "blanco", "gris", "gris claro"};
+
+} // namespace
+
+char *tratatxt_recupera_espacio_y_salto_linea(const char *texto) {
+    if (!AFIRMA_NO_NULO(texto)) return nullptr;
+    const vista s(texto);
+    std::string r;
+    recorre(s, [&](size_t i, size_t n) {
+        const char c = s[i];
+        const bool blanco_que_se_perderia =
+            c == ' ' && (i == 0 || i + 1 == s.size() || corta(s[i - 1]) || corta(s[i + 1]));
+        if (n == 1 && (c == ALMOHADILLA || (corta(c) && c != ' ') || blanco_que_se_perderia)) pon_marca(r, c);
+        else if (n == 1 && c == '[' && i == 0) pon_marca(r, c);
+        else r.append(s, i, n);
+    });
+    return nuevo(r);
+}
+
+char *tratatxt_convierte_espacio_y_salto_linea(const char *texto) {
+    if (!AFIRMA_NO_NULO(texto)) return nullptr;
+    const vista s(texto);
+    std::string r;
+    bool tras_almohadilla = false;
+    recorre(s, [&](size_t i, size_t n) {
+        const char c = s[i];
+        if (!tras_almohadilla && n == 1 && c == ALMOHADILLA) {
+            tras_almohadilla = true;
+            return;
+        }
+        if (tras_almohadilla) {
+            tras_almohadilla = false;
+            for (const marca &m : MARCAS)
+                if (n == 1 && m.letra == c) {
+                    r += m.escapada;
+                    return;
+                }
+            r += ALMOHADILLA;
+        }
+        r.append(s, i, n);
+    });
+    if (tras_almohadilla) r += ALMOHADILLA;
+    return nuevo(r);
+}
+
+char *tratatxt_prepara_almohadilla_espacios_y_salto_linea(const char *linea) {
+    if (!AFIRMA_NO_NULO(linea)) return nullptr;
+    const vista s(linea);
+    std::string r;
+    bool al_principio = true;
+    recorre(s, [&](size_t i, size_t n) {
+        const char c = s[i];
+        const bool protege = n == 1 && (c == '\n' || c == '\r' || (al_principio && corta(c)) || (i == 0 && c == '['));
+        al_principio = al_principio && corta(c);
+        if (protege) pon_marca(r, c);
+        else r.append(s, i, n);
+    });
+    return nuevo(r);
+}
+
+char *tratatxt_traducir_codigos_color(const char *texto) {
+    if (!AFIRMA_NO_NULO(texto)) return nullptr;
+    const vista s(texto);
+    std::string r;
+    size_t hasta = 0; // what comes before stands in the result
+    recorre(s, [&](size_t i, size_t n) {
+        if (n != 1 || s[i] != CALDERON || i < hasta) return;
+        const size_t fin = s.find(';', i);
+        if (fin == vista::npos) return;
+        const vista nombre = s.substr(i + 1, fin - i - 1);
+        for (size_t k = 0; k < std::size(COLORES); ++k)
+            if (texto::iguales(nombre, COLORES[k], true)) {
+                r.append(s, hasta, i + 1 - hasta);
+                r += static_cast<char>('1' + k);
+                hasta = fin;
+            }
+    });
+    r.append(s, hasta);
+    return nuevo(r);
+}

@@ -1,0 +1,57 @@
+#define VN_MODULO "vornstrhex (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/texto/vornstrhex.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/numero_int.h"
+#include "foundation/suelo/vornspy.h"
+#include <cstring>
+
+using vn::cifra_hexadecimal;
+
+char *vornstrhex_nousar_buffer_a_cadena_hexadecimal(const void *datos, uint32_t tamanyo) {
+    if (!AFIRMA_NO_NULO(datos) || !AFIRMA(tamanyo < 1u << 30)) return nullptr;
+    char *s = static_cast<char *>(vornspy_malloc(size_t{tamanyo} * 2 + 1)), *p = s;
+    const auto *b = static_cast<const unsigned char *>(datos);
+    for (uint32_t i = 0; i < tamanyo; ++i) {
+        *p++ = "0123456789abcdef"[b[i] >> 4];
+        *p++ = "0123456789abcdef"[b[i] & 15];
+    }
+    *p = 0;
+    return s;
+}
+
+unsigned char *vornstrhex_nousar_cadena_hex_a_buffer(const char *texto, uint32_t *tamanyo) {
+    if (!AFIRMA_NO_NULO(texto) || !AFIRMA_NO_NULO(tamanyo)) return nullptr;
+    *tamanyo = 0;
+    const size_t n = std::strlen(texto);
+    if (n % 2 != 0 || n / 2 > UINT32_MAX) return nullptr;
+    for (size_t i = 0; i < n; ++i)
+        if (cifra_hexadecimal(static_cast<unsigned char>(texto[i])) > 15) return nullptr;
+    auto *b = static_cast<unsigned char *>(vornspy_malloc(n / 2));
+    for (size_t i = 0; i < n / 2; ++i)
+        b[i] = static_cast<unsigned char>(cifra_hexadecimal(static_cast<unsigned char>(texto[2 * i])) << 4 |
+                                          cifra_hexadecimal(static_cast<unsigned char>(texto[2 * i + 1])));
+    *tamanyo = static_cast<uint32_t>(n / 2);
+    return b;
+}
+
+unsigned char *vornstrhex_nousar_cadena_hexadecimal_a_buffer(const char *texto, uint32_t *tamanyo) {
+    if (!AFIRMA_NO_NULO(texto) || !AFIRMA_NO_NULO(tamanyo)) return nullptr;
+    unsigned char *buffer = vornstrhex_nousar_cadena_hex_a_buffer(texto, tamanyo);
+    (void)AFIRMA_NO_NULO(buffer);
+    return buffer;
+}
+
+vnbool vornstrhex_codifica_caracter_u(vnwchar c, vnwchar *alto, vnwchar *bajo) {
+    if (!AFIRMA_NO_NULO(alto) || !AFIRMA_NO_NULO(bajo) || c > 0xFF) return FALSO;
+    *alto = VNU("0123456789ABCDEF")[c >> 4];
+    *bajo = VNU("0123456789ABCDEF")[c & 15];
+    return CIERTO;
+}
+
+vnbool vornstrhex_decodifica_caracter_u(vnwchar alto, vnwchar bajo, vnwchar *c) {
+    if (!AFIRMA_NO_NULO(c)) return FALSO;
+    const uint32_t a = cifra_hexadecimal(static_cast<uint16_t>(alto)), b = cifra_hexadecimal(static_cast<uint16_t>(bajo));
+    if (a > 15 || b > 15) return FALSO;
+    *c = static_cast<vnwchar>(a << 4 | b);
+    return CIERTO;
+}

@@ -1,0 +1,423 @@
+#include "fallos.h"
+#include "foundation/ficheros/fichmem.h"
+#include "foundation/sistema/vnmutex.h"
+#include "foundation/ficheros/vornfile.h"
+#include "plataforma/ficheros.h"
+#include "plataforma/proceso.h"
+#include "plataforma/regional.h"
+#include "prueba.h"
+#include "texto_ancho.h"
+#include <chrono>
+#include <deque>
+#include <filesystem>
+#include <set>
+#include <thread>
+
+using namespace vn;
+
+namespace {
+
+std::string ruta(const char *corto) { return Prueba::directorio() + "/" + corto; }
+std::basic_string<vnwchar> nombre(const char *corto) { return ancho(ruta(corto)); }
+// More than a stream's buffer, so that a save is several writes.
+std::string contenido(int edicion) {
+    return std::string(70000 + static_cast<size_t>(edicion), static_cast<char>('0' + edicion));
+}
+
+bool escribe_edicion(vnfichero *f, int edicion) {
+    const std::string s = contenido(edicion);
+    bool bien = true;
+    for (size_t i = 0; bien && i < s.size(); i += 7000) {
+        const size_t n = std::min<size_t>(7000, s.size() - i);
+        bien = lc_fwrite(s.data() + i, 1, n, f) == n;
+    }
+    return bien;
+}
+
+} // namespace
+
+GUARDADO(definitivo_al_cerrar) {
+    const auto n = ancho(fichero);
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    if (f == nullptr) return false;
+    escribe_edicion(f, edicion);
+    return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str()) == CIERTO;
+}
+
+GUARDADO(hacer_definitivo) {
+    const auto n = ancho(fichero), temporal = ancho(fichero + "_TM$");
+    vnfichero *f = lc_fopen_u(temporal.c_str(), VNU("wb"));
+    const bool escrito = f != nullptr && escribe_edicion(f, edicion);
+    if (f == nullptr || lc_fclose(f) == FALSO || !escrito) {
+        std::error_code error;
+        std::filesystem::remove(std::filesystem::path(temporal), error); // its maker's
+        return false;
+    }
+    return vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(n.c_str(), temporal.c_str()) == CIERTO;
+}
+
+GUARDADO(copia_segura) {
+    const std::string origen = fichero.substr(0, fichero.find_last_of('/')) + ".origen"; // beside the directory
+    graba_fichero(origen, contenido(edicion));
+    return vf_copyfile_seguro_u(ancho(origen).c_str(), ancho(fichero).c_str()) == CIERTO;
+}
+
+GUARDADO(fichero_de_memoria) {
+    fichmem *m = fichmem_crea_desde_cadena(contenido(edicion).c_str());
+    const bool bien = fichmem_graba_unicode(m, ancho(fichero).c_str()) == CIERTO;
+    fichmem_destruye(&m);
+    return bien;
+}
+
+PRUEBA(vornfile, every_boundary_of_a_copy) {
+    comprueba_guardado("copia_segura", {.con_copia = false, .informa = false, .muere = false});
+}
+PRUEBA(vornfile, every_boundary_of_a_memory_file) {
+    comprueba_guardado("fichero_de_memoria", {.con_copia = false, .muere = false});
+}
+PRUEBA(vornfile, every_boundary_of_a_save_that_commits_at_close) { comprueba_guardado("definitivo_al_cerrar"); }
+PRUEBA(vornfile, every_boundary_of_a_save_that_commits_a_temporary) { comprueba_guardado("hacer_definitivo"); }
+
+// Patience has a bound: a holder that never lets go makes the save fail, told once, with the old content in place.
+PRUEBA(vornfile, refusals_that_stay) {
+    const auto n = nombre("obra");
+    ASSERT_TRUE(guardado_definitivo_al_cerrar(ruta("obra"), 0));
+    static int veces;
+    const vnoperaciones_fichero terco = {
+        .renombra_abierto =
+            [](vnid_fichero, const vnwchar *, const vnwchar *) {
+                ++veces;
+                return VN_FICH_COMPARTIDO;
+            },
+        .espera = [](uint32_t) {},
+    };
+    veces = 0;
+    operaciones_fichero_instala(&terco);
+    EXPECT_FALSE(ESPERA_INFORME("lc_error_escribiendo_fichero", guardado_definitivo_al_cerrar(ruta("obra"), 1)));
+    operaciones_fichero_instala(nullptr);
+    EXPECT_GT(veces, 5);
+    EXPECT_LT(veces, 100);
+    EXPECT_TRUE(lee_fichero(ruta("obra")) == contenido(0));
+    EXPECT_FALSE(existe(ruta("obra_TM$")));
+
+    // In the hands of its only writer it is not replaced either.
+    vnfichero *otro = f_lc_fopen_modo_escritura_u(n.c_str(), VNU("r+b"), CIERTO, VN_AQUI);
+    EXPECT_FALSE(ESPERA_INFORME("lc_error_escribiendo_fichero", guardado_definitivo_al_cerrar(ruta("obra"), 1)));
+    EXPECT_EQ(vf_copyfile_seguro_u(n.c_str(), n.c_str()), FALSO);
+    lc_fclose(otro);
+
+    std::filesystem::create_directory(ruta("carpeta"));
+    EXPECT_FALSE(ESPERA_INFORME("f_lc_fopen", guardado_definitivo_al_cerrar(ruta("carpeta"), 1)));
+    EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", guardado_definitivo_al_cerrar(ruta("no/obra"), 1)), false);
+}
+
+PRUEBA(vornfile, copies_and_appends) {
+    graba_fichero(ruta("origen"), contenido(5));
+    EXPECT_EQ(vf_copyfile_seguro_u(nombre("origen").c_str(), nombre("copia").c_str()), CIERTO);
+    EXPECT_EQ(vf_copyfile_seguro_u(nombre("no").c_str(), nombre("copia").c_str()), FALSO);
+    EXPECT_TRUE(lee_fichero(ruta("copia")) == contenido(5));
+    graba_fichero(ruta("otro"), "otro");
+    EXPECT_EQ(vf_appendfile_u(nombre("otro").c_str(), nombre("copia").c_str()), CIERTO);
+    EXPECT_EQ(vf_appendfile_u(nombre("otro").c_str(), nombre("otro").c_str()), CIERTO);
+    EXPECT_EQ(vf_appendfile_u(nombre("otro").c_str(), nombre("nuevo").c_str()), CIERTO);
+    EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", vf_appendfile_u(nombre("no").c_str(), nombre("otro").c_str())), FALSO);
+    EXPECT_TRUE(lee_fichero(ruta("copia")) == contenido(5) + "otro");
+    EXPECT_EQ(lee_fichero(ruta("nuevo")), "otrootro");
+}
+// ---------------------------------------------------------------- what is replaced, and what is in the way
+
+namespace {
+
+using namespace vn::plataforma;
+namespace fs = std::filesystem;
+
+constexpr int MIA = 3;
+bool es_la_mia(const std::string &fichero) { return lee_fichero(fichero) == contenido(MIA); }
+
+// A save that must be refused; why.
+vnerror_fichero motivo(const std::string &fichero) {
+    EXPECT_FALSE(guardado_definitivo_al_cerrar(fichero, MIA));
+    EXPECT_EQ(Prueba::toma_informes().size(), 1u) << fichero;
+    return lc_ultimo_error(nullptr);
+}
+
+// False where there are no links for programs like this one.
+bool enlaza(const char *a, const char *nombre_corto) {
+    std::error_code error;
+    fs::create_symlink(a, fs::path(ruta(nombre_corto)), error);
+    return !error;
+}
+
+} // namespace
+
+// A link is followed to the file that it leads to, there or not, and stays a link.
+PRUEBA(vornfile, links_are_saved_through) {
+    fs::create_directory(ruta("lejos"));
+    graba_fichero(ruta("lejos/obra"), "vieja");
+    if (!enlaza("lejos/obra", "obra") || !enlaza("obra", "doble") || !enlaza("lejos/nueva", "colgado")) GTEST_SKIP();
+    for (const char *enlace : {"doble", "colgado"}) EXPECT_TRUE(guardado_definitivo_al_cerrar(ruta(enlace), MIA));
+    EXPECT_TRUE(es_la_mia(ruta("lejos/obra")) && es_la_mia(ruta("lejos/nueva")));
+    EXPECT_TRUE(fs::is_symlink(ruta("obra")) && fs::is_symlink(ruta("doble")) && fs::is_symlink(ruta("colgado")));
+    EXPECT_EQ(lee_fichero(ruta("lejos/obra.bak")), "vieja");
+    EXPECT_FALSE(existe(ruta("doble.bak")));
+    ASSERT_TRUE(enlaza("circulo", "circulo"));
+    EXPECT_EQ(motivo(ruta("circulo")), VN_FICH_NO_ADMITIDO);
+}
+
+// Whatever stands under the temporary's name goes, and what it leads to is not touched; but not a directory.
+PRUEBA(vornfile, what_is_planted_under_the_temporary_s_name) {
+    const std::string temporal = ruta("obra_TM$"), victima = ruta("victima");
+    for (const int planta : {0, 1, 2, 3}) {
+        SCOPED_TRACE(planta);
+        graba_fichero(victima, "victima");
+        if (planta == 0 && !enlaza("victima", "obra_TM$")) continue;
+        if (planta == 1) fs::create_hard_link(victima, temporal);
+        if (planta == 2 && !hace_tuberia(temporal)) continue;
+        if (planta == 3) {
+            graba_fichero(temporal, "de otro");
+            hace_de_solo_lectura(temporal);
+        }
+        EXPECT_TRUE(guardado_definitivo_al_cerrar(ruta("obra"), MIA));
+        EXPECT_EQ(lee_fichero(victima), "victima");
+        EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(ruta("obra"))) && es_la_mia(ruta("obra")));
+        graba_fichero(ruta("normal"), "");
+        EXPECT_EQ(particularidades(ruta("obra")), particularidades(ruta("normal")));
+        EXPECT_FALSE(existe(temporal));
+        fs::remove(ruta("obra"));
+    }
+    // A finished temporary that is a link is not put in place either.
+    if (enlaza("victima", "obra_TM$")) {
+        EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero",
+                                 vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(
+                                     nombre("obra").c_str(), nombre("obra_TM$").c_str())),
+                  FALSO);
+    }
+    EXPECT_EQ(lee_fichero(victima), "victima");
+    fs::remove(temporal);
+    fs::create_directory(temporal);
+    EXPECT_EQ(motivo(ruta("obra")), VN_FICH_ES_DIRECTORIO);
+    EXPECT_EQ(motivo(temporal), VN_FICH_ES_DIRECTORIO);
+    EXPECT_TRUE(!hace_tuberia(ruta("tuberia")) || motivo(ruta("tuberia")) == VN_FICH_NO_ADMITIDO);
+}
+
+// Rights, group, notes, access list, attributes: as they were, by every road, in the safety copy too.
+PRUEBA(vornfile, the_new_file_is_what_the_old_one_was) {
+    fs::create_directory(ruta("d"));
+    const std::string obra = ruta("d/obra");
+    constexpr funcion_guarda CAMINOS[] = {guardado_definitivo_al_cerrar, guardado_hacer_definitivo,
+                                          guardado_fichero_de_memoria, guardado_copia_segura};
+    for (const auto guarda : CAMINOS)
+        for (const bool sin_enlaces : {false, true}) {
+            fs::remove(obra), fs::remove(obra + ".bak");
+            graba_fichero(obra, "vieja");
+            const std::string normales = particularidades(obra);
+            hace_particular(obra);
+            const std::string antes = particularidades(obra);
+            EXPECT_NE(antes, normales);
+            {
+                const con_fallos puestos({fallo::ninguno, SIZE_MAX, sin_enlaces, {}});
+                EXPECT_TRUE(guarda(obra, MIA));
+            }
+            EXPECT_TRUE(es_la_mia(obra));
+            EXPECT_EQ(particularidades(obra), antes);
+            EXPECT_TRUE(!existe(obra + ".bak") || particularidades(obra + ".bak") == antes);
+        }
+    // What is the user's alone is so from the first byte; and a copy has the rights of what it is made from.
+    graba_fichero(ruta("privada"), "vieja");
+    if (!hace_privado(ruta("privada"))) return;
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nombre("privada").c_str());
+    EXPECT_TRUE(es_privado(ruta("privada_TM$")));
+    EXPECT_EQ(vornfile_abandonar_fichero_escritura(f), CIERTO);
+    EXPECT_EQ(vf_copyfile_seguro_u(nombre("privada").c_str(), nombre("copia").c_str()), CIERTO);
+    EXPECT_TRUE(es_privado(ruta("copia")));
+}
+
+// Names as long as a directory takes, two of them that differ at their end, and a working directory that changes.
+PRUEBA(vornfile, long_and_relative_names) {
+    for (const char fin : {'a', 'b'})
+        for (const size_t largo : {250, 251, 252, 255}) {
+            const std::string obra = ruta((std::string(largo - 3, 'x') + (EN_WINDOWS ? "nn" : "ñ") + fin).c_str());
+            for (const int edicion : {fin - 'a', MIA})
+                EXPECT_TRUE(guardado_definitivo_al_cerrar(obra, edicion)) << largo;
+            EXPECT_TRUE(es_la_mia(obra));
+        }
+    size_t copias[2] = {0, 0}, todos = 0;
+    for (const auto &e : fs::directory_iterator(directorio())) {
+        ++todos;
+        for (const int k : {0, 1})
+            if (fs::file_size(e) == contenido(k).size() && lee_fichero(e.path().string()) == contenido(k)) ++copias[k];
+    }
+    EXPECT_EQ(std::to_string(todos) + " " + std::to_string(copias[0]) + " " + std::to_string(copias[1]), "16 4 4");
+
+    const fs::path antes = fs::current_path();
+    fs::current_path(directorio());
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(VNU("relativa"));
+    escribe_edicion(f, MIA);
+    fs::current_path(antes);
+    EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, VNU("relativa")), CIERTO);
+    EXPECT_TRUE(es_la_mia(ruta("relativa")));
+}
+
+// The close and the giving up take a stream that was opened for them, by its name; any other is closed, nothing else.
+PRUEBA(vornfile, streams_that_are_not_the_save_s_own) {
+    graba_fichero(ruta("x"), "x");
+    graba_fichero(ruta("y"), "y");
+    const auto n = nombre("x"), otro = nombre("y");
+    vnfichero *f = lc_fopen_u(n.c_str(), VNU("rb"));
+    EXPECT_EQ(ESPERA_INFORME("abierto para hacerse definitivo al cerrar",
+                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str())), FALSO);
+    f = lc_fopen_u(n.c_str(), VNU("rb"));
+    EXPECT_EQ(ESPERA_INFORME("abierto para hacerse definitivo al cerrar", vornfile_abandonar_fichero_escritura(f)),
+              FALSO);
+    f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    EXPECT_EQ(ESPERA_INFORME("nombre con el que se ha abierto",
+                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, otro.c_str())), FALSO);
+    EXPECT_EQ(lee_fichero(ruta("x")) + lee_fichero(ruta("y")), "xy");
+    // Told nonsense: it fails, and says so.
+    f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    ESPERA_INFORME("lc_error_escribiendo_fichero", (lc_error_escribiendo_fichero(f), 0));
+    EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, nombre("./x").c_str()), FALSO);
+    EXPECT_EQ(lc_ultimo_error(nullptr), VN_FICH_DATOS);
+    EXPECT_EQ(lee_fichero(ruta("x")), "x");
+    EXPECT_FALSE(existe(ruta("x_TM$")));
+}
+
+// The second saver is told why, in the report too; the temporary that somebody has taken away is missed.
+PRUEBA(vornfile, the_reason_is_told) {
+    const auto n = nombre("obra");
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    EXPECT_EQ(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str()), nullptr);
+    const auto informes = toma_informes();
+    ASSERT_EQ(informes.size(), 1u);
+    EXPECT_EQ(informes[0].expresion, "f_lc_fopen");
+    EXPECT_EQ(informes[0].detalle, ruta("obra") + ": lo tiene abierto otro programa");
+    EXPECT_EQ(lc_ultimo_error(nullptr), VN_FICH_COMPARTIDO);
+    std::error_code error;
+    if (fs::remove(ruta("obra_TM$"), error)) {
+        graba_fichero(ruta("obra_TM$"), "de otro");
+        EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero",
+                                 vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str())),
+                  FALSO);
+        EXPECT_EQ(lee_fichero(ruta("obra_TM$")), "de otro");
+        EXPECT_FALSE(existe(ruta("obra")));
+    } else {
+        EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str()), CIERTO);
+    }
+    EXPECT_EQ(f_lc_fopen_seguro_u(nombre("no").c_str(), VNU("rb"), VN_AQUI), nullptr);
+    EXPECT_EQ(lc_ultimo_error(nullptr), VN_FICH_NO_EXISTE);
+    EXPECT_EQ(utf8_de(lc_texto_error_u(lc_ultimo_error(nullptr))), "no existe");
+    // The system's own flushes are the system's: they refuse what is none of its files.
+    const vnoperaciones_fichero &sistema = *operaciones_fichero_del_sistema();
+    EXPECT_NE(sistema.vuelca(VN_FICHERO_NINGUNO), VN_FICH_BIEN);
+    EXPECT_NE(sistema.vuelca_directorio(nombre("no/obra").c_str()), VN_FICH_BIEN);
+}
+
+// Arguments: a file. Nothing of what the program prints goes into it, and a limit of size is a disk that is full.
+HIJO(guarda_sin_los_tres) {
+    const std::string obra = args.at(0);
+    if (!cierra_los_tres()) return 0;
+    error_interno_instala_receptor(nullptr, nullptr);
+    const auto n = ancho(obra);
+    // What is opened first would be the input, and the file the output.
+    vnmutex *m = vnmutex_crea_entre_aplicaciones("vornfile");
+    vnmutex_entra(m);
+    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    escribe_edicion(f, MIA);
+    lc_fflush(f);
+    std::printf("to the output\n");
+    std::fflush(stdout);
+    f_lc_feof(nullptr); // reported on the error stream
+    vnmutex_destruye_saliendo(&m);
+    const vnbool bien = vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str());
+    return bien == CIERTO && es_la_mia(obra) ? 0 : 1;
+}
+
+HIJO(guarda_con_limite) {
+    if (!limita_tamanyo(65536)) return 0;
+    error_interno_instala_receptor([](const vninforme *, void *) {}, nullptr);
+    if (guardado_definitivo_al_cerrar(args.at(0), MIA) || lc_ultimo_error(nullptr) != VN_FICH_SIN_ESPACIO) return 1;
+    return existe(args.at(0) + "_TM$") ? 2 : 0;
+}
+
+PRUEBA(vornfile, closed_standard_streams_and_a_limit_of_size) {
+    EXPECT_EQ(proceso("guarda_sin_los_tres", {ruta("obra")}).espera(60000), 0);
+    graba_fichero(ruta("obra"), "vieja");
+    EXPECT_EQ(proceso("guarda_con_limite", {ruta("obra")}).espera(60000), 0);
+    EXPECT_EQ(lee_fichero(ruta("obra")), "vieja");
+}
+
+// Arguments: which of two users, a directory. The result is the number of the first surprise.
+HIJO(guarda_como_usuario) {
+    const std::string d = args.at(1) + "/";
+    if (!se_hace_usuario(std::stoi(args.at(0)))) return 0;
+    error_interno_instala_receptor([](const vninforme *, void *) {}, nullptr);
+    const auto guarda = [&](const char *corto) { return guardado_definitivo_al_cerrar(d + corto, MIA); };
+    const auto se_queda = [&](const char *corto) { return lee_fichero(d + corto) != contenido(MIA); };
+    if (args.at(0) == "1") {
+        if (!guarda("ajeno") || !guarda("protegido") || !guarda("pegado/suyo")) return 1;
+        // What another's saver that died has left: it can be read, and not written.
+        graba_fichero(d + "ajeno_TM$", "resto");
+        graba_fichero(d + "pegado/suyo", "suya");
+        fs::permissions(d + "pegado/suyo", static_cast<fs::perms>(0666));
+        graba_fichero(d + "protegido", "protegida");
+        hace_de_solo_lectura(d + "protegido");
+        return guarda("protegido") || lc_ultimo_error(nullptr) != VN_FICH_SIN_PERMISO || !se_queda("protegido") ? 2 : 0;
+    }
+    if (!guarda("nuevo") || guarda("protegido") || lc_ultimo_error(nullptr) != VN_FICH_SIN_PERMISO) return 3;
+    if (guarda("pegado/suyo") || lc_ultimo_error(nullptr) != VN_FICH_SIN_PERMISO || !se_queda("pegado/suyo")) return 4;
+    if (existe(d + "pegado/suyo_TM$") || existe(d + "pegado/suyo_BK$")) return 5;
+    if (guarda("ajeno") || existe(d + "ajeno_TM$")) return 6; // the file may not be written, what was left could go
+    return !guarda("ilegible/obra") ? 7 : 0;
+}
+
+PRUEBA(vornfile, other_users_files) {
+    fs::create_directory(ruta("ilegible"));
+    fs::create_directory(ruta("pegado"));
+    fs::permissions(directorio(), static_cast<fs::perms>(0777));
+    fs::permissions(ruta("pegado"), static_cast<fs::perms>(01777));
+    if (!hace_ilegible(ruta("ilegible"))) GTEST_SKIP();
+    EXPECT_EQ(proceso("guarda_como_usuario", {"1", directorio()}).espera(60000), 0);
+    EXPECT_EQ(proceso("guarda_como_usuario", {"2", directorio()}).espera(60000), 0);
+    fs::permissions(ruta("ilegible"), static_cast<fs::perms>(0777));
+}
+
+// Arguments: a file, the number of the program. It writes down what it was told was saved.
+HIJO(guarda_sin_parar) {
+    error_interno_instala_receptor([](const vninforme *, void *) {}, nullptr);
+    for (int i = 0;; ++i) {
+        const std::string quien = args.at(1) + "." + std::to_string(i) + "\n";
+        const auto n = ancho(args.at(0));
+        vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+        for (int k = 0; f != nullptr && k < 20000; ++k) lc_fwrite(quien.data(), 1, quien.size(), f);
+        if (f != nullptr) vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str());
+    }
+}
+
+// Programs that save one file, some of them killed at any moment: the file and its copy are always whole.
+PRUEBA(vornfile, programs_that_save_one_file) {
+    const auto entero = [](const std::string &s) {
+        const size_t n = s.find('\n') + 1;
+        return s.size() == n * 20000 && std::equal(s.begin() + static_cast<ptrdiff_t>(n), s.end(), s.begin());
+    };
+    std::set<std::string> vistos;
+    std::deque<proceso> hijos;
+    for (int k = 0; k < 12; ++k) {
+        if (hijos.size() == 3) hijos.pop_front(); // which kills it
+        hijos.emplace_back("guarda_sin_parar", std::vector<std::string>{ruta("obra"), std::to_string(k)});
+        for (int i = 0; i < 20; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(EN_WINDOWS ? 15 : 5));
+            for (const char *corto : {"obra", "obra.bak"}) {
+                vnfichero *f = f_lc_fopen_seguro_u(nombre(corto).c_str(), VNU("rb"), VN_AQUI);
+                if (f == nullptr) continue;
+                std::string s(static_cast<size_t>(lc_bytes_restantes(f)), 0);
+                lc_fread(s.data(), 1, s.size(), f);
+                lc_fclose(f);
+                EXPECT_TRUE(entero(s)) << corto << " of " << s.size() << " bytes";
+                vistos.insert(s.substr(0, s.find('\n')));
+            }
+        }
+    }
+    hijos.clear();
+    EXPECT_GT(vistos.size(), 5u);
+    EXPECT_TRUE(guardado_definitivo_al_cerrar(ruta("obra"), MIA) && es_la_mia(ruta("obra")));
+}

@@ -1,0 +1,128 @@
+#define VN_MODULO "apunorde_test"
+#include "foundation/listas/apunorde.h"
+#include "prueba.h"
+#include <algorithm>
+#include <cmath>
+#include <thread>
+#include <vector>
+
+namespace {
+
+struct nudo {
+    double x;
+    int destruidos_al_morir;
+};
+int destruidos = 0;
+
+nudo *nuevo(double x) {
+    auto *n = static_cast<nudo *>(vornspy_malloc(sizeof(nudo)));
+    *n = {x, 1};
+    return n;
+}
+void destruye(nudo **n) {
+    destruidos += (*n)->destruidos_al_morir;
+    vornspy_free_pp(n, sizeof(nudo));
+}
+// The datum is the tolerance.
+int compara(const nudo *a, const nudo *b, double *tolerancia) {
+    if (std::fabs(a->x - b->x) <= *tolerancia) return 0;
+    return a->x < b->x ? -1 : 1;
+}
+int compara_clave(const double *x, const nudo *n) { return (*x > n->x) - (*x < n->x); }
+
+} // namespace
+
+PRUEBA(apunorde, guarda_el_orden_del_comparador) {
+    double tolerancia = 0.1;
+    destruidos = 0;
+    apunorde *a = apunorde_crea(nudo, double, compara, &tolerancia, destruye);
+    uint32_t pos = 99;
+    for (int i = 0; i < 1000; ++i) apunorde_inserta_original(a, nuevo(i * 617 % 1000), nudo, &pos);
+    EXPECT_EQ(apunorde_numelems(a, nudo), 1000u);
+    for (uint32_t i = 0; i < 1000; ++i) ASSERT_EQ(apunorde_get(a, i, nudo)->x, i);
+    // An equal one is told and destroyed; the one that was there stays.
+    ESPERA_INFORME("existe == FALSO", apunorde_inserta_original(a, nuevo(500.05), nudo, &pos));
+    EXPECT_EQ(pos, 500u);
+    EXPECT_EQ(destruidos, 1);
+    EXPECT_EQ(apunorde_get(a, 500, nudo)->x, 500.0);
+
+    nudo cerca{700.05, 0}, entre{700.5, 0};
+    EXPECT_EQ(apunorde_existe_elemento(a, &cerca, nudo, &pos), CIERTO);
+    EXPECT_EQ(pos, 700u);
+    EXPECT_EQ(apunorde_existe_elemento(a, &entre, nudo, &pos), FALSO);
+    EXPECT_EQ(pos, 701u);
+
+    double clave = 321;
+    nudo *n = apunorde_busca(a, &clave, double, nudo, compara_clave);
+    EXPECT_EQ(n, apunorde_get(a, 321, nudo));
+    EXPECT_EQ(apunorde_quita(a, 321, nudo), n);
+    destruye(&n);
+    EXPECT_EQ(apunorde_busca(a, &clave, double, nudo, compara_clave), nullptr);
+    EXPECT_EQ(ESPERA_INFORME("existe == CIERTO", apunorde_dame(a, &clave, double, nudo, compara_clave)), nullptr);
+    EXPECT_EQ(apunorde_existe(a, &clave, double, nudo, compara_clave, &pos), FALSO);
+    EXPECT_EQ(pos, 321u);
+    clave = 999;
+    EXPECT_EQ(apunorde_dame(a, &clave, double, nudo, compara_clave)->x, 999.0);
+    EXPECT_EQ(ESPERA_INFORME("i < num_elementos", apunorde_get(a, 999, nudo)), nullptr);
+    apunorde_destruye(&a, nudo);
+    EXPECT_EQ(destruidos, 1001);
+}
+
+PRUEBA(apunorde, sin_destructor_los_elementos_no_son_suyos) {
+    double tolerancia = 0;
+    nudo en_pila[2] = {{2, 0}, {1, 0}};
+    apunorde *a = apunorde_crea(nudo, double, compara, &tolerancia, nullptr);
+    for (nudo &n : en_pila) apunorde_inserta_original(a, &n, nudo, nullptr);
+    EXPECT_EQ(apunorde_get(a, 0, nudo), &en_pila[1]);
+    // An equal element is reported; nothing of the set's changes.
+    EXPECT_FALSE(vn::atrapado([&] {
+        nudo n = *apunorde_get(a, 1, nudo);
+        apunorde_inserta_original(a, &n, nudo, nullptr);
+    }));
+    EXPECT_EQ(apunorde_numelems(a, nudo), 2u);
+    apunorde_destruye(&a, nudo);
+}
+
+PRUEBA(apunorde, mezclando_operaciones_es_un_vector_ordenado) {
+    double tolerancia = 0;
+    apunorde *a = apunorde_crea(nudo, double, compara, &tolerancia, destruye);
+    std::vector<double> modelo;
+    uint32_t azar = 12345;
+    const auto siguiente = [&azar](uint32_t n) { return (azar = azar * 1664525u + 1013904223u) / 65536u % n; };
+    for (int paso = 0; paso < 20000; ++paso) {
+        const double x = siguiente(3000);
+        const auto sitio = std::ranges::lower_bound(modelo, x);
+        const bool esta = sitio != modelo.end() && *sitio == x;
+        const auto indice = static_cast<uint32_t>(sitio - modelo.begin());
+        uint32_t pos = 0;
+        ASSERT_EQ(apunorde_existe(a, &x, double, nudo, compara_clave, &pos) == CIERTO, esta);
+        ASSERT_EQ(pos, indice);
+        if (!esta) {
+            apunorde_inserta_original(a, nuevo(x), nudo, &pos);
+            ASSERT_EQ(pos, indice);
+            modelo.insert(sitio, x);
+        } else if (siguiente(8) == 0) {
+            nudo *n = apunorde_quita(a, indice, nudo);
+            ASSERT_EQ(n->x, x);
+            destruye(&n);
+            modelo.erase(sitio);
+        }
+        ASSERT_EQ(apunorde_numelems(a, nudo), modelo.size());
+        if (siguiente(4) == 0 && !modelo.empty()) {
+            const uint32_t i = siguiente(static_cast<uint32_t>(modelo.size()));
+            ASSERT_EQ(apunorde_get(a, i, nudo)->x, modelo[i]);
+        }
+    }
+    // Two that only ask change nothing for each other, what came out of order and stands apart included.
+    apunorde_inserta_original(a, nuevo(modelo[0] - 1), nudo, nullptr);
+    modelo.insert(modelo.begin(), modelo[0] - 1);
+    const auto lee = [&](int *distintos) {
+        for (uint32_t i = 0; i < modelo.size(); ++i) *distintos += apunorde_get(a, i, nudo)->x != modelo[i];
+    };
+    int distintos[2] = {};
+    std::thread otra(lee, &distintos[0]);
+    lee(&distintos[1]);
+    otra.join();
+    EXPECT_EQ(distintos[0] + distintos[1], 0);
+    apunorde_destruye(&a, nudo);
+}

@@ -1,0 +1,73 @@
+#include "foundation/listas/arr_int.h"
+#include "propiedades.h"
+#include "prueba.h"
+#include <limits>
+#include <memory>
+
+using vn::cerca;
+
+namespace {
+
+constexpr double PI = 3.141592653589793, NAN_ = std::numeric_limits<double>::quiet_NaN(),
+                 INF = std::numeric_limits<double>::infinity();
+
+struct destruye {
+    void operator()(arrPunto2D *a) const { arr_DestruyePunto2D(&a); }
+};
+using puntos = std::unique_ptr<arrPunto2D, destruye>;
+
+puntos con(std::initializer_list<Punto2D> dados) {
+    puntos a(arr_CreaPunto2D(0));
+    for (const Punto2D &p : dados) arr_AppendPunto2D(a.get(), p.x, p.y);
+    return a;
+}
+bool es(const puntos &a, uint32_t i, double x, double y) {
+    const Punto2D p = vn::tramo(a.get())[i];
+    return cerca(p.x, x, 50.) && cerca(p.y, y, 50.);
+}
+
+} // namespace
+
+// How many points a figure has is counted on by those who join two of them.
+PRUEBA(arr_geometria, las_figuras_tienen_los_pasos_de_su_parte_de_la_vuelta_y_se_anaden_a_lo_que_hay) {
+    const struct {
+        double inicial, final;
+        uint32_t por_vuelta, puntos;
+    } filas[] = {{-PI / 2., PI / 2., 18, 10}, {PI / 2., -PI / 2., 18, 10}, {0., 2. * PI, 64, 65},
+                 {0., 2. * PI + 1e-9, 64, 65}, {0., 1e300, 64, 65},
+                 {-1e300, 1e300, 64, 65}, {0., PI / 2., 6, 3}, {0., PI / 32., 64, 2}, {0., PI / 32. + 1e-6, 64, 3},
+                 {1., 1., 64, 2}, {NAN_, 1., 64, 0}, {0., INF, 64, 0}};
+    for (const auto &f : filas) {
+        const puntos a = con({});
+        arr_AnyadirArcoPunto2D(a.get(), 10., 20., 5., f.inicial, f.final, f.por_vuelta);
+        ASSERT_EQ(arr_NumElemsPunto2D(a.get()), f.puntos) << &f - filas;
+        for (const Punto2D &p : vn::tramo(a.get())) EXPECT_TRUE(cerca(std::hypot(p.x - 10., p.y - 20.), 5., 5.));
+    }
+    const puntos a = con({{7., 7.}});
+    arr_AnyadirArcoPunto2D(a.get(), 0., 0., 1., PI / 2., -PI / 2., 4);                        // clockwise
+    arr_AnyadirCirculoPunto2D(a.get(), 1., 2., 3., 4);                                        // the first is not repeated
+    arr_AnyadirArcoElipsePunto2D(a.get(), 1., 2., 30., 10., 0., PI, PI / 2., 4);              // its long axis upwards
+    arr_AnyadirCirculoPunto2D(a.get(), NAN_, 0., 1., 5);
+    ESPERA_INFORME("num_puntos >= 3 && num_puntos <= 1000000", arr_AnyadirCirculoPunto2D(a.get(), 0., 0., 1., 2));
+    const Punto2D esperados[] = {{7., 7.}, {0., 1.}, {1., 0.}, {0., -1.}, {4., 2.}, {1., 5.}, {-2., 2.}, {1., -1.}, {1., 32.},
+                                 {-9., 2.}, {1., -28.}};
+    ASSERT_EQ(arr_NumElemsPunto2D(a.get()), std::size(esperados));
+    for (uint32_t i = 0; i < std::size(esperados); ++i) EXPECT_TRUE(es(a, i, esperados[i].x, esperados[i].y)) << i;
+}
+
+PRUEBA(arr_geometria, limites_lados_e_igualdad) {
+    const puntos vacio = con({}), a = con({{NAN_, 5.}, {3., -1.}, {-2., 7.}});
+    double x1 = 9., y1 = 9., x2 = 9., y2 = 9.;
+    ESPERA_INFORME("num_puntos > 0", arr_GetMinimaxPunto2D(vacio.get(), &x1, &y1, &x2, &y2));
+    EXPECT_TRUE(x1 == 0. && y1 == 0. && x2 == 0. && y2 == 0.);
+    arr_GetMinimaxPunto2D(a.get(), &x1, &y1, &x2, &y2);
+    EXPECT_TRUE(x1 == -2. && y1 == -1. && x2 == 3. && y2 == 7.);
+    arr_GetSegmentoPunto2D(a.get(), 2, &x1, &y1, &x2, &y2); // back to the first
+    EXPECT_TRUE(x1 == -2. && y1 == 7. && std::isnan(x2) && y2 == 5.);
+    ESPERA_INFORME("i < num_elementos", arr_GetSegmentoPunto2D(a.get(), 3, &x1, &y1, &x2, &y2));
+    const puntos b = con({{0., 0.}, {3., -1.}}), c = con({{0.25, 0.}, {3., -1.25}});
+    EXPECT_TRUE(arr_ArraysDePunto2DIguales(vacio.get(), vacio.get(), 0.) == CIERTO &&
+                arr_ArraysDePunto2DIguales(b.get(), a.get(), 1e9) == FALSO);
+    EXPECT_TRUE(arr_ArraysDePunto2DIguales(b.get(), c.get(), 0.25) == CIERTO);
+    EXPECT_TRUE(arr_ArraysDePunto2DIguales(b.get(), c.get(), std::nextafter(0.25, 0.)) == FALSO);
+}
