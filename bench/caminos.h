@@ -29,8 +29,8 @@ int mide(const char *titulo, const std::vector<camino> &caminos, const std::vect
 // What a road gives must be right before its time means anything: says what is not, and ends the program.
 void debe(bool bien, const char *que);
 
-// A benchmark's main: its subjects in turn, each with as many passes as its first argument says (7 if none) and returning
-// how many budgets are not met.
+// A benchmark's main: its subjects in turn, each with as many passes as its first argument says (7 if none) and
+// returning how many budgets are not met.
 int programa(int argc, char **argv, std::initializer_list<int (*)(int pasadas)> materias);
 
 // Small, fast, repeatable.

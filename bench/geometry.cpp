@@ -3,5 +3,6 @@
 #include "geometry.h"
 
 int main(int argc, char **argv) {
-    return bench::programa(argc, argv, {bench::segmentos, bench::ejes2d_de_puntos, bench::matrices, bench::envolventes});
+    return bench::programa(argc, argv,
+                           {bench::segmentos, bench::ejes2d_de_puntos, bench::matrices, bench::envolventes});
 }

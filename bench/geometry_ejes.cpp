@@ -1,5 +1,5 @@
-// Axes out of a list of points, beside a bare pass that finds the plane's distance and the turn at each point; then lists
-// on which the search has no luck.
+// Axes out of a list of points, beside a bare pass that finds the plane's distance and the turn at each point; then
+// lists on which the search has no luck.
 #include "foundation/listas/arr.h"
 #include "geometry.h"
 #include "geometry/ejes2d.h"
@@ -37,7 +37,8 @@ void pasada() {
         if (std::fabs(c) > 1e-9) votos += c > 0. ? 1 : -1;
         sx += q.x, sy += q.y, sz += q.z;
     }
-    debe(fuera == 0 && votos == static_cast<int>(N) && std::fabs(sx / N - 3.) < 1e-9 && std::fabs(sy) + std::fabs(sz / N + 7.) < 1e-9,
+    debe(fuera == 0 && votos == static_cast<int>(N) && std::fabs(sx / N - 3.) < 1e-9 &&
+             std::fabs(sy) + std::fabs(sz / N + 7.) < 1e-9,
          "bare pass");
 }
 
@@ -64,8 +65,8 @@ void sin_suerte() {
         }
         uint32_t indice;
         const auto antes = std::chrono::steady_clock::now();
-        ejes2d_punto3D_forman_ejes_con_precision_ex2(p, 1e-5, 1e-7, FALSO, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                                                     nullptr, nullptr, nullptr, &indice);
+        ejes2d_punto3D_forman_ejes_con_precision_ex2(p, 1e-5, 1e-7, FALSO, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                                     nullptr, nullptr, nullptr, nullptr, &indice);
         const std::chrono::duration<double> s = std::chrono::steady_clock::now() - antes;
         std::printf("  axes of %u points %s: %.3f s\n", MUCHOS, que, s.count());
         arr_DestruyePunto3D(&p);
@@ -81,7 +82,8 @@ int ejes2d_de_puntos(int pasadas) {
             for (int i = 0; i < 1000; ++i) f();
         };
     };
-    const int fuera = mide("axes from 1,000 points, per point", {{"bare pass", 1000. * N, veces(pasada)}, {"nucleos", 1000. * N, veces(ejes)}},
+    const int fuera = mide("axes from 1,000 points, per point",
+                           {{"bare pass", 1000. * N, veces(pasada)}, {"nucleos", 1000. * N, veces(ejes)}},
                            {{"nucleos", "bare pass", 3.}}, pasadas);
     sin_suerte();
     arr_DestruyePunto3D(&circulo);

@@ -67,9 +67,8 @@ double tarda(const puntos &v, int pasadas) {
     for (int i = 0; i < pasadas; ++i) {
         const auto antes = std::chrono::steady_clock::now();
         crece(v);
-        mejor = std::min(
-            mejor,
-            std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - antes).count());
+        mejor =
+            std::min(mejor, std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - antes).count());
     }
     return mejor;
 }
@@ -84,8 +83,8 @@ bool crece_como_n_log_n(const char *que, bool en_circulo, int pasadas) {
         const double ns = tarda(v, pasadas), dn = static_cast<double>(n);
         ultimo = ns / (dn * std::log2(dn));
         if (primero == 0.) primero = ultimo;
-        std::printf("    %7zu %9.3f %8.3f   %zu vertices, %zu of the chain's\n", n, ns / 1e6, ultimo,
-                    crece(v), cadena(v));
+        std::printf("    %7zu %9.3f %8.3f   %zu vertices, %zu of the chain's\n", n, ns / 1e6, ultimo, crece(v),
+                    cadena(v));
     }
     return ultimo <= 1.5 * primero;
 }

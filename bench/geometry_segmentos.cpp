@@ -50,8 +50,7 @@ struct cuenta {
 } primer_cruce, primer_recorte;
 
 // `cruza(pair, x, y)` answers whether its segments cross and gives the point.
-template <bool (*cruza)(const par &, double &, double &)>
-camino cruces(const char *nombre) {
+template <bool (*cruza)(const par &, double &, double &)> camino cruces(const char *nombre) {
     return {nombre, N, [] {
                 cuenta c;
                 for (const par &p : pares)
@@ -61,8 +60,7 @@ camino cruces(const char *nombre) {
 }
 
 // `recorta(a, b)` answers whether something of a-b lies in the rectangle, and leaves it there.
-template <bool (*recorta)(Punto2D &, Punto2D &)>
-camino recortes(const char *nombre) {
+template <bool (*recorta)(Punto2D &, Punto2D &)> camino recortes(const char *nombre) {
     return {nombre, N, [] {
                 cuenta c;
                 for (const par &p : pares)
@@ -89,10 +87,8 @@ bool recorte_sin_nada(Punto2D &a, Punto2D &b) {
         if (p == 0) return q >= 0;
         const double r = q / p;
         if (p < 0 ? r > t1 : r < t0) return false;
-        if (p < 0)
-            t0 = std::max(t0, r);
-        else
-            t1 = std::min(t1, r);
+        if (p < 0) t0 = std::max(t0, r);
+        else t1 = std::min(t1, r);
         return true;
     };
     if (!lado(-dx, a.x + MEDIO) || !lado(dx, MEDIO - a.x) || !lado(-dy, a.y + MEDIO) || !lado(dy, MEDIO - a.y))

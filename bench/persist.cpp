@@ -2,10 +2,10 @@
 // without its lock and QDataStream; whole arrays beside one block transfer; the tracked heap beside malloc.
 // usage: persist [passes]
 #include "caminos.h"
-#include "foundation/listas/arr.h"
-#include "foundation/texto/cad.h"
 #include "foundation/ficheros/lc_fichero.h"
+#include "foundation/listas/arr.h"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
 #include "plataforma/stdio_sin_cerrojo.h"
@@ -27,7 +27,8 @@ struct registro {
     int64_t grande;
     char texto[9];
 };
-constexpr size_t N = 1'000'000, ESCALARES = 7, EMPAQUETADO = 4 + 24 + 2 + 1 + 8, DOBLES = 5'000'000, BLOQUES = 2'000'000;
+constexpr size_t N = 1'000'000, ESCALARES = 7, EMPAQUETADO = 4 + 24 + 2 + 1 + 8, DOBLES = 5'000'000,
+                 BLOQUES = 2'000'000;
 
 using bench::debe;
 
@@ -78,8 +79,7 @@ void limite_lee(void *p, size_t n) {
 }
 
 // ---------------------------------------------------------------- stdio, one call per field
-template <bool CON_TEXTO>
-void stdio_escribe() {
+template <bool CON_TEXTO> void stdio_escribe() {
     FILE *f = std::fopen(FICHERO, "wb");
     std::setvbuf(f, nullptr, _IOFBF, 1 << 16);
     const auto w = [f](const void *p, size_t n) { bench::fwrite_sin_cerrojo(p, n, 1, f); };
@@ -92,8 +92,7 @@ void stdio_escribe() {
     }
     std::fclose(f);
 }
-template <bool CON_TEXTO>
-void stdio_lee() {
+template <bool CON_TEXTO> void stdio_lee() {
     FILE *f = std::fopen(FICHERO, "rb");
     std::setvbuf(f, nullptr, _IOFBF, 1 << 16);
     const auto l = [f](void *p, size_t n) { bench::fread_sin_cerrojo(p, n, 1, f); };
@@ -128,8 +127,7 @@ class abierto {
     vornsave *s_;
 };
 
-template <bool CON_TEXTO>
-void nuestro_escribe() {
+template <bool CON_TEXTO> void nuestro_escribe() {
     const abierto a(VNU("wb"));
     vornsave *const s = *a;
     for (const registro &r : datos) {
@@ -141,8 +139,7 @@ void nuestro_escribe() {
         if constexpr (CON_TEXTO) vornsave_graba_cadena(r.texto, s);
     }
 }
-template <bool CON_TEXTO>
-void nuestro_lee() {
+template <bool CON_TEXTO> void nuestro_lee() {
     const abierto a(VNU("rb"));
     vornsave *const s = *a;
     for (registro &r : leidos) {
@@ -205,8 +202,7 @@ void qt_lee() {
 #endif
 
 // ---------------------------------------------------------------- the heap
-template <class R, class L>
-void monton(R reserva, L libera) {
+template <class R, class L> void monton(R reserva, L libera) {
     void *p[256] = {};
     bench::azar a(3);
     for (size_t i = 0; i < BLOQUES; ++i) {
@@ -218,10 +214,13 @@ void monton(R reserva, L libera) {
     for (void *&q : p)
         if (q != nullptr) libera(q);
 }
-void monton_malloc() { monton([](size_t n) { return std::malloc(n); }, [](void *q) { std::free(q); }); }
-void monton_vornspy() { monton([](size_t n) { return vornspy_malloc(n); }, [](void *q) { vornspy_free_pp(&q, 1); }); }
-template <void (*F)()>
-void en_dos_hebras() {
+void monton_malloc() {
+    monton([](size_t n) { return std::malloc(n); }, [](void *q) { std::free(q); });
+}
+void monton_vornspy() {
+    monton([](size_t n) { return vornspy_malloc(n); }, [](void *q) { vornspy_free_pp(&q, 1); });
+}
+template <void (*F)()> void en_dos_hebras() {
     std::thread otra(F);
     F();
     otra.join();
@@ -241,19 +240,22 @@ int persistencia(int pasadas) {
     prepara();
     const double escalares = static_cast<double>(N * ESCALARES), con_texto = static_cast<double>(N * (ESCALARES + 1));
     int fuera = 0;
-    fuera += bench::mide("one million mixed records, written, per scalar",
-                         {{"limit: memcpy and one write", escalares, [] { limite_escribe(empaquetados.data(), empaquetados.size()); }},
-                          {bench::FWRITE, escalares, stdio_escribe<false>},
+    fuera += bench::mide(
+        "one million mixed records, written, per scalar",
+        {{"limit: memcpy and one write", escalares, [] { limite_escribe(empaquetados.data(), empaquetados.size()); }},
+         {bench::FWRITE, escalares, stdio_escribe<false>},
 #ifdef CON_QT
-                          {"QDataStream", escalares, qt_escribe},
+         {"QDataStream", escalares, qt_escribe},
 #endif
-                          {"vornsave", escalares, nuestro_escribe<false>}},
-                         {{"vornsave", bench::FWRITE, 0.6}, {"vornsave", "limit: memcpy and one write", 0}
+         {"vornsave", escalares, nuestro_escribe<false>}},
+        {{"vornsave", bench::FWRITE, 0.6},
+         {"vornsave", "limit: memcpy and one write", 0}
 #ifdef CON_QT
-                          , {"vornsave", "QDataStream", 0}
+         ,
+         {"vornsave", "QDataStream", 0}
 #endif
-                         },
-                         pasadas);
+        },
+        pasadas);
     std::vector<char> molde(empaquetados.size());
     fuera += bench::mide("the same, read",
                          {{"limit: one read and memcpy", escalares, [&] { limite_lee(molde.data(), molde.size()); }},
@@ -262,16 +264,19 @@ int persistencia(int pasadas) {
                           {"QDataStream", escalares, qt_lee},
 #endif
                           {"vornsave", escalares, nuestro_lee<false>}},
-                         {{"vornsave", bench::FREAD, 0.6}, {"vornsave", "limit: one read and memcpy", 0}
+                         {{"vornsave", bench::FREAD, 0.6},
+                          {"vornsave", "limit: one read and memcpy", 0}
 #ifdef CON_QT
-                          , {"vornsave", "QDataStream", 0}
+                          ,
+                          {"vornsave", "QDataStream", 0}
 #endif
                          },
                          pasadas);
     comprueba_leidos(false);
-    fuera += bench::mide("the same with a text of 8 letters each, written, per value",
-                         {{bench::FWRITE, con_texto, stdio_escribe<true>}, {"vornsave", con_texto, nuestro_escribe<true>}},
-                         {{"vornsave", bench::FWRITE, 0}}, pasadas);
+    fuera +=
+        bench::mide("the same with a text of 8 letters each, written, per value",
+                    {{bench::FWRITE, con_texto, stdio_escribe<true>}, {"vornsave", con_texto, nuestro_escribe<true>}},
+                    {{"vornsave", bench::FWRITE, 0}}, pasadas);
     fuera += bench::mide("the same with texts, read into owned blocks",
                          {{"fread and malloc", con_texto, stdio_lee<true>}, {"vornsave", con_texto, nuestro_lee<true>}},
                          {{"vornsave", "fread and malloc", 0}}, pasadas);
@@ -282,9 +287,10 @@ int persistencia(int pasadas) {
                           {"one fwrite", nd, stdio_escribe_array},
                           {"vornsave_graba_arr_double", nd, nuestro_escribe_array}},
                          {{"vornsave_graba_arr_double", "one fwrite", 1.15}}, pasadas);
-    fuera += bench::mide("the same, read",
-                         {{"one fread into a new block", nd, stdio_lee_array}, {"vornsave_lee_arr_double", nd, nuestro_lee_array}},
-                         {{"vornsave_lee_arr_double", "one fread into a new block", 1.15}}, pasadas);
+    fuera += bench::mide(
+        "the same, read",
+        {{"one fread into a new block", nd, stdio_lee_array}, {"vornsave_lee_arr_double", nd, nuestro_lee_array}},
+        {{"vornsave_lee_arr_double", "one fread into a new block", 1.15}}, pasadas);
     {
         const abierto a(VNU("rb"));
         arrDouble *leido = vornsave_lee_arr_double(*a);
@@ -295,9 +301,10 @@ int persistencia(int pasadas) {
     fuera += bench::mide("allocations and releases, one thread",
                          {{"malloc and free", nb, monton_malloc}, {"vornspy", nb, monton_vornspy}},
                          {{"vornspy", "malloc and free", 2}}, pasadas);
-    fuera += bench::mide("allocations and releases, two threads, each",
-                         {{"malloc and free", nb, en_dos_hebras<monton_malloc>}, {"vornspy", nb, en_dos_hebras<monton_vornspy>}},
-                         {{"vornspy", "malloc and free", 2}}, pasadas);
+    fuera += bench::mide(
+        "allocations and releases, two threads, each",
+        {{"malloc and free", nb, en_dos_hebras<monton_malloc>}, {"vornspy", nb, en_dos_hebras<monton_vornspy>}},
+        {{"vornspy", "malloc and free", 2}}, pasadas);
     arr_DestruyeDouble(&array_dobles);
     std::remove(FICHERO);
     return fuera;

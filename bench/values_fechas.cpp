@@ -1,7 +1,7 @@
 // Dates: to seconds and back, and their text. The date library is inlined; ours is a call for each date.
-#include "values.h"
 #include "foundation/suelo/vornspy.h"
 #include "time/vorntime.h"
+#include "values.h"
 #include <cstdio>
 #include <ctime>
 #ifdef CON_DATE
@@ -35,8 +35,10 @@ int64_t vuelta_date(int64_t t) {
     const sys_days dia = floor<days>(s);
     const year_month_day d{dia};
     const hh_mm_ss h{s - dia};
-    return (static_cast<int>(d.year()) - 1900) * 10000 + (static_cast<int>(static_cast<unsigned>(d.month())) - 1) * 100 +
-           static_cast<int>(static_cast<unsigned>(d.day())) + h.hours().count() + h.minutes().count() + h.seconds().count();
+    return (static_cast<int>(d.year()) - 1900) * 10000 +
+           (static_cast<int>(static_cast<unsigned>(d.month())) - 1) * 100 +
+           static_cast<int>(static_cast<unsigned>(d.day())) + h.hours().count() + h.minutes().count() +
+           h.seconds().count();
 }
 #endif
 

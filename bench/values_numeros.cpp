@@ -1,10 +1,10 @@
 // Number text: two decimals with thousands grouped, and grouped text back to numbers. Ours returns a new text, which is
 // freed; its peers write into the caller's room.
-#include "values.h"
-#include "foundation/texto/cad.h"
 #include "foundation/numeros/vnmath.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 #include "units/vornnum.h"
+#include "values.h"
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -22,7 +22,7 @@ constexpr size_t N = 200'000;
 std::vector<double> numeros;
 std::vector<std::string> textos;
 std::vector<std::basic_string<vnwchar>> textos_u;
-size_t suma = 0;       // what the roads come to, so that nothing is left out
+size_t suma = 0; // what the roads come to, so that nothing is left out
 double suma_reales = 0;
 
 // Inserts the separators into "-1234567.89", for the peers that cannot.

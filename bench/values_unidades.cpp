@@ -1,9 +1,9 @@
 // Units: one value from its internal unit to the one shown, the tolerant comparison, and the text of a value.
-#include "values.h"
 #include "foundation/texto/widestr.h"
 #include "units/convers.h"
 #include "units/magnitud.h"
 #include "units/vornconf.h"
+#include "values.h"
 #include <cmath>
 #ifdef CON_UDUNITS
 #include <udunits2.h>
@@ -60,8 +60,8 @@ int conversiones(int pasadas) {
 #ifdef CON_UDUNITS
     caminos.push_back(conversion("cv_convert_double, C to F", 1.8, 32,
                                  [](double x) { return cv_convert_double(celsius_a_fahrenheit, x); }));
-    caminos.push_back(conversion("cv_convert_double, m to ft", PIES, 0,
-                                 [](double x) { return cv_convert_double(metro_a_pie, x); }));
+    caminos.push_back(
+        conversion("cv_convert_double, m to ft", PIES, 0, [](double x) { return cv_convert_double(metro_a_pie, x); }));
     razones.push_back({"cnv_convierte, C to F", "cv_convert_double, C to F", 1.1});
     razones.push_back({"cnv_convierte, m to ft", "cv_convert_double, m to ft", 1.1});
 #endif

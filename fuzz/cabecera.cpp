@@ -1,10 +1,10 @@
 // Headers and format prologues of project files: every reader of them, and that a file that is taken can be saved over.
-#include "objetivo.h"
-#include "foundation/listas/arr.h"
-#include "foundation/texto/cad.h"
 #include "foundation/ficheros/lc_fichero.h"
+#include "foundation/listas/arr.h"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
+#include "objetivo.h"
 #include "persistence/vornbin.h"
 
 namespace {
@@ -16,10 +16,11 @@ constexpr uint16_t VERSION = 3;
 void con_campos(std::initializer_list<const vnwchar *> nombres, const char *firma, const vnwchar *titulo) {
     arrCADENA_u *n = arr_CreaCADENA_u(0), *v = arr_CreaCADENA_u(0);
     for (const vnwchar *x : nombres) arr_AppendCADENA_u(n, x), arr_AppendCADENA_u(v, VNU("valor \u00f1"));
-    vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(NOMBRE.c_str(), VERSION, firma, titulo,
-                                                                                       n, v, nullptr);
+    vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(NOMBRE.c_str(), VERSION,
+                                                                                          firma, titulo, n, v, nullptr);
     bin_graba_long(7, f);
-    fuzz::exige(vornbin_cierra_fichero_abierto_para_escritura_u(f, NOMBRE.c_str(), nullptr) == CIERTO, "a seed is saved");
+    fuzz::exige(vornbin_cierra_fichero_abierto_para_escritura_u(f, NOMBRE.c_str(), nullptr) == CIERTO,
+                "a seed is saved");
     arr_DestruyeCADENA_u(&n);
     arr_DestruyeCADENA_u(&v);
 }
@@ -33,8 +34,8 @@ void lee_abierto() {
     uint16_t version = 0;
     vnwchar *titulo = nullptr;
     vnbool ejemplo = FALSO, superior = FALSO;
-    vnfichero *f = vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(NOMBRE.c_str(), VERSION, FIRMA, nullptr, &version,
-                                                                              &titulo, 1, &ejemplo, &superior);
+    vnfichero *f = vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(
+        NOMBRE.c_str(), VERSION, FIRMA, nullptr, &version, &titulo, 1, &ejemplo, &superior);
     widestr_destruye_opcional(&titulo);
     if (f != nullptr) lc_fclose_seguro(f);
 }
@@ -49,8 +50,8 @@ void lee_sin_trampa() {
     bin_fichero_valido_u(NOMBRE.c_str(), VERSION, FIRMA, sizeof corto, corto, 1);
     vnfichero *f = nullptr;
     uint16_t v = 0;
-    if (vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(NOMBRE.c_str(), VERSION, FIRMA, nullptr, 1, &f, &v,
-                                                                          &titulo) == CIERTO)
+    if (vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(NOMBRE.c_str(), VERSION, FIRMA, nullptr, 1,
+                                                                             &f, &v, &titulo) == CIERTO)
         lc_fclose_seguro(f);
     vornstr_destruye_opcional(&titulo);
     arrCADENA_u *nombres = nullptr, *valores = nullptr;
@@ -78,16 +79,21 @@ void lee_sin_trampa() {
 } // namespace
 
 std::vector<std::string> fuzz::semillas() {
-    return {lo_que_graba([] { con_campos({VNU("a"), VNU("nombre largo")}, FIRMA, VNU("T\u00edtulo")); }),
-            lo_que_graba([] { con_campos({}, "OTRA", VNU("")); }),
-            lo_que_graba([] {
-                vnfichero *f = vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(NOMBRE.c_str(), VERSION, FIRMA,
-                                                                                                VNU("t"), nullptr);
-                vornbin_cierra_fichero_abierto_para_escritura_u(f, NOMBRE.c_str(), nullptr);
-            }),
-            // Older forms: form 2 with the lists at once, form 0 without marks.
-            std::string("\x02\x01\x08\x00VORN-9-a\x02\x00\x00\x00\x00\x01\x00\x00\x00\x05\x00\x00\x00\x01\x00\x00\x00x\x00", 31),
-            std::string("\x02\x01\x08\x00WENK-9-b\x00\x00\x03\x00\x05\x00" "FIRMA\x01\x00T", 26)};
+    return {
+        lo_que_graba([] {
+            con_campos({VNU("a"), VNU("nombre largo")}, FIRMA, VNU("T\u00edtulo"));
+        }),
+        lo_que_graba([] { con_campos({}, "OTRA", VNU("")); }), lo_que_graba([] {
+            vnfichero *f = vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(
+                NOMBRE.c_str(), VERSION, FIRMA, VNU("t"), nullptr);
+            vornbin_cierra_fichero_abierto_para_escritura_u(f, NOMBRE.c_str(), nullptr);
+        }),
+        // Older forms: form 2 with the lists at once, form 0 without marks.
+        std::string("\x02\x01\x08\x00VORN-9-a\x02\x00\x00\x00\x00\x01\x00\x00\x00\x05\x00\x00\x00\x01\x00\x00\x00x\x00",
+                    31),
+        std::string("\x02\x01\x08\x00WENK-9-b\x00\x00\x03\x00\x05\x00"
+                    "FIRMA\x01\x00T",
+                    26)};
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {

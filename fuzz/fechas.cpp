@@ -1,7 +1,7 @@
 // Dates out of texts: whatever the text, a date that is one or nothing at all, and no report. A date that was read is
 // written in a form that reads as the same date.
-#include "objetivo.h"
 #include "foundation/suelo/vornspy.h"
+#include "objetivo.h"
 #include "time/vorntime.h"
 #include <cstring>
 #include <memory>
@@ -25,7 +25,7 @@ void comprueba(vnbool es_fecha, const tmtime &f) {
     }
     const struct {
         int32_t campo, minimo, maximo;
-    } rangos[] = {{f.tm_sec, 0, 59}, {f.tm_min, 0, 59}, {f.tm_hour, 0, 23}, {f.tm_mday, 1, 31}, {f.tm_mon, 0, 11},
+    } rangos[] = {{f.tm_sec, 0, 59},   {f.tm_min, 0, 59}, {f.tm_hour, 0, 23},  {f.tm_mday, 1, 31}, {f.tm_mon, 0, 11},
                   {f.tm_year, 0, 200}, {f.tm_wday, 0, 6}, {f.tm_yday, 0, 365}, {f.tm_isdst, 0, 0}};
     for (const auto &r : rangos) fuzz::exige(r.campo >= r.minimo && r.campo <= r.maximo, "every field in its range");
     const auto dias = vorntime_num_dias_mes(static_cast<uint32_t>(f.tm_mon), f.tm_year + 1900);
@@ -45,7 +45,8 @@ std::vector<std::string> fuzz::semillas() {
         for (; *s != 0; ++s) r += {*s, '\0'};
         return r;
     };
-    return {"29/2/2000", "5/6/85 12:30", " 31-12-2100 23:59:59", "+1:01 007", ancha("29/2/2000 1:2:3"), ancha("4 3 70")};
+    return {"29/2/2000", "5/6/85 12:30",           " 31-12-2100 23:59:59",
+            "+1:01 007", ancha("29/2/2000 1:2:3"), ancha("4 3 70")};
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {

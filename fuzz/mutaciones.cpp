@@ -26,8 +26,8 @@ void muta(const std::string &semilla) {
             prueba(s);
         }
     }
-    constexpr uint32_t LIMITES[] = {0, 1, 0x7F, 0x80, 0xFF, 0x7FFF, 0x8000, 0xFFFF, 0x10000, 0x20000001,
-                                    0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
+    constexpr uint32_t LIMITES[] = {0,      1,       0x7F,       0x80,       0xFF,       0x7FFF,    0x8000,
+                                    0xFFFF, 0x10000, 0x20000001, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
     for (size_t i = 0; i + 4 <= semilla.size(); ++i) {
         for (const uint32_t v : LIMITES) {
             std::string s = semilla;
@@ -46,7 +46,8 @@ int main(int argc, char **argv) {
         fuzz::exige(!semillas[i].empty(), "a seed has content");
         if (argc > 1) {
             std::filesystem::create_directories(argv[1]);
-            std::ofstream(std::filesystem::path(argv[1]) / ("semilla" + std::to_string(i)), std::ios::binary) << semillas[i];
+            std::ofstream(std::filesystem::path(argv[1]) / ("semilla" + std::to_string(i)), std::ios::binary)
+                << semillas[i];
         }
         muta(semillas[i]);
     }

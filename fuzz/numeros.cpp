@@ -1,7 +1,7 @@
-// The number parsers: whatever the text, it is a number or it is none, told without a report; both widths agree, and the
-// number's own text is that number again.
-#include "objetivo.h"
+// The number parsers: whatever the text, it is a number or it is none, told without a report; both widths agree, and
+// the number's own text is that number again.
 #include "foundation/texto/cad.h"
+#include "objetivo.h"
 #include "units/vornnum.h"
 #include <cmath>
 
@@ -26,7 +26,8 @@ void lee(uint8_t como, const std::vector<char> &t, const std::vector<vnwchar> &u
     const vnbool bien = vornnum_dameNumeroDeCadenaConDecimales(t.data(), &v, millares, decimales, formato);
     fuzz::exige(bien == CIERTO ? std::isfinite(v) : v == 0, "a finite number, or none and 0");
     fuzz::exige(vornnum_dameNumeroDeCadenaConDecimales_u(u.data(), &w, static_cast<vnwchar>(millares),
-                                                         static_cast<vnwchar>(decimales), formato) == bien && v == w,
+                                                         static_cast<vnwchar>(decimales), formato) == bien &&
+                    v == w,
                 "both widths agree");
     vornnum_dameNumeroDeCadena(t.data(), &x, formato);
     fuzz::exige(num_EsNumeroEntero(t.data()) == num_EsNumeroEntero_u(u.data()) &&
@@ -50,8 +51,18 @@ void lee(uint8_t como, const std::vector<char> &t, const std::vector<vnwchar> &u
 
 std::vector<std::string> fuzz::semillas() {
     std::vector<std::string> todas;
-    const char *const textos[] = {" -1234567.891e-3 ", "1.234.567,89", "1,234.5e+300", "+.5E", "12345678901234567890123.4567890",
-                                  "5'-3 1/2\"", "- 5 ' 11 31 / 32 \" ", "3/4", "17 1/8\"", "12'", "ffFF", "1e-330"};
+    const char *const textos[] = {" -1234567.891e-3 ",
+                                  "1.234.567,89",
+                                  "1,234.5e+300",
+                                  "+.5E",
+                                  "12345678901234567890123.4567890",
+                                  "5'-3 1/2\"",
+                                  "- 5 ' 11 31 / 32 \" ",
+                                  "3/4",
+                                  "17 1/8\"",
+                                  "12'",
+                                  "ffFF",
+                                  "1e-330"};
     for (const char *t : textos)
         for (const char como : {'\0', '\5', '\12', '\17'}) todas.push_back(como + std::string(t));
     return todas;

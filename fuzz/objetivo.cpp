@@ -58,8 +58,8 @@ void con_fichero(const uint8_t *datos, size_t n, uint64_t maximo, const std::fun
     disco().pon(nombre_fichero(), {reinterpret_cast<const char *>(datos), n});
     pedidos = hechos = 0;
     lee_todo();
-    // The library makes once, with the first input, what it keeps. Walking the heap costs more than an input does: a leak
-    // shows within so many of them.
+    // The library makes once, with the first input, what it keeps. Walking the heap costs more than an input does: a
+    // leak shows within so many of them.
     constexpr uint64_t CADA = 2048;
     static uint64_t entradas = 0, vivos = 0;
     if (entradas > 0) exige(pedidos <= maximo, "the memory asked for is bounded by the file's size");
@@ -84,7 +84,8 @@ std::string contenido() { return disco().dame(nombre_fichero()); }
 
 bool atrapa(const std::function<void()> &f) {
     const auto corre = [](void *p) { (*static_cast<const std::function<void()> *>(p))(); };
-    return trapable_nousar_recursivo_ejecuta_funcion_segura(corre, const_cast<std::function<void()> *>(&f), nullptr) == CIERTO;
+    return trapable_nousar_recursivo_ejecuta_funcion_segura(corre, const_cast<std::function<void()> *>(&f), nullptr) ==
+           CIERTO;
 }
 
 } // namespace fuzz

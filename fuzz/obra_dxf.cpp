@@ -20,7 +20,8 @@ void lee() {
     fuzz::exige(bien || p.capas.empty(), "nothing of what was refused");
     for (const obra::capa &c : p.capas) {
         fuzz::exige(c.lineas.size() == c.color_lineas.size() && c.elipses.size() == c.color_elipses.size() &&
-                        c.rotulos.size() == c.color_rotulos.size(), "each has its colour");
+                        c.rotulos.size() == c.color_rotulos.size(),
+                    "each has its colour");
         for (const auto &q : c.polilineas)
             fuzz::exige(!q.vertices.empty() && q.vertices.size() == q.curvaturas.size(), "each vertex has its bulge");
     }

@@ -1,5 +1,6 @@
 // The protocol's readers over binary and text streams. An input is: destination, number of operations, the operations
-// (one byte each, passed over from 128 on), and the content that they read in turn. What they could read is written and read again: the same.
+// (one byte each, passed over from 128 on), and the content that they read in turn. What they could read is written and
+// read again: the same.
 #include "objetivo.h"
 #include "persistence/catalogo_protocolo.h"
 
@@ -54,14 +55,19 @@ const operacion &marco(size_t i) { return MARCOS[i - catalogo::filas().size()]; 
 enum destino : uint8_t { BINARIO, TEXTO_SOLO, TEXTO_CON_COMENTARIOS, ASCII, NUM_DESTINOS };
 bool es_texto(destino d) { return d == TEXTO_SOLO || d == TEXTO_CON_COMENTARIOS; }
 // A text destination has no form for some.
-bool tiene_forma(destino d, size_t i) { return !es_texto(d) || (valor(i) != nullptr && !valor(i)->es(catalogo::SOLO_BIN)); }
+bool tiene_forma(destino d, size_t i) {
+    return !es_texto(d) || (valor(i) != nullptr && !valor(i)->es(catalogo::SOLO_BIN));
+}
 
 struct abierto {
     vnfichero *f;
     vornsave *s;
     abierto(destino d, const char *modo, const char *sufijo = "")
-        : f(f_lc_fopen_u(nombre(sufijo).c_str(), (std::basic_string<vnwchar>(modo, modo + 1) + (es_texto(d) ? VNU("") : VNU("b"))).c_str(), VN_AQUI)),
-          s(es_texto(d) ? vornsave_registra_txt(f, d == TEXTO_CON_COMENTARIOS ? CIERTO : FALSO) : vornsave_registra_bin(f)) {
+        : f(f_lc_fopen_u(nombre(sufijo).c_str(),
+                         (std::basic_string<vnwchar>(modo, modo + 1) + (es_texto(d) ? VNU("") : VNU("b"))).c_str(),
+                         VN_AQUI)),
+          s(es_texto(d) ? vornsave_registra_txt(f, d == TEXTO_CON_COMENTARIOS ? CIERTO : FALSO)
+                        : vornsave_registra_bin(f)) {
         if (d == ASCII) vornsave_set_lectura_ANSI_ASCII_segun_version(s, 1, 1);
         // A reading that stops early leaves marks open.
         vornsave_set_tipo_status_lectura(s, 1, nullptr);
@@ -80,16 +86,17 @@ std::string semilla(destino d, size_t desde, size_t hasta) {
     for (size_t i = desde; i < hasta; ++i) s += static_cast<char>(i);
     catalogo::azar azar(static_cast<uint32_t>(desde), true);
     return s + fuzz::lo_que_graba([&] {
-        const abierto a(d, "w");
-        for (size_t i = desde; i < hasta; ++i) {
-            if (!tiene_forma(d, i)) continue;
-            if (valor(i) != nullptr) valor(i)->graba(azar, a.s);
-            else marco(i).graba(a.s);
-        }
-    });
+               const abierto a(d, "w");
+               for (size_t i = desde; i < hasta; ++i) {
+                   if (!tiene_forma(d, i)) continue;
+                   if (valor(i) != nullptr) valor(i)->graba(azar, a.s);
+                   else marco(i).graba(a.s);
+               }
+           });
 }
 
-// Reads every value, writes it to a second file, and reads that one: what came whole and was taken without a word comes back.
+// Reads every value, writes it to a second file, and reads that one: what came whole and was taken without a word comes
+// back.
 void lee_graba_y_lee(destino d, const uint8_t *ops, size_t numero) {
     std::vector<std::pair<const fila *, std::string>> copiados;
     bool entera = true;
@@ -125,7 +132,8 @@ void lee_graba_y_lee(destino d, const uint8_t *ops, size_t numero) {
 std::vector<std::string> fuzz::semillas() {
     std::vector<std::string> v;
     for (const destino d : {BINARIO, TEXTO_SOLO, TEXTO_CON_COMENTARIOS})
-        for (size_t i = 0; i < num_operaciones(); i += 6) v.push_back(semilla(d, i, std::min(i + 6, num_operaciones())));
+        for (size_t i = 0; i < num_operaciones(); i += 6)
+            v.push_back(semilla(d, i, std::min(i + 6, num_operaciones())));
     return v;
 }
 
@@ -136,6 +144,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {
     const uint8_t *ops = datos + 2;
     const size_t tamanyo = n - 2 - numero;
     // One run-coded array may take 256 MiB: growing in steps of a half asks for three times that, and it is read twice.
-    fuzz::con_fichero(ops + numero, tamanyo, (uint64_t{7} << 28) + 64 * tamanyo, [&] { lee_graba_y_lee(d, ops, numero); });
+    fuzz::con_fichero(ops + numero, tamanyo, (uint64_t{7} << 28) + 64 * tamanyo,
+                      [&] { lee_graba_y_lee(d, ops, numero); });
     return 0;
 }

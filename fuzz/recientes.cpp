@@ -1,7 +1,7 @@
 // The list of recent works: whatever the file holds, it is read or thrown away, and what was read can be saved.
-#include "objetivo.h"
 #include "foundation/listas/arr.h"
 #include "foundation/texto/widestr.h"
+#include "objetivo.h"
 #include "persistence/ultiobra.h"
 
 namespace {
@@ -26,16 +26,24 @@ void lee() {
     fuzz::exige(despues >= 1 && despues <= 32, "between one and 32 works after a save");
     arr_DestruyeCADENA_u(&lista);
     const bool de_otro = fuzz::informes() == 1 && fuzz::ultimo_informe() == "version <= VERSION_NOMBRE_OBRA";
-    fuzz::exige(fuzz::informes() == 0 || de_otro, "of what stands in the list only that it is a newer program's is told, once");
+    fuzz::exige(fuzz::informes() == 0 || de_otro,
+                "of what stands in the list only that it is a newer program's is told, once");
 }
 
 } // namespace
 
 std::vector<std::string> fuzz::semillas() {
-    return {"5 ; version\n1\n2 ; n\nn\xC3\xB1\xC3\xB3.obr\n\x10" "D800.obr\n",
-            lo_que_graba([] { guarda({VNU("mem/a.obr"), VNU("mem/\u00f1\u4e2d.obr"), VNU("[x]mem/b.obr")}, true); }),
-            lo_que_graba([] { guarda({VNU("mem/a.obr"), nullptr}, false); }),
-            "1\nmem/vieja.obr\n", "2\n2\nmem/a.obr\nmem/b.obr\n", "4\n; version\n1\n1\n; n\nmem/a.obr\n"};
+    return {"5 ; version\n1\n2 ; n\nn\xC3\xB1\xC3\xB3.obr\n\x10"
+            "D800.obr\n",
+            lo_que_graba([] {
+                guarda({VNU("mem/a.obr"), VNU("mem/\u00f1\u4e2d.obr"), VNU("[x]mem/b.obr")}, true);
+            }),
+            lo_que_graba([] {
+                guarda({VNU("mem/a.obr"), nullptr}, false);
+            }),
+            "1\nmem/vieja.obr\n",
+            "2\n2\nmem/a.obr\nmem/b.obr\n",
+            "4\n; version\n1\n1\n; n\nmem/a.obr\n"};
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {

@@ -1,10 +1,11 @@
-// The registry's file, where it has one: whatever it holds, keys and texts come or do not, and what is then set is read back.
-#include "objetivo.h"
+// The registry's file, where it has one: whatever it holds, keys and texts come or do not, and what is then set is read
+// back.
+#include "foundation/ficheros/vornfile.h"
 #include "foundation/listas/arr.h"
 #include "foundation/sistema/fichconf.h"
-#include "foundation/ficheros/vornfile.h"
 #include "foundation/sistema/vornreg.h"
 #include "foundation/texto/widestr.h"
+#include "objetivo.h"
 #include <cstring>
 
 namespace {
@@ -28,7 +29,8 @@ uint32_t recorre(const ancho &clave, int hondo) {
     if (vornreg_lee_valores_cadena_clave_ex_u(VORNREG_USUARIO, clave.c_str(), 0, &nombres, &textos) == CIERTO) {
         // Each looking-up reads the file: the first ones stand for the rest.
         for (uint32_t i = 0; i < arr_NumElemsCADENA_u(nombres) && i < 2; ++i)
-            fuzz::exige(lee_valor(clave.c_str(), arr_GetCADENA_u(nombres, i)) == arr_GetCADENA_u(textos, i), "a value by its name");
+            fuzz::exige(lee_valor(clave.c_str(), arr_GetCADENA_u(nombres, i)) == arr_GetCADENA_u(textos, i),
+                        "a value by its name");
         arr_DestruyeCADENA_u(&nombres);
         arr_DestruyeCADENA_u(&textos);
     }
@@ -50,7 +52,8 @@ void lee(bool escribe) {
     const uint32_t antes = recorre(VNU(""), 2);
     const vnwchar *texto = VNU("=[\\\n\u00F1;]");
     if (escribe) {
-        fuzz::exige(vornreg_establece_cadena_u(VORNREG_USUARIO, VNU("Nueva clave"), VNU("a=b"), texto) == CIERTO, "it can be set");
+        fuzz::exige(vornreg_establece_cadena_u(VORNREG_USUARIO, VNU("Nueva clave"), VNU("a=b"), texto) == CIERTO,
+                    "it can be set");
         fuzz::exige(lee_valor(VNU("nueva CLAVE"), VNU("A=B")) == texto, "and is read back");
         fuzz::exige(recorre(VNU(""), 0) >= antes, "and nothing is lost");
     }
@@ -61,7 +64,8 @@ void lee(bool escribe) {
 } // namespace
 
 std::vector<std::string> fuzz::semillas() {
-    return {"[2\\Software\\A b]\n=x\nn\\003D=\\\\y\\D800\n[2\\software\\a B\\c]\nv=1\n", "[2]\r\na=b\r\n;c=d\r\n[0\\x]\n", "\\\n=\n[\n[]\n[2\\\\]\na=\n"};
+    return {"[2\\Software\\A b]\n=x\nn\\003D=\\\\y\\D800\n[2\\software\\a B\\c]\nv=1\n",
+            "[2]\r\na=b\r\n;c=d\r\n[0\\x]\n", "\\\n=\n[\n[]\n[2\\\\]\na=\n"};
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {

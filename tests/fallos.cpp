@@ -22,8 +22,8 @@ std::vector<std::string> los_riesgos;
 bool nombres_sin_volcar;
 std::map<vnid_fichero, std::string> abiertos;
 std::set<vnid_fichero> escritos;
-bool colado; // what is done now is somebody else's
-bool cierre_perdido; // the close of what was written failed
+bool colado;                        // what is done now is somebody else's
+bool cierre_perdido;                // the close of what was written failed
 std::map<std::string, bool> sucios; // by name: written and not flushed
 
 const vnoperaciones_fichero &sistema() { return *operaciones_fichero_del_sistema(); }
@@ -34,8 +34,7 @@ bool toma_sitio(operacion o) {
 }
 
 // The operation under the plan; `a_medias` does half of it.
-template <typename F, typename G>
-vnerror_fichero intenta(operacion o, F de_verdad, G a_medias) {
+template <typename F, typename G> vnerror_fichero intenta(operacion o, F de_verdad, G a_medias) {
     if (colado) return de_verdad();
     const size_t k = las_hechas.size();
     las_hechas.push_back(o);
@@ -43,43 +42,30 @@ vnerror_fichero intenta(operacion o, F de_verdad, G a_medias) {
     if (el_plan.que == fallo::sin_espacio_siempre && k >= el_plan.donde && toma_sitio(o)) return VN_FICH_SIN_ESPACIO;
     if (k != el_plan.donde) return hace();
     switch (el_plan.que) {
-    case fallo::muere_antes:
-        muere();
-    case fallo::muere_a_medias:
-        a_medias();
-        muere();
-    case fallo::muere_despues:
-        hace();
-        muere();
-    case fallo::sin_espacio_una_vez:
-        a_medias();
-        return VN_FICH_SIN_ESPACIO;
+    case fallo::muere_antes: muere();
+    case fallo::muere_a_medias: a_medias(); muere();
+    case fallo::muere_despues: hace(); muere();
+    case fallo::sin_espacio_una_vez: a_medias(); return VN_FICH_SIN_ESPACIO;
     case fallo::error_una_vez:
         if (o == operacion::cierra) hace();
         return VN_FICH_ES;
-    case fallo::escribe_poco:
-        return a_medias();
-    case fallo::interrumpe:
-        return VN_FICH_INTERRUMPIDA;
-    case fallo::compartido:
-        return VN_FICH_COMPARTIDO;
-    case fallo::sin_permiso:
-        return VN_FICH_SIN_PERMISO;
+    case fallo::escribe_poco: return a_medias();
+    case fallo::interrumpe: return VN_FICH_INTERRUMPIDA;
+    case fallo::compartido: return VN_FICH_COMPARTIDO;
+    case fallo::sin_permiso: return VN_FICH_SIN_PERMISO;
     case fallo::se_cuela:
         colado = true;
         std::thread(el_plan.otro).join(); // in none of this one's traps
         colado = false;
         break;
     case fallo::sin_espacio_siempre:
-    case fallo::ninguno:
-        break;
+    case fallo::ninguno: break;
     }
     return hace();
 }
 
 // One entry of the table: counts, fails, or calls the system's.
-template <operacion O, auto Miembro>
-struct envuelta;
+template <operacion O, auto Miembro> struct envuelta;
 template <operacion O, typename... A, vnerror_fichero (*vnoperaciones_fichero::*Miembro)(A...)>
 struct envuelta<O, Miembro> {
     static vnerror_fichero f(A... a) {
@@ -350,7 +336,8 @@ class conductor {
         for (const auto &e : fs::directory_iterator(carpeta())) {
             const auto u = e.path().filename().u8string();
             const std::string resto(u.begin(), u.end());
-            EXPECT_TRUE(resto == manera_.fichero || resto == manera_.fichero + std::string(".bak")) << resto << " was left";
+            EXPECT_TRUE(resto == manera_.fichero || resto == manera_.fichero + std::string(".bak"))
+                << resto << " was left";
         }
     }
 
@@ -362,8 +349,8 @@ class conductor {
         bool acaba(const std::string &s) {
             if (f == nullptr) return false;
             f_lc_fwrite(s.data(), 1, s.size(), f, nullptr, 0);
-            return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(std::exchange(f, nullptr), nombre.c_str()) ==
-                   CIERTO;
+            return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(std::exchange(f, nullptr),
+                                                                                    nombre.c_str()) == CIERTO;
         }
     };
 
@@ -426,10 +413,13 @@ bool con_fallos::directorio_sin_volcar() const { return nombres_sin_volcar; }
 registra_guardado::registra_guardado(const char *nombre, funcion_guarda funcion) { guardados()[nombre] = funcion; }
 
 HIJO(guarda_con_fallos) {
-    const con_fallos puestos({static_cast<fallo>(std::stoi(args.at(2))), std::stoul(args.at(3)), args.at(4) == "1", {}});
+    const con_fallos puestos(
+        {static_cast<fallo>(std::stoi(args.at(2))), std::stoul(args.at(3)), args.at(4) == "1", {}});
     return guardados().at(args.at(0))(args.at(1), 2) ? 0 : 1;
 }
 
-void comprueba_guardado(const char *guardado, const manera_de_guardar &manera) { conductor(guardado, manera).conduce(); }
+void comprueba_guardado(const char *guardado, const manera_de_guardar &manera) {
+    conductor(guardado, manera).conduce();
+}
 
 } // namespace vn

@@ -13,15 +13,17 @@
 
 namespace vn {
 
+// clang-format off
 enum class operacion : uint8_t {
     abre, lee, escribe, vuelca, trunca, estado_abierto, bloquea, desbloquea, cierra, estado, resuelve, enlaza, renombra,
     renombra_abierto, es_su_nombre, borra, retira, copia_permisos, vuelca_directorio
 };
+// clang-format on
 
 enum class fallo : uint8_t {
     ninguno,
-    muere_antes,         // the process dies instead of the operation
-    muere_a_medias,      // half of a write is done, then the process dies
+    muere_antes,    // the process dies instead of the operation
+    muere_a_medias, // half of a write is done, then the process dies
     muere_despues,
     sin_espacio_una_vez,
     sin_espacio_siempre, // from there on, for all that takes room
@@ -30,7 +32,7 @@ enum class fallo : uint8_t {
     interrumpe,          // nothing is done, once
     compartido,          // another holder is in the way, once
     sin_permiso,
-    se_cuela             // somebody else comes first: plan_de_fallos::otro runs, uncounted
+    se_cuela // somebody else comes first: plan_de_fallos::otro runs, uncounted
 };
 
 struct plan_de_fallos {
@@ -69,7 +71,7 @@ struct manera_de_guardar {
     bool con_copia = true;
     bool informa = true;
     bool muere = true; // killed at each of its operations too: not needed where another of these does the same saving
-    bool dice = true; // its result is the truth that it tells; else it only says what is there
+    bool dice = true;  // its result is the truth that it tells; else it only says what is there
 };
 // Drives every boundary of the save over an old file with its safety copy and over none, with hard links and without,
 // through every failure. In every case: the file is the old one or the new one, whole; what the save told is true;

@@ -27,7 +27,9 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
 }
 vnerror_fichero lee(vnid_fichero id, int64_t posicion, void *destino, size_t n, size_t *leidos) {
     const std::string &s = *abiertos.at(id);
-    *leidos = posicion < 0 || static_cast<uint64_t>(posicion) >= s.size() ? 0 : std::min(n, s.size() - static_cast<size_t>(posicion));
+    *leidos = posicion < 0 || static_cast<uint64_t>(posicion) >= s.size()
+                  ? 0
+                  : std::min(n, s.size() - static_cast<size_t>(posicion));
     if (*leidos != 0) std::memcpy(destino, s.data() + posicion, *leidos);
     return VN_FICH_BIEN;
 }
@@ -89,13 +91,23 @@ vnerror_fichero borra(const vnwchar *nombre) { return ficheros.erase(nombre) != 
 
 ficheros_en_memoria::ficheros_en_memoria() {
     const vnoperaciones_fichero tabla = {
-        .abre = abre, .lee = lee, .escribe = escribe,
+        .abre = abre,
+        .lee = lee,
+        .escribe = escribe,
         .vuelca = [](vnid_fichero) { return VN_FICH_BIEN; },
-        .trunca = trunca, .estado_abierto = estado_abierto,
+        .trunca = trunca,
+        .estado_abierto = estado_abierto,
         .bloquea = [](vnid_fichero, int64_t, int64_t, uint32_t) { return VN_FICH_BIEN; },
         .desbloquea = [](vnid_fichero, int64_t, int64_t) { return VN_FICH_BIEN; },
-        .cierra = cierra, .estado = estado, .resuelve = resuelve, .enlaza = enlaza, .renombra = renombra,
-        .renombra_abierto = renombra_abierto, .es_su_nombre = es_su_nombre, .borra = borra, .retira = borra,
+        .cierra = cierra,
+        .estado = estado,
+        .resuelve = resuelve,
+        .enlaza = enlaza,
+        .renombra = renombra,
+        .renombra_abierto = renombra_abierto,
+        .es_su_nombre = es_su_nombre,
+        .borra = borra,
+        .retira = borra,
         .copia_permisos = [](const vnwchar *, vnid_fichero) { return VN_FICH_BIEN; },
         .vuelca_directorio = [](const vnwchar *) { return VN_FICH_BIEN; },
         .espera = [](uint32_t) {},

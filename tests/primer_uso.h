@@ -48,7 +48,8 @@ inline void espera_primeros_usos(const char *hijo, std::span<const uso> usos, st
         if (i >= 4) {
             const int r = corren.front().espera(60000).value_or(-1);
             const bool conocido = r > 0 && static_cast<size_t>(r) <= usos.size();
-            EXPECT_EQ(r, 0) << (conocido ? usos[static_cast<size_t>(r - 1)].que : "the process") << ", process " << i - 4;
+            EXPECT_EQ(r, 0) << (conocido ? usos[static_cast<size_t>(r - 1)].que : "the process") << ", process "
+                            << i - 4;
             corren.pop_front();
         }
         args.back() = std::to_string(i);

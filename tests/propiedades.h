@@ -39,8 +39,8 @@ class azar {
     uint64_t s_;
 };
 
-// Where a property is run, by turns: at the origin and at the coordinates of a survey. `escala` is what the rounding of the
-// coordinates there is in: a length of the property's own at the origin.
+// Where a property is run, by turns: at the origin and at the coordinates of a survey. `escala` is what the rounding of
+// the coordinates there is in: a length of the property's own at the origin.
 struct lugar {
     double x, y, z;
     double escala(double propia) const { return propia + 0.01 * y; }

@@ -1,8 +1,8 @@
 #include "prueba.h"
 #include "foundation/suelo/operaciones_fichero.h"
-#include "plataforma/proceso.h"
-#include "foundation/texto/msglocal.h"
 #include "foundation/suelo/vnatexit.h"
+#include "foundation/texto/msglocal.h"
+#include "plataforma/proceso.h"
 #include <algorithm>
 #include <atomic>
 #include <clocale>
@@ -27,8 +27,12 @@ fs::path ruta(const std::string &utf8) { return fs::path(std::u8string(utf8.begi
 
 void anota_informe(const vninforme *i, void *) {
     const std::lock_guard guarda(cerrojo);
-    informes.push_back({i->expresion_u != nullptr ? utf8_de(i->expresion_u) : i->expresion != nullptr ? i->expresion : "",
-                        i->detalle_u != nullptr ? utf8_de(i->detalle_u) : i->detalle != nullptr ? i->detalle : "",
+    informes.push_back({i->expresion_u != nullptr ? utf8_de(i->expresion_u)
+                        : i->expresion != nullptr ? i->expresion
+                                                  : "",
+                        i->detalle_u != nullptr ? utf8_de(i->detalle_u)
+                        : i->detalle != nullptr ? i->detalle
+                                                : "",
                         i->modulo != nullptr ? i->modulo : "", i->linea, i->clase});
 }
 
@@ -59,7 +63,8 @@ std::string utf8_de(const vnwchar *texto) {
         if (c < 0x80) u += static_cast<char>(c);
         else if (c < 0x800) (u += static_cast<char>(0xC0 | c >> 6)) += static_cast<char>(0x80 | (c & 63));
         else if (c < 0x10000)
-            ((u += static_cast<char>(0xE0 | c >> 12)) += static_cast<char>(0x80 | (c >> 6 & 63))) += static_cast<char>(0x80 | (c & 63));
+            ((u += static_cast<char>(0xE0 | c >> 12)) += static_cast<char>(0x80 | (c >> 6 & 63))) +=
+                static_cast<char>(0x80 | (c & 63));
         else
             (((u += static_cast<char>(0xF0 | c >> 18)) += static_cast<char>(0x80 | (c >> 12 & 63))) +=
              static_cast<char>(0x80 | (c >> 6 & 63))) += static_cast<char>(0x80 | (c & 63));
@@ -79,10 +84,13 @@ std::basic_string<vnwchar> ancho(std::string_view utf8) {
         const auto b = static_cast<unsigned char>(utf8[i]);
         const size_t n = b < 0x80 ? 1 : b < 0xE0 ? 2 : b < 0xF0 ? 3 : 4;
         uint32_t c = n == 1 ? b : b & (0xFFu >> (n + 1));
-        for (size_t k = 1; k < n && i + k < utf8.size(); ++k) c = c << 6 | (static_cast<unsigned char>(utf8[i + k]) & 63u);
+        for (size_t k = 1; k < n && i + k < utf8.size(); ++k)
+            c = c << 6 | (static_cast<unsigned char>(utf8[i + k]) & 63u);
         i += n;
         if (c < 0x10000) u += static_cast<vnwchar>(c);
-        else (u += static_cast<vnwchar>(0xD800 + ((c - 0x10000) >> 10))) += static_cast<vnwchar>(0xDC00 + ((c - 0x10000) & 0x3FF));
+        else
+            (u += static_cast<vnwchar>(0xD800 + ((c - 0x10000) >> 10))) +=
+                static_cast<vnwchar>(0xDC00 + ((c - 0x10000) & 0x3FF));
     }
     return u;
 }
@@ -100,7 +108,9 @@ std::string toma(vnwchar *texto) {
 }
 
 mayor_bloque::mayor_bloque() {
-    const auto apunta = [](size_t n, void *m) { return *static_cast<size_t *>(m) = std::max(n, *static_cast<size_t *>(m)), CIERTO; };
+    const auto apunta = [](size_t n, void *m) {
+        return *static_cast<size_t *>(m) = std::max(n, *static_cast<size_t *>(m)), CIERTO;
+    };
     vornspy_instala_permiso(apunta, &mayor_);
 }
 mayor_bloque::~mayor_bloque() { vornspy_instala_permiso(nullptr, nullptr); }
@@ -108,7 +118,9 @@ mayor_bloque::~mayor_bloque() { vornspy_instala_permiso(nullptr, nullptr); }
 bool atrapado(const std::function<void()> &f, int reservas) {
     struct agotada {};
     if (reservas != INT32_MAX)
-        vornspy_instala_permiso([](size_t, void *quedan) -> vnbool { return (*static_cast<int *>(quedan))-- > 0 ? CIERTO : FALSO; }, &reservas);
+        vornspy_instala_permiso(
+            [](size_t, void *quedan) -> vnbool { return (*static_cast<int *>(quedan))-- > 0 ? CIERTO : FALSO; },
+            &reservas);
     vornspy_instala_memoria_agotada([](void *) { throw agotada{}; }, nullptr);
     vnbool bien = FALSO;
     try {
@@ -148,7 +160,8 @@ void espera_informes(std::initializer_list<std::string_view> textos, const char 
     std::string esperados, vistos;
     for (const auto t : textos) (esperados += t) += '\n';
     for (const auto &i : hay) (vistos += i.expresion) += '\n';
-    if (esperados != vistos) ADD_FAILURE_AT(fichero, linea) << "expected reports:\n" << esperados << "seen:\n" << vistos;
+    if (esperados != vistos)
+        ADD_FAILURE_AT(fichero, linea) << "expected reports:\n" << esperados << "seen:\n" << vistos;
 }
 
 std::vector<informe_anotado> Prueba::toma_informes() {
@@ -168,9 +181,9 @@ const std::string &Prueba::directorio() {
         const auto *info = ::testing::UnitTest::GetInstance()->current_test_info();
         static std::atomic<unsigned> serie{0};
         // The seed tells apart programs that run at the same time.
-        const fs::path d = fs::temp_directory_path() /
-                           (std::string("nucleos_") + info->test_suite_name() + "_" + info->name() + "_" +
-                            std::to_string(std::random_device{}()) + "_" + std::to_string(serie++));
+        const fs::path d =
+            fs::temp_directory_path() / (std::string("nucleos_") + info->test_suite_name() + "_" + info->name() + "_" +
+                                         std::to_string(std::random_device{}()) + "_" + std::to_string(serie++));
         fs::create_directories(d);
         const auto u = d.generic_u8string();
         directorio_de_la_prueba.assign(u.begin(), u.end());
@@ -196,11 +209,14 @@ void Prueba::SetUp() {
 void Prueba::TearDown() {
     operaciones_fichero_instala(nullptr);
     for (const auto &i : toma_informes())
-        ADD_FAILURE() << "unexpected report: " << i.modulo << ", " << i.linea << ": " << i.expresion << " " << i.detalle;
+        ADD_FAILURE() << "unexpected report: " << i.modulo << ", " << i.linea << ": " << i.expresion << " "
+                      << i.detalle;
     for (const auto &a : toma_avisos()) ADD_FAILURE() << "unexpected warning: " << a;
-    // What modules made at first use goes with the exit list, as when a process ends, and is made again by the next test.
+    // What modules made at first use goes with the exit list, as when a process ends, and is made again by the next
+    // test.
     vnatexit_ejecuta();
-    for (const auto &i : toma_informes()) ADD_FAILURE() << "report of an exit cleaner: " << i.expresion << " " << i.detalle;
+    for (const auto &i : toma_informes())
+        ADD_FAILURE() << "report of an exit cleaner: " << i.expresion << " " << i.detalle;
     if (const uint64_t vivos = vornspy_bloques_vivos(nullptr); vivos > bloques_al_empezar_) {
         std::string texto;
         vornspy_recorre_bloques_vivos(describe_bloque, &texto);
@@ -218,7 +234,8 @@ void Prueba::TearDown() {
 } // namespace vn
 
 bool vn::pon_locale_con_coma() {
-    for (const char *l : {"es_ES.UTF-8", "de_DE.UTF-8", "fr_FR.UTF-8", "es_ES.utf8", "de_DE", "Spanish_Spain.1252", "de-DE"})
+    for (const char *l :
+         {"es_ES.UTF-8", "de_DE.UTF-8", "fr_FR.UTF-8", "es_ES.utf8", "de_DE", "Spanish_Spain.1252", "de-DE"})
         if (std::setlocale(LC_ALL, l) != nullptr && *std::localeconv()->decimal_point == ',') return true;
     return false;
 }

@@ -13,8 +13,7 @@ constexpr bool EN_WINDOWS = std::filesystem::path::preferred_separator == '\\';
 // Takes over a list, as one line: "a|b|c".
 inline std::string toma(arrCADENA_u *a) {
     std::string r;
-    for (uint32_t i = 0; i < arr_NumElemsCADENA_u(a); ++i)
-        r += (i > 0 ? "|" : "") + utf8_de(arr_GetCADENA_u(a, i));
+    for (uint32_t i = 0; i < arr_NumElemsCADENA_u(a); ++i) r += (i > 0 ? "|" : "") + utf8_de(arr_GetCADENA_u(a, i));
     arr_DestruyeCADENA_u(&a);
     return r;
 }

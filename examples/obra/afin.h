@@ -57,8 +57,8 @@ inline afin insercion(double sx, double sy, double sz, double angulo, vector3 en
     return {{{c * sx, -s * sy, 0}, {s * sx, c * sy, 0}, {0, 0, sz}}, {en.x, en.y, en.z}};
 }
 
-// Axes of an object from its extrusion direction, by the arbitrary-axis rule of DXF: the x axis is square to the world's
-// y axis where the direction is within 1/64 of the world's z axis, to its z axis elsewhere.
+// Axes of an object from its extrusion direction, by the arbitrary-axis rule of DXF: the x axis is square to the
+// world's y axis where the direction is within 1/64 of the world's z axis, to its z axis elsewhere.
 inline afin ejes_de_objeto(vector3 n) {
     const double modulo = std::sqrt(n.x * n.x + n.y * n.y + n.z * n.z);
     if (!(modulo > 0) || (n.x == 0 && n.y == 0 && n.z > 0)) return {};

@@ -8,10 +8,12 @@ namespace {
 // Metres in a drawing unit, by the $INSUNITS codes of DXF; no unit counts as metres, as unknown ones do. The last four
 // are the foot, inch, yard and mile of surveyors in the United States.
 constexpr double PIE_DE_TOPOGRAFO = 1200.0 / 3937;
+// clang-format off
 constexpr double METROS[] = {1,     0.0254, 0.3048, 1609.344, 0.001, 0.01, 1,   1000, 2.54e-8, 2.54e-5, 0.9144,
                              1e-10, 1e-9,   1e-6,   0.1,      10,    100,  1e9, 1.495978707e11, 9.4607304725808e15,
                              3.0856775814913673e16, PIE_DE_TOPOGRAFO, PIE_DE_TOPOGRAFO / 12, PIE_DE_TOPOGRAFO * 3,
                              PIE_DE_TOPOGRAFO * 5280};
+// clang-format on
 
 } // namespace
 

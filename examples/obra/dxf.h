@@ -10,10 +10,10 @@ enum class lectura_dxf { bien, no_se_lee, no_es_dxf, es_binario, danado, demasia
 
 // What is told of a reading besides the drawing.
 struct noticias_dxf {
-    uint64_t linea = 0;                  // where a damaged one is
-    bool sin_final = false;              // it ends before its end, and is there as far as it goes
-    std::optional<int> unidad_ignorada;  // its code; its units were taken for metres
-    uint64_t bytes = 0, visitadas = 0;   // entities and vertices gone through, those of each copy of a block
+    uint64_t linea = 0;                 // where a damaged one is
+    bool sin_final = false;             // it ends before its end, and is there as far as it goes
+    std::optional<int> unidad_ignorada; // its code; its units were taken for metres
+    uint64_t bytes = 0, visitadas = 0;  // entities and vertices gone through, those of each copy of a block
 };
 
 // On anything but `bien`, `p` is untouched.

@@ -21,9 +21,7 @@ Punto2D planta(const afin &t, vector3 p) {
 int cuerdas_de(double curvatura) {
     return std::max(2, static_cast<int>(std::ceil(std::fabs(4 * std::atan(curvatura)) / (5 * GRADOS))));
 }
-bool es_arco(const poli_dxf &p, size_t i) {
-    return p.curvaturas[i] != 0 && (i + 1 < p.vertices.size() || p.cerrada);
-}
+bool es_arco(const poli_dxf &p, size_t i) { return p.curvaturas[i] != 0 && (i + 1 < p.vertices.size() || p.cerrada); }
 
 // Puts the entities of model space into layers.
 class expansion {
@@ -148,7 +146,8 @@ class expansion {
     // The image of an ellipse under an affine map, back to half axes at a right angle (Rytz).
     static void pon(capa &c, const elipse_dxf &e, uint32_t color, const afin &t) {
         const vector3 u = t.vector(e.eje), v = t.vector(e.otro);
-        const double giro = 0.5 * std::atan2(2 * (u.x * v.x + u.y * v.y), u.x * u.x + u.y * u.y - v.x * v.x - v.y * v.y);
+        const double giro =
+            0.5 * std::atan2(2 * (u.x * v.x + u.y * v.y), u.x * u.x + u.y * u.y - v.x * v.x - v.y * v.y);
         const double cg = std::cos(giro), sg = std::sin(giro);
         const Punto2D p = {u.x * cg + v.x * sg, u.y * cg + v.y * sg}, q = {v.x * cg - u.x * sg, v.y * cg - u.y * sg};
         const double lp = std::hypot(p.x, p.y), lq = std::hypot(q.x, q.y);

@@ -35,16 +35,13 @@ double barrido_de(double desde, double hasta) {
 }
 
 // Calls con_recta(a, b) or con_arco(arc) with each piece of a polyline.
-template <class R, class A>
-void cada_tramo(const polilinea &p, R &&con_recta, A &&con_arco) {
+template <class R, class A> void cada_tramo(const polilinea &p, R &&con_recta, A &&con_arco) {
     const size_t n = p.vertices.size();
     for (size_t i = 0; i + 1 < n + (p.cerrada && n > 1 ? 1 : 0); ++i) {
         const Punto2D &a = p.vertices[i], &b = p.vertices[(i + 1) % n];
         const double curvatura = i < p.curvaturas.size() ? p.curvaturas[i] : 0;
-        if (curvatura == 0 || !std::isfinite(curvatura))
-            con_recta(a, b);
-        else
-            con_arco(arco_de(a, b, curvatura));
+        if (curvatura == 0 || !std::isfinite(curvatura)) con_recta(a, b);
+        else con_arco(arco_de(a, b, curvatura));
     }
 }
 
@@ -82,12 +79,14 @@ class anillos {
     }
 
   private:
-    // The first one that is near enough, or a new one. Near ones stand in the same square of a grid or in one beside it.
+    // The first one that is near enough, or a new one. Near ones stand in the same square of a grid or in one beside
+    // it.
     size_t nudo_en(const Punto2D &p) {
         const double x = std::floor(p.x / PASO_DE_EXTREMOS), y = std::floor(p.y / PASO_DE_EXTREMOS);
         for (const double i : {x - 1, x, x + 1})
             for (auto n = cuadros_.lower_bound({i, y - 1}); n != cuadros_.end() && n->first <= std::pair{i, y + 1}; ++n)
-                if (std::hypot(nudos_[n->second].x - p.x, nudos_[n->second].y - p.y) <= PASO_DE_EXTREMOS) return n->second;
+                if (std::hypot(nudos_[n->second].x - p.x, nudos_[n->second].y - p.y) <= PASO_DE_EXTREMOS)
+                    return n->second;
         cuadros_.emplace(std::pair{x, y}, nudos_.size());
         nudos_.push_back(p);
         return nudos_.size() - 1;
@@ -114,8 +113,7 @@ size_t contornos_de(const capa &c, double metros) {
     for (const polilinea &p : c.polilineas) {
         if (p.vertices.size() < 2) continue;
         const Punto2D primero = por(p.vertices.front(), metros), ultimo = por(p.vertices.back(), metros);
-        if (p.cerrada || (p.vertices.size() > 2 && p_igual(&primero, &ultimo) == CIERTO))
-            ++n;
+        if (p.cerrada || (p.vertices.size() > 2 && p_igual(&primero, &ultimo) == CIERTO)) ++n;
         else
             sueltas.anade(primero, ultimo,
                           medio_de(p.vertices[p.vertices.size() / 2], p.vertices[(p.vertices.size() - 1) / 2]),
@@ -147,8 +145,8 @@ std::optional<Punto2D> cruce_de(const tramo &s, const tramo &t) {
     return es_extremo(p, s) && es_extremo(p, t) ? std::optional<Punto2D>() : p;
 }
 
-// The crossings of segments, by halving the plane as long as that leaves fewer pairs to look at. A crossing counts where
-// its point lies: each place belongs to one part.
+// The crossings of segments, by halving the plane as long as that leaves fewer pairs to look at. A crossing counts
+// where its point lies: each place belongs to one part.
 class cruces {
   public:
     explicit cruces(tramos todos) : todos_(std::move(todos)) {
@@ -221,7 +219,8 @@ class cruces {
         std::vector<pieza> abajo, arriba;
         for (const pieza &p : piezas) {
             if (p.minimo(eje) <= corte + MARGEN_DE_CAJA) abajo.push_back(p.cortada(eje, corte + MARGEN_DE_CAJA, true));
-            if (p.maximo(eje) >= corte - MARGEN_DE_CAJA) arriba.push_back(p.cortada(eje, corte - MARGEN_DE_CAJA, false));
+            if (p.maximo(eje) >= corte - MARGEN_DE_CAJA)
+                arriba.push_back(p.cortada(eje, corte - MARGEN_DE_CAJA, false));
         }
         piezas = {};
         zona de_abajo = z, de_arriba = z;

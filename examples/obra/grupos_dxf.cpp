@@ -12,7 +12,8 @@ constexpr size_t MAXIMO_CODIGO = 1024; // what is longer is no code, and perhaps
 
 std::string_view sin_blancos(std::string_view s) {
     const size_t desde = s.find_first_not_of(BLANCOS);
-    return desde == std::string_view::npos ? std::string_view() : s.substr(desde, s.find_last_not_of(BLANCOS) + 1 - desde);
+    return desde == std::string_view::npos ? std::string_view()
+                                           : s.substr(desde, s.find_last_not_of(BLANCOS) + 1 - desde);
 }
 
 } // namespace
@@ -55,7 +56,8 @@ bool grupos_dxf::siguiente() {
         // Blank lines may follow the last group.
         const uint64_t aqui = linea_;
         const auto en_blanco = [&] { return valor_.size() <= MAXIMO_CODIGO && sin_blancos(valor_).empty(); };
-        while (en_blanco() && otra_linea(MAXIMO_CODIGO)) {}
+        while (en_blanco() && otra_linea(MAXIMO_CODIGO)) {
+        }
         danado_ = !en_blanco();
         linea_ = aqui;
         return false;

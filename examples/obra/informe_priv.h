@@ -8,8 +8,7 @@
 namespace obra {
 
 // A number as the library's formatting engine writes it: the same on every platform and under every locale.
-template <class... A>
-std::string forma(const char *formato, A... a) {
+template <class... A> std::string forma(const char *formato, A... a) {
     const dueno_ansi t(nousar_formatea(formato, a...));
     return t.get();
 }

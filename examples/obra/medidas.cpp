@@ -19,7 +19,8 @@ double longitud_de_elipse(const elipse &e) {
     }
     if (eje == 0) return 0;
     // The integral is told from the end of the minor axis on.
-    const double k = std::sqrt(1 - (otro / eje) * (otro / eje)), t = std::fmod(desde, 2 * std::numbers::pi) + std::numbers::pi / 2;
+    const double k = std::sqrt(1 - (otro / eje) * (otro / eje)),
+                 t = std::fmod(desde, 2 * std::numbers::pi) + std::numbers::pi / 2;
     return eje * (std::ellint_2(k, t + barrido_de(e.desde, e.hasta)) - std::ellint_2(k, t));
 }
 
@@ -37,8 +38,7 @@ struct tramo {
     }
 };
 
-template <class F>
-void cada_tramo(const polilinea &p, F &&f) {
+template <class F> void cada_tramo(const polilinea &p, F &&f) {
     const size_t n = p.vertices.size();
     for (size_t i = 0; i < n && (i + 1 < n || (p.cerrada && n > 1)); ++i) {
         const double c = i < p.curvaturas.size() && std::isfinite(p.curvaturas[i]) ? p.curvaturas[i] : 0;

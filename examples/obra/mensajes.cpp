@@ -41,10 +41,11 @@ void rellena(vnmensaje *m, const columnas &t) {
 
 } // namespace
 
-#define T(idioma, texto) {idioma, VNU(texto)}
+#define T(idioma, texto)                                                                                               \
+    { idioma, VNU(texto) }
 #define X(nombre, ...)                                                                                                 \
     void nombre(vnmensaje *m) {                                                                                        \
-        static constexpr columnas TEXTOS = reparte({__VA_ARGS__});                                                       \
+        static constexpr columnas TEXTOS = reparte({__VA_ARGS__});                                                     \
         rellena(m, TEXTOS);                                                                                            \
     }
 #include "mensajes.inl"

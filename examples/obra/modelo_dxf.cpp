@@ -197,8 +197,7 @@ class lector {
                                r_.real(50) * GRADOS, r_.real(44), r_.real(45), r_.entero(70, 1), r_.entero(71, 1)});
         else cuenta(r_.clase);
     }
-    template <class T>
-    void pon(T que, bool en_su_plano = true) {
+    template <class T> void pon(T que, bool en_su_plano = true) {
         destino().entidades.push_back(
             {capa_de(r_.capa), r_.color(COLOR_DE_CAPA), en_su_plano ? r_.normal : vector3{0, 0, 1}, std::move(que)});
     }
@@ -213,9 +212,12 @@ class lector {
     void elipse() {
         const vector3 e = r_.punto(11), n = r_.normal;
         const double modulo = std::hypot(n.x, n.y, n.z), razon = r_.real(40) / (modulo > 0 ? modulo : 1);
-        pon(elipse_dxf{r_.punto(10), e,
-                       {(n.y * e.z - n.z * e.y) * razon, (n.z * e.x - n.x * e.z) * razon, (n.x * e.y - n.y * e.x) * razon},
-                       r_.real(41), r_.real(42, 2 * std::numbers::pi)},
+        pon(elipse_dxf{r_.punto(10),
+                       e,
+                       {(n.y * e.z - n.z * e.y) * razon, (n.z * e.x - n.x * e.z) * razon,
+                        (n.x * e.y - n.y * e.x) * razon},
+                       r_.real(41),
+                       r_.real(42, 2 * std::numbers::pi)},
             false);
     }
     void rotulo() {
@@ -223,7 +225,9 @@ class lector {
         const bool segundo = r_.entero(72) != 0 || r_.entero(r_.clase == "ATTRIB" ? 74 : 73) != 0;
         const int x = segundo ? 11 : 10;
         // An attribute of several lines has them in an object inside it.
-        pon(texto_dxf{{r_.real(x), r_.real(x + 10), r_.real(30)}, r_.real(40), r_.real(50) * GRADOS,
+        pon(texto_dxf{{r_.real(x), r_.real(x + 10), r_.real(30)},
+                      r_.real(40),
+                      r_.real(50) * GRADOS,
                       r_.texto.empty() ? textos().parrafo(r_.texto_empotrado) : textos().sencillo(r_.texto)});
     }
     void parrafo() {

@@ -2,15 +2,15 @@
 //   obra importa PLANO.dxf OBRA [CAMPO=VALOR...]   a drawing into a project file
 //   obra informa OBRA [--sistema ...] [--energia ...] [--idioma N]
 //                                                  what a project file holds, in a system of units and a language
-// A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or left
-// half written.
+// A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or
+// left half written.
 #include "dxf.h"
-#include "foundation/sistema/avisos.h"
-#include "foundation/suelo/error_interno.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/ficheros/vdir.h"
+#include "foundation/sistema/avisos.h"
 #include "foundation/sistema/version.h"
+#include "foundation/suelo/error_interno.h"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/texto/unicode.h"
 #include "informe.h"
 #include "mensajes.h"
 #include "opciones.h"
@@ -81,7 +81,8 @@ int importa(const std::vector<std::string> &args) {
         campos.emplace_back(ancho(args[i].substr(0, igual)), ancho(args[i].substr(igual + 1)));
     }
     if (const int e = comprueba_que_se_lee(dxf); e != 0) return e;
-    if (vdir_existe_directorio_UNICODE(ancho(destino).c_str()) == CIERTO) return falla(destino, di(mensaje::es_directorio));
+    if (vdir_existe_directorio_UNICODE(ancho(destino).c_str()) == CIERTO)
+        return falla(destino, di(mensaje::es_directorio));
     plano p;
     if (const int e = lee_plano(dxf, p); e != 0) return e;
     const size_t barra = dxf.find_last_of("/\\");

@@ -18,8 +18,8 @@ constexpr valor_con_nombre ENERGIAS[] = {{"julio", VORNNORM_UNIDAD_ENERGIA_JULIO
                                          {"kcal", VORNNORM_UNIDAD_ENERGIA_KCAL},
                                          {"btu", VORNNORM_UNIDAD_ENERGIA_BTU}};
 
-template <size_t N>
-bool toma(const valor_con_nombre (&tabla)[N], const std::string &dicho, std::optional<uint32_t> &donde, std::string &validos) {
+template <size_t N> bool toma(const valor_con_nombre (&tabla)[N], const std::string &dicho,
+                              std::optional<uint32_t> &donde, std::string &validos) {
     for (const auto &[nombre, valor] : tabla) {
         if (dicho == nombre) donde = valor;
         validos += (validos.empty() ? "" : ", ") + std::string(nombre);

@@ -4,8 +4,9 @@
 #include "posesion.h"
 #include <utility>
 
-// A file is the full header, the number of sections, the section of the drawing and a section per layer. Kinds that most
-// layers do not have stand in blocks, which a reader may find absent; colours and bulges, nearly always flat, are run-coded.
+// A file is the full header, the number of sections, the section of the drawing and a section per layer. Kinds that
+// most layers do not have stand in blocks, which a reader may find absent; colours and bulges, nearly always flat, are
+// run-coded.
 
 namespace obra {
 namespace {
@@ -15,8 +16,7 @@ dueno_puntos puntos_de(size_t n) { return dueno_puntos(arr_CreaPunto2D(static_ca
 dueno_doubles doubles_de(size_t n) { return dueno_doubles(arr_CreaDouble(static_cast<uint32_t>(n))); }
 
 // Arrays of the library out of what `saca(i)` gives for each index.
-template <class F>
-dueno_puntos puntos(size_t n, F saca) {
+template <class F> dueno_puntos puntos(size_t n, F saca) {
     dueno_puntos a = puntos_de(n);
     for (size_t i = 0; i < n; ++i) {
         const Punto2D p = saca(i);
@@ -24,8 +24,7 @@ dueno_puntos puntos(size_t n, F saca) {
     }
     return a;
 }
-template <class F>
-dueno_doubles doubles(size_t n, F saca) {
+template <class F> dueno_doubles doubles(size_t n, F saca) {
     dueno_doubles a = doubles_de(n);
     for (size_t i = 0; i < n; ++i) arr_SetDouble(a.get(), static_cast<uint32_t>(i), saca(i));
     return a;
@@ -33,12 +32,14 @@ dueno_doubles doubles(size_t n, F saca) {
 
 void graba_colores(const colores &c, vornsave *s) {
     const double MEDIO_COLOR = 0.5; // colours are whole numbers
-    vornsave_graba_arr_double_con_valores_iguales(doubles(c.size(), [&](size_t i) { return c[i]; }).get(), MEDIO_COLOR, s);
+    vornsave_graba_arr_double_con_valores_iguales(doubles(c.size(), [&](size_t i) { return c[i]; }).get(), MEDIO_COLOR,
+                                                  s);
 }
 
 void graba_lineas(const capa &c, vornsave *s) {
     vornsave_graba_arr_puntos2D(
-        puntos(2 * c.lineas.size(), [&](size_t i) { return i % 2 == 0 ? c.lineas[i / 2].a : c.lineas[i / 2].b; }).get(), s);
+        puntos(2 * c.lineas.size(), [&](size_t i) { return i % 2 == 0 ? c.lineas[i / 2].a : c.lineas[i / 2].b; }).get(),
+        s);
     graba_colores(c.color_lineas, s);
 }
 
@@ -74,7 +75,8 @@ void graba_polilineas(const capa &c, vornsave *s) {
     vornsave_graba_arr_ulong(cuantos.get(), s);
     vornsave_graba_arr_uchar(cerradas.get(), s);
     vornsave_graba_arr_puntos2D(puntos(vertices.size(), [&](size_t i) { return vertices[i]; }).get(), s);
-    vornsave_graba_arr_double_con_valores_iguales(doubles(curvaturas.size(), [&](size_t i) { return curvaturas[i]; }).get(), 0, s);
+    vornsave_graba_arr_double_con_valores_iguales(
+        doubles(curvaturas.size(), [&](size_t i) { return curvaturas[i]; }).get(), 0, s);
     graba_colores(c.color_polilineas, s);
 }
 
@@ -82,7 +84,10 @@ void graba_elipses(const capa &c, vornsave *s) {
     if (c.elipses.empty()) return;
     vornsave_graba_inicio_bloque("ELIPSES", s);
     vornsave_graba_arr_puntos2D(
-        puntos(2 * c.elipses.size(), [&](size_t i) { return i % 2 == 0 ? c.elipses[i / 2].centro : c.elipses[i / 2].eje; }).get(), s);
+        puntos(2 * c.elipses.size(),
+               [&](size_t i) { return i % 2 == 0 ? c.elipses[i / 2].centro : c.elipses[i / 2].eje; })
+            .get(),
+        s);
     vornsave_graba_arr_double(doubles(3 * c.elipses.size(),
                                       [&](size_t i) {
                                           const elipse &e = c.elipses[i / 3];
@@ -228,7 +233,8 @@ void lee_polilineas(capa &c, vornsave *s) {
         const size_t k = arr_GetULong(cuantos.get(), i);
         exige(k <= vertices.size() - desde, "num_vertices_polilinea <= num_vertices");
         const auto d = static_cast<std::ptrdiff_t>(desde), h = static_cast<std::ptrdiff_t>(desde + k);
-        c.polilineas.push_back({arr_GetUChar(cerradas.get(), i) != 0, {vertices.begin() + d, vertices.begin() + h},
+        c.polilineas.push_back({arr_GetUChar(cerradas.get(), i) != 0,
+                                {vertices.begin() + d, vertices.begin() + h},
                                 {curvaturas.begin() + d, curvaturas.begin() + h}});
         desde += k;
     }
@@ -376,7 +382,8 @@ class guardado {
     bool abierto() const { return f_ != nullptr; }
     vnfichero *fichero() const { return f_; }
     bool cierra() {
-        return vornbin_cierra_fichero_abierto_para_escritura_u(std::exchange(f_, nullptr), nombre_.c_str(), nullptr) == CIERTO;
+        return vornbin_cierra_fichero_abierto_para_escritura_u(std::exchange(f_, nullptr), nombre_.c_str(), nullptr) ==
+               CIERTO;
     }
 
   private:

@@ -27,8 +27,8 @@ inline constexpr const char *FIRMA = "OBRA-PLANO";
 
 enum class lectura_obra { bien, no_es_obra, version_superior };
 
-// Saves over `nombre`, whose named fields are kept; those given are added or take their new value. False on any failure,
-// which has been reported; the old file is then as it was.
+// Saves over `nombre`, whose named fields are kept; those given are added or take their new value. False on any
+// failure, which has been reported; the old file is then as it was.
 bool graba_obra(const texto &nombre, const plano &p, const texto &titulo, const campos_t &campos);
 // On anything but `bien`, `o` is untouched; `motivo` then says which check of the file failed, UTF-8.
 lectura_obra lee_obra(const texto &nombre, obra_leida &o, std::string &motivo);

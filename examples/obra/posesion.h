@@ -1,21 +1,17 @@
 // Owners of the library's handles: each is given back when its owner goes.
 #pragma once
 
+#include "foundation/ficheros/lc_fichero.h"
 #include "foundation/listas/arr.h"
 #include "foundation/texto/cad.h"
-#include "foundation/ficheros/lc_fichero.h"
 #include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
 #include <memory>
 
 namespace obra {
 
-template <auto DESTRUYE>
-struct suelta {
-    template <class T>
-    void operator()(T *p) const {
-        DESTRUYE(&p);
-    }
+template <auto DESTRUYE> struct suelta {
+    template <class T> void operator()(T *p) const { DESTRUYE(&p); }
 };
 inline void destruye_ancho(vnwchar **p) { widestr_destruye(p); }
 inline void cierra(vnfichero **f) { lc_fclose_seguro(*f); }

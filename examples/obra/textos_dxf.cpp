@@ -62,7 +62,9 @@ codigo con_por_cientos(const texto &s, size_t i) {
     case 'c': return {texto(1, vnwchar{0x2205}), 3}; // diameter
     case 'd': return {texto(1, vnwchar{0x00B0}), 3}; // degree
     case 'p': return {texto(1, vnwchar{0x00B1}), 3}; // plus or minus
-    case 'u': case 'o': case 'k': return {{}, 3};    // a line under, over or through
+    case 'u':
+    case 'o':
+    case 'k': return {{}, 3}; // a line under, over or through
     case '%': return {texto(1, vnwchar{'%'}), 3};
     default: break;
     }

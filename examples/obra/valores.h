@@ -6,8 +6,8 @@
 
 namespace obra {
 
-// Number and unit of a value of one of the library's types, in its internal unit (metres, square metres). Lengths of the
-// imperial system are in feet and inches. What is too small for `decimales` takes more.
+// Number and unit of a value of one of the library's types, in its internal unit (metres, square metres). Lengths of
+// the imperial system are in feet and inches. What is too small for `decimales` takes more.
 std::string valor_de(double valor, uint32_t tipo, int decimales);
 std::string longitud(double metros);
 std::string area(double metros_cuadrados);

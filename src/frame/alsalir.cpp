@@ -1,13 +1,13 @@
 #define VN_MODULO "alsalir (NUCLEOS.DLL)"
 #include "frame/alsalir.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr.h"
-#include "foundation/texto/cad.h"
+#include "foundation/sistema/vnmutex.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/contexto.h"
 #include "foundation/suelo/propio_int.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/suelo/vnatexit.h"
-#include "foundation/sistema/vnmutex.h"
+#include "foundation/texto/cad.h"
+#include "foundation/texto/unicode.h"
 #include "foundation/texto/widestr.h"
 #include <atomic>
 
@@ -36,22 +36,21 @@ namespace vn {
 // Not of the unnamed namespace: the compiler knows the three calls and would take the check of the mutex away.
 vnmutex *alsalir_mutex_entra(std::atomic<vnmutex *> *mutex, const vnwchar *nombre, const char *modulo, uint32_t linea);
 
-// Enters a mutex, which is made first if it is null: of those that threads which meet here make the first one stays. The
-// handle that was entered, or null.
+// Enters a mutex, which is made first if it is null: of those that threads which meet here make the first one stays.
+// The handle that was entered, or null.
 vnmutex *alsalir_mutex_entra(std::atomic<vnmutex *> *mutex, const vnwchar *nombre, const char *modulo, uint32_t linea) {
     if (!AFIRMA_NO_NULO(mutex)) return nullptr;
     vnmutex *m = mutex->load();
     if (m == nullptr) {
         const propio<vnwchar> modulo_u(utunicode_ANSI_a_UNICODE(modulo != nullptr ? modulo : ""));
-        const propio<vnwchar> contexto(
-            copiaforu_nousar_formatea(VNU("[alsalir:i_mutex_entra(%s)] %s(%d)"), nombre, modulo_u.get(), static_cast<int>(linea)));
+        const propio<vnwchar> contexto(copiaforu_nousar_formatea(VNU("[alsalir:i_mutex_entra(%s)] %s(%d)"), nombre,
+                                                                 modulo_u.get(), static_cast<int>(linea)));
         contexto_dentroDeContexto_u(contexto.get());
         vnmutex *nuevo = vnmutex_crea_u(nombre);
         if (mutex->compare_exchange_strong(m, nuevo)) {
             m = nuevo;
             nousar_atexit_anade(limpia_los_mutex, nullptr, modulo, linea);
-        } else
-            vnmutex_destruye(&nuevo);
+        } else vnmutex_destruye(&nuevo);
         contexto_fueraDeContexto_u(contexto.get());
     }
     return vnmutex_entra(m) == CIERTO ? m : nullptr;
@@ -61,8 +60,8 @@ vnmutex *alsalir_mutex_entra(std::atomic<vnmutex *> *mutex, const vnwchar *nombr
 
 namespace {
 
-// Holds one of the mutexes over a registration. When it cannot be had in time the registration is made all the same: not
-// to make it would surely lose the text, and two that meet may lose one.
+// Holds one of the mutexes over a registration. When it cannot be had in time the registration is made all the same:
+// not to make it would surely lose the text, and two that meet may lose one.
 class dentro {
   public:
     dentro(std::atomic<vnmutex *> *mutex, const vnwchar *nombre, const char *modulo, uint32_t linea)
@@ -91,8 +90,7 @@ void limpia_lista(arrPuntero **lista, vnfunc_destruye destructor) {
     arr_DestruyePunteroConTipo(lista);
 }
 
-template <vnfunc_destruye DESTRUCTOR>
-void limpia_cadenas(vnparametros *parametros) {
+template <vnfunc_destruye DESTRUCTOR> void limpia_cadenas(vnparametros *parametros) {
     auto **lista = static_cast<arrPuntero **>(vornspy_parametro_puntero(parametros, 0));
     if (lista != nullptr && *lista != nullptr) limpia_lista(lista, DESTRUCTOR);
 }

@@ -1,12 +1,12 @@
 #define VN_MODULO "calsecbas (NUCLEOS.DLL)"
 #include "geometry/calsecbas.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
 #include <algorithm>
 #include <cmath>
 
-double calsecbas_angulo_giro_entre_ejes_yz_y_ejes_principales(double Iy, double Iz, vnbool signo_positivo,
-                                                              double Imax, double Imin) {
+double calsecbas_angulo_giro_entre_ejes_yz_y_ejes_principales(double Iy, double Iz, vnbool signo_positivo, double Imax,
+                                                              double Imin) {
     // Principal moments that differ by less are equal: every axis is principal.
     constexpr double precision = 1e-10;
     if (!AFIRMA_LOGICO(signo_positivo) || !AFIRMA(Imax + precision > Imin)) return 0.;

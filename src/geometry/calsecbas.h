@@ -10,8 +10,8 @@ VN_C_INICIO
    of (Iy - Iz) / (Imax - Imin), negative when `signo_positivo` is FALSO. The moments are in one unit;
    principal ones that are equal to 1e-10 give 0, and `Imax` below `Imin` is reported and gives 0. A quotient
    that rounding has put beyond 1 counts as 1. */
-double calsecbas_angulo_giro_entre_ejes_yz_y_ejes_principales(double Iy, double Iz, vnbool signo_positivo,
-                                                              double Imax, double Imin);
+double calsecbas_angulo_giro_entre_ejes_yz_y_ejes_principales(double Iy, double Iz, vnbool signo_positivo, double Imax,
+                                                              double Imin);
 
 VN_C_FIN
 

@@ -1,8 +1,8 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 #include "geometry/ejes2d.h"
+#include "foundation/numeros/mt.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/logico_int.h"
-#include "foundation/numeros/mt.h"
 #include "foundation/suelo/vornspy.h"
 #include "geometry/ejes2d_priv.h"
 #include <cmath>
@@ -11,8 +11,7 @@ using namespace vn;
 
 namespace {
 
-template <class T>
-T *nuevo(const T &valor) {
+template <class T> T *nuevo(const T &valor) {
     T *p = static_cast<T *>(vornspy_malloc(sizeof(T)));
     *p = valor;
     return p;
@@ -49,8 +48,7 @@ marco a_local(const marco &base, const marco &global) {
 // Cosine and sine of an angle in degrees, and a vector turned by it toward another.
 struct giro {
     double coseno, seno;
-    explicit giro(double grados)
-        : coseno(std::cos(grados * PI / 180.0)), seno(std::sin(grados * PI / 180.0)) {}
+    explicit giro(double grados) : coseno(std::cos(grados * PI / 180.0)), seno(std::sin(grados * PI / 180.0)) {}
     Punto3D operator()(Punto3D a, Punto3D hacia) const { return coseno * a + seno * hacia; }
 };
 
@@ -140,8 +138,7 @@ vnbool ejes2d_son_ejes_iguales(UV_DE(1), UV_DE(2)) {
 }
 
 vnbool ejes2d_son_paralelos(UV_DE(1), UV_DE(2), double precision) {
-    return logico(
-        paralelos({{}, {Ux1, Uy1, Uz1}, {Vx1, Vy1, Vz1}}, {{}, {Ux2, Uy2, Uz2}, {Vx2, Vy2, Vz2}}, precision));
+    return logico(paralelos({{}, {Ux1, Uy1, Uz1}, {Vx1, Vy1, Vz1}}, {{}, {Ux2, Uy2, Uz2}, {Vx2, Vy2, Vz2}}, precision));
 }
 
 vnbool ejes2d_son_ejes_orientados_en_la_misma_direccion(UV_DE(1), UV_DE(2), double precision) {

@@ -1,8 +1,8 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Axes out of points, vectors and angles; the equation of their plane.
-#include "geometry/ejes2d.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/numeros/mt.h"
+#include "foundation/suelo/afirma_int.h"
+#include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <cmath>
 
@@ -36,10 +36,11 @@ marco marco_de_tres_puntos(Punto3D p1, Punto3D p2, Punto3D p3) {
     return m;
 }
 
-// The horizontal vector square to `w`, as drawing exchange chooses the x axis of a plane from its normal (arbitrary-axis
-// rule), with this module's own tolerance.
+// The horizontal vector square to `w`, as drawing exchange chooses the x axis of a plane from its normal
+// (arbitrary-axis rule), with this module's own tolerance.
 Punto3D horizontal_de(Punto3D w) {
-    if (std::fabs(w.x) < PRECISION_VERTICAL && std::fabs(w.y) < PRECISION_VERTICAL) return {w.z > 0. ? 1. : -1., 0., 0.};
+    if (std::fabs(w.x) < PRECISION_VERTICAL && std::fabs(w.y) < PRECISION_VERTICAL)
+        return {w.z > 0. ? 1. : -1., 0., 0.};
     Punto3D u{-w.y, w.x, 0.};
     mt_pasar_a_unitario_2D(&u.x, &u.y);
     return u;
@@ -60,7 +61,8 @@ double angulo_de_giro(double radianes) {
 void ejes2d_ejes_con_dos_puntos(double x1, double y1, double z1, double x2, double y2, double z2, SALIDAS_EJES) {
     if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
     marco m{{x1, y1, z1}, {}, {}};
-    if (mt_vector_director_de_dos_puntos_3D(x1, y1, z1, x2, y2, z2, &m.u.x, &m.u.y, &m.u.z) != CIERTO) m.u = {1., 0., 0.};
+    if (mt_vector_director_de_dos_puntos_3D(x1, y1, z1, x2, y2, z2, &m.u.x, &m.u.y, &m.u.z) != CIERTO)
+        m.u = {1., 0., 0.};
     mt_calcular_ejes_segun_vector_x_local(m.u.x, m.u.y, m.u.z, &m.v.x, &m.v.y, &m.v.z, nullptr, nullptr, nullptr);
     A_SALIDAS(m);
 }
@@ -130,7 +132,8 @@ void ejes2d_ejes_horizontales_a_partir_de_ecuacion_del_plano(double A, double B,
     vn::da(Xo, Yo, Zo, -D * Punto3D{A, B, C});
 }
 
-void ejes2d_eje_V_horizontal_a_partir_del_vector_U(double Ux, double Uy, double Uz, double *Vx, double *Vy, double *Vz) {
+void ejes2d_eje_V_horizontal_a_partir_del_vector_U(double Ux, double Uy, double Uz, double *Vx, double *Vy,
+                                                   double *Vz) {
     vn::da(Vx, Vy, Vz, horizontal_de({Ux, Uy, Uz}));
 }
 
@@ -139,7 +142,8 @@ void ejes2d_eje_V_horizontal_a_partir_del_vector_U(double Ux, double Uy, double 
 void ejes2d_ejes_de_angulos_giro_3d(double giro_x, double giro_y, double giro_z, SALIDAS_UV) {
     if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
     const double x = -giro_x * PI / 180.0, y = -giro_y * PI / 180.0, z = -giro_z * PI / 180.0;
-    const double cx = std::cos(x), sx = std::sin(x), cy = std::cos(y), sy = std::sin(y), cz = std::cos(z), sz = std::sin(z);
+    const double cx = std::cos(x), sx = std::sin(x), cy = std::cos(y), sy = std::sin(y), cz = std::cos(z),
+                 sz = std::sin(z);
     // The first two rows of X (Y Z), multiplied out.
     vn::da(Ux, Uy, Uz, {cy * cz, -(cy * sz), sy});
     vn::da(Vx, Vy, Vz, {cx * sz + sx * (sy * cz), cx * cz - sx * (sy * sz), -(sx * cy)});

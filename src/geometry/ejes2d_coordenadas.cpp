@@ -1,16 +1,19 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Points, vectors and lines from global to local and back.
-#include "geometry/ejes2d.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr.h"
 #include "foundation/numeros/vmatr.h"
+#include "foundation/suelo/afirma_int.h"
+#include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <cmath>
 #include <memory>
 
 using namespace vn;
 
-#define MARCO_UV marco{{}, {Ux, Uy, Uz}, {Vx, Vy, Vz}}
+#define MARCO_UV                                                                                                       \
+    marco {                                                                                                            \
+        {}, {Ux, Uy, Uz}, { Vx, Vy, Vz }                                                                               \
+    }
 
 namespace {
 
@@ -42,8 +45,7 @@ void ejes2d_coordenada_2D_a_3D_punto_poligono(EJES, const arrPunto2D *puntos, ui
                                               double *coord_y_3D, double *coord_z_3D) {
     if (!AFIRMA_NO_NULO(puntos) || !EXIGE2(coord_x_3D, coord_y_3D)) return;
     const bool hay = AFIRMA_TEXTO(indice < arr_NumElemsPunto2D(puntos), "indice < num_puntos");
-    da(coord_x_3D, coord_y_3D, coord_z_3D,
-       hay ? MARCO.a_global(arr_GetBufferConstPunto2D(puntos)[indice]) : Punto3D{});
+    da(coord_x_3D, coord_y_3D, coord_z_3D, hay ? MARCO.a_global(arr_GetBufferConstPunto2D(puntos)[indice]) : Punto3D{});
 }
 
 void ejes2d_coordenadas_3D_a_2D(EJES, double x, double y, double z, double precision, double *coord_x_2D,

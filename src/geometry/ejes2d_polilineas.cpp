@@ -1,8 +1,8 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Whole polylines from global to local and back.
-#include "geometry/ejes2d.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr_int.h"
+#include "foundation/suelo/afirma_int.h"
+#include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
 #include <cmath>
@@ -31,8 +31,7 @@ template <class T> struct destruye_array {
 };
 
 // New array with what `f` makes of each point.
-template <class T, class Origen, class F>
-typename familia<T>::array *nueva(std::span<const Origen> puntos, F &&f) {
+template <class T, class Origen, class F> typename familia<T>::array *nueva(std::span<const Origen> puntos, F &&f) {
     // Owned meanwhile: what is done to a point may report.
     std::unique_ptr<typename familia<T>::array, destruye_array<T>> a(
         familia<T>::crea(static_cast<uint32_t>(puntos.size())));

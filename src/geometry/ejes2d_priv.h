@@ -12,10 +12,15 @@
 #define UV double Ux, double Uy, double Uz, double Vx, double Vy, double Vz
 #define SALIDAS_UV double *Ux, double *Uy, double *Uz, double *Vx, double *Vy, double *Vz
 #define SALIDAS_EJES double *Xo, double *Yo, double *Zo, SALIDAS_UV
-#define MARCO_DE(s) vn::marco{{Xo##s, Yo##s, Zo##s}, {Ux##s, Uy##s, Uz##s}, {Vx##s, Vy##s, Vz##s}}
-#define MARCO vn::marco{{Xo, Yo, Zo}, {Ux, Uy, Uz}, {Vx, Vy, Vz}}
-#define A_SALIDAS(m)                                                                                                   \
-    (vn::da(Xo, Yo, Zo, (m).o), vn::da(Ux, Uy, Uz, (m).u), vn::da(Vx, Vy, Vz, (m).v))
+#define MARCO_DE(s)                                                                                                    \
+    vn::marco {                                                                                                        \
+        {Xo##s, Yo##s, Zo##s}, {Ux##s, Uy##s, Uz##s}, { Vx##s, Vy##s, Vz##s }                                          \
+    }
+#define MARCO                                                                                                          \
+    vn::marco {                                                                                                        \
+        {Xo, Yo, Zo}, {Ux, Uy, Uz}, { Vx, Vy, Vz }                                                                     \
+    }
+#define A_SALIDAS(m) (vn::da(Xo, Yo, Zo, (m).o), vn::da(Ux, Uy, Uz, (m).u), vn::da(Vx, Vy, Vz, (m).v))
 
 namespace vn {
 

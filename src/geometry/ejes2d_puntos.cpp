@@ -1,9 +1,9 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Axes out of a list of points.
-#include "geometry/ejes2d.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
+#include "foundation/suelo/afirma_int.h"
+#include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
 #include <cfloat>
@@ -30,7 +30,8 @@ bool apartados(Punto3D a, Punto3D b, double precision) {
     return std::fabs(a.x - b.x) > precision || std::fabs(a.y - b.y) > precision || std::fabs(a.z - b.z) > precision;
 }
 
-// Whether they do not coincide: unlike the former, what is just at the tolerance counts. Only finite points are distinct.
+// Whether they do not coincide: unlike the former, what is just at the tolerance counts. Only finite points are
+// distinct.
 bool distintos(Punto3D a, Punto3D b, double precision) {
     const Punto3D d = a - b;
     return std::isfinite(d.x + d.y + d.z) &&
@@ -51,12 +52,14 @@ struct recta {
         return mayor_coordenada(d - escalar(d, u) * u);
     }
     // Whether a point is off the line, by its foot.
-    bool deja_fuera(Punto3D p, double precision) const { return hay && distintos(p, o + escalar(p - o, u) * u, precision); }
+    bool deja_fuera(Punto3D p, double precision) const {
+        return hay && distintos(p, o + escalar(p - o, u) * u, precision);
+    }
 };
 
-// What is known of consecutive points: their box, and a segment that none of them is farther from than `lejos`. How far a
-// point is from a line, along each axis, or from a plane is greatest at an end of a segment, so two figures bound those of
-// all the points.
+// What is known of consecutive points: their box, and a segment that none of them is farther from than `lejos`. How far
+// a point is from a line, along each axis, or from a plane is greatest at an end of a segment, so two figures bound
+// those of all the points.
 struct bloque {
     static constexpr double INF = std::numeric_limits<double>::infinity();
     Punto3D minimo{INF, INF, INF}, maximo{-INF, -INF, -INF}, a, b;
@@ -100,9 +103,9 @@ struct terna {
     Punto3D p1, p2, p3;
 };
 
-// The search for three points that span a plane, from any start around the ring. A start takes time in proportion to the
-// points, and a list on which all of them fail could take its square: once there are blocks, of every size, what cannot
-// serve is stepped over in steps that are few whatever the number of points.
+// The search for three points that span a plane, from any start around the ring. A start takes time in proportion to
+// the points, and a list on which all of them fail could take its square: once there are blocks, of every size, what
+// cannot serve is stepped over in steps that are few whatever the number of points.
 class buscador {
   public:
     buscador(puntos_t puntos, double precision) : p_(puntos), precision_(precision) {}
@@ -120,14 +123,16 @@ class buscador {
         const auto n = static_cast<uint32_t>(p_.size());
         if (n < 3) return false;
         t.p1 = p_[inicio];
-        const uint32_t k2 = primero(inicio, 1, [&](uint32_t i) { return apartados(t.p1, p_[i], precision_); },
-                                    [&](const bloque &b) { return b.ninguno_apartado(t.p1, precision_); });
+        const uint32_t k2 = primero(
+            inicio, 1, [&](uint32_t i) { return apartados(t.p1, p_[i], precision_); },
+            [&](const bloque &b) { return b.ninguno_apartado(t.p1, precision_); });
         if (k2 == n) return false;
         t.p2 = p_[lugar(inicio, k2)];
         const recta r(t.p1, t.p2, precision_);
         if (!r.hay) return false;
-        const uint32_t k3 = primero(inicio, k2, [&](uint32_t i) { return r.deja_fuera(p_[i], precision_); },
-                                    [&](const bloque &b) { return b.todos_alineados(r, precision_); });
+        const uint32_t k3 = primero(
+            inicio, k2, [&](uint32_t i) { return r.deja_fuera(p_[i], precision_); },
+            [&](const bloque &b) { return b.todos_alineados(r, precision_); });
         if (k3 == n) return false;
         t.p3 = p_[lugar(inicio, k3)];
         return true;
@@ -135,8 +140,9 @@ class buscador {
 
     // The first point off the plane from the one given on around the ring; SIN_PUNTO if none is.
     uint32_t fuera_del_plano(uint32_t desde, Punto3D o, Punto3D w, double precision) const {
-        const uint32_t k = primero(desde, 0, [&](uint32_t i) { return !(std::fabs(escalar(p_[i] - o, w)) <= precision); },
-                                   [&](const bloque &b) { return b.todos_en_plano(o, w, precision); });
+        const uint32_t k = primero(
+            desde, 0, [&](uint32_t i) { return !(std::fabs(escalar(p_[i] - o, w)) <= precision); },
+            [&](const bloque &b) { return b.todos_en_plano(o, w, precision); });
         return k < p_.size() ? lugar(desde, k) : SIN_PUNTO;
     }
 
@@ -148,13 +154,12 @@ class buscador {
 
     // The first k, from the one given up to the number of points, for which the point that is k after the start is the
     // one looked for; the number of points if none is.
-    template <class Es, class Ninguno>
-    uint32_t primero(uint32_t inicio, uint32_t k, Es &&es, Ninguno &&ninguno) const {
+    template <class Es, class Ninguno> uint32_t primero(uint32_t inicio, uint32_t k, Es &&es, Ninguno &&ninguno) const {
         const auto n = static_cast<uint32_t>(p_.size());
         while (k < n) {
             const uint32_t i = lugar(inicio, k);
-            // The largest block that begins here and can be stepped over; where a smaller one cannot, none can. The last
-            // one may reach past the end of the ring, over points that have been looked at.
+            // The largest block that begins here and can be stepped over; where a smaller one cannot, none can. The
+            // last one may reach past the end of the ring, over points that have been looked at.
             size_t paso = 0, tamano = RAMAS;
             for (auto nivel = niveles_.begin(); nivel != niveles_.end() && i % tamano == 0; ++nivel, tamano *= RAMAS) {
                 if (i / tamano >= nivel->size() || !ninguno((*nivel)[i / tamano])) break;
@@ -221,8 +226,9 @@ bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marc
         terna t;
         Punto3D w;
         if (!b.busca(s, t) || !ejes_de(t, m, w)) continue;
-        // After the first start it does not matter which point is off the plane, and the one that another plane failed at, or
-        // one near it, is likely to be off this one too. What is no number may be stepped over, to be found by the whole pass.
+        // After the first start it does not matter which point is off the plane, and the one that another plane failed
+        // at, or one near it, is likely to be off this one too. What is no number may be stepped over, to be found by
+        // the whole pass.
         if (s > 0)
             if (const uint32_t j = b.fuera_del_plano(testigo, t.p1, w, prec.plano); j != SIN_PUNTO) {
                 testigo = j;
@@ -328,5 +334,6 @@ vnbool ejes2d_existen_tres_puntos_no_lineales_con_precision(const arrPunto3D *pu
 
 vnbool ejes2d_tres_puntos_forman_ejes(double x1, double y1, double z1, double x2, double y2, double z2, double x3,
                                       double y3, double z3) {
-    return recta({x1, y1, z1}, {x2, y2, z2}, PRECISION_PUNTOS).deja_fuera({x3, y3, z3}, PRECISION_PUNTOS) ? CIERTO : FALSO;
+    return recta({x1, y1, z1}, {x2, y2, z2}, PRECISION_PUNTOS).deja_fuera({x3, y3, z3}, PRECISION_PUNTOS) ? CIERTO
+                                                                                                          : FALSO;
 }

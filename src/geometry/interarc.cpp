@@ -1,8 +1,8 @@
 #define VN_MODULO "interarc (NUCLEOS.DLL)"
 #include "geometry/interarc.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -93,18 +93,15 @@ bool corta(const segmento &dado, const curva &c, arrPunto2D *puntos) {
 // tolerance over both circles, and then stands at the x of their lowest point.
 bool eje_radical(const curva &c1, const curva &c2, linea &eje) {
     const double dx = c2.xc - c1.xc, dy = c2.yc - c1.yc, d = mt_distancia(c1.xc, c1.yc, c2.xc, c2.yc);
-    if (d > c1.radio + c2.radio || std::fabs(c1.radio - c2.radio) > d || !(d >= MISMA_COORDENADA))
-        return false;
+    if (d > c1.radio + c2.radio || std::fabs(c1.radio - c2.radio) > d || !(d >= MISMA_COORDENADA)) return false;
     const double potencia = (CUAD(dx) + CUAD(dy) + (c1.radio - c2.radio) * (c1.radio + c2.radio)) / 2.;
     if (std::fabs(dx) < MISMA_COORDENADA) {
         eje = {{0., 1.}, potencia / dy};
         return true;
     }
     const double bajo = std::min(-c1.radio, dy - c2.radio), alto = std::max(c1.radio, dy + c2.radio);
-    if (std::fabs(dy / dx * (alto - bajo)) < MISMA_COORDENADA)
-        eje = {{1., 0.}, (potencia - dy * bajo) / dx};
-    else
-        eje = {{dx / d, dy / d}, potencia / d};
+    if (std::fabs(dy / dx * (alto - bajo)) < MISMA_COORDENADA) eje = {{1., 0.}, (potencia - dy * bajo) / dx};
+    else eje = {{dx / d, dy / d}, potencia / d};
     return true;
 }
 
@@ -126,7 +123,8 @@ bool cortan(const curva &c1, const curva &c2, arrPunto2D *puntos) {
     bool alguno = false;
     for (const Punto2D &p : cortes(eje, c1)) {
         const auto es_el = [&](const Punto2D &q) {
-            return std::fabs(al_segundo.x + q.x - p.x) <= MISMO_PUNTO && std::fabs(al_segundo.y + q.y - p.y) <= MISMO_PUNTO;
+            return std::fabs(al_segundo.x + q.x - p.x) <= MISMO_PUNTO &&
+                   std::fabs(al_segundo.y + q.y - p.y) <= MISMO_PUNTO;
         };
         if (c2.es_arco && std::none_of(del2.begin(), del2.end(), es_el)) continue;
         arr_AppendPunto2D(puntos, c1.xc + p.x, c1.yc + p.y);
@@ -137,18 +135,16 @@ bool cortan(const curva &c1, const curva &c2, arrPunto2D *puntos) {
 
 } // namespace
 
-vnbool mt_interseccion_segmento_circunferencia(double x1, double y1, double x2, double y2, double xc,
-                                               double yc, double radio, arrPunto2D *puntos) {
+vnbool mt_interseccion_segmento_circunferencia(double x1, double y1, double x2, double y2, double xc, double yc,
+                                               double radio, arrPunto2D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
     return corta({x1, y1, x2, y2}, {xc, yc, radio}, puntos) ? CIERTO : FALSO;
 }
 
-vnbool mt_interseccion_segmento_arco(double x1, double y1, double x2, double y2, double xc, double yc,
-                                     double radio, double angulo_inicial, double angulo_final,
-                                     arrPunto2D *puntos) {
+vnbool mt_interseccion_segmento_arco(double x1, double y1, double x2, double y2, double xc, double yc, double radio,
+                                     double angulo_inicial, double angulo_final, arrPunto2D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
-    return corta({x1, y1, x2, y2}, {xc, yc, radio, true, angulo_inicial, angulo_final}, puntos) ? CIERTO
-                                                                                                : FALSO;
+    return corta({x1, y1, x2, y2}, {xc, yc, radio, true, angulo_inicial, angulo_final}, puntos) ? CIERTO : FALSO;
 }
 
 vnbool mt_interseccion_entre_circunferencias(double xc1, double yc1, double radio1, double xc2, double yc2,
@@ -157,9 +153,9 @@ vnbool mt_interseccion_entre_circunferencias(double xc1, double yc1, double radi
     return cortan({xc1, yc1, radio1}, {xc2, yc2, radio2}, puntos) ? CIERTO : FALSO;
 }
 
-vnbool mt_interseccion_entre_arcos(double xc1, double yc1, double radio1, double angulo_inicial1,
-                                   double angulo_final1, double xc2, double yc2, double radio2,
-                                   double angulo_inicial2, double angulo_final2, arrPunto2D *puntos) {
+vnbool mt_interseccion_entre_arcos(double xc1, double yc1, double radio1, double angulo_inicial1, double angulo_final1,
+                                   double xc2, double yc2, double radio2, double angulo_inicial2, double angulo_final2,
+                                   arrPunto2D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
     return cortan({xc1, yc1, radio1, true, angulo_inicial1, angulo_final1},
                   {xc2, yc2, radio2, true, angulo_inicial2, angulo_final2}, puntos)
@@ -168,15 +164,13 @@ vnbool mt_interseccion_entre_arcos(double xc1, double yc1, double radio1, double
 }
 
 vnbool mt_interseccion_elipse_circunferencia(double xc_circunferencia, double yc_circunferencia, double radio,
-                                             double xc_elipse, double yc_elipse, double semieje_x,
-                                             double semieje_y, arrPunto2D *puntos) {
+                                             double xc_elipse, double yc_elipse, double semieje_x, double semieje_y,
+                                             arrPunto2D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
     const double a2 = CUAD(semieje_x), b2 = CUAD(semieje_y), r2 = CUAD(radio);
     double x1, x2, y1, y2;
-    if (!raices(b2 - a2, 0., a2 * (r2 - b2), &x1, &x2) || !raices(a2 - b2, 0., b2 * (r2 - a2), &y1, &y2))
-        return FALSO;
-    const Punto2D ocho[] = {{x1, y1},   {x2, y2},   {x1, y2},   {x2, y1},
-                            {-x1, -y1}, {-x2, -y2}, {-x1, -y2}, {-x2, -y1}};
+    if (!raices(b2 - a2, 0., a2 * (r2 - b2), &x1, &x2) || !raices(a2 - b2, 0., b2 * (r2 - a2), &y1, &y2)) return FALSO;
+    const Punto2D ocho[] = {{x1, y1}, {x2, y2}, {x1, y2}, {x2, y1}, {-x1, -y1}, {-x2, -y2}, {-x1, -y2}, {-x2, -y1}};
     for (const Punto2D &c : {Punto2D{xc_elipse, yc_elipse}, Punto2D{xc_circunferencia, yc_circunferencia}})
         for (const Punto2D &p : ocho) arr_AppendPunto2D(puntos, c.x + p.x, c.y + p.y);
     return CIERTO;

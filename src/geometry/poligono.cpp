@@ -1,8 +1,8 @@
 #define VN_MODULO "poligono (NUCLEOS.DLL)"
 #include "geometry/poligono.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vector_int.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/vornspy.h"
 #include <algorithm>
 #include <cmath>
@@ -47,15 +47,13 @@ int32_t anterior(const poligono_t *pol, int32_t i) { return i > 0 ? i - 1 : pol-
 // ---------------------------------------------------------------- the block
 
 void redimensiona(poligono_t *pol, int32_t n) {
-    pol->vertice =
-        static_cast<vertice *>(vornspy_realloc(pol->vertice, static_cast<size_t>(n) * sizeof(vertice)));
+    pol->vertice = static_cast<vertice *>(vornspy_realloc(pol->vertice, static_cast<size_t>(n) * sizeof(vertice)));
     pol->numVertices = n;
 }
 
 void inserta(poligono_t *pol, int32_t i, const vertice &v) {
     redimensiona(pol, pol->numVertices + 1);
-    std::move_backward(pol->vertice + i, pol->vertice + pol->numVertices - 1,
-                       pol->vertice + pol->numVertices);
+    std::move_backward(pol->vertice + i, pol->vertice + pol->numVertices - 1, pol->vertice + pol->numVertices);
     pol->vertice[i] = v;
     poligono_maximiza_pol(v.x, v.y, pol);
 }
@@ -97,8 +95,7 @@ bool se_puede_quitar(const poligono_t *pol, int32_t i) {
 }
 
 // Takes the vertices for which `sobra` holds, from `vertizq` backwards and from `vertder` onwards.
-void poda_los_que(bool (*sobra)(const poligono_t *, int32_t), poligono_t *pol, int32_t &vertizq,
-                  int32_t &vertder) {
+void poda_los_que(bool (*sobra)(const poligono_t *, int32_t), poligono_t *pol, int32_t &vertizq, int32_t &vertder) {
     while (sobra(pol, vertizq)) {
         if (!AFIRMA(vertizq != vertder)) return;
         quita(pol, vertizq);
@@ -121,9 +118,7 @@ void poda(poligono_t *pol, int32_t vertizq, int32_t vertder) {
 
 // ---------------------------------------------------------------- inside
 
-mt_segmento_t segmento(double x1, double y1, double x2, double y2) {
-    return {x1, y1, x2, y2, 0, 0., 0., 0., 0.};
-}
+mt_segmento_t segmento(double x1, double y1, double x2, double y2) { return {x1, y1, x2, y2, 0, 0., 0., 0., 0.}; }
 
 struct corte_de_rayo {
     bool en_el_borde;
@@ -135,8 +130,7 @@ corte_de_rayo corta_rayo(mt_segmento_t &seg1, const vertice &v1, const vertice &
     mt_segmento_t seg2 = segmento(v1.x, v1.y, v2.x, v2.y);
     mt_calcula_inter_segmentos(&seg1, &seg2);
     const auto es = [](double x, double y, double xe, double ye) { return x == xe && y == ye; };
-    const bool corte1 = es(seg1.x3, seg1.y3, seg1.x1, seg1.y1),
-               corte2 = es(seg1.x4, seg1.y4, seg1.x1, seg1.y1);
+    const bool corte1 = es(seg1.x3, seg1.y3, seg1.x1, seg1.y1), corte2 = es(seg1.x4, seg1.y4, seg1.x1, seg1.y1);
     if (seg1.numcortes == 0) {
         if (seg2.numcortes != 1) {
             AFIRMA(seg2.numcortes == 0);
@@ -148,14 +142,11 @@ corte_de_rayo corta_rayo(mt_segmento_t &seg1, const vertice &v1, const vertice &
     }
     if (seg1.numcortes == 2) return {corte1 || corte2, 0};
     if (corte1) return {true, 0};
-    const bool primero = es(seg1.x3, seg1.y3, seg2.x1, seg2.y1),
-               segundo = es(seg1.x3, seg1.y3, seg2.x2, seg2.y2);
+    const bool primero = es(seg1.x3, seg1.y3, seg2.x1, seg2.y1), segundo = es(seg1.x3, seg1.y3, seg2.x2, seg2.y2);
     if (!primero && !segundo) return {false, 2};
     if (seg2.x1 != seg2.x2) return {false, seg2.x2 > seg2.x1 ? 1 : -1};
-    if (primero)
-        AFIRMA(seg2.y2 > seg1.y1);
-    else
-        AFIRMA(seg2.y1 > seg1.y1);
+    if (primero) AFIRMA(seg2.y2 > seg1.y1);
+    else AFIRMA(seg2.y1 > seg1.y1);
     return {true, 0};
 }
 
@@ -221,12 +212,9 @@ int32_t arista_para(const poligono_t *pol, const vertice &p) {
         const int32_t j = siguiente(pol, i);
         int32_t tapa = arista_que_tapa(pol, p, i);
         if (tapa < 0) tapa = arista_que_tapa(pol, p, j);
-        if (tapa >= 0)
-            i = tapa;
-        else if (lado(pol->vertice[i], pol->vertice[j], p) == lado_t::izquierda)
-            i = anterior(pol, i);
-        else
-            return i;
+        if (tapa >= 0) i = tapa;
+        else if (lado(pol->vertice[i], pol->vertice[j], p) == lado_t::izquierda) i = anterior(pol, i);
+        else return i;
     }
     // After the report: any edge that has the point outside keeps the polygon convex.
     for (int32_t k = 0; k < pol->numVertices; ++k)
@@ -260,15 +248,14 @@ int32_t arista_visible(const poligono_t *pol, const vertice &p) {
 }
 
 // Adds the point as the search over all vertices would, in a time that does not grow with their number but for the move
-// of the block. False, and nothing done, where that search has to be made: figures that it rounds, and a point that sees
-// vertex 0, about which the edge that the search takes decides where the array begins.
+// of the block. False, and nothing done, where that search has to be made: figures that it rounds, and a point that
+// sees vertex 0, about which the edge that the search takes decides where the array begins.
 bool anade_deprisa(poligono_t *pol, const vertice &p) {
     const double ancho = double(std::max(pol->xmax, p.x)) - std::min(pol->xmin, p.x),
                  alto = double(std::max(pol->ymax, p.y)) - std::min(pol->ymin, p.y);
     if (!(ancho * alto <= AREA_EXACTA)) return false;
     const int32_t visible = arista_visible(pol, p);
-    if (visible == NINGUNA)
-        return p.x >= pol->xmin && p.x <= pol->xmax && p.y >= pol->ymin && p.y <= pol->ymax;
+    if (visible == NINGUNA) return p.x >= pol->xmin && p.x <= pol->xmax && p.y >= pol->ymin && p.y <= pol->ymax;
     // The two tangents: all between them goes, what lies on the line of an edge included.
     const vertice *v = pol->vertice;
     int32_t t1 = visible, t2 = visible + 1;
@@ -308,8 +295,7 @@ void anade_fuera(poligono_t *pol, const vertice &p) {
 } // namespace
 
 void poligono_crea_pol(poligono_t *pol) {
-    if (AFIRMA_TEXTO(pol != nullptr, "pol != NULL"))
-        *pol = {0, nullptr, INT32_MAX, INT32_MIN, INT32_MAX, INT32_MIN};
+    if (AFIRMA_TEXTO(pol != nullptr, "pol != NULL")) *pol = {0, nullptr, INT32_MAX, INT32_MIN, INT32_MAX, INT32_MIN};
 }
 
 void poligono_destruye_pol(poligono_t *pol) {
@@ -333,31 +319,18 @@ void poligono_anade_punto_a_poligono_convexo(poligono_t *pol, int32_t x, int32_t
         return;
     const vertice p{x, y};
     switch (pol->numVertices) {
-    case 0:
-        inserta(pol, 0, p);
-        return;
+    case 0: inserta(pol, 0, p); return;
     case 1:
         if (!iguales(p, pol->vertice[0])) inserta(pol, 1, p);
         return;
     case 2:
         switch (lado(pol->vertice[0], pol->vertice[1], p)) {
-        case lado_t::antes:
-            reemplaza(pol, 0, p);
-            return;
-        case lado_t::despues:
-            reemplaza(pol, 1, p);
-            return;
-        case lado_t::entre:
-            return;
-        case lado_t::izquierda:
-            inserta(pol, 2, p);
-            return;
-        case lado_t::derecha:
-            inserta(pol, 1, p);
-            return;
-        default:
-            AFIRMA_DEFECTO();
-            return;
+        case lado_t::antes: reemplaza(pol, 0, p); return;
+        case lado_t::despues: reemplaza(pol, 1, p); return;
+        case lado_t::entre: return;
+        case lado_t::izquierda: inserta(pol, 2, p); return;
+        case lado_t::derecha: inserta(pol, 1, p); return;
+        default: AFIRMA_DEFECTO(); return;
         }
     default:
         if (!anade_deprisa(pol, p) && !poligono_punto_dentro(pol, p)) anade_fuera(pol, p);

@@ -1,10 +1,10 @@
 #define VN_MODULO "polin3d (NUCLEOS.DLL)"
 // Circles, arcs and fillets as points; lists of points.
 #include "geometry/polin3d.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
 #include "geometry/polin3d_priv.h"
 #include <algorithm>
 #include <cmath>
@@ -69,7 +69,8 @@ bool vn::hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool ma
     const Punto3D u1 = direccion(p2, p1), u2 = direccion(p2, p3);
     if (!(distancia(p2, p1) > b.diametro / 2.0) || !(distancia(p2, p3) > b.diametro / 2.0)) return false;
     double angulo_segmentos = angulo_entre(u1, u2);
-    if (!(angulo_segmentos > ANGULO_SIN_ACUERDO) || !(std::fabs(angulo_segmentos - PI) > ANGULO_SIN_ACUERDO)) return false;
+    if (!(angulo_segmentos > ANGULO_SIN_ACUERDO) || !(std::fabs(angulo_segmentos - PI) > ANGULO_SIN_ACUERDO))
+        return false;
 
     Punto3D u, v, w;
     if (!ejes_de_tres(p2, p1, p3, u, v, w)) return false;
@@ -84,7 +85,8 @@ bool vn::hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool ma
     a.hay_centro = true;
 
     const double pasos = std::ceil(std::fabs(barrido) / (num_grados_dibujo_doblado * RADIANES_POR_GRADO));
-    if (!AFIRMA_TEXTO(pasos + 1. > 1., "num_puntos > 1") || !AFIRMA_TEXTO(pasos <= MAXIMO_PASOS, "num_puntos <= MAXIMO_PUNTOS"))
+    if (!AFIRMA_TEXTO(pasos + 1. > 1., "num_puntos > 1") ||
+        !AFIRMA_TEXTO(pasos <= MAXIMO_PASOS, "num_puntos <= MAXIMO_PUNTOS"))
         return false;
     a.puntos.reserve(static_cast<size_t>(pasos) + 1);
     for (double i = 0.; i <= pasos; ++i) {
@@ -100,12 +102,14 @@ arrPunto3D *Pln3D_puntos_circulo(double Xo, double Yo, double Zo, double Ux, dou
     if (!AFIRMA(num_puntos_circulo > 3)) return nullptr;
     const Punto3D o{Xo, Yo, Zo}, u{Ux, Uy, Uz}, v{Vx, Vy, Vz};
     const double radio = diametro / 2., paso = 2. * PI / num_puntos_circulo;
-    return nueva(num_puntos_circulo, [&](uint32_t i) { return o + radio * (std::cos(i * paso) * u + std::sin(i * paso) * v); });
+    return nueva(num_puntos_circulo,
+                 [&](uint32_t i) { return o + radio * (std::cos(i * paso) * u + std::sin(i * paso) * v); });
 }
 
-arrPunto3D *Pln3D_puntos_arco(double x_centro, double y_centro, double z_centro, double x_ini, double y_ini, double z_ini,
-                              double x_fin, double y_fin, double z_fin, double Ux, double Uy, double Uz, double Vx,
-                              double Vy, double Vz, double diametro, uint16_t num_puntos_arco, vnbool arco_complementario) {
+arrPunto3D *Pln3D_puntos_arco(double x_centro, double y_centro, double z_centro, double x_ini, double y_ini,
+                              double z_ini, double x_fin, double y_fin, double z_fin, double Ux, double Uy, double Uz,
+                              double Vx, double Vy, double Vz, double diametro, uint16_t num_puntos_arco,
+                              vnbool arco_complementario) {
     if (!AFIRMA(num_puntos_arco > 3) || !AFIRMA_LOGICO(arco_complementario)) return nullptr;
     const Punto3D centro{x_centro, y_centro, z_centro};
     const Punto3D a = direccion(centro, {x_ini, y_ini, z_ini}), b = direccion(centro, {x_fin, y_fin, z_fin});
@@ -126,11 +130,11 @@ arrPunto3D *Pln3D_puntos_arco(double x_centro, double y_centro, double z_centro,
     });
 }
 
-vnbool Pln3D_se_genera_puntos_acuerdo_entre_tres_puntos(double x1, double y1, double z1, double x2, double y2, double z2,
-                                                        double x3, double y3, double z3, double diametro, double radio,
-                                                        double num_grados_dibujo_doblado, vnbool mantiene_extremos,
-                                                        arrPunto3D **puntos_acuerdo, double *x_centro, double *y_centro,
-                                                        double *z_centro) {
+vnbool Pln3D_se_genera_puntos_acuerdo_entre_tres_puntos(double x1, double y1, double z1, double x2, double y2,
+                                                        double z2, double x3, double y3, double z3, double diametro,
+                                                        double radio, double num_grados_dibujo_doblado,
+                                                        vnbool mantiene_extremos, arrPunto3D **puntos_acuerdo,
+                                                        double *x_centro, double *y_centro, double *z_centro) {
     if (!AFIRMA_LOGICO(mantiene_extremos) || !AFIRMA_NO_NULO(puntos_acuerdo)) return FALSO;
     *puntos_acuerdo = nullptr;
     acuerdo a;
@@ -181,7 +185,8 @@ void Pln3D_GetVerticeMasProximo(const arrPunto3D *puntos, double x, double y, do
         minima = d;
         mas_proximo = i;
     }
-    if (mas_proximo < std::min<size_t>(p.size(), LIMITE_INDICE_VERTICE)) da(x_vertice, y_vertice, z_vertice, p[mas_proximo]);
+    if (mas_proximo < std::min<size_t>(p.size(), LIMITE_INDICE_VERTICE))
+        da(x_vertice, y_vertice, z_vertice, p[mas_proximo]);
 }
 
 double Pln3D_Longitud(const arrPunto3D *puntos) {

@@ -63,8 +63,8 @@ struct salidas_seccion {
     arrPuntero *ejes;
 };
 
-// A section at `origen` with the axes u and v, or, with `V_vertical`, those of their plane whose V is vertical. Leaves its
-// origin for the next one to begin at.
+// A section at `origen` with the axes u and v, or, with `V_vertical`, those of their plane whose V is vertical. Leaves
+// its origin for the next one to begin at.
 void emite_seccion(Punto3D origen, Punto3D u, Punto3D v, bool V_vertical, double diametro, uint16_t num_puntos_circulo,
                    const salidas_seccion &salidas, Punto3D *Xo_ult_cir);
 

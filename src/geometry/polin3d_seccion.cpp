@@ -1,8 +1,8 @@
 #define VN_MODULO "polin3d (NUCLEOS.DLL)"
 // One section of a bent polyline, into every result that is asked for.
-#include "geometry/polin3d.h"
 #include "foundation/suelo/afirma_int.h"
 #include "geometry/ejes2d.h"
+#include "geometry/polin3d.h"
 #include "geometry/polin3d_priv.h"
 
 namespace vn {

@@ -1,10 +1,10 @@
 #define VN_MODULO "polin3d (NUCLEOS.DLL)"
 // Polylines with fillets, and the sections along them.
-#include "geometry/polin3d.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
+#include "foundation/suelo/afirma_int.h"
 #include "geometry/ejes2d.h"
+#include "geometry/polin3d.h"
 #include "geometry/polin3d_priv.h"
 #include <cmath>
 #include <span>
@@ -26,7 +26,8 @@ bool caben(uint64_t num_puntos) { return AFIRMA(num_puntos <= MAXIMO_PUNTOS); }
 std::vector<Punto3D> limpia(std::span<const Punto3D> p, double diametro) {
     std::vector<Punto3D> r;
     for (size_t i = 2; i < p.size(); ++i) {
-        if (!(distancia(p[i - 2], p[i - 1]) > diametro / 2.0) || !(distancia(p[i - 1], p[i]) > diametro / 2.0)) continue;
+        if (!(distancia(p[i - 2], p[i - 1]) > diametro / 2.0) || !(distancia(p[i - 1], p[i]) > diametro / 2.0))
+            continue;
         if (r.empty()) r = {p[i - 2], p[i - 1]};
         r.push_back(p[i]);
     }
@@ -40,7 +41,8 @@ struct opciones {
     uint16_t num_puntos_circulo;
 };
 
-// The chain of sections. Each keeps as much of the U of the one before as its plane allows, so that a bar is not twisted.
+// The chain of sections. Each keeps as much of the U of the one before as its plane allows, so that a bar is not
+// twisted.
 class cadena {
   public:
     cadena(const opciones &o, const salidas_seccion &salidas) : o_(o), salidas_(salidas) {}
@@ -48,8 +50,8 @@ class cadena {
     // False once there are too many points.
     bool recorre(std::span<const Punto3D> p) {
         Punto3D x;
-        mt_calcular_ejes_3D_dados_2_puntos(p[0].x, p[0].y, p[0].z, p[1].x, p[1].y, p[1].z, &x.x, &x.y, &x.z, &u_.x, &u_.y,
-                                           &u_.z, &v_.x, &v_.y, &v_.z);
+        mt_calcular_ejes_3D_dados_2_puntos(p[0].x, p[0].y, p[0].z, p[1].x, p[1].y, p[1].z, &x.x, &x.y, &x.z, &u_.x,
+                                           &u_.y, &u_.z, &v_.x, &v_.y, &v_.z);
         if (!emite(p[0])) return false;
         for (size_t i = 1; i + 1 < p.size(); ++i) {
             acuerdo a;
@@ -68,8 +70,8 @@ class cadena {
         return true;
     }
 
-    // The axes square to the path, which runs against Y1, with U as near as can be to the last one; with V, where the path
-    // runs along U. Three points on a line tell no path: the last axes stay.
+    // The axes square to the path, which runs against Y1, with U as near as can be to the last one; with V, where the
+    // path runs along U. Three points on a line tell no path: the last axes stay.
     void orienta(Punto3D o, Punto3D a, Punto3D b) {
         Punto3D x1, y1, z1, x2, y2, z2;
         if (!ejes_de_tres(o, a, b, x1, y1, z1)) return;
@@ -151,8 +153,8 @@ arrPunto3D *polin3d_puntos_polilinea_con_radios_de_acuerdo(const arrPunto3D *pun
     return array_de(r);
 }
 
-arrPuntero *polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(const arrPunto3D *puntos, double diametro,
-                                                                                double radio,
+arrPuntero *polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(const arrPunto3D *puntos,
+                                                                                double diametro, double radio,
                                                                                 double num_grados_dibujo_doblado,
                                                                                 uint16_t num_puntos_circulo,
                                                                                 arrPunto3D **centros) {

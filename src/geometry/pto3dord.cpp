@@ -1,9 +1,9 @@
 #define VN_MODULO "pto3dord (NUCLEOS.DLL)"
 #include "geometry/pto3dord.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/apunorde.h"
-#include "foundation/suelo/propio_int.h"
 #include "foundation/numeros/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/propio_int.h"
 
 struct pto3dord {
     apunorde *puntos;
@@ -26,8 +26,7 @@ int compara(const Punto3D *p, const Punto3D *q, void *) {
 void destruye(Punto3D **p) { vornspy_free_pp(p, sizeof(Punto3D)); }
 
 Punto3D en_la_rejilla(double x, double y, double z) {
-    return {prec_redondea_decimales(x, PASO), prec_redondea_decimales(y, PASO),
-            prec_redondea_decimales(z, PASO)};
+    return {prec_redondea_decimales(x, PASO), prec_redondea_decimales(y, PASO), prec_redondea_decimales(z, PASO)};
 }
 
 } // namespace

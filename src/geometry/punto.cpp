@@ -1,11 +1,11 @@
 #define VN_MODULO "punto (NUCLEOS.DLL)"
 #include "geometry/punto.h"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/suelo/logico_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vector_int.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -467,10 +467,8 @@ Punto2D *p_cortan_spec_seguro(const Punto2D *p1, const Punto2D *q1, vnbool recta
     const bool a_es_punto = iguales(*p1, *q1), b_es_punto = iguales(*p2, *q2);
     if (a_es_punto && b_es_punto) return nullptr;
     Punto2D *hallado = nullptr;
-    if (a_es_punto)
-        hallado = corte_de_punto(a, b);
-    else if (b_es_punto)
-        hallado = corte_de_punto(b, a);
+    if (a_es_punto) hallado = corte_de_punto(a, b);
+    else if (b_es_punto) hallado = corte_de_punto(b, a);
     return hallado != nullptr ? hallado : corte(a, b);
 }
 

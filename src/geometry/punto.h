@@ -5,9 +5,9 @@
    truth value that is none: a point's operation then gives null, a question FALSO, a number 0, and changes nothing.
    A coordinate that is not a number lies nowhere: questions about it are FALSO, and there is no point to give.
 
-   Two points are the same within p_EPS in each axis; the other tolerances are fixed and stand, each with its use, at the
-   top of punto.cpp. Angles are radians, counter-clockwise from the x axis. A position parameter of the segment s1-s2 is
-   0 at s1 and 1 at s2. */
+   Two points are the same within p_EPS in each axis; the other tolerances are fixed and stand, each with its use, at
+   the top of punto.cpp. Angles are radians, counter-clockwise from the x axis. A position parameter of the segment
+   s1-s2 is 0 at s1 and 1 at s2. */
 #ifndef VN_PUNTO_H
 #define VN_PUNTO_H
 
@@ -18,8 +18,8 @@
 
 VN_C_INICIO
 
-/** Sets the tolerance p_EPS, metres, and returns the one before. Initially 0.00005; one for the whole process, unlocked:
-    who changes it puts it back. */
+/** Sets the tolerance p_EPS, metres, and returns the one before. Initially 0.00005; one for the whole process,
+    unlocked: who changes it puts it back. */
 double p_cambia_eps(double nuevo);
 
 /** A coordinate. */
@@ -89,8 +89,8 @@ vnbool p_contenido(const Punto2D *p, const Punto2D *s1, const Punto2D *s2);
 vnbool p_contenido_recta(const Punto2D *p, const Punto2D *s1, const Punto2D *s2);
 /** Whether `p` lies on the half-line from `s1` through `s2`; one of no length holds its own points only. */
 vnbool p_contenido_semirecta(const Punto2D *p, const Punto2D *s1, const Punto2D *s2);
-/** Whether the perpendicular from `p` meets the segment, its position parameter from -p_EPS to 1 + p_EPS, both included.
-    The margin is of the parameter, not of a length. FALSO when `s1` equals `s2`. */
+/** Whether the perpendicular from `p` meets the segment, its position parameter from -p_EPS to 1 + p_EPS, both
+    included. The margin is of the parameter, not of a length. FALSO when `s1` equals `s2`. */
 vnbool p_normal_corta(const Punto2D *p, const Punto2D *s1, const Punto2D *s2);
 /** New foot of that perpendicular, the same margins excluded; null when it does not meet, or `s1` equals `s2`. */
 Punto2D *p_corte_normal(const Punto2D *p, const Punto2D *s1, const Punto2D *s2);
@@ -99,14 +99,15 @@ Punto2D *p_corte_normal_recta(const Punto2D *p, const Punto2D *s1, const Punto2D
 /** Whether the position parameter of `a` is at most that of `b`. */
 vnbool p_esta_antes_en_recta(const Punto2D *a, const Punto2D *b, const Punto2D *s1, const Punto2D *s2);
 
-/** Whether `p` lies to the right of o to e or on it. The tolerance p_EPS is of an area: distance times the length of o-e,
-    which is first taken ten times longer until an axis of it reaches 1. Equal points are reported
+/** Whether `p` lies to the right of o to e or on it. The tolerance p_EPS is of an area: distance times the length of
+    o-e, which is first taken ten times longer until an axis of it reaches 1. Equal points are reported
     ("puntos_distintos") and the answer is what their direction gives; CIERTO if they have none. */
 vnbool p_lado_recta(const Punto2D *p, const Punto2D *o, const Punto2D *e);
 /** Side of the line through `o` whose unit direction is (coseno, seno): 1 left, 2 right, 0 on it to 1e-6. */
 uint32_t p_lado_punto_respecto_a_recta(const Punto2D *p, const Punto2D *o, double coseno, double seno);
 
-/** Whether two boxes overlap or touch, to p_EPS: low corners `o1` and `o2`, high corners `e1` and `e2`, taken as given. */
+/** Whether two boxes overlap or touch, to p_EPS: low corners `o1` and `o2`, high corners `e1` and `e2`, taken as
+    given. */
 vnbool p_minimax(const Punto2D *o1, const Punto2D *e1, const Punto2D *o2, const Punto2D *e2);
 /** The same for the boxes of corners (x1, y1)-(x2, y2) and (x3, y3)-(x4, y4), any two opposite ones. */
 vnbool p_se_solapan_rectangulos(double x1, double y1, double x2, double y2, double x3, double y3, double x4, double y4);
@@ -119,17 +120,17 @@ vnbool p_son_segmentos_paralelos(const Punto2D *p1, const Punto2D *q1, const Pun
 vnbool p_seg_corta_dentro_rect(const Punto2D *a, const Punto2D *b, const Punto2D *c, const Punto2D *d,
                                vnbool solo_enteros);
 
-/** New crossing of the segments p1-q1 and p2-q2, or null. Parallel ones (p_son_segmentos_paralelos) cross only where two
-    ends are equal, in the middle of both ends; others where they meet, an end within p_EPS included. */
+/** New crossing of the segments p1-q1 and p2-q2, or null. Parallel ones (p_son_segmentos_paralelos) cross only where
+    two ends are equal, in the middle of both ends; others where they meet, an end within p_EPS included. */
 Punto2D *p_cortan(const Punto2D *p1, const Punto2D *q1, const Punto2D *p2, const Punto2D *q2);
 /** The same where a piece may be the whole line through its points: `recta1`, `recta2`. */
 Punto2D *p_cortan_spec(const Punto2D *p1, const Punto2D *q1, vnbool recta1, const Punto2D *p2, const Punto2D *q2,
                        vnbool recta2);
-/** As p_cortan and p_cortan_spec, where a piece may also be a point (its ends equal), which crosses where it lies on the
-    other one; two points never cross. */
+/** As p_cortan and p_cortan_spec, where a piece may also be a point (its ends equal), which crosses where it lies on
+    the other one; two points never cross. */
 Punto2D *p_cortan_seguro(const Punto2D *p1, const Punto2D *q1, const Punto2D *p2, const Punto2D *q2);
-Punto2D *p_cortan_spec_seguro(const Punto2D *p1, const Punto2D *q1, vnbool recta1, const Punto2D *p2,
-                              const Punto2D *q2, vnbool recta2);
+Punto2D *p_cortan_spec_seguro(const Punto2D *p1, const Punto2D *q1, vnbool recta1, const Punto2D *p2, const Punto2D *q2,
+                              vnbool recta2);
 
 /** The angle in [0, full turn), by whole turns, in bounded time for any number; 0 for one that is not finite. See
     mt_filtra_angulo_mayor_que_cero. */
@@ -141,9 +142,9 @@ double p_angulo_recta(const Punto2D *p, const Punto2D *q);
 /** Whether `a` lies in the range that turns counter-clockwise from `a1`, excluded, to `a2`, included. */
 vnbool p_entre_angulos(double a1, double a, double a2);
 
-/** Turns the point (x, y), the anchor `posicion` of a box of `ancho` by `alto` turned by (coseno, seno), into the point of
-    its anchor `otra_posicion`. Anchors by rows from below, from the left: 1 2 3, 4 5 6, 7 8 9; 0 is 5. Another one is
-    reported and changes nothing. */
+/** Turns the point (x, y), the anchor `posicion` of a box of `ancho` by `alto` turned by (coseno, seno), into the point
+    of its anchor `otra_posicion`. Anchors by rows from below, from the left: 1 2 3, 4 5 6, 7 8 9; 0 is 5. Another one
+    is reported and changes nothing. */
 void p_coordenadas_en_otra_posicion(double x, double y, VN_RANGO(0, 9) uint32_t posicion, double ancho, double alto,
                                     double coseno, double seno, VN_RANGO(0, 9) uint32_t otra_posicion,
                                     VN_SALIDA double *otra_pos_x, VN_SALIDA double *otra_pos_y);

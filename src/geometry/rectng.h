@@ -1,13 +1,15 @@
 /* Rectangles with sides along the axes: the running extent of a drawing, a clip box, a strip of a plan.
 
    A rectangle is reset (no extent yet) or calculated. It is a heap record, the caller's, who destroys it. A broken
-   condition is reported and the operation does its work all the same; on a null rectangle it gives the neutral result. */
+   condition is reported and the operation does its work all the same; on a null rectangle it gives the neutral
+   result. */
 #ifndef VN_RECTNG_H
 #define VN_RECTNG_H
 
 #include "../foundation/listas/arr.h"
 
-/** A rectangle. With `calculados`, xmin <= xmax and ymin <= ymax; reset, they are the extremes of the type, inverted. */
+/** A rectangle. With `calculados`, xmin <= xmax and ymin <= ymax; reset, they are the extremes of the type,
+    inverted. */
 typedef struct rectangulo_t {
     double xmin, ymin, xmax, ymax;
     vnbool calculados; /**< the limits are a real extent */
@@ -53,14 +55,16 @@ void rec_TraladaRectangulos(arrPuntero *rectangulos, double dx, double dy);
 void rec_MaximizaPunto(rectangulo_t *rec, double x, double y);
 /** Widens a calculated rectangle in y only. A reset one cannot be begun so: it is reported, and stays. */
 void rec_MaximizaY(rectangulo_t *rec, double y);
-/** Widens `rec1`, which may be reset, to hold `rec2`, which is calculated; a reset one is reported, and adds nothing. */
+/** Widens `rec1`, which may be reset, to hold `rec2`, which is calculated; a reset one is reported, and adds
+    nothing. */
 void rec_MaximizaRect(rectangulo_t *rec1, const rectangulo_t *rec2);
 /** New rectangle that holds all those of an array that is not empty; null after a report. */
 rectangulo_t *rec_Envolvente(const arrPuntero *rectangulos);
 /** Moves each side outwards by the amount, which is to be at least 0. */
 void rec_IncrementaAnchos(rectangulo_t *rec, double incremento_a_cada_lado);
-/** Cuts `rec1` down to what it has in common with `rec2`, both calculated; what has nothing in common (rec_ClipRectangulo)
-    is reset. Those apart by no more than the tolerance of that test leave limits that are inverted: reported. */
+/** Cuts `rec1` down to what it has in common with `rec2`, both calculated; what has nothing in common
+    (rec_ClipRectangulo) is reset. Those apart by no more than the tolerance of that test leave limits that are
+    inverted: reported. */
 void rec_RecortaRect(rectangulo_t *rec1, const rectangulo_t *rec2);
 
 /** Whether x, or the point, lies in the rectangle, to 1e-6; FALSO if that is reset. */
@@ -88,23 +92,23 @@ vnbool rec_RectanguloCentradoOrigen(const rectangulo_t *rec, double tolerancia);
 double rec_DistanciaPuntoARectangulo(const rectangulo_t *rec, double x, double y);
 
 /** The part of the segment (x1, y1)-(x2, y2) inside the box, by the algorithm of Liang and Barsky (ACM Transactions on
-    Graphics 3, 1984), exact. A segment wholly inside comes back bit for bit. The outputs, each if asked for, are written
-    only when something is inside; otherwise FALSO. */
+    Graphics 3, 1984), exact. A segment wholly inside comes back bit for bit. The outputs, each if asked for, are
+    written only when something is inside; otherwise FALSO. */
 vnbool rec_clip_linea_liang_barsky(double xmin, double ymin, double xmax, double ymax, double x1, double y1, double x2,
                                    double y2, VN_SALIDA_OPC double *ox1, VN_SALIDA_OPC double *oy1,
                                    VN_SALIDA_OPC double *ox2, VN_SALIDA_OPC double *oy2);
 /** The same on the limits of a rectangle, reset or not. */
 vnbool rec_ClipSegmento(const rectangulo_t *rec, double x1, double y1, double x2, double y2, VN_SALIDA_OPC double *ox1,
                         VN_SALIDA_OPC double *oy1, VN_SALIDA_OPC double *ox2, VN_SALIDA_OPC double *oy2);
-/** The earlier clip, tolerant to 1e-6, whose answer differs: a segment that only runs along a side counts as inside. The
-    outputs receive the ends as given first, whatever the result; an end outside then moves to the side that it crosses.
-    FALSO if the rectangle is reset. */
+/** The earlier clip, tolerant to 1e-6, whose answer differs: a segment that only runs along a side counts as inside.
+    The outputs receive the ends as given first, whatever the result; an end outside then moves to the side that it
+    crosses. FALSO if the rectangle is reset. */
 vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, double x2, double y2,
                                VN_SALIDA_OPC double *ox1, VN_SALIDA_OPC double *oy1, VN_SALIDA_OPC double *ox2,
                                VN_SALIDA_OPC double *oy2);
 
-/** Lengthens each strip of an array (of rectangulo_t) at both ends of its long axis by up to the amount, stopping at any
-    strip in the way. In order: later strips see earlier ones already lengthened. */
+/** Lengthens each strip of an array (of rectangulo_t) at both ends of its long axis by up to the amount, stopping at
+    any strip in the way. In order: later strips see earlier ones already lengthened. */
 void rec_Incrementa_longitudes_sin_solapes(arrPuntero *rectangulos, double incremento_a_cada_lado);
 /** New array of new rectangles, where each group of strips of one direction that are stacked side against side, to
     `tolerancia` (at least 0), is one, their common extent. Null after a report of an array that is empty. */
@@ -119,8 +123,8 @@ uint32_t rectng_calculaPosicionMasCercana(double x, double y, double tolerancia)
 void rectng_calcula_coordenadas_posicion(VN_RANGO(0, 8) uint32_t posicion, double izquierda, double derecha,
                                          double abajo, double arriba, VN_SALIDA double *coord_x,
                                          VN_SALIDA double *coord_y);
-/** Divides the widths of a section on either side of its fixed point: all after it at a left or low position, all before
-    it at a right or high one, by the centre of gravity in the middle. The centre of gravity is to lie within the
+/** Divides the widths of a section on either side of its fixed point: all after it at a left or low position, all
+    before it at a right or high one, by the centre of gravity in the middle. The centre of gravity is to lie within the
     section. Another position is reported and gives zeros. */
 void rectng_AnchosDesdePuntoFijo(double ancho_y, double ancho_z, double coord_y_cdg, double coord_z_cdg,
                                  VN_RANGO(0, 8) uint32_t posicion, VN_SALIDA double *ancho_y_inicial,

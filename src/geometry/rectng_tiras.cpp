@@ -1,7 +1,7 @@
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
 // Arrays of rectangles: moving them, what holds them all, and strips lengthened and condensed.
-#include "geometry/rectng.h"
 #include "foundation/suelo/afirma_int.h"
+#include "geometry/rectng.h"
 #include <cmath>
 #include <memory>
 #include <span>
@@ -96,10 +96,8 @@ bool casi_iguales(double a, double b, double tolerancia) { return a == b || std:
 // Whether two strips of direction `d` stand side against side. The first may have grown over others until it is no
 // longer a strip of that direction itself: its group still is.
 bool son_contiguos(const rectangulo_t &principal, const rectangulo_t &otro, const direccion &d, double tolerancia) {
-    if (d.vertical)
-        AFIRMA_TEXTO(rec_RectanguloVertical(&otro) == CIERTO, "rec_RectanguloVertical(otro) == CIERTO");
-    else
-        AFIRMA_TEXTO(rec_RectanguloVertical(&otro) == FALSO, "rec_RectanguloVertical(otro) == FALSO");
+    if (d.vertical) AFIRMA_TEXTO(rec_RectanguloVertical(&otro) == CIERTO, "rec_RectanguloVertical(otro) == CIERTO");
+    else AFIRMA_TEXTO(rec_RectanguloVertical(&otro) == FALSO, "rec_RectanguloVertical(otro) == FALSO");
     AFIRMA(tolerancia >= 0.);
     if (principal.*d.largo.max + tolerancia < otro.*d.largo.min ||
         otro.*d.largo.max < principal.*d.largo.min - tolerancia)

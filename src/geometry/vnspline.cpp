@@ -1,9 +1,9 @@
 #define VN_MODULO "vnspline (NUCLEOS.DLL)"
 #include "geometry/vnspline.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vector_int.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
 #include <algorithm>
 #include <cmath>
 
@@ -16,27 +16,24 @@ constexpr double PENDIENTE_MAXIMA = 10.;
 // Slope of a direction against the chord.
 double pendiente(double angulo, double angulo_cuerda) {
     double relativo = angulo - angulo_cuerda;
-    if (relativo > MEDIA_VUELTA)
-        relativo -= VUELTA;
-    else if (relativo < -MEDIA_VUELTA)
-        relativo += VUELTA;
+    if (relativo > MEDIA_VUELTA) relativo -= VUELTA;
+    else if (relativo < -MEDIA_VUELTA) relativo += VUELTA;
     const double t = vnstdc_tan(relativo);
     return std::isnan(t) ? 0. : std::clamp(t, -PENDIENTE_MAXIMA, PENDIENTE_MAXIMA);
 }
 
 } // namespace
 
-void vnspline_trazado_tramo_curvo(double x0, double y0, double angulo0, double x1, double y1, double angulo1,
-                                  double *A, double *B, double *C, double *D, double *Ux, double *Uy) {
-    if (!AFIRMA_NO_NULO(A) || !AFIRMA_NO_NULO(B) || !AFIRMA_NO_NULO(C) || !AFIRMA_NO_NULO(D) ||
-        !AFIRMA_NO_NULO(Ux) || !AFIRMA_NO_NULO(Uy))
+void vnspline_trazado_tramo_curvo(double x0, double y0, double angulo0, double x1, double y1, double angulo1, double *A,
+                                  double *B, double *C, double *D, double *Ux, double *Uy) {
+    if (!AFIRMA_NO_NULO(A) || !AFIRMA_NO_NULO(B) || !AFIRMA_NO_NULO(C) || !AFIRMA_NO_NULO(D) || !AFIRMA_NO_NULO(Ux) ||
+        !AFIRMA_NO_NULO(Uy))
         return;
     *A = *B = *C = *D = *Ux = *Uy = 0.;
     double coseno = x1 - x0, seno = y1 - y0;
     const double L = mt_distancia(x0, y0, x1, y1);
     mt_pasar_a_unitario_2D(&coseno, &seno);
-    if (!AFIRMA(vnstdc_fabs(seno) < 1.000000001) || !AFIRMA(vnstdc_fabs(coseno) < 1.000000001) ||
-        !AFIRMA(L > 0.))
+    if (!AFIRMA(vnstdc_fabs(seno) < 1.000000001) || !AFIRMA(vnstdc_fabs(coseno) < 1.000000001) || !AFIRMA(L > 0.))
         return;
     const double angulo_base = vnstdc_atan2(seno, coseno);
     const double t1 = pendiente(angulo0, angulo_base), t2 = pendiente(angulo1, angulo_base);

@@ -11,8 +11,8 @@ VN_C_INICIO
    given, in radians; the slopes against the chord are limited to -10 and 10. Two points that are one are
    reported, and everything is 0. */
 void vnspline_trazado_tramo_curvo(double x0, double y0, double angulo0, double x1, double y1, double angulo1,
-                                  VN_SALIDA double *A, VN_SALIDA double *B, VN_SALIDA double *C,
-                                  VN_SALIDA double *D, VN_SALIDA double *Ux, VN_SALIDA double *Uy);
+                                  VN_SALIDA double *A, VN_SALIDA double *B, VN_SALIDA double *C, VN_SALIDA double *D,
+                                  VN_SALIDA double *Ux, VN_SALIDA double *Uy);
 
 VN_C_FIN
 

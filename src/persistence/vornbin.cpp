@@ -1,7 +1,7 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
 #include "persistence/vornbin.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
 #include "persistence/vornbin_priv.h"
 #include <algorithm>
 #include <cmath>
@@ -44,19 +44,20 @@ template <class T> T lee_despacio(char etiqueta, vnfichero *f) {
 #define DESPACIO(tipo)                                                                                                 \
     template void graba_despacio(tipo, char, vnfichero *);                                                             \
     template tipo lee_despacio(char, vnfichero *);
-DESPACIO(uint8_t) DESPACIO(char) DESPACIO(int16_t) DESPACIO(uint16_t) DESPACIO(int32_t) DESPACIO(uint32_t)
-DESPACIO(int64_t) DESPACIO(uint64_t) DESPACIO(float) DESPACIO(double)
+// clang-format off
+DESPACIO(uint8_t) DESPACIO(char) DESPACIO(int16_t) DESPACIO(uint16_t) DESPACIO(int32_t)
+DESPACIO(uint32_t) DESPACIO(int64_t) DESPACIO(uint64_t) DESPACIO(float) DESPACIO(double)
+// clang-format on
 
 } // namespace vn
 
 #define X(tipo, etiqueta, nombre, graba, lee)                                                                          \
     void graba(tipo dato, vnfichero *f) {                                                                              \
-        if (f != nullptr) [[likely]] vn::directo::graba_##nombre(dato, f);                                             \
+        if (f != nullptr) [[likely]]                                                                                   \
+            vn::directo::graba_##nombre(dato, f);                                                                      \
         else vn::graba_despacio<tipo>(dato, etiqueta, f);                                                              \
     }                                                                                                                  \
-    tipo lee(vnfichero *f) {                                                                                           \
-        return f != nullptr ? vn::directo::lee_##nombre(f) : vn::lee_despacio<tipo>(etiqueta, f);                      \
-    }
+    tipo lee(vnfichero *f) { return f != nullptr ? vn::directo::lee_##nombre(f) : vn::lee_despacio<tipo>(etiqueta, f); }
 VN_BIN_ESCALARES(X)
 X(double, 'd', double, bin_graba_double, bin_lee_double)
 #undef X

@@ -109,7 +109,8 @@ double *bin_lee_double_posible_null_con_posible_error(vnfichero *f, VN_SALIDA vn
                                                       VN_SALIDA vnbool *es_denormal);
 /** New point; a truth value is CIERTO if either coordinate raised it. */
 Punto2D *bin_lee_punto_con_posible_error(vnfichero *f, VN_SALIDA vnbool *es_incorrecto, VN_SALIDA vnbool *es_denormal);
-/** An infinite float is reported. One below the smallest normal one, zero too, resets the floating-point unit and is 0. */
+/** An infinite float is reported. One below the smallest normal one, zero too, resets the floating-point unit and is
+    0. */
 float bin_lee_float_con_posible_error(vnfichero *f);
 
 /** Passes over a value, checked as its reader checks it. */
@@ -166,9 +167,8 @@ vnfichero *vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_
     const vnwchar *nomfich, uint16_t version, const char *firma, const vnwchar *titulo, const arrCADENA_u *nombres,
     const arrCADENA_u *valores, VN_OPC const vnwchar *obra);
 /** Opens for writing with a format prologue and no header. */
-vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(const vnwchar *nomfich,
-                                                                               uint16_t version, const char *firma,
-                                                                               const vnwchar *titulo,
+vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(const vnwchar *nomfich, uint16_t version,
+                                                                               const char *firma, const vnwchar *titulo,
                                                                                VN_OPC const vnwchar *obra);
 /** Opens for writing with neither. */
 vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera(const char *nomfich, VN_OPC const char *obra);
@@ -185,8 +185,8 @@ vnbool vornbin_cierra_fichero_abierto_para_escritura(VN_CONSUME vnfichero *f, co
                                                      VN_OPC const char *obra);
 /** The same, with no word to any list of recent works. */
 vnbool vornbin_cierra_basico_fichero_abierto_para_escritura(VN_CONSUME vnfichero *f, const char *nomfich);
-/** Closes a stream opened for writing and gives the save up: its temporary is removed, the file stays as it was. Another
-    stream is reported and just closed. */
+/** Closes a stream opened for writing and gives the save up: its temporary is removed, the file stays as it was.
+    Another stream is reported and just closed. */
 void vornbin_abandona_fichero_abierto_para_escritura_u(VN_CONSUME vnfichero *f, const vnwchar *nomfich);
 
 /** Opens for reading and passes over the header, if there is one: the stream stands at the data. The two texts are new
@@ -196,8 +196,8 @@ vnfichero *vornbin_abre_fichero_para_lectura_u(const vnwchar *nomfich, VN_SALIDA
 vnfichero *vornbin_abre_fichero_para_lectura_unicode(const vnwchar *nomfich, VN_OPC const vnwchar *obra);
 /** Opens for reading a file with header and prologue. `version_actual` is the newest format version that the caller
     reads, `version_ascii` the last one with texts in the OEM code page. `*titulo` is new. A newer file sets
-    `*version_superior` and is read on; when that is null it is reported, as another signature and an invalid header are,
-    and gives null, with nothing left open and `*titulo` null. */
+    `*version_superior` and is read on; when that is null it is reported, as another signature and an invalid header
+    are, and gives null, with nothing left open and `*titulo` null. */
 vnfichero *vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(
     const vnwchar *nomfich, uint16_t version_actual, const char *firma, VN_OPC const vnwchar *obra,
     VN_SALIDA uint16_t *version, VN_SALIDA vnwchar **titulo, uint16_t version_ascii, VN_SALIDA_OPC vnbool *es_ejemplo,
@@ -223,9 +223,8 @@ vnbool vornbin_es_fichero_vorn_valido(const char *nomfich);
 /** Whether the caller can read the file: header, version and signature. CIERTO copies the ANSI title into `titulo` as
     strncpy does: a title of `tamanyo_titulo` bytes or more fills it without a terminator. FALSO shows the user the
     message that the file is of a newer version, whatever the cause. */
-vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, const char *firma,
-                            uint32_t tamanyo_titulo, VN_SALIDA_OPC VN_LON(tamanyo_titulo) char *titulo,
-                            uint16_t version_ascii);
+vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, const char *firma, uint32_t tamanyo_titulo,
+                            VN_SALIDA_OPC VN_LON(tamanyo_titulo) char *titulo, uint16_t version_ascii);
 /** The same test on a stream at its start, with no message; `*titulo` is a new text, null on FALSO. After CIERTO the
     stream stands at the data. */
 vnbool bin_fichero_valido(vnfichero *f, uint16_t version_actual, const char *firma, VN_SALIDA_OPC char **titulo,
@@ -244,9 +243,9 @@ vnbool vornbin_lee_campos_cabecera_u(const vnwchar *nomfich, VN_SALIDA arrCADENA
 void vornbin_establece_directorio_ejemplos_u(VN_OPC const vnwchar *directorio);
 /** Whether the path begins, in any case, with the directory of the samples. */
 vnbool vornbin_es_directorio_ejemplos(const char *ruta);
-/** Turns a file with a header into a sample, its size unchanged: named fields are blanked, and what a save that died has
-    left is removed. Refused while somebody saves the file. CIERTO when it is done; FALSO, after its report, leaves the
-    file as it was. */
+/** Turns a file with a header into a sample, its size unchanged: named fields are blanked, and what a save that died
+    has left is removed. Refused while somebody saves the file. CIERTO when it is done; FALSO, after its report, leaves
+    the file as it was. */
 vnbool vornbin_marca_fichero_ejemplo_u(const vnwchar *nomfich);
 
 /** Whether the next bytes are those of `id`, without its terminator. On CIERTO the stream stands after them, otherwise,

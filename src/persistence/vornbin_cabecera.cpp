@@ -1,10 +1,10 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
-#include "persistence/vornbin_cabecera_priv.h"
+#include "foundation/sistema/version.h"
+#include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/sistema/version.h"
-#include "foundation/sistema/vnstdc.h"
+#include "persistence/vornbin_cabecera_priv.h"
 #include <algorithm>
 #include <unordered_map>
 #include <utility>
@@ -235,9 +235,7 @@ void graba_mascara_de_ejemplo(vnfichero *f) {
     graba_bytes(f, i_MASCARA_EJEMPLO_VORN, LONGITUD_MASCARA);
 }
 
-fichero abre_para_leer(const vnwchar *nomfich) {
-    return fichero(f_lc_fopen_u(nomfich, VNU("rb"), VN_AQUI));
-}
+fichero abre_para_leer(const vnwchar *nomfich) { return fichero(f_lc_fopen_u(nomfich, VNU("rb"), VN_AQUI)); }
 
 propio<vnwchar> ancho_opcional(const char *texto) {
     return propio<vnwchar>(texto != nullptr ? utunicode_ANSI_a_UNICODE(texto) : nullptr);

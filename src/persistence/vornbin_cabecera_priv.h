@@ -1,8 +1,8 @@
 // The header of a binary file: who wrote it, named fields, the reserved list.
 #pragma once
 
-#include "foundation/listas/arr.h"
 #include "foundation/ficheros/temporal_int.h"
+#include "foundation/listas/arr.h"
 #include "persistence/vornbin_priv.h"
 #include <string>
 #include <string_view>
@@ -48,9 +48,9 @@ class listas_cabecera {
 };
 
 struct cabecera {
-    bool hay = false;       // there is one; without it the stream stands where it stood
-    bool valida = true;     // none, or of a known form and whole
-    bool truncada = false;  // not valid because the file ends inside it or counts more than it holds
+    bool hay = false;      // there is one; without it the stream stands where it stood
+    bool valida = true;    // none, or of a known form and whole
+    bool truncada = false; // not valid because the file ends inside it or counts more than it holds
     bool es_ejemplo = false;
     bool con_listas = false;
     uint8_t forma = 0;

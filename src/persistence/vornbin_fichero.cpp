@@ -1,6 +1,6 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/unicode.h"
 #include "persistence/ultiobra.h"
@@ -31,7 +31,7 @@ bool lee_listas_existentes(const vnwchar *nomfich, listas_cabecera *listas) {
 }
 
 temporal abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra, const arrCADENA_u *nombres,
-                          const arrCADENA_u *valores) {
+                           const arrCADENA_u *valores) {
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
     // Held before the lists are read: no other saver puts fields there in between.
     temporal f = abre_temporal(nomfich);
@@ -147,9 +147,8 @@ vnfichero *vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_
     return vn::abre_con_cabecera_y_prologo(nomfich, version, firma, titulo, nombres, valores, obra);
 }
 
-vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(const vnwchar *nomfich,
-                                                                               uint16_t version, const char *firma,
-                                                                               const vnwchar *titulo,
+vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(const vnwchar *nomfich, uint16_t version,
+                                                                               const char *firma, const vnwchar *titulo,
                                                                                const vnwchar *obra) {
     if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(titulo)) return nullptr;
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
@@ -215,9 +214,11 @@ vnfichero *vornbin_abre_fichero_para_lectura_unicode(const vnwchar *nomfich, con
     return vornbin_abre_fichero_para_lectura_u(nomfich, nullptr, nullptr, nullptr);
 }
 
-vnfichero *vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(
-    const vnwchar *nomfich, uint16_t version_actual, const char *firma, const vnwchar *obra, uint16_t *version,
-    vnwchar **titulo, uint16_t version_ascii, vnbool *es_ejemplo, vnbool *version_superior) {
+vnfichero *vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(const vnwchar *nomfich,
+                                                                         uint16_t version_actual, const char *firma,
+                                                                         const vnwchar *obra, uint16_t *version,
+                                                                         vnwchar **titulo, uint16_t version_ascii,
+                                                                         vnbool *es_ejemplo, vnbool *version_superior) {
     if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(version) || !AFIRMA_NO_NULO(titulo))
         return nullptr;
     *version = 0;
@@ -274,9 +275,10 @@ resultado abre_tras_prologo(const vnwchar *nomfich, uint16_t version_actual, con
 } // namespace
 } // namespace vn
 
-vnfichero *vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(
-    const vnwchar *nomfich, uint16_t version_actual, const char *firma, const vnwchar *obra, uint16_t *version,
-    char **titulo, uint16_t version_ascii) {
+vnfichero *vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(const vnwchar *nomfich,
+                                                                             uint16_t version_actual, const char *firma,
+                                                                             const vnwchar *obra, uint16_t *version,
+                                                                             char **titulo, uint16_t version_ascii) {
     if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(version) || !AFIRMA_NO_NULO(titulo))
         return nullptr;
     *version = 0;
@@ -297,9 +299,11 @@ vnfichero *vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(
     return nullptr;
 }
 
-vnbool vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(
-    const vnwchar *nomfich, uint16_t version_actual, const char *firma, const vnwchar *obra, uint16_t version_ascii,
-    vnfichero **f, uint16_t *version, char **titulo) {
+vnbool vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(const vnwchar *nomfich,
+                                                                            uint16_t version_actual, const char *firma,
+                                                                            const vnwchar *obra, uint16_t version_ascii,
+                                                                            vnfichero **f, uint16_t *version,
+                                                                            char **titulo) {
     if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(version) ||
         !AFIRMA_NO_NULO(titulo))
         return FALSO;

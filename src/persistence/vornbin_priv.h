@@ -77,7 +77,8 @@ namespace directo {
 VN_BIN_ESCALARES(X)
 #undef X
 inline void graba_double(double dato, vnfichero *f) {
-    if (es_numero_valido(dato)) [[likely]] graba_escalar(dato, 'd', f);
+    if (es_numero_valido(dato)) [[likely]]
+        graba_escalar(dato, 'd', f);
     else graba_despacio(dato, 'd', f);
 }
 inline double lee_double(vnfichero *f) { return lee_escalar<double>('d', f); }

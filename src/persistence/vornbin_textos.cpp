@@ -1,9 +1,9 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
-#include "persistence/vornbin.h"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/texto/cad.h"
 #include "foundation/numeros/punto.h"
 #include "foundation/numeros/vncopro.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/cad.h"
+#include "persistence/vornbin.h"
 #include "persistence/vornbin_priv.h"
 #include <cfloat>
 #include <climits>
@@ -128,9 +128,7 @@ vnwchar *bin_lee_cadena_unicode(vnfichero *f) {
     return AFIRMA_NO_NULO(f) ? lee_texto<vnwchar>(toma_longitud<uint32_t>(f), f).release() : nullptr;
 }
 
-char *bin_lee_null(vnfichero *f) {
-    return AFIRMA_NO_NULO(f) && lee_no_es_null(f) ? lee_cadena(f, false) : nullptr;
-}
+char *bin_lee_null(vnfichero *f) { return AFIRMA_NO_NULO(f) && lee_no_es_null(f) ? lee_cadena(f, false) : nullptr; }
 
 char *bin_lee_null_ansi_ascii(vnfichero *f, uint16_t version, uint16_t version_ascii) {
     return AFIRMA_NO_NULO(f) && lee_no_es_null(f) ? lee_cadena(f, version <= version_ascii) : nullptr;

@@ -1,9 +1,9 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr.h"
 #include "foundation/sistema/avisos.h"
-#include "foundation/texto/cad.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 #include "persistence/vornbin_cabecera_priv.h"
 #include "persistence/vornbin_msg_priv.h"
@@ -105,8 +105,8 @@ vnbool bin_fichero_valido(vnfichero *f, uint16_t version_actual, const char *fir
     return CIERTO;
 }
 
-vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, const char *firma,
-                            uint32_t tamanyo_titulo, char *titulo, uint16_t version_ascii) {
+vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, const char *firma, uint32_t tamanyo_titulo,
+                            char *titulo, uint16_t version_ascii) {
     if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma)) return FALSO;
     const vn::fichero f = vn::abre_para_leer(nomfich);
     const vn::propio<char> leido =

@@ -7,9 +7,7 @@ using namespace vn;
 
 namespace {
 
-void destruye_marcas(arrPuntero **marcas) {
-    arr_DestruyeEstructurasST(marcas, i_marca_t, destruye_marca);
-}
+void destruye_marcas(arrPuntero **marcas) { arr_DestruyeEstructurasST(marcas, i_marca_t, destruye_marca); }
 // Frees the object and all that it owns, whatever is still open.
 void destruye_objeto(vornsave **vornsave_datos) {
     vornstr_destruye_opcional(&(*vornsave_datos)->version_programa);
@@ -21,7 +19,8 @@ void destruye_objeto(vornsave **vornsave_datos) {
 
 vornsave *registra(const destino &d, void *datos_destino, vnbool con_comentarios, const char *version_programa,
                    const char *parche_programa) {
-    dueno_cadena version(cad_copia_cadena_opcional(version_programa)), parche(cad_copia_cadena_opcional(parche_programa));
+    dueno_cadena version(cad_copia_cadena_opcional(version_programa)),
+        parche(cad_copia_cadena_opcional(parche_programa));
     std::unique_ptr<arrPuntero, suelta<destruye_marcas>> marcas(arr_CreaPunteroST(0, i_marca_t));
     auto *nuevo = new (vornspy_malloc(sizeof(vornsave))) vornsave{};
     static_cast<operaciones_destino &>(*nuevo) = d.operaciones;
@@ -56,10 +55,8 @@ constexpr fncs_leer_t NADA_LEER{};
 
 vornsave *registra_memoria(void *datos_destino, bool escritura) {
     vornsave *nuevo = registra_de_tipo(FICHMEM, datos_destino);
-    if (escritura)
-        nuevo->fncs_leer = &NADA_LEER;
-    else
-        nuevo->fncs_grabar = &NADA_GRABAR;
+    if (escritura) nuevo->fncs_leer = &NADA_LEER;
+    else nuevo->fncs_grabar = &NADA_GRABAR;
     return nuevo;
 }
 
@@ -75,9 +72,7 @@ bool vn::falla(const vornsave *vornsave_datos) {
     return false;
 }
 
-vornsave *vornsave_registra_bin(vnfichero *f) {
-    return vornsave_registra_bin_con_version(f, nullptr, nullptr);
-}
+vornsave *vornsave_registra_bin(vnfichero *f) { return vornsave_registra_bin_con_version(f, nullptr, nullptr); }
 
 vornsave *vornsave_registra_bin_con_version(vnfichero *f, const char *version_programa, const char *parche_programa) {
     if (!AFIRMA_NO_NULO(f)) return nullptr;
@@ -86,7 +81,9 @@ vornsave *vornsave_registra_bin_con_version(vnfichero *f, const char *version_pr
 
 vornsave *vornsave_registra_txt(vnfichero *f, vnbool con_comentarios) {
     if (!AFIRMA_NO_NULO(f)) return nullptr;
-    if (!AFIRMA(con_comentarios==CIERTO || con_comentarios==FALSO)) return nullptr;
+    if (!AFIRMA_TEXTO(con_comentarios == CIERTO || con_comentarios == FALSO,
+                      "con_comentarios==CIERTO || con_comentarios==FALSO"))
+        return nullptr;
     return registra(*destino_de(TXT, con_comentarios == CIERTO), f, con_comentarios, nullptr, nullptr);
 }
 
@@ -102,9 +99,7 @@ vornsave *vornsave_registra_texto_editable(vnfichero *f) {
     return AFIRMA_NO_NULO(f) ? registra_de_tipo(TEXTO_EDITABLE, f) : nullptr;
 }
 
-vornsave *vornsave_fichmem_para_escritura(void) {
-    return vornsave_fichmem_para_escritura_ex(0);
-}
+vornsave *vornsave_fichmem_para_escritura(void) { return vornsave_fichmem_para_escritura_ex(0); }
 
 vornsave *vornsave_fichmem_para_escritura_ex(uint32_t tamanyo) {
     const destino *d = destino_enlazado(FICHMEM);
@@ -149,22 +144,22 @@ void vornsave_libera(vornsave **vornsave_datos) {
                            "arr_NumElemsPunteroST((*vornsave_datos)->pila_marcas, i_marca_t) == 0", 1);
         break;
     case 1:
-    case 2:
-        break; // a reader that stopped early leaves marks behind
-    default:
-        AFIRMA_DEFECTO();
+    case 2: break; // a reader that stopped early leaves marks behind
+    default: AFIRMA_DEFECTO();
     }
 }
 
 int32_t vornsave_get_posicion(vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return 0;
-    if (!AFIRMA_TEXTO(vornsave_datos->fncptr_get_posicion != nullptr, "(vornsave->fncptr_get_posicion) != NULL")) return 0;
+    if (!AFIRMA_TEXTO(vornsave_datos->fncptr_get_posicion != nullptr, "(vornsave->fncptr_get_posicion) != NULL"))
+        return 0;
     return vornsave_datos->fncptr_get_posicion(vornsave_datos->datos_destino);
 }
 
 void vornsave_set_posicion(vornsave *vornsave_datos, int32_t posicion) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
-    if (!AFIRMA_TEXTO(vornsave_datos->fncptr_set_posicion != nullptr, "(vornsave->fncptr_set_posicion) != NULL")) return;
+    if (!AFIRMA_TEXTO(vornsave_datos->fncptr_set_posicion != nullptr, "(vornsave->fncptr_set_posicion) != NULL"))
+        return;
     vornsave_datos->fncptr_set_posicion(vornsave_datos->datos_destino, posicion);
 }
 

@@ -16,10 +16,10 @@
 #ifndef VN_VORNSAVE_H
 #define VN_VORNSAVE_H
 
-#include "../foundation/listas/acadorde.h"
-#include "../foundation/listas/apunorde.h"
 #include "../foundation/ficheros/fichmem.h"
 #include "../foundation/ficheros/lc_fichero.h"
+#include "../foundation/listas/acadorde.h"
+#include "../foundation/listas/apunorde.h"
 #include "../foundation/suelo/tipos.h"
 
 /** The protocol object. One thread at a time, one direction at a time; the destination stays the caller's. */
@@ -90,15 +90,13 @@ const char *vornsave_dame_parche_programa(const vornsave *vornsave_datos);
  * once. */
 void vornsave_set_tipo_status_lectura(vornsave *vornsave_datos, uint32_t tipo, VN_OPC const vnwchar *texto);
 /** The status, and its text (borrowed, may be null) if `texto` is not null. */
-uint32_t vornsave_get_tipo_status_lectura(const vornsave *vornsave_datos,
-                                          VN_SALIDA_OPC const vnwchar **texto);
+uint32_t vornsave_get_tipo_status_lectura(const vornsave *vornsave_datos, VN_SALIDA_OPC const vnwchar **texto);
 /** From here on texts and chars are read as ANSI if `version` > `version_ascii`, else as old OEM text. */
-void vornsave_set_lectura_ANSI_ASCII_segun_version(vornsave *vornsave_datos, uint32_t version,
-                                                   uint32_t version_ascii);
+void vornsave_set_lectura_ANSI_ASCII_segun_version(vornsave *vornsave_datos, uint32_t version, uint32_t version_ascii);
 /** Whether what follows is a file of this signature, of a version up to `version`; its title, new, through
    `titulo`. Shows no message. */
-vnbool vornsave_fichero_valido(vornsave *vornsave_datos, uint16_t version, uint16_t version_ascii,
-                               const char *firma, VN_SALIDA char **titulo);
+vnbool vornsave_fichero_valido(vornsave *vornsave_datos, uint16_t version, uint16_t version_ascii, const char *firma,
+                               VN_SALIDA char **titulo);
 /** Whether the next bytes are those of `marca`; the position is after them if so, where it was if not. The
    second form is for binary streams only. */
 vnbool vornsave_comprueba_marca_fichero(const char *marca, vornsave *vornsave_datos);
@@ -162,8 +160,7 @@ void vornsave_graba_bool(vnbool valor, vornsave *vornsave_datos);
 vnbool vornsave_lee_bool(vornsave *vornsave_datos);
 void vornsave_salta_bool(vornsave *vornsave_datos);
 /** Truth value that a text destination shows in words: `texto1` for CIERTO, `texto2` for FALSO. */
-void vornsave_graba_bool_con_texto(vnbool valor, vornsave *vornsave_datos, const char *texto1,
-                                   const char *texto2);
+void vornsave_graba_bool_con_texto(vnbool valor, vornsave *vornsave_datos, const char *texto1, const char *texto2);
 vnbool vornsave_lee_bool_con_texto(vornsave *vornsave_datos, const char *texto1, const char *texto2);
 
 /** Character of the ANSI code page. Reading converts old OEM text, by the object's state or by the versions
@@ -210,8 +207,7 @@ void vornsave_salta_enum(vornsave *vornsave_datos);
 void vornsave_graba_double_con_precision(double valor, double paso, vornsave *vornsave_datos);
 /** Reads a double that may be damaged: says whether it was no number, and whether it was denormal; a bad
    value is replaced. */
-double vornsave_lee_double_con_posible_error_en_binario(vornsave *vornsave_datos,
-                                                        VN_SALIDA vnbool *es_incorrecto,
+double vornsave_lee_double_con_posible_error_en_binario(vornsave *vornsave_datos, VN_SALIDA vnbool *es_incorrecto,
                                                         VN_SALIDA vnbool *es_denormal);
 /** Point: x, then y; on the heap when read. The float form reads two floats. */
 void vornsave_graba_punto(const Punto2D *pto, vornsave *vornsave_datos);
@@ -265,8 +261,7 @@ void vornsave_graba_cadena_como_buffer(const char *texto, vornsave *vornsave_dat
 char *vornsave_lee_cadena_como_buffer(vornsave *vornsave_datos);
 /** Bytes as they are; their number is not stored. Reading returns a new block of `tamanyo` + 1 bytes, the
    last 0, to be freed with vornspy_free_pp; null, and reported, where the source does not hold so many. */
-void vornsave_graba_buffer(VN_LON(tamanyo) const void *datos_buffer, uint32_t tamanyo,
-                           vornsave *vornsave_datos);
+void vornsave_graba_buffer(VN_LON(tamanyo) const void *datos_buffer, uint32_t tamanyo, vornsave *vornsave_datos);
 uint8_t *vornsave_lee_buffer(uint32_t tamanyo, vornsave *vornsave_datos);
 void vornsave_salta_buffer(uint32_t tamanyo, vornsave *vornsave_datos);
 /** Memory file. */
@@ -285,14 +280,11 @@ vnwchar *vornsave_lee_cadena_UTF8_opcional(vornsave *vornsave_datos);
 vnwchar *vornsave_lee_cadena_ANSI_a_unicode_opcional(vornsave *vornsave_datos);
 
 /** Optional structures: a truth value and, if there is one, what `funcion` writes or reads. */
-void vornsave_graba_estructura_opcional2(VN_OPC const void *dato, vornsave *vornsave_datos,
-                                         vnfunc_graba_dato funcion);
+void vornsave_graba_estructura_opcional2(VN_OPC const void *dato, vornsave *vornsave_datos, vnfunc_graba_dato funcion);
 void *vornsave_lee_estructura_opcional2(vornsave *vornsave_datos, vnfunc_lee_dato funcion);
-void *vornsave_lee_estructura_opcional2_con_1_dato_extra(vornsave *vornsave_datos,
-                                                         vnfunc_lee_dato_1_extra funcion,
+void *vornsave_lee_estructura_opcional2_con_1_dato_extra(vornsave *vornsave_datos, vnfunc_lee_dato_1_extra funcion,
                                                          VN_DATO void *extra);
-void *vornsave_lee_estructura_opcional2_con_2_dato_extra(vornsave *vornsave_datos,
-                                                         vnfunc_lee_dato_2_extra funcion,
+void *vornsave_lee_estructura_opcional2_con_2_dato_extra(vornsave *vornsave_datos, vnfunc_lee_dato_2_extra funcion,
                                                          VN_DATO void *extra1, VN_DATO void *extra2);
 void vornsave_nousar_salta_estructura_opcional(vornsave *vornsave_datos, vnfunc_salta_dato funcion);
 
@@ -322,8 +314,7 @@ arulong *vornsave_lee_arulong(vornsave *vornsave_datos);
 void vornsave_graba_arulong64(const arulong64 *array, vornsave *vornsave_datos);
 arulong64 *vornsave_lee_arulong64(vornsave *vornsave_datos);
 /** Reads an array of doubles that may be damaged; each output is CIERTO if any element raised it. */
-arrDouble *vornsave_lee_arr_double_con_posible_error(vornsave *vornsave_datos,
-                                                     VN_SALIDA vnbool *es_incorrecto,
+arrDouble *vornsave_lee_arr_double_con_posible_error(vornsave *vornsave_datos, VN_SALIDA vnbool *es_incorrecto,
                                                      VN_SALIDA vnbool *es_denormal);
 /** Arrays of truth values: on a binary stream 2 bytes each. */
 void vornsave_graba_arr_bool(const arrBOOL *array, vornsave *vornsave_datos);
@@ -352,8 +343,7 @@ arrCADENA_u *vornsave_lee_arr_cadenas_unicode(vornsave *vornsave_datos);
 void vornsave_salta_arr_cadena_unicode(vornsave *vornsave_datos);
 /** ANSI texts read as OEM ones unless `version` > `version_ascii`; on a binary stream in the form with null
    elements. ANSI texts read as wide ones. */
-arrCADENA *vornsave_lee_arr_cadenas_ANSI_ASCII(vornsave *vornsave_datos, uint32_t version,
-                                               uint32_t version_ascii);
+arrCADENA *vornsave_lee_arr_cadenas_ANSI_ASCII(vornsave *vornsave_datos, uint32_t version, uint32_t version_ascii);
 arrCADENA_u *vornsave_lee_arr_cadenas_ansi_unicode(vornsave *vornsave_datos);
 /** Arrays of texts whose null elements survive on a binary stream. */
 void vornsave_graba_arr_cadenas_segun_tipo(const arrCADENA *array, vornsave *vornsave_datos);
@@ -365,37 +355,31 @@ void vornsave_graba_acadorde(const acadorde *array, vornsave *vornsave_datos);
 acadorde *vornsave_lee_acadorde(vornsave *vornsave_datos);
 void vornsave_graba_acadordeu(const acadordeu *array, vornsave *vornsave_datos);
 acadordeu *vornsave_lee_acadordeu(vornsave *vornsave_datos);
-void vornsave_graba_acadorde_con_funcion(const acadorde *array, vnfunc_graba_texto funcion,
-                                         vornsave *vornsave_datos);
+void vornsave_graba_acadorde_con_funcion(const acadorde *array, vnfunc_graba_texto funcion, vornsave *vornsave_datos);
 acadorde *vornsave_lee_acadorde_con_funcion(vornsave *vornsave_datos, vnfunc_lee_texto funcion);
 
 /* ---- Arrays of structures ---- */
 
 /** Arrays of pointers: the count, then each element by `funcion`. The reader's first
    report ends the reading; the elements that it returned are in the array. */
-void vornsave_graba_arr_punteros(const arrPuntero *array, vornsave *vornsave_datos,
-                                 vnfunc_graba_dato funcion);
+void vornsave_graba_arr_punteros(const arrPuntero *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion);
 arrPuntero *vornsave_lee_arr_punteros(vornsave *vornsave_datos, vnfunc_lee_dato funcion);
-arrPuntero *vornsave_lee_arr_punteros_con_1_dato_extra(vornsave *vornsave_datos,
-                                                       vnfunc_lee_dato_1_extra funcion, VN_DATO void *extra);
-arrPuntero *vornsave_lee_arr_punteros_con_2_datos_extra(vornsave *vornsave_datos,
-                                                        vnfunc_lee_dato_2_extra funcion, VN_DATO void *extra1,
-                                                        VN_DATO void *extra2);
+arrPuntero *vornsave_lee_arr_punteros_con_1_dato_extra(vornsave *vornsave_datos, vnfunc_lee_dato_1_extra funcion,
+                                                       VN_DATO void *extra);
+arrPuntero *vornsave_lee_arr_punteros_con_2_datos_extra(vornsave *vornsave_datos, vnfunc_lee_dato_2_extra funcion,
+                                                        VN_DATO void *extra1, VN_DATO void *extra2);
 void vornsave_nousar_salta_arr_punteros_ST(vornsave *vornsave_datos, vnfunc_salta_dato funcion);
 /** Arrays of such arrays. */
-void vornsave_graba_arr_punteros_array(const arrPuntero *array, vornsave *vornsave_datos,
-                                       vnfunc_graba_dato funcion);
+void vornsave_graba_arr_punteros_array(const arrPuntero *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion);
 arrPuntero *vornsave_lee_arr_punteros_array(vornsave *vornsave_datos, vnfunc_lee_dato funcion);
 /** Ordered sets of pointers. The reader makes the set with `comparador`, `dato` and `destructor`. */
-void vornsave_nousar_graba_apunorde(const apunorde *array, vornsave *vornsave_datos,
-                                    vnfunc_graba_dato funcion);
+void vornsave_nousar_graba_apunorde(const apunorde *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion);
 apunorde *vornsave_nousar_lee_apunorde(vornsave *vornsave_datos, vnfunc_lee_dato funcion,
                                        vnfunc_compara_con_dato comparador, VN_DATO void *dato,
                                        VN_OPC vnfunc_destruye destructor);
 apunorde *vornsave_nousar_lee_apunorde_con_1_dato_extra(vornsave *vornsave_datos, VN_DATO void *extra,
                                                         vnfunc_lee_dato_1_extra funcion,
-                                                        vnfunc_compara_con_dato comparador,
-                                                        VN_DATO void *dato,
+                                                        vnfunc_compara_con_dato comparador, VN_DATO void *dato,
                                                         VN_OPC vnfunc_destruye destructor);
 
 /* ---- Optional arrays ---- */
@@ -448,14 +432,12 @@ apunorde *vornsave_nousar_lee_apunorde_opcional(vornsave *vornsave_datos, vnfunc
 /** Arrays in groups: a run of equal elements takes the room of one. Doubles within `tolerancia` of the first
    of their run are equal to it and come back as it. What a run may grow to when read is bounded: an array of
    15 MiB plus 8 bytes for each byte of the source; beyond that it is an error of reading. */
-void vornsave_graba_arr_double_con_valores_iguales(const arrDouble *array, double tolerancia,
-                                                   vornsave *vornsave_datos);
+void vornsave_graba_arr_double_con_valores_iguales(const arrDouble *array, double tolerancia, vornsave *vornsave_datos);
 arrDouble *vornsave_lee_arr_double_con_valores_iguales(vornsave *vornsave_datos);
 void vornsave_graba_arr_cadenas_con_valores_iguales(const arrCADENA *array, vornsave *vornsave_datos);
 arrCADENA *vornsave_lee_arr_cadenas_con_valores_iguales(vornsave *vornsave_datos);
 /** The same with null elements, as vornsave_graba_arr_cadenas_segun_tipo. */
-void vornsave_graba_arr_cadenas_con_valores_iguales_segun_tipo(const arrCADENA *array,
-                                                               vornsave *vornsave_datos);
+void vornsave_graba_arr_cadenas_con_valores_iguales_segun_tipo(const arrCADENA *array, vornsave *vornsave_datos);
 arrCADENA *vornsave_lee_arr_cadenas_con_valores_iguales_segun_tipo(vornsave *vornsave_datos);
 
 VN_C_FIN
@@ -464,94 +446,89 @@ VN_C_FIN
 
 /* The functions that the typed forms ask for. */
 #define VN_PRGS_TIPO(tipo, funcion) VN_COMPRUEBA_TIPO(void (*)(tipo *, uint32_t), funcion, vnfunc_prgs_inicia)
-#define VN_GRABA_TIPO(tipo, funcion)                                                                         \
-    VN_COMPRUEBA_TIPO(void (*)(const tipo *, vornsave *), funcion, vnfunc_graba_dato)
+#define VN_GRABA_TIPO(tipo, funcion) VN_COMPRUEBA_TIPO(void (*)(const tipo *, vornsave *), funcion, vnfunc_graba_dato)
 #define VN_LEE_TIPO(tipo, funcion) VN_COMPRUEBA_TIPO(tipo *(*)(vornsave *), funcion, vnfunc_lee_dato)
-#define VN_LEE_TIPO_1(tipo, tipo1, funcion)                                                                  \
+#define VN_LEE_TIPO_1(tipo, tipo1, funcion)                                                                            \
     VN_COMPRUEBA_TIPO(tipo *(*)(tipo1 *, vornsave *), funcion, vnfunc_lee_dato_1_extra)
-#define VN_LEE_TIPO_2(tipo, tipo1, tipo2, funcion)                                                           \
+#define VN_LEE_TIPO_2(tipo, tipo1, tipo2, funcion)                                                                     \
     VN_COMPRUEBA_TIPO(tipo *(*)(tipo1 *, tipo2 *, vornsave *), funcion, vnfunc_lee_dato_2_extra)
 
 #define vornsave_lee_fecha_de_64(datos) vornsave_nousar_lee_fecha_de_64(datos)
-#define vornsave_inicia_progreso_grabacion(datos, datos_prgs, final, tipo, inicia, valor, fin, refresca)     \
-    vornsave_nousar_inicia_progreso_grabacion(                                                               \
-        datos, VN_COMPRUEBA_TIPO(tipo *, datos_prgs, void *), final, VN_PRGS_TIPO(tipo, inicia),             \
-        VN_PRGS_TIPO(tipo, valor), VN_COMPRUEBA_TIPO(void (*)(tipo *), fin, vnfunc_prgs_fin),                \
-        VN_COMPRUEBA_TIPO(void (*)(tipo *), refresca, vnfunc_prgs_refresca))
-#define vornsave_inicia_progreso_lectura(datos, datos_prgs, tipo, inicia, valor, fin)                        \
-    vornsave_nousar_inicia_progreso_lectura(datos, VN_COMPRUEBA_TIPO(tipo *, datos_prgs, void *),            \
-                                            VN_PRGS_TIPO(tipo, inicia), VN_PRGS_TIPO(tipo, valor),           \
+#define vornsave_inicia_progreso_grabacion(datos, datos_prgs, final, tipo, inicia, valor, fin, refresca)               \
+    vornsave_nousar_inicia_progreso_grabacion(datos, VN_COMPRUEBA_TIPO(tipo *, datos_prgs, void *), final,             \
+                                              VN_PRGS_TIPO(tipo, inicia), VN_PRGS_TIPO(tipo, valor),                   \
+                                              VN_COMPRUEBA_TIPO(void (*)(tipo *), fin, vnfunc_prgs_fin),               \
+                                              VN_COMPRUEBA_TIPO(void (*)(tipo *), refresca, vnfunc_prgs_refresca))
+#define vornsave_inicia_progreso_lectura(datos, datos_prgs, tipo, inicia, valor, fin)                                  \
+    vornsave_nousar_inicia_progreso_lectura(datos, VN_COMPRUEBA_TIPO(tipo *, datos_prgs, void *),                      \
+                                            VN_PRGS_TIPO(tipo, inicia), VN_PRGS_TIPO(tipo, valor),                     \
                                             VN_COMPRUEBA_TIPO(void (*)(tipo *), fin, vnfunc_prgs_fin))
 
-#define vornsave_graba_estructura_opcional2ST(dato, datos, tipo, funcion)                                    \
-    vornsave_graba_estructura_opcional2(VN_COMPRUEBA_TIPO(const tipo *, dato, const void *), datos,          \
+#define vornsave_graba_estructura_opcional2ST(dato, datos, tipo, funcion)                                              \
+    vornsave_graba_estructura_opcional2(VN_COMPRUEBA_TIPO(const tipo *, dato, const void *), datos,                    \
                                         VN_GRABA_TIPO(tipo, funcion))
-#define vornsave_lee_estructura_opcional2ST(datos, tipo, funcion)                                            \
+#define vornsave_lee_estructura_opcional2ST(datos, tipo, funcion)                                                      \
     ((tipo *)vornsave_lee_estructura_opcional2(datos, VN_LEE_TIPO(tipo, funcion)))
-#define vornsave_lee_estructura_opcional2_con_1_dato_extraST(datos, tipo, tipo1, funcion, extra)             \
-    ((tipo *)vornsave_lee_estructura_opcional2_con_1_dato_extra(datos, VN_LEE_TIPO_1(tipo, tipo1, funcion),  \
+#define vornsave_lee_estructura_opcional2_con_1_dato_extraST(datos, tipo, tipo1, funcion, extra)                       \
+    ((tipo *)vornsave_lee_estructura_opcional2_con_1_dato_extra(datos, VN_LEE_TIPO_1(tipo, tipo1, funcion),            \
                                                                 VN_COMPRUEBA_TIPO(tipo1 *, extra, void *)))
-#define vornsave_lee_estructura_opcional2_con_2_dato_extraST(datos, tipo, tipo1, tipo2, funcion, extra1,     \
-                                                             extra2)                                         \
-    ((tipo *)vornsave_lee_estructura_opcional2_con_2_dato_extra(                                             \
-        datos, VN_LEE_TIPO_2(tipo, tipo1, tipo2, funcion), VN_COMPRUEBA_TIPO(tipo1 *, extra1, void *),       \
-        VN_COMPRUEBA_TIPO(tipo2 *, extra2, void *)))
-#define vornsave_salta_estructura_opcional(datos, funcion)                                                   \
-    vornsave_nousar_salta_estructura_opcional(datos, funcion)
+#define vornsave_lee_estructura_opcional2_con_2_dato_extraST(datos, tipo, tipo1, tipo2, funcion, extra1, extra2)       \
+    ((tipo *)vornsave_lee_estructura_opcional2_con_2_dato_extra(datos, VN_LEE_TIPO_2(tipo, tipo1, tipo2, funcion),     \
+                                                                VN_COMPRUEBA_TIPO(tipo1 *, extra1, void *),            \
+                                                                VN_COMPRUEBA_TIPO(tipo2 *, extra2, void *)))
+#define vornsave_salta_estructura_opcional(datos, funcion) vornsave_nousar_salta_estructura_opcional(datos, funcion)
 
-#define vornsave_graba_arr_puntos2DXPrivST(array, datos, tipo, funcion)                                      \
+#define vornsave_graba_arr_puntos2DXPrivST(array, datos, tipo, funcion)                                                \
     vornsave_graba_arr_puntos2DXPriv(array, datos, VN_GRABA_TIPO(tipo, funcion))
-#define vornsave_lee_arr_puntos2DXPrivST(datos, tipo, lee_datos)                                             \
+#define vornsave_lee_arr_puntos2DXPrivST(datos, tipo, lee_datos)                                                       \
     vornsave_lee_arr_puntos2DXPriv(datos, VN_LEE_TIPO(tipo, lee_datos))
-#define vornsave_graba_arr_punterosST(array, datos, tipo, funcion)                                           \
+#define vornsave_graba_arr_punterosST(array, datos, tipo, funcion)                                                     \
     vornsave_graba_arr_punteros(array, datos, VN_GRABA_TIPO(tipo, funcion))
-#define vornsave_lee_arr_punterosST(datos, tipo, funcion)                                                    \
-    vornsave_lee_arr_punteros(datos, VN_LEE_TIPO(tipo, funcion))
-#define vornsave_lee_arr_punteros_con_1_dato_extraST(datos, tipo, tipo1, funcion, extra)                     \
-    vornsave_lee_arr_punteros_con_1_dato_extra(datos, VN_LEE_TIPO_1(tipo, tipo1, funcion),                   \
+#define vornsave_lee_arr_punterosST(datos, tipo, funcion) vornsave_lee_arr_punteros(datos, VN_LEE_TIPO(tipo, funcion))
+#define vornsave_lee_arr_punteros_con_1_dato_extraST(datos, tipo, tipo1, funcion, extra)                               \
+    vornsave_lee_arr_punteros_con_1_dato_extra(datos, VN_LEE_TIPO_1(tipo, tipo1, funcion),                             \
                                                VN_COMPRUEBA_TIPO(tipo1 *, extra, void *))
-#define vornsave_lee_arr_punteros_con_2_datos_extraST(datos, tipo, tipo1, tipo2, funcion, extra1, extra2)    \
-    vornsave_lee_arr_punteros_con_2_datos_extra(datos, VN_LEE_TIPO_2(tipo, tipo1, tipo2, funcion),           \
-                                                VN_COMPRUEBA_TIPO(tipo1 *, extra1, void *),                  \
+#define vornsave_lee_arr_punteros_con_2_datos_extraST(datos, tipo, tipo1, tipo2, funcion, extra1, extra2)              \
+    vornsave_lee_arr_punteros_con_2_datos_extra(datos, VN_LEE_TIPO_2(tipo, tipo1, tipo2, funcion),                     \
+                                                VN_COMPRUEBA_TIPO(tipo1 *, extra1, void *),                            \
                                                 VN_COMPRUEBA_TIPO(tipo2 *, extra2, void *))
 #define vornsave_salta_arr_punteros_ST(datos, funcion) vornsave_nousar_salta_arr_punteros_ST(datos, funcion)
-#define vornsave_graba_arr_punteros_arrayST(array, datos, tipo, funcion)                                     \
+#define vornsave_graba_arr_punteros_arrayST(array, datos, tipo, funcion)                                               \
     vornsave_graba_arr_punteros_array(array, datos, VN_GRABA_TIPO(tipo, funcion))
-#define vornsave_lee_arr_punteros_arrayST(datos, tipo, funcion)                                              \
+#define vornsave_lee_arr_punteros_arrayST(datos, tipo, funcion)                                                        \
     vornsave_lee_arr_punteros_array(datos, VN_LEE_TIPO(tipo, funcion))
-#define vornsave_graba_arr_punteros_array_opcionalST(array, datos, tipo, funcion)                            \
+#define vornsave_graba_arr_punteros_array_opcionalST(array, datos, tipo, funcion)                                      \
     vornsave_graba_arr_punteros_array_opcional(array, datos, VN_GRABA_TIPO(tipo, funcion))
-#define vornsave_lee_arr_punteros_array_opcionalST(datos, tipo, funcion)                                     \
+#define vornsave_lee_arr_punteros_array_opcionalST(datos, tipo, funcion)                                               \
     vornsave_lee_arr_punteros_array_opcional(datos, VN_LEE_TIPO(tipo, funcion))
-#define vornsave_graba_arr_punteros_opcional(array, datos, tipo, funcion)                                    \
+#define vornsave_graba_arr_punteros_opcional(array, datos, tipo, funcion)                                              \
     vornsave_nousar_graba_arr_punteros_opcional(array, datos, VN_GRABA_TIPO(tipo, funcion))
-#define vornsave_lee_arr_punteros_opcional(datos, tipo, funcion)                                             \
+#define vornsave_lee_arr_punteros_opcional(datos, tipo, funcion)                                                       \
     vornsave_nousar_lee_arr_punteros_opcional(datos, VN_LEE_TIPO(tipo, funcion))
-#define vornsave_lee_arr_punteros_opcional_con_1_dato_extra(datos, tipo, tipo1, funcion, extra)              \
-    vornsave_nousar_lee_arr_punteros_opcional_con_1_dato_extra(datos, VN_LEE_TIPO_1(tipo, tipo1, funcion),   \
+#define vornsave_lee_arr_punteros_opcional_con_1_dato_extra(datos, tipo, tipo1, funcion, extra)                        \
+    vornsave_nousar_lee_arr_punteros_opcional_con_1_dato_extra(datos, VN_LEE_TIPO_1(tipo, tipo1, funcion),             \
                                                                VN_COMPRUEBA_TIPO(tipo1 *, extra, void *))
-#define vornsave_salta_arr_punteros_opcionalST(datos, funcion)                                               \
+#define vornsave_salta_arr_punteros_opcionalST(datos, funcion)                                                         \
     vornsave_nousar_salta_arr_punteros_opcionalST(datos, funcion)
 
-#define vornsave_graba_apunorde(array, datos, tipo, funcion)                                                 \
+#define vornsave_graba_apunorde(array, datos, tipo, funcion)                                                           \
     vornsave_nousar_graba_apunorde(array, datos, VN_GRABA_TIPO(tipo, funcion))
-#define vornsave_graba_apunorde_opcional(array, datos, tipo, funcion)                                        \
+#define vornsave_graba_apunorde_opcional(array, datos, tipo, funcion)                                                  \
     vornsave_nousar_graba_apunorde_opcional(array, datos, VN_GRABA_TIPO(tipo, funcion))
-#define vornsave_lee_apunorde(datos, tipo, funcion, tipo_dato, comparador, dato, destructor)                 \
-    vornsave_nousar_lee_apunorde(datos, VN_LEE_TIPO(tipo, funcion),                                          \
+#define vornsave_lee_apunorde(datos, tipo, funcion, tipo_dato, comparador, dato, destructor)                           \
+    vornsave_nousar_lee_apunorde(datos, VN_LEE_TIPO(tipo, funcion),                                                    \
                                  VN_ORDEN_TIPO(tipo, tipo_dato, comparador, dato, destructor))
-#define vornsave_lee_apunorde_opcional(datos, tipo, funcion, tipo_dato, comparador, dato, destructor)        \
-    vornsave_nousar_lee_apunorde_opcional(datos, VN_LEE_TIPO(tipo, funcion),                                 \
+#define vornsave_lee_apunorde_opcional(datos, tipo, funcion, tipo_dato, comparador, dato, destructor)                  \
+    vornsave_nousar_lee_apunorde_opcional(datos, VN_LEE_TIPO(tipo, funcion),                                           \
                                           VN_ORDEN_TIPO(tipo, tipo_dato, comparador, dato, destructor))
-#define vornsave_lee_apunorde_con_1_dato_extra(datos, extra, tipo, tipo1, funcion, tipo_dato, comparador,    \
-                                               dato, destructor)                                             \
-    vornsave_nousar_lee_apunorde_con_1_dato_extra(                                                           \
-        datos, VN_COMPRUEBA_TIPO(tipo1 *, extra, void *), VN_LEE_TIPO_1(tipo, tipo1, funcion),               \
-        VN_ORDEN_TIPO(tipo, tipo_dato, comparador, dato, destructor))
-#define VN_ORDEN_TIPO(tipo, tipo_dato, comparador, dato, destructor)                                         \
-    VN_COMPRUEBA_TIPO(int (*)(const tipo *, const tipo *, tipo_dato *), comparador,                          \
-                      vnfunc_compara_con_dato),                                                              \
-        VN_COMPRUEBA_TIPO(tipo_dato *, dato, void *),                                                        \
+#define vornsave_lee_apunorde_con_1_dato_extra(datos, extra, tipo, tipo1, funcion, tipo_dato, comparador, dato,        \
+                                               destructor)                                                             \
+    vornsave_nousar_lee_apunorde_con_1_dato_extra(datos, VN_COMPRUEBA_TIPO(tipo1 *, extra, void *),                    \
+                                                  VN_LEE_TIPO_1(tipo, tipo1, funcion),                                 \
+                                                  VN_ORDEN_TIPO(tipo, tipo_dato, comparador, dato, destructor))
+#define VN_ORDEN_TIPO(tipo, tipo_dato, comparador, dato, destructor)                                                   \
+    VN_COMPRUEBA_TIPO(int (*)(const tipo *, const tipo *, tipo_dato *), comparador, vnfunc_compara_con_dato),          \
+        VN_COMPRUEBA_TIPO(tipo_dato *, dato, void *),                                                                  \
         VN_COMPRUEBA_TIPO(void (*)(tipo **), destructor, vnfunc_destruye)
 
 #endif

@@ -53,10 +53,8 @@ template <auto ENTRADA, auto ABIERTA, class T> void graba_elemento(const T &v, v
     } else {
         (t.*ABIERTA)(v.x, d->datos_destino);
         if constexpr (sizeof(T) == sizeof(Punto3D)) (t.*ABIERTA)(v.y, d->datos_destino);
-        if constexpr (sizeof(T) == sizeof(Punto3D))
-            (t.*ENTRADA)(v.z, d->datos_destino);
-        else
-            (t.*ENTRADA)(v.y, d->datos_destino);
+        if constexpr (sizeof(T) == sizeof(Punto3D)) (t.*ENTRADA)(v.z, d->datos_destino);
+        else (t.*ENTRADA)(v.y, d->datos_destino);
     }
 }
 template <auto ENTRADA, auto ABIERTA, class T> T lee_elemento(vornsave *d) {
@@ -115,10 +113,8 @@ template <class ARR, auto ENTRADA, auto ABIERTA, auto BLOQUE, progreso PROGRESO>
     const vigia guarda(d);
     for (uint32_t i = 0; i < n && guarda.sigue(); ++i) {
         const T v = lee_elemento<ENTRADA, ABIERTA, T>(d);
-        if (i < listos)
-            valores[i] = v;
-        else
-            anade(array.get(), v);
+        if (i < listos) valores[i] = v;
+        else anade(array.get(), v);
     }
     return array.release();
 }
@@ -126,13 +122,13 @@ template <class ARR, auto ENTRADA, auto ABIERTA, auto BLOQUE, progreso PROGRESO>
 } // namespace
 
 // A row: operation, array, entry of the last scalar of an element, of those before it, whole arrays, progress.
-#define GRABA_ARR(nombre, arr, entrada, abierta, bloque, progreso)                                                      \
+#define GRABA_ARR(nombre, arr, entrada, abierta, bloque, progreso)                                                     \
     void nombre(const arr *array, vornsave *vornsave_datos) {                                                          \
         if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;                                                  \
         graba_valores<GRABAR(entrada), GRABAR(abierta), &bloques_t::graba_##bloque, progreso>(                         \
             familia<arr>::buffer_const(array), familia<arr>::numelems(array), vornsave_datos);                         \
     }
-#define LEE_ARR(nombre, arr, entrada, abierta, bloque, progreso)                                                        \
+#define LEE_ARR(nombre, arr, entrada, abierta, bloque, progreso)                                                       \
     arr *nombre(vornsave *vornsave_datos) {                                                                            \
         return lee_valores<arr, LEER(entrada), LEER(abierta), &bloques_t::lee_##bloque, progreso>(vornsave_datos);     \
     }
@@ -223,8 +219,7 @@ LEAN *lee_arulong(vornsave *d) {
         m = 1;
         if (d->bloques->*BLOQUE != nullptr)
             (d->bloques->*BLOQUE)(trozo, m = std::min<uint32_t>(n - i, std::size(trozo)), d->datos_destino);
-        else
-            trozo[0] = lee<ENTRADA>(d);
+        else trozo[0] = lee<ENTRADA>(d);
         for (uint32_t j = 0; j < m; ++j) ANADE(array.get(), trozo[j]);
     }
     return array.release();

@@ -21,9 +21,7 @@ constexpr i_marca_t marca_inicial(clase_marca clase, int64_t posicion) {
     return clase == MARCA_32 ? i_marca_t{nullptr, clase, static_cast<int32_t>(posicion), LARGO_MAX, 0, 0}
                              : i_marca_t{nullptr, clase, 0, 0, posicion, LARGO64_MAX};
 }
-constexpr i_marca_t marca_final(int32_t posicion) {
-    return {nullptr, MARCA_32, LARGO_MAX, posicion, 0, 0};
-}
+constexpr i_marca_t marca_final(int32_t posicion) { return {nullptr, MARCA_32, LARGO_MAX, posicion, 0, 0}; }
 
 // The mark of what was opened last; null, and no report, if nothing is open.
 const i_marca_t *marca_abierta(const vornsave *d) {
@@ -39,16 +37,15 @@ const i_marca_t *ultima_marca(const vornsave *d) {
     const i_marca_t *marca = marca_abierta(d);
     return AFIRMA_NO_NULO(marca) ? marca : nullptr;
 }
-bool es_seccion_que_se_lee(const i_marca_t &m) {
-    return m.clase == MARCA_32 && m.posicion_inicial == LARGO_MAX;
-}
+bool es_seccion_que_se_lee(const i_marca_t &m) { return m.clase == MARCA_32 && m.posicion_inicial == LARGO_MAX; }
 // Where what is being read ends, as it was stored.
 int64_t fin_de(const i_marca_t &m) {
     if (m.clase == MARCA_64) return m.posicion_inicial64;
     return es_seccion_que_se_lee(m) ? m.posicion_final : m.posicion_inicial;
 }
 void quita_ultima_marca(vornsave *d) {
-    arr_BorrarEstructuraST(d->pila_marcas, arr_NumElemsPunteroST(d->pila_marcas, i_marca_t) - 1, i_marca_t, destruye_marca);
+    arr_BorrarEstructuraST(d->pila_marcas, arr_NumElemsPunteroST(d->pila_marcas, i_marca_t) - 1, i_marca_t,
+                           destruye_marca);
 }
 
 #define ES_LARGO_MAX(campo) AFIRMA_TEXTO(marca->campo == LARGO_MAX, "marca->" #campo " == LONG_MAX")
@@ -83,8 +80,7 @@ bool saca_marca(vornsave *d, const char *id_marca, int32_t *posicion_inicial_mar
         dada = posicion_inicial_marca64_opc != nullptr;
         if (dada) *posicion_inicial_marca64_opc = marca->posicion_inicial64;
         break;
-    default:
-        AFIRMA_DEFECTO();
+    default: AFIRMA_DEFECTO();
     }
     quita_ultima_marca(d);
     return dada;
@@ -108,8 +104,7 @@ void saca_marca_de_seccion(vornsave *d, const char *id_marca) {
         ES_I64_MAX(posicion_inicial64);
         NO_ES_I64_MAX(posicion_final64);
         break;
-    default:
-        AFIRMA_DEFECTO();
+    default: AFIRMA_DEFECTO();
     }
     quita_ultima_marca(d);
 }
@@ -120,16 +115,12 @@ int64_t posicion(const vornsave *d, clase_marca clase) {
     return clase == MARCA_32 ? d->fncptr_get_posicion(d->datos_destino) : d->fncptr_get_posicion64(d->datos_destino);
 }
 void ve_a(const vornsave *d, clase_marca clase, int64_t donde) {
-    if (clase == MARCA_32)
-        d->fncptr_set_posicion(d->datos_destino, static_cast<int32_t>(donde));
-    else
-        d->fncptr_set_posicion64(d->datos_destino, donde);
+    if (clase == MARCA_32) d->fncptr_set_posicion(d->datos_destino, static_cast<int32_t>(donde));
+    else d->fncptr_set_posicion64(d->datos_destino, donde);
 }
 void graba_posicion(vornsave *d, clase_marca clase, int64_t valor) {
-    if (clase == MARCA_32)
-        graba<GRABAR(long)>(d, static_cast<int32_t>(valor));
-    else
-        vornsave_graba_int64(valor, d);
+    if (clase == MARCA_32) graba<GRABAR(long)>(d, static_cast<int32_t>(valor));
+    else vornsave_graba_int64(valor, d);
 }
 bool hay_posiciones(const vornsave *vornsave_datos, clase_marca clase) {
     return clase == MARCA_32 ? AFIRMA_NO_NULO(vornsave_datos->fncptr_get_posicion) &&
@@ -178,8 +169,8 @@ fncptr_marca puede_marcar(const char *id, const vornsave *vornsave_datos, forma 
     if (!SE_GRABA(vornsave_datos, f == SECCION || AFIRMA(*id != '\0'))) return nullptr;
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(vornsave_datos->fncptr_graba_cabecera_bloque))) return nullptr;
     if (!SE_GRABA(vornsave_datos, hay_posiciones(vornsave_datos, clase))) return nullptr;
-    const fncptr_marca fncptr_graba_marca = f == BLOQUE ? vornsave_datos->fncptr_graba_cabecera_bloque
-                                                         : vornsave_datos->fncs_grabar->fncptr_graba_cadena;
+    const fncptr_marca fncptr_graba_marca =
+        f == BLOQUE ? vornsave_datos->fncptr_graba_cabecera_bloque : vornsave_datos->fncs_grabar->fncptr_graba_cadena;
     return AFIRMA_NO_NULO(fncptr_graba_marca) ? fncptr_graba_marca : nullptr;
 }
 
@@ -218,10 +209,12 @@ bool puede_leer_bloques(const char *id, const vornsave *vornsave_datos, clase_ma
     if (!AFIRMA_NO_NULO(id) || !AFIRMA(*id != '\0')) return false;
     return clase == MARCA_32
                ? puede_leer<LEER(long)>(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncptr_se_lee_inicio_bloque)
-               : puede_leer<LEER(ulong)>(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncptr_se_lee_inicio_bloque64);
+               : puede_leer<LEER(ulong)>(vornsave_datos) &&
+                     AFIRMA_NO_NULO(vornsave_datos->fncptr_se_lee_inicio_bloque64);
 }
 vnbool se_lee_marca(const char *id, const vornsave *d, clase_marca clase) {
-    return (clase == MARCA_32 ? d->fncptr_se_lee_inicio_bloque : d->fncptr_se_lee_inicio_bloque64)(id, d->datos_destino);
+    return (clase == MARCA_32 ? d->fncptr_se_lee_inicio_bloque : d->fncptr_se_lee_inicio_bloque64)(id,
+                                                                                                   d->datos_destino);
 }
 int64_t lee_posicion(vornsave *d, clase_marca clase) {
     return clase == MARCA_32 ? lee<LEER(long)>(d) : vornsave_lee_int64(d);
@@ -304,13 +297,9 @@ vnbool vornsave_se_inicia_lectura_bloque64(const char *id, vornsave *vornsave_da
     return se_inicia_lectura(id, vornsave_datos, MARCA_64);
 }
 
-void vornsave_lee_final_bloque(const char *id, vornsave *vornsave_datos) {
-    lee_final(id, vornsave_datos, MARCA_32);
-}
+void vornsave_lee_final_bloque(const char *id, vornsave *vornsave_datos) { lee_final(id, vornsave_datos, MARCA_32); }
 
-void vornsave_lee_final_bloque64(const char *id, vornsave *vornsave_datos) {
-    lee_final(id, vornsave_datos, MARCA_64);
-}
+void vornsave_lee_final_bloque64(const char *id, vornsave *vornsave_datos) { lee_final(id, vornsave_datos, MARCA_64); }
 
 vnbool vornsave_se_salta_bloque(const char *id, vornsave *vornsave_datos) {
     return se_salta(id, vornsave_datos, MARCA_32);
@@ -348,8 +337,7 @@ void vornsave_ir_final_seccion(const char *id_seccion, vornsave *vornsave_datos)
     case MARCA_64:
         if (hay_posiciones(vornsave_datos, MARCA_64)) ve_a(vornsave_datos, MARCA_64, marca->posicion_final64);
         break;
-    default:
-        AFIRMA_DEFECTO();
+    default: AFIRMA_DEFECTO();
     }
 }
 

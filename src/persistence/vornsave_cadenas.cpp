@@ -2,8 +2,8 @@
 #include "persistence/vornsave_priv.h"
 
 #include "foundation/ficheros/fichmem.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/suelo/utf_int.h"
+#include "foundation/texto/unicode.h"
 #include <algorithm>
 #include <cstring>
 
@@ -63,17 +63,13 @@ char *vornsave_lee_cadena(vornsave *vornsave_datos) {
                                           : lee<LEER(cadena_ASCII), CON_PROGRESO>(vornsave_datos);
 }
 
-void vornsave_salta_cadena(vornsave *vornsave_datos) {
-    const dueno_cadena texto(vornsave_lee_cadena(vornsave_datos));
-}
+void vornsave_salta_cadena(vornsave *vornsave_datos) { const dueno_cadena texto(vornsave_lee_cadena(vornsave_datos)); }
 
 char *vornsave_lee_cadena_ANSI_ASCII(vornsave *vornsave_datos, uint32_t version, uint32_t version_ascii) {
     return lee_cadena_de(vornsave_datos, version > version_ascii);
 }
 
-char *vornsave_lee_cadena_ascii(vornsave *vornsave_datos) {
-    return lee_cadena_de(vornsave_datos, false);
-}
+char *vornsave_lee_cadena_ascii(vornsave *vornsave_datos) { return lee_cadena_de(vornsave_datos, false); }
 
 void vornsave_graba_cadena_campo(const char *valor, const char *campo, vornsave *vornsave_datos) {
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(valor))) return;

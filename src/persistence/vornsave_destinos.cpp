@@ -1,10 +1,10 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
 #include "persistence/vornsave_priv.h"
 
-#include "foundation/numeros/cambtipo.h"
 #include "foundation/ficheros/lc_fichero.h"
 #include "foundation/ficheros/vtxt.h"
 #include "foundation/ficheros/vtxt_int.h"
+#include "foundation/numeros/cambtipo.h"
 #include "persistence/vornbin_priv.h"
 #include <cstring>
 #include <string>
@@ -23,10 +23,8 @@ template <class F> struct partes;
 template <class R, class... P> struct partes<R (*)(P...)> {
     // The function, called with the entry's arguments.
     template <auto F, class S, class... A> static S llama(A... a) {
-        if constexpr (std::is_void_v<S>)
-            F(convierte<P>(a)...);
-        else
-            return static_cast<S>(F(convierte<P>(a)...));
+        if constexpr (std::is_void_v<S>) F(convierte<P>(a)...);
+        else return static_cast<S>(F(convierte<P>(a)...));
     }
 };
 
@@ -93,19 +91,12 @@ constexpr fncs_leer_t con_lineas(fncs_leer_t t, bool con_comentarios) {
 
 // ---- Operations of a stream.
 
-uint32_t tamanyo_fichero(vnfichero *f) {
-    return cambtipo_double_a_ulong(lc_tamanyo_fichero(f));
-}
-void set_posicion(vnfichero *f, int32_t posicion) {
-    lc_fseek(f, posicion, VN_DESDE_EL_PRINCIPIO);
-}
-void set_posicion64(vnfichero *f, int64_t posicion) {
-    vornio_fseek_i64(f, posicion, VN_DESDE_EL_PRINCIPIO);
-}
+uint32_t tamanyo_fichero(vnfichero *f) { return cambtipo_double_a_ulong(lc_tamanyo_fichero(f)); }
+void set_posicion(vnfichero *f, int32_t posicion) { lc_fseek(f, posicion, VN_DESDE_EL_PRINCIPIO); }
+void set_posicion64(vnfichero *f, int64_t posicion) { vornio_fseek_i64(f, posicion, VN_DESDE_EL_PRINCIPIO); }
 void graba_cabecera_bloque(const char *id, vnfichero *f) {
     const char *p = id;
-    do
-        bin_graba_char(*p, f);
+    do bin_graba_char(*p, f);
     while (*p++ != '\0');
 }
 template <auto COMPRUEBA> vnbool se_lee_inicio_bloque(const char *id, vnfichero *f) {
@@ -163,9 +154,7 @@ void graba_cadena_en_linea(const char *s, vnfichero *f) {
     if (s[std::strcspn(s, ESCAPADOS)] == '\0') vtxt_escr_string(s, f);
     else vtxt_escr_string(escapa(s).c_str(), f);
 }
-char *lee_cadena_de_linea(vnfichero *f) {
-    return quita_escapes(vtxt_lee_cadena(f));
-}
+char *lee_cadena_de_linea(vnfichero *f) { return quita_escapes(vtxt_lee_cadena(f)); }
 // A text of an array: a line of up to 255 characters.
 constexpr size_t TAMANYO_LINEA = 256;
 void graba_linea(const char *s, vnfichero *f) {
@@ -181,9 +170,7 @@ char *lee_linea(vnfichero *f) {
 bool quedan_en_fichero(vnfichero *f, uint64_t numero, uint64_t tamanyo) {
     return lc_quedan(f, numero, tamanyo) == CIERTO;
 }
-bool fichero_ha_fallado(vnfichero *f) {
-    return lc_ha_fallado(f) == CIERTO;
-}
+bool fichero_ha_fallado(vnfichero *f) { return lc_ha_fallado(f) == CIERTO; }
 void marca_fallo(vnfichero *f) {
     marca_fallo_escritura(f);
     marca_fallo_lectura(f);
@@ -235,103 +222,109 @@ constexpr destino DESTINO_BIN{
         .fncptr_lee_ulong64 = usa<directo::lee_ulong64>,
         .fncptr_lee_buffer = usa<bin_lee_buffer>,
     }),
-    .bloques = {
-#define X(nombre, tipo)                                                                                                \
-    .graba_##nombre = usa<bin_graba_bloque_##nombre>, .lee_##nombre = usa<bin_lee_bloque_##nombre>,
-        VN_BLOQUES(X)
+    .bloques =
+        {
+#define X(nombre, tipo) .graba_##nombre = usa<bin_graba_bloque_##nombre>, .lee_##nombre = usa<bin_lee_bloque_##nombre>,
+            VN_BLOQUES(X)
 #undef X
-    },
-    .operaciones = {
-        .fncptr_fichero_valido = usa<bin_fichero_valido>,
-        .fncptr_se_comprueba_marca_fichero = usa<vornbin_se_comprueba_marca>,
-        .fncptr_get_tamanyo = usa<tamanyo_fichero>,
-        .fncptr_get_posicion = usa<lc_ftell>,
-        .fncptr_set_posicion = usa<set_posicion>,
-        .fncptr_get_posicion64 = usa<vornio_ftell_i64>,
-        .fncptr_set_posicion64 = usa<set_posicion64>,
-        .fncptr_graba_cabecera_bloque = usa<graba_cabecera_bloque>,
-        .fncptr_se_lee_inicio_bloque = usa<se_lee_inicio_bloque<vornbin_se_comprueba_marca>>,
-        .fncptr_se_lee_inicio_bloque64 = usa<se_lee_inicio_bloque<vornbin_se_comprueba_marca64>>,
-        .graba_cadena_o_null = usa<bin_graba_null>,
-        .graba_cadena_o_null_unicode = usa<bin_graba_null_unicode>,
-        .lee_cadena_o_null = usa<bin_lee_null>,
-        .lee_cadena_o_null_unicode = usa<bin_lee_null_unicode>,
-        .quedan = usa<quedan_en_fichero>,
-        .ha_fallado = usa<fichero_ha_fallado>,
-        .error_leyendo = usa<lc_error_leyendo_fichero>,
-        .marca_fallo = usa<marca_fallo>,
-    },
+        },
+    .operaciones =
+        {
+            .fncptr_fichero_valido = usa<bin_fichero_valido>,
+            .fncptr_se_comprueba_marca_fichero = usa<vornbin_se_comprueba_marca>,
+            .fncptr_get_tamanyo = usa<tamanyo_fichero>,
+            .fncptr_get_posicion = usa<lc_ftell>,
+            .fncptr_set_posicion = usa<set_posicion>,
+            .fncptr_get_posicion64 = usa<vornio_ftell_i64>,
+            .fncptr_set_posicion64 = usa<set_posicion64>,
+            .fncptr_graba_cabecera_bloque = usa<graba_cabecera_bloque>,
+            .fncptr_se_lee_inicio_bloque = usa<se_lee_inicio_bloque<vornbin_se_comprueba_marca>>,
+            .fncptr_se_lee_inicio_bloque64 = usa<se_lee_inicio_bloque<vornbin_se_comprueba_marca64>>,
+            .graba_cadena_o_null = usa<bin_graba_null>,
+            .graba_cadena_o_null_unicode = usa<bin_graba_null_unicode>,
+            .lee_cadena_o_null = usa<bin_lee_null>,
+            .lee_cadena_o_null_unicode = usa<bin_lee_null_unicode>,
+            .quedan = usa<quedan_en_fichero>,
+            .ha_fallado = usa<fichero_ha_fallado>,
+            .error_leyendo = usa<lc_error_leyendo_fichero>,
+            .marca_fallo = usa<marca_fallo>,
+        },
 };
 
 constexpr destino destino_txt(bool con_comentarios) {
     return {
         .tipo = TXT,
         .es_texto = true,
-        .grabar = con_lineas({
-            .fncptr_graba_bool_texto = usa<graba_bool_con_textos>,
-            .fncptr_graba_bool = usa<graba_BOOL>,
-            .fncptr_graba_cadena = usa<graba_cadena_en_linea>,
-            .fncptr_graba_cadena_unicode = usa<vtxt_escr_cadena_unicode>,
-            .fncptr_graba_cadena_campo = graba_sin_campo<graba_cadena_en_linea>,
-            .fncptr_graba_char = usa<vtxt_escr_char>,
-            .fncptr_graba_short = usa<vtxt_escr_signed_short>,
-            .fncptr_graba_long = usa<vtxt_escr_long>,
-            .fncptr_graba_long64 = usa<vtxt_escr_long64>,
-            .fncptr_graba_double = usa<vtxt_escr_double>,
-            .fncptr_graba_uchar = usa<vtxt_escr_uchar>,
-            .fncptr_graba_ushort = usa<vtxt_escr_ushrt>,
-            .fncptr_graba_ulong = usa<vtxt_escr_ulong>,
-            .fncptr_graba_ulong64 = usa<vtxt_escr_ulong64>,
-            .fncptr_graba_buffer = usa<bin_graba_buffer>,
-            .fncptr_graba_char_y_salta = usa<vtxt_escr_char_y_salta>,
-            .fncptr_graba_short_y_salta = usa<vtxt_escr_signed_short_y_salta>,
-            .fncptr_graba_long_y_salta = usa<vtxt_escr_long_y_salta>,
-            .fncptr_graba_long64_y_salta = usa<vtxt_escr_long64_y_salta>,
-            .fncptr_graba_double_y_salta = usa<vtxt_escr_double_y_salta>,
-            .fncptr_graba_uchar_y_salta = usa<vtxt_escr_uchar_y_salta>,
-            .fncptr_graba_ushort_y_salta = usa<vtxt_escr_ushrt_y_salta>,
-            .fncptr_graba_ulong_y_salta = usa<vtxt_escr_ulong_y_salta>,
-            .fncptr_graba_ulong64_y_salta = usa<vtxt_escr_ulong64_y_salta>,
-        }, con_comentarios),
-        .leer = con_lineas({
-            .fncptr_lee_bool_texto = usa<vtxt_lee_bool>,
-            .fncptr_lee_bool = usa<vtxt_leer_BOOL>,
-            .fncptr_lee_cadena = usa<lee_cadena_de_linea>,
-            .fncptr_lee_cadena_unicode = usa<vtxt_lee_cadena_unicode>,
-            .fncptr_lee_cadena_campo = lee_sin_campo<lee_cadena_de_linea>,
-            .fncptr_lee_cadena_ASCII = usa<vtxt_lee_cadena_ASCII>,
-            .fncptr_lee_char = usa<vtxt_lee_char>,
-            .fncptr_lee_char_ASCII = usa<vtxt_lee_char_ASCII>,
-            .fncptr_lee_short = usa<vtxt_lee_signed_short>,
-            .fncptr_lee_long = usa<vtxt_lee_long>,
-            .fncptr_lee_long64 = usa<vtxt_lee_long64>,
-            .fncptr_lee_double = usa<vtxt_lee_double>,
-            .fncptr_lee_uchar = usa<vtxt_lee_uchar>,
-            .fncptr_lee_ushort = usa<vtxt_lee_ushrt>,
-            .fncptr_lee_ulong = usa<vtxt_lee_ulong>,
-            .fncptr_lee_ulong64 = usa<vtxt_lee_ulong64>,
-            .fncptr_lee_buffer = usa<bin_lee_buffer>,
-            .fncptr_lee_char_y_salta = usa<vtxt_lee_char_y_salta>,
-            .fncptr_lee_char_y_salta_ASCII = usa<vtxt_lee_char_y_salta_ASCII>,
-            .fncptr_lee_short_y_salta = usa<vtxt_lee_signed_short_y_salta>,
-            .fncptr_lee_long_y_salta = usa<vtxt_lee_long_y_salta>,
-            .fncptr_lee_long64_y_salta = usa<vtxt_lee_long64_y_salta>,
-            .fncptr_lee_double_y_salta = usa<vtxt_lee_double_y_salta>,
-            .fncptr_lee_uchar_y_salta = usa<vtxt_lee_uchar_y_salta>,
-            .fncptr_lee_ushort_y_salta = usa<vtxt_lee_ushrt_y_salta>,
-            .fncptr_lee_ulong_y_salta = usa<vtxt_lee_ulong_y_salta>,
-            .fncptr_lee_ulong64_y_salta = usa<vtxt_lee_ulong64_y_salta>,
-        }, con_comentarios),
-        .operaciones = {
-            .graba_linea = usa<graba_linea>,
-            .lee_linea = usa<lee_linea>,
-            .graba_comentario = usa<vtxt_escr_comentario_y_salta>,
-            .salta_linea = usa<vtxt_salta_linea>,
-            .quedan = usa<quedan_en_fichero>,
-            .ha_fallado = usa<fichero_ha_fallado>,
-            .error_leyendo = usa<lc_error_leyendo_fichero>,
-            .marca_fallo = usa<marca_fallo>,
-        },
+        .grabar = con_lineas(
+            {
+                .fncptr_graba_bool_texto = usa<graba_bool_con_textos>,
+                .fncptr_graba_bool = usa<graba_BOOL>,
+                .fncptr_graba_cadena = usa<graba_cadena_en_linea>,
+                .fncptr_graba_cadena_unicode = usa<vtxt_escr_cadena_unicode>,
+                .fncptr_graba_cadena_campo = graba_sin_campo<graba_cadena_en_linea>,
+                .fncptr_graba_char = usa<vtxt_escr_char>,
+                .fncptr_graba_short = usa<vtxt_escr_signed_short>,
+                .fncptr_graba_long = usa<vtxt_escr_long>,
+                .fncptr_graba_long64 = usa<vtxt_escr_long64>,
+                .fncptr_graba_double = usa<vtxt_escr_double>,
+                .fncptr_graba_uchar = usa<vtxt_escr_uchar>,
+                .fncptr_graba_ushort = usa<vtxt_escr_ushrt>,
+                .fncptr_graba_ulong = usa<vtxt_escr_ulong>,
+                .fncptr_graba_ulong64 = usa<vtxt_escr_ulong64>,
+                .fncptr_graba_buffer = usa<bin_graba_buffer>,
+                .fncptr_graba_char_y_salta = usa<vtxt_escr_char_y_salta>,
+                .fncptr_graba_short_y_salta = usa<vtxt_escr_signed_short_y_salta>,
+                .fncptr_graba_long_y_salta = usa<vtxt_escr_long_y_salta>,
+                .fncptr_graba_long64_y_salta = usa<vtxt_escr_long64_y_salta>,
+                .fncptr_graba_double_y_salta = usa<vtxt_escr_double_y_salta>,
+                .fncptr_graba_uchar_y_salta = usa<vtxt_escr_uchar_y_salta>,
+                .fncptr_graba_ushort_y_salta = usa<vtxt_escr_ushrt_y_salta>,
+                .fncptr_graba_ulong_y_salta = usa<vtxt_escr_ulong_y_salta>,
+                .fncptr_graba_ulong64_y_salta = usa<vtxt_escr_ulong64_y_salta>,
+            },
+            con_comentarios),
+        .leer = con_lineas(
+            {
+                .fncptr_lee_bool_texto = usa<vtxt_lee_bool>,
+                .fncptr_lee_bool = usa<vtxt_leer_BOOL>,
+                .fncptr_lee_cadena = usa<lee_cadena_de_linea>,
+                .fncptr_lee_cadena_unicode = usa<vtxt_lee_cadena_unicode>,
+                .fncptr_lee_cadena_campo = lee_sin_campo<lee_cadena_de_linea>,
+                .fncptr_lee_cadena_ASCII = usa<vtxt_lee_cadena_ASCII>,
+                .fncptr_lee_char = usa<vtxt_lee_char>,
+                .fncptr_lee_char_ASCII = usa<vtxt_lee_char_ASCII>,
+                .fncptr_lee_short = usa<vtxt_lee_signed_short>,
+                .fncptr_lee_long = usa<vtxt_lee_long>,
+                .fncptr_lee_long64 = usa<vtxt_lee_long64>,
+                .fncptr_lee_double = usa<vtxt_lee_double>,
+                .fncptr_lee_uchar = usa<vtxt_lee_uchar>,
+                .fncptr_lee_ushort = usa<vtxt_lee_ushrt>,
+                .fncptr_lee_ulong = usa<vtxt_lee_ulong>,
+                .fncptr_lee_ulong64 = usa<vtxt_lee_ulong64>,
+                .fncptr_lee_buffer = usa<bin_lee_buffer>,
+                .fncptr_lee_char_y_salta = usa<vtxt_lee_char_y_salta>,
+                .fncptr_lee_char_y_salta_ASCII = usa<vtxt_lee_char_y_salta_ASCII>,
+                .fncptr_lee_short_y_salta = usa<vtxt_lee_signed_short_y_salta>,
+                .fncptr_lee_long_y_salta = usa<vtxt_lee_long_y_salta>,
+                .fncptr_lee_long64_y_salta = usa<vtxt_lee_long64_y_salta>,
+                .fncptr_lee_double_y_salta = usa<vtxt_lee_double_y_salta>,
+                .fncptr_lee_uchar_y_salta = usa<vtxt_lee_uchar_y_salta>,
+                .fncptr_lee_ushort_y_salta = usa<vtxt_lee_ushrt_y_salta>,
+                .fncptr_lee_ulong_y_salta = usa<vtxt_lee_ulong_y_salta>,
+                .fncptr_lee_ulong64_y_salta = usa<vtxt_lee_ulong64_y_salta>,
+            },
+            con_comentarios),
+        .operaciones =
+            {
+                .graba_linea = usa<graba_linea>,
+                .lee_linea = usa<lee_linea>,
+                .graba_comentario = usa<vtxt_escr_comentario_y_salta>,
+                .salta_linea = usa<vtxt_salta_linea>,
+                .quedan = usa<quedan_en_fichero>,
+                .ha_fallado = usa<fichero_ha_fallado>,
+                .error_leyendo = usa<lc_error_leyendo_fichero>,
+                .marca_fallo = usa<marca_fallo>,
+            },
     };
 }
 constexpr destino DESTINO_TXT = destino_txt(false), DESTINO_TXT_CON_COMENTARIOS = destino_txt(true);

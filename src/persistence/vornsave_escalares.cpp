@@ -77,9 +77,7 @@ void vornsave_graba_wchar(vnwchar valor, vornsave *vornsave_datos) {
     graba<GRABAR(ushort)>(vornsave_datos, static_cast<uint16_t>(valor));
 }
 
-vnwchar vornsave_lee_wchar(vornsave *vornsave_datos) {
-    return static_cast<vnwchar>(lee<LEER(ushort)>(vornsave_datos));
-}
+vnwchar vornsave_lee_wchar(vornsave *vornsave_datos) { return static_cast<vnwchar>(lee<LEER(ushort)>(vornsave_datos)); }
 
 void vornsave_graba_double_con_precision(double valor, double paso, vornsave *vornsave_datos) {
     if (!puede_grabar<GRABAR(double)>(vornsave_datos)) return;
@@ -146,9 +144,7 @@ int64_t vornsave_nousar_lee_fecha_de_64(vornsave *vornsave_datos) {
     return lee<LEER(long)>(vornsave_datos);
 }
 
-void vornsave_graba_time(int64_t valor, vornsave *vornsave_datos) {
-    vornsave_graba_long64(valor, vornsave_datos);
-}
+void vornsave_graba_time(int64_t valor, vornsave *vornsave_datos) { vornsave_graba_long64(valor, vornsave_datos); }
 
 int64_t vornsave_lee_time(vornsave *vornsave_datos) {
     return cambtipo_int64_a_time_t(vornsave_lee_long64(vornsave_datos));

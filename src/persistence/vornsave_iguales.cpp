@@ -30,39 +30,23 @@ class presupuesto {
     uint64_t bytes_ = 0, tomada_ = 0;
 };
 // What a value takes: bytes of the source, memory of the array.
-constexpr uint64_t bytes_de(double) {
-    return sizeof(double);
-}
-constexpr uint64_t memoria_de(double) {
-    return sizeof(double);
-}
-uint64_t bytes_de(const char *s) {
-    return s == nullptr ? 1 : sizeof(uint16_t) + std::strlen(s);
-}
+constexpr uint64_t bytes_de(double) { return sizeof(double); }
+constexpr uint64_t memoria_de(double) { return sizeof(double); }
+uint64_t bytes_de(const char *s) { return s == nullptr ? 1 : sizeof(uint16_t) + std::strlen(s); }
 uint64_t memoria_de(const char *s) {
     constexpr uint64_t COSTE_BLOQUE = 48;
     return sizeof(char *) + (s == nullptr ? 0 : std::strlen(s) + 1 + COSTE_BLOQUE);
 }
-double vista(double x) {
-    return x;
-}
-const char *vista(const dueno_cadena &s) {
-    return s.get();
-}
+double vista(double x) { return x; }
+const char *vista(const dueno_cadena &s) { return s.get(); }
 
-void dueno_double_destruye(arrDouble **a) {
-    arr_DestruyeDouble(a);
-}
-void dueno_cadenas_destruye(arrCADENA **a) {
-    arr_DestruyeCADENA(a);
-}
+void dueno_double_destruye(arrDouble **a) { arr_DestruyeDouble(a); }
+void dueno_cadenas_destruye(arrCADENA **a) { arr_DestruyeCADENA(a); }
 
 bool puede_grabar_grupos(const vornsave *d) {
     return puede_grabar<GRABAR(bool)>(d) && puede_grabar<GRABAR(ulong_y_salta)>(d);
 }
-bool puede_leer_grupos(const vornsave *d) {
-    return puede_leer<LEER(bool)>(d) && puede_leer<LEER(ulong_y_salta)>(d);
-}
+bool puede_leer_grupos(const vornsave *d) { return puede_leer<LEER(bool)>(d) && puede_leer<LEER(ulong_y_salta)>(d); }
 
 template <class GRABA_VALOR>
 void graba_grupo(vornsave *d, bool iguales, uint32_t desde, uint32_t num_valores, GRABA_VALOR graba_valor) {
@@ -157,7 +141,8 @@ arrCADENA *lee_cadenas(vornsave *vornsave_datos, bool con_null) {
 
 } // namespace
 
-void vornsave_graba_arr_double_con_valores_iguales(const arrDouble *array, double tolerancia, vornsave *vornsave_datos) {
+void vornsave_graba_arr_double_con_valores_iguales(const arrDouble *array, double tolerancia,
+                                                   vornsave *vornsave_datos) {
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     if (!puede_grabar_grupos(vornsave_datos) || !puede_grabar<GRABAR(double_y_salta)>(vornsave_datos)) return;
     const double *valores = arr_GetBufferConstDouble(array);

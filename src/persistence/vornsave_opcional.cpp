@@ -11,9 +11,7 @@ bool graba_presencia(bool esta, vornsave *vornsave_datos) {
     graba<GRABAR(bool)>(vornsave_datos, esta ? CIERTO : FALSO);
     return esta;
 }
-bool lee_presencia(vornsave *vornsave_datos) {
-    return lee<LEER(bool)>(vornsave_datos) == CIERTO;
-}
+bool lee_presencia(vornsave *vornsave_datos) { return lee<LEER(bool)>(vornsave_datos) == CIERTO; }
 
 } // namespace
 
@@ -23,9 +21,7 @@ bool lee_presencia(vornsave *vornsave_datos) {
         if (graba_presencia(valor != nullptr, vornsave_datos)) plana(valor, vornsave_datos);                           \
     }
 #define LEE_OPCIONAL(nombre, plana, tipo)                                                                              \
-    tipo nombre(vornsave *vornsave_datos) {                                                                            \
-        return lee_presencia(vornsave_datos) ? plana(vornsave_datos) : nullptr;                                        \
-    }
+    tipo nombre(vornsave *vornsave_datos) { return lee_presencia(vornsave_datos) ? plana(vornsave_datos) : nullptr; }
 #define SALTA_OPCIONAL(nombre, plana)                                                                                  \
     void nombre(vornsave *vornsave_datos) {                                                                            \
         if (lee_presencia(vornsave_datos)) plana(vornsave_datos);                                                      \
@@ -118,9 +114,8 @@ arrPuntero *vornsave_nousar_lee_arr_punteros_opcional(vornsave *vornsave_datos, 
 arrPuntero *vornsave_nousar_lee_arr_punteros_opcional_con_1_dato_extra(vornsave *vornsave_datos,
                                                                        vnfunc_lee_dato_1_extra funcion, void *extra) {
     if (!AFIRMA_NO_NULO(funcion)) return nullptr;
-    return lee_presencia(vornsave_datos)
-               ? vornsave_lee_arr_punteros_con_1_dato_extra(vornsave_datos, funcion, extra)
-               : nullptr;
+    return lee_presencia(vornsave_datos) ? vornsave_lee_arr_punteros_con_1_dato_extra(vornsave_datos, funcion, extra)
+                                         : nullptr;
 }
 
 void vornsave_nousar_salta_arr_punteros_opcionalST(vornsave *vornsave_datos, vnfunc_salta_dato fncptr_salta_datos) {

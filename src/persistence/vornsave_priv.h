@@ -2,9 +2,9 @@
 #pragma once
 
 #include "foundation/suelo/afirma_int.h"
-#include "foundation/texto/cad.h"
 #include "foundation/suelo/error_interno_int.h"
 #include "foundation/suelo/propio_int.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
 #include <memory>
@@ -30,14 +30,12 @@ static_assert(sizeof(fncs_grabar_t) == 34 * sizeof(void *) && sizeof(fncs_leer_t
 // What an entry's check reports.
 template <auto ENTRADA> inline constexpr const char *TEXTO_ENTRADA = nullptr;
 #define X(entrada, argumentos)                                                                                         \
-    template <>                                                                                                        \
-    inline constexpr const char *TEXTO_ENTRADA<&fncs_grabar_t::fncptr_graba_##entrada> =                               \
+    template <> inline constexpr const char *TEXTO_ENTRADA<&fncs_grabar_t::fncptr_graba_##entrada> =                   \
         "(vornsave_datos->fncs_grabar->fncptr_graba_" #entrada ") != NULL";
 #include "persistence/tabla_grabar.inl"
 #undef X
 #define X(entrada, resultado, argumentos)                                                                              \
-    template <>                                                                                                        \
-    inline constexpr const char *TEXTO_ENTRADA<&fncs_leer_t::fncptr_lee_##entrada> =                                   \
+    template <> inline constexpr const char *TEXTO_ENTRADA<&fncs_leer_t::fncptr_lee_##entrada> =                       \
         "(vornsave_datos->fncs_leer->fncptr_lee_" #entrada ") != NULL";
 #include "persistence/tabla_leer.inl"
 #undef X
@@ -54,7 +52,7 @@ template <auto ENTRADA> inline constexpr const char *TEXTO_ENTRADA = nullptr;
 struct bloques_t {
 #define X(nombre, tipo)                                                                                                \
     void (*graba_##nombre)(const tipo *datos, uint32_t n, void *destino) = nullptr;                                    \
-    void (*lee_##nombre)(tipo *datos, uint32_t n, void *origen) = nullptr;
+    void (*lee_##nombre)(tipo * datos, uint32_t n, void *origen) = nullptr;
     VN_BLOQUES(X)
 #undef X
 };
@@ -206,8 +204,8 @@ inline void graba(vornsave *vornsave_datos, A... valores) {
     }
     graba_despacio<ENTRADA, PROGRESO>(vornsave_datos, valores...);
 }
-template <auto ENTRADA, class... A>
-using resultado_de = decltype((std::declval<fncs_leer_t>().*ENTRADA)(nullptr, std::declval<A>()...));
+template <auto ENTRADA, class... A> using resultado_de =
+    decltype((std::declval<fncs_leer_t>().*ENTRADA)(nullptr, std::declval<A>()...));
 template <auto ENTRADA, progreso PROGRESO, class... A>
 [[gnu::cold, gnu::noinline]] resultado_de<ENTRADA, A...> lee_despacio(vornsave *vornsave_datos, A... extras) {
     if (!puede_leer<ENTRADA>(vornsave_datos)) return {};
@@ -231,13 +229,10 @@ inline resultado_de<ENTRADA, A...> lee(vornsave *vornsave_datos, A... extras) {
 // end (which the very last may lack) in text.
 inline bool quedan(const vornsave *vornsave_datos, uint64_t numero, uint64_t bytes, uint64_t caracteres = 1) {
     if (numero == 0 || vornsave_datos->quedan == nullptr) return true;
-    return vornsave_datos->es_texto
-               ? vornsave_datos->quedan(vornsave_datos->datos_destino, numero * caracteres - 1, 1)
-               : vornsave_datos->quedan(vornsave_datos->datos_destino, numero, bytes);
+    return vornsave_datos->es_texto ? vornsave_datos->quedan(vornsave_datos->datos_destino, numero * caracteres - 1, 1)
+                                    : vornsave_datos->quedan(vornsave_datos->datos_destino, numero, bytes);
 }
-inline void error_leyendo(vornsave *vornsave_datos) {
-    vornsave_datos->error_leyendo(vornsave_datos->datos_destino);
-}
+inline void error_leyendo(vornsave *vornsave_datos) { vornsave_datos->error_leyendo(vornsave_datos->datos_destino); }
 // A count just read: itself, or 0 once it has been reported that the source cannot hold so many.
 inline uint32_t acota(vornsave *vornsave_datos, uint32_t numero, uint64_t bytes, uint64_t caracteres = 1) {
     if (quedan(vornsave_datos, numero, bytes, caracteres)) return numero;

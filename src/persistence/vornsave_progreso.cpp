@@ -83,7 +83,8 @@ void vornsave_nousar_inicia_progreso_lectura(vornsave *vornsave_no_const, void *
     if (!AFIRMA_NO_NULO(func_prgs_valor_barra_progreso)) return;
     if (!AFIRMA_NO_NULO(func_prgs_fin_barra_progreso)) return;
     if (!AFIRMA(vornsave_no_const->con_progreso == FALSO)) return;
-    if (!AFIRMA_TEXTO(vornsave_no_const->fncptr_get_tamanyo != nullptr, "(vornsave->fncptr_get_tamanyo) != NULL")) return;
+    if (!AFIRMA_TEXTO(vornsave_no_const->fncptr_get_tamanyo != nullptr, "(vornsave->fncptr_get_tamanyo) != NULL"))
+        return;
     vornsave_no_const->datos_prgs = datos_prgs;
     vornsave_no_const->func_prgs_inicia_barra_progreso = func_prgs_inicia_barra_progreso;
     vornsave_no_const->func_prgs_valor_barra_progreso = func_prgs_valor_barra_progreso;

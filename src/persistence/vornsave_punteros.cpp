@@ -7,15 +7,9 @@ using namespace vn;
 namespace {
 
 using dueno_punteros = std::unique_ptr<arrPuntero, suelta<arr_DestruyePunteroConTipo>>;
-void destruye_array(void *array) {
-    arr_DestruyePunteroConTipo(static_cast<arrPuntero **>(array));
-}
-void destruye_arrays(arrPuntero **arrays) {
-    arr_DestruyeEstructurasArrayConTipo(arrays, destruye_array);
-}
-void destruye_xpriv(arrPunto2DXPriv **a) {
-    arr_DestruyePunto2DXPriv(a, nullptr);
-}
+void destruye_array(void *array) { arr_DestruyePunteroConTipo(static_cast<arrPuntero **>(array)); }
+void destruye_arrays(arrPuntero **arrays) { arr_DestruyeEstructurasArrayConTipo(arrays, destruye_array); }
+void destruye_xpriv(arrPunto2DXPriv **a) { arr_DestruyePunto2DXPriv(a, nullptr); }
 
 // A count of structures. One may be of no byte at all: so many are let through whatever is left.
 template <progreso PROGRESO = CON_PROGRESO> uint32_t lee_numero(vornsave *d) {
@@ -41,13 +35,13 @@ template <class LEE> arrPuntero *lee_punteros(vornsave *d, LEE lee_una) {
     return array.release();
 }
 
-template <class LEE>
-apunorde *lee_conjunto(vornsave *d, LEE lee_una, vnfunc_compara_con_dato comparador, void *dato,
-                       vnfunc_destruye destructor) {
+template <class LEE> apunorde *lee_conjunto(vornsave *d, LEE lee_una, vnfunc_compara_con_dato comparador, void *dato,
+                                            vnfunc_destruye destructor) {
     if (!AFIRMA_NO_NULO(comparador)) return nullptr;
     if (!puede_leer<LEER(ulong)>(d)) return nullptr;
     const uint32_t n = lee_numero(d);
-    std::unique_ptr<apunorde, suelta<apunorde_nousar_destruye>> array(apunorde_nousar_crea(comparador, dato, destructor));
+    std::unique_ptr<apunorde, suelta<apunorde_nousar_destruye>> array(
+        apunorde_nousar_crea(comparador, dato, destructor));
     lee_estructuras(d, n, lee_una, [&](void *p) { apunorde_nousar_inserta_original(array.get(), p, nullptr); });
     return array.release();
 }
@@ -96,10 +90,8 @@ void vornsave_graba_arr_punteros_array(const arrPuntero *array, vornsave *vornsa
     vornsave_graba_ulong(n, vornsave_datos);
     for (uint32_t i = 0; i < n; ++i) {
         const auto *elem = static_cast<const arrPuntero *>(arr_GetPunteroConTipo(array, i));
-        if (SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(elem)))
-            vornsave_graba_arr_punteros(elem, vornsave_datos, funcion);
-        else
-            vornsave_graba_ulong(0, vornsave_datos); // the file stays in step
+        if (SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(elem))) vornsave_graba_arr_punteros(elem, vornsave_datos, funcion);
+        else vornsave_graba_ulong(0, vornsave_datos); // the file stays in step
     }
 }
 
@@ -141,7 +133,8 @@ apunorde *vornsave_nousar_lee_apunorde_con_1_dato_extra(vornsave *vornsave_datos
 
 // ---- Points with a private value of the caller's.
 
-void vornsave_graba_arr_puntos2DXPriv(const arrPunto2DXPriv *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
+void vornsave_graba_arr_puntos2DXPriv(const arrPunto2DXPriv *array, vornsave *vornsave_datos,
+                                      vnfunc_graba_dato funcion) {
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(double)>(vornsave_datos)) return;
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;

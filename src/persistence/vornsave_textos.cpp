@@ -8,12 +8,8 @@ using namespace vn;
 
 namespace {
 
-void destruye_textos(arrCADENA **a) {
-    arr_DestruyeCADENA(a);
-}
-void destruye_textos_u(arrCADENA_u **a) {
-    arr_DestruyeCADENA_u(a);
-}
+void destruye_textos(arrCADENA **a) { arr_DestruyeCADENA(a); }
+void destruye_textos_u(arrCADENA_u **a) { arr_DestruyeCADENA_u(a); }
 
 // What the two widths differ in.
 struct ansi {
@@ -71,9 +67,7 @@ template <class W> void graba_textos(const typename W::arr *array, vornsave *d, 
 }
 
 // Texts that are read as lines: one that is too long leaves the source in step.
-template <class W> bool por_lineas(const vornsave *d) {
-    return std::is_same_v<W, ansi> && d->lee_linea != nullptr;
-}
+template <class W> bool por_lineas(const vornsave *d) { return std::is_same_v<W, ansi> && d->lee_linea != nullptr; }
 // One text of an array: its own form, the line, or the plain entry.
 template <class W> typename W::caracter *lee_texto(vornsave *d, bool con_null) {
     if (con_null && d->*W::LEE_O_NULL != nullptr) return (d->*W::LEE_O_NULL)(d->datos_destino);
@@ -96,18 +90,14 @@ template <class W> typename W::arr *lee_textos(vornsave *d, bool con_null, bool 
         if constexpr (std::is_same_v<W, ansi>)
             if (de_ascii && texto != nullptr) cad_convertir_cadena_ascii_ansi(texto.get());
         auto *original = texto.release();
-        if (i < listos)
-            W::pone(array.get(), i, &original);
-        else
-            W::anade(array.get(), &original);
+        if (i < listos) W::pone(array.get(), i, &original);
+        else W::anade(array.get(), &original);
     }
     if (i < listos) W::reduce(array.get(), i);
     return array.release();
 }
 
-bool lee_ascii(const vornsave *d) {
-    return d != nullptr && d->ANSI == FALSO;
-}
+bool lee_ascii(const vornsave *d) { return d != nullptr && d->ANSI == FALSO; }
 
 } // namespace
 
@@ -115,9 +105,7 @@ void vn::graba_texto_o_null(const char *texto, vornsave *vornsave_datos) {
     graba_texto<ansi>(texto, vornsave_datos, true);
 }
 
-char *vn::lee_texto_o_null(vornsave *vornsave_datos) {
-    return lee_texto<ansi>(vornsave_datos, true);
-}
+char *vn::lee_texto_o_null(vornsave *vornsave_datos) { return lee_texto<ansi>(vornsave_datos, true); }
 
 void vornsave_graba_arr_cadenas(const arrCADENA *array, vornsave *vornsave_datos) {
     graba_textos<ansi>(array, vornsave_datos, false);
@@ -196,9 +184,8 @@ struct orden_u {
 };
 
 // The texts go through the entry, or through a function of the caller's, never both.
-template <class O>
-void graba_conjunto(const typename O::conjunto *array, bool con_funcion, vnfunc_graba_texto fncptr_cs_graba_cadena,
-                    vornsave *d) {
+template <class O> void graba_conjunto(const typename O::conjunto *array, bool con_funcion,
+                                       vnfunc_graba_texto fncptr_cs_graba_cadena, vornsave *d) {
     if (!SE_GRABA(d, AFIRMA_NO_NULO(array))) return;
     if (!SE_GRABA(d, con_funcion ? AFIRMA_NO_NULO(fncptr_cs_graba_cadena)
                                  : AFIRMA_TEXTO(fncptr_cs_graba_cadena == nullptr, "fncptr_cs_graba_cadena == NULL")))
@@ -210,10 +197,8 @@ void graba_conjunto(const typename O::conjunto *array, bool con_funcion, vnfunc_
     graba<GRABAR(ulong_y_salta)>(d, n);
     for (uint32_t i = 0; i < n; ++i)
         if constexpr (std::is_same_v<O, orden>) {
-            if (con_funcion)
-                fncptr_cs_graba_cadena(O::get(array, i), d);
-            else
-                graba_texto<ansi>(O::get(array, i), d, false);
+            if (con_funcion) fncptr_cs_graba_cadena(O::get(array, i), d);
+            else graba_texto<ansi>(O::get(array, i), d, false);
         } else {
             graba_texto<ancha>(O::get(array, i), d, false);
         }
@@ -230,8 +215,7 @@ template <class O> typename O::conjunto *lee_conjunto(vornsave *d, vnfunc_lee_te
         typename O::texto::dueno_texto texto;
         if constexpr (std::is_same_v<O, orden>)
             texto.reset(funcion != nullptr ? funcion(d) : lee_texto<ansi>(d, false));
-        else
-            texto.reset(lee_texto<ancha>(d, false));
+        else texto.reset(lee_texto<ancha>(d, false));
         if (texto != nullptr) O::inserta(array.get(), texto.get());
     }
     return array.release();
@@ -251,15 +235,11 @@ void vornsave_graba_acadorde_con_funcion(const acadorde *array, vnfunc_graba_tex
     graba_conjunto<orden>(array, true, funcion, vornsave_datos);
 }
 
-acadorde *vornsave_lee_acadorde(vornsave *vornsave_datos) {
-    return lee_conjunto<orden>(vornsave_datos, nullptr);
-}
+acadorde *vornsave_lee_acadorde(vornsave *vornsave_datos) { return lee_conjunto<orden>(vornsave_datos, nullptr); }
 
 acadorde *vornsave_lee_acadorde_con_funcion(vornsave *vornsave_datos, vnfunc_lee_texto funcion) {
     if (!AFIRMA_NO_NULO(funcion)) return nullptr;
     return lee_conjunto<orden>(vornsave_datos, funcion);
 }
 
-acadordeu *vornsave_lee_acadordeu(vornsave *vornsave_datos) {
-    return lee_conjunto<orden_u>(vornsave_datos, nullptr);
-}
+acadordeu *vornsave_lee_acadordeu(vornsave *vornsave_datos) { return lee_conjunto<orden_u>(vornsave_datos, nullptr); }

@@ -1,11 +1,12 @@
-/* Regional data, and the names of the machine and of its user: the library's one door to what the user set in the system.
+/* Regional data, and the names of the machine and of its user: the library's one door to what the user set in the
+   system.
 
    Windows' regional settings; elsewhere those of the environment (LC_ALL, or LC_NUMERIC for numbers and LC_TIME for the
-   rest, or LANG), as the tables of Unicode have them, as pictures in the letters of Windows; what a region's picture is may
-   differ between the two (d/M/yyyy, dd/MM/yyyy). Dates are Gregorian in every region. What is set while the program runs
-   is seen half a second later at most; another region than the user's can be set in foundation/sistema/vnregional.h. A narrow or
-   thin blank that does not break comes as the plain one (U+00A0), a minus sign of its own (U+2212) as '-', on every
-   platform: one character of the ANSI pages each.
+   rest, or LANG), as the tables of Unicode have them, as pictures in the letters of Windows; what a region's picture is
+   may differ between the two (d/M/yyyy, dd/MM/yyyy). Dates are Gregorian in every region. What is set while the program
+   runs is seen half a second later at most; another region than the user's can be set in
+   foundation/sistema/vnregional.h. A narrow or thin blank that does not break comes as the plain one (U+00A0), a minus
+   sign of its own (U+2212) as '-', on every platform: one character of the ANSI pages each.
 
    Results are new texts, the caller's. ANSI ones are in the active ANSI page. */
 #ifndef VN_SYSDATA_H
@@ -33,11 +34,12 @@ int32_t sysdata_orden_fecha(void);
 int32_t sysdata_modo_horario(void);
 
 /** Text of a date: day of the month, month from 1, year; the day of the week is found from these, whatever
-    `dia_semana` says. `modelo`, if not null, is a picture of d, dd (day), ddd, dddd (name of the day), M, MM, MMM, MMMM,
-    y, yy, yyyy, gg (era) and text, in single quotes where it has such letters; if null, the user's short or, `larga`,
-    long date. A year of 1900 or less gives an empty text; what is no date is reported as "tamanyo_cadena != 0" and
-    gives an empty text. */
-char *sysdata_fecha(int32_t dia, int32_t mes, int32_t anyo, int32_t dia_semana, VN_OPC const char *modelo, vnbool larga);
+    `dia_semana` says. `modelo`, if not null, is a picture of d, dd (day), ddd, dddd (name of the day), M, MM, MMM,
+    MMMM, y, yy, yyyy, gg (era) and text, in single quotes where it has such letters; if null, the user's short or,
+    `larga`, long date. A year of 1900 or less gives an empty text; what is no date is reported as "tamanyo_cadena != 0"
+    and gives an empty text. */
+char *sysdata_fecha(int32_t dia, int32_t mes, int32_t anyo, int32_t dia_semana, VN_OPC const char *modelo,
+                    vnbool larga);
 vnwchar *sysdata_fecha_u(int32_t dia, int32_t mes, int32_t anyo, int32_t dia_semana, VN_OPC const vnwchar *modelo,
                          vnbool larga);
 /** Text of a time of day, 0 to 59, 0 to 59, 0 to 23; another is reported as "tamanyo_cadena != 0" and gives an empty
@@ -50,8 +52,8 @@ vnwchar *sysdata_hora_u(int32_t segundo, int32_t minuto, int32_t hora, vnbool co
     "%.*f" writes it. */
 vnwchar *sysdata_formateaNumero_u(double valor, int32_t decimales);
 
-/** Name of a day of the week as it stands alone (where the system tells that form from the other), 0 Sunday to 6 Saturday,
-    whole or abbreviated; another is reported as "dia < 7" and gives null. */
+/** Name of a day of the week as it stands alone (where the system tells that form from the other), 0 Sunday to 6
+    Saturday, whole or abbreviated; another is reported as "dia < 7" and gives null. */
 char *sysdata_nombre_dia(VN_RANGO(0, 6) uint32_t dia);
 char *sysdata_nombre_dia_abreviado(VN_RANGO(0, 6) uint32_t dia);
 

@@ -31,7 +31,8 @@ int64_t segundos_de(const momento &m) {
 // The last second of the year 9999.
 constexpr int64_t ULTIMO_SEGUNDO = 253402300799;
 
-void descompone(int64_t t, int32_t *dia, int32_t *mes, int32_t *anyo, int32_t *hora, int32_t *minuto, int32_t *segundo) {
+void descompone(int64_t t, int32_t *dia, int32_t *mes, int32_t *anyo, int32_t *hora, int32_t *minuto,
+                int32_t *segundo) {
     if (!AFIRMA_NO_NULO(dia) || !AFIRMA_NO_NULO(mes) || !AFIRMA_NO_NULO(anyo)) return;
     if (!AFIRMA(t >= 0 && t <= ULTIMO_SEGUNDO)) t = 0;
     const dia_del_calendario d = dia_de(t / SEGUNDOS_DIA);
@@ -44,8 +45,8 @@ void descompone(int64_t t, int32_t *dia, int32_t *mes, int32_t *anyo, int32_t *h
     if (segundo != nullptr) *segundo = resto % 60;
 }
 
-// The DOS date and time of a file time: 7 bits of the year from 1980, 4 of the month, 5 of the day; 5 of the hour, 6 of the
-// minute, 5 of the pair of seconds. FALSO outside the years that fit.
+// The DOS date and time of a file time: 7 bits of the year from 1980, 4 of the month, 5 of the day; 5 of the hour, 6 of
+// the minute, 5 of the pair of seconds. FALSO outside the years that fit.
 vnbool a_fecha_DOS(const vnFILETIME &filetime, uint16_t &fecha, uint16_t &hora) {
     constexpr uint64_t PASOS_POR_SEGUNDO = 10000000, DE_1601_A_1970 = 11644473600;
     const uint64_t segundos = (uint64_t{filetime.dwHighDateTime} << 32 | filetime.dwLowDateTime) / PASOS_POR_SEGUNDO;

@@ -1,5 +1,5 @@
-/* Dates and Windows file times as counts of seconds since 1970, in the true calendar and in no time zone. A second, smaller
-   module beside vorntime, of narrower range: the years 1970 to 2037. */
+/* Dates and Windows file times as counts of seconds since 1970, in the true calendar and in no time zone. A second,
+   smaller module beside vorntime, of narrower range: the years 1970 to 2037. */
 #ifndef VN_TIMECALC_H
 #define VN_TIMECALC_H
 
@@ -30,8 +30,9 @@ void timecalc_convierte_time64_t_a_fecha_y_hora(VN_RANGO(0, 253402300799) int64_
                                                 VN_SALIDA_OPC int32_t *hora, VN_SALIDA_OPC int32_t *minuto,
                                                 VN_SALIDA_OPC int32_t *segundo);
 void timecalc_convierte_time_t_a_fecha_y_hora(VN_RANGO(0, 253402300799) int64_t t, VN_SALIDA int32_t *dia,
-                                              VN_SALIDA int32_t *mes, VN_SALIDA int32_t *anyo, VN_SALIDA_OPC int32_t *hora,
-                                              VN_SALIDA_OPC int32_t *minuto, VN_SALIDA_OPC int32_t *segundo);
+                                              VN_SALIDA int32_t *mes, VN_SALIDA int32_t *anyo,
+                                              VN_SALIDA_OPC int32_t *hora, VN_SALIDA_OPC int32_t *minuto,
+                                              VN_SALIDA_OPC int32_t *segundo);
 /** Seconds of a file time by way of the DOS date, which counts pairs of seconds and begins in 1980: an odd second gives
     the even one before it. A time outside the years 1980 to 2037 is reported: 0. */
 int32_t timecalc_convierte_FILETIME_a_time32_t(const vnFILETIME *filetime);

@@ -1,9 +1,9 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
 #include "time/vorntime.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr.h"
-#include "foundation/suelo/calendario_int.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/calendario_int.h"
 #include "persistence/vornsave.h"
 #include "time/vorntime_priv.h"
 #include <algorithm>
@@ -29,8 +29,9 @@ bool comprueba(const struct tmtime *tmtime) {
 }
 
 // The fields in the order of a file.
-constexpr int32_t tmtime::*CAMPOS[] = {&tmtime::tm_sec, &tmtime::tm_min,  &tmtime::tm_hour, &tmtime::tm_mday, &tmtime::tm_mon,
-                                       &tmtime::tm_year, &tmtime::tm_wday, &tmtime::tm_yday, &tmtime::tm_isdst};
+constexpr int32_t tmtime::*CAMPOS[] = {&tmtime::tm_sec,  &tmtime::tm_min,  &tmtime::tm_hour,
+                                       &tmtime::tm_mday, &tmtime::tm_mon,  &tmtime::tm_year,
+                                       &tmtime::tm_wday, &tmtime::tm_yday, &tmtime::tm_isdst};
 // From the field that weighs most in a comparison to the one that weighs least.
 constexpr int32_t tmtime::*ORDEN[] = {&tmtime::tm_year, &tmtime::tm_mon, &tmtime::tm_mday,
                                       &tmtime::tm_hour, &tmtime::tm_min, &tmtime::tm_sec};
@@ -41,8 +42,15 @@ bool lee_hora_local(tmtime &fecha) {
     const std::tm *hoy = vnstdc__localtime64(&t);
     if (!AFIRMA_TEXTO(hoy != nullptr, "hoy != NULL")) return false;
     // A clock that tells leap seconds has a 60th one.
-    fecha = {std::min(hoy->tm_sec, 59), hoy->tm_min,  hoy->tm_hour, hoy->tm_mday, hoy->tm_mon,
-             hoy->tm_year,              hoy->tm_wday, hoy->tm_yday, hoy->tm_isdst};
+    fecha = {std::min(hoy->tm_sec, 59),
+             hoy->tm_min,
+             hoy->tm_hour,
+             hoy->tm_mday,
+             hoy->tm_mon,
+             hoy->tm_year,
+             hoy->tm_wday,
+             hoy->tm_yday,
+             hoy->tm_isdst};
     return true;
 }
 

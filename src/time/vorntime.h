@@ -1,8 +1,9 @@
-/* Dates and times: a broken-down record, its seconds since 1970, and the texts that files, lists and dialogs need. No time
-   zone enters but where an operation says local time. Years are those of the Gregorian calendar.
+/* Dates and times: a broken-down record, its seconds since 1970, and the texts that files, lists and dialogs need. No
+   time zone enters but where an operation says local time. Years are those of the Gregorian calendar.
 
-   Two features of the count of seconds stay as they are, because files hold it: it is one day ahead for dates of 1970 to
-   1972, and again from 2101 on, since it counts a leap day for every fourth year before. The way back knows neither. */
+   Two features of the count of seconds stay as they are, because files hold it: it is one day ahead for dates of 1970
+   to 1972, and again from 2101 on, since it counts a leap day for every fourth year before. The way back knows
+   neither. */
 #ifndef VN_VORNTIME_H
 #define VN_VORNTIME_H
 
@@ -28,7 +29,8 @@ VN_C_INICIO
 
 /* ---- Records. The check of one reports each field that is out of its range (tm_year and tm_isdst have none). ---- */
 
-/** New record, checked, with its day of the week and of the year; `anyo` in full. After a report it is the start of 1970. */
+/** New record, checked, with its day of the week and of the year; `anyo` in full. After a report it is the start of
+    1970. */
 tmtime *vtm_crea(VN_RANGO(0, 23) int32_t hora, VN_RANGO(0, 59) int32_t minuto, VN_RANGO(0, 59) int32_t segundo,
                  VN_RANGO(1, 31) int32_t dia, VN_RANGO(1, 12) int32_t mes, int32_t anyo);
 /** New copy. */
@@ -46,11 +48,11 @@ void vorntime_ajusta_fecha_valida(tmtime *fecha);
 /** Day 1 to 31, month 1 to 12, and year in full. */
 void vorntime_obtener_dia_mes_anyo(const tmtime *fecha, VN_SALIDA int32_t *dia, VN_SALIDA int32_t *mes,
                                    VN_SALIDA int32_t *anyo);
-/** Writes the nine fields as 16-bit integers, which hold the years up to 34667. In place of a record that fails the check,
-    which is reported, the start of 1970 goes, so that what follows in the file keeps its place. */
+/** Writes the nine fields as 16-bit integers, which hold the years up to 34667. In place of a record that fails the
+    check, which is reported, the start of 1970 goes, so that what follows in the file keeps its place. */
 void vtm_graba_hora_y_fecha(const tmtime *fecha, vornsave *vornsave_datos);
-/** Reads what vtm_graba_hora_y_fecha writes: a new record, the caller's. One that fails the check is reported, and is the
-    start of 1970 then. */
+/** Reads what vtm_graba_hora_y_fecha writes: a new record, the caller's. One that fails the check is reported, and is
+    the start of 1970 then. */
 tmtime *vtm_lee_hora_y_fecha(vornsave *vornsave_datos);
 
 /* ---- Comparison: year, month, day, hour, minute, second; the other fields take no part ---- */
@@ -66,13 +68,14 @@ void vtm_test_fechas(VN_DATO void *vornsave_o_contexto);
 
 /* ---- Seconds since 1970 ---- */
 
-/** Seconds of a date; see the two features above. A month out of range is reported: 0. Other fields may be out of theirs
-    and count for what they are. */
+/** Seconds of a date; see the two features above. A month out of range is reported: 0. Other fields may be out of
+    theirs and count for what they are. */
 int64_t vtm_convierte_fecha_a_time_t(const tmtime *fecha);
 /** The same in 32 bits. A date that does not fit is reported and gives the nearest number that does. */
 uint32_t vtm_convierte_fecha_a_segundos(const tmtime *fecha);
-/** Date of a count of seconds, in the true calendar; the day of the week as vtm_dia_de_la_semana_tim64t gives it. Outside
-    the years 1970 to 2147485547, whose last second is the end of the range, it is reported: the start of 1970. */
+/** Date of a count of seconds, in the true calendar; the day of the week as vtm_dia_de_la_semana_tim64t gives it.
+    Outside the years 1970 to 2147485547, whose last second is the end of the range, it is reported: the start of
+    1970. */
 void vtm_convierte_time64t_a_fecha(VN_RANGO(0, 67768036191676799) int64_t t, VN_SALIDA tmtime *fecha);
 void vtm_convierte_timet_a_fecha(VN_RANGO(0, 67768036191676799) int64_t t, VN_SALIDA tmtime *fecha);
 void vtm_convierte_segundos_a_fecha(uint32_t segundos, VN_SALIDA tmtime *fecha);
@@ -83,8 +86,8 @@ uint32_t vtm_segundos_en_un_mes(VN_RANGO(0, 11) uint32_t mes, int32_t anyo);
 uint32_t vtm_segundos_en_un_anyo(int32_t anyo);
 /** vtm_convierte_fecha_a_time_t of the first moment of a year, in full. */
 int64_t vtm_segundos_el_uno_enero_anyo(int32_t anyo);
-/** Day of the week, 0 Sunday to 6: the remainder of the days since 4 January 1970, so that it is -3 to -1 in the first three
-    days of 1970, and from -6 to 0 before. */
+/** Day of the week, 0 Sunday to 6: the remainder of the days since 4 January 1970, so that it is -3 to -1 in the first
+    three days of 1970, and from -6 to 0 before. */
 int16_t vtm_dia_de_la_semana_tim64t(int64_t t);
 int16_t vtm_dia_de_la_semana_segundos(uint32_t segundos);
 /** Local time now: seconds as vtm_convierte_fecha_a_time_t counts them, in 32 bits. */
@@ -108,8 +111,8 @@ void vorntime_dia_y_mes_de_dia_juliano(VN_RANGO(1, 365) uint32_t dia_juliano_1_3
 /** The month itself, 0 to 11; as 1 to 12. A larger one is reported: 0. */
 uint32_t vorntime_obtener_mes(VN_RANGO(0, 11) uint32_t mes);
 uint32_t vorntime_obtener_numero_mes(VN_RANGO(0, 11) uint32_t mes);
-/** Name of a month in the active language, whole ("Enero") and abbreviated ("Ene"). Borrowed; a larger month is reported and
-    gives an empty text. */
+/** Name of a month in the active language, whole ("Enero") and abbreviated ("Ene"). Borrowed; a larger month is
+    reported and gives an empty text. */
 const char *vorntime_obtener_nombre_mes(VN_RANGO(0, 11) uint32_t mes);
 const vnwchar *vorntime_obtener_nombre_mes_u(VN_RANGO(0, 11) uint32_t mes);
 const char *vorntime_obtener_nombre_mes_abreviado(VN_RANGO(0, 11) uint32_t mes);
@@ -158,10 +161,10 @@ const vnwchar *vtm_fecha_str64_u(int64_t t);
 /** Model of the user's dates with four digits for the year, "dd/MM/yyyy"; with `con_hora` also " HH:mm:ss". */
 char *vorntime_dame_cadena_formato_fecha(vnbool con_hora);
 
-/** Date out of a text: day, month, year and, if they are there, hour, minute and second, whole numbers with any of "/-: "
-    between them. A year may be in full, 1900 to 2100, or short: 70 to 99 of the last century, 0 to 69 of this one (100 to 200
-    count from 1900 too). An hour, minute or second that is missing or is no number is 0. FALSO, and `fecha` as it was, for
-    what is no date. */
+/** Date out of a text: day, month, year and, if they are there, hour, minute and second, whole numbers with any of "/-:
+    " between them. A year may be in full, 1900 to 2100, or short: 70 to 99 of the last century, 0 to 69 of this one
+    (100 to 200 count from 1900 too). An hour, minute or second that is missing or is no number is 0. FALSO, and `fecha`
+    as it was, for what is no date. */
 vnbool vtm_convierte_cadena_a_tm(const char *cadena, VN_SALIDA tmtime *fecha);
 vnbool vtm_convierte_cadena_a_tm_u(const vnwchar *cadena, VN_SALIDA tmtime *fecha);
 

@@ -10,18 +10,15 @@ namespace {
 
 using ansi_propio = propio<char>;
 
-// Known days, in order. The names are those of Spanish regional data, of the abbreviated ones the letters that all systems
-// agree on; null where they are not looked at.
+// Known days, in order. The names are those of Spanish regional data, of the abbreviated ones the letters that all
+// systems agree on; null where they are not looked at.
 constexpr struct {
     int32_t dia, mes, anyo;
     int32_t dia_semana;
     const char *nombre, *abreviado;
 } FECHAS[] = {
-    {7, 2, 1970, 6, nullptr, nullptr},
-    {1, 5, 1974, 3, nullptr, "mi"},
-    {19, 1, 1999, 2, "martes", "ma"},
-    {29, 2, 2000, 2, nullptr, nullptr},
-    {24, 6, 2005, 5, "viernes", "vi"},
+    {7, 2, 1970, 6, nullptr, nullptr},  {1, 5, 1974, 3, nullptr, "mi"},    {19, 1, 1999, 2, "martes", "ma"},
+    {29, 2, 2000, 2, nullptr, nullptr}, {24, 6, 2005, 5, "viernes", "vi"},
 };
 
 bool regional_en_espanyol() {

@@ -33,8 +33,8 @@ class piezas {
     const vnwchar *resto_;
 };
 
-// A whole number: digits, after a plus sign or not. (A minus sign and blanks never get into a piece.) What is beyond any
-// field of a date stops at a number that is beyond them too.
+// A whole number: digits, after a plus sign or not. (A minus sign and blanks never get into a piece.) What is beyond
+// any field of a date stops at a number that is beyond them too.
 std::optional<int32_t> entero(std::optional<vista> pieza) {
     constexpr int32_t ENORME = 100000;
     if (!pieza) return std::nullopt;
@@ -48,7 +48,9 @@ std::optional<int32_t> entero(std::optional<vista> pieza) {
     return n;
 }
 
-bool entre(const std::optional<int32_t> &n, int32_t minimo, int32_t maximo) { return n && *n >= minimo && *n <= maximo; }
+bool entre(const std::optional<int32_t> &n, int32_t minimo, int32_t maximo) {
+    return n && *n >= minimo && *n <= maximo;
+}
 
 std::optional<tmtime> lee(const vnwchar *cadena) {
     piezas p(cadena);

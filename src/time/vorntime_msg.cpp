@@ -1,6 +1,6 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
-#include "time/vorntime_msg_priv.h"
 #include "foundation/texto/msglocal_int.h"
+#include "time/vorntime_msg_priv.h"
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -23,100 +23,114 @@ template <size_t N> struct clase {
     std::array<lengua, LENGUAS> lenguas;
 };
 
-constexpr clase<12> MESES{1, {38089, 38090, 38091, 38092, 38093, 38094, 38095, 38096, 38097, 38098, 38099, 38100}, {{
-    {vn::ES, VNU("Enero Febrero Marzo Abril Mayo Junio Julio Agosto Septiembre Octubre Noviembre Diciembre")},
-    {vn::FR, VNU("Janvier Février Mars Avril Mai Juin Juillet Août Septembre Octobre Novembre Décembre")},
-    {vn::PT_BR, VNU("Janeiro Fevereiro Março Abril Maio Junho Julho Agosto Setembro Outubro Novembro Dezembro")},
-    {vn::PT, VNU("Janeiro Fevereiro Março Abril Maio Junho Julho Agosto Setembro Outubro Novembro Dezembro")},
-    {vn::CA, VNU("Gener Febrer Març Abril Maig Juny Juliol Agost Setembre Octubre Novembre Desembre")},
-    {vn::IT, VNU("Gennaio Febbraio Marzo Aprile Maggio Giugno Luglio Agosto Settembre Ottobre Novembre Dicembre")},
-    {vn::EN, VNU("January February March April May June July August September October November December")},
-    {vn::GL, VNU("Xaneiro Febreiro Marzo Abril Maio Xuño Xullo Agosto Setembro Outubro Novembro Decembro")},
-    {vn::BG, VNU("Януари Февруари Март Април Май Юни Юли Август Септември Октомври Ноември Декември")},
-    {vn::RO, VNU("Ianuarie Februarie Martie Aprilie Mai Iunie Iulie August Septembrie Octombrie Noiembrie Decembrie")},
-    {vn::ZH, VNU("一月 二月 三月 四月 五月 六月 七月 八月 九月 十月 十一月 十二月")},
-    {vn::DE, VNU("Januar Februar März April Mai Juni Juli August September Oktober November Dezember")},
-    {vn::RU, VNU("Январь Февраль Март Апрель Май Июнь Июль Август Сентябрь Октябрь Ноябрь Декабрь")},
-    {vn::PL, VNU("Styczeń Luty Marzec Kwiecień Maj Czerwiec Lipiec Sierpień Wrzesień Październik Listopad Grudzień")},
-    {vn::TR, VNU("Ocak Şubat Mart Nisan Mayıs Haziran Temmuz Ağustos Eylül Ekim Kasım Aralık")},
-    {vn::JA, VNU("1月 2月 3月 4月 5月 6月 7月 8月 9月 10月 11月 12月")},
-}}};
+constexpr clase<12> MESES{
+    1,
+    {38089, 38090, 38091, 38092, 38093, 38094, 38095, 38096, 38097, 38098, 38099, 38100},
+    {{
+        {vn::ES, VNU("Enero Febrero Marzo Abril Mayo Junio Julio Agosto Septiembre Octubre Noviembre Diciembre")},
+        {vn::FR, VNU("Janvier Février Mars Avril Mai Juin Juillet Août Septembre Octobre Novembre Décembre")},
+        {vn::PT_BR, VNU("Janeiro Fevereiro Março Abril Maio Junho Julho Agosto Setembro Outubro Novembro Dezembro")},
+        {vn::PT, VNU("Janeiro Fevereiro Março Abril Maio Junho Julho Agosto Setembro Outubro Novembro Dezembro")},
+        {vn::CA, VNU("Gener Febrer Març Abril Maig Juny Juliol Agost Setembre Octubre Novembre Desembre")},
+        {vn::IT, VNU("Gennaio Febbraio Marzo Aprile Maggio Giugno Luglio Agosto Settembre Ottobre Novembre Dicembre")},
+        {vn::EN, VNU("January February March April May June July August September October November December")},
+        {vn::GL, VNU("Xaneiro Febreiro Marzo Abril Maio Xuño Xullo Agosto Setembro Outubro Novembro Decembro")},
+        {vn::BG, VNU("Януари Февруари Март Април Май Юни Юли Август Септември Октомври Ноември Декември")},
+        {vn::RO,
+         VNU("Ianuarie Februarie Martie Aprilie Mai Iunie Iulie August Septembrie Octombrie Noiembrie Decembrie")},
+        {vn::ZH, VNU("一月 二月 三月 四月 五月 六月 七月 八月 九月 十月 十一月 十二月")},
+        {vn::DE, VNU("Januar Februar März April Mai Juni Juli August September Oktober November Dezember")},
+        {vn::RU, VNU("Январь Февраль Март Апрель Май Июнь Июль Август Сентябрь Октябрь Ноябрь Декабрь")},
+        {vn::PL,
+         VNU("Styczeń Luty Marzec Kwiecień Maj Czerwiec Lipiec Sierpień Wrzesień Październik Listopad Grudzień")},
+        {vn::TR, VNU("Ocak Şubat Mart Nisan Mayıs Haziran Temmuz Ağustos Eylül Ekim Kasım Aralık")},
+        {vn::JA, VNU("1月 2月 3月 4月 5月 6月 7月 8月 9月 10月 11月 12月")},
+    }}};
 
-constexpr clase<12> MESES_ABREVIADOS{13, {}, {{
-    {vn::ES, VNU("Ene Feb Mar Abr May Jun Jul Ago Sep Oct Nov Dic")},
-    {vn::FR, VNU("Janv Févr Mars Avr Mai Juin Juil Août Sept Oct Nov Déc")},
-    {vn::PT_BR, VNU("Jan Fev Mar Abr Mai Jun Jul Ago Set Out Nov Dez")},
-    {vn::PT, VNU("Jan Fev Mar Abr Mai Jun Jul Ago Set Out Nov Dez")},
-    {vn::CA, VNU("Gen Febr Març Abr Maig Juny Jul Ag Set Oct Nov Des")},
-    {vn::IT, VNU("Gen Feb Mar Apr Mag Giu Lug Ago Set Ott Nov Dic")},
-    {vn::EN, VNU("Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec")},
-    {vn::GL, VNU("Xan Feb Mar Abr Maio Xuño Xul Ago Set Out Nov Dec")},
-    {vn::BG, VNU("Яну Фев Март Апр Май Юни Юли Авг Сеп Окт Ное Дек")},
-    {vn::RO, VNU("Ian Feb Mar Apr Mai Iun Iul Aug Sept Oct Nov Dec")},
-    {vn::ZH, VNU("1月 2月 3月 4月 5月 6月 7月 8月 9月 10月 11月 12月")},
-    {vn::DE, VNU("Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez")},
-    {vn::RU, VNU("Янв Февр Март Апр Май Июнь Июль Авг Сент Окт Нояб Дек")},
-    {vn::PL, VNU("Sty Lut Mar Kwi Maj Cze Lip Sie Wrz Paź Lis Gru")},
-    {vn::TR, VNU("Oca Şub Mar Nis May Haz Tem Ağu Eyl Eki Kas Ara")},
-    {vn::JA, VNU("1月 2月 3月 4月 5月 6月 7月 8月 9月 10月 11月 12月")},
-}}};
+constexpr clase<12> MESES_ABREVIADOS{13,
+                                     {},
+                                     {{
+                                         {vn::ES, VNU("Ene Feb Mar Abr May Jun Jul Ago Sep Oct Nov Dic")},
+                                         {vn::FR, VNU("Janv Févr Mars Avr Mai Juin Juil Août Sept Oct Nov Déc")},
+                                         {vn::PT_BR, VNU("Jan Fev Mar Abr Mai Jun Jul Ago Set Out Nov Dez")},
+                                         {vn::PT, VNU("Jan Fev Mar Abr Mai Jun Jul Ago Set Out Nov Dez")},
+                                         {vn::CA, VNU("Gen Febr Març Abr Maig Juny Jul Ag Set Oct Nov Des")},
+                                         {vn::IT, VNU("Gen Feb Mar Apr Mag Giu Lug Ago Set Ott Nov Dic")},
+                                         {vn::EN, VNU("Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec")},
+                                         {vn::GL, VNU("Xan Feb Mar Abr Maio Xuño Xul Ago Set Out Nov Dec")},
+                                         {vn::BG, VNU("Яну Фев Март Апр Май Юни Юли Авг Сеп Окт Ное Дек")},
+                                         {vn::RO, VNU("Ian Feb Mar Apr Mai Iun Iul Aug Sept Oct Nov Dec")},
+                                         {vn::ZH, VNU("1月 2月 3月 4月 5月 6月 7月 8月 9月 10月 11月 12月")},
+                                         {vn::DE, VNU("Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez")},
+                                         {vn::RU, VNU("Янв Февр Март Апр Май Июнь Июль Авг Сент Окт Нояб Дек")},
+                                         {vn::PL, VNU("Sty Lut Mar Kwi Maj Cze Lip Sie Wrz Paź Lis Gru")},
+                                         {vn::TR, VNU("Oca Şub Mar Nis May Haz Tem Ağu Eyl Eki Kas Ara")},
+                                         {vn::JA, VNU("1月 2月 3月 4月 5月 6月 7月 8月 9月 10月 11月 12月")},
+                                     }}};
 
-constexpr clase<7> DIAS{25, {38108, 38109, 38110, 38111, 38112, 38113, 38114}, {{
-    {vn::ES, VNU("Dom Lun Mar Mie Jue Vie Sab")},
-    {vn::FR, VNU("Dim Lun Mar Mer Jeu Ven Sam")},
-    {vn::PT_BR, VNU("Dom Seg Ter Qua Qui Sex Sáb")},
-    {vn::PT, VNU("Dom Seg Ter Qua Qui Sex Sáb")},
-    {vn::CA, VNU("Dg Dl Dt Dc Dj Dv Ds")},
-    {vn::IT, VNU("Dom Lun Mar Mer Gio Ven Sab")},
-    {vn::EN, VNU("Sun Mon Tue Wed Thu Fri Sat")},
-    {vn::GL, VNU("Dom Luns Mar Mér Xov Ven Sáb")},
-    {vn::BG, VNU("Нд Пн Вт Ср Чт Пт Сб")},
-    {vn::RO, VNU("Dum Lun Mar Mie Joi Vin Sâm")},
-    {vn::ZH, VNU("周日 周一 周二 周三 周四 周五 周六")},
-    {vn::DE, VNU("So Mo Di Mi Do Fr Sa")},
-    {vn::RU, VNU("Вс Пн Вт Ср Чт Пт Сб")},
-    {vn::PL, VNU("Niedz Pon Wt Śr Czw Pt Sob")},
-    {vn::TR, VNU("Paz Pzt Sal Çar Per Cum Cmt")},
-    {vn::JA, VNU("日 月 火 水 木 金 土")},
-}}};
+constexpr clase<7> DIAS{25,
+                        {38108, 38109, 38110, 38111, 38112, 38113, 38114},
+                        {{
+                            {vn::ES, VNU("Dom Lun Mar Mie Jue Vie Sab")},
+                            {vn::FR, VNU("Dim Lun Mar Mer Jeu Ven Sam")},
+                            {vn::PT_BR, VNU("Dom Seg Ter Qua Qui Sex Sáb")},
+                            {vn::PT, VNU("Dom Seg Ter Qua Qui Sex Sáb")},
+                            {vn::CA, VNU("Dg Dl Dt Dc Dj Dv Ds")},
+                            {vn::IT, VNU("Dom Lun Mar Mer Gio Ven Sab")},
+                            {vn::EN, VNU("Sun Mon Tue Wed Thu Fri Sat")},
+                            {vn::GL, VNU("Dom Luns Mar Mér Xov Ven Sáb")},
+                            {vn::BG, VNU("Нд Пн Вт Ср Чт Пт Сб")},
+                            {vn::RO, VNU("Dum Lun Mar Mie Joi Vin Sâm")},
+                            {vn::ZH, VNU("周日 周一 周二 周三 周四 周五 周六")},
+                            {vn::DE, VNU("So Mo Di Mi Do Fr Sa")},
+                            {vn::RU, VNU("Вс Пн Вт Ср Чт Пт Сб")},
+                            {vn::PL, VNU("Niedz Pon Wt Śr Czw Pt Sob")},
+                            {vn::TR, VNU("Paz Pzt Sal Çar Per Cum Cmt")},
+                            {vn::JA, VNU("日 月 火 水 木 金 土")},
+                        }}};
 
-constexpr clase<7> INICIALES{32, {38107, 38101, 38102, 38103, 292618, 291528, 286311}, {{
-    {vn::ES, VNU("D L M X J V S")},
-    {vn::FR, VNU("D L M M J V S")},
-    {vn::PT_BR, VNU("D S T Q Q S S")},
-    {vn::PT, VNU("D S T Q Q S S")},
-    {vn::CA, VNU("G L T C J V S")}, // all begin with D: the second letter
-    {vn::IT, VNU("D L M M G V S")},
-    {vn::EN, VNU("S M T W T F S")},
-    {vn::GL, VNU("D L M M X V S")},
-    {vn::BG, VNU("Н П В С Ч П С")},
-    {vn::RO, VNU("D L M M J V S")},
-    {vn::ZH, VNU("日 一 二 三 四 五 六")},
-    {vn::DE, VNU("S M D M D F S")},
-    {vn::RU, VNU("В П В С Ч П С")},
-    {vn::PL, VNU("N P W Ś C P S")},
-    {vn::TR, VNU("P P S Ç P C C")},
-    {vn::JA, VNU("日 月 火 水 木 金 土")},
-}}};
+constexpr clase<7> INICIALES{32,
+                             {38107, 38101, 38102, 38103, 292618, 291528, 286311},
+                             {{
+                                 {vn::ES, VNU("D L M X J V S")},
+                                 {vn::FR, VNU("D L M M J V S")},
+                                 {vn::PT_BR, VNU("D S T Q Q S S")},
+                                 {vn::PT, VNU("D S T Q Q S S")},
+                                 {vn::CA, VNU("G L T C J V S")}, // all begin with D: the second letter
+                                 {vn::IT, VNU("D L M M G V S")},
+                                 {vn::EN, VNU("S M T W T F S")},
+                                 {vn::GL, VNU("D L M M X V S")},
+                                 {vn::BG, VNU("Н П В С Ч П С")},
+                                 {vn::RO, VNU("D L M M J V S")},
+                                 {vn::ZH, VNU("日 一 二 三 四 五 六")},
+                                 {vn::DE, VNU("S M D M D F S")},
+                                 {vn::RU, VNU("В П В С Ч П С")},
+                                 {vn::PL, VNU("N P W Ś C P S")},
+                                 {vn::TR, VNU("P P S Ç P C C")},
+                                 {vn::JA, VNU("日 月 火 水 木 金 土")},
+                             }}};
 
-constexpr auto MENSAJE_54061 = vn::mensaje_u("vorntime.msg", 39, {
-    {vn::ES, VNU("<54061>La fecha está mal. Revise en su sistema operativo si la fecha es correcta.")},
-    {vn::FR, VNU("<54061>La date est erronée. Vérifiez dans votre système d'exploitation que la date est correcte.")},
-    {vn::PT_BR, VNU("<54061>A data está errada. Verifique no seu sistema operacional se a data está correta.")},
-    {vn::PT, VNU("<54061>A data está errada. Verifique no seu sistema operativo se a data está correta.")},
-    {vn::CA, VNU("<54061>La data és incorrecta. Reviseu al vostre sistema operatiu si la data és correcta.")},
-    {vn::IT, VNU("<54061>La data è errata. Verificare nel sistema operativo che la data sia corretta.")},
-    {vn::EN, VNU("<54061>The date is wrong. Check in your operating system whether the date is correct.")},
-    {vn::GL, VNU("<54061>A data está mal. Revise no seu sistema operativo se a data é correcta.")},
-    {vn::BG, VNU("<54061>Датата е грешна. Проверете в операционната система дали датата е правилна.")},
-    {vn::RO, VNU("<54061>Data este greșită. Verificați în sistemul de operare dacă data este corectă.")},
-    {vn::ZH, VNU("<54061>日期有误。请在操作系统中检查日期是否正确。")},
-    {vn::DE, VNU("<54061>Das Datum ist falsch. Prüfen Sie in Ihrem Betriebssystem, ob das Datum stimmt.")},
-    {vn::RU, VNU("<54061>Неверная дата. Проверьте в операционной системе, правильно ли установлена дата.")},
-    {vn::PL, VNU("<54061>Data jest nieprawidłowa. Sprawdź w systemie operacyjnym, czy data jest poprawna.")},
-    {vn::TR, VNU("<54061>Tarih yanlış. İşletim sisteminizde tarihin doğru olup olmadığını kontrol edin.")},
-    {vn::JA, VNU("<54061>日付が正しくありません。オペレーティングシステムの日付が正しいか確認してください。")},
-});
+constexpr auto MENSAJE_54061 = vn::mensaje_u(
+    "vorntime.msg", 39,
+    {
+        {vn::ES, VNU("<54061>La fecha está mal. Revise en su sistema operativo si la fecha es correcta.")},
+        {vn::FR,
+         VNU("<54061>La date est erronée. Vérifiez dans votre système d'exploitation que la date est correcte.")},
+        {vn::PT_BR, VNU("<54061>A data está errada. Verifique no seu sistema operacional se a data está correta.")},
+        {vn::PT, VNU("<54061>A data está errada. Verifique no seu sistema operativo se a data está correta.")},
+        {vn::CA, VNU("<54061>La data és incorrecta. Reviseu al vostre sistema operatiu si la data és correcta.")},
+        {vn::IT, VNU("<54061>La data è errata. Verificare nel sistema operativo che la data sia corretta.")},
+        {vn::EN, VNU("<54061>The date is wrong. Check in your operating system whether the date is correct.")},
+        {vn::GL, VNU("<54061>A data está mal. Revise no seu sistema operativo se a data é correcta.")},
+        {vn::BG, VNU("<54061>Датата е грешна. Проверете в операционната система дали датата е правилна.")},
+        {vn::RO, VNU("<54061>Data este greșită. Verificați în sistemul de operare dacă data este corectă.")},
+        {vn::ZH, VNU("<54061>日期有误。请在操作系统中检查日期是否正确。")},
+        {vn::DE, VNU("<54061>Das Datum ist falsch. Prüfen Sie in Ihrem Betriebssystem, ob das Datum stimmt.")},
+        {vn::RU, VNU("<54061>Неверная дата. Проверьте в операционной системе, правильно ли установлена дата.")},
+        {vn::PL, VNU("<54061>Data jest nieprawidłowa. Sprawdź w systemie operacyjnym, czy data jest poprawna.")},
+        {vn::TR, VNU("<54061>Tarih yanlış. İşletim sisteminizde tarihin doğru olup olmadığını kontrol edin.")},
+        {vn::JA, VNU("<54061>日付が正しくありません。オペレーティングシステムの日付が正しいか確認してください。")},
+    });
 
 // ---------------------------------------------------------------- from names to messages
 
@@ -162,8 +176,8 @@ template <size_t N> constexpr size_t mas_largo(const clase<N> &c) {
     return n;
 }
 
-// All texts of a kind, for both readers. For the ANSI one those with a letter beyond ASCII are in the coded form, which every
-// code page can hold.
+// All texts of a kind, for both readers. For the ANSI one those with a letter beyond ASCII are in the coded form, which
+// every code page can hold.
 template <size_t N, size_t LARGO> struct textos_de {
     vnwchar anchos[N][LENGUAS][LARGO + 1]{};
     char ansi[N][LENGUAS][4 + 4 * LARGO + 1]{};
@@ -177,7 +191,8 @@ template <size_t N, size_t LARGO> struct textos_de {
                     ancho[0] = VNU('<');
                     ancho[id - 1] = VNU('>');
                     uint32_t resto = c.ids[i];
-                    for (uint32_t k = id - 2; k > 0; --k, resto /= 10) ancho[k] = static_cast<vnwchar>('0' + resto % 10);
+                    for (uint32_t k = id - 2; k > 0; --k, resto /= 10)
+                        ancho[k] = static_cast<vnwchar>('0' + resto % 10);
                 }
                 size_t n = id;
                 for (const vnwchar letra : nombre_de(c, l, i)) ancho[n++] = letra;

@@ -36,7 +36,9 @@ uint32_t vorntime_obtener_numero_mes(uint32_t mes) { return mes_posible(mes, 1);
 const char *vorntime_obtener_nombre_mes(uint32_t mes) { return nombre(vorntime_msg_mes, mes); }
 const vnwchar *vorntime_obtener_nombre_mes_u(uint32_t mes) { return nombre_u(vorntime_msg_mes_u, mes); }
 const char *vorntime_obtener_nombre_mes_abreviado(uint32_t mes) { return nombre(vorntime_msg_mes_abreviado, mes); }
-const vnwchar *vorntime_obtener_nombre_mes_abreviado_u(uint32_t mes) { return nombre_u(vorntime_msg_mes_abreviado_u, mes); }
+const vnwchar *vorntime_obtener_nombre_mes_abreviado_u(uint32_t mes) {
+    return nombre_u(vorntime_msg_mes_abreviado_u, mes);
+}
 const char *vtm_letra_inicial_dia_de_la_semana(uint32_t dia) { return nombre(vorntime_msg_inicial_dia, dia); }
 
 vnwchar *vorntime_obtener_nombre_mes_con_idioma(uint32_t mes, int idioma) {

@@ -48,7 +48,9 @@ char *vtm_formatea_hora(const tmtime *fecha, vnbool con_segundos) {
     return sysdata_hora(fecha->tm_sec, fecha->tm_min, fecha->tm_hour, con_segundos);
 }
 
-char *vtm_formatea_fecha_y_hora(const char *cabecera, const tmtime *fecha) { return fecha_y_hora(cabecera, fecha, CIERTO); }
+char *vtm_formatea_fecha_y_hora(const char *cabecera, const tmtime *fecha) {
+    return fecha_y_hora(cabecera, fecha, CIERTO);
+}
 
 char *vtm_formatea_fecha_y_hora_sin_segundos(const char *cabecera, const tmtime *fecha) {
     return fecha_y_hora(cabecera, fecha, FALSO);

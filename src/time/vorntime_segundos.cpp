@@ -1,7 +1,7 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
+#include "foundation/numeros/cambtipo.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/calendario_int.h"
-#include "foundation/numeros/cambtipo.h"
 #include "time/vorntime_priv.h"
 
 using namespace vn;
@@ -12,8 +12,8 @@ namespace {
 constexpr int64_t ULTIMO_SEGUNDO = 67768036191676799;
 static_assert((dias_hasta_anyo(int64_t{INT32_MAX} + 1901)) * SEGUNDOS_DIA - 1 == ULTIMO_SEGUNDO);
 
-// Days of 1 January of a year as files count them: a leap day for each fourth year, of centuries too, and for 1970 to 1972
-// one before there has been any, since the division goes toward zero.
+// Days of 1 January of a year as files count them: a leap day for each fourth year, of centuries too, and for 1970 to
+// 1972 one before there has been any, since the division goes toward zero.
 constexpr int64_t dias_de_enero(int64_t anyo) { return (anyo - 1970) * 365 + (anyo - 1973) / 4 + 1; }
 
 constexpr int16_t dia_de_la_semana(int64_t dias) { return static_cast<int16_t>((dias - 3) % 7); }

@@ -1,7 +1,7 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
+#include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/cad.h"
-#include "foundation/sistema/vnstdc.h"
 #include "foundation/texto/widestr.h"
 #include "time/vorntime_msg_priv.h"
 #include "time/vorntime_priv.h"
@@ -146,7 +146,9 @@ vnwchar *vtm_fecha_a_cadena_ordenable_AAAA_MM_DD_HH_MM_SS_u(const tmtime *fecha)
     return vtm_fecha_a_texto_AAAA_MM_DD_HH_MM_SS_u(fecha, '-', '.');
 }
 
-vnwchar *vtm_fecha_a_cadena_ordenable_AAAA_MM_DD_u(const tmtime *fecha) { return vtm_fecha_a_texto_AAAA_MM_DD_u(fecha, '-'); }
+vnwchar *vtm_fecha_a_cadena_ordenable_AAAA_MM_DD_u(const tmtime *fecha) {
+    return vtm_fecha_a_texto_AAAA_MM_DD_u(fecha, '-');
+}
 
 vnwchar *vtm_fecha_a_texto_AAAA_MM_DD_u(const tmtime *fecha, vnwchar sep) {
     return AFIRMA_NO_NULO(fecha) ? renglon<vnwchar>().aaaa_mm_dd(*fecha, sep).nuevo() : nullptr;
@@ -171,7 +173,9 @@ vnwchar *vtm_time_a_texto_AAAA_MM_DD_u(int64_t t, vnwchar sep) {
 
 void vtm_fecha_y_hora_para_listados(char **fecha_texto, char **hora_texto) { para_listados(fecha_texto, hora_texto); }
 
-void vtm_fecha_y_hora_para_listados_u(vnwchar **fecha_texto, vnwchar **hora_texto) { para_listados(fecha_texto, hora_texto); }
+void vtm_fecha_y_hora_para_listados_u(vnwchar **fecha_texto, vnwchar **hora_texto) {
+    para_listados(fecha_texto, hora_texto);
+}
 
 const char *vtm_fecha_str(int64_t t) {
     static char sitio[SITIO];

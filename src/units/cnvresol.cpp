@@ -1,7 +1,7 @@
 #define VN_MODULO "cnvresol (NUCLEOS.DLL)"
 #include "units/cnvresol.h"
-#include "foundation/sistema/entorno.h"
 #include "foundation/numeros/vnmath.h"
+#include "foundation/sistema/entorno.h"
 
 namespace {
 

@@ -66,8 +66,10 @@ double cnv_convierte(int32_t sentido, uint32_t tipovalor, double valor) {
     if (tipovalor < CNV_NO_CONVERSION && columna <= EN_IMPERIAL && FILAS_CONVERS[tipovalor].familia == 0 &&
         textos_de_convers.load(std::memory_order_acquire) != nullptr) [[likely]] {
         const cifras_convers &c = FILAS_CONVERS[tipovalor].cifras[columna];
-        if (sentido == CNV_A_MOSTRADO) [[likely]] return c.a_mostrado(valor);
-        if (sentido == CNV_A_INTERNO) [[likely]] return c.a_interno(valor);
+        if (sentido == CNV_A_MOSTRADO) [[likely]]
+            return c.a_mostrado(valor);
+        if (sentido == CNV_A_INTERNO) [[likely]]
+            return c.a_interno(valor);
     }
     return convierte_despacio(sentido, tipovalor, valor);
 }

@@ -15,7 +15,8 @@ consteval mensajes numerados(mensajes m) {
 }
 
 constexpr mensajes MENSAJES = numerados({{
-#define T(columna, texto) {vn::columna, VNU(texto)}
+#define T(columna, texto)                                                                                              \
+    { vn::columna, VNU(texto) }
 #define X(es, ...) vn::mensaje_u("convers.msg", 0, {{vn::ES, VNU(es)}, __VA_ARGS__}),
 #include "units/convers_msg.inl"
 #undef X
@@ -26,12 +27,15 @@ template <size_t I> void rellena(vnmensaje *mensaje) { MENSAJES[I].rellena(mensa
 
 constexpr auto RELLENOS = []<size_t... I>(std::index_sequence<I...>) {
     return std::array<vnfunc_mensaje, NUM_MENSAJES>{rellena<I>...};
-}(std::make_index_sequence<NUM_MENSAJES>{});
+}
+(std::make_index_sequence<NUM_MENSAJES>{});
 
 } // namespace
 
 namespace vn {
 
-const vnwchar *unidad_traducida(int16_t fila) { return nousar_msglocal_original_u(RELLENOS[static_cast<size_t>(fila)]); }
+const vnwchar *unidad_traducida(int16_t fila) {
+    return nousar_msglocal_original_u(RELLENOS[static_cast<size_t>(fila)]);
+}
 
 } // namespace vn

@@ -8,8 +8,8 @@
 
 namespace vn {
 
-// What a type is shown in. Of the S.I. there is one for each unit of energy, all alike but in an energy family. The first
-// three are those of VORNCONF_SU_* less 1.
+// What a type is shown in. Of the S.I. there is one for each unit of energy, all alike but in an energy family. The
+// first three are those of VORNCONF_SU_* less 1.
 enum columna_convers : uint8_t { EN_MKS, EN_SI_JULIO, EN_IMPERIAL, EN_SI_KCAL, EN_SI_BTU, NUM_COLUMNAS_CONVERS };
 enum modo_redondeo : uint8_t { POR_EXCESO = 0, POR_DEFECTO = 1, AL_MAS_CERCANO = 2 };
 
@@ -23,11 +23,11 @@ struct cifras_convers {
 // The figures of a value type.
 struct fila_convers {
     cifras_convers cifras[NUM_COLUMNAS_CONVERS];
-    double relativa;       // relative precision of the adapted value
-    modo_redondeo modo;    // and its rounding
-    uint8_t familia;       // of energy: 0 none, 2 per hour, 3 that by 1000
-    uint8_t formato;       // entry format in the imperial system
-    uint8_t denominador;   // greatest, of an inch fraction
+    double relativa;     // relative precision of the adapted value
+    modo_redondeo modo;  // and its rounding
+    uint8_t familia;     // of energy: 0 none, 2 per hour, 3 that by 1000
+    uint8_t formato;     // entry format in the imperial system
+    uint8_t denominador; // greatest, of an inch fraction
 };
 
 extern const std::array<fila_convers, CNV_NO_CONVERSION> FILAS_CONVERS;

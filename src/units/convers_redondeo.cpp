@@ -11,15 +11,16 @@ namespace {
 
 // ---------------------------------------------------------------- powers of ten
 
-// The whole number nearest to log10(x), x > 0, out of its digits: a logarithm may differ between platforms just where the
-// answer changes. Infinity is taken as the largest number.
+// The whole number nearest to log10(x), x > 0, out of its digits: a logarithm may differ between platforms just where
+// the answer changes. Infinity is taken as the largest number.
 int32_t exponente_decimal(double x) {
     constexpr double RAIZ_DE_DIEZ = 3.1622776601683795;
     char texto[32];
     if (std::isinf(x)) return 308;
     const char *fin = std::to_chars(texto, std::end(texto), x, std::chars_format::scientific).ptr;
     const char *e = fin;
-    while (*--e != 'e') {}
+    while (*--e != 'e') {
+    }
     double mantisa = 0;
     std::from_chars(texto, e, mantisa);
     int32_t exponente = 0;
@@ -91,8 +92,8 @@ double paso_redondo(double p, double base) {
     const struct {
         double por_encima_de, paso;
     } pasos[] = {
-        {90000, 100000},   {9000, 10000}, {900, 1000}, {90 * base, 100 * base}, {90, 100},
-        {9 * base, 10 * base}, {9, 10},       {0.9 * base, base}, {0.9, 1},
+        {90000, 100000}, {9000, 10000},      {900, 1000}, {90 * base, 100 * base}, {90, 100}, {9 * base, 10 * base},
+        {9, 10},         {0.9 * base, base}, {0.9, 1},
     };
     for (const auto &f : pasos)
         if (p > f.por_encima_de) return f.paso;

@@ -1,7 +1,7 @@
 #define VN_MODULO "convers (NUCLEOS.DLL)"
+#include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/vnatexit.h"
-#include "foundation/sistema/vnstdc.h"
 #include "units/convers_msg_priv.h"
 #include "units/convers_priv.h"
 #include <array>

@@ -1,6 +1,6 @@
 #define VN_MODULO "convers (NUCLEOS.DLL)"
-#include "foundation/texto/cad.h"
 #include "foundation/numeros/vnmath.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 #include "units/convers_priv.h"
 #include "units/vornnum_priv.h"
@@ -40,7 +40,9 @@ template <class F> vnwchar *texto_con_cabecera(const vnwchar *cabecera, double v
 // A number of decimals as the formats take it; beyond a million they show a million.
 int precision_de_formato(uint32_t n_decimales) { return static_cast<int>(std::min<uint32_t>(n_decimales, INT32_MAX)); }
 
-double con_decimales(double mostrado, uint32_t decimales) { return prec_redondea_numero_decimales(mostrado, decimales); }
+double con_decimales(double mostrado, uint32_t decimales) {
+    return prec_redondea_numero_decimales(mostrado, decimales);
+}
 
 } // namespace
 
@@ -51,7 +53,8 @@ double con_decimales(double mostrado, uint32_t decimales) { return prec_redondea
         return texto_del_valor<char>(valor, tipovalor, [](double v) { return cad_formatea(formato, v); });             \
     }                                                                                                                  \
     vnwchar *nombre_u(double valor, uint32_t tipovalor) {                                                              \
-        return texto_del_valor<vnwchar>(valor, tipovalor, [](double v) { return copiaforu_formatea(VNU(formato), v); }); \
+        return texto_del_valor<vnwchar>(valor, tipovalor,                                                              \
+                                        [](double v) { return copiaforu_formatea(VNU(formato), v); });                 \
     }
 #define CON_UNIDADES(nombre, formato)                                                                                  \
     vnwchar *nombre(double valor, uint32_t tipovalor) {                                                                \
@@ -91,8 +94,8 @@ CON_CABECERA(convers_texto_con_cabecera_y_unidades_sin_decimales, "%s: %.0lf %s"
 // ---------------------------------------------------------------- the members that are told the decimals
 
 char *convers_texto_n_decimales(double valor, uint32_t tipovalor, uint32_t n_decimales) {
-    return texto_del_valor<char>(
-        valor, tipovalor, [=](double v) { return cad_formatea("%.*lf", precision_de_formato(n_decimales), v); });
+    return texto_del_valor<char>(valor, tipovalor,
+                                 [=](double v) { return cad_formatea("%.*lf", precision_de_formato(n_decimales), v); });
 }
 
 vnwchar *convers_texto_n_decimales_u(double valor, uint32_t tipovalor, uint32_t n_decimales) {
@@ -103,7 +106,8 @@ vnwchar *convers_texto_n_decimales_u(double valor, uint32_t tipovalor, uint32_t 
 
 char *convers_texto_max_n_decimales(double valor, uint32_t tipovalor, uint32_t decimales) {
     if (!AFIRMA(decimales < 256)) return nullptr;
-    return texto_del_valor<char>(valor, tipovalor, [=](double v) { return cad_formatea("%g", con_decimales(v, decimales)); });
+    return texto_del_valor<char>(valor, tipovalor,
+                                 [=](double v) { return cad_formatea("%g", con_decimales(v, decimales)); });
 }
 
 vnwchar *convers_texto_max_n_decimales_u(double valor, uint32_t tipovalor, uint32_t decimales) {
@@ -193,13 +197,15 @@ vnbool convers_dameNumeroDeCadenaConDecimales_u(const vnwchar *cadena, double *v
 char *convers_double_a_cadena(double valor, char sep_millares, char sep_decimales, int32_t decimales,
                               uint32_t tipovalor) {
     const vista_convers v(tipovalor);
-    return v.es_tipo ? vornnum_double_a_cadena(valor, sep_millares, sep_decimales, decimales, v.formato, v.denominador())
-                     : nullptr;
+    return v.es_tipo
+               ? vornnum_double_a_cadena(valor, sep_millares, sep_decimales, decimales, v.formato, v.denominador())
+               : nullptr;
 }
 
 vnwchar *convers_double_a_cadena_u(double valor, vnwchar sep_millares, vnwchar sep_decimales, int32_t decimales,
                                    uint32_t tipovalor) {
     const vista_convers v(tipovalor);
-    return v.es_tipo ? vornnum_double_a_cadena_u(valor, sep_millares, sep_decimales, decimales, v.formato, v.denominador())
-                     : nullptr;
+    return v.es_tipo
+               ? vornnum_double_a_cadena_u(valor, sep_millares, sep_decimales, decimales, v.formato, v.denominador())
+               : nullptr;
 }

@@ -1,23 +1,23 @@
 #define VN_MODULO "magnitud (NUCLEOS.DLL)"
 #include "units/magnitud.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
 #include "units/vornconf.h"
 #include <cmath>
 
 namespace {
 
 // The family's engineering constants. They are not to be replaced by the definitions.
-constexpr double G = 9.81;                   // kN per Tn
-constexpr double LB = 0.4535923703803783;    // kg per pound, Tn per kip
-constexpr double IN = 0.0254;                // m per inch
-constexpr double FT = 0.3048;                // m per foot
-constexpr double MI = 1.609344;              // km per mile
-constexpr double KSI = 703.0695802287469;    // Tn/m² per ksi
-constexpr double LBFT2 = 0.0479;             // kN/m² per lb/ft²
-constexpr double KCAL = 4.1868;              // kJ per kcal
-constexpr double BTU = 3.41214163313;        // Btu/h per W
+constexpr double G = 9.81;                // kN per Tn
+constexpr double LB = 0.4535923703803783; // kg per pound, Tn per kip
+constexpr double IN = 0.0254;             // m per inch
+constexpr double FT = 0.3048;             // m per foot
+constexpr double MI = 1.609344;           // km per mile
+constexpr double KSI = 703.0695802287469; // Tn/m² per ksi
+constexpr double LBFT2 = 0.0479;          // kN/m² per lb/ft²
+constexpr double KCAL = 4.1868;           // kJ per kcal
+constexpr double BTU = 3.41214163313;     // Btu/h per W
 constexpr double PI = 3.141592653589793;
 constexpr double CELSIUS_A_KELVIN = 273.15;
 constexpr double S_HORA = 3600, MIN_HORA = 60, H_DIA = 24, DIAS_MES = 30, DIAS_ANYO = 365;
@@ -58,7 +58,8 @@ double magnitud_longitud_redondeada_segun_sistema_unidades(double longitud, doub
     return redondeada(longitud, paso_cm, paso_in, prec_redondea_decimales);
 }
 
-double magnitud_longitud_redondeada_por_defecto_segun_sistema_unidades(double longitud, double paso_cm, double paso_in) {
+double magnitud_longitud_redondeada_por_defecto_segun_sistema_unidades(double longitud, double paso_cm,
+                                                                       double paso_in) {
     return redondeada(longitud, paso_cm, paso_in, prec_redondea_decimales_por_defecto);
 }
 

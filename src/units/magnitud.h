@@ -1,10 +1,10 @@
-/* Magnitudes: one value from one unit to another, by the family's own engineering constants (a tonne-force is 9.81 kN, a
-   pound 1/2.20462262 kg, a lb/ft² 0.0479 kN/m², a millimetre of water 9.81 Pa); comparisons of real numbers with one
+/* Magnitudes: one value from one unit to another, by the family's own engineering constants (a tonne-force is 9.81 kN,
+   a pound 1/2.20462262 kg, a lb/ft² 0.0479 kN/m², a millimetre of water 9.81 Pa); comparisons of real numbers with one
    changeable tolerance; angles; lengths rounded in the system of units in force.
 
    `A_a_B` takes a value in A and gives it in B. Tn and Tm are the tonne-force; lb and lib the pound; kip and kips the
-   thousand pounds; `X_div_Y` is X per Y; daN, kN and MN are 10, 1,000 and 1,000,000 newtons; `mca` and `mmca` metres and
-   millimetres of water column. Nothing is checked: infinities and not-a-number pass through. */
+   thousand pounds; `X_div_Y` is X per Y; daN, kN and MN are 10, 1,000 and 1,000,000 newtons; `mca` and `mmca` metres
+   and millimetres of water column. Nothing is checked: infinities and not-a-number pass through. */
 #ifndef VN_MAGNITUD_H
 #define VN_MAGNITUD_H
 
@@ -157,8 +157,8 @@ double magnitud_incremento_grados_C_a_grados_F(double x);
 double magnitud_grados_C_a_grados_K(double x);
 double magnitud_grados_K_a_grados_C(double x);
 
-/** Levels: a plain ratio (`ul`) and decibels, a power in W or dBW and the dBµV that it gives on 75 ohms. The logarithm of
-    zero is minus infinity, that of a negative value not-a-number. */
+/** Levels: a plain ratio (`ul`) and decibels, a power in W or dBW and the dBµV that it gives on 75 ohms. The logarithm
+    of zero is minus infinity, that of a negative value not-a-number. */
 double magnitud_ul_a_dB(double x);
 double magnitud_dB_a_ul(double x);
 double magnitud_W_a_dBmicroV(double x);
@@ -172,8 +172,8 @@ double degrees(double x);
 double radian(double x);
 
 /** `longitud`, metres, rounded to a multiple of a step: `paso_cm` centimetres in the metric systems of units, `paso_in`
-    inches in the imperial one; to the nearest multiple, downwards, upwards. A step that is not above zero is reported and
-    `longitud` comes back. */
+    inches in the imperial one; to the nearest multiple, downwards, upwards. A step that is not above zero is reported
+    and `longitud` comes back. */
 double magnitud_longitud_redondeada_segun_sistema_unidades(double longitud, double paso_cm, double paso_in);
 double magnitud_longitud_redondeada_por_defecto_segun_sistema_unidades(double longitud, double paso_cm, double paso_in);
 double magnitud_longitud_redondeada_por_exceso_segun_sistema_unidades(double longitud, double paso_cm, double paso_in);
@@ -213,7 +213,8 @@ vnbool parmgtzero(double x);
 vnbool parmgezero(double x);
 vnbool parmltzero(double x);
 
-/** The same of `a - b`: a difference of exactly t is equal. Two infinities of one sign compare as nothing: all FALSO. */
+/** The same of `a - b`: a difference of exactly t is equal. Two infinities of one sign compare as nothing: all
+    FALSO. */
 vnbool parmeq(double a, double b);
 vnbool parmne(double a, double b);
 vnbool parmgt(double a, double b);
@@ -221,11 +222,12 @@ vnbool parmge(double a, double b);
 vnbool parmlt(double a, double b);
 vnbool parmle(double a, double b);
 
-/** Sets the tolerance of the `parm` comparisons, process-wide, 0.00001 at first. No value is refused: with zero they are
-    the exact comparisons, with a negative one nothing equals anything. From one thread, while nothing else compares. */
+/** Sets the tolerance of the `parm` comparisons, process-wide, 0.00001 at first. No value is refused: with zero they
+    are the exact comparisons, with a negative one nothing equals anything. From one thread, while nothing else
+    compares. */
 void setroundoff(double roundoff);
-/** `x` rounded to the nearest multiple of `ro`, halves upwards, also of negative values. An `ro` that is not above zero is
-    reported and `x` comes back. */
+/** `x` rounded to the nearest multiple of `ro`, halves upwards, also of negative values. An `ro` that is not above zero
+    is reported and `x` comes back. */
 double _roundoff(double x, double ro);
 
 VN_C_FIN

@@ -1,7 +1,7 @@
 #define VN_MODULO "monedas (NUCLEOS.DLL)"
 #include "units/monedas.h"
-#include "foundation/suelo/propio_int.h"
 #include "foundation/numeros/vnmath.h"
+#include "foundation/suelo/propio_int.h"
 #include "foundation/texto/widestr.h"
 #include "units/monedas_msg_priv.h"
 #include "units/unidades.h"
@@ -21,6 +21,7 @@ vn::propio<vnwchar> texto_de(double valor, int32_t decimales) {
 vnwchar *monedas_precio_Ptas_euros(double pesetas) {
     const double euros = FLOOR(pesetas / PESETAS_POR_EURO * 100. + 0.5) / 100.;
     const vn::propio<vnwchar> en_euros = texto_de(euros, 2), en_pesetas = texto_de(pesetas, 0);
-    return copiaforu_nousar_formatea(VNU("%s(%s) %s(%s)"), en_euros.get(), nousar_msglocal_original_u(monedas_msg_124346),
-                                     en_pesetas.get(), nousar_msglocal_original_u(monedas_msg_124345));
+    return copiaforu_nousar_formatea(VNU("%s(%s) %s(%s)"), en_euros.get(),
+                                     nousar_msglocal_original_u(monedas_msg_124346), en_pesetas.get(),
+                                     nousar_msglocal_original_u(monedas_msg_124345));
 }

@@ -1,10 +1,10 @@
 #define VN_MODULO "vnnumlet (NUCLEOS.DLL)"
 #include "units/vnnumlet.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/sistema/avisos.h"
+#include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/msglocal.h"
-#include "foundation/sistema/vnstdc.h"
 #include "units/vnnumlet_priv.h"
 #include <string_view>
 

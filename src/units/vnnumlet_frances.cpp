@@ -1,6 +1,6 @@
 #define VN_MODULO "vnnumlet (NUCLEOS.DLL)"
-// French, in its long scale (a milliard is ten to the ninth, a billion ten to the twelfth) and with the blanks and hyphens
-// from before the reform of 1990.
+// French, in its long scale (a milliard is ten to the ninth, a billion ten to the twelfth) and with the blanks and
+// hyphens from before the reform of 1990.
 #include "foundation/suelo/afirma_int.h"
 #include "units/vnnumlet_priv.h"
 #include <iterator>
@@ -10,9 +10,9 @@ namespace {
 
 constexpr const char *MENOS = "moins ", *CERO = "z\xE9ro", *UNE = "une", *CENT = "cent", *MILLE = "mille", *ET = "et",
                      *DESBORDAMIENTO = "ERR d\xE9passement";
-constexpr const char *UNIDADES[] = {"un",     "deux",   "trois",  "quatre", "cinq",     "six",      "sept",
-                                    "huit",   "neuf",   "dix",    "onze",   "douze",    "treize",   "quatorze",
-                                    "quinze", "seize",  "dix-sept", "dix-huit", "dix-neuf", "vingt"};
+constexpr const char *UNIDADES[] = {"un",     "deux",  "trois",    "quatre",   "cinq",     "six",    "sept",
+                                    "huit",   "neuf",  "dix",      "onze",     "douze",    "treize", "quatorze",
+                                    "quinze", "seize", "dix-sept", "dix-huit", "dix-neuf", "vingt"};
 static_assert(std::size(UNIDADES) == 20);
 // From two tens; seventy and ninety are made of those before them.
 constexpr const char *DECENAS[] = {"vingt", "trente", "quarante", "cinquante", "soixante", nullptr, "quatre-vingt"};
@@ -26,7 +26,8 @@ constexpr const char *OCHENTA_EXACTO = "quatre-vingts";
 struct orden {
     const char *singular, *plural;
 };
-constexpr orden MILLIONS = {"million", "millions"}, MILLIARDS = {"milliard", "milliards"}, BILLIONS = {"billion", "billions"};
+constexpr orden MILLIONS = {"million", "millions"}, MILLIARDS = {"milliard", "milliards"},
+                BILLIONS = {"billion", "billions"};
 
 class escritor {
   public:

@@ -37,6 +37,7 @@ enum palabra {
 // Portuguese of Portugal has the conjunction behind "cento" in the word; that of Brazil counts in the short scale, in
 // which ten to the twelfth is a "trilhão".
 constexpr int COLUMNAS = 5;
+// clang-format off
 constexpr const char *PALABRAS[][COLUMNAS] = {
     // Spanish, Portuguese of Brazil, Catalan, Portuguese of Portugal, Galician
     {"menos ", "menos ", "menys ", "menos ", "menos "},
@@ -106,6 +107,7 @@ constexpr const char *PALABRAS[][COLUMNAS] = {
     {"de", "de", "de", "de", "de"},
     {"ERR desbordamiento", "ERR estouro", "ERR desbordament", "ERR transbordo", "ERR desbordamento"},
 };
+// clang-format on
 static_assert(std::size(PALABRAS) == DESBORDAMIENTO + 1);
 
 constexpr int PORTUGUES_DE_BRASIL = 2;
@@ -113,6 +115,7 @@ constexpr int PORTUGUES_DE_BRASIL = 2;
 // The column of a language; reports one that has none, and is negative.
 int columna_de(int idioma) {
     switch (idioma) {
+    // clang-format off
     case 0: case 6: case 7: return 0;
     case PORTUGUES_DE_BRASIL: return 1;
     case 3: return 2;
@@ -120,6 +123,7 @@ int columna_de(int idioma) {
     case 9: return 4;
     default: AFIRMA_DEFECTO(); return -1;
     }
+    // clang-format on
 }
 
 class escritor {

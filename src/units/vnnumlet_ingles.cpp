@@ -7,13 +7,19 @@ namespace vn::numlet {
 namespace {
 
 constexpr const char *PALABRAS[] = {
-    "minus ",   "zero",     "one",     "two",      "three",    "four",    "five",      "six",
-    "seven",    "eight",    "nine",    "ten",      "eleven",   "twelve",  "thirteen",  "fourteen",
-    "fifteen",  "sixteen",  "seventeen", "eighteen", "nineteen", "twenty", "twenty",   "thirty",
-    "forty",    "fifty",    "sixty",   "seventy",  "eighty",   "ninety",  "hundred",   "thousand",
-    "million",  "billion",  "ERR overflow"};
+    "minus ",    "zero",     "one",      "two",     "three",    "four",     "five",     "six",         "seven",
+    "eight",     "nine",     "ten",      "eleven",  "twelve",   "thirteen", "fourteen", "fifteen",     "sixteen",
+    "seventeen", "eighteen", "nineteen", "twenty",  "twenty",   "thirty",   "forty",    "fifty",       "sixty",
+    "seventy",   "eighty",   "ninety",   "hundred", "thousand", "million",  "billion",  "ERR overflow"};
 enum palabra {
-    MINUS = 0, ZERO = 1, UNIDAD = 1 /* + 1 to 20 */, DECENA = 20 /* + 2 to 9 */, HUNDRED = 30, THOUSAND, MILLION, BILLION,
+    MINUS = 0,
+    ZERO = 1,
+    UNIDAD = 1 /* + 1 to 20 */,
+    DECENA = 20 /* + 2 to 9 */,
+    HUNDRED = 30,
+    THOUSAND,
+    MILLION,
+    BILLION,
     DESBORDAMIENTO
 };
 static_assert(std::size(PALABRAS) == DESBORDAMIENTO + 1);

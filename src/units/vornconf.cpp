@@ -1,16 +1,16 @@
 #define VN_MODULO "vornconf (NUCLEOS.DLL)"
 #include "units/vornconf.h"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/texto/cad.h"
-#include "foundation/suelo/eterno_int.h"
-#include "foundation/sistema/fichconf.h"
 #include "foundation/ficheros/ini.h"
-#include "foundation/texto/msglocal.h"
-#include "foundation/suelo/propio_int.h"
 #include "foundation/ficheros/temporal_int.h"
 #include "foundation/ficheros/vdir.h"
-#include "foundation/sistema/vnmutex.h"
 #include "foundation/ficheros/vtxt.h"
+#include "foundation/sistema/fichconf.h"
+#include "foundation/sistema/vnmutex.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/eterno_int.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/texto/cad.h"
+#include "foundation/texto/msglocal.h"
 #include "frame/alsalir.h"
 #include "units/vornconf_msg_priv.h"
 #include "units/vornconf_priv.h"
@@ -35,7 +35,8 @@ struct fila {
     uint64_t idiomas;
     internacional valores;
 };
-// Languages; standards for concrete, cold-formed steel, rolled steel, electrical works and timber; system of units; energy.
+// Languages; standards for concrete, cold-formed steel, rolled steel, electrical works and timber; system of units;
+// energy.
 constexpr fila FILAS[] = {
     {idiomas(0, 3, 9), {47, 8, 10, 4, 3, 1, 0}},
     {idiomas(1), {13, 10, 12, 4, 4, 2, 0}},
@@ -126,8 +127,8 @@ ruta_propia la_ruta() {
     return ruta_propia(fichconf_dame_ruta_fichero_en_directorio_estructa(VNU("internac.ini")));
 }
 
-// The values of the file, those that it lacks by the active language. Without the mutex, when it cannot be had in time, the
-// file is read all the same: it is replaced in one step.
+// The values of the file, those that it lacks by the active language. Without the mutex, when it cannot be had in time,
+// the file is read all the same: it is replaced in one step.
 internacional lee_fichero() {
     const ruta_propia ruta = la_ruta();
     int32_t valores[std::size(CLAVES)] = {};
@@ -136,7 +137,8 @@ internacional lee_fichero() {
         std::string claves;
         for (const clave &c : CLAVES) (claves += c.nombre) += '\n';
         if (ruta != nullptr)
-            ini_lee_varios_int(ruta.get(), "Internacional", claves.c_str(), valores, static_cast<uint32_t>(std::size(CLAVES)));
+            ini_lee_varios_int(ruta.get(), "Internacional", claves.c_str(), valores,
+                               static_cast<uint32_t>(std::size(CLAVES)));
     }
     internacional r{};
     for (size_t i = 0; i < std::size(CLAVES); ++i) r.*CLAVES[i].campo = static_cast<uint32_t>(valores[i]);
@@ -182,13 +184,15 @@ void cambia_en_fichero(uint32_t internacional::*campo, uint32_t norma) {
 auto &el_registro = vn::registro_vornconf;
 constinit std::atomic<bool> registro_cargado{false};
 
-// Of those that load or change the record, so that what was read before a change is not put after it. Recursive: a report
-// made while the file is read may lead the host to ask.
+// Of those that load or change the record, so that what was read before a change is not put after it. Recursive: a
+// report made while the file is read may lead the host to ask.
 std::unique_lock<std::recursive_mutex> cierra_el_registro() {
     return std::unique_lock(vn::eterno<std::recursive_mutex>());
 }
 
-std::atomic_ref<uint32_t> palabra(uint32_t internacional::*campo) { return std::atomic_ref<uint32_t>(el_registro.*campo); }
+std::atomic_ref<uint32_t> palabra(uint32_t internacional::*campo) {
+    return std::atomic_ref<uint32_t>(el_registro.*campo);
+}
 
 void pon(const internacional &r) {
     for (const clave &c : CLAVES) palabra(c.campo).store(r.*c.campo, std::memory_order_relaxed);
@@ -209,7 +213,8 @@ internacional carga() {
 }
 
 void carga_si_hace_falta() {
-    if (!registro_cargado.load(std::memory_order_acquire)) [[unlikely]] primera_carga();
+    if (!registro_cargado.load(std::memory_order_acquire)) [[unlikely]]
+        primera_carga();
 }
 
 void cambia(uint32_t internacional::*campo, uint32_t valor) {
@@ -231,19 +236,26 @@ constexpr vnfunc_mensaje ENERGIAS[] = {vornconf_msg_53944, vornconf_msg_53945, v
 } // namespace
 
 uint32_t vornconf_Internacional_sistema_unidades(void) { return del_registro(&internacional::sistema_unidades); }
-uint32_t vornconf_Internacional_sistema_unidades_energia(void) { return del_registro(&internacional::sistema_unidades_energia); }
+uint32_t vornconf_Internacional_sistema_unidades_energia(void) {
+    return del_registro(&internacional::sistema_unidades_energia);
+}
 uint32_t vornconf_Internacional_normaHorm(void) { return del_registro(&internacional::hormigon); }
 uint32_t vornconf_Internacional_normaAceroConf(void) { return del_registro(&internacional::conformados); }
 uint32_t vornconf_Internacional_normaAceroLam(void) { return del_registro(&internacional::laminados); }
 uint32_t vornconf_Internacional_normaMadera(void) { return del_registro(&internacional::madera); }
 
 void vornconf_Internacional_set_sistema_unidades(uint32_t sistema_unidades) {
-    if (!AFIRMA(sistema_unidades == VORNCONF_SU_MKS || sistema_unidades == VORNCONF_SU_INTERNACIONAL || sistema_unidades == VORNCONF_SU_IMPERIAL)) return;
+    if (!AFIRMA(sistema_unidades == VORNCONF_SU_MKS || sistema_unidades == VORNCONF_SU_INTERNACIONAL ||
+                sistema_unidades == VORNCONF_SU_IMPERIAL))
+        return;
     cambia(&internacional::sistema_unidades, sistema_unidades);
 }
 
 void vornconf_Internacional_set_sistema_unidades_energia(uint32_t sistema_unidades_energia) {
-    if (!AFIRMA(sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_JULIO || sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_KCAL || sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_BTU)) return;
+    if (!AFIRMA(sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_JULIO ||
+                sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_KCAL ||
+                sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_BTU))
+        return;
     cambia(&internacional::sistema_unidades_energia, sistema_unidades_energia);
 }
 

@@ -1,10 +1,10 @@
 /* Unit configuration: the system of units, the energy unit and the design standards in force on this machine.
 
    They stand in the file "internac.ini" of the directory that the programs of the family share (fichconf.h), and in one
-   record of the process, which is loaded from it at the first query or change. Threads: every operation may be called from
-   any thread, the first one too; what one changes the others see from their next operation on. Each reading and writing
-   of the file is made inside a mutex between programs, and a program that is killed at any moment leaves the file whole. A
-   value that the file lacks, or has as 0, is the default of the active language. */
+   record of the process, which is loaded from it at the first query or change. Threads: every operation may be called
+   from any thread, the first one too; what one changes the others see from their next operation on. Each reading and
+   writing of the file is made inside a mutex between programs, and a program that is killed at any moment leaves the
+   file whole. A value that the file lacks, or has as 0, is the default of the active language. */
 #ifndef VN_VORNCONF_H
 #define VN_VORNCONF_H
 
@@ -20,7 +20,8 @@
 #define VORNNORM_UNIDAD_ENERGIA_KCAL 1u
 #define VORNNORM_UNIDAD_ENERGIA_BTU 2u
 
-/** No standard: of concrete, cold-formed steel, rolled steel, electrical and timber works. Other codes are the hosts'. */
+/** No standard: of concrete, cold-formed steel, rolled steel, electrical and timber works. Other codes are the
+    hosts'. */
 #define NORMA_H_ERROR 0u
 #define NORMA_C_ERROR 0u
 #define NORMA_L_ERROR 0u
@@ -69,9 +70,9 @@ void vornconf_graba_norma_acero_laminado(uint32_t norma);
 
 /** Loads the record of the process from the file, and copies it to `*internac`. */
 void vornconf_par_lee_internacional(VN_SALIDA_OPC vornconf_internacional *internac);
-/** Writes the seven values to the file, all of which is replaced, and makes them the record of the process (which, if it
-    has not been loaded yet, is still loaded from the file at the next query). A file that cannot be written is reported by
-    the file library, with its name. */
+/** Writes the seven values to the file, all of which is replaced, and makes them the record of the process (which, if
+    it has not been loaded yet, is still loaded from the file at the next query). A file that cannot be written is
+    reported by the file library, with its name. */
 void vornconf_par_graba_internacional(const vornconf_internacional *internac);
 /** If there is no file, writes the defaults of a language and loads them. The file names the active language. */
 void vornconf_crea_internac_por_defecto_si_no_existe(VN_RANGO(0, 40) uint32_t idioma);

@@ -1,10 +1,10 @@
 #define VN_MODULO "vornnum (NUCLEOS.DLL)"
 #include "units/vornnum.h"
+#include "foundation/numeros/vnmath.h"
+#include "foundation/sistema/vnregional.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/numeros/vnmath.h"
-#include "foundation/sistema/vnregional.h"
 #include "units/vornnum_priv.h"
 #include <algorithm>
 #include <array>
@@ -25,8 +25,8 @@ constexpr double COTA_INFERIOR[] = {1, 1e-1, 1e-2, 1e-3, 1e-4, 1e-5, 1e-6, 1e-7,
 static_assert(std::size(COTA_SUPERIOR) == MAX_DECIMALES + 1 && std::size(COTA_INFERIOR) == MAX_DECIMALES + 1);
 
 // How a number is shown when the decimals are automatic: from `desde` on. By the digits n before the period, 14 - n
-// decimals below five digits and 9 from there on; by powers of ten and not by a logarithm, which near them depends on the
-// platform.
+// decimals below five digits and 9 from there on; by powers of ten and not by a logarithm, which near them depends on
+// the platform.
 struct fila_automatica {
     double desde;
     int32_t decimales;
@@ -37,7 +37,8 @@ constexpr fila_automatica AUTOMATICA[] = {
     {1e1, 12, false}, {1, 13, false},  {1e-14, 15, false}, {0, 15, true},
 };
 
-// From so much on, at most so many decimals of the fixed form, so that a number never has more than 10^15 units of the last.
+// From so much on, at most so many decimals of the fixed form, so that a number never has more than 10^15 units of the
+// last.
 struct tope_por_tamanyo {
     double desde;
     uint32_t decimales;
@@ -59,11 +60,12 @@ struct decimal {
 
 __extension__ using entero128 = unsigned __int128;
 
-// `v` in whole units of the last decimal, to the nearest, by its exact decimal value: half a unit goes to the even number.
-// `casi_mitad` says whether it is half a unit to the 17 digits of a double, or less than half by no more than they tell.
-// `v` is 0 or from 1e-14 to 1e15, and a number of few enough units.
+// `v` in whole units of the last decimal, to the nearest, by its exact decimal value: half a unit goes to the even
+// number. `casi_mitad` says whether it is half a unit to the 17 digits of a double, or less than half by no more than
+// they tell. `v` is 0 or from 1e-14 to 1e15, and a number of few enough units.
 uint64_t en_unidades(double v, uint32_t decimales, bool &casi_mitad) {
-    constexpr int BITS = 52, SESGO = 1075, CIFRAS_17 = 54; // 2^-54 of the number is more than half a unit of its 17th digit
+    constexpr int BITS = 52, SESGO = 1075,
+                  CIFRAS_17 = 54; // 2^-54 of the number is more than half a unit of its 17th digit
     casi_mitad = false;
     if (v == 0) return 0;
     const auto bits = std::bit_cast<uint64_t>(v);
@@ -105,7 +107,9 @@ template <class C> void pon_cientifico(texto_numero<C> &t, double v, int32_t dec
     t.pon(static_cast<C>(s[0]));
 }
 
-bool fuera_de_cotas(double v, int32_t decimales) { return v > COTA_SUPERIOR[decimales] || v < COTA_INFERIOR[decimales]; }
+bool fuera_de_cotas(double v, int32_t decimales) {
+    return v > COTA_SUPERIOR[decimales] || v < COTA_INFERIOR[decimales];
+}
 
 } // namespace
 
@@ -125,7 +129,8 @@ template <class C> void pon_numero(texto_numero<C> &t, double valor, const aspec
         int32_t decimales = a.decimales;
         bool cientifica = a.cientifica;
         if (quitar_ceros) {
-            const auto *f = std::find_if(std::begin(AUTOMATICA), std::end(AUTOMATICA), [v](const auto &r) { return v >= r.desde; });
+            const auto *f =
+                std::find_if(std::begin(AUTOMATICA), std::end(AUTOMATICA), [v](const auto &r) { return v >= r.desde; });
             decimales = v == 0 ? 1 : f->decimales;
             cientifica |= v != 0 && f->cientifica;
         } else if (v != 0 && !cientifica && fuera_de_cotas(v, decimales)) {
@@ -159,7 +164,8 @@ template <class C> C *numero_nuevo(double valor, const aspecto<C> &a) {
     return texto_nuevo(t);
 }
 
-template <class C> C *double_a_string(double valor, C sep_millares, C sep_decimales, vnbool cientifica, int32_t decimales) {
+template <class C>
+C *double_a_string(double valor, C sep_millares, C sep_decimales, vnbool cientifica, int32_t decimales) {
     if (!AFIRMA(sep_millares != sep_decimales) || !AFIRMA_LOGICO(cientifica)) return nullptr;
     return numero_nuevo<C>(valor, {sep_millares, sep_decimales, cientifica == CIERTO, decimales});
 }
@@ -183,7 +189,8 @@ template <class C> C separador(vnwchar c, char otro) {
 template <class C> aspecto<C> de_la_region(int32_t decimales, bool con_millares) {
     vnwchar decimal, millares;
     vnregional_separadores(&decimal, &millares);
-    const C d = separador<C>(decimal != 0 ? decimal : VNU('.'), '.'), m = con_millares ? separador<C>(millares, 0) : C{0};
+    const C d = separador<C>(decimal != 0 ? decimal : VNU('.'), '.'),
+            m = con_millares ? separador<C>(millares, 0) : C{0};
     return {m == d ? C{0} : m, d, false, decimales};
 }
 

@@ -1,9 +1,9 @@
 #define VN_MODULO "vornnum (NUCLEOS.DLL)"
+#include "foundation/numeros/vnmath.h"
+#include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/numero_int.h"
-#include "foundation/numeros/vnmath.h"
-#include "foundation/sistema/vnstdc.h"
 #include "units/vornnum_priv.h"
 #include <algorithm>
 #include <charconv>
@@ -87,7 +87,8 @@ template <class C> bool explora(const C *p, const separadores s, real<C> &r) {
     if (*p == 'e' || *p == 'E') {
         bool negativo;
         int64_t e = 0;
-        for (p = tras_signo(p + 1, negativo); es_cifra(*p); ++p) e = std::min(e * 10 + (unidad(*p) - '0'), MAX_EXPONENTE);
+        for (p = tras_signo(p + 1, negativo); es_cifra(*p); ++p)
+            e = std::min(e * 10 + (unidad(*p) - '0'), MAX_EXPONENTE);
         r.exponente += negativo ? -e : e;
     }
     return hay && *tras_blancos(p) == 0;
@@ -223,8 +224,9 @@ template <class C> vnbool es_numero_entero(const C *cadena) {
 
 template <class C> vnbool es_numero_real(const C *cadena, const separadores s) {
     real<C> r;
-    return AFIRMA_NO_NULO(cadena) && AFIRMA_TEXTO(s.decimales != 0, "sep_decimales != 0") && explora(cadena, s, r) ? CIERTO
-                                                                                                                   : FALSO;
+    return AFIRMA_NO_NULO(cadena) && AFIRMA_TEXTO(s.decimales != 0, "sep_decimales != 0") && explora(cadena, s, r)
+               ? CIERTO
+               : FALSO;
 }
 
 template <class C> uint32_t hexadecimal(const C *cadena) {

@@ -1,6 +1,6 @@
 #define VN_MODULO "vornnum (NUCLEOS.DLL)"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/numeros/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
 #include "units/vornnum.h"
 #include "units/vornnum_priv.h"
 #include <algorithm>
@@ -40,7 +40,8 @@ void busca_fraccion(double f, uint32_t denominador, partes &p) {
 // Splits a finite `valor`, which is feet or inches as the format says. False, after a report, if it cannot be done.
 bool parte(double valor, int32_t formato, uint32_t denominador, partes &p) {
     p = {valor < 0, 0, 0, 0, 0};
-    const double magnitud = std::fabs(valor), v = formato == VORNNUM_FORMATO_PIES ? magnitud : magnitud / PULGADAS_POR_PIE;
+    const double magnitud = std::fabs(valor),
+                 v = formato == VORNNUM_FORMATO_PIES ? magnitud : magnitud / PULGADAS_POR_PIE;
     const bool solo_pulgadas = formato == VORNNUM_FORMATO_SOLO_PULGADAS;
     double &muchas = solo_pulgadas ? p.pulgadas : p.pies;
     muchas = solo_pulgadas ? magnitud : defmath_trunc(v);

@@ -1,8 +1,8 @@
 /* A host in C whose frames nothing can be thrown through: it is compiled without unwind tables. Traps, call-backs under
    them, refused arguments and a size that nobody has. */
 #include "foundation/listas/arr.h"
-#include "foundation/suelo/trapable.h"
 #include "foundation/sistema/vnmutex.h"
+#include "foundation/suelo/trapable.h"
 #include "foundation/suelo/vornspy.h"
 #include "persistence/vornsave.h"
 #include <stdint.h>
@@ -75,13 +75,16 @@ int main(void) {
     int suma = 0, dentro = 0;
     error_interno_instala_receptor(no_debe_llegar, NULL);
     mutex = vnmutex_crea("anfitrion");
-    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(un_argumento, NULL, NULL) == FALSO, "a refused argument fails");
+    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(un_argumento, NULL, NULL) == FALSO,
+         "a refused argument fails");
     debe(strstr(trapable_texto_del_ultimo_fallo(), "(vornsave_datos) != NULL") != NULL, "the text of the report");
     debe(trapable_nousar_recursivo_ejecuta_funcion_segura(con_el_mutex, NULL, NULL) == FALSO, "a mutex inside");
     debe(vueltas == 2, "every call came back");
-    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(ordena_y_pasea, &suma, NULL) == FALSO, "call-backs that fail");
+    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(ordena_y_pasea, &suma, NULL) == FALSO,
+         "call-backs that fail");
     debe(suma == 6, "every element was visited");
-    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(otra_trampa, &dentro, NULL) == CIERTO && dentro == 1, "nested traps");
+    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(otra_trampa, &dentro, NULL) == CIERTO && dentro == 1,
+         "nested traps");
     vnmutex_destruye(&mutex); /* one that is still held would be reported */
     vornspy_instala_memoria_agotada(acaba_bien, &faltas);
     vornspy_malloc(SIZE_MAX);

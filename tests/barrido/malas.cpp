@@ -8,8 +8,7 @@
 namespace barrido {
 namespace {
 
-const fabrica fab_bloque{[]() -> void * { return vornspy_calloc(1, 8); },
-                         [](void *p) { vornspy_free_pp(&p, 1); }};
+const fabrica fab_bloque{[]() -> void * { return vornspy_calloc(1, 8); }, [](void *p) { vornspy_free_pp(&p, 1); }};
 
 void exige(bool bien, const char *texto) {
     if (!bien) error_interno(texto, "malas", 1, 0);
@@ -32,8 +31,8 @@ const std::vector<operacion> malas{
      bloque_y_logico, nullptr, nullptr, nullptr},
     {"muere_con_nulo", [](const dato *a, dato &) { *bloque(a) = 1; }, un_bloque, nullptr, nullptr, nullptr},
     {"calla_el_nulo", [](const dato *, dato &) {}, un_bloque, nullptr, nullptr, nullptr},
-    {"calla_el_logico", [](const dato *a, dato &) { exige(a[0].p != nullptr, "(b) != NULL"); },
-     bloque_y_logico, nullptr, nullptr, nullptr},
+    {"calla_el_logico", [](const dato *a, dato &) { exige(a[0].p != nullptr, "(b) != NULL"); }, bloque_y_logico,
+     nullptr, nullptr, nullptr},
     {"calla_el_rango", [](const dato *a, dato &) { exige(a[0].p != nullptr && a[1].i < 4, "(b) != NULL"); },
      bloque_y_numero, nullptr, nullptr, nullptr},
     {"no_vuelve",
@@ -66,8 +65,8 @@ const std::vector<operacion> malas{
          r.i = 7;
      },
      un_bloque, nullptr, nullptr, nullptr},
-    {"no_se_lo_queda", [](const dato *a, dato &) { exige(a[0].p != nullptr, "(b) != NULL"); }, que_consume,
-     nullptr, nullptr, nullptr},
+    {"no_se_lo_queda", [](const dato *a, dato &) { exige(a[0].p != nullptr, "(b) != NULL"); }, que_consume, nullptr,
+     nullptr, nullptr},
     // What it holds when its second allocation fails is lost.
     {"pierde_sin_memoria",
      [](const dato *a, dato &) {
@@ -87,10 +86,10 @@ const std::vector<operacion> malas{
          if (p != nullptr) vornspy_free_pp(&p, 1);
      },
      un_hueco, nullptr, nullptr, nullptr},
-    {"ya_no_informa", [](const dato *a, dato &) { exige(a[0].p != nullptr, "(b) != NULL"); }, un_bloque, nullptr, nullptr,
-     nullptr, false, "0", true},
-    {"exige_de_mas", [](const dato *, dato &) { error_interno("(otra) != NULL", "malas", 1, 0); }, un_bloque,
-     nullptr, nullptr, nullptr},
+    {"ya_no_informa", [](const dato *a, dato &) { exige(a[0].p != nullptr, "(b) != NULL"); }, un_bloque, nullptr,
+     nullptr, nullptr, false, "0", true},
+    {"exige_de_mas", [](const dato *, dato &) { error_interno("(otra) != NULL", "malas", 1, 0); }, un_bloque, nullptr,
+     nullptr, nullptr},
 };
 
 } // namespace

@@ -1,10 +1,10 @@
-// Every family from several threads at once, each with objects of its own, while another thread changes what is set for the
-// whole process. What is wrong here is seen by ThreadSanitizer, or in an answer that is of no setting.
-#include "foundation/suelo/contexto.h"
+// Every family from several threads at once, each with objects of its own, while another thread changes what is set for
+// the whole process. What is wrong here is seen by ThreadSanitizer, or in an answer that is of no setting.
 #include "foundation/sistema/fichconf.h"
+#include "foundation/sistema/vnregional.h"
+#include "foundation/suelo/contexto.h"
 #include "foundation/texto/msglocal.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/sistema/vnregional.h"
 #include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
 #include "prueba.h"
@@ -55,7 +55,8 @@ void informa(const int *) { vnnumlet_numero_en_cifras_a_letra("abc", FALSO); }
 bool valores() {
     const std::string fuerza = toma(convers_texto_con_unidades_dos_decimales(1, CNV_FUERZA));
     return es_uno_de(fuerza, {"1.00 t", "9.81 kN", "2204.62 lbs"}) &&
-           es_uno_de(toma(convers_texto_ex(nullptr, 1, CNV_FUERZA, 1, FALSO, CIERTO)), {"1.0 t", "9.8 kN", "2204.6 lbs"}) &&
+           es_uno_de(toma(convers_texto_ex(nullptr, 1, CNV_FUERZA, 1, FALSO, CIERTO)),
+                     {"1.0 t", "9.8 kN", "2204.6 lbs"}) &&
            convers_valor_redondeado_por_exceso(1, 0.1, CNV_FUERZA) > 0.99 &&
            es_uno_de(toma(vnnumlet_numero_en_cifras_a_letra("21", FALSO)), {"veintiun", "vingt et un", "twenty-one"}) &&
            vornconf_Internacional_sistema_unidades() - 1 < 3 && magnitud_m_a_ft(1) > 3;
@@ -69,7 +70,8 @@ bool textos(int vuelta) {
     contexto_fueraDeContexto_u(VNU("hebra"));
     return fecha.starts_with("1970-") && (decimal == ',' || decimal == '.') && decimal != millares &&
            !toma(sysdata_nombre_dia(static_cast<uint32_t>(vuelta % 7))).empty() &&
-           !toma(sysdata_formateaNumero_u(1234.5, 1)).empty() && !std::string(vornconf_texto_sistema_unidades()).empty() &&
+           !toma(sysdata_formateaNumero_u(1234.5, 1)).empty() &&
+           !std::string(vornconf_texto_sistema_unidades()).empty() &&
            !toma(unicode_UNICODE_a_ANSI(VNU("ñandú Ł"))).empty();
 }
 
@@ -77,7 +79,8 @@ bool textos(int vuelta) {
 
 PRUEBA(hebras, cada_familia_a_la_vez_mientras_cambia_lo_comun) {
     fichconf_establece_directorio_base(vn::ancho(directorio()).c_str());
-    EXPECT_EQ(toma(convers_texto_con_unidades_dos_decimales(1, CNV_FUERZA)), "1.00 t"); // their language is the first one's
+    EXPECT_EQ(toma(convers_texto_con_unidades_dos_decimales(1, CNV_FUERZA)),
+              "1.00 t"); // their language is the first one's
     std::atomic<bool> basta{false};
     std::atomic<int> mal{0};
     std::thread cambia([&] {

@@ -1,8 +1,8 @@
 #include "environment/ultfichsel.h"
+#include "fallos.h"
 #include "foundation/listas/arr.h"
 #include "foundation/sistema/fichconf.h"
 #include "foundation/texto/widestr.h"
-#include "fallos.h"
 #include "prueba.h"
 #include <filesystem>
 
@@ -73,12 +73,8 @@ PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
     const struct {
         std::string contenido, obtenido;
     } filas[] = {
-        {cuenta + '\0' + clave + ansi('n'), "n"},
-        {cuenta + '\1' + clave + ansi('r') + ansi('n'), "n"},
-        {actual, "n"},
-        {actual.substr(0, actual.size() - 1), "-"},
-        {std::string("\xFF\xFF\xFF\xFF\3", 5), "-"},
-        {"", "-"},
+        {cuenta + '\0' + clave + ansi('n'), "n"},   {cuenta + '\1' + clave + ansi('r') + ansi('n'), "n"}, {actual, "n"},
+        {actual.substr(0, actual.size() - 1), "-"}, {std::string("\xFF\xFF\xFF\xFF\3", 5), "-"},          {"", "-"},
     };
     for (const auto &f : filas) {
         vn::graba_fichero(fichero, f.contenido);
@@ -103,9 +99,11 @@ GUARDADO(ultimos_ficheros) {
     ultfichsel_destruye(&lista);
     fichconf_registra_nombre_distribuidor_no_vorn(VNU("VORN"));
     fichconf_establece_directorio_base(nullptr);
-    return vn::existe(fichero) && vn::lee_fichero(fichero).find(nombre.substr(0, 1) + '\0' + nombre.substr(0, 1)) != std::string::npos;
+    return vn::existe(fichero) &&
+           vn::lee_fichero(fichero).find(nombre.substr(0, 1) + '\0' + nombre.substr(0, 1)) != std::string::npos;
 }
 
 PRUEBA(ultfichsel, cada_fallo_al_grabarlos) {
-    vn::comprueba_guardado("ultimos_ficheros", {.fichero = "pnlselfic.cfg", .informa = false, .muere = false, .dice = false});
+    vn::comprueba_guardado("ultimos_ficheros",
+                           {.fichero = "pnlselfic.cfg", .informa = false, .muere = false, .dice = false});
 }

@@ -1,8 +1,8 @@
-#include "frame/alsalir.h"
-#include "foundation/texto/cad.h"
 #include "foundation/ficheros/lc_fichero.h"
 #include "foundation/suelo/vnatexit.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
+#include "frame/alsalir.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
 

@@ -8,7 +8,8 @@ PRUEBA(calsecbas, el_giro_lleva_los_momentos_a_los_principales) {
     vn::azar a(32);
     for (int i = 0; i < 20000; ++i) {
         const double imin = a.entre(1., 50.), imax = imin + a.entre(0.1, 50.), giro = a.entre(0., 1.57);
-        const double c = std::cos(giro), s = std::sin(giro), iy = imax * c * c + imin * s * s, iz = imax * s * s + imin * c * c;
+        const double c = std::cos(giro), s = std::sin(giro), iy = imax * c * c + imin * s * s,
+                     iz = imax * s * s + imin * c * c;
         ASSERT_NEAR(angulo(iy, iz, CIERTO, imax, imin), giro, 1e-6);
         ASSERT_EQ(angulo(iy, iz, FALSO, imax, imin), -angulo(iy, iz, CIERTO, imax, imin));
     }

@@ -42,7 +42,8 @@ std::vector<std::vector<vec>> caras() {
     const std::vector<double> escala = listas(tras("\"scale\":"))[0];
     const auto vertices = listas(tras("\"vertices\":"));
     std::vector<std::vector<vec>> r;
-    for (const char *p = texto.c_str(); (p = tras("\"boundaries\":", static_cast<size_t>(p - texto.c_str()))) != nullptr;)
+    for (const char *p = texto.c_str();
+         (p = tras("\"boundaries\":", static_cast<size_t>(p - texto.c_str()))) != nullptr;)
         for (const auto &cara : listas(p)) {
             r.emplace_back();
             for (const double i : cara) {
@@ -70,7 +71,8 @@ PRUEBA(ejes2d_caras, las_caras_de_los_edificios_tienen_ejes) {
         for (const vec &p : cara) fuera = std::max(fuera, std::fabs(por(p - cara[0], n)));
         const puntos lista(cara);
         marco m;
-        // The tolerance is judged by planes of three corners, so between a third of it and three times it either may be.
+        // The tolerance is judged by planes of three corners, so between a third of it and three times it either may
+        // be.
         const vnbool forman = ejes2d_punto3D_forman_ejes(lista, A_EJ(m));
         if (largo(s) == 0.) { // a wall of no width
             ++sin_area;

@@ -36,8 +36,12 @@ respuesta pregunta(const arrPunto3D *p, double puntos = PUNTOS, double plano = P
 
 // ---------------------------------------------------------------- the rule, one point at a time
 
-bool separados(vec a, vec b, double t) { return std::fabs(a.x - b.x) > t || std::fabs(a.y - b.y) > t || std::fabs(a.z - b.z) > t; }
-bool juntos(vec a, vec b, double t) { return std::fabs(a.x - b.x) < t && std::fabs(a.y - b.y) < t && std::fabs(a.z - b.z) < t; }
+bool separados(vec a, vec b, double t) {
+    return std::fabs(a.x - b.x) > t || std::fabs(a.y - b.y) > t || std::fabs(a.z - b.z) > t;
+}
+bool juntos(vec a, vec b, double t) {
+    return std::fabs(a.x - b.x) < t && std::fabs(a.y - b.y) < t && std::fabs(a.z - b.z) < t;
+}
 
 respuesta despacio(const std::vector<vec> &p, double t_puntos, double t_plano, bool comprueba) {
     const size_t n = p.size();
@@ -81,8 +85,8 @@ respuesta despacio(const std::vector<vec> &p, double t_puntos, double t_plano, b
     return r;
 }
 
-// A plane in which the first start fails, for its first point is a little off, and what decides for the next one stands far
-// down the list: behind a crowd of points that are one, on a line with a dent about the tolerance.
+// A plane in which the first start fails, for its first point is a little off, and what decides for the next one stands
+// far down the list: behind a crowd of points that are one, on a line with a dent about the tolerance.
 std::vector<vec> lista_con_sorpresa(vn::azar &a) {
     const marco m = a.entero(4) == 0 ? marco{{}, {0, 1, 0}, {1, 0, 0}} : marco_al_azar(a, 10.);
     std::vector<vec> p{m.punto(-.001, 0., .0003)};
@@ -92,25 +96,27 @@ std::vector<vec> lista_con_sorpresa(vn::azar &a) {
     for (uint32_t i = 1; i <= en_linea; ++i) p.push_back(m.punto((a_un_lado || a.moneda() ? 1. : -1.) * i * .01, 0.));
     for (uint32_t k = 1 + a.entero(2); k-- > 0;) {
         const uint32_t i = 1 + juntos_ + (a.moneda() ? a.entero(en_linea) : en_linea / 256 * 256 - (1 + juntos_) % 256);
-        if (i < p.size()) p[i] = p[i] + a.entre(-3e-5, 3e-5) * m.u + std::pow(10., a.entre(-6., 0.)) * (a.moneda() ? m.v : m.u);
+        if (i < p.size())
+            p[i] = p[i] + a.entre(-3e-5, 3e-5) * m.u + std::pow(10., a.entre(-6., 0.)) * (a.moneda() ? m.v : m.u);
     }
     return p;
 }
 
 // Lists on which one start after another fails, in the ways that the search knows shortcuts for.
 std::vector<vec> lista_sin_suerte(vn::azar &a, int clase, size_t n, double ruido, const vn::lugar &l = {}) {
-    const vec o = vec{l.x, l.y, l.z} + vector_al_azar(a, 100.), u = direccion_al_azar(a), v = unitario(cruz(u, direccion_al_azar(a)));
+    const vec o = vec{l.x, l.y, l.z} + vector_al_azar(a, 100.), u = direccion_al_azar(a),
+              v = unitario(cruz(u, direccion_al_azar(a)));
     std::vector<vec> p;
     for (size_t i = 0; i < n; ++i) {
         const double t = static_cast<double>(i) / static_cast<double>(n);
         vec q = o + t * u;
-        if (clase == 1) q = o + a.entre(-1., 1.) * u;                                // a line in no order
-        if (clase == 2) q = o;                                                       // all one point
+        if (clase == 1) q = o + a.entre(-1., 1.) * u;                                       // a line in no order
+        if (clase == 2) q = o;                                                              // all one point
         if (clase == 3) q = i > 0 && a.entero(4) > 0 ? p.back() : o + a.entre(-1., 1.) * u; // runs of one point
-        if (clase == 4) q = o + t * u + 3e-5 * t * (1. - t) * v;                     // hardly an arc
-        if (clase == 5) q = o + vector_al_azar(a, 1.);                               // no plane
-        if (clase == 6) q = i % 97 == 96 ? o + a.entre(-1., 1.) * v : o + t * u;     // a line, and points off it
-        if (clase == 7) q = o + a.entre(-1., 1.) * u + a.entre(-1., 1.) * v;         // a plane
+        if (clase == 4) q = o + t * u + 3e-5 * t * (1. - t) * v;                            // hardly an arc
+        if (clase == 5) q = o + vector_al_azar(a, 1.);                                      // no plane
+        if (clase == 6) q = i % 97 == 96 ? o + a.entre(-1., 1.) * v : o + t * u;            // a line, and points off it
+        if (clase == 7) q = o + a.entre(-1., 1.) * u + a.entre(-1., 1.) * v;                // a plane
         // A plane that only late starts find: a quarter arc that is twisted a little, a zigzag between two lines.
         if (clase == 8) q = o + 10. * std::cos(t) * u + 10. * std::sin(t) * v + 1e-3 * t * t * cruz(u, v);
         if (clase == 9) q = o + t * u + (i % 2 == 0 ? 0. : 1e-4) * v + 1e-3 * t * t * cruz(u, v);
@@ -139,13 +145,16 @@ PRUEBA(ejes2d_puntos, la_busqueda_rapida_responde_lo_que_la_lenta) {
     int ciertos = 0, con_indice = 0;
     for (int caso = 0; caso < 4000; ++caso) {
         const auto n = static_cast<size_t>(caso % 10 == 0 ? 500 + a.entero(700) : a.entero(12));
-        const std::vector<vec> p = caso % 10 == 5 ? lista_con_sorpresa(a) : lista_adversa(a, static_cast<int>(a.entero(10)), n, vn::lugar_de(caso));
+        const std::vector<vec> p = caso % 10 == 5
+                                       ? lista_con_sorpresa(a)
+                                       : lista_adversa(a, static_cast<int>(a.entero(10)), n, vn::lugar_de(caso));
         const double plano = a.entero(3) == 0 ? std::pow(10., a.entre(-9., -1.)) : PLANO;
         const double distancia = a.entero(3) == 0 ? std::pow(10., a.entre(-7., -3.)) : PUNTOS;
         const vnbool comprueba = a.entero(3) != 0 ? FALSO : CIERTO;
-        const respuesta esperada = despacio(p, distancia, plano, comprueba), vista = pregunta(puntos(p), distancia, plano, comprueba);
-        ASSERT_TRUE(mismo(vista, esperada)) << "case " << caso << ", " << p.size() << " points: " << vista.forman << " " << vista.indice
-                                            << ", not " << esperada.forman << " " << esperada.indice;
+        const respuesta esperada = despacio(p, distancia, plano, comprueba),
+                        vista = pregunta(puntos(p), distancia, plano, comprueba);
+        ASSERT_TRUE(mismo(vista, esperada)) << "case " << caso << ", " << p.size() << " points: " << vista.forman << " "
+                                            << vista.indice << ", not " << esperada.forman << " " << esperada.indice;
         // By the doors with the usual tolerances, which leave alone what they cannot give.
         const puntos lista(p);
         const respuesta usual = pregunta(lista);
@@ -162,15 +171,19 @@ PRUEBA(ejes2d_puntos, la_busqueda_rapida_responde_lo_que_la_lenta) {
         ciertos += vista.forman;
         con_indice += vista.indice != NINGUNO;
     }
-    EXPECT_TRUE(ciertos > 500 && ciertos < 3500 && con_indice > 100) << ciertos << " " << con_indice; // both roads walked
+    EXPECT_TRUE(ciertos > 500 && ciertos < 3500 && con_indice > 100)
+        << ciertos << " " << con_indice; // both roads walked
 }
 
-// The search ends on big lists without luck: with its shortcuts in a moment, without them long after the time that the test
-// is given (see CMakeLists.txt). What each kind costs is in bench_geometry.
+// The search ends on big lists without luck: with its shortcuts in a moment, without them long after the time that the
+// test is given (see CMakeLists.txt). What each kind costs is in bench_geometry.
 PRUEBA(ejes2d_puntos, cien_mil_puntos_que_no_forman_ejes_no_eternizan_la_busqueda) {
     vn::azar a(43);
     for (const int clase : {0, 1, 2, 3, 4, 5, 8, 9})
-        EXPECT_EQ(pregunta(puntos(lista_sin_suerte(a, clase, 100000, clase == 4 ? 1e-6 : 0.)), PUNTOS, 1e-7, FALSO).forman, FALSO) << clase;
+        EXPECT_EQ(
+            pregunta(puntos(lista_sin_suerte(a, clase, 100000, clase == 4 ? 1e-6 : 0.)), PUNTOS, 1e-7, FALSO).forman,
+            FALSO)
+            << clase;
 }
 
 PRUEBA(ejes2d_puntos, los_ejes_miran_al_lado_desde_el_que_el_poligono_va_a_izquierdas) {
@@ -184,7 +197,8 @@ PRUEBA(ejes2d_puntos, los_ejes_miran_al_lado_desde_el_que_el_poligono_va_a_izqui
         const double lado = a.entre(0.5, 50.), alto = lado * a.entre(0.3, 1.);
         std::vector<vec> p;
         vec area{};
-        for (const double g : angulos) p.push_back(m.punto(lado * std::cos(g), alto * std::sin(g), a.entre(-1e-5, 1e-5)));
+        for (const double g : angulos)
+            p.push_back(m.punto(lado * std::cos(g), alto * std::sin(g), a.entre(-1e-5, 1e-5)));
         if (a.moneda()) p.insert(p.begin(), p.front());
         if (a.moneda()) std::reverse(p.begin(), p.end());
         for (size_t i = 1; i + 1 < p.size(); ++i) area = area + cruz(p[i] - p[0], p[i + 1] - p[0]);
@@ -192,7 +206,8 @@ PRUEBA(ejes2d_puntos, los_ejes_miran_al_lado_desde_el_que_el_poligono_va_a_izqui
         const respuesta r = pregunta(puntos(p), PUNTOS, 0.05);
         ASSERT_EQ(r.forman, CIERTO) << caso;
         ASSERT_GT(por(r.m.w(), unitario(area)), 0.99) << caso;
-        ASSERT_TRUE(std::fabs(por(r.m.u, r.m.v)) < 1e-12 && std::fabs(largo(r.m.u) - 1.) < 1e-12 && std::fabs(largo(r.m.v) - 1.) < 1e-12);
+        ASSERT_TRUE(std::fabs(por(r.m.u, r.m.v)) < 1e-12 && std::fabs(largo(r.m.u) - 1.) < 1e-12 &&
+                    std::fabs(largo(r.m.v) - 1.) < 1e-12);
         for (const vec &q : p) ASSERT_LT(std::fabs(por(q - r.m.o, r.m.w())), 0.1);
     }
 }
@@ -207,16 +222,21 @@ PRUEBA(ejes2d_puntos, cada_tolerancia_en_su_limite) {
     EXPECT_EQ(existen({0, 0, 0}, {1, 0, 0}, {.5, PUNTOS, 0}), CIERTO);
     EXPECT_EQ(forman({0, 0, 0}, {0, ante(PUNTOS), 0}, {1, 0, 0}), FALSO);
     EXPECT_EQ(forman({0, 0, 0}, {0, PUNTOS, 0}, {1, 0, 0}), CIERTO);
-    EXPECT_EQ(ejes2d_existen_tres_puntos_no_lineales_con_precision(puntos({{0, 0, 0}, {1, 0, 0}, {.5, .25, 0}}), .25), CIERTO);
-    EXPECT_EQ(ejes2d_existen_tres_puntos_no_lineales_con_precision(puntos({{0, 0, 0}, {1, 0, 0}, {.5, .25, 0}}), tras(.25)), FALSO);
+    EXPECT_EQ(ejes2d_existen_tres_puntos_no_lineales_con_precision(puntos({{0, 0, 0}, {1, 0, 0}, {.5, .25, 0}}), .25),
+              CIERTO);
+    EXPECT_EQ(
+        ejes2d_existen_tres_puntos_no_lineales_con_precision(puntos({{0, 0, 0}, {1, 0, 0}, {.5, .25, 0}}), tras(.25)),
+        FALSO);
 
-    // A fourth point off the plane of the first three: in it; off it, but later starts serve; off it for all; past remedy.
+    // A fourth point off the plane of the first three: in it; off it, but later starts serve; off it for all; past
+    // remedy.
     const struct {
         double z;
         vnbool forman;
         uint32_t indice;
-    } filas[] = {{PLANO, CIERTO, NINGUNO},        {tras(PLANO), CIERTO, 3},           {-tras(PLANO), CIERTO, 3}, {0.01, FALSO, NINGUNO},
-                 {100. * PLANO, FALSO, NINGUNO}, {tras(100. * PLANO), FALSO, 3}, {-1., FALSO, 3}};
+    } filas[] = {{PLANO, CIERTO, NINGUNO}, {tras(PLANO), CIERTO, 3},       {-tras(PLANO), CIERTO, 3},
+                 {0.01, FALSO, NINGUNO},   {100. * PLANO, FALSO, NINGUNO}, {tras(100. * PLANO), FALSO, 3},
+                 {-1., FALSO, 3}};
     for (const auto &f : filas) {
         const puntos p({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, f.z}});
         const respuesta r = pregunta(p);
@@ -231,8 +251,8 @@ PRUEBA(ejes2d_puntos, cada_tolerancia_en_su_limite) {
     EXPECT_EQ(pregunta(corto).indice, 3u);
     EXPECT_EQ(pregunta(corto, PUNTOS, PLANO, FALSO).forman, CIERTO);
 
-    // A dart whose first corner is the reflex one, so the first W looks the wrong way; the corners of its wings have a vote
-    // or have none.
+    // A dart whose first corner is the reflex one, so the first W looks the wrong way; the corners of its wings have a
+    // vote or have none.
     const double ala = 0x1p-15, muesca = 0x1p-14;
     double punta = muesca + 1e-9 / ala;
     while (ala * punta - ala * muesca > 1e-9) punta = ante(punta);
@@ -245,9 +265,11 @@ PRUEBA(ejes2d_puntos, cada_tolerancia_en_su_limite) {
 }
 
 PRUEBA(ejes2d_puntos, sin_tres_puntos_no_hay_plano) {
-    for (const auto &lista : {std::vector<vec>{}, {{3, 3, 3}, {3, 3, 3}, {3, 3, 3}}, {{0, 0, 0}, {1, 1, 1}, {2, 2, 2}, {5, 5, 5}}}) {
+    for (const auto &lista :
+         {std::vector<vec>{}, {{3, 3, 3}, {3, 3, 3}, {3, 3, 3}}, {{0, 0, 0}, {1, 1, 1}, {2, 2, 2}, {5, 5, 5}}}) {
         double A = 1, B = 1, C = 1, D = 1;
-        ESPERA_INFORME("forman_ejes == CIERTO", ejes2d_ecuacion_del_plano_a_partir_de_puntos3D(puntos(lista), &A, &B, &C, &D));
+        ESPERA_INFORME("forman_ejes == CIERTO",
+                       ejes2d_ecuacion_del_plano_a_partir_de_puntos3D(puntos(lista), &A, &B, &C, &D));
         EXPECT_TRUE(A == 0. && B == 0. && C == 0. && D == 0.);
     }
     EXPECT_EQ(ejes2d_tres_puntos_forman_ejes(0, 0, 0, INF, 0, 0, 0, 1, 0), FALSO);

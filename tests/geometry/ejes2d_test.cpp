@@ -1,5 +1,5 @@
-#include "geometry/ejes2d.h"
 #include "espacio.h"
+#include "geometry/ejes2d.h"
 #include "prueba.h"
 #include <functional>
 #include <limits>
@@ -67,7 +67,8 @@ PRUEBA(ejes2d, ir_a_global_y_volver_deja_todo_donde_estaba) {
         ejes2d_ejes_globales_a_locales(EJ(m), EJ(en), A_EJ(de_vuelta));
         ASSERT_TRUE(iguales(de_vuelta.o, n.o, e) && iguales(de_vuelta.u, n.u, 3.) && iguales(de_vuelta.v, n.v, 3.));
         ejes2d *base = ejes2d_crea(EJ(m)), *local = ejes2d_crea(EJ(n));
-        ejes2d *r[4] = {ejes2d_local_a_global(EJ(m), local), ejes2d_local_a_ejes2d_global(local, base), nullptr, nullptr};
+        ejes2d *r[4] = {ejes2d_local_a_global(EJ(m), local), ejes2d_local_a_ejes2d_global(local, base), nullptr,
+                        nullptr};
         r[2] = ejes2d_global_a_ejes2d_local(base, r[1]);
         r[3] = ejes2d_copia(r[2]);
         ASSERT_TRUE(r[0]->Xo == en.o.x && r[0]->Vz == en.v.z && r[1]->Uy == en.u.y && r[3]->Zo == de_vuelta.o.z);
@@ -80,15 +81,18 @@ PRUEBA(ejes2d, las_polilineas_van_punto_a_punto) {
     for (int caso = 0; caso < 500; ++caso) {
         const vn::lugar lugar = vn::lugar_de(caso / 2);
         const double e = lugar.escala(1000.), fuera_ = e * 1e-12;
-        const marco m = marco_al_azar(a, 100., lugar), n = {m.o + 3. * m.u - 2. * m.v, m.u, caso % 2 == 0 ? m.v : -1. * m.v};
+        const marco m = marco_al_azar(a, 100., lugar),
+                    n = {m.o + 3. * m.u - 2. * m.v, m.u, caso % 2 == 0 ? m.v : -1. * m.v};
         arrPunto2D *plana = arr_CreaPunto2D(0);
         for (uint32_t i = a.entero(6); i-- > 0;) arr_AppendPunto2D(plana, a.entre(-9., 9.), a.entre(-9., 9.));
         const uint32_t num = arr_NumElemsPunto2D(plana);
         const puntos g(ejes2d_polilinea2D_a_3D(EJ(m), plana)), l(ejes2d_polilinea3D_transformada_a_locales(EJ(m), g)),
             vuelta(ejes2d_polilinea3D_transformada(EJ(m), l));
-        arrPunto2D *en_plano = ejes2d_polilinea3D_a_2D(EJ(m), g, fuera_), *pies = ejes2d_polilinea3D_proyectada_a_2D(EJ(m), g);
+        arrPunto2D *en_plano = ejes2d_polilinea3D_a_2D(EJ(m), g, fuera_),
+                   *pies = ejes2d_polilinea3D_proyectada_a_2D(EJ(m), g);
         vnbool fuera = 7;
-        arrPunto2D *otra = ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(plana, EJ(m), EJ(n), fuera_, &fuera);
+        arrPunto2D *otra =
+            ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(plana, EJ(m), EJ(n), fuera_, &fuera);
         EXPECT_EQ(fuera, FALSO);
         ASSERT_TRUE(g.size() == num && vuelta.size() == num && arr_NumElemsPunto2D(otra) == num);
         for (uint32_t i = 0; i < num; ++i) {
@@ -149,7 +153,8 @@ PRUEBA(ejes2d, cada_comparacion_en_su_limite) {
         arr_AppendPunto2D(p, 3., 0.);
         arr_AppendPunto2D(p, 4., 0.);
         const marco casi_vertical{{}, {1, 0, 0}, {0, s, 1}};
-        arrPunto2D *r = ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(p, EJ(casi_vertical), EJ(GLOBAL), 1., nullptr);
+        arrPunto2D *r =
+            ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(p, EJ(casi_vertical), EJ(GLOBAL), 1., nullptr);
         EXPECT_EQ(arr_GetBufferPunto2D(r)[0].x, s > 1e-8 ? 3. : 4.);
         arr_DestruyePunto2D(&p);
         arr_DestruyePunto2D(&r);
@@ -161,7 +166,8 @@ PRUEBA(ejes2d, lo_que_esta_fuera_del_plano_se_dice_y_se_proyecta) {
     vnbool fuera = 7;
     for (const double z : {.25, -.25, ante(.25)}) {
         const bool mal = std::fabs(z) >= .25;
-        vn::con_informe(mal ? EN_PLANO : nullptr, [&] { ejes2d_coordenadas_3D_a_2D(EJ(GLOBAL), 1, 2, z, .25, &x, &y); });
+        vn::con_informe(mal ? EN_PLANO : nullptr,
+                        [&] { ejes2d_coordenadas_3D_a_2D(EJ(GLOBAL), 1, 2, z, .25, &x, &y); });
         ejes2d_coordenadas_3D_a_2D_fuera_de_precision(EJ(GLOBAL), 1, 2, z, .25, &x, &y, &fuera);
         EXPECT_TRUE(x == 1. && y == 2. && fuera == mal);
         vn::con_informe(mal ? EN_PLANO : nullptr,
@@ -171,7 +177,8 @@ PRUEBA(ejes2d, lo_que_esta_fuera_del_plano_se_dice_y_se_proyecta) {
         });
         vn::con_informe(mal ? EN_PLANO : nullptr,
                         [&] { ejes2d_recta_3D_a_2D(EJ(GLOBAL), 1, 2, z, 1, 0, 0, .25, &x, &y, &u, &v); });
-        vn::con_informe(mal ? "vnstdc_fabs(Ux_recta_3D * Wx + Uy_recta_3D * Wy + Uz_recta_3D * Wz) < precision" : nullptr,
+        vn::con_informe(mal ? "vnstdc_fabs(Ux_recta_3D * Wx + Uy_recta_3D * Wy + Uz_recta_3D * Wz) < precision"
+                            : nullptr,
                         [&] { ejes2d_recta_3D_a_2D(EJ(GLOBAL), 1, 2, 0, .5, .75, z, .25, &x, &y, &u, &v); });
         EXPECT_TRUE(x == 1. && y == 2. && u == .5 && v == .75);
         const puntos p({{1, 2, z}, {3, 4, 0}});
@@ -267,7 +274,8 @@ PRUEBA(ejes2d, los_ejes_de_puntos_y_de_caras) {
     ejes2d_ejes_con_dos_puntos(1, 2, 3, 1, 2, 3, A_EJ(m)); // one point: the global axes there
     EXPECT_TRUE(m.o.z == 3. && m.u.x == 1. && m.v.y == 1.);
     for (const double z : {ante(.0005), .0005}) {
-        vn::con_informe(z < .0005 ? nullptr : "vnstdc_fabs(prod_escalar_pto_esta_en_plano) < i_PRECISION_PUNTO_PERTENECE_PLANO",
+        vn::con_informe(z < .0005 ? nullptr
+                                  : "vnstdc_fabs(prod_escalar_pto_esta_en_plano) < i_PRECISION_PUNTO_PERTENECE_PLANO",
                         [&] { ejes2d_ejes_de_una_cara(0, 0, 0, 4, 0, 0, 4, 4, z, 0, 4, 0, A_EJ(m)); });
         EXPECT_TRUE(m.o.x == 2. && m.o.y == 2. && m.o.z == z / 4. && m.u.x == 1. && m.v.y == 1.);
     }
@@ -276,7 +284,8 @@ PRUEBA(ejes2d, los_ejes_de_puntos_y_de_caras) {
     EXPECT_TRUE(A == 0. && B == 0. && C == 1. && D == -5.);
     ejes2d_ejes_horizontales_dado_angulo_rad(.75, A_UV(m));
     ejes2d_ejes_horizontales_dado_Ux_Uy(m.u.x, m.u.y, A_UV(n));
-    EXPECT_TRUE(vn::cerca(m.u.x, 0.73168886887382090) && vn::cerca(m.u.y, 0.68163876002333412) && iguales(n.v, m.v, 0.));
+    EXPECT_TRUE(vn::cerca(m.u.x, 0.73168886887382090) && vn::cerca(m.u.y, 0.68163876002333412) &&
+                iguales(n.v, m.v, 0.));
     EXPECT_TRUE(m.v.x == -m.u.y && m.v.y == m.u.x);
     planoABCD *p = ejes2d_crea_planoABCD(0, .6, .8, -2), *q = ejes2d_copia_planoABCD(p);
     EXPECT_TRUE(q->B == .6 && q->D == -2.);
@@ -337,7 +346,8 @@ PRUEBA(ejes2d, los_angulos_de_giro_y_sus_ejes_se_deshacen) {
 }
 
 PRUEBA(ejes2d, cada_giro_en_su_sentido) {
-    for (const auto &[grados, c, s] : {std::tuple{90., 0., 1.}, {-90., 0., -1.}, {30., std::sqrt(.75), .5}, {180., -1., 0.}}) {
+    for (const auto &[grados, c, s] :
+         {std::tuple{90., 0., 1.}, {-90., 0., -1.}, {30., std::sqrt(.75), .5}, {180., -1., 0.}}) {
         marco m = GLOBAL;
         ejes2d_gira_ejes_sobre_U(XYZ(m.u), A_XYZ(m.v), grados);
         EXPECT_TRUE(iguales(m.v, {0, c, s}, 1.));

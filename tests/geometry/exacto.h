@@ -16,7 +16,9 @@ struct segmento {
 };
 
 // Twice the area of the triangle: above 0 when c lies to the left of a-b.
-inline int64_t giro(const punto &a, const punto &b, const punto &c) { return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x); }
+inline int64_t giro(const punto &a, const punto &b, const punto &c) {
+    return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
+}
 inline int signo(int64_t v) { return (v > 0) - (v < 0); }
 
 inline bool en_segmento(const punto &p, const segmento &s) {

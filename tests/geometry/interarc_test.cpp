@@ -1,6 +1,6 @@
-#include "geometry/interarc.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
+#include "geometry/interarc.h"
 #include "propiedades.h"
 #include "prueba.h"
 #include <limits>
@@ -54,11 +54,22 @@ PRUEBA(interarc, las_tangentes_y_los_limites_de_vertical_y_horizontal_son_los_di
     const struct {
         double x1, y1, x2, y2;
         size_t puntos;
-    } filas[] = {{5., -9., 5., 9., 0}, {casi5, -9., casi5, 9., 2}, {-9., 5., 9., 5., 0}, {-9., -5., 9., -5., 0},
+    } filas[] = {{5., -9., 5., 9., 0},
+                 {casi5, -9., casi5, 9., 2},
+                 {-9., 5., 9., 5., 0},
+                 {-9., -5., 9., -5., 0},
                  {-5., 10., 11., -2., 2}, // touches at (3, 4): the double root, twice
-                 {0., 0., 9., 9., 1}, {-9., -9., 9., 9., 2}, {1., 1., 1., 1., 0}, {6., 6., 9., 9., 0}, {0., 0., 0., 5., 1},
-                 {4., -9., 4. + casiD, 9., 2}, {0., 0., 0., 4.99999, 1}, {0., 0., 0., 4.9999, 0}, {NAN_, 0., 9., 1., 0},
-                 {0., 0., INF, 1., 0}, {-1e308, -1e308, 1e308, 1e308, 0}};
+                 {0., 0., 9., 9., 1},
+                 {-9., -9., 9., 9., 2},
+                 {1., 1., 1., 1., 0},
+                 {6., 6., 9., 9., 0},
+                 {0., 0., 0., 5., 1},
+                 {4., -9., 4. + casiD, 9., 2},
+                 {0., 0., 0., 4.99999, 1},
+                 {0., 0., 0., 4.9999, 0},
+                 {NAN_, 0., 9., 1., 0},
+                 {0., 0., INF, 1., 0},
+                 {-1e308, -1e308, 1e308, 1e308, 0}};
     for (const auto &f : filas)
         EXPECT_EQ(con_circulo(f.x1, f.y1, f.x2, f.y2, 0., 0., 5.).num(), f.puntos) << "row " << &f - filas;
     // Vertical means at its first end; one step further it is oblique and meets the circle where it is.
@@ -123,14 +134,16 @@ PRUEBA(interarc, los_cortes_de_circulos_estan_en_los_dos_tambien_lejos_del_orige
     const struct {
         double r1, x2, y2, r2;
         size_t puntos;
-    } filas[] = {{2., 0., 0., 2., 0}, {2., 0., 0., 3., 0}, {2., 0.00009, 0., 2., 0},
-                 {2., 0.0001, 0., 2., 2}, // concentric or almost
-                 {2., 5., 0., 3., 0}, {5., 6., 8., 5., 2}, // touching on a vertical line, and on an oblique one
-                 {NAN_, 1., 0., 2., 0}, {INF, 1., 0., 2., 0}};
-    for (const auto &f : filas) EXPECT_EQ(entre(0., 0., f.r1, f.x2, f.y2, f.r2).num(), f.puntos) << "row " << &f - filas;
+    } filas[] = {{2., 0., 0., 2., 0},      {2., 0., 0., 3., 0},
+                 {2., 0.00009, 0., 2., 0}, {2., 0.0001, 0., 2., 2}, // concentric or almost
+                 {2., 5., 0., 3., 0},      {5., 6., 8., 5., 2}, // touching on a vertical line, and on an oblique one
+                 {NAN_, 1., 0., 2., 0},    {INF, 1., 0., 2., 0}};
+    for (const auto &f : filas)
+        EXPECT_EQ(entre(0., 0., f.r1, f.x2, f.y2, f.r2).num(), f.puntos) << "row " << &f - filas;
     // An almost vertical line of equal power stands at its x of the lowest point, where the circles part: arcs notice.
     const cortes vertical = entre(0., 0., 5., 6., 5e-5, 5.), horizontal = entre(0., 0., 5., 9e-5, 6., 5.);
-    EXPECT_TRUE(cerca(vertical[0].x, 3. + 2.5e-4 / 6., 1e3) && vertical[0].x == vertical[1].x && horizontal[0].y == horizontal[1].y);
+    EXPECT_TRUE(cerca(vertical[0].x, 3. + 2.5e-4 / 6., 1e3) && vertical[0].x == vertical[1].x &&
+                horizontal[0].y == horizontal[1].y);
     EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 5e-5, 5., 0., VUELTA).num(), 0u);
     EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 1e-6, 5., 0., VUELTA).num(), 2u);
 }
@@ -150,7 +163,8 @@ PRUEBA(interarc, un_arco_da_los_cortes_de_su_circulo_que_estan_en_el) {
         };
         const cortes arcos(mt_interseccion_entre_arcos, 0., 0., r1, i1, f1, x2, y2, r2, i2, f2);
         const auto n = cuantos(entre(0., 0., r1, x2, y2, r2), true);
-        ASSERT_TRUE(std::fabs(mt_distancia(0., 0., x2, y2) - r1 - r2) < 1e-3 || static_cast<std::ptrdiff_t>(arcos.num()) == n)
+        ASSERT_TRUE(std::fabs(mt_distancia(0., 0., x2, y2) - r1 - r2) < 1e-3 ||
+                    static_cast<std::ptrdiff_t>(arcos.num()) == n)
             << i;
         con_uno += n == 1;
         const cortes con_segmento(mt_interseccion_segmento_arco, -9., y2, 9., x2, 0., 0., r1, i1, f1);

@@ -31,7 +31,8 @@ puntos_t cadena(puntos_t p) {
     return h;
 }
 
-// Whether every corner of a convex outline bends by more than a ten-thousandth of a radian: those that bend less may go.
+// Whether every corner of a convex outline bends by more than a ten-thousandth of a radian: those that bend less may
+// go.
 bool sin_esquinas_llanas(const puntos_t &h) {
     const size_t n = h.size();
     for (size_t i = 0; n > 2 && i < n; ++i) {
@@ -58,11 +59,14 @@ puntos_t nube(azar &a, size_t n, int forma, int32_t r, const punto &o = {0, 0}) 
         const auto u = [&] { return static_cast<int32_t>(a.entero_entre(-int64_t{r} - (r == INT32_MAX), r)); };
         p = {u(), u()};
         if (forma == 1) { // on a circle, without the platform's functions
-            const double t = a.entre(-1., 1.), k = (a.moneda() ? r : -r) / (1. + t * t), x = k * (1. - t * t), y = k * 2. * t;
-            p = a.moneda() ? punto{static_cast<int32_t>(x), static_cast<int32_t>(y)} : punto{static_cast<int32_t>(y), static_cast<int32_t>(x)};
+            const double t = a.entre(-1., 1.), k = (a.moneda() ? r : -r) / (1. + t * t), x = k * (1. - t * t),
+                         y = k * 2. * t;
+            p = a.moneda() ? punto{static_cast<int32_t>(x), static_cast<int32_t>(y)}
+                           : punto{static_cast<int32_t>(y), static_cast<int32_t>(x)};
         }
-        if (forma == 2) p.y = static_cast<int32_t>(int64_t{p.x} * 3 / 7) + static_cast<int32_t>(a.entero(5)); // almost a line
-        if (forma == 3) p.y = static_cast<int32_t>(a.entero(3));                                             // three lines
+        if (forma == 2)
+            p.y = static_cast<int32_t>(int64_t{p.x} * 3 / 7) + static_cast<int32_t>(a.entero(5)); // almost a line
+        if (forma == 3) p.y = static_cast<int32_t>(a.entero(3));                                  // three lines
         if (forma == 4) p = {p.x - p.x % (r / 2 + 1), p.y - p.y % (r / 2 + 1)}; // a few places, again and again
         p = {p.x + o.x, p.y + o.y};
     }
@@ -76,15 +80,18 @@ PRUEBA(poligono, los_primeros_puntos_se_colocan_segun_su_lado) {
     const struct {
         puntos_t puntos, resultado;
     } filas[] = {
-        {{}, {}}, {{{3, 4}, {3, 4}}, {{3, 4}}}, {{{0, 0}, {4, 2}, {2, 1}}, {{0, 0}, {4, 2}}}, {{{0, 0}, {4, 2}, {-2, -1}},
-        {{-2, -1}, {4, 2}}},
-        {{{0, 0}, {4, 2}, {6, 3}, {4, 2}, {6, 3}}, {{0, 0}, {6, 3}}}, {{{0, 0}, {4, 0}, {0, 4}}, {{0, 0}, {4, 0}, {0, 4}}},
+        {{}, {}},
+        {{{3, 4}, {3, 4}}, {{3, 4}}},
+        {{{0, 0}, {4, 2}, {2, 1}}, {{0, 0}, {4, 2}}},
+        {{{0, 0}, {4, 2}, {-2, -1}}, {{-2, -1}, {4, 2}}},
+        {{{0, 0}, {4, 2}, {6, 3}, {4, 2}, {6, 3}}, {{0, 0}, {6, 3}}},
+        {{{0, 0}, {4, 0}, {0, 4}}, {{0, 0}, {4, 0}, {0, 4}}},
         {{{0, 0}, {0, 4}, {4, 0}}, {{0, 0}, {4, 0}, {0, 4}}},
         // Beyond an end of a side on its line, horizontal, vertical and oblique; then between, at a corner, inside.
-        {{{0, 0}, {4, 0}, {0, 4}, {6, 0}}, {{0, 0}, {6, 0}, {0, 4}}}, {{{0, 0}, {4, 0}, {0, 4}, {0, -3}}, {{0, -3}, {4, 0},
-        {0, 4}}},
-        {{{0, 0}, {4, 0}, {0, 4}, {6, -2}}, {{0, 0}, {6, -2}, {0, 4}}}, {{{0, 0}, {4, 0}, {0, 4}, {2, 0}, {0, 4}, {2, 2},
-        {1, 1}}, {{0, 0}, {4, 0}, {0, 4}}},
+        {{{0, 0}, {4, 0}, {0, 4}, {6, 0}}, {{0, 0}, {6, 0}, {0, 4}}},
+        {{{0, 0}, {4, 0}, {0, 4}, {0, -3}}, {{0, -3}, {4, 0}, {0, 4}}},
+        {{{0, 0}, {4, 0}, {0, 4}, {6, -2}}, {{0, 0}, {6, -2}, {0, 4}}},
+        {{{0, 0}, {4, 0}, {0, 4}, {2, 0}, {0, 4}, {2, 2}, {1, 1}}, {{0, 0}, {4, 0}, {0, 4}}},
         // A square that swallows a triangle; the corners of the range.
         {{{1, 1}, {3, 1}, {2, 2}, {0, 0}, {4, 0}, {4, 4}, {0, 4}}, {{0, 0}, {4, 0}, {4, 4}, {0, 4}}},
         {{{MIN, MIN}, {MAX, MAX}, {MIN, MAX}, {MAX, MIN}, {0, 0}}, {{MIN, MIN}, {MAX, MIN}, {MAX, MAX}, {MIN, MAX}}}};
@@ -98,7 +105,8 @@ PRUEBA(poligono, los_primeros_puntos_se_colocan_segun_su_lado) {
     EXPECT_TRUE(p.xmin == 5 && p.xmax == 5 && p.ymin == -7 && p.ymax == -7 && p.numVertices == 0);
     for (const int32_t n : {2, -1}) {
         poligono_t malo{n, nullptr, 0, 0, 0, 0};
-        ESPERA_INFORME("pol->numVertices == 0 || pol->vertice != NULL", poligono_anade_punto_a_poligono_convexo(&malo, 1, 1));
+        ESPERA_INFORME("pol->numVertices == 0 || pol->vertice != NULL",
+                       poligono_anade_punto_a_poligono_convexo(&malo, 1, 1));
         EXPECT_EQ(malo.numVertices, n);
     }
 }
@@ -127,7 +135,8 @@ PRUEBA(poligono, la_envolvente_tiene_todos_los_puntos_y_es_la_de_la_cadena) {
                     ASSERT_TRUE(q.x >= p.xmin && q.x <= p.xmax && q.y >= p.ymin && q.y <= p.ymax);
                 }
                 h << p.numVertices << p.xmin << p.ymax;
-                for (int32_t i = 0; i < p.numVertices; ++i) h << p.vertice[i].x << p.vertice[i].y; // from where the first stands
+                for (int32_t i = 0; i < p.numVertices; ++i)
+                    h << p.vertice[i].x << p.vertice[i].y; // from where the first stands
             }
     EXPECT_GT(exactas, total / 2);
     EXPECT_EQ(h(), 16596766216704857384u);
@@ -143,22 +152,26 @@ PRUEBA(poligono, un_punto_cambia_el_poligono_solo_si_esta_fuera) {
         for (int i = 0; i < 60; ++i) {
             poligono p(c);
             const auto uno = [&] { return c[a.entero(static_cast<uint32_t>(c.size()))]; };
-            const auto u = [&] { return static_cast<int32_t>(a.entero_entre(-int64_t{r} * 3 / 2, int64_t{r} * 3 / 2)); };
+            const auto u = [&] {
+                return static_cast<int32_t>(a.entero_entre(-int64_t{r} * 3 / 2, int64_t{r} * 3 / 2));
+            };
             const punto v1 = uno(), v2 = uno();
             // Anywhere; above and below vertices; about the sides.
             punto q{u(), u()};
             if (i % 3 == 1) q.x = v1.x;
             if (i % 3 == 2)
-                q = {static_cast<int32_t>((int64_t{v1.x} + v2.x) / 2), static_cast<int32_t>((int64_t{v1.y} + v2.y) / 2)};
+                q = {static_cast<int32_t>((int64_t{v1.x} + v2.x) / 2),
+                     static_cast<int32_t>((int64_t{v1.y} + v2.y) / 2)};
             poligono_anade_punto_a_poligono_convexo(&p, q.x, q.y);
             const puntos_t ahora = p.todos();
-            ASSERT_TRUE(fuera(c, q) == 0. ? ahora == c : std::count(ahora.begin(), ahora.end(), q) == 1) << q.x << " " << q.y;
+            ASSERT_TRUE(fuera(c, q) == 0. ? ahora == c : std::count(ahora.begin(), ahora.end(), q) == 1)
+                << q.x << " " << q.y;
         }
     }
 }
 
-// The angle of a corner is looked at to four decimals when its neighbour comes: 3.1415 stays and 3.1416 goes, on every side
-// of the polygon. With three vertices none goes, nor does one at a corner of the bounds.
+// The angle of a corner is looked at to four decimals when its neighbour comes: 3.1415 stays and 3.1416 goes, on every
+// side of the polygon. With three vertices none goes, nor does one at a corner of the bounds.
 PRUEBA(poligono, una_esquina_casi_llana_se_quita_desde_el_cuarto_vertice) {
     for (int giro = 0; giro < 4; ++giro) {
         const auto girada = [giro](punto p) {
@@ -167,7 +180,8 @@ PRUEBA(poligono, una_esquina_casi_llana_se_quita_desde_el_cuarto_vertice) {
         };
         // The top, above a base of 200,000, bends by twice its height in hundred-thousandths.
         const auto con_cima = [&](int32_t alto) {
-            return poligono({girada({-100000, 0}), girada({0, -100000}), girada({0, alto}), girada({100000, 0})}).numVertices;
+            return poligono({girada({-100000, 0}), girada({0, -100000}), girada({0, alto}), girada({100000, 0})})
+                .numVertices;
         };
         EXPECT_TRUE(con_cima(3) == 4 && con_cima(2) == 3 && con_cima(0) == 3) << giro; // 3.14153, 3.14155
     }

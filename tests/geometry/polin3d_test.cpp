@@ -1,6 +1,6 @@
-#include "geometry/polin3d.h"
 #include "espacio.h"
 #include "geometry/ejes2d.h"
+#include "geometry/polin3d.h"
 #include "prueba.h"
 #include <algorithm>
 #include <limits>
@@ -10,7 +10,8 @@ using namespace espacio;
 
 namespace {
 
-constexpr double PI = 3.141592653589793, INF = std::numeric_limits<double>::infinity(), NAN_ = std::numeric_limits<double>::quiet_NaN();
+constexpr double PI = 3.141592653589793, INF = std::numeric_limits<double>::infinity(),
+                 NAN_ = std::numeric_limits<double>::quiet_NaN();
 double tras(double x) { return std::nextafter(x, INF); }
 
 // A fillet, or none: no points and `hay` false.
@@ -19,8 +20,8 @@ struct acuerdo {
     arrPunto3D *a = nullptr;
     vec centro{7, 7, 7};
     acuerdo(vec p1, vec p2, vec p3, double diametro, double radio, double grados = 10., vnbool mantiene = FALSO) {
-        hay = Pln3D_se_genera_puntos_acuerdo_entre_tres_puntos(XYZ(p1), XYZ(p2), XYZ(p3), diametro, radio, grados, mantiene, &a,
-                                                               A_XYZ(centro));
+        hay = Pln3D_se_genera_puntos_acuerdo_entre_tres_puntos(XYZ(p1), XYZ(p2), XYZ(p3), diametro, radio, grados,
+                                                               mantiene, &a, A_XYZ(centro));
     }
     ~acuerdo() {
         if (a != nullptr) arr_DestruyePunto3D(&a);
@@ -64,7 +65,8 @@ PRUEBA(polin3d, el_acuerdo_es_tangente_en_sus_extremos_y_tiene_el_radio_pedido) 
     for (int caso = 0; caso < 20000; ++caso) {
         const vn::lugar l = vn::lugar_de(caso);
         const double cota = l.escala(1000.) * 1e-12;
-        const vec p2 = vec{l.x, l.y, l.z} + vector_al_azar(a, 100.), u1 = direccion_al_azar(a), u2 = direccion_al_azar(a);
+        const vec p2 = vec{l.x, l.y, l.z} + vector_al_azar(a, 100.), u1 = direccion_al_azar(a),
+                  u2 = direccion_al_azar(a);
         const double l1 = a.entre(.5, 10.), l2 = a.entre(.5, 10.), radio = a.entre(.01, 3.), grados = a.entre(.5, 40.);
         const vec p1 = p2 + l1 * u1, p3 = p2 + l2 * u2;
         const double angulo = std::acos(std::clamp(por(u1, u2), -1., 1.)), t = radio / std::tan(angulo / 2.);
@@ -73,8 +75,8 @@ PRUEBA(polin3d, el_acuerdo_es_tangente_en_sus_extremos_y_tiene_el_radio_pedido) 
         ASSERT_EQ(f.hay, t < std::min(l1, l2)) << caso;
         if (f.hay != CIERTO) continue;
         ++con;
-        // The first and the last point lie on the segments, square to the radius there; all are at the radius, in plane,
-        // in even steps that are no longer than asked for.
+        // The first and the last point lie on the segments, square to the radius there; all are at the radius, in
+        // plane, in even steps that are no longer than asked for.
         ASSERT_LT(largo(f[0] - (p2 + t * u1)), cota);
         ASSERT_LT(largo(f.ultimo() - (p2 + t * u2)), cota);
         ASSERT_LT(std::fabs(por(f[0] - f.centro, u1)), cota);
@@ -102,11 +104,13 @@ PRUEBA(polin3d, donde_no_hay_acuerdo) {
         const bool hay = g > .01745 && g < PI - .01745;
         EXPECT_EQ(acuerdo({1, 0, 0}, {}, {std::cos(g), std::sin(g), 0}, .1, 1e-4).hay, hay) << g;
     }
-    // An end that the fillet overruns, reaches to 1e-5 (kept or left out), or does not reach. The tangent point is at 1.
+    // An end that the fillet overruns, reaches to 1e-5 (kept or left out), or does not reach. The tangent point is at
+    // 1.
     for (const double falta : {-2e-5, -.9e-5, 0., .9e-5, 2e-5}) {
         const vec extremo{1. + falta, 0, 0};
         for (const vnbool mantiene : {FALSO, CIERTO}) {
-            const acuerdo ida(extremo, {}, {0, 9, 0}, .1, 1., 10., mantiene), vuelta({0, 9, 0}, {}, extremo, .1, 1., 10., mantiene);
+            const acuerdo ida(extremo, {}, {0, 9, 0}, .1, 1., 10., mantiene),
+                vuelta({0, 9, 0}, {}, extremo, .1, 1., 10., mantiene);
             const bool hay = falta > -1e-5, en_el = std::fabs(falta) < 1e-5;
             EXPECT_TRUE(ida.hay == hay && vuelta.hay == hay) << falta;
             EXPECT_EQ(ida.size(), hay ? 10u - (en_el && mantiene == FALSO) : 0u) << falta;
@@ -128,8 +132,9 @@ PRUEBA(polin3d, donde_no_hay_acuerdo) {
     const struct {
         double grados;
         const char *informe;
-    } filas[] = {{0., "num_grados_dibujo_doblado > 0."}, {-3., "num_grados_dibujo_doblado > 0."}, {NAN_, "num_grados_dibujo_doblado > 0."},
-                 {INF, "num_puntos > 1"},                {1e-300, "num_puntos <= MAXIMO_PUNTOS"}, {5e-324, "num_puntos <= MAXIMO_PUNTOS"},
+    } filas[] = {{0., "num_grados_dibujo_doblado > 0."},   {-3., "num_grados_dibujo_doblado > 0."},
+                 {NAN_, "num_grados_dibujo_doblado > 0."}, {INF, "num_puntos > 1"},
+                 {1e-300, "num_puntos <= MAXIMO_PUNTOS"},  {5e-324, "num_puntos <= MAXIMO_PUNTOS"},
                  {89e-5, "num_puntos <= MAXIMO_PUNTOS"}};
     const vn::mayor_bloque mayor;
     for (const auto &f : filas)
@@ -149,16 +154,19 @@ PRUEBA(polin3d, circulos_y_arcos) {
         const puntos c(Pln3D_puntos_circulo(EJ(m), d, n));
         ASSERT_EQ(c.size(), n);
         for (uint32_t i = 0; i < n; ++i)
-            ASSERT_LT(largo(c[i] - m.punto(d / 2 * std::cos(2 * PI * i / n), d / 2 * std::sin(2 * PI * i / n))), l.escala(10.) * 1e-12);
+            ASSERT_LT(largo(c[i] - m.punto(d / 2 * std::cos(2 * PI * i / n), d / 2 * std::sin(2 * PI * i / n))),
+                      l.escala(10.) * 1e-12);
         if (std::fabs(barre) < .01) continue;
         // The short way, and the long one; the ends at any distance from the centre, of which the plane has its digits.
         const double cota = l.escala(100.) * 1e-12 / std::fabs(std::sin(barre));
-        const vec e1 = m.punto(3 * std::cos(ini), 3 * std::sin(ini)), e2 = m.punto(std::cos(ini + barre), std::sin(ini + barre));
+        const vec e1 = m.punto(3 * std::cos(ini), 3 * std::sin(ini)),
+                  e2 = m.punto(std::cos(ini + barre), std::sin(ini + barre));
         for (const vnbool otro : {FALSO, CIERTO}) {
             const puntos r(Pln3D_puntos_arco(XYZ(m.o), XYZ(e1), XYZ(e2), UV_(m), d, n, otro));
             const double s = (otro == CIERTO ? barre - std::copysign(2 * PI, barre) : barre) / (n - 1);
             for (uint32_t i = 0; i < n; ++i)
-                ASSERT_LT(largo(r[i] - m.punto(d / 2 * std::cos(ini + i * s), d / 2 * std::sin(ini + i * s))), cota) << caso;
+                ASSERT_LT(largo(r[i] - m.punto(d / 2 * std::cos(ini + i * s), d / 2 * std::sin(ini + i * s))), cota)
+                    << caso;
         }
     }
     // A half circle runs as the axes say.
@@ -166,11 +174,15 @@ PRUEBA(polin3d, circulos_y_arcos) {
         const puntos r(Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, -1, 0, 0, 1, 0, 0, 0, sentido, 0, 2., 5, FALSO));
         EXPECT_LT(largo(r[2] - vec{0, sentido, 0}), 1e-9);
     }
-    EXPECT_EQ(ESPERA_INFORME("num_puntos_circulo > 3", Pln3D_puntos_circulo(0, 0, 0, 1, 0, 0, 0, 1, 0, 1., 3)), nullptr);
-    EXPECT_EQ(ESPERA_INFORME("num_puntos_arco > 3", Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, 0, 1, 0, 1, 0, 0, 0, 1, 0, 1., 3, FALSO)), nullptr);
+    EXPECT_EQ(ESPERA_INFORME("num_puntos_circulo > 3", Pln3D_puntos_circulo(0, 0, 0, 1, 0, 0, 0, 1, 0, 1., 3)),
+              nullptr);
+    EXPECT_EQ(ESPERA_INFORME("num_puntos_arco > 3",
+                             Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, 0, 1, 0, 1, 0, 0, 0, 1, 0, 1., 3, FALSO)),
+              nullptr);
     // Ends that are not in the plane of the axes are drawn where they are.
-    arrPunto3D *r = ESPERA_INFORME("vnstdc_fabs(vnstdc_fabs(mt_producto_escalar(Wx, Wy, Wz, Wx1, Wy1, Wz1)) - 1.) < .000001",
-                                   Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, 0, .8, .6, 1, 0, 0, 0, 1, 0, 2., 4, FALSO));
+    arrPunto3D *r =
+        ESPERA_INFORME("vnstdc_fabs(vnstdc_fabs(mt_producto_escalar(Wx, Wy, Wz, Wx1, Wy1, Wz1)) - 1.) < .000001",
+                       Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, 0, .8, .6, 1, 0, 0, 0, 1, 0, 2., 4, FALSO));
     EXPECT_LT(largo(arr_GetBufferConstPunto3D(r)[3] - vec{0, .8, .6}), 1e-12);
     arr_DestruyePunto3D(&r);
 }
@@ -186,7 +198,9 @@ PRUEBA(polin3d, las_listas_de_puntos) {
         {{{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {2, 0, 0}, {1, 3, 0}}, CIERTO, nullptr}, // straight on, and a point twice
         {{{0, 2, 0}, {1, 0, 0}, {0, -2, 0}, {3, 0, 0}}, FALSO, nullptr},
         {{{0, 0, 0}, {1, 0, 0}, {2, 1, 0}, {1, .9, 0}, {0, 1, 0}}, FALSO, nullptr}, // only at the last corners
-        {{{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 4 - 1e-3, 0}, {0, 4, 0}}, CIERTO, nullptr}, // a dent of no more than the margin
+        {{{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 4 - 1e-3, 0}, {0, 4, 0}},
+         CIERTO,
+         nullptr}, // a dent of no more than the margin
         {{{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 4 - 1e-2, 0}, {0, 4, 0}}, FALSO, nullptr},
         {{{0, 0, 0}, {1, 0, 0}}, FALSO, "num_puntos >= 3"},
         {{{2, 2, 2}, {2, 2, 2}, {2, 2, 2}}, FALSO, "ya_se_tiene_W_con_que_comparar == CIERTO"},
@@ -200,7 +214,8 @@ PRUEBA(polin3d, las_listas_de_puntos) {
     Pln3D_poligono_plano_es_convexo(alabeado);
     const auto informes = vn::Prueba::toma_informes();
     EXPECT_EQ(informes.size(), 3u);
-    for (const auto &i : informes) EXPECT_EQ(i.expresion, "vnstdc_fabs(vnstdc_fabs(prod_escalar_poligono_es_plano) - 1.) < .00001");
+    for (const auto &i : informes)
+        EXPECT_EQ(i.expresion, "vnstdc_fabs(vnstdc_fabs(prod_escalar_poligono_es_plano) - 1.) < .00001");
 
     vec v{7, 7, 7};
     const puntos lista({{5, 0, 0}, {0, 1, 0}, {1, 0, 0}, {NAN_, 0, 0}});
@@ -225,7 +240,8 @@ PRUEBA(polin3d, los_dos_radios_de_eje_son_distintos_a_proposito) {
     const puntos codo({{10, 0, 0}, {0, 0, 0}, {0, 10, 0}});
     const puntos p(polin3d_puntos_polilinea_con_radios_de_acuerdo(codo, 2., 3., 10.)); // radius 3 + 2 / 2
     ASSERT_EQ(p.size(), 12u);
-    EXPECT_TRUE(p[0].x == 10. && p[11].y == 10. && largo(p[1] - vec{4, 0, 0}) < 1e-12 && largo(p[10] - vec{0, 4, 0}) < 1e-12);
+    EXPECT_TRUE(p[0].x == 10. && p[11].y == 10. && largo(p[1] - vec{4, 0, 0}) < 1e-12 &&
+                largo(p[10] - vec{0, 4, 0}) < 1e-12);
     arrPunto3D *centros = nullptr;
     arrPuntero *c = polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(codo, 2., 3., 10., 8, &centros);
     const puntos q(centros); // radius 2 + 3 / 2
@@ -233,19 +249,22 @@ PRUEBA(polin3d, los_dos_radios_de_eje_son_distintos_a_proposito) {
     EXPECT_TRUE(largo(q[1] - vec{3.5, 0, 0}) < 1e-12 && largo(q[10] - vec{0, 3.5, 0}) < 1e-12 && q[11].y == 10.);
     for (uint32_t i = 0; i < 12; ++i) {
         const arrPunto3D *uno = arr_GetPunteroST(c, i, arrPunto3D);
-        for (uint32_t k = 0; k < 8; ++k) EXPECT_LT(std::fabs(largo(arr_GetBufferConstPunto3D(uno)[k] - q[i]) - 1.), 1e-12);
+        for (uint32_t k = 0; k < 8; ++k)
+            EXPECT_LT(std::fabs(largo(arr_GetBufferConstPunto3D(uno)[k] - q[i]) - 1.), 1e-12);
     }
     arr_DestruyeEstructurasArrayST(&c, arrPunto3D, arr_DestruyePunto3D);
 
     // Two fillets that meet: their common point comes once. One that finds no room leaves its corner.
     const puntos u({{10, 0, 0}, {0, 0, 0}, {0, 8, 0}, {10, 8, 0}});
     EXPECT_EQ(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(u, 2., 3., 10.)).size(), 21u);
-    EXPECT_EQ(toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(u, 2., 4., 10., FALSO)).size(), 21u); // nor two sections
+    EXPECT_EQ(toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(u, 2., 4., 10., FALSO)).size(),
+              21u); // nor two sections
     const puntos sin_sitio(polin3d_puntos_polilinea_con_radios_de_acuerdo(u, 2., 8., 10.));
     ASSERT_EQ(sin_sitio.size(), 4u);
     EXPECT_EQ(sin_sitio[2].y, 8.);
     for (const auto &lista : {std::vector<vec>{}, {{1, 2, 3}}, {{1, 2, 3}, {1, 2, 3}}})
-        EXPECT_EQ(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(puntos(lista), 2., 3., 10.)).size(), lista.size());
+        EXPECT_EQ(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(puntos(lista), 2., 3., 10.)).size(),
+                  lista.size());
 }
 
 PRUEBA(polin3d, las_secciones_siguen_al_camino) {
@@ -253,11 +272,13 @@ PRUEBA(polin3d, las_secciones_siguen_al_camino) {
     for (int caso = 0; caso < 3000; ++caso) {
         const std::vector<vec> camino = camino_al_azar(a, 2 + a.entero(8), vn::lugar_de(caso / 4));
         const vnbool vertical = caso % 4 == 3 ? CIERTO : FALSO;
-        const auto s = toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(puntos(camino), .05, a.entre(.1, .5), 15., vertical));
+        const auto s =
+            toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(puntos(camino), .05, a.entre(.1, .5), 15., vertical));
         ASSERT_GE(s.size(), camino.size());
         EXPECT_LT(largo(s.front().o - camino.front()) + largo(s.back().o - camino.back()), 1e-12);
         for (size_t i = 0; i < s.size(); ++i) {
-            ASSERT_LT(std::fabs(por(s[i].u, s[i].v)) + std::fabs(largo(s[i].u) - 1.) + std::fabs(largo(s[i].v) - 1.), 1e-9);
+            ASSERT_LT(std::fabs(por(s[i].u, s[i].v)) + std::fabs(largo(s[i].u) - 1.) + std::fabs(largo(s[i].v) - 1.),
+                      1e-9);
             if (vertical == CIERTO) {
                 ASSERT_EQ(s[i].v.z, 1.);
                 continue;
@@ -292,11 +313,13 @@ PRUEBA(polin3d, las_secciones_de_las_esquinas_sin_acuerdo) {
     }
     EXPECT_TRUE(ejes2d_son_ejes_iguales(UV_(s[2]), UV_(s[1])));
     EXPECT_LT(largo(corto[2].w() - vec{0, 1, 0}), 1e-12);
-    // Where the told axes do not exist, since the path runs along U or the three points are on a line: square to it all the same.
+    // Where the told axes do not exist, since the path runs along U or the three points are on a line: square to it all
+    // the same.
     for (const vn::lugar &l : {vn::lugar_de(0), vn::lugar_de(1)})
         for (const double largo2 : {1., 2.}) {
             const vec o{l.x, l.y, l.z}, entra{std::cos(.5), std::sin(.5), 0}, sale{-entra.y, entra.x, 0};
-            const auto t = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({o - 2. * entra, o, o + largo2 * sale}), FALSO));
+            const auto t = toma(
+                polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({o - 2. * entra, o, o + largo2 * sale}), FALSO));
             ASSERT_EQ(t.size(), 3u);
             EXPECT_GT(por(t[1].w(), largo2 == 1. ? sale : entra), 1. - 1e-9) << largo2;
             EXPECT_TRUE(std::fabs(por(t[1].u, t[1].v)) < 1e-9 && std::fabs(largo(t[1].u) - 1.) < 1e-9);
@@ -312,7 +335,9 @@ PRUEBA(polin3d, las_secciones_de_las_esquinas_sin_acuerdo) {
 }
 
 PRUEBA(polin3d, las_polilineas_que_no_sirven) {
-    EXPECT_TRUE(toma(ESPERA_INFORME("num_puntos >= 2", polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({{1, 2, 3}}), FALSO))).empty());
+    EXPECT_TRUE(toma(ESPERA_INFORME("num_puntos >= 2",
+                                    polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({{1, 2, 3}}), FALSO)))
+                    .empty());
     arrPunto3D *centros = reinterpret_cast<arrPunto3D *>(&centros);
     EXPECT_EQ(ESPERA_INFORME("num_puntos >= 2", polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
                                                     puntos(std::vector<vec>{}), 1., 1., 10., 8, &centros)),
@@ -320,8 +345,9 @@ PRUEBA(polin3d, las_polilineas_que_no_sirven) {
     EXPECT_EQ(centros, nullptr);
     // Many sections of many points each: told before there is no memory left.
     vn::azar a(54);
-    EXPECT_EQ(ESPERA_INFORME("num_puntos <= MAXIMO_PUNTOS", polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
-                                                                puntos(camino_al_azar(a, 80)), .1, 0., 90., 65535, nullptr)),
+    EXPECT_EQ(ESPERA_INFORME("num_puntos <= MAXIMO_PUNTOS",
+                             polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
+                                 puntos(camino_al_azar(a, 80)), .1, 0., 90., 65535, nullptr)),
               nullptr);
     // All in one place, and coordinates that are no numbers: something comes back, nothing is reported.
     for (const double mala : {0., NAN_, INF, 1e308}) {
@@ -336,7 +362,9 @@ PRUEBA(polin3d, las_mismas_cifras_en_las_dos_plataformas) {
     vn::azar a(55);
     const acuerdo f({4, 1, 2}, {0, 0, 0}, {-1, 5, 3}, .2, .75, 20.);
     ASSERT_EQ(f.size(), 7u);
-    for (const auto &[visto, esperado] : {std::pair{f[3], vec{0.2136368580630923, 0.3227654791417056, 0.2863892721155012}}, {f.centro, vec{0.5464082623869826, 0.8255210557545145, 0.7324834579653372}}})
+    for (const auto &[visto, esperado] :
+         {std::pair{f[3], vec{0.2136368580630923, 0.3227654791417056, 0.2863892721155012}},
+          {f.centro, vec{0.5464082623869826, 0.8255210557545145, 0.7324834579653372}}})
         EXPECT_TRUE(vn::cerca(visto.x, esperado.x) && vn::cerca(visto.y, esperado.y) && vn::cerca(visto.z, esperado.z))
             << visto.x << " " << visto.y << " " << visto.z;
     // The sections of corners take no function of the platform's.

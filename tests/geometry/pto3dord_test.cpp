@@ -1,5 +1,5 @@
-#include "geometry/pto3dord.h"
 #include "foundation/listas/arr_int.h"
+#include "geometry/pto3dord.h"
 #include "propiedades.h"
 #include "prueba.h"
 #include <limits>
@@ -24,7 +24,9 @@ PRUEBA(pto3dord, el_indice_es_el_lugar_en_el_orden_de_x_y_z_sin_repetidos) {
         const conjunto c(pto3dord_crea_vacio());
         std::set<std::tuple<int32_t, int32_t, int32_t>> rejilla; // in hundredths of a millimetre
         for (int i = 0; i < 100; ++i) {
-            const auto u = [&] { return static_cast<double>(a.entero_entre(-3, 3)) * 1e-5 + a.entre(-0.49e-5, 0.49e-5); };
+            const auto u = [&] {
+                return static_cast<double>(a.entero_entre(-3, 3)) * 1e-5 + a.entre(-0.49e-5, 0.49e-5);
+            };
             const Punto3D p{u() + 1000. * a.entero(2), u(), u()};
             const auto en = [](double x) { return static_cast<int32_t>(std::floor(x / 1e-5 + 0.5)); };
             rejilla.insert({en(p.x), en(p.y), en(p.z)});
@@ -50,7 +52,8 @@ PRUEBA(pto3dord, los_limites_de_la_rejilla_y_lo_que_no_es_un_numero) {
     pto3dord_append_punto_si_no_esta_repetido(c.get(), 0., 0., 0.);
     EXPECT_EQ(pto3dord_ind_punto(c.get(), std::nextafter(0.5e-5, 0.), -0.5e-5, 0.), 0u);
     EXPECT_EQ(ESPERA_INFORME("existe == CIERTO", pto3dord_ind_punto(c.get(), 0.5e-5, 0., 0.)), 0u);
-    EXPECT_EQ(ESPERA_INFORME("existe == CIERTO", pto3dord_ind_punto(c.get(), 0., std::nextafter(-0.5e-5, -1.), 0.)), 0u);
+    EXPECT_EQ(ESPERA_INFORME("existe == CIERTO", pto3dord_ind_punto(c.get(), 0., std::nextafter(-0.5e-5, -1.), 0.)),
+              0u);
     constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN(), INF = std::numeric_limits<double>::infinity();
     for (const double x : {NAN_, INF, -INF, 1e308, -1e308, NAN_, INF})
         pto3dord_append_punto_si_no_esta_repetido(c.get(), x, x, x);

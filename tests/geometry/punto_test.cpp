@@ -1,5 +1,5 @@
-#include "geometry/punto.h"
 #include "exacto.h"
+#include "geometry/punto.h"
 #include "prueba.h"
 #include <cmath>
 #include <functional>
@@ -24,12 +24,16 @@ std::optional<Punto2D> toma(Punto2D *p) {
 template <auto OP> auto con(Punto2D a, Punto2D b) { return OP(&a, &b); }
 template <auto OP> auto con(Punto2D a, Punto2D b, Punto2D c) { return OP(&a, &b, &c); }
 template <auto OP> auto con(Punto2D a, Punto2D b, Punto2D c, Punto2D d) { return OP(&a, &b, &c, &d); }
-std::optional<Punto2D> cruce(Punto2D p1, Punto2D q1, Punto2D p2, Punto2D q2) { return toma(con<p_cortan>(p1, q1, p2, q2)); }
+std::optional<Punto2D> cruce(Punto2D p1, Punto2D q1, Punto2D p2, Punto2D q2) {
+    return toma(con<p_cortan>(p1, q1, p2, q2));
+}
 std::optional<Punto2D> cruce_de(Punto2D p1, Punto2D q1, vnbool r1, Punto2D p2, Punto2D q2, vnbool r2) {
     return toma(p_cortan_spec(&p1, &q1, r1, &p2, &q2, r2));
 }
 double posicion(Punto2D p, Punto2D a, Punto2D b) { return posicion_relativa_al_segmento(&p, &a, &b, FALSO); }
-bool mete(Punto2D a, Punto2D b, Punto2D c, Punto2D d) { return p_seg_corta_dentro_rect(&a, &b, &c, &d, FALSO) == CIERTO; }
+bool mete(Punto2D a, Punto2D b, Punto2D c, Punto2D d) {
+    return p_seg_corta_dentro_rect(&a, &b, &c, &d, FALSO) == CIERTO;
+}
 
 // The last number between `a`, where the condition holds, and `b`, where it does not.
 double frontera(double a, double b, const std::function<bool(double)> &vale) {
@@ -40,7 +44,8 @@ double frontera(double a, double b, const std::function<bool(double)> &vale) {
 
 } // namespace
 
-// Each tolerance at its limit and one step beyond: what moves one of them, or merges two, moves decisions of the drawings.
+// Each tolerance at its limit and one step beyond: what moves one of them, or merges two, moves decisions of the
+// drawings.
 PRUEBA(punto, cada_tolerancia_tiene_su_limite_y_su_sentido) {
     const double parametro_bajo = frontera(0., 1., [](double d) { return -(2. * d) / 2e9 >= -1e-12; });
     const double parametro_alto = frontera(1e9, 1e9 + 1., [](double x) { return 2. * x / 2e9 <= 1.000000000001; });
@@ -53,33 +58,115 @@ PRUEBA(punto, cada_tolerancia_tiene_su_limite_y_su_sentido) {
         double ultimo, hacia;
         std::function<bool(double)> vale;
     } filas[] = {
-        {"two points differ from p_EPS on", EPS, 0, [](double d) { return !con<p_igual>({d, 0}, {0, 0}) && !con<p_igual>({7, 0}, {7, -d}); }},
-        {"a point lies on a segment to p_EPS", EPS, 1, [](double d) { return con<p_contenido>({5, d}, {0, 0}, {10, 0}); }},
-        {"an end is the segment within p_EPS by axis", std::nextafter(EPS, 0), 1, [](double d) { return con<p_contenido>({-d, d}, {0, 0}, {10, 0}); }},
-        {"a point lies on a line to p_EPS", EPS, 1, [](double d) { return con<p_contenido_recta>({99, -d}, {0, 0}, {10, 0}); }},
-        {"a half-line begins at 1e-8 of its base", semirecta, 0, [](double x) { return con<p_contenido_semirecta>({x, 0}, {0, 0}, {1e6, 0}); }},
-        {"a normal meets from -p_EPS, closed", -EPS, -1, [](double t) { return con<p_normal_corta>({t, 7}, {0, 0}, {1, 0}); }},
-        {"a normal meets to 1 + p_EPS, closed", 1 + EPS, 2, [](double t) { return con<p_normal_corta>({t, 7}, {0, 0}, {1, 0}); }},
-        {"its foot is open below", std::nextafter(-EPS, 0), -1, [](double t) { return toma(con<p_corte_normal>({t, 7}, {0, 0}, {1, 0})).has_value(); }},
-        {"its foot is open above", std::nextafter(1 + EPS, 0), 2, [](double t) { return toma(con<p_corte_normal>({t, 7}, {0, 0}, {1, 0})).has_value(); }},
-        {"the right side reaches p_EPS to the left", std::nextafter(EPS, 0), 1, [](double d) { return con<p_lado_recta>({0, d}, {0, 0}, {1, 0}); }},
-        {"and half of that for twice the base", std::nextafter(EPS, 0) / 2, 1, [](double d) { return con<p_lado_recta>({0, d}, {0, 0}, {2, 0}); }},
-        {"which a short base is made as long as", base_corta, 1, [](double d) { return con<p_lado_recta>({0, d}, {0, 0}, {.5, 0}); }},
-        {"on the line to 1e-6", 1e-6, 1, [](double d) { const Punto2D p = {4, d}, o = {1, 0}; return p_lado_punto_respecto_a_recta(&p, &o, 1, 0) == 0; }},
-        {"boxes touch to p_EPS", -EPS, -1, [](double d) { return con<p_minimax>({-1, 0}, {d, 1}, {0, 0}, {1, 1}); }},
-        {"upwards too", -EPS, -1, [](double d) { return con<p_minimax>({0, 0}, {1, 1}, {0, -1}, {1, d}); }},
+        {"two points differ from p_EPS on", EPS, 0,
+         [](double d) {
+             return !con<p_igual>({d, 0}, {0, 0}) && !con<p_igual>({7, 0}, {7, -d});
+         }},
+        {"a point lies on a segment to p_EPS", EPS, 1,
+         [](double d) {
+             return con<p_contenido>({5, d}, {0, 0}, {10, 0});
+         }},
+        {"an end is the segment within p_EPS by axis", std::nextafter(EPS, 0), 1,
+         [](double d) {
+             return con<p_contenido>({-d, d}, {0, 0}, {10, 0});
+         }},
+        {"a point lies on a line to p_EPS", EPS, 1,
+         [](double d) {
+             return con<p_contenido_recta>({99, -d}, {0, 0}, {10, 0});
+         }},
+        {"a half-line begins at 1e-8 of its base", semirecta, 0,
+         [](double x) {
+             return con<p_contenido_semirecta>({x, 0}, {0, 0}, {1e6, 0});
+         }},
+        {"a normal meets from -p_EPS, closed", -EPS, -1,
+         [](double t) {
+             return con<p_normal_corta>({t, 7}, {0, 0}, {1, 0});
+         }},
+        {"a normal meets to 1 + p_EPS, closed", 1 + EPS, 2,
+         [](double t) {
+             return con<p_normal_corta>({t, 7}, {0, 0}, {1, 0});
+         }},
+        {"its foot is open below", std::nextafter(-EPS, 0), -1,
+         [](double t) {
+             return toma(con<p_corte_normal>({t, 7}, {0, 0}, {1, 0})).has_value();
+         }},
+        {"its foot is open above", std::nextafter(1 + EPS, 0), 2,
+         [](double t) {
+             return toma(con<p_corte_normal>({t, 7}, {0, 0}, {1, 0})).has_value();
+         }},
+        {"the right side reaches p_EPS to the left", std::nextafter(EPS, 0), 1,
+         [](double d) {
+             return con<p_lado_recta>({0, d}, {0, 0}, {1, 0});
+         }},
+        {"and half of that for twice the base", std::nextafter(EPS, 0) / 2, 1,
+         [](double d) {
+             return con<p_lado_recta>({0, d}, {0, 0}, {2, 0});
+         }},
+        {"which a short base is made as long as", base_corta, 1,
+         [](double d) {
+             return con<p_lado_recta>({0, d}, {0, 0}, {.5, 0});
+         }},
+        {"on the line to 1e-6", 1e-6, 1,
+         [](double d) {
+             const Punto2D p = {4, d}, o = {1, 0};
+             return p_lado_punto_respecto_a_recta(&p, &o, 1, 0) == 0;
+         }},
+        {"boxes touch to p_EPS", -EPS, -1,
+         [](double d) {
+             return con<p_minimax>({-1, 0}, {d, 1}, {0, 0}, {1, 1});
+         }},
+        {"upwards too", -EPS, -1,
+         [](double d) {
+             return con<p_minimax>({0, 0}, {1, 1}, {0, -1}, {1, d});
+         }},
         {"any corners of them", -EPS, -1, [](double d) { return p_se_solapan_rectangulos(d, 0, -1, 1, 1, 0, 0, 1); }},
-        {"parallel to a cross product of 1e-8", 1e-08, 1, [](double h) { return !cruce({1, 0}, {0, 0}, {.5, 0}, {.5, h}); }},
-        {"parallel, by the question", 1e-08, 1, [](double h) { return con<p_son_segmentos_paralelos>({1, 0}, {0, 0}, {3, 0}, {3, h}); }},
-        {"a crossing before the first piece, by its parameter", parametro_bajo, 1, [](double d) { return cruce({1e9, 0}, {0, 0}, {-d, -1}, {-d, 1}).has_value(); }},
-        {"a crossing after the first piece", parametro_alto, 2e9, [](double x) { return cruce({1e9, 0}, {0, 0}, {x, -1}, {x, 1}).has_value(); }},
-        {"a crossing before the second piece", parametro_bajo, 1, [](double d) { return cruce({-d, -1}, {-d, 1}, {1e9, 0}, {0, 0}).has_value(); }},
-        {"a crossing after the second piece", parametro_alto, 2e9, [](double x) { return cruce({x, -1}, {x, 1}, {1e9, 0}, {0, 0}).has_value(); }},
-        {"a crossing beyond an end is that end within p_EPS", std::nextafter(EPS, 0), 1, [](double d) { return cruce({1, 0}, {0, 0}, {-d, -1}, {-d, 1}).has_value(); }},
-        {"no direction to a squared length of 1e-10", sin_direccion, 1, [](double l) { const Punto2D p = {9, 9}, a = {0, 0}, b = {l, 0}; return posicion_relativa_al_segmento(&p, &a, &b, CIERTO) == -1e+100; }},
-        {"a direction is the x axis below 1e-8", std::nextafter(1e-08, 0), 1, [](double a) { return con<p_angulo>({0, 0}, {1, a}) == 0; }},
-        {"a turn is none below 1e-7", std::nextafter(1e-07, 0), 1, [](double a) { double x = 1, y = 0; p_gira_alrededor_punto_sentido_horario(0, 0, a, &x, &y); return y == 0; }},
-        {"vertical below a width of 1e-6: no clip in y", std::nextafter(1e-06, 0), 1, [](double w) { return mete({-w, .5}, {0, 4}, {0, 0}, {1, 1}); }},
+        {"parallel to a cross product of 1e-8", 1e-08, 1,
+         [](double h) {
+             return !cruce({1, 0}, {0, 0}, {.5, 0}, {.5, h});
+         }},
+        {"parallel, by the question", 1e-08, 1,
+         [](double h) {
+             return con<p_son_segmentos_paralelos>({1, 0}, {0, 0}, {3, 0}, {3, h});
+         }},
+        {"a crossing before the first piece, by its parameter", parametro_bajo, 1,
+         [](double d) {
+             return cruce({1e9, 0}, {0, 0}, {-d, -1}, {-d, 1}).has_value();
+         }},
+        {"a crossing after the first piece", parametro_alto, 2e9,
+         [](double x) {
+             return cruce({1e9, 0}, {0, 0}, {x, -1}, {x, 1}).has_value();
+         }},
+        {"a crossing before the second piece", parametro_bajo, 1,
+         [](double d) {
+             return cruce({-d, -1}, {-d, 1}, {1e9, 0}, {0, 0}).has_value();
+         }},
+        {"a crossing after the second piece", parametro_alto, 2e9,
+         [](double x) {
+             return cruce({x, -1}, {x, 1}, {1e9, 0}, {0, 0}).has_value();
+         }},
+        {"a crossing beyond an end is that end within p_EPS", std::nextafter(EPS, 0), 1,
+         [](double d) {
+             return cruce({1, 0}, {0, 0}, {-d, -1}, {-d, 1}).has_value();
+         }},
+        {"no direction to a squared length of 1e-10", sin_direccion, 1,
+         [](double l) {
+             const Punto2D p = {9, 9}, a = {0, 0}, b = {l, 0};
+             return posicion_relativa_al_segmento(&p, &a, &b, CIERTO) == -1e+100;
+         }},
+        {"a direction is the x axis below 1e-8", std::nextafter(1e-08, 0), 1,
+         [](double a) {
+             return con<p_angulo>({0, 0}, {1, a}) == 0;
+         }},
+        {"a turn is none below 1e-7", std::nextafter(1e-07, 0), 1,
+         [](double a) {
+             double x = 1, y = 0;
+             p_gira_alrededor_punto_sentido_horario(0, 0, a, &x, &y);
+             return y == 0;
+         }},
+        {"vertical below a width of 1e-6: no clip in y", std::nextafter(1e-06, 0), 1,
+         [](double w) {
+             return mete({-w, .5}, {0, 4}, {0, 0}, {1, 1});
+         }},
     };
     for (const auto &f : filas) {
         EXPECT_TRUE(f.vale(f.ultimo)) << f.que;
@@ -89,7 +176,8 @@ PRUEBA(punto, cada_tolerancia_tiene_su_limite_y_su_sentido) {
 
 PRUEBA(punto, la_tolerancia_que_se_cambia_mueve_sus_pruebas_y_no_las_demas) {
     EXPECT_EQ(p_cambia_eps(.5), EPS);
-    EXPECT_TRUE(con<p_igual>({0, 0}, {.49, .49}) && con<p_contenido>({5, .5}, {0, 0}, {10, 0}) && con<p_normal_corta>({-.5, 0}, {0, 0}, {1, 0}));
+    EXPECT_TRUE(con<p_igual>({0, 0}, {.49, .49}) && con<p_contenido>({5, .5}, {0, 0}, {10, 0}) &&
+                con<p_normal_corta>({-.5, 0}, {0, 0}, {1, 0}));
     EXPECT_TRUE(con<p_lado_recta>({0, .49}, {0, 0}, {1, 0}) && con<p_minimax>({-1, 0}, {-.5, 1}, {0, 0}, {1, 1}));
     // The others stay: parallelism, a segment without direction, the snap of an angle.
     EXPECT_TRUE(cruce({1, 0}, {0, 0}, {.5, 0}, {.5, 2e-08}) && posicion({1e-4, 0}, {0, 0}, {2e-4, 0}) == .5);
@@ -129,7 +217,8 @@ PRUEBA(punto, un_segmento_sin_direccion_se_informa_y_se_sigue) {
     nousar_punto_assert_iguales(&p, &lejos, "anfitrion", 78);
     const auto informes = vn::Prueba::toma_informes();
     ASSERT_EQ(informes.size(), 2u);
-    EXPECT_EQ(informes[0].expresion + informes[0].detalle, "puntos_distintos(1.000000, 2.000000), (1.000000, 2.000010)");
+    EXPECT_EQ(informes[0].expresion + informes[0].detalle,
+              "puntos_distintos(1.000000, 2.000000), (1.000000, 2.000010)");
     EXPECT_EQ(informes[1].linea, 78u);
     EXPECT_EQ(informes[1].detalle.find("(1.000000, 2.000000), (1000000000000000010979063629440455417404923"), 0u);
     EXPECT_EQ(informes[1].detalle.back(), ')');
@@ -167,8 +256,10 @@ PRUEBA(punto, las_posiciones_de_una_caja_y_los_rangos_de_angulos) {
     ESPERA_INFORME(texto, p_punto_en_otra_posicion(&p, 10, 4, 2, 0, 1, 9));
     EXPECT_TRUE(p.x == -2 && p.y == 4);
 
-    EXPECT_TRUE(!p_entre_angulos(0, 0, 1) && p_entre_angulos(0, 1, 1) && p_entre_angulos(6, .5, 1) && !p_entre_angulos(1, .5, 0));
-    for (const double raro : {NAN_, INF, -INF}) EXPECT_EQ(p_filtra_angulo(raro) + p_entre_angulos(0, raro, 1) + p_entre_angulos(raro, 1, 1), 0);
+    EXPECT_TRUE(!p_entre_angulos(0, 0, 1) && p_entre_angulos(0, 1, 1) && p_entre_angulos(6, .5, 1) &&
+                !p_entre_angulos(1, .5, 0));
+    for (const double raro : {NAN_, INF, -INF})
+        EXPECT_EQ(p_filtra_angulo(raro) + p_entre_angulos(0, raro, 1) + p_entre_angulos(raro, 1, 1), 0);
     for (const double enorme : {1e17, -1e300, std::numeric_limits<double>::max(), -1e-300}) {
         EXPECT_GE(p_filtra_angulo(enorme), 0) << enorme;
         EXPECT_LT(p_filtra_angulo(enorme), VUELTA) << enorme;
@@ -180,27 +271,32 @@ PRUEBA(punto, las_posiciones_de_una_caja_y_los_rangos_de_angulos) {
 
 // What is no number lies nowhere, and what is too large gives nothing that is no number.
 PRUEBA(punto, lo_que_no_es_un_numero_no_esta_en_ninguna_parte) {
-    EXPECT_FALSE(cruce_de({1e3, 1e-12}, {0, 0}, CIERTO, {0, 1e300}, {1e10, 1e300}, CIERTO)); // lines that meet beyond all numbers
+    EXPECT_FALSE(cruce_de({1e3, 1e-12}, {0, 0}, CIERTO, {0, 1e300}, {1e10, 1e300},
+                          CIERTO)); // lines that meet beyond all numbers
     for (const double raro : {NAN_, INF, -INF, 1e308, -1e308}) {
         const Punto2D p = {raro, 0}, a = {0, 0}, b = {10, 1};
         SCOPED_TRACE(raro);
-        for (const auto &r : {cruce(p, b, a, b), cruce(a, {1, 1}, p, {raro, 5}), cruce_de(p, {-raro, 3}, CIERTO, a, b, CIERTO),
-                              toma(p_corte_normal_recta(&p, &a, &b)), toma(p_corte_normal(&p, &a, &b)), toma(p_corte_normal_recta(&a, &p, &b))})
-            if (r) { EXPECT_TRUE(std::isfinite(r->x) && std::isfinite(r->y)); }
+        for (const auto &r : {cruce(p, b, a, b), cruce(a, {1, 1}, p, {raro, 5}),
+                              cruce_de(p, {-raro, 3}, CIERTO, a, b, CIERTO), toma(p_corte_normal_recta(&p, &a, &b)),
+                              toma(p_corte_normal(&p, &a, &b)), toma(p_corte_normal_recta(&a, &p, &b))})
+            if (r) {
+                EXPECT_TRUE(std::isfinite(r->x) && std::isfinite(r->y));
+            }
         EXPECT_FALSE(con<p_contenido>(p, a, b));
         EXPECT_FALSE(con<p_normal_corta>(p, a, b));
         EXPECT_GE(con<p_angulo>(a, p), 0);
         EXPECT_LT(p_angulo(&p, &a), VUELTA);
         mete(p, b, a, b);
         if (std::isnan(raro)) {
-            EXPECT_FALSE(con<p_igual>(p, p) || con<p_lado_recta>(p, a, b) || mete(p, a, a, b) || mete(a, b, p, b) || mete(a, b, b, p));
+            EXPECT_FALSE(con<p_igual>(p, p) || con<p_lado_recta>(p, a, b) || mete(p, a, a, b) || mete(a, b, p, b) ||
+                         mete(a, b, b, p));
             EXPECT_FALSE(p_minimax(&p, &b, &a, &b) || p_se_solapan_rectangulos(0, 0, 1, 1, 0, 0, 1, raro));
         }
     }
 }
 
-// Against whole coordinates, where it is known exactly whether and where two pieces cross: 60,000 pairs, ends that touch
-// and points that lie on the other piece among them.
+// Against whole coordinates, where it is known exactly whether and where two pieces cross: 60,000 pairs, ends that
+// touch and points that lie on the other piece among them.
 PRUEBA(punto, los_cruces_son_los_exactos) {
     vn::azar z(41);
     vn::huella bits;
@@ -226,7 +322,8 @@ PRUEBA(punto, los_cruces_son_los_exactos) {
         ++cruzan;
         bits << r->x << r->y;
         if (den == 0) continue;
-        const double t = static_cast<double>(nt) / static_cast<double>(den), escala = l.escala(static_cast<double>(lado)) * (1 + std::fabs(t));
+        const double t = static_cast<double>(nt) / static_cast<double>(den),
+                     escala = l.escala(static_cast<double>(lado)) * (1 + std::fabs(t));
         EXPECT_TRUE(vn::cerca(r->x, static_cast<double>(q1.x) + t * static_cast<double>(p1.x - q1.x), escala));
         EXPECT_TRUE(vn::cerca(r->y, static_cast<double>(q1.y) + t * static_cast<double>(p1.y - q1.y), escala));
         const Punto2D a = p1, b = q1, c = p2, d = q2;
@@ -250,7 +347,8 @@ PRUEBA(punto, las_preguntas_sobre_coordenadas_enteras_dan_lo_exacto) {
         SCOPED_TRACE(i);
         EXPECT_EQ(con<p_contenido>(p, a, b), exacto::en_segmento(p, {a, b}));
         cuantas[0] += exacto::en_segmento(p, {a, b});
-        const exacto::punto bajo = {std::min(p.x, c.x), std::min(p.y, c.y)}, alto = {std::max(p.x, c.x), std::max(p.y, c.y)};
+        const exacto::punto bajo = {std::min(p.x, c.x), std::min(p.y, c.y)},
+                            alto = {std::max(p.x, c.x), std::max(p.y, c.y)};
         if (const auto como = exacto::frente_a({a, b}, bajo, alto); como != exacto::caja::toca) {
             EXPECT_EQ(mete(a, b, p, c), como == exacto::caja::dentro);
             ++cuantas[como == exacto::caja::dentro ? 1 : 2];
@@ -258,14 +356,21 @@ PRUEBA(punto, las_preguntas_sobre_coordenadas_enteras_dan_lo_exacto) {
         if (a == b) continue;
         const int giro = exacto::signo(exacto::giro(a, b, p));
         // Also where the coordinates have digits to the last place.
-        const auto fino = [&l](const Punto2D &q) { return Punto2D{l.x + (q.x - l.x) * (1 + 0x1p-27), l.y + (q.y - l.y) * (1 + 0x1p-27)}; };
+        const auto fino = [&l](const Punto2D &q) {
+            return Punto2D{l.x + (q.x - l.x) * (1 + 0x1p-27), l.y + (q.y - l.y) * (1 + 0x1p-27)};
+        };
         EXPECT_EQ(con<p_lado_recta>(fino(p), fino(a), fino(b)), giro <= 0);
         const double largo = std::hypot(b.x - a.x, b.y - a.y);
         const Punto2D pd = p, ad = a, bd = b, cd = c;
-        EXPECT_EQ(p_lado_punto_respecto_a_recta(&pd, &ad, static_cast<double>(b.x - a.x) / largo, static_cast<double>(b.y - a.y) / largo),
-                  giro > 0 ? 1u : giro < 0 ? 2u : 0u);
+        EXPECT_EQ(p_lado_punto_respecto_a_recta(&pd, &ad, static_cast<double>(b.x - a.x) / largo,
+                                                static_cast<double>(b.y - a.y) / largo),
+                  giro > 0   ? 1u
+                  : giro < 0 ? 2u
+                             : 0u);
         // The position parameter, its order and the normal that meets, in whole numbers.
-        const auto avance = [&](const exacto::punto &q) { return (b.x - a.x) * (q.x - a.x) + (b.y - a.y) * (q.y - a.y); };
+        const auto avance = [&](const exacto::punto &q) {
+            return (b.x - a.x) * (q.x - a.x) + (b.y - a.y) * (q.y - a.y);
+        };
         const int64_t total = avance(b);
         EXPECT_EQ(posicion(p, a, b), static_cast<double>(avance(p)) / static_cast<double>(total));
         EXPECT_EQ(p_esta_antes_en_recta(&pd, &cd, &ad, &bd) == CIERTO, avance(p) <= avance(c));
@@ -295,6 +400,8 @@ PRUEBA(punto, los_angulos_y_los_giros_son_inversos) {
         const int64_t k1 = z.entero_entre(-200, 200), k = z.entero_entre(-200, 200), k2 = z.entero_entre(-200, 200);
         const auto en = [](int64_t n, double mas) { return (static_cast<double>(n) + mas) * (VUELTA / 64); };
         const int64_t hasta = ((k2 - k1) % 64 + 64) % 64, cual = ((k - k1) % 64 + 64) % 64;
-        if (hasta != 0) { ASSERT_EQ(p_entre_angulos(en(k1, 0), en(k, .5), en(k2, 0)) == CIERTO, cual < hasta) << i; }
+        if (hasta != 0) {
+            ASSERT_EQ(p_entre_angulos(en(k1, 0), en(k, .5), en(k2, 0)) == CIERTO, cual < hasta) << i;
+        }
     }
 }

@@ -1,5 +1,5 @@
-#include "geometry/rectng.h"
 #include "exacto.h"
+#include "geometry/rectng.h"
 #include "prueba.h"
 #include <algorithm>
 #include <array>
@@ -34,7 +34,8 @@ rectangulos tiras(std::initializer_list<limites> todas) {
 }
 std::vector<limites> todas(const rectangulos &a) {
     std::vector<limites> v;
-    for (uint32_t i = 0; i < arr_NumElemsPunteroST(a.get(), rectangulo_t); ++i) v.push_back(limites_de(*arr_GetPunteroST(a.get(), i, rectangulo_t)));
+    for (uint32_t i = 0; i < arr_NumElemsPunteroST(a.get(), rectangulo_t); ++i)
+        v.push_back(limites_de(*arr_GetPunteroST(a.get(), i, rectangulo_t)));
     return v;
 }
 std::vector<limites> alargadas(std::initializer_list<limites> l, double cuanto) {
@@ -42,7 +43,9 @@ std::vector<limites> alargadas(std::initializer_list<limites> l, double cuanto) 
     rec_Incrementa_longitudes_sin_solapes(a.get(), cuanto);
     return todas(a);
 }
-std::vector<limites> condensadas(const rectangulos &a, double tolerancia) { return todas(rectangulos(rec_Rectangulos_contiguos_condensados(a.get(), tolerancia))); }
+std::vector<limites> condensadas(const rectangulos &a, double tolerancia) {
+    return todas(rectangulos(rec_Rectangulos_contiguos_condensados(a.get(), tolerancia)));
+}
 // A strip along an axis, on a grid.
 limites una_tira(vn::azar &z, uint32_t lado) {
     const double x = z.entero(lado), y = z.entero(lado), largo = 2. + z.entero(7);
@@ -89,12 +92,15 @@ PRUEBA(rectng, un_rectangulo_crece_desde_nada_y_vuelve_a_nada) {
     ESPERA_INFORME("rec1->xmin <= rec1->xmax && rec1->ymin <= rec1->ymax", rec_RecortaRect(r.get(), &casi));
     rec_RecortaRect(r.get(), &lejos);
     EXPECT_EQ(limites_de(*r), limites_de(*nada));
-    EXPECT_EQ(rec_ClipPunto(nada.get(), 0, 0) + rec_ClipX(nada.get(), 0) + rec_ClipRectangulo(nada.get(), &otro) + rec_ClipPunto_ConPrecision(nada.get(), 0, 0, INF), 0);
+    EXPECT_EQ(rec_ClipPunto(nada.get(), 0, 0) + rec_ClipX(nada.get(), 0) + rec_ClipRectangulo(nada.get(), &otro) +
+                  rec_ClipPunto_ConPrecision(nada.get(), 0, 0, INF),
+              0);
     EXPECT_EQ(rec_RelacionaRectangulos(&otro, &otro), 2u);
 }
 
 PRUEBA(rectng, lo_mal_definido_se_informa_y_se_hace) {
-    EXPECT_EQ(limites_de(*rectangulo(ESPERA_INFORME("ancho >0. && alto > 0.", rec_CreaDefinido(0, 0, 0, 1)))), (limites{0, 0, 0, 1}));
+    EXPECT_EQ(limites_de(*rectangulo(ESPERA_INFORME("ancho >0. && alto > 0.", rec_CreaDefinido(0, 0, 0, 1)))),
+              (limites{0, 0, 0, 1}));
     rectangulo_t r = de({0, 0, 1, 1});
     ESPERA_INFORME("ex >= ox && ey >= oy", rec_Set(&r, 0, 0, -1, 5));
     EXPECT_EQ(r.xmax, -1);
@@ -118,33 +124,56 @@ PRUEBA(rectng, cada_tolerancia_tiene_su_limite_y_su_sentido) {
         std::function<bool(double)> vale;
     } filas[] = {
         {"x inside to 1e-6", -1e-6, -1, [&](double x) { return rec_ClipX(&r, x) == CIERTO; }},
-        {"a point inside to 1e-6", -1e-6, -1, [&](double y) { return rec_ClipPunto(&r, 5, y) == CIERTO && rec_ClipPunto(&r, y, 5) == CIERTO; }},
-        {"a point inside to its precision", -.25, -1, [&](double y) { return rec_ClipPunto_ConPrecision(&r, 5, y, .25) == CIERTO; }},
-        {"on the border from inside, to its precision", .25, 1, [&](double x) { return rectng_punto_esta_en_borde_con_precision(&r, x, 5, .25) == CIERTO; }},
-        {"on the border from outside", -.25, -1, [&](double x) { return rectng_punto_esta_en_borde_con_precision(&r, x, 5, .25) == CIERTO; }},
-        {"rectangles touch to 1e-6", -1e-6, -1, [&](double x) { return rec_ClipRectangulo(&r, tmp(-5, 0, x, 1)) && rec_ClipRectangulo(tmp(0, -5, 1, x), &r); }},
-        {"one inside another to 1e-6", -1e-6, -1, [&](double x) { return rec_RelacionaRectangulos(&r, tmp(x, 1, 5, 5)) == 2; }},
+        {"a point inside to 1e-6", -1e-6, -1,
+         [&](double y) { return rec_ClipPunto(&r, 5, y) == CIERTO && rec_ClipPunto(&r, y, 5) == CIERTO; }},
+        {"a point inside to its precision", -.25, -1,
+         [&](double y) { return rec_ClipPunto_ConPrecision(&r, 5, y, .25) == CIERTO; }},
+        {"on the border from inside, to its precision", .25, 1,
+         [&](double x) { return rectng_punto_esta_en_borde_con_precision(&r, x, 5, .25) == CIERTO; }},
+        {"on the border from outside", -.25, -1,
+         [&](double x) { return rectng_punto_esta_en_borde_con_precision(&r, x, 5, .25) == CIERTO; }},
+        {"rectangles touch to 1e-6", -1e-6, -1,
+         [&](double x) {
+             return rec_ClipRectangulo(&r, tmp(-5, 0, x, 1)) && rec_ClipRectangulo(tmp(0, -5, 1, x), &r);
+         }},
+        {"one inside another to 1e-6", -1e-6, -1,
+         [&](double x) { return rec_RelacionaRectangulos(&r, tmp(x, 1, 5, 5)) == 2; }},
         {"boxes touch exactly", 0, -1, [&](double x) { return rec_ExisteSolapeConLimites(&r, x, 5, -3, 7) == CIERTO; }},
-        {"a segment's box, by its tolerance", -.5, -1, [&](double x) { return rec_ExisteSolapeConSegmento(&r, x, 5, -3, 7, .5) == CIERTO; }},
-        {"centred on the origin to its tolerance", .5, 1, [&](double x) { return rec_RectanguloCentradoOrigen(tmp(x, -1, x, 1), .5) == CIERTO; }},
-        {"a horizontal one may be higher by 0.0001, excluded", std::nextafter(1 + .0001, 0), 2, [&](double alto) { return rectangulo(rec_CreaHorizontal(0, 0, 1, alto)) && callado(); }},
-        {"a vertical one wider by as much", std::nextafter(1 + .0001, 0), 2, [&](double ancho) { return rectangulo(rec_CreaVertical(0, 0, ancho, 1)) && callado(); }},
-        {"a room of 1e-7 is none", 1e-7, 1, [](double hueco) { return alargadas({{-9, 0, 0, 1}, {hueco, 0, 9, 1}}, .5)[0][2] == 0; }},
+        {"a segment's box, by its tolerance", -.5, -1,
+         [&](double x) { return rec_ExisteSolapeConSegmento(&r, x, 5, -3, 7, .5) == CIERTO; }},
+        {"centred on the origin to its tolerance", .5, 1,
+         [&](double x) { return rec_RectanguloCentradoOrigen(tmp(x, -1, x, 1), .5) == CIERTO; }},
+        {"a horizontal one may be higher by 0.0001, excluded", std::nextafter(1 + .0001, 0), 2,
+         [&](double alto) { return rectangulo(rec_CreaHorizontal(0, 0, 1, alto)) && callado(); }},
+        {"a vertical one wider by as much", std::nextafter(1 + .0001, 0), 2,
+         [&](double ancho) { return rectangulo(rec_CreaVertical(0, 0, ancho, 1)) && callado(); }},
+        {"a room of 1e-7 is none", 1e-7, 1,
+         [](double hueco) {
+             return alargadas({{-9, 0, 0, 1}, {hueco, 0, 9, 1}}, .5)[0][2] == 0;
+         }},
         {"a centre of gravity within 0.50001 of the width, excluded", std::nextafter(.50001, 0), 1,
          [&](double cdg) {
              double v[4];
              rectng_AnchosDesdePuntoFijo(1, 1, cdg, 0, 1, &v[0], &v[1], &v[2], &v[3]);
              return callado();
          }},
-        {"the old clip's point inside to 1e-6", 10 + 1e-6, 11, [&](double x) { return antiguo(r, {5, 5, x, 5}).extremos[2] == x; }},
-        {"the old clip's line along a side to 1e-6", -1e-6, -1, [&](double x) { return antiguo(r, {x, -5, x, 15}).dentro; }},
+        {"the old clip's point inside to 1e-6", 10 + 1e-6, 11,
+         [&](double x) {
+             return antiguo(r, {5, 5, x, 5}).extremos[2] == x;
+         }},
+        {"the old clip's line along a side to 1e-6", -1e-6, -1,
+         [&](double x) {
+             return antiguo(r, {x, -5, x, 15}).dentro;
+         }},
     };
     for (const auto &f : filas) {
         EXPECT_TRUE(f.vale(f.ultimo)) << f.que;
         EXPECT_FALSE(f.vale(std::nextafter(f.ultimo, f.hacia))) << f.que;
     }
     EXPECT_EQ(rec_RectanguloVertical(&r), FALSO); // a square
-    EXPECT_EQ(rec_ClipPunto(&r, NAN_, 5) + rec_ClipPunto_ConPrecision(&r, 5, NAN_, 1) + rec_ExisteSolapeConLimites(&r, NAN_, 1, 2, 3), 0);
+    EXPECT_EQ(rec_ClipPunto(&r, NAN_, 5) + rec_ClipPunto_ConPrecision(&r, 5, NAN_, 1) +
+                  rec_ExisteSolapeConLimites(&r, NAN_, 1, 2, 3),
+              0);
 }
 
 PRUEBA(rectng, los_recortes_en_los_lados_y_con_numeros_extremos) {
@@ -153,11 +182,11 @@ PRUEBA(rectng, los_recortes_en_los_lados_y_con_numeros_extremos) {
         limites segmento;
         recorte exacto, antiguo;
     } filas[] = {
-        {{-5, 0, 5, 0}, {true, {0, 0, 5, 0}}, {true, {0, 0, 5, 0}}},                     // along a side, one end outside
-        {{0, -5, 0, 15}, {true, {0, 0, 0, 10}}, {true, {0, -5, 0, 15}}},                 // both outside: the old one leaves them,
-        {{0, 12, 0, 15}, {false, {0, 12, 0, 15}}, {true, {0, 12, 0, 15}}},               // beyond the corner too
+        {{-5, 0, 5, 0}, {true, {0, 0, 5, 0}}, {true, {0, 0, 5, 0}}},       // along a side, one end outside
+        {{0, -5, 0, 15}, {true, {0, 0, 0, 10}}, {true, {0, -5, 0, 15}}},   // both outside: the old one leaves them,
+        {{0, 12, 0, 15}, {false, {0, 12, 0, 15}}, {true, {0, 12, 0, 15}}}, // beyond the corner too
         {{-9, 10, -5, 10}, {false, {-9, 10, -5, 10}}, {true, {-9, 10, -5, 10}}},
-        {{-5, -5, 15, 15}, {true, {0, 0, 10, 10}}, {true, {0, 0, 10, 10}}},              // through two corners
+        {{-5, -5, 15, 15}, {true, {0, 0, 10, 10}}, {true, {0, 0, 10, 10}}}, // through two corners
     };
     for (const auto &f : filas) {
         EXPECT_EQ(exacto_(r, f.segmento), f.exacto) << f.segmento[0];
@@ -177,14 +206,16 @@ PRUEBA(rectng, los_recortes_en_los_lados_y_con_numeros_extremos) {
             v[i] = raro;
             const recorte c = exacto_(de({v[0], v[1], v[2], v[3]}), {v[4], v[5], v[6], v[7]});
             antiguo(de({v[0], v[1], v[2], v[3]}), {v[4], v[5], v[6], v[7]});
-            if (std::isnan(raro)) { EXPECT_FALSE(c.dentro) << i; }
+            if (std::isnan(raro)) {
+                EXPECT_FALSE(c.dentro) << i;
+            }
             for (const double x : c.extremos) EXPECT_TRUE(!c.dentro || std::isfinite(x)) << i << " " << raro;
         }
     EXPECT_FALSE(exacto_(r, {-1e308, 5, 1e308, 5}).dentro); // longer than all numbers
 }
 
-// Against whole coordinates: the clips accept what has points inside and nothing that is apart, what is inside comes back
-// bit for bit, and the ends lie on the segment and on the sides.
+// Against whole coordinates: the clips accept what has points inside and nothing that is apart, what is inside comes
+// back bit for bit, and the ends lie on the segment and on the sides.
 PRUEBA(rectng, los_recortes_son_los_exactos) {
     vn::azar z(51);
     vn::huella bits;
@@ -202,15 +233,23 @@ PRUEBA(rectng, los_recortes_son_los_exactos) {
         const limites entero = {a.x, a.y, b.x, b.y};
         const recorte c = exacto_(r, entero), c_antiguo = antiguo(r, entero);
         const auto como = exacto::frente_a(s, bajo, alto);
-        if (como != exacto::caja::toca) { ASSERT_TRUE(c.dentro == (como == exacto::caja::dentro) && c_antiguo.dentro == c.dentro) << i; }
+        if (como != exacto::caja::toca) {
+            ASSERT_TRUE(c.dentro == (como == exacto::caja::dentro) && c_antiguo.dentro == c.dentro) << i;
+        }
         if (!c.dentro) continue;
         ++dentro;
         const bool dentro_a = rec_ClipPunto(&r, a.x, a.y), dentro_b = rec_ClipPunto(&r, b.x, b.y);
-        if (dentro_a && dentro_b) { ASSERT_EQ(c.extremos, entero) << i; }
+        if (dentro_a && dentro_b) {
+            ASSERT_EQ(c.extremos, entero) << i;
+        }
         for (const size_t k : {0u, 2u}) {
             const double x = c.extremos[k], y = c.extremos[k + 1];
             bits << x << y;
-            if (como == exacto::caja::dentro) { ASSERT_TRUE(vn::cerca(c_antiguo.extremos[k], x, l.escala(100)) && vn::cerca(c_antiguo.extremos[k + 1], y, l.escala(100))) << i; }
+            if (como == exacto::caja::dentro) {
+                ASSERT_TRUE(vn::cerca(c_antiguo.extremos[k], x, l.escala(100)) &&
+                            vn::cerca(c_antiguo.extremos[k + 1], y, l.escala(100)))
+                    << i;
+            }
             if (k == 0 ? dentro_a : dentro_b) {
                 ASSERT_TRUE(vn::cerca(x, entero[k], l.escala(100)) && vn::cerca(y, entero[k + 1], l.escala(100))) << i;
                 continue;
@@ -240,7 +279,9 @@ PRUEBA(rectng, las_tiras_se_alargan_hasta_la_que_estorba) {
     EXPECT_EQ(limites_de(*rectangulo(rec_Envolvente(a.get()))), (limites{1, 2, 8, 11}));
     // Strips that are apart stay apart, none shrinks, and none grows by more than it may.
     vn::azar z(52);
-    const auto se_pisan = [](const limites &p, const limites &q) { return p[0] < q[2] && q[0] < p[2] && p[1] < q[3] && q[1] < p[3]; };
+    const auto se_pisan = [](const limites &p, const limites &q) {
+        return p[0] < q[2] && q[0] < p[2] && p[1] < q[3] && q[1] < p[3];
+    };
     int crecidas = 0;
     for (int i = 0; i < 2000; ++i) {
         const rectangulos b = tiras({});
@@ -258,7 +299,8 @@ PRUEBA(rectng, las_tiras_se_alargan_hasta_la_que_estorba) {
                 ASSERT_TRUE(0 <= crece && crece <= 1.5);
                 crecidas += crece > 0;
             }
-            for (size_t q = 0; q < p; ++q) ASSERT_FALSE(se_pisan(despues[p], despues[q])) << i << ": " << q << ", " << p;
+            for (size_t q = 0; q < p; ++q)
+                ASSERT_FALSE(se_pisan(despues[p], despues[q])) << i << ": " << q << ", " << p;
         }
     }
     EXPECT_GT(crecidas, 10000);
@@ -271,7 +313,9 @@ PRUEBA(rectng, las_tiras_contiguas_se_condensan) {
         std::vector<limites> salen;
     } filas[] = {
         // Three stacked and one apart; the fourth, held by the result, goes.
-        {{{0, 0, 9, 1}, {0, 1, 9, 2}, {5, 2, 12, 3}, {1, .25, 3, .75}, {20, 0, 29, 1}}, .01, {{0, 0, 12, 3}, {20, 0, 29, 1}}},
+        {{{0, 0, 9, 1}, {0, 1, 9, 2}, {5, 2, 12, 3}, {1, .25, 3, .75}, {20, 0, 29, 1}},
+         .01,
+         {{0, 0, 12, 3}, {20, 0, 29, 1}}},
         // A group that is higher than wide is still one of horizontal strips; directions do not mix.
         {{{0, 0, 4, 2}, {0, 2, 4, 4}, {0, 4, 4, 6}, {0, 6, 4, 8}}, 0, {{0, 0, 4, 8}}},
         {{{0, 0, 1, 9}, {1, 0, 2, 9}, {2, 0, 9, 1}}, 0, {{0, 0, 2, 9}, {2, 0, 9, 1}}},
@@ -279,7 +323,9 @@ PRUEBA(rectng, las_tiras_contiguas_se_condensan) {
         {{{0, 0, 9, 1}, {0, 5, 9, 6}, {0, 1, 9, 5}}, 0, {{0, 0, 9, 5}, {0, 0, 9, 6}}},
         // The tolerance and a step beyond it, along the strips and across.
         {{{0, 0, 9, 1}, {9.25, 1, 20, 2}}, .25, {{0, 0, 20, 2}}},
-        {{{0, 0, 9, 1}, {std::nextafter(9.25, 10), 1, 20, 2}}, .25, {{0, 0, 9, 1}, {std::nextafter(9.25, 10), 1, 20, 2}}},
+        {{{0, 0, 9, 1}, {std::nextafter(9.25, 10), 1, 20, 2}},
+         .25,
+         {{0, 0, 9, 1}, {std::nextafter(9.25, 10), 1, 20, 2}}},
         {{{0, 0, 9, 1}, {6, .75, 20, 2}}, .25, {{0, 0, 20, 2}}},
         {{{0, 0, 9, 1}, {6, std::nextafter(1.25, 2), 20, 2}}, .25, {{0, 0, 9, 1}, {6, std::nextafter(1.25, 2), 20, 2}}},
     };
@@ -292,14 +338,18 @@ PRUEBA(rectng, las_tiras_contiguas_se_condensan) {
         for (int n = 0; n < 25; ++n) anade(b, una_tira(z, 12));
         const auto salen = condensadas(b, 0);
         for (const limites &t : todas(b))
-            ASSERT_TRUE(std::any_of(salen.begin(), salen.end(), [&](const limites &q) { return q[0] <= t[0] && q[1] <= t[1] && t[2] <= q[2] && t[3] <= q[3]; })) << i;
+            ASSERT_TRUE(std::any_of(salen.begin(), salen.end(), [&](const limites &q) {
+                return q[0] <= t[0] && q[1] <= t[1] && t[2] <= q[2] && t[3] <= q[3];
+            })) << i;
     }
 }
 
 PRUEBA(rectng, las_nueve_posiciones_de_una_seccion) {
     EXPECT_EQ(rectng_calculaPosicionMasCercana(0, 0, 0), 4u); // 0 is not below +0
     EXPECT_EQ(rectng_calculaPosicionMasCercana(NAN_, -2, 1), 5u);
-    const limites inicial_final[] = {{2.5, 1.75, 1.5, .25}, {0, 0, 4, 2}, {4, 0, 0, 2}, {0, 2, 4, 0}, {4, 2, 0, 0}, {2.5, 0, 1.5, 2}, {4, 1.75, 0, .25}, {2.5, 2, 1.5, 0}, {0, 1.75, 4, .25}};
+    const limites inicial_final[] = {{2.5, 1.75, 1.5, .25}, {0, 0, 4, 2},     {4, 0, 0, 2},
+                                     {0, 2, 4, 0},          {4, 2, 0, 0},     {2.5, 0, 1.5, 2},
+                                     {4, 1.75, 0, .25},     {2.5, 2, 1.5, 0}, {0, 1.75, 4, .25}};
     for (uint32_t p = 0; p < 9; ++p) {
         double x = 0, y = 0;
         rectng_calcula_coordenadas_posicion(p, 1, 2, 3, 4, &x, &y);

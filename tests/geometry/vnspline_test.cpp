@@ -21,10 +21,8 @@ struct cubica {
 PRUEBA(vnspline, la_curva_pasa_por_los_extremos_con_las_direcciones_dadas) {
     vn::azar a(31);
     for (int i = 0; i < 20000; ++i) {
-        const double x0 = a.entre(-50., 50.), y0 = a.entre(-50., 50.), x1 = a.entre(-50., 50.),
-                     y1 = a.entre(-50., 50.);
-        const double cuerda = std::atan2(y1 - y0, x1 - x0), a0 = a.entre(-3.14, 3.14),
-                     a1 = a.entre(-3.14, 3.14);
+        const double x0 = a.entre(-50., 50.), y0 = a.entre(-50., 50.), x1 = a.entre(-50., 50.), y1 = a.entre(-50., 50.);
+        const double cuerda = std::atan2(y1 - y0, x1 - x0), a0 = a.entre(-3.14, 3.14), a1 = a.entre(-3.14, 3.14);
         const double L = std::hypot(x1 - x0, y1 - y0);
         const cubica c(x0, y0, a0, x1, y1, a1);
         ASSERT_NEAR(c.Ux * L, x1 - x0, 1e-12);
@@ -47,8 +45,7 @@ PRUEBA(vnspline, los_angulos_rectos_se_limitan_y_los_puntos_iguales_se_informan)
     // A slope of 10 and its neighbours: the limit is the limit.
     EXPECT_TRUE(cubica(0., 0., 1.4711, 1., 0., 0.).C < 10. && cubica(0., 0., 1.4712, 1., 0., 0.).C == 10.);
     // Angles a turn apart are one direction, after one turn is taken off.
-    EXPECT_TRUE(
-        cerca(cubica(0., 0., 0.5 + 6.283185307179586, 1., 0., 0.).C, cubica(0., 0., 0.5, 1., 0., 0.).C));
+    EXPECT_TRUE(cerca(cubica(0., 0., 0.5 + 6.283185307179586, 1., 0., 0.).C, cubica(0., 0., 0.5, 1., 0., 0.).C));
     std::unique_ptr<cubica> c;
     ESPERA_INFORME("L > 0.", c = std::make_unique<cubica>(3., 4., 1., 3., 4., 1.));
     EXPECT_TRUE(c->A == 0. && c->B == 0. && c->C == 0. && c->D == 0. && c->Ux == 0. && c->Uy == 0.);

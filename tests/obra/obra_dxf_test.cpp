@@ -13,9 +13,10 @@ namespace {
 // A drawing out of entity lines "code value" separated by line ends, with one block B and layer definitions.
 std::string dxf_con(const std::string &entidades, const std::string &bloque = "") {
     return "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1009\n9\n$DWGCODEPAGE\n3\nANSI_1252\n0\nENDSEC\n"
-           "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n70\n1\n0\nLAYER\n2\nEJES\n70\n0\n62\n-3\n6\nDASHED\n0\nENDTAB\n0\nENDSEC\n"
-           "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nB\n70\n0\n10\n1\n20\n0\n30\n0\n" + bloque +
-           "0\nENDBLK\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" + entidades + "0\nENDSEC\n0\nEOF\n";
+           "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n70\n1\n0\nLAYER\n2\nEJES\n70\n0\n62\n-"
+           "3\n6\nDASHED\n0\nENDTAB\n0\nENDSEC\n"
+           "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nB\n70\n0\n10\n1\n20\n0\n30\n0\n" +
+           bloque + "0\nENDBLK\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" + entidades + "0\nENDSEC\n0\nEOF\n";
 }
 
 lectura_dxf lee(const std::string &contenido, plano &p, noticias_dxf &noticias) {
@@ -52,8 +53,10 @@ constexpr const char *ARCO = "0\nARC\n8\n0\n10\n1\n20\n0\n30\n0\n40\n1\n50\n0\n5
 
 PRUEBA(obra_dxf, las_referencias_se_expanden_con_su_capa_y_su_color) {
     // Turned 90 degrees, twice as large, in two columns 10 apart along the turned axis.
-    const plano p = lee(dxf_con("0\nINSERT\n8\nEJES\n62\n5\n2\nB\n10\n100\n20\n50\n30\n0\n41\n2\n42\n2\n43\n2\n50\n90\n70\n2\n44\n10\n"
-                                "0\nLINE\n8\nOTRA\n62\n99999999\n10\n1\n20\n0\n11\n3\n21\n0\n", LINEA));
+    const plano p = lee(
+        dxf_con("0\nINSERT\n8\nEJES\n62\n5\n2\nB\n10\n100\n20\n50\n30\n0\n41\n2\n42\n2\n43\n2\n50\n90\n70\n2\n44\n10\n"
+                "0\nLINE\n8\nOTRA\n62\n99999999\n10\n1\n20\n0\n11\n3\n21\n0\n",
+                LINEA));
     EXPECT_EQ(capa_de(p, "OTRA").color_lineas.at(0), 256u); // no colour of the palette: that of its layer
     const capa &c = capa_de(p, "EJES");
     ASSERT_EQ(c.lineas.size(), 2u);
@@ -93,9 +96,10 @@ PRUEBA(obra_dxf, una_elipse_en_un_plano_vuelto_y_una_polilinea_con_curvatura_y_m
     EXPECT_NEAR(caja.ymin, 0.519, 1e-3);
     EXPECT_NEAR(caja.ymax, 1.430, 1e-3);
     // The second vertex is of the frame; the third belongs to none.
-    const plano p = lee(dxf_con("0\nPOLYLINE\n8\nEJES\n66\n1\n70\n5\n0\nVERTEX\n10\n0\n20\n0\n42\n1\n0\nVERTEX\n70\n16\n10\n9\n20\n9\n"
-                                "0\nVERTEX\n10\n2\n20\n0\n0\nSEQEND\n0\nVERTEX\n10\n99\n0\nPOLYLINE\n70\n16\n0\nVERTEX\n10\n99\n"
-                                "0\nPOLYLINE\n0\nSEQEND\n"));
+    const plano p = lee(
+        dxf_con("0\nPOLYLINE\n8\nEJES\n66\n1\n70\n5\n0\nVERTEX\n10\n0\n20\n0\n42\n1\n0\nVERTEX\n70\n16\n10\n9\n20\n9\n"
+                "0\nVERTEX\n10\n2\n20\n0\n0\nSEQEND\n0\nVERTEX\n10\n99\n0\nPOLYLINE\n70\n16\n0\nVERTEX\n10\n99\n"
+                "0\nPOLYLINE\n0\nSEQEND\n"));
     const capa &c = capa_de(p, "EJES");
     ASSERT_EQ(c.polilineas.size(), 1u);
     EXPECT_TRUE(c.polilineas[0].cerrada);
@@ -115,7 +119,8 @@ PRUEBA(obra_dxf, los_textos_dicen_lo_que_el_plano_y_estan_donde_el) {
         {"AC1021", "TEXT", "ca\xC3\xB1o %%216%%176", "caño Ø°"},
         {"AC1021", "TEXT", "ca\xF1o", "caño"}, // no UTF-8 after all
         {"AC1009", "TEXT", "\\M+182A0\\M+9XX \\U+12", "あ\\M+9XX \\U+12"},
-        {"AC1015", "MTEXT", "{\\fArial|b0;uno}\\Pdos^Jtres \\H2.5x;\\S2^ ;m \\S1/2; \\S+1^-2; \\S3#4;", "uno dos tres 2m 1/2 +1 -2 3/4"},
+        {"AC1015", "MTEXT", "{\\fArial|b0;uno}\\Pdos^Jtres \\H2.5x;\\S2^ ;m \\S1/2; \\S+1^-2; \\S3#4;",
+         "uno dos tres 2m 1/2 +1 -2 3/4"},
         {"AC1015", "MTEXT", "antes {\\C1rojo} despues \\fArial", "antes rojo despues Arial"},
         {"AC1015", "MTEXT", "c:\\\\d \\{x\\} \\Lsub\\l 50%%d \\z\\", "c:\\d {x} sub 50° \\z\\"},
     };
@@ -125,7 +130,8 @@ PRUEBA(obra_dxf, los_textos_dicen_lo_que_el_plano_y_estan_donde_el) {
         EXPECT_EQ(utf8(capa_de(p, "0").rotulos.at(0).letras), f.dicho) << f.bytes;
     }
     // Longer than any buffer, in pieces; what follows 101 is of another object.
-    const std::string largo(5000, 'x'), empotrado = "101\nEmbedded Object\n10\n1\n20\n0\n40\n9\n11\n0\n21\n1\n1\n\\C1;otro\n";
+    const std::string largo(5000, 'x'),
+        empotrado = "101\nEmbedded Object\n10\n1\n20\n0\n40\n9\n11\n0\n21\n1\n1\n\\C1;otro\n";
     const plano p = lee(dxf_con("0\nMTEXT\n10\n7\n20\n8\n40\n.5\n3\n" + largo + "\n1\ny\n50\n90\n" + empotrado +
                                 "0\nTEXT\n10\n1\n20\n1\n11\n3\n21\n4\n72\n1\n50\n30\n1\n" + largo +
                                 "\n0\nATTRIB\n10\n5\n20\n6\n1\n\n" + empotrado));
@@ -149,26 +155,41 @@ PRUEBA(obra_dxf, los_nombres_no_tienen_caja_y_lo_que_no_se_toma_se_cuenta) {
     EXPECT_EQ(capa_de(p, "EJES").lineas.size(), 3u);
     EXPECT_TRUE(capa_de(p, "Helada").apagada);
     EXPECT_EQ(p.tipos_de_linea.size(), 1u);
-    EXPECT_EQ(p.sin_importar, (std::map<std::string, uint32_t>{{"HATCH", 3}, {"INSERT B", 3}, {"INSERT No está", 1}, {"MLINE", 1},
-                                                               {"MULTILEADER", 1}, {"LINE", 2}, {"ATTDEF", 1}}));
+    EXPECT_EQ(p.sin_importar, (std::map<std::string, uint32_t>{{"HATCH", 3},
+                                                               {"INSERT B", 3},
+                                                               {"INSERT No está", 1},
+                                                               {"MLINE", 1},
+                                                               {"MULTILEADER", 1},
+                                                               {"LINE", 2},
+                                                               {"ATTDEF", 1}}));
 }
 
 PRUEBA(obra_dxf, lo_que_no_es_un_dxf_se_rechaza_y_lo_que_le_pasa_a_uno_se_dice) {
     plano p;
     noticias_dxf n;
-    for (const char *malo : {"", "hola\n", "\x7f""ELF\x01\x02\x03", "0\n", "0\nLINE\n"}) EXPECT_EQ(lee(malo, p, n), lectura_dxf::no_es_dxf) << malo;
+    for (const char *malo : {"", "hola\n",
+                             "\x7f"
+                             "ELF\x01\x02\x03",
+                             "0\n", "0\nLINE\n"})
+        EXPECT_EQ(lee(malo, p, n), lectura_dxf::no_es_dxf) << malo;
     EXPECT_EQ(lee(std::string(200000, 0), p, n), lectura_dxf::no_es_dxf); // as a device that has no end
     EXPECT_EQ(lee("AutoCAD Binary DXF\r\n\x1A", p, n), lectura_dxf::es_binario);
     EXPECT_EQ(lee_dxf(vn::ancho(directorio() + "/no_esta.dxf"), p, n), lectura_dxf::no_se_lee);
     const std::string bien = dxf_con(LINEA);
     EXPECT_EQ(lee(bien.substr(0, bien.find("11\n3")) + "once\n", p, n), lectura_dxf::danado);
-    EXPECT_EQ(n.linea, 1 + std::count(bien.begin(), bien.begin() + static_cast<std::ptrdiff_t>(bien.find("11\n3")), '\n'));
+    EXPECT_EQ(n.linea,
+              1 + std::count(bien.begin(), bien.begin() + static_cast<std::ptrdiff_t>(bien.find("11\n3")), '\n'));
     EXPECT_EQ(lee(bien.substr(0, bien.rfind("0\nEOF")) + "\n\n", p, n), lectura_dxf::bien);
     EXPECT_TRUE(n.sin_final && capa_de(p, "0").lineas.size() == 1);
-    for (const char *vacio : {"999\nx\n0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n", "\xEF\xBB\xBF  0\r\nSECTION\r\n  2\r\nBLOCKS\r\n  0\r\nENDSEC\r\n  0\r\nEOF"})
+    for (const char *vacio : {"999\nx\n0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n",
+                              "\xEF\xBB\xBF  0\r\nSECTION\r\n  2\r\nBLOCKS\r\n  0\r\nENDSEC\r\n  0\r\nEOF"})
         EXPECT_TRUE(lee(vacio).capas.empty());
-    for (const auto &[codigo, metros] : {std::pair{"21", 1200. / 3937}, {"24", 5280 * 1200. / 3937}, {"25", 1.}, {"-1", 1.}}) {
-        ASSERT_EQ(lee(std::string("0\nSECTION\n2\nHEADER\n9\n$INSUNITS\n70\n") + codigo + "\n9\n$OTRA\n2\nHEADER\n0\nENDSEC\n0\nEOF\n", p, n), lectura_dxf::bien);
+    for (const auto &[codigo, metros] :
+         {std::pair{"21", 1200. / 3937}, {"24", 5280 * 1200. / 3937}, {"25", 1.}, {"-1", 1.}}) {
+        ASSERT_EQ(lee(std::string("0\nSECTION\n2\nHEADER\n9\n$INSUNITS\n70\n") + codigo +
+                          "\n9\n$OTRA\n2\nHEADER\n0\nENDSEC\n0\nEOF\n",
+                      p, n),
+                  lectura_dxf::bien);
         EXPECT_DOUBLE_EQ(p.metros_por_unidad, metros);
         EXPECT_EQ(n.unidad_ignorada.has_value(), metros == 1);
     }
@@ -178,13 +199,19 @@ PRUEBA(obra_dxf, lo_que_no_es_un_dxf_se_rechaza_y_lo_que_le_pasa_a_uno_se_dice) 
 PRUEBA(obra_dxf, un_dibujo_no_pide_mas_de_lo_que_pesa) {
     const std::string rejilla = "0\nINSERT\n2\nB\n41\n3\n70\n2000\n71\n2000\n", perdido = "0\nINSERT\n2\nNO\n";
     std::string anidados; // ten times, forty deep
-    for (int i = 0; i < 40; ++i) anidados += "0\nENDBLK\n0\nBLOCK\n2\nN" + std::to_string(i) + "\n" + veces(10, "0\nINSERT\n2\nN" + std::to_string(i + 1) + "\n");
+    for (int i = 0; i < 40; ++i)
+        anidados += "0\nENDBLK\n0\nBLOCK\n2\nN" + std::to_string(i) + "\n" +
+                    veces(10, "0\nINSERT\n2\nN" + std::to_string(i + 1) + "\n");
     const struct {
         std::string entidades, bloque;
     } filas[] = {
-        {rejilla, LINEA}, {"0\nINSERT\n2\nB\n70\n2147483647\n71\n2147483647\n", ""}, {rejilla, veces(100, perdido)},
-        {"0\nINSERT\n2\nN0\n", anidados}, {rejilla, "0\nTEXT\n1\n" + std::string(1000, 'x') + "\n"},
-        {rejilla, "0\nLWPOLYLINE\n10\n0\n"}, {rejilla, "0\nLWPOLYLINE\n90\n1073741825\n" + veces(99, "10\n0\n20\n0\n42\n9\n")},
+        {rejilla, LINEA},
+        {"0\nINSERT\n2\nB\n70\n2147483647\n71\n2147483647\n", ""},
+        {rejilla, veces(100, perdido)},
+        {"0\nINSERT\n2\nN0\n", anidados},
+        {rejilla, "0\nTEXT\n1\n" + std::string(1000, 'x') + "\n"},
+        {rejilla, "0\nLWPOLYLINE\n10\n0\n"},
+        {rejilla, "0\nLWPOLYLINE\n90\n1073741825\n" + veces(99, "10\n0\n20\n0\n42\n9\n")},
         {rejilla, "0\nK1\n0\nK2\n0\nK3\n"},
     };
     for (const auto &f : filas) {

@@ -53,7 +53,8 @@ std::string todo(const obra_leida &o) {
             for (size_t i = 0; i < p.vertices.size(); ++i) d(p.vertices[i].x), d(p.vertices[i].y), d(p.curvaturas[i]);
         }
         for (const rotulo &r : c.rotulos) d(r.en.x), d(r.altura), d(r.angulo), s += utf8(r.letras);
-        for (const colores *k : {&c.color_lineas, &c.color_circulos, &c.color_arcos, &c.color_elipses, &c.color_polilineas, &c.color_rotulos})
+        for (const colores *k : {&c.color_lineas, &c.color_circulos, &c.color_arcos, &c.color_elipses,
+                                 &c.color_polilineas, &c.color_rotulos})
             for (const uint32_t x : *k) d(x);
     }
     return s;
@@ -118,6 +119,7 @@ PRUEBA(obra_fichero, una_version_superior_y_lo_que_no_es_una_obra) {
 
 // Every boundary of a save, the death of the program at each one included.
 GUARDADO(obra_de_ejemplo) {
-    return graba_obra(vn::ancho(fichero), plano_de_prueba(), vn::ancho(std::string("Edici\u00f3n ") + static_cast<char>('0' + edicion)), {});
+    return graba_obra(vn::ancho(fichero), plano_de_prueba(),
+                      vn::ancho(std::string("Edici\u00f3n ") + static_cast<char>('0' + edicion)), {});
 }
 PRUEBA(obra_fichero, un_guardado_deja_la_obra_de_antes_o_la_nueva) { vn::comprueba_guardado("obra_de_ejemplo"); }

@@ -1,8 +1,8 @@
 // What the report of the sample host measures, and how it says it.
-#include "informe.h"
-#include "medidas.h"
 #include "foundation/sistema/fichconf.h"
 #include "foundation/sistema/vnregional.h"
+#include "informe.h"
+#include "medidas.h"
 #include "opciones.h"
 #include "prueba.h"
 #include "units/vornconf.h"
@@ -34,10 +34,10 @@ PRUEBA(obra_medidas, longitudes_y_areas_conocidas) {
         {{false, {{0, 0}, {4, 0}, {4, 3}}, {0, 0, 0}}, 7, 0},
         {{false, {{0, 0}, {4, 0}, {4, 3}, {0, 0}}, {0, 0, 0, 0}}, 12, 6}, // comes back to where it began
         {{false, {{0, 0}, {4, 0}, {4, 3}, {0, 1e-9}}, {0, 0, 0, 0}}, 12, 0},
-        {{true, {{0, 0}, {2, 0}}, {1, 1}}, 2 * PI, PI},                                          // a circle of two arcs
-        {{true, {{0, 0}, {2, 0}}, {-1, 0}}, PI + 2, PI / 2},                                     // half of it, clockwise
+        {{true, {{0, 0}, {2, 0}}, {1, 1}}, 2 * PI, PI},      // a circle of two arcs
+        {{true, {{0, 0}, {2, 0}}, {-1, 0}}, PI + 2, PI / 2}, // half of it, clockwise
         {{true, {{0, 0}, {1, 0}, {1, 1}, {0, 1}}, {0, -semi, 0, 0}}, 3 + PI / 2 / std::sqrt(2), 1 - (PI / 8 - 0.25)},
-        {{true, {{1e7, 1e7}, {1e7 + 1, 1e7}, {1e7 + 1, 1e7 + 1}}, {}}, 2 + std::sqrt(2), 0.5},   // far from the origin
+        {{true, {{1e7, 1e7}, {1e7 + 1, 1e7}, {1e7 + 1, 1e7 + 1}}, {}}, 2 + std::sqrt(2), 0.5}, // far from the origin
         {{true, {{5, 5}}, {1}}, 0, 0},
     };
     for (const auto &f : filas) {
@@ -85,7 +85,8 @@ PRUEBA(obra_medidas, un_valor_en_cada_sistema_y_region) {
 PRUEBA(obra_medidas, las_opciones_se_entienden_o_se_dice_cual_no) {
     opciones o;
     std::string falta;
-    ASSERT_TRUE(lee_opciones({"--sistema", "imperial", "a.obra", "--energia", "btu", "--idioma", "8"}, o, falta)) << falta;
+    ASSERT_TRUE(lee_opciones({"--sistema", "imperial", "a.obra", "--energia", "btu", "--idioma", "8"}, o, falta))
+        << falta;
     EXPECT_EQ(o.obra, "a.obra");
     EXPECT_EQ(o.sistema, VORNCONF_SU_IMPERIAL);
     EXPECT_EQ(o.energia, VORNNORM_UNIDAD_ENERGIA_BTU);
@@ -112,7 +113,8 @@ PRUEBA(obra_medidas, las_opciones_valen_para_esta_vez) {
     fichconf_establece_directorio_base(vn::ancho(directorio()).c_str());
     msidioma_establece_idioma(0);
     vornconf_par_lee_internacional(nullptr); // makes the directory
-    const std::string fichero = directorio() + "/VORN/estructa/internac.ini", dicho = "[Internacional]\nSistema de Unidades=2\n";
+    const std::string fichero = directorio() + "/VORN/estructa/internac.ini",
+                      dicho = "[Internacional]\nSistema de Unidades=2\n";
     vn::graba_fichero(fichero, dicho);
     vornconf_par_lee_internacional(nullptr);
     const region r("en-GB");
@@ -124,8 +126,9 @@ PRUEBA(obra_medidas, las_opciones_valen_para_esta_vez) {
         const std::string s = informe_de("x", o);
         return s.substr(s.find("Sistema de unidades"));
     };
-    EXPECT_TRUE(informe().starts_with("Sistema de unidades: Sistema Internacional\nUnidad de energía: julio, J\n"
-                                      "Extensión: x 0.000 m .. 3.048 m, y 0.000 m .. 304.800 m (3.048 m x 304.800 m)\n"));
+    EXPECT_TRUE(
+        informe().starts_with("Sistema de unidades: Sistema Internacional\nUnidad de energía: julio, J\n"
+                              "Extensión: x 0.000 m .. 3.048 m, y 0.000 m .. 304.800 m (3.048 m x 304.800 m)\n"));
     aplica({.sistema = VORNCONF_SU_IMPERIAL, .energia = VORNNORM_UNIDAD_ENERGIA_KCAL});
     EXPECT_EQ(informe(), "Sistema de unidades: Unidades Inglesas\nUnidad de energía: kilocaloría, kcal\n"
                          "Extensión: x 0\" .. 10'-0\", y 0\" .. 1000'-0\" (10'-0\" x 1000'-0\")\n"

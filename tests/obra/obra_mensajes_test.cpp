@@ -19,8 +19,8 @@ const std::pair<const char *, vnfunc_mensaje> TODOS[] = {
 
 // What every language has to write alike: options with their values, commands, numbers.
 std::multiset<std::string> palabras_fijas(const std::string &uso) {
-    static const std::set<std::string> FIJAS = {"importa", "informa", "[--sistema", "mks|si|imperial]",
-                                                "[--energia", "julio|kcal|btu]", "[--idioma", "N]"};
+    static const std::set<std::string> FIJAS = {"importa",    "informa",         "[--sistema", "mks|si|imperial]",
+                                                "[--energia", "julio|kcal|btu]", "[--idioma",  "N]"};
     std::multiset<std::string> fijas;
     std::istringstream s(uso);
     for (std::string p; s >> p;)
@@ -36,13 +36,20 @@ PRUEBA(obra_mensajes, un_informe_habla_un_solo_idioma) {
         int idioma;
         const char *pasaje;
     } filas[] = {
-        {1, "Système d'unités: Système international\nUnité d'énergie\u00a0: joule, J\nÉtendue\u00a0: aucune\nLongueurs et surfaces\u00a0:\n"},
-        {2, "Sistema de unidades: Sistema Internacional\nUnidade de energia: joule, J\nExtensão: nenhuma\nComprimentos e áreas:\n"},
-        {3, "Sistema d'unitats: Sistema Internacional\nUnitat d'energia: joule, J\nExtensió: cap\nLongituds i àrees:\n"},
-        {4, "Sistema di unità: Sistema internazionale\nUnità di energia: joule, J\nEstensione: nessuna\nLunghezze e aree:\n"},
-        {7, "Sistema de unidades: Sistema Internacional\nUnidad de energía: julio, J\nExtensión: ninguna\nLongitudes y áreas:\n"},
-        {9, "Sistema de unidades: Sistema Internacional\nUnidade de enerxía: joule, J\nExtensión: ningunha\nLonxitudes e áreas:\n"},
-        {13, "Einheitensystem: Internationales Einheitensystem\nEnergieeinheit: Joule, J\nAusdehnung: keine\nLängen und Flächen:\n"},
+        {1, "Système d'unités: Système international\nUnité d'énergie\u00a0: joule, J\nÉtendue\u00a0: "
+            "aucune\nLongueurs et surfaces\u00a0:\n"},
+        {2, "Sistema de unidades: Sistema Internacional\nUnidade de energia: joule, J\nExtensão: nenhuma\nComprimentos "
+            "e áreas:\n"},
+        {3,
+         "Sistema d'unitats: Sistema Internacional\nUnitat d'energia: joule, J\nExtensió: cap\nLongituds i àrees:\n"},
+        {4, "Sistema di unità: Sistema internazionale\nUnità di energia: joule, J\nEstensione: nessuna\nLunghezze e "
+            "aree:\n"},
+        {7, "Sistema de unidades: Sistema Internacional\nUnidad de energía: julio, J\nExtensión: ninguna\nLongitudes y "
+            "áreas:\n"},
+        {9, "Sistema de unidades: Sistema Internacional\nUnidade de enerxía: joule, J\nExtensión: ningunha\nLonxitudes "
+            "e áreas:\n"},
+        {13, "Einheitensystem: Internationales Einheitensystem\nEnergieeinheit: Joule, J\nAusdehnung: keine\nLängen "
+             "und Flächen:\n"},
     };
     obra_leida o;
     vornconf_Internacional_set_sistema_unidades(VORNCONF_SU_INTERNACIONAL);
@@ -52,7 +59,8 @@ PRUEBA(obra_mensajes, un_informe_habla_un_solo_idioma) {
         const std::string s = informe_de("x", o);
         EXPECT_NE(s.find(f.pasaje), std::string::npos) << s;
     }
-    // The two of Portugal and Brazil; one of America; one without texts of the host, which the library would speak alone.
+    // The two of Portugal and Brazil; one of America; one without texts of the host, which the library would speak
+    // alone.
     for (const auto &[idioma, dicho] : {std::pair{2, "Seções"}, {5, "Secções"}, {7, "Secciones"}, {18, "Sections"}}) {
         msidioma_establece_idioma(idioma);
         mensaje::habla_un_solo_idioma();

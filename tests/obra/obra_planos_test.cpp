@@ -29,7 +29,8 @@ PRUEBA(obra_planos, los_planos_reales_dan_las_cuentas_y_las_medidas_de_otro_lect
         std::vector<std::string> col;
         for (std::string x; std::getline(s, x, '\t');) col.push_back(x);
         // Those with references count what is in them too; the oracle does not expand them.
-        const bool comparable = col[6].find("INSERT") == std::string::npos && col[6].find("SPLINE") == std::string::npos;
+        const bool comparable =
+            col[6].find("INSERT") == std::string::npos && col[6].find("SPLINE") == std::string::npos;
         SCOPED_TRACE(col[0]);
         plano p;
         noticias_dxf noticias;
@@ -39,10 +40,14 @@ PRUEBA(obra_planos, los_planos_reales_dan_las_cuentas_y_las_medidas_de_otro_lect
         // What is not taken is told, each kind; a reference may bring more of it.
         std::istringstream todas(col[6]);
         for (std::string x; todas >> x;) {
-            static const std::set<std::string> TOMADAS = {"ARC", "CIRCLE", "ELLIPSE", "INSERT", "LINE", "LWPOLYLINE", "MTEXT", "POLYLINE", "TEXT"};
+            static const std::set<std::string> TOMADAS = {"ARC",        "CIRCLE", "ELLIPSE",  "INSERT", "LINE",
+                                                          "LWPOLYLINE", "MTEXT",  "POLYLINE", "TEXT"};
             const std::string clase = x.substr(0, x.find('='));
-            if (TOMADAS.contains(clase)) { EXPECT_FALSE(p.sin_importar.contains(clase)) << x; }
-            else { EXPECT_GE(p.sin_importar[clase], std::stoul(x.substr(x.find('=') + 1))) << x; }
+            if (TOMADAS.contains(clase)) {
+                EXPECT_FALSE(p.sin_importar.contains(clase)) << x;
+            } else {
+                EXPECT_GE(p.sin_importar[clase], std::stoul(x.substr(x.find('=') + 1))) << x;
+            }
         }
         if (!comparable) continue;
         ++comparados;
@@ -60,12 +65,17 @@ PRUEBA(obra_planos, los_planos_reales_dan_las_cuentas_y_las_medidas_de_otro_lect
             const std::string clase = x.substr(0, x.find('='));
             const size_t cuantas = std::stoul(x.substr(x.find('=') + 1));
             const std::string nuestra = clase == "LWPOLYLINE" ? "POLYLINE" : clase;
-            if (n.contains(nuestra)) { EXPECT_EQ(n[nuestra], cuantas) << clase; }
+            if (n.contains(nuestra)) {
+                EXPECT_EQ(n[nuestra], cuantas) << clase;
+            }
         }
         // The roof's lines climb: in plan they are shorter.
         const double esperada = std::stod(col[7]);
-        if (col[0] == "house_roof_r2007.dxf") { EXPECT_LT(longitud, esperada); }
-        else { EXPECT_NEAR(longitud, esperada, 1e-6 * (1 + esperada)); }
+        if (col[0] == "house_roof_r2007.dxf") {
+            EXPECT_LT(longitud, esperada);
+        } else {
+            EXPECT_NEAR(longitud, esperada, 1e-6 * (1 + esperada));
+        }
         // Hatches and faces, which are not imported, reach beyond the curves in some.
         if (col[6].find("HATCH") != std::string::npos || col[6].find("3DFACE") != std::string::npos) continue;
         std::istringstream caja(col[8]);
@@ -79,7 +89,8 @@ PRUEBA(obra_planos, los_planos_reales_dan_las_cuentas_y_las_medidas_de_otro_lect
         // The hull lies in the bounding rectangle and touches its four sides: at least half of it.
         const double area = rec_Ancho(rectangulo_de(p).get()) * rec_Alto(rectangulo_de(p).get());
         const envolvente casco = envolvente_de(p);
-        EXPECT_TRUE(area / 2 < casco.area && casco.area < area * 1.000001 && casco.vertices > 3) << casco.area << " of " << area;
+        EXPECT_TRUE(area / 2 < casco.area && casco.area < area * 1.000001 && casco.vertices > 3)
+            << casco.area << " of " << area;
     }
     EXPECT_GE(comparados, 9);
 }

@@ -1,17 +1,17 @@
-// Every kind of value of the save protocol, once: how a random one is written, read, passed over and copied, and whether it
-// came back. The suites and the fuzz target go over these rows.
+// Every kind of value of the save protocol, once: how a random one is written, read, passed over and copied, and
+// whether it came back. The suites and the fuzz target go over these rows.
 #pragma once
 
-#include "foundation/texto/cad.h"
 #include "foundation/numeros/punto.h"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
 #include <cmath>
 #include <cstring>
 #include <functional>
-#include <memory>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -137,7 +137,8 @@ using xpriv = dueno<arrPunto2DXPriv, destruye_xpriv>;
 inline std::string de(const una_viga &v) { return v ? std::to_string(v->numero) : "~"; }
 inline std::string junta(const arrPuntero *a) {
     std::string t;
-    for (uint32_t i = 0; i < arr_NumElemsPunteroST(a, viga); ++i) t += std::to_string(arr_GetPunteroST(a, i, viga)->numero) + " ";
+    for (uint32_t i = 0; i < arr_NumElemsPunteroST(a, viga); ++i)
+        t += std::to_string(arr_GetPunteroST(a, i, viga)->numero) + " ";
     return t;
 }
 inline std::string de(const vigas &a) { return a ? junta(a.get()) : "~"; }
@@ -149,7 +150,8 @@ inline std::string de(const arrays &a) {
 }
 inline std::string de(const orden &a) {
     std::string t;
-    for (uint32_t i = 0; a && i < apunorde_numelems(a.get(), viga); ++i) t += std::to_string(apunorde_get(a.get(), i, viga)->numero) + " ";
+    for (uint32_t i = 0; a && i < apunorde_numelems(a.get(), viga); ++i)
+        t += std::to_string(apunorde_get(a.get(), i, viga)->numero) + " ";
     return a ? t : "~";
 }
 inline std::string de(const xpriv &a) {
@@ -177,13 +179,15 @@ inline arrays crea_arrays(azar &a) {
 inline arrays crea_arrays_opc(azar &a) { return hasta(a, 3) == 0 ? nullptr : crea_arrays(a); }
 inline orden crea_orden(azar &a) {
     orden v(apunorde_crea(viga, const int32_t, viga::compara, &SENTIDO, viga::destruye));
-    for (int32_t i = static_cast<int32_t>(hasta(a, 5)); i != 0; --i) apunorde_inserta_original(v.get(), viga::crea(2000 * i + un_numero(a)), viga, nullptr);
+    for (int32_t i = static_cast<int32_t>(hasta(a, 5)); i != 0; --i)
+        apunorde_inserta_original(v.get(), viga::crea(2000 * i + un_numero(a)), viga, nullptr);
     return v;
 }
 inline orden crea_orden_opc(azar &a) { return hasta(a, 3) == 0 ? nullptr : crea_orden(a); }
 inline xpriv crea_xpriv(azar &a) {
     xpriv v(arr_CreaPunto2DXPriv(0));
-    for (uint32_t i = hasta(a, 4); i != 0; --i) arr_AppendPunto2DXPriv(v.get(), un<double>(a), un<double>(a), viga::crea(un_numero(a)));
+    for (uint32_t i = hasta(a, 4); i != 0; --i)
+        arr_AppendPunto2DXPriv(v.get(), un<double>(a), un<double>(a), viga::crea(un_numero(a)));
     return v;
 }
 inline void graba_con_marca(const char *s, vornsave *d) { vornsave_graba_cadena((std::string(s) + "*").c_str(), d); }
@@ -195,9 +199,11 @@ inline char *lee_con_marca(vornsave *d) {
 
 // ---- Arrays
 
+// clang-format off
 #define VN_CATALOGO_ARRAYS(X)                                                                                          \
     X(Double, double) X(Long, int32_t) X(Long64, int64_t) X(UChar, uint8_t) X(UShort, uint16_t) X(ULong, uint32_t)     \
     X(ULong64, uint64_t) X(BOOL, vnbool) X(Punto2D, Punto2D) X(Punto3D, Punto3D)
+// clang-format on
 #define X(S, T)                                                                                                        \
     inline void destruye_##S(arr##S **a) { arr_Destruye##S(a); }                                                       \
     using array_##S = dueno<arr##S, destruye_##S>;                                                                     \
@@ -235,23 +241,29 @@ using memoria = dueno<fichmem, fichmem_destruye>;
         for (uint32_t i = 0; a && i < numelems(a.get()); ++i) t += elemento + "|";                                     \
         return a ? t : "~";                                                                                            \
     }
-template <class C> std::string o_nulo(const C *s) { return s != nullptr ? de(std::optional<std::basic_string<C>>(s)) : "~"; }
+template <class C> std::string o_nulo(const C *s) {
+    return s != nullptr ? de(std::optional<std::basic_string<C>>(s)) : "~";
+}
 VN_LISTA(cadenas, arr_NumElemsCADENA, o_nulo(arr_GetCADENA(a.get(), i)))
 VN_LISTA(anchas, arr_NumElemsCADENA_u, o_nulo(arr_GetCADENA_u(a.get(), i)))
 VN_LISTA(conjunto, acadorde_numelems, o_nulo(acadorde_get(a.get(), i)))
 VN_LISTA(conjunto_u, acadordeu_numelems, o_nulo(acadordeu_get(a.get(), i)))
 VN_LISTA(lean, arulong_numelems, de(arulong_get(a.get(), i)))
 VN_LISTA(lean64, arulong64_numelems, de(arulong64_get(a.get(), i)))
-inline std::string de(const memoria &m) { return m ? std::string(reinterpret_cast<char *>(m->datos), m->longitud) : "~"; }
+inline std::string de(const memoria &m) {
+    return m ? std::string(reinterpret_cast<char *>(m->datos), m->longitud) : "~";
+}
 
 template <bool NULOS> cadenas crea_cadenas(azar &a) {
     cadenas v(arr_CreaCADENA(0));
-    for (uint32_t i = hasta(a, 8); i != 0; --i) arr_AppendCADENA(v.get(), NULOS && hasta(a, 4) == 0 ? nullptr : letras(a, LARGA).c_str());
+    for (uint32_t i = hasta(a, 8); i != 0; --i)
+        arr_AppendCADENA(v.get(), NULOS && hasta(a, 4) == 0 ? nullptr : letras(a, LARGA).c_str());
     return v;
 }
 template <bool NULOS> anchas crea_anchas(azar &a) {
     anchas v(arr_CreaCADENA_u(0));
-    for (uint32_t i = hasta(a, 8); i != 0; --i) arr_AppendCADENA_u(v.get(), NULOS && hasta(a, 4) == 0 ? nullptr : letras_anchas(a, false).c_str());
+    for (uint32_t i = hasta(a, 8); i != 0; --i)
+        arr_AppendCADENA_u(v.get(), NULOS && hasta(a, 4) == 0 ? nullptr : letras_anchas(a, false).c_str());
     return v;
 }
 inline cadenas crea_cadenas_opc(azar &a) { return hasta(a, 3) == 0 ? nullptr : crea_cadenas<false>(a); }
@@ -269,7 +281,8 @@ inline conjunto_u crea_conjunto_u(azar &a) {
 // Runs of equal values.
 inline array_Double crea_iguales(azar &a) {
     array_Double v(arr_CreaDouble(cuantos(a)));
-    for (uint32_t i = 0; i < arr_NumElemsDouble(v.get()); ++i) arr_SetDouble(v.get(), i, hasta(a, 10) == 0 ? un<double>(a) : hasta(a, 2));
+    for (uint32_t i = 0; i < arr_NumElemsDouble(v.get()); ++i)
+        arr_SetDouble(v.get(), i, hasta(a, 10) == 0 ? un<double>(a) : hasta(a, 2));
     return v;
 }
 inline lean crea_lean(azar &a) {
@@ -290,7 +303,8 @@ inline memoria crea_memoria(azar &a) {
 
 // ---- The rows
 
-template <class G, class W, class R> fila hace(const char *nombre, int clase, G genera, W graba, R lee, void (*salta)(vornsave *) = nullptr) {
+template <class G, class W, class R>
+fila hace(const char *nombre, int clase, G genera, W graba, R lee, void (*salta)(vornsave *) = nullptr) {
     using V = decltype(genera(std::declval<azar &>()));
     fila f{nombre, clase, {}, [=](vornsave *d) { return de(V(lee(d))); }, {}, {}};
     f.graba = [=](azar &a, vornsave *d) {
@@ -298,11 +312,12 @@ template <class G, class W, class R> fila hace(const char *nombre, int clase, G 
         graba(v, d);
         return de(v);
     };
-    if (!f.es(SIN_COPIA)) f.copia = [=](vornsave *origen, vornsave *a) {
-        const V v(lee(origen));
-        graba(v, a);
-        return de(v);
-    };
+    if (!f.es(SIN_COPIA))
+        f.copia = [=](vornsave *origen, vornsave *a) {
+            const V v(lee(origen));
+            graba(v, a);
+            return de(v);
+        };
     if (salta != nullptr) f.salta = [=](vornsave *d) { return salta(d), std::string(); };
     return f;
 }
@@ -312,10 +327,13 @@ inline const std::vector<fila> &filas() {
 #define LEE(...) [](vornsave *d) { return __VA_ARGS__; }
 #define NUMERO(T, op) hace(#op, 0, un<T>, vornsave_graba_##op, vornsave_lee_##op, vornsave_salta_##op)
 #define EN_MITADES(T, op) hace(#op, 0, un<T>, vornsave_graba_##op, vornsave_lee_##op)
-#define TEXTO(op, clase, V, genera, salta) hace(#op, clase, genera, ESCRIBE(V, vornsave_graba_##op(c(v), d)), LEE(toma(vornsave_lee_##op(d))), salta)
-#define PROPIA(op, clase, V, genera, salta) hace(#op, clase, genera, ESCRIBE(V, vornsave_graba_##op(v.get(), d)), LEE(V(vornsave_lee_##op(d))), salta)
+#define TEXTO(op, clase, V, genera, salta)                                                                             \
+    hace(#op, clase, genera, ESCRIBE(V, vornsave_graba_##op(c(v), d)), LEE(toma(vornsave_lee_##op(d))), salta)
+#define PROPIA(op, clase, V, genera, salta)                                                                            \
+    hace(#op, clase, genera, ESCRIBE(V, vornsave_graba_##op(v.get(), d)), LEE(V(vornsave_lee_##op(d))), salta)
 #define VALORES(S, op, salta)                                                                                          \
-    PROPIA(arr_##op, CON_CUENTA, array_##S, crea_##S, salta), PROPIA(arr_##op##_opcional, 0, array_##S, crea_opc_##S, nullptr)
+    PROPIA(arr_##op, CON_CUENTA, array_##S, crea_##S, salta),                                                          \
+        PROPIA(arr_##op##_opcional, 0, array_##S, crea_opc_##S, nullptr)
     const auto una = [](azar &a) { return texto_ansi(letras(a, 300)); };
     const auto sin_retornos = [](azar &a) { // raw bytes, which text translates
         std::string t = letras(a, 300);
@@ -324,14 +342,20 @@ inline const std::vector<fila> &filas() {
     };
     const auto una_opc = [](azar &a) { return hasta(a, 3) == 0 ? texto_ansi() : texto_ansi(letras(a, 300)); };
     const auto ancha = [](azar &a) { return texto_ancho(letras_anchas(a, false)); };
-    const auto ancha_opc = [](azar &a) { return hasta(a, 3) == 0 ? texto_ancho() : texto_ancho(letras_anchas(a, false)); };
+    const auto ancha_opc = [](azar &a) {
+        return hasta(a, 3) == 0 ? texto_ancho() : texto_ancho(letras_anchas(a, false));
+    };
     const auto utf8 = [](azar &a) { return texto_ancho(letras_anchas(a, true)); };
-    const auto utf8_opc = [](azar &a) { return hasta(a, 3) == 0 ? texto_ancho() : texto_ancho(letras_anchas(a, true)); };
+    const auto utf8_opc = [](azar &a) {
+        return hasta(a, 3) == 0 ? texto_ancho() : texto_ancho(letras_anchas(a, true));
+    };
     const auto logico = [](azar &a) { return static_cast<vnbool>(hasta(a, 2)); };
     const auto graba_vigas = ESCRIBE(vigas, vornsave_graba_arr_punterosST(v.get(), d, viga, viga::graba));
     const auto graba_vigas_menos = ESCRIBE(vigas, vornsave_graba_arr_punterosST(v.get(), d, viga, viga::graba_menos));
     const auto graba_orden_menos = ESCRIBE(orden, vornsave_graba_apunorde(v.get(), d, viga, viga::graba_menos));
-    const auto graba_una_menos = ESCRIBE(una_viga, vornsave_graba_estructura_opcional2ST(v.get(), d, viga, viga::graba_menos));
+    const auto graba_una_menos =
+        ESCRIBE(una_viga, vornsave_graba_estructura_opcional2ST(v.get(), d, viga, viga::graba_menos));
+    // clang-format off
     static const std::vector<fila> todas = {
         hace("bool", 0, logico, vornsave_graba_bool, vornsave_lee_bool, vornsave_salta_bool),
         hace("bool_con_texto", 0, logico, ESCRIBE(vnbool, vornsave_graba_bool_con_texto(v, d, "activo", "parado")),
@@ -435,6 +459,7 @@ inline const std::vector<fila> &filas() {
         hace("arr_puntos2DXPriv", CON_CUENTA, crea_xpriv, ESCRIBE(xpriv, vornsave_graba_arr_puntos2DXPrivST(v.get(), d, viga, viga::graba)),
              LEE(xpriv(vornsave_lee_arr_puntos2DXPrivST(d, viga, viga::lee)))),
     };
+    // clang-format on
     return todas;
 #undef ESCRIBE
 #undef LEE

@@ -63,9 +63,7 @@ inline void leido(const destino_de_prueba &d, std::string_view bytes, const std:
     lee(a);
 }
 // Bytes of a text with zeros in it: bytes("ab\0c").
-template <size_t N> std::string bytes(const char (&s)[N]) {
-    return {s, N - 1};
-}
+template <size_t N> std::string bytes(const char (&s)[N]) { return {s, N - 1}; }
 inline std::string hex(const std::string &b) {
     std::string t;
     for (const unsigned char c : b) {

@@ -1,8 +1,8 @@
-#include "persistence/ultiobra.h"
+#include "fallos.h"
 #include "foundation/listas/arr.h"
 #include "foundation/texto/msglocal.h"
 #include "foundation/texto/widestr.h"
-#include "fallos.h"
+#include "persistence/ultiobra.h"
 #include "prueba.h"
 #include <algorithm>
 #include <array>
@@ -97,7 +97,9 @@ PRUEBA(ultiobra, cada_version_se_lee_y_lo_danyado_se_borra_sin_ruido) {
         vn::graba_fichero(fichero(), f.contenido);
         EXPECT_EQ(obras(), f.obras);
         EXPECT_EQ(vn::existe(fichero()), f.finalizada != nullptr);
-        if (f.finalizada != nullptr) { EXPECT_EQ(ultima_finalizada(), f.finalizada); }
+        if (f.finalizada != nullptr) {
+            EXPECT_EQ(ultima_finalizada(), f.finalizada);
+        }
     }
     // A list of a newer program goes too, but not without a word.
     vn::graba_fichero(fichero(), "6 ; version\n1\n1 ; n\na.obr\n");
@@ -106,7 +108,8 @@ PRUEBA(ultiobra, cada_version_se_lee_y_lo_danyado_se_borra_sin_ruido) {
 }
 
 PRUEBA(ultiobra, el_filtro_mira_la_ruta_detras_de_los_corchetes) {
-    vn::graba_fichero(fichero(), "5 ; version\n1\n8 ; n\n[red]a.obr\n[b.obr\n\n[]\nc.OBR\nd.txt\ncarpeta\\\nmal*.obr\n");
+    vn::graba_fichero(fichero(),
+                      "5 ; version\n1\n8 ; n\n[red]a.obr\n[b.obr\n\n[]\nc.OBR\nd.txt\ncarpeta\\\nmal*.obr\n");
     EXPECT_EQ(obras(), "[red]a.obr|[b.obr|c.OBR|d.txt|carpeta\\|");
     arrCADENA_u *ext = extensiones({VNU("obr"), VNU("xyz")});
     EXPECT_EQ(junta(ultiobra_lee_ultimas_obras_u(lista().c_str(), ext)), "[red]a.obr|[b.obr|c.OBR|");
@@ -125,12 +128,14 @@ PRUEBA(ultiobra, la_obra_que_falta_se_quita_si_el_usuario_quiere) {
     widestr_destruye(&nombre);
 
     vn::Prueba::responde(FALSO);
-    EXPECT_EQ(ultiobra_nombre_existe_obra_reciente(lista().c_str(), VNU("a.obr"), existe_la_b, &nombre, &eliminada), FALSO);
+    EXPECT_EQ(ultiobra_nombre_existe_obra_reciente(lista().c_str(), VNU("a.obr"), existe_la_b, &nombre, &eliminada),
+              FALSO);
     EXPECT_TRUE(nombre == nullptr && eliminada == FALSO);
     const auto avisos = vn::Prueba::toma_avisos();
     ASSERT_EQ(avisos.size(), 1u);
-    EXPECT_EQ(avisos[0], "The file or files of 'a.obr' in the list of recently opened files no longer exist or cannot be "
-                         "accessed.\nDo you want to delete this entry from the list?");
+    EXPECT_EQ(avisos[0],
+              "The file or files of 'a.obr' in the list of recently opened files no longer exist or cannot be "
+              "accessed.\nDo you want to delete this entry from the list?");
 
     vn::Prueba::responde(CIERTO);
     EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 0, ext, existe_la_b, nullptr, &eliminada), FALSO);

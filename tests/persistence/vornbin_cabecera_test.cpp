@@ -1,10 +1,10 @@
+#include "fallos.h"
 #include "foundation/listas/arr.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/sistema/version.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/texto/unicode.h"
 #include "persistence/ultiobra.h"
 #include "persistence/vornbin.h"
-#include "fallos.h"
 #include "prueba.h"
 
 namespace {
@@ -19,19 +19,23 @@ std::string u16le(std::string_view ascii) {
     for (const char c : ascii) (s += c) += '\0';
     return s;
 }
-std::string numero(uint32_t n) { return {static_cast<char>(n), static_cast<char>(n >> 8), static_cast<char>(n >> 16), static_cast<char>(n >> 24)}; }
+std::string numero(uint32_t n) {
+    return {static_cast<char>(n), static_cast<char>(n >> 8), static_cast<char>(n >> 16), static_cast<char>(n >> 24)};
+}
 std::string texto_u(std::string_view ascii) { return numero(static_cast<uint32_t>(ascii.size())) + u16le(ascii); }
 std::string texto(std::string_view s) { return numero(static_cast<uint32_t>(s.size())).substr(0, 2) + std::string(s); }
 
 const std::string ID = "\2\1"s + texto("VORN-9-a");
 const std::string SIN_LISTAS = numero(0) + numero(0);
 // One field, two entries of the reserved list.
-const std::string LISTAS = numero(1) + texto_u("obra") + texto_u("puente") + numero(2) + numero(7) + texto_u("x") + numero(9) + texto_u("");
+const std::string LISTAS =
+    numero(1) + texto_u("obra") + texto_u("puente") + numero(2) + numero(7) + texto_u("x") + numero(9) + texto_u("");
 const std::string MARCA = "\xFD\xFE";
 
 // A file of the test's, by its names of both widths.
 struct archivo {
-    explicit archivo(const char *nombre = "obra.vrn") : ruta(vn::Prueba::directorio() + "/" + nombre), ruta_u(vn::ancho(ruta)) {}
+    explicit archivo(const char *nombre = "obra.vrn")
+        : ruta(vn::Prueba::directorio() + "/" + nombre), ruta_u(vn::ancho(ruta)) {}
     const vnwchar *u() const { return ruta_u.c_str(); }
     const char *ansi() const { return ruta.c_str(); }
     void graba(std::string_view bytes) const { vn::graba_fichero(ruta, bytes); }
@@ -57,7 +61,8 @@ std::string campos(const archivo &a) {
 
 // Saves over `a` with header and prologue, and one byte of data.
 vnbool guarda(const archivo &a, char dato = 'D') {
-    vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(a.u(), 3, "FIRMA", VNU("Título"), nullptr);
+    vnfichero *f =
+        vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(a.u(), 3, "FIRMA", VNU("Título"), nullptr);
     if (f == nullptr) return FALSO;
     bin_graba_char(dato, f);
     return vornbin_cierra_fichero_abierto_para_escritura_u(f, a.u(), nullptr);
@@ -94,8 +99,8 @@ struct apertura {
 apertura abre_completo(const archivo &a, uint16_t version_actual, vnbool *superior, uint16_t version_ascii = 0) {
     apertura r;
     vnwchar *titulo = nullptr;
-    vnfichero *f = vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(a.u(), version_actual, "FIRMA", nullptr, &r.version, &titulo,
-                                                                                version_ascii, &r.ejemplo, superior);
+    vnfichero *f = vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(
+        a.u(), version_actual, "FIRMA", nullptr, &r.version, &titulo, version_ascii, &r.ejemplo, superior);
     r.resultado = f != nullptr ? "open" : "closed";
     r.titulo = toma(titulo);
     if (f == nullptr) return r;
@@ -120,15 +125,22 @@ PRUEBA(vornbin_cabecera, las_cuatro_formas_de_fichero_al_byte) {
         std::remove(a.ansi());
         return bytes;
     };
-    EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(a.u(), 3, "FIRMA", VNU("Título"), nullptr)),
+    EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(a.u(), 3, "FIRMA", VNU("Título"),
+                                                                                     nullptr)),
               ID + "\1" + MARCA + SIN_LISTAS + PROLOGO + "D");
     EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_u(a.u(), nullptr)), ID + "\1" + MARCA + SIN_LISTAS + "D");
-    EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(a.u(), 3, "FIRMA", VNU("Título"), nullptr)), PROLOGO + "D");
+    EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(a.u(), 3, "FIRMA",
+                                                                                         VNU("Título"), nullptr)),
+              PROLOGO + "D");
     EXPECT_EQ(cierra(vornbin_abre_fichero_para_escritura_sin_cabecera(a.ansi(), nullptr)), "D");
     EXPECT_EQ(cierra(vornbin_abre_basico_fichero_para_escritura(a.ansi())), "D");
     // The ANSI forms of the close.
-    EXPECT_EQ(vornbin_cierra_basico_fichero_abierto_para_escritura(vornbin_abre_basico_fichero_para_escritura(a.ansi()), a.ansi()), CIERTO);
-    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura(vornbin_abre_basico_fichero_para_escritura(a.ansi()), a.ansi(), nullptr), CIERTO);
+    EXPECT_EQ(vornbin_cierra_basico_fichero_abierto_para_escritura(vornbin_abre_basico_fichero_para_escritura(a.ansi()),
+                                                                   a.ansi()),
+              CIERTO);
+    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura(vornbin_abre_basico_fichero_para_escritura(a.ansi()),
+                                                            a.ansi(), nullptr),
+              CIERTO);
     EXPECT_EQ(a.lee(), "");
 }
 
@@ -152,7 +164,8 @@ PRUEBA(vornbin_cabecera, que_identificaciones_y_formas_se_aceptan) {
         {"no revision", con_id("VORN-9-"), false, true, "", "", false, 0},
         {"another mask", con_id("VORM-9-a"), false, true, "", "", false, 0},
         {"no version text", con_id("VORN--a"), true, true, "", "a", false, 22},
-        {"199 characters", con_id("VORN-" + std::string(192, '1') + "-a"), true, true, std::string(192, '1'), "a", false, 214},
+        {"199 characters", con_id("VORN-" + std::string(192, '1') + "-a"), true, true, std::string(192, '1'), "a",
+         false, 214},
         {"200 characters", con_id("VORN-" + std::string(193, '1') + "-a"), false, true, "", "", false, 0},
         {"empty file", "", false, true, "", "", false, 0},
         {"two bytes", "\2\1", false, true, "", "", false, 0},
@@ -160,7 +173,10 @@ PRUEBA(vornbin_cabecera, que_identificaciones_y_formas_se_aceptan) {
         {"text cut short", "\2\1\10\0VORN-9-"s, false, true, "", "", false, 0},
         {"another first byte", "\1" + con_id("VORN-9-a").substr(1), false, true, "", "", false, 0},
         {"form 0 with lists", ID + "\0"s + MARCA + LISTAS, true, true, "9", "a", false, 15 + LISTAS.size()},
-        {"form 1 of the first years", ID + "\1" "datos", true, true, "9", "a", false, 13},
+        {"form 1 of the first years",
+         ID + "\1"
+              "datos",
+         true, true, "9", "a", false, 13},
         {"form 0 of the first years", ID + "\0datos"s, true, true, "9", "a", false, 13},
         {"form 1 at the end of the file", ID + "\1", true, true, "9", "a", false, 13},
         {"half the mark", ID + "\1\xFD", true, true, "9", "a", false, 13},
@@ -175,7 +191,9 @@ PRUEBA(vornbin_cabecera, que_identificaciones_y_formas_se_aceptan) {
         vnbool ejemplo = 7;
         vnbool hay = FALSO;
         if (fila.valido) hay = vornbin_hay_cabecera_en_fichero_u(a.u(), &version, &revision, &ejemplo);
-        else ESPERA_INFORME("fichero_valido == CIERTO", vornbin_hay_cabecera_en_fichero_u(a.u(), &version, &revision, &ejemplo));
+        else
+            ESPERA_INFORME("fichero_valido == CIERTO",
+                           vornbin_hay_cabecera_en_fichero_u(a.u(), &version, &revision, &ejemplo));
         EXPECT_EQ(hay, fila.hay && fila.valido) << fila.que;
         EXPECT_EQ(vornbin_es_fichero_vorn_valido(a.ansi()), fila.valido) << fila.que;
         EXPECT_EQ(toma(version), hay ? fila.version : "(null)") << fila.que;
@@ -204,30 +222,40 @@ PRUEBA(vornbin_cabecera, los_campos_y_la_lista_reservada_pasan_de_un_guardado_a_
         EXPECT_EQ(campos(a), "obra;=puente;");
     }
     // A host gives fields: one in its place, one at the end, twice the same the last one.
-    const auto da = [&](std::initializer_list<const vnwchar *> nombres, std::initializer_list<const vnwchar *> valores) {
+    const auto da = [&](std::initializer_list<const vnwchar *> nombres,
+                        std::initializer_list<const vnwchar *> valores) {
         arrCADENA_u *n = arr_CreaCADENA_u(0), *v = arr_CreaCADENA_u(0);
         for (auto t : nombres) arr_AppendCADENA_u(n, t);
         for (auto t : valores) arr_AppendCADENA_u(v, t);
-        vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "FIRMA", VNU("Título"), n, v, nullptr);
+        vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(
+            a.u(), 3, "FIRMA", VNU("Título"), n, v, nullptr);
         arr_DestruyeCADENA_u(&n);
         arr_DestruyeCADENA_u(&v);
         return f;
     };
-    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(da({VNU("obra"), VNU("autor")}, {VNU("túnel largo"), VNU("")}), a.u(), nullptr), CIERTO);
+    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(
+                  da({VNU("obra"), VNU("autor")}, {VNU("túnel largo"), VNU("")}), a.u(), nullptr),
+              CIERTO);
     EXPECT_EQ(campos(a), "obra;autor;=túnel largo;;");
-    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(da({VNU("obra"), VNU("obra")}, {VNU(""), VNU("fin")}), a.u(), nullptr), CIERTO);
+    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(da({VNU("obra"), VNU("obra")}, {VNU(""), VNU("fin")}),
+                                                              a.u(), nullptr),
+              CIERTO);
     EXPECT_EQ(campos(a), "obra;autor;=fin;;");
-    EXPECT_NE(a.lee().find(numero(2) + numero(7) + texto_u("x") + numero(9) + texto_u("") + PROLOGO), std::string::npos);
-    EXPECT_EQ(ESPERA_INFORME("arr_NumElemsCADENA_u(nombres) == arr_NumElemsCADENA_u(valores)", da({VNU("obra")}, {})), nullptr);
+    EXPECT_NE(a.lee().find(numero(2) + numero(7) + texto_u("x") + numero(9) + texto_u("") + PROLOGO),
+              std::string::npos);
+    EXPECT_EQ(ESPERA_INFORME("arr_NumElemsCADENA_u(nombres) == arr_NumElemsCADENA_u(valores)", da({VNU("obra")}, {})),
+              nullptr);
     // Many, over many.
     arrCADENA_u *n = arr_CreaCADENA_u(0), *v = arr_CreaCADENA_u(0);
     for (int32_t k = 0; k < 20000; ++k) arr_AppendCADENA_u(n, vn::ancho("campo " + std::to_string(k)).c_str());
     arr_ConcatenaCADENA_u(v, n);
     vornbin_cierra_fichero_abierto_para_escritura_u(
-        vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "F", VNU(""), n, v, nullptr), a.u(), nullptr);
+        vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "F", VNU(""), n, v, nullptr),
+        a.u(), nullptr);
     for (uint32_t k = 0; k < 300; ++k) arr_SetCADENA_u(n, k, vn::ancho("nuevo " + std::to_string(k)).c_str());
     vornbin_cierra_fichero_abierto_para_escritura_u(
-        vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "F", VNU(""), n, v, nullptr), a.u(), nullptr);
+        vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "F", VNU(""), n, v, nullptr),
+        a.u(), nullptr);
     arr_DestruyeCADENA_u(&n);
     arr_DestruyeCADENA_u(&v);
     EXPECT_EQ(vornbin_lee_campos_cabecera_u(a.u(), &n, &v), CIERTO);
@@ -287,7 +315,8 @@ PRUEBA(vornbin_cabecera, el_prologo_solo_se_lee_de_forma_estricta_y_tolerante) {
         {"newer", "\0\4\0"s + texto("FIRMA") + texto("t"), "*version <= version_actual", nullptr},
         {"another signature", "\0\3\0"s + texto("FIRMB") + texto("t"), "cad_cadenas_iguales(buf, firma)", nullptr},
         {"cut in the version", "\0\3"s, "lc_error_leyendo_fichero", "lc_error_leyendo_fichero"},
-        {"cut in the title", "\0\3\0"s + texto("FIRMA") + "\5\0t"s, "lc_error_leyendo_fichero", "lc_error_leyendo_fichero"},
+        {"cut in the title", "\0\3\0"s + texto("FIRMA") + "\5\0t"s, "lc_error_leyendo_fichero",
+         "lc_error_leyendo_fichero"},
     };
     for (const auto &fila : filas)
         for (const bool tolerante : {false, true}) {
@@ -299,8 +328,12 @@ PRUEBA(vornbin_cabecera, el_prologo_solo_se_lee_de_forma_estricta_y_tolerante) {
             const bool bien = fila.informe_estricto == nullptr;
             con_informe(tolerante ? fila.informe_tolerante : fila.informe_estricto, [&] {
                 if (tolerante)
-                    EXPECT_EQ(vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(a.u(), 3, "FIRMA", nullptr, 0, &f, &version, &titulo), bien);
-                else f = vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(a.u(), 3, "FIRMA", nullptr, &version, &titulo, 0);
+                    EXPECT_EQ(vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(
+                                  a.u(), 3, "FIRMA", nullptr, 0, &f, &version, &titulo),
+                              bien);
+                else
+                    f = vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(a.u(), 3, "FIRMA", nullptr,
+                                                                                          &version, &titulo, 0);
             });
             EXPECT_TRUE(!tolerante || version == (bien ? 3 : 65535));
             EXPECT_EQ(toma(titulo), bien ? "t" : "(null)");
@@ -348,7 +381,8 @@ PRUEBA(vornbin_cabecera, un_fichero_que_no_se_puede_leer_se_dice_al_usuario) {
         EXPECT_EQ(bin_fichero_valido(f, fila.version_actual, "FIRMA", &nuevo, 0), fila.valido) << fila.que;
         EXPECT_EQ(toma(nuevo), fila.valido ? "T\xEDtulo" : "(null)") << fila.que;
         if (fila.valido) {
-            EXPECT_EQ(lc_bytes_restantes(f), static_cast<int64_t>(fila.bytes.size() - fila.bytes.rfind("tulo") - 4)) << fila.que;
+            EXPECT_EQ(lc_bytes_restantes(f), static_cast<int64_t>(fila.bytes.size() - fila.bytes.rfind("tulo") - 4))
+                << fila.que;
         }
         lc_fclose(f);
     }
@@ -370,7 +404,8 @@ PRUEBA(vornbin_cabecera, la_forma_de_depuracion_marca_la_version_y_los_datos_per
     // Each stream keeps its form, whatever others are open.
     const archivo b("otro");
     vnstdc_putenv("GRABARCONDEBUG=1");
-    vnfichero *con = vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(a.u(), 3, "FIRMA", VNU("T"), nullptr);
+    vnfichero *con =
+        vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(a.u(), 3, "FIRMA", VNU("T"), nullptr);
     vnstdc_putenv("GRABARCONDEBUG=");
     EXPECT_EQ(guarda(b), CIERTO);
     bin_graba_long(5, con);
@@ -378,7 +413,8 @@ PRUEBA(vornbin_cabecera, la_forma_de_depuracion_marca_la_version_y_los_datos_per
     uint16_t version = 0;
     vnwchar *titulo = nullptr;
     const auto abre = [&](const archivo &que) {
-        vnfichero *abierto = vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(que.u(), 3, "FIRMA", nullptr, &version, &titulo, 0, nullptr, nullptr);
+        vnfichero *abierto = vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(
+            que.u(), 3, "FIRMA", nullptr, &version, &titulo, 0, nullptr, nullptr);
         vn::toma(titulo);
         return abierto;
     };
@@ -418,7 +454,8 @@ PRUEBA(vornbin_cabecera, un_ejemplo_sigue_siendo_ejemplo_y_un_fichero_se_hace_ej
     EXPECT_EQ(guarda(a), CIERTO);
     EXPECT_EQ(a.lee(), ID + "\1" + MARCA + SIN_LISTAS + PROLOGO + "D");
 
-    const std::string datos(5000, 'd'), blancas = numero(1) + texto_u("    ") + texto_u("      ") + numero(2) + numero(0) + texto_u(" ") + numero(0) + texto_u("");
+    const std::string datos(5000, 'd'), blancas = numero(1) + texto_u("    ") + texto_u("      ") + numero(2) +
+                                                  numero(0) + texto_u(" ") + numero(0) + texto_u("");
     const struct {
         std::string antes, despues;
     } filas[] = {
@@ -446,7 +483,8 @@ PRUEBA(vornbin_cabecera, la_herramienta_de_soporte_ve_la_cabecera) {
     vnwchar *contenido = nullptr;
     const auto ve = [&](const std::string &bytes) {
         a.graba(bytes);
-        const vnbool bien = vornbin_lee_datos_cabecera_debug_soporte(a.ansi(), &version, &revision, &ejemplo, &contenido);
+        const vnbool bien =
+            vornbin_lee_datos_cabecera_debug_soporte(a.ansi(), &version, &revision, &ejemplo, &contenido);
         std::string r = std::to_string(bien);
         for (char *p : {version, revision}) r += "|" + toma(p);
         return r + "|" + std::to_string(ejemplo) + "|" + toma(contenido);

@@ -1,6 +1,6 @@
-#include "persistence/vornbin.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/texto/unicode.h"
+#include "persistence/vornbin.h"
 #include "prueba.h"
 #include <cfloat>
 #include <cmath>
@@ -22,7 +22,8 @@ class datos {
     // The bytes that `escribe` writes.
     std::string graba(const accion &escribe) {
         vnstdc_putenv(etiquetas_ ? "GRABARCONDEBUG=1" : "GRABARCONDEBUG=");
-        vnfichero *f = vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(nombre_u(), 1, "F", VNU(""), nullptr);
+        vnfichero *f =
+            vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(nombre_u(), 1, "F", VNU(""), nullptr);
         vnstdc_putenv("GRABARCONDEBUG=");
         escribe(f);
         EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(f, nombre_u(), nullptr), CIERTO);
@@ -33,7 +34,8 @@ class datos {
     int64_t lee(const accion &lector) {
         uint16_t version = 0;
         char *titulo = nullptr;
-        vnfichero *f = vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(nombre_u(), 1, "F", nullptr, &version, &titulo, 0);
+        vnfichero *f = vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(nombre_u(), 1, "F", nullptr,
+                                                                                         &version, &titulo, 0);
         vn::toma(titulo);
         lector(f);
         const int64_t quedan = lc_bytes_restantes(f);
@@ -80,34 +82,94 @@ const std::string UNO = "\0\0\0\0\0\0\xF0\x3F"s, DOS = "\0\0\0\0\0\0\0\x40"s;
 
 std::vector<caso> casos() {
     return {
-        {"bool", [](auto f) { bin_graba_bool(CIERTO, f); }, "\1", "b\1", [](auto f) { return bin_lee_bool(f) == CIERTO; }, bin_salta_bool},
-        {"byte", [](auto f) { bin_graba_byte(200, f); }, "\xC8", "b\xC8", [](auto f) { return bin_lee_byte(f) == 200; }, bin_salta_byte},
-        {"char", [](auto f) { bin_graba_char('\xF1', f); }, "\xF1", "c\xF1", [](auto f) { return bin_lee_char(f) == '\xF1'; }, bin_salta_char},
-        {"uchar", [](auto f) { bin_graba_uchar(255, f); }, "\xFF", "u\xFF", [](auto f) { return bin_lee_uchar(f) == 255; }},
-        {"short", [](auto f) { bin_graba_short(-2, f); }, "\xFE\xFF", "s\xFE\xFF", [](auto f) { return bin_lee_short(f) == -2; }, bin_salta_short},
-        {"ushort", [](auto f) { bin_graba_ushort(0x8001, f); }, "\x01\x80", "u\x01\x80", [](auto f) { return bin_lee_ushort(f) == 0x8001; }, bin_salta_ushort},
-        {"long", [](auto f) { bin_graba_long(-0x01020304, f); }, "\xFC\xFC\xFD\xFE", "l\xFC\xFC\xFD\xFE", [](auto f) { return bin_lee_long(f) == -0x01020304; }, bin_salta_long},
-        {"ulong", [](auto f) { bin_graba_ulong(0x80000001, f); }, "\1\0\0\x80"s, "u\1\0\0\x80"s, [](auto f) { return bin_lee_ulong(f) == 0x80000001; }, bin_salta_ulong},
-        {"long64", [](auto f) { bin_graba_long64(-2, f); }, "\xFE\xFF\xFF\xFF\xFF\xFF\xFF\xFF", "l\xFE\xFF\xFF\xFF\xFF\xFF\xFF\xFF", [](auto f) { return bin_lee_long64(f) == -2; }, bin_salta_long64},
-        {"ulong64", [](auto f) { bin_graba_ulong64(0x8000000000000001, f); }, "\1\0\0\0\0\0\0\x80"s, "u\1\0\0\0\0\0\0\x80"s, [](auto f) { return bin_lee_ulong64(f) == 0x8000000000000001; }, bin_salta_ulong64},
-        {"float", [](auto f) { bin_graba_float(1, f); }, "\0\0\x80\x3F"s, "f\0\0\x80\x3F"s, [](auto f) { return bin_lee_float(f) == 1; }, bin_salta_float},
-        {"double", [](auto f) { bin_graba_double(1, f); }, UNO, "d" + UNO, [](auto f) { return bin_lee_double(f) == 1; }, bin_salta_double},
+        {"bool", [](auto f) { bin_graba_bool(CIERTO, f); }, "\1", "b\1",
+         [](auto f) { return bin_lee_bool(f) == CIERTO; }, bin_salta_bool},
+        {"byte", [](auto f) { bin_graba_byte(200, f); }, "\xC8", "b\xC8", [](auto f) { return bin_lee_byte(f) == 200; },
+         bin_salta_byte},
+        {"char", [](auto f) { bin_graba_char('\xF1', f); }, "\xF1", "c\xF1",
+         [](auto f) { return bin_lee_char(f) == '\xF1'; }, bin_salta_char},
+        {"uchar", [](auto f) { bin_graba_uchar(255, f); }, "\xFF", "u\xFF",
+         [](auto f) { return bin_lee_uchar(f) == 255; }},
+        {"short", [](auto f) { bin_graba_short(-2, f); }, "\xFE\xFF", "s\xFE\xFF",
+         [](auto f) { return bin_lee_short(f) == -2; }, bin_salta_short},
+        {"ushort", [](auto f) { bin_graba_ushort(0x8001, f); }, "\x01\x80", "u\x01\x80",
+         [](auto f) { return bin_lee_ushort(f) == 0x8001; }, bin_salta_ushort},
+        {"long", [](auto f) { bin_graba_long(-0x01020304, f); }, "\xFC\xFC\xFD\xFE", "l\xFC\xFC\xFD\xFE",
+         [](auto f) { return bin_lee_long(f) == -0x01020304; }, bin_salta_long},
+        {"ulong", [](auto f) { bin_graba_ulong(0x80000001, f); }, "\1\0\0\x80"s, "u\1\0\0\x80"s,
+         [](auto f) { return bin_lee_ulong(f) == 0x80000001; }, bin_salta_ulong},
+        {"long64", [](auto f) { bin_graba_long64(-2, f); }, "\xFE\xFF\xFF\xFF\xFF\xFF\xFF\xFF",
+         "l\xFE\xFF\xFF\xFF\xFF\xFF\xFF\xFF", [](auto f) { return bin_lee_long64(f) == -2; }, bin_salta_long64},
+        {"ulong64", [](auto f) { bin_graba_ulong64(0x8000000000000001, f); }, "\1\0\0\0\0\0\0\x80"s,
+         "u\1\0\0\0\0\0\0\x80"s, [](auto f) { return bin_lee_ulong64(f) == 0x8000000000000001; }, bin_salta_ulong64},
+        {"float", [](auto f) { bin_graba_float(1, f); }, "\0\0\x80\x3F"s, "f\0\0\x80\x3F"s,
+         [](auto f) { return bin_lee_float(f) == 1; }, bin_salta_float},
+        {"double", [](auto f) { bin_graba_double(1, f); }, UNO, "d" + UNO,
+         [](auto f) { return bin_lee_double(f) == 1; }, bin_salta_double},
         {"SN", [](auto f) { bin_graba_SN('N', f); }, "N", "cN", [](auto f) { return bin_lee_SN(f) == 'N'; }},
-        {"cadena", [](auto f) { bin_graba_cadena("ab\xE9", f); }, "\3\0ab\xE9"s, "\3\0ab\xE9"s, [](auto f) { return vn::toma(bin_lee_cadena(f)) == "ab\xE9"; }},
-        {"cadena vacia", [](auto f) { bin_graba_cadena("", f); }, "\0\0"s, "\0\0"s, [](auto f) { return vn::toma(bin_lee_cadena(f)) == ""; }},
-        {"unicode", [](auto f) { bin_graba_cadena_unicode(VNU("aé中"), f); }, "\3\0\0\0a\0\xE9\0\x2D\x4E"s, "\3\0\0\0a\0\xE9\0\x2D\x4E"s, [](auto f) { return vn::toma(bin_lee_cadena_unicode(f)) == vn::utf8_de(VNU("aé中")); }},
-        {"unicode vacia", [](auto f) { bin_graba_cadena_unicode(VNU(""), f); }, "\0\0\0\0"s, "\0\0\0\0"s, [](auto f) { return vn::toma(bin_lee_cadena_unicode(f)) == vn::utf8_de(VNU("")); }},
-        {"null", [](auto f) { bin_graba_null(nullptr, f); }, "\0"s, "b\0"s, [](auto f) { return bin_lee_null(f) == nullptr; }},
-        {"null con texto vacio", [](auto f) { bin_graba_null("", f); }, "\1\0\0"s, "b\1\0\0"s, [](auto f) { return vn::toma(bin_lee_null(f)) == ""; }},
-        {"null unicode", [](auto f) { bin_graba_null_unicode(nullptr, f); }, "\0"s, "b\0"s, [](auto f) { return bin_lee_null_unicode(f) == nullptr; }},
-        {"null unicode con texto", [](auto f) { bin_graba_null_unicode(VNU("a"), f); }, "\1\1\0\0\0a\0"s, "b\1\1\0\0\0a\0"s, [](auto f) { return vn::toma(bin_lee_null_unicode(f)) == vn::utf8_de(VNU("a")); }},
-        {"double null", [](auto f) { bin_graba_double_posible_null(nullptr, f); }, "\0"s, "b\0"s, [](auto f) { return bin_lee_double_posible_null(f) == nullptr; }},
-        {"double no null", [](auto f) { const double d = 2; bin_graba_double_posible_null(&d, f); }, "\1" + DOS, "b\1d" + DOS, [](auto f) { return es_valor(bin_lee_double_posible_null(f), 2.0); }},
-        {"punto", [](auto f) { const Punto2D p{1, 2}; bin_graba_punto(&p, f); }, UNO + DOS, "d" + UNO + "d" + DOS, [](auto f) { return es_punto(bin_lee_punto(f), 1, 2); }},
-        {"punto2D", [](auto f) { const Punto2D p{1, 2}; bin_graba_punto2D(&p, f); }, UNO + DOS, "p" + UNO + DOS, [](auto f) { Punto2D p; bin_lee_punto2D(&p, f); return p.x == 1 && p.y == 2; }},
-        {"punto de float", [](auto f) { bin_graba_float(1, f); bin_graba_float(2, f); }, "\0\0\x80\x3F\0\0\0\x40"s, "f\0\0\x80\x3F" "f\0\0\0\x40"s, [](auto f) { return es_punto(bin_lee_punto_float(f), 1, 2); }},
-        {"buffer", [](auto f) { bin_graba_buffer("a\0b", 3, f); }, "a\0b"s, "a\0b"s, [](auto f) { char b[3]; bin_lee_buffer(b, 3, f); return memcmp(b, "a\0b", 3) == 0; }},
-        {"buffer de wide", [](auto f) { bin_graba_buffer_u(VNU("aé"), 2, f); }, "a\0\xE9\0"s, "a\0\xE9\0"s, [](auto f) { vnwchar b[2]; bin_lee_buffer_u(b, 2, f); return b[0] == 'a' && b[1] == 0xE9; }},
+        {"cadena", [](auto f) { bin_graba_cadena("ab\xE9", f); }, "\3\0ab\xE9"s, "\3\0ab\xE9"s,
+         [](auto f) { return vn::toma(bin_lee_cadena(f)) == "ab\xE9"; }},
+        {"cadena vacia", [](auto f) { bin_graba_cadena("", f); }, "\0\0"s, "\0\0"s,
+         [](auto f) { return vn::toma(bin_lee_cadena(f)) == ""; }},
+        {"unicode", [](auto f) { bin_graba_cadena_unicode(VNU("aé中"), f); }, "\3\0\0\0a\0\xE9\0\x2D\x4E"s,
+         "\3\0\0\0a\0\xE9\0\x2D\x4E"s,
+         [](auto f) { return vn::toma(bin_lee_cadena_unicode(f)) == vn::utf8_de(VNU("aé中")); }},
+        {"unicode vacia", [](auto f) { bin_graba_cadena_unicode(VNU(""), f); }, "\0\0\0\0"s, "\0\0\0\0"s,
+         [](auto f) { return vn::toma(bin_lee_cadena_unicode(f)) == vn::utf8_de(VNU("")); }},
+        {"null", [](auto f) { bin_graba_null(nullptr, f); }, "\0"s, "b\0"s,
+         [](auto f) { return bin_lee_null(f) == nullptr; }},
+        {"null con texto vacio", [](auto f) { bin_graba_null("", f); }, "\1\0\0"s, "b\1\0\0"s,
+         [](auto f) { return vn::toma(bin_lee_null(f)) == ""; }},
+        {"null unicode", [](auto f) { bin_graba_null_unicode(nullptr, f); }, "\0"s, "b\0"s,
+         [](auto f) { return bin_lee_null_unicode(f) == nullptr; }},
+        {"null unicode con texto", [](auto f) { bin_graba_null_unicode(VNU("a"), f); }, "\1\1\0\0\0a\0"s,
+         "b\1\1\0\0\0a\0"s, [](auto f) { return vn::toma(bin_lee_null_unicode(f)) == vn::utf8_de(VNU("a")); }},
+        {"double null", [](auto f) { bin_graba_double_posible_null(nullptr, f); }, "\0"s, "b\0"s,
+         [](auto f) { return bin_lee_double_posible_null(f) == nullptr; }},
+        {"double no null",
+         [](auto f) {
+             const double d = 2;
+             bin_graba_double_posible_null(&d, f);
+         },
+         "\1" + DOS, "b\1d" + DOS, [](auto f) { return es_valor(bin_lee_double_posible_null(f), 2.0); }},
+        {"punto",
+         [](auto f) {
+             const Punto2D p{1, 2};
+             bin_graba_punto(&p, f);
+         },
+         UNO + DOS, "d" + UNO + "d" + DOS, [](auto f) { return es_punto(bin_lee_punto(f), 1, 2); }},
+        {"punto2D",
+         [](auto f) {
+             const Punto2D p{1, 2};
+             bin_graba_punto2D(&p, f);
+         },
+         UNO + DOS, "p" + UNO + DOS,
+         [](auto f) {
+             Punto2D p;
+             bin_lee_punto2D(&p, f);
+             return p.x == 1 && p.y == 2;
+         }},
+        {"punto de float",
+         [](auto f) {
+             bin_graba_float(1, f);
+             bin_graba_float(2, f);
+         },
+         "\0\0\x80\x3F\0\0\0\x40"s,
+         "f\0\0\x80\x3F"
+         "f\0\0\0\x40"s,
+         [](auto f) { return es_punto(bin_lee_punto_float(f), 1, 2); }},
+        {"buffer", [](auto f) { bin_graba_buffer("a\0b", 3, f); }, "a\0b"s, "a\0b"s,
+         [](auto f) {
+             char b[3];
+             bin_lee_buffer(b, 3, f);
+             return memcmp(b, "a\0b", 3) == 0;
+         }},
+        {"buffer de wide", [](auto f) { bin_graba_buffer_u(VNU("aé"), 2, f); }, "a\0\xE9\0"s, "a\0\xE9\0"s,
+         [](auto f) {
+             vnwchar b[2];
+             bin_lee_buffer_u(b, 2, f);
+             return b[0] == 'a' && b[1] == 0xE9;
+         }},
     };
 }
 
@@ -123,7 +185,9 @@ PRUEBA(vornbin, cada_valor_tiene_sus_bytes_en_las_dos_formas_y_vuelve) {
             });
             const std::string final = etiquetas ? "bZ" : "Z";
             EXPECT_EQ(bytes, (etiquetas ? c.con_etiquetas : c.bytes) + final) << c.nombre;
-            EXPECT_EQ(d.lee([&](vnfichero *f) { EXPECT_TRUE(c.lee(f)) << c.nombre; }), static_cast<int64_t>(final.size())) << c.nombre;
+            EXPECT_EQ(d.lee([&](vnfichero *f) { EXPECT_TRUE(c.lee(f)) << c.nombre; }),
+                      static_cast<int64_t>(final.size()))
+                << c.nombre;
             if (c.salta != nullptr) {
                 EXPECT_EQ(d.lee(c.salta), static_cast<int64_t>(final.size())) << c.nombre;
             }
@@ -188,8 +252,10 @@ PRUEBA(vornbin, un_valor_malo_se_informa_y_se_escribe_igual) {
     } malos[] = {
         {"valor == CIERTO || valor == FALSO", [](auto f) { bin_graba_bool(2, f); }, "\2"},
         {"dato == 'S' || dato == 'N'", [](auto f) { bin_graba_SN('s', f); }, "s"},
-        {"defmath_es_numero_valido(dato) == CIERTO", [=](auto f) { bin_graba_double(infinito, f); }, "\0\0\0\0\0\0\xF0\x7F"s, CIERTO},
-        {"defmath_es_numero_valido(dato) == CIERTO", [=](auto f) { bin_graba_punto(&p, f); }, "\0\0\0\0\0\0\xF0\x7F"s + UNO, CIERTO},
+        {"defmath_es_numero_valido(dato) == CIERTO", [=](auto f) { bin_graba_double(infinito, f); },
+         "\0\0\0\0\0\0\xF0\x7F"s, CIERTO},
+        {"defmath_es_numero_valido(dato) == CIERTO", [=](auto f) { bin_graba_punto(&p, f); },
+         "\0\0\0\0\0\0\xF0\x7F"s + UNO, CIERTO},
         {"l <= USHRT_MAX", [&](auto f) { bin_graba_cadena(largo.c_str(), f); }, "\3\0aaa"s},
         {"(buf) != NULL", [](auto f) { bin_graba_cadena(nullptr, f); }, ""},
         {"(pto) != NULL", [](auto f) { bin_graba_punto(nullptr, f); }, ""},
@@ -221,33 +287,45 @@ PRUEBA(vornbin, lo_que_no_se_puede_leer_se_informa_y_se_sigue) {
     EXPECT_EQ(lee("s", LECTURA, [](auto f) { EXPECT_EQ(bin_lee_SN(f), 's'); }), 0);
     EXPECT_EQ(lee("\2\0\0"s, "resultado == 0", [](auto f) { EXPECT_EQ(bin_lee_null(f), nullptr); }), 2);
     EXPECT_EQ(lee("\2\0\0"s, "resultado == 0", [](auto f) { EXPECT_EQ(bin_lee_null_unicode(f), nullptr); }), 2);
-    EXPECT_EQ(lee("\xFF\0\0"s, "resultado == 0", [](auto f) { EXPECT_EQ(bin_lee_double_posible_null(f), nullptr); }), 2);
+    EXPECT_EQ(lee("\xFF\0\0"s, "resultado == 0", [](auto f) { EXPECT_EQ(bin_lee_double_posible_null(f), nullptr); }),
+              2);
     lee("\1\2", LECTURA, [](auto f) { EXPECT_EQ(bin_lee_long(f), 0x0201); }); // the missing bytes are zero
     // Tags: the value behind a wrong one is read on.
     datos con_etiquetas(true);
-    EXPECT_EQ(con_etiquetas.lee("u\1\0\0\0l\2\0\0\0"s, [&](vnfichero *f) {
-        con_informe(LECTURA, [=] { EXPECT_EQ(bin_lee_long(f), 1); });
-        EXPECT_EQ(bin_lee_long(f), 2);
-    }), 0);
-    EXPECT_EQ(con_etiquetas.lee("d" + UNO + UNO, [&](vnfichero *f) {
-        Punto2D p;
-        con_informe(LECTURA, [&] { bin_lee_punto2D(&p, f); });
-        EXPECT_EQ(p.x, 1);
-    }), 0);
+    EXPECT_EQ(con_etiquetas.lee("u\1\0\0\0l\2\0\0\0"s,
+                                [&](vnfichero *f) {
+                                    con_informe(LECTURA, [=] { EXPECT_EQ(bin_lee_long(f), 1); });
+                                    EXPECT_EQ(bin_lee_long(f), 2);
+                                }),
+              0);
+    EXPECT_EQ(con_etiquetas.lee("d" + UNO + UNO,
+                                [&](vnfichero *f) {
+                                    Punto2D p;
+                                    con_informe(LECTURA, [&] { bin_lee_punto2D(&p, f); });
+                                    EXPECT_EQ(p.x, 1);
+                                }),
+              0);
 }
 
 PRUEBA(vornbin, una_longitud_falsa_no_reserva_memoria) {
     datos d;
-    d.lee("\xFF\xFF\xFF\xFF" "\xFF\xFF", [&](vnfichero *f) {
-        const vn::mayor_bloque mayor;
-        EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", vn::toma(bin_lee_cadena_unicode(f))), "");
-        EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", vn::toma(bin_lee_cadena(f))), "");
-        EXPECT_LT(mayor(), 100u);
-    });
+    d.lee("\xFF\xFF\xFF\xFF"
+          "\xFF\xFF",
+          [&](vnfichero *f) {
+              const vn::mayor_bloque mayor;
+              EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", vn::toma(bin_lee_cadena_unicode(f))), "");
+              EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", vn::toma(bin_lee_cadena(f))), "");
+              EXPECT_LT(mayor(), 100u);
+          });
     // One byte too many is as false; all that is left is not.
-    d.lee("\3\0ab"s, [](vnfichero *f) { EXPECT_TRUE(ESPERA_INFORME("lc_error_leyendo_fichero", vn::toma(bin_lee_cadena(f)) == "")); });
+    d.lee("\3\0ab"s, [](vnfichero *f) {
+        EXPECT_TRUE(ESPERA_INFORME("lc_error_leyendo_fichero", vn::toma(bin_lee_cadena(f)) == ""));
+    });
     d.lee("\2\0ab"s, [](vnfichero *f) { EXPECT_TRUE(vn::toma(bin_lee_cadena(f)) == "ab"); });
-    d.lee("\2\0\0\0a\0b"s, [](vnfichero *f) { EXPECT_TRUE(ESPERA_INFORME("lc_error_leyendo_fichero", vn::toma(bin_lee_cadena_unicode(f)) == vn::utf8_de(VNU("")))); });
+    d.lee("\2\0\0\0a\0b"s, [](vnfichero *f) {
+        EXPECT_TRUE(
+            ESPERA_INFORME("lc_error_leyendo_fichero", vn::toma(bin_lee_cadena_unicode(f)) == vn::utf8_de(VNU(""))));
+    });
 }
 
 PRUEBA(vornbin, los_textos_antiguos_se_convierten_hasta_la_ultima_version_ascii) {
@@ -255,21 +333,25 @@ PRUEBA(vornbin, los_textos_antiguos_se_convierten_hasta_la_ultima_version_ascii)
     unicode_establece_pagina_ANSI(1252);
     const std::string texto = "\2\0a\x82"s;
     datos d;
-    EXPECT_EQ(d.lee(texto + texto + texto + "\1" + texto + "\1" + texto + "\x82\x82\x82" "x\x82x\x82", [](vnfichero *f) {
-        EXPECT_TRUE(vn::toma(bin_lee_cadena_ASCII(f)) == "a\xE9");
-        EXPECT_TRUE(vn::toma(bin_lee_cadena_ansi_ascii(f, 5, 5)) == "a\xE9");
-        EXPECT_TRUE(vn::toma(bin_lee_cadena_ansi_ascii(f, 6, 5)) == "a\x82");
-        EXPECT_TRUE(vn::toma(bin_lee_null_ansi_ascii(f, 4, 5)) == "a\xE9");
-        EXPECT_TRUE(vn::toma(bin_lee_null_ansi_ascii(f, 6, 5)) == "a\x82");
-        EXPECT_EQ(bin_lee_char_ASCII(f), '\xE9');
-        EXPECT_EQ(bin_lee_char_ansi_ascii(f, 5, 5), '\xE9');
-        EXPECT_EQ(bin_lee_char_ansi_ascii(f, 6, 5), '\x82');
-        char buffer[2];
-        bin_lee_buffer_ascii(buffer, 2, f);
-        EXPECT_EQ(std::string(buffer, 2), "x\xE9");
-        bin_lee_buffer_ansi_ascii(buffer, 2, f, 6, 5);
-        EXPECT_EQ(std::string(buffer, 2), "x\x82");
-    }), 0);
+    EXPECT_EQ(d.lee(texto + texto + texto + "\1" + texto + "\1" + texto +
+                        "\x82\x82\x82"
+                        "x\x82x\x82",
+                    [](vnfichero *f) {
+                        EXPECT_TRUE(vn::toma(bin_lee_cadena_ASCII(f)) == "a\xE9");
+                        EXPECT_TRUE(vn::toma(bin_lee_cadena_ansi_ascii(f, 5, 5)) == "a\xE9");
+                        EXPECT_TRUE(vn::toma(bin_lee_cadena_ansi_ascii(f, 6, 5)) == "a\x82");
+                        EXPECT_TRUE(vn::toma(bin_lee_null_ansi_ascii(f, 4, 5)) == "a\xE9");
+                        EXPECT_TRUE(vn::toma(bin_lee_null_ansi_ascii(f, 6, 5)) == "a\x82");
+                        EXPECT_EQ(bin_lee_char_ASCII(f), '\xE9');
+                        EXPECT_EQ(bin_lee_char_ansi_ascii(f, 5, 5), '\xE9');
+                        EXPECT_EQ(bin_lee_char_ansi_ascii(f, 6, 5), '\x82');
+                        char buffer[2];
+                        bin_lee_buffer_ascii(buffer, 2, f);
+                        EXPECT_EQ(std::string(buffer, 2), "x\xE9");
+                        bin_lee_buffer_ansi_ascii(buffer, 2, f, 6, 5);
+                        EXPECT_EQ(std::string(buffer, 2), "x\x82");
+                    }),
+              0);
     unicode_establece_pagina_ANSI(pagina);
 }
 
@@ -278,22 +360,24 @@ PRUEBA(vornbin, un_numero_que_puede_estar_mal_se_filtra_y_se_dice) {
     vnbool mal = 7, den = 7;
     datos d;
     const auto espera = [&](vnbool m, vnbool n) { EXPECT_TRUE(mal == m && den == n) << mal << den; };
-    EXPECT_EQ(d.lee(UNO + infinito + denormal + "\0"s + "\1" + infinito + infinito + UNO + UNO + denormal, [&](vnfichero *f) {
-        EXPECT_EQ(bin_lee_double_con_posible_error(f, &mal, &den), 1);
-        espera(FALSO, FALSO);
-        EXPECT_TRUE(std::isfinite(bin_lee_double_con_posible_error(f, &mal, &den)));
-        espera(CIERTO, FALSO);
-        EXPECT_EQ(bin_lee_double_con_posible_error(f, &mal, &den), 0);
-        espera(FALSO, CIERTO);
-        EXPECT_EQ(bin_lee_double_posible_null_con_posible_error(f, &mal, &den), nullptr);
-        espera(FALSO, FALSO);
-        EXPECT_TRUE(es_valor(bin_lee_double_posible_null_con_posible_error(f, &mal, &den), 0.0));
-        espera(CIERTO, FALSO);
-        EXPECT_TRUE(es_punto(bin_lee_punto_con_posible_error(f, &mal, &den), 0, 1));
-        espera(CIERTO, FALSO);
-        EXPECT_TRUE(es_punto(bin_lee_punto_con_posible_error(f, &mal, &den), 1, 0));
-        espera(FALSO, CIERTO);
-    }), 0);
+    EXPECT_EQ(d.lee(UNO + infinito + denormal + "\0"s + "\1" + infinito + infinito + UNO + UNO + denormal,
+                    [&](vnfichero *f) {
+                        EXPECT_EQ(bin_lee_double_con_posible_error(f, &mal, &den), 1);
+                        espera(FALSO, FALSO);
+                        EXPECT_TRUE(std::isfinite(bin_lee_double_con_posible_error(f, &mal, &den)));
+                        espera(CIERTO, FALSO);
+                        EXPECT_EQ(bin_lee_double_con_posible_error(f, &mal, &den), 0);
+                        espera(FALSO, CIERTO);
+                        EXPECT_EQ(bin_lee_double_posible_null_con_posible_error(f, &mal, &den), nullptr);
+                        espera(FALSO, FALSO);
+                        EXPECT_TRUE(es_valor(bin_lee_double_posible_null_con_posible_error(f, &mal, &den), 0.0));
+                        espera(CIERTO, FALSO);
+                        EXPECT_TRUE(es_punto(bin_lee_punto_con_posible_error(f, &mal, &den), 0, 1));
+                        espera(CIERTO, FALSO);
+                        EXPECT_TRUE(es_punto(bin_lee_punto_con_posible_error(f, &mal, &den), 1, 0));
+                        espera(FALSO, CIERTO);
+                    }),
+              0);
     const std::string minimo = "\0\0\x80\0"s, debajo = "\xFF\xFF\x7F\0"s, inf = "\0\0\x80\x7F"s, nan = "\0\0\xC0\x7F"s;
     d.lee(minimo + debajo + "\0\0\0\0"s + inf + nan, [](vnfichero *f) {
         EXPECT_EQ(bin_lee_float_con_posible_error(f), FLT_MIN);
@@ -303,24 +387,29 @@ PRUEBA(vornbin, un_numero_que_puede_estar_mal_se_filtra_y_se_dice) {
         ESPERA_INFORME("vnstdc_fabs(dato_temporal) <= FLT_MAX", bin_lee_float_con_posible_error(f));
     });
     // Without an output the value is passed over all the same.
-    EXPECT_EQ(d.lee("\1" + UNO, [](vnfichero *f) {
-        double *p = ESPERA_INFORME("(es_incorrecto) != NULL", bin_lee_double_posible_null_con_posible_error(f, nullptr, nullptr));
-        EXPECT_TRUE(es_valor(p, 1.0));
-    }), 0);
+    EXPECT_EQ(d.lee("\1" + UNO,
+                    [](vnfichero *f) {
+                        double *p = ESPERA_INFORME("(es_incorrecto) != NULL",
+                                                   bin_lee_double_posible_null_con_posible_error(f, nullptr, nullptr));
+                        EXPECT_TRUE(es_valor(p, 1.0));
+                    }),
+              0);
 }
 
 PRUEBA(vornbin, la_marca_se_reconoce_o_la_posicion_se_queda) {
     for (auto comprueba : {vornbin_se_comprueba_marca, vornbin_se_comprueba_marca64}) {
         datos d;
-        EXPECT_EQ(d.lee("BLOQUEx", [=](vnfichero *f) {
-            EXPECT_EQ(comprueba("BLOQUES", f), FALSO);
-            EXPECT_EQ(comprueba("BLOQUExyz", f), FALSO); // beyond the end of the file, quietly
-            EXPECT_EQ(comprueba("", f), CIERTO);
-            EXPECT_EQ(comprueba("BLO", f), CIERTO);
-            EXPECT_EQ(comprueba("QUE", f), CIERTO);
-            EXPECT_EQ(bin_lee_char(f), 'x');
-            EXPECT_EQ(comprueba("x", f), FALSO);
-        }), 0);
+        EXPECT_EQ(d.lee("BLOQUEx",
+                        [=](vnfichero *f) {
+                            EXPECT_EQ(comprueba("BLOQUES", f), FALSO);
+                            EXPECT_EQ(comprueba("BLOQUExyz", f), FALSO); // beyond the end of the file, quietly
+                            EXPECT_EQ(comprueba("", f), CIERTO);
+                            EXPECT_EQ(comprueba("BLO", f), CIERTO);
+                            EXPECT_EQ(comprueba("QUE", f), CIERTO);
+                            EXPECT_EQ(bin_lee_char(f), 'x');
+                            EXPECT_EQ(comprueba("x", f), FALSO);
+                        }),
+                  0);
         // A mark that lies across the end of the stream's buffer.
         std::string largo(200000, '.');
         largo += "MARCA!";

@@ -124,7 +124,8 @@ PRUEBA(vornsave_bloques, los_cierres_equivocados_se_informan) {
     vornsave_graba_inicio_bloque64("S", a);
     vornsave_set_posicion(a, 0);
     vornsave_lee_final_seccion("S", a);
-    espera_informes({"marca->posicion_inicial64 == _I64_MAX", "marca->posicion_final64 != _I64_MAX"}, __FILE__, __LINE__);
+    espera_informes({"marca->posicion_inicial64 == _I64_MAX", "marca->posicion_final64 != _I64_MAX"}, __FILE__,
+                    __LINE__);
     // What is there is not the end mark.
     ESPERA_INFORME("num_marcas > 0", vornsave_ir_final_seccion("S", a));
     vornsave_set_posicion(a, 0);
@@ -205,7 +206,8 @@ PRUEBA(vornsave_bloques, tras_lo_leido_a_medias_se_sigue_en_su_final) {
     leido(EN_BIN, fuera, [](vornsave *d) {
         EXPECT_EQ(toma(vornsave_lee_seccion(d)), "A");
         ESPERA_INFORME("se_lee_fin_bloque == CIERTO", vornsave_se_salta_bloque("dentro", d));
-        ESPERA_INFORME("cad_cadenas_iguales(id_seccion_final, id_seccion) == CIERTO", vornsave_lee_final_seccion("A", d));
+        ESPERA_INFORME("cad_cadenas_iguales(id_seccion_final, id_seccion) == CIERTO",
+                       vornsave_lee_final_seccion("A", d));
         EXPECT_EQ(toma(vornsave_lee_seccion(d)), "B");
         vornsave_ir_final_seccion("B", d);
         vornsave_lee_final_seccion("B", d);

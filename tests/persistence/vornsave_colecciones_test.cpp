@@ -1,5 +1,5 @@
-#include "persistence/prueba_vornsave.h"
 #include "persistence/catalogo_protocolo.h"
+#include "persistence/prueba_vornsave.h"
 #include <algorithm>
 #include <cstring>
 
@@ -19,7 +19,8 @@ arrCADENA *crea_textos(const std::vector<const char *> &v) {
 // The texts of an array, which is destroyed, joined by a bar; "~" for null.
 std::string junta(arrCADENA *a) {
     std::string t;
-    for (uint32_t i = 0; i < arr_NumElemsCADENA(a); ++i) t += (i > 0 ? "|" : "") + catalogo::o_nulo(arr_GetCADENA(a, i));
+    for (uint32_t i = 0; i < arr_NumElemsCADENA(a); ++i)
+        t += (i > 0 ? "|" : "") + catalogo::o_nulo(arr_GetCADENA(a, i));
     arr_DestruyeCADENA(&a);
     return t;
 }
@@ -37,12 +38,8 @@ std::string flotantes(const std::vector<double> &v, double tolerancia = 1e-9) {
         arr_DestruyeDouble(&a);
     });
 }
-std::string le(uint32_t n) {
-    return {reinterpret_cast<const char *>(&n), 4};
-}
-std::string le(double x) {
-    return {reinterpret_cast<const char *>(&x), 8};
-}
+std::string le(uint32_t n) { return {reinterpret_cast<const char *>(&n), 4}; }
+std::string le(double x) { return {reinterpret_cast<const char *>(&x), 8}; }
 
 // ---- Random programs: values of every kind, and frames with more of them inside.
 
@@ -51,18 +48,19 @@ struct marco {
     vnbool (*se_abre)(const char *, vornsave *), (*se_salta)(const char *, vornsave *);
     void (*lee_final)(const char *, vornsave *);
 };
-vnbool se_abre_seccion(const char *id, vornsave *d) {
-    return toma(vornsave_lee_seccion(d)) == id;
-}
+vnbool se_abre_seccion(const char *id, vornsave *d) { return toma(vornsave_lee_seccion(d)) == id; }
 vnbool se_salta_seccion(const char *id, vornsave *d) {
     const vnbool es = se_abre_seccion(id, d);
     vornsave_ir_final_seccion(id, d);
     vornsave_lee_final_seccion(id, d);
     return es;
 }
-constexpr marco SECCION{vornsave_graba_inicio_seccion, vornsave_graba_fin_seccion, se_abre_seccion, se_salta_seccion, vornsave_lee_final_seccion};
-constexpr marco BLOQUE{vornsave_graba_inicio_bloque, vornsave_graba_fin_bloque, vornsave_se_inicia_lectura_bloque, vornsave_se_salta_bloque, vornsave_lee_final_bloque};
-constexpr marco BLOQUE64{vornsave_graba_inicio_bloque64, vornsave_graba_fin_bloque64, vornsave_se_inicia_lectura_bloque64, vornsave_se_salta_bloque64, vornsave_lee_final_bloque64};
+constexpr marco SECCION{vornsave_graba_inicio_seccion, vornsave_graba_fin_seccion, se_abre_seccion, se_salta_seccion,
+                        vornsave_lee_final_seccion};
+constexpr marco BLOQUE{vornsave_graba_inicio_bloque, vornsave_graba_fin_bloque, vornsave_se_inicia_lectura_bloque,
+                       vornsave_se_salta_bloque, vornsave_lee_final_bloque};
+constexpr marco BLOQUE64{vornsave_graba_inicio_bloque64, vornsave_graba_fin_bloque64,
+                         vornsave_se_inicia_lectura_bloque64, vornsave_se_salta_bloque64, vornsave_lee_final_bloque64};
 
 struct paso {
     const fila *valor = nullptr;
@@ -75,15 +73,16 @@ std::vector<paso> graba_programa(const destino_de_prueba &destino, azar &a, vorn
     std::vector<paso> pasos(hasta(a, 12));
     for (paso &p : pasos) {
         if (!destino.texto && profundidad < 4 && hasta(a, 5) == 0) {
-            p.de = destino.etiquetas || hasta(a, 3) == 0 ? &SECCION : hasta(a, 2) == 0 ? &BLOQUE : &BLOQUE64; // tags hide the marks of blocks
+            p.de = destino.etiquetas || hasta(a, 3) == 0 ? &SECCION
+                   : hasta(a, 2) == 0                    ? &BLOQUE
+                                                         : &BLOQUE64; // tags hide the marks of blocks
             p.id = "m" + std::to_string(hasta(a, 99));
             p.de->abre(p.id.c_str(), d);
             p.dentro = graba_programa(destino, a, d, profundidad + 1);
             p.de->cierra(p.id.c_str(), d);
             continue;
         }
-        do
-            p.valor = &filas()[hasta(a, static_cast<uint32_t>(filas().size()))];
+        do p.valor = &filas()[hasta(a, static_cast<uint32_t>(filas().size()))];
         while (destino.texto && p.valor->es(catalogo::SOLO_BIN));
         p.espera = p.valor->graba(a, d);
     }
@@ -178,11 +177,13 @@ PRUEBA(vornsave_colecciones, bytes_y_lineas) {
         junta(a);
     });
     leido(EN_BIN, datos, [](vornsave *d) { EXPECT_EQ(junta(vornsave_lee_arr_cadenas(d)), "uno||"); });
-    leido(EN_TXT, "0\n", [](vornsave *d) { EXPECT_EQ(ESPERA_INFORME("", vornsave_lee_arr_cadenas_unicode(d)), nullptr); });
+    leido(EN_TXT, "0\n",
+          [](vornsave *d) { EXPECT_EQ(ESPERA_INFORME("", vornsave_lee_arr_cadenas_unicode(d)), nullptr); });
 }
 
 PRUEBA(vornsave_colecciones, grupos_de_valores_iguales) {
-    EXPECT_EQ(flotantes({1, 1, 1, 2, 3, 3}), le(6u) + "\1" + le(3u) + le(1.) + bytes("\0") + le(1u) + le(2.) + "\1" + le(2u) + le(3.));
+    EXPECT_EQ(flotantes({1, 1, 1, 2, 3, 3}),
+              le(6u) + "\1" + le(3u) + le(1.) + bytes("\0") + le(1u) + le(2.) + "\1" + le(2u) + le(3.));
     EXPECT_EQ(flotantes({1, 2, 3}), le(3u) + bytes("\0") + le(3u) + le(1.) + le(2.) + le(3.));
     EXPECT_EQ(flotantes({1, 1}), le(2u) + "\1" + le(2u) + le(1.));
     EXPECT_EQ(flotantes({}), le(0u));
@@ -190,7 +191,8 @@ PRUEBA(vornsave_colecciones, grupos_de_valores_iguales) {
     EXPECT_EQ(flotantes({1, 1.4, 1.8}, 0.5), le(3u) + "\1" + le(2u) + le(1.) + bytes("\0") + le(1u) + le(1.8));
     // Groups without values, or with more than are missing, end the reading.
     const std::string principio = le(4u) + "\1" + le(2u) + le(7.);
-    for (const std::string &grupo : {"\1" + le(0u) + le(1.), bytes("\0") + le(0u), "\1" + le(3u) + le(1.), "\1" + le(~0u) + le(1.)})
+    for (const std::string &grupo :
+         {"\1" + le(0u) + le(1.), bytes("\0") + le(0u), "\1" + le(3u) + le(1.), "\1" + le(~0u) + le(1.)})
         leido(EN_BIN, principio + grupo, [](vornsave *d) {
             EXPECT_EQ(junta(ESPERA_INFORME("arr_NumElemsDouble(array) == num_elems_a_leer",
                                            vornsave_lee_arr_double_con_valores_iguales(d))),
@@ -225,7 +227,8 @@ PRUEBA(vornsave_colecciones, una_cuenta_falsa_no_reserva_memoria) {
 
 // What a line of text cannot hold goes otherwise; what an array's line cannot, stops the save, and not the reading.
 PRUEBA(vornsave_colecciones, los_textos_como_lineas) {
-    const char raro[] = "a\r\nb\n\x10" "000A\x10";
+    const char raro[] = "a\r\nb\n\x10"
+                        "000A\x10";
     const std::string datos = grabado(EN_TXT, [&](vornsave *d) {
         vornsave_graba_cadena(raro, d);
         arrCADENA *a = crea_textos({raro, ""});
@@ -238,7 +241,13 @@ PRUEBA(vornsave_colecciones, los_textos_como_lineas) {
         EXPECT_EQ(junta(vornsave_lee_arr_cadenas(d)), std::string(raro) + "|");
     });
     // As it was written before there was the escape.
-    leido(EN_TXT, "viejo \x10 y \x10" "00ZZ\n", [](vornsave *d) { EXPECT_EQ(toma(vornsave_lee_cadena(d)), "viejo \x10 y \x10" "00ZZ"); });
+    leido(EN_TXT,
+          "viejo \x10 y \x10"
+          "00ZZ\n",
+          [](vornsave *d) {
+              EXPECT_EQ(toma(vornsave_lee_cadena(d)), "viejo \x10 y \x10"
+                                                      "00ZZ");
+          });
     const std::string cabe(255, 'x'), largo(300, 'y');
     const abierto a(EN_TXT, "w+");
     arrCADENA *textos = crea_textos({cabe.c_str(), largo.c_str(), "fin"});
@@ -246,7 +255,8 @@ PRUEBA(vornsave_colecciones, los_textos_como_lineas) {
     EXPECT_EQ(lc_ha_fallado(a.fichero()), CIERTO);
     junta(textos);
     vornio_fseek_i64(a.fichero(), 0, VN_DESDE_EL_PRINCIPIO);
-    EXPECT_EQ(junta(ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_lee_arr_cadenas(a))), cabe + "|" + largo.substr(0, 255) + "|fin");
+    EXPECT_EQ(junta(ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_lee_arr_cadenas(a))),
+              cabe + "|" + largo.substr(0, 255) + "|fin");
 }
 
 // A block of the promised size, or none.
@@ -264,8 +274,8 @@ PRUEBA(vornsave_colecciones, un_buffer_es_tan_grande_como_se_pidio) {
             });
 }
 
-// Few bytes may stand for many values: what the writer makes of an array is always read, beside the bound as well; what it
-// does not make is refused before memory is taken, and what follows is in step.
+// Few bytes may stand for many values: what the writer makes of an array is always read, beside the bound as well; what
+// it does not make is refused before memory is taken, and what follows is in step.
 PRUEBA(vornsave_colecciones, los_grupos_tienen_un_limite_que_quien_graba_conoce) {
     const auto lee_textos_iguales = [](vornsave *d) { return vornsave_lee_arr_cadenas_con_valores_iguales(d); };
     const auto vuelven = [&](const char *texto, uint32_t n, bool en_un_grupo) {
@@ -291,7 +301,8 @@ PRUEBA(vornsave_colecciones, los_grupos_tienen_un_limite_que_quien_graba_conoce)
     constexpr uint32_t N = 6000000;
     arrDouble *muchos = arr_CreaDouble(N);
     for (const uint32_t i : {0u, 1u, 7u, N / 2, N - 1}) arr_SetDouble(muchos, i, i + 1.);
-    const std::string datos = grabado(EN_BIN, [&](vornsave *d) { vornsave_graba_arr_double_con_valores_iguales(muchos, 0, d); });
+    const std::string datos =
+        grabado(EN_BIN, [&](vornsave *d) { vornsave_graba_arr_double_con_valores_iguales(muchos, 0, d); });
     EXPECT_LT(datos.size(), 200u);
     leido(EN_BIN, datos, [&](vornsave *d) {
         arrDouble *a = vornsave_lee_arr_double_con_valores_iguales(d);
@@ -304,13 +315,16 @@ PRUEBA(vornsave_colecciones, los_grupos_tienen_un_limite_que_quien_graba_conoce)
         leido(EN_BIN, le(cuenta) + "\1" + le(cuenta) + le(2.) + siete, [&](vornsave *d) {
             const mayor_bloque m;
             EXPECT_EQ(junta(vornsave_lee_arr_double_con_valores_iguales(d)), "");
-            espera_informes({"lc_error_leyendo_fichero", "arr_NumElemsDouble(array) == num_elems_a_leer"}, __FILE__, __LINE__);
+            espera_informes({"lc_error_leyendo_fichero", "arr_NumElemsDouble(array) == num_elems_a_leer"}, __FILE__,
+                            __LINE__);
             EXPECT_LT(m(), size_t(1) << 20);
             EXPECT_EQ(vornsave_lee_long(d), 7);
         });
-    leido(EN_BIN, le(4103u) + "\1" + le(4101u) + bytes("\xff\xff") + largo + bytes("\0\2\0\0\0\1\0a\1\0b") + siete, [&](vornsave *d) {
-        EXPECT_EQ(junta(lee_textos_iguales(d)), "");
-        espera_informes({"lc_error_leyendo_fichero", "arr_NumElemsCADENA(array) == num_elems_a_leer"}, __FILE__, __LINE__);
-        EXPECT_EQ(vornsave_lee_long(d), 7);
-    });
+    leido(EN_BIN, le(4103u) + "\1" + le(4101u) + bytes("\xff\xff") + largo + bytes("\0\2\0\0\0\1\0a\1\0b") + siete,
+          [&](vornsave *d) {
+              EXPECT_EQ(junta(lee_textos_iguales(d)), "");
+              espera_informes({"lc_error_leyendo_fichero", "arr_NumElemsCADENA(array) == num_elems_a_leer"}, __FILE__,
+                              __LINE__);
+              EXPECT_EQ(vornsave_lee_long(d), 7);
+          });
 }

@@ -1,8 +1,8 @@
-#include "persistence/prueba_vornsave.h"
+#include "foundation/ficheros/vornfile.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/ficheros/vornfile.h"
 #include "foundation/texto/widestr.h"
+#include "persistence/prueba_vornsave.h"
 #include <cmath>
 
 using namespace vn;
@@ -50,7 +50,8 @@ PRUEBA(vornsave, los_comentarios_dejan_abierta_la_linea) {
         vornsave_graba_double(0.5, d);
         vornsave_graba_bool(CIERTO, d);
     };
-    EXPECT_EQ(grabado(EN_TXT, escribe).substr(0, 2), grabado(EN_TXT, [](vornsave *d) { vornsave_graba_long(5, d); }).substr(0, 2));
+    EXPECT_EQ(grabado(EN_TXT, escribe).substr(0, 2),
+              grabado(EN_TXT, [](vornsave *d) { vornsave_graba_long(5, d); }).substr(0, 2));
     const auto lineas = [&](const destino_de_prueba &d) {
         std::string t = grabado(d, escribe);
         std::erase(t, '\r');
@@ -70,10 +71,14 @@ PRUEBA(vornsave, lo_que_falta_en_un_destino_de_texto) {
         std::function<void(vornsave *)> miembro;
     } filas[] = {
         {"(vornsave_datos->fncs_grabar->fncptr_graba_float) != NULL", [](vornsave *d) { vornsave_graba_float(1, d); }},
-        {"(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL", [](vornsave *d) { vornsave_graba_inicio_bloque("b", d); }},
-        {"(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL", [](vornsave *d) { vornsave_graba_fin_bloque("b", d); }},
-        {"(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL", [](vornsave *d) { vornsave_graba_inicio_bloque64("b", d); }},
-        {"(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL", [](vornsave *d) { vornsave_graba_fin_bloque64("b", d); }},
+        {"(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL",
+         [](vornsave *d) { vornsave_graba_inicio_bloque("b", d); }},
+        {"(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL",
+         [](vornsave *d) { vornsave_graba_fin_bloque("b", d); }},
+        {"(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL",
+         [](vornsave *d) { vornsave_graba_inicio_bloque64("b", d); }},
+        {"(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL",
+         [](vornsave *d) { vornsave_graba_fin_bloque64("b", d); }},
         {"(vornsave->fncptr_get_posicion) != NULL", [](vornsave *d) { vornsave_get_posicion(d); }},
         {"(vornsave->fncptr_set_posicion) != NULL", [](vornsave *d) { vornsave_set_posicion(d, 0); }},
         {"(vornsave_datos->fncs_leer->fncptr_lee_double_con_posible_error) != NULL",
@@ -81,9 +86,11 @@ PRUEBA(vornsave, lo_que_falta_en_un_destino_de_texto) {
         {"(vornsave_datos->fncs_leer->fncptr_lee_double_y_salta_con_posible_error) != NULL",
          [](vornsave *d) { EXPECT_EQ(vornsave_lee_arr_double_con_posible_error(d, &v1, &v2), nullptr); }},
         {"(vornsave_datos->fncs_leer->fncptr_lee_float) != NULL", [](vornsave *d) { vornsave_lee_float(d); }},
-        {"(vornsave_datos->fncptr_se_comprueba_marca_fichero) != NULL", [](vornsave *d) { vornsave_comprueba_marca_fichero("m", d); }},
+        {"(vornsave_datos->fncptr_se_comprueba_marca_fichero) != NULL",
+         [](vornsave *d) { vornsave_comprueba_marca_fichero("m", d); }},
         {"vornsave_datos->tipo == BIN", [](vornsave *d) { vornsave_se_comprueba_cabecera_bin("m", d); }},
-        {"(vornsave_datos->fncptr_fichero_valido) != NULL", [](vornsave *d) { vornsave_fichero_valido(d, 1, 0, "f", &titulo); }},
+        {"(vornsave_datos->fncptr_fichero_valido) != NULL",
+         [](vornsave *d) { vornsave_fichero_valido(d, 1, 0, "f", &titulo); }},
         {"(vornsave_datos->fncptr_se_lee_inicio_bloque) != NULL",
          [](vornsave *d) { EXPECT_EQ(vornsave_se_inicia_lectura_bloque("b", d), FALSO); }},
         {"(vornsave_datos->fncptr_se_lee_inicio_bloque64) != NULL",
@@ -113,9 +120,11 @@ PRUEBA(vornsave, los_destinos_sin_modulo_se_informan) {
     EXPECT_EQ(ESPERA_INFORME(INFORME, vornsave_fichmem_para_escritura()), nullptr);
     EXPECT_EQ(ESPERA_INFORME(INFORME, vornsave_fichmem_para_lectura(&vacio)), nullptr);
     vornsave *d = a;
-    EXPECT_EQ(ESPERA_INFORME("(*vornsave_datos)->tipo == FICHMEM", vornsave_cierra_fichmem_para_escritura(&d)), nullptr);
-    EXPECT_EQ(ESPERA_INFORME("con_comentarios==CIERTO || con_comentarios==FALSO", vornsave_registra_txt(a.fichero(), 2)),
+    EXPECT_EQ(ESPERA_INFORME("(*vornsave_datos)->tipo == FICHMEM", vornsave_cierra_fichmem_para_escritura(&d)),
               nullptr);
+    EXPECT_EQ(
+        ESPERA_INFORME("con_comentarios==CIERTO || con_comentarios==FALSO", vornsave_registra_txt(a.fichero(), 2)),
+        nullptr);
 }
 
 // What a destination cannot hold, or is no value, is reported; the file that was there stays.
@@ -129,7 +138,8 @@ PRUEBA(vornsave, un_guardado_sin_sentido_deja_el_fichero_de_antes) {
     } filas[] = {
         {EN_BIN, "(valor) != NULL", [](vornsave *d) { vornsave_graba_cadena(nullptr, d); }},
         {EN_TXT, "(valor) != NULL", [](vornsave *d) { vornsave_graba_cadena_unicode(nullptr, d); }},
-        {EN_BIN, "(texto) != NULL", [](vornsave *d) {
+        {EN_BIN, "(texto) != NULL",
+         [](vornsave *d) {
              arrCADENA *a = arr_CreaCADENA(1);
              vornsave_graba_arr_cadenas(a, d);
              arr_DestruyeCADENA(&a);
@@ -140,18 +150,22 @@ PRUEBA(vornsave, un_guardado_sin_sentido_deja_el_fichero_de_antes) {
         {EN_TXT, "v == CIERTO || v == FALSO", [](vornsave *d) { vornsave_graba_bool_con_texto(2, d, "si", "no"); }},
         {EN_BIN, "l <= USHRT_MAX", [](vornsave *d) { vornsave_graba_cadena(largo.c_str(), d); }},
         {EN_BIN, "l <= USHRT_MAX", [](vornsave *d) { vornsave_graba_cadena_UTF8(enyes.c_str(), d); }},
-        {EN_TXT, "(vornsave_datos->fncs_grabar->fncptr_graba_float) != NULL", [](vornsave *d) { vornsave_graba_float(1, d); }},
-        {EN_TXT, "(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL", [](vornsave *d) { vornsave_graba_inicio_bloque("B", d); }},
+        {EN_TXT, "(vornsave_datos->fncs_grabar->fncptr_graba_float) != NULL",
+         [](vornsave *d) { vornsave_graba_float(1, d); }},
+        {EN_TXT, "(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL",
+         [](vornsave *d) { vornsave_graba_inicio_bloque("B", d); }},
         {EN_BIN, "arr_NumElemsPunteroST((*vornsave_datos)->pila_marcas, i_marca_t) == 0",
          [](vornsave *d) { vornsave_graba_inicio_seccion("abierta", d); }},
-        {EN_BIN, "posicion <= LONG_MAX", [](vornsave *d) {
+        {EN_BIN, "posicion <= LONG_MAX",
+         [](vornsave *d) {
              vornsave_graba_inicio_bloque64("todo", d);
              vornsave_graba_inicio_seccion("larga", d);
              vornio_fseek_i64(static_cast<vnfichero *>(d->datos_destino), int64_t(1) << 31, VN_DESDE_EL_PRINCIPIO);
              vornsave_graba_fin_seccion("larga", d);
              vornsave_graba_fin_bloque64("todo", d);
          }},
-        {EN_BIN, "cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO", [](vornsave *d) {
+        {EN_BIN, "cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO",
+         [](vornsave *d) {
              vornsave_graba_inicio_seccion("A", d);
              vornsave_graba_inicio_seccion("B", d);
              vornsave_graba_fin_seccion("A", d);
@@ -172,7 +186,9 @@ PRUEBA(vornsave, un_guardado_sin_sentido_deja_el_fichero_de_antes) {
         EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, ancho(nombre).c_str()), FALSO);
         const auto informes = toma_informes();
         ASSERT_FALSE(informes.empty());
-        if (!en_trampa) { EXPECT_EQ(informes[0].expresion, fila.informe); }
+        if (!en_trampa) {
+            EXPECT_EQ(informes[0].expresion, fila.informe);
+        }
         EXPECT_EQ(informes.back().expresion, "lc_error_escribiendo_fichero");
         EXPECT_EQ(lee_fichero(nombre), "antes");
     }

@@ -1,5 +1,5 @@
-// What only the files of one platform have, for the tests of what a save keeps and what it withstands. An operation that a
-// platform has no use for answers false and has done nothing.
+// What only the files of one platform have, for the tests of what a save keeps and what it withstands. An operation
+// that a platform has no use for answers false and has done nothing.
 #pragma once
 
 #include <cstdint>

@@ -67,7 +67,7 @@ std::vector<std::string> argumentos(int argc, char **argv);
 
 } // namespace vn
 
-#define HIJO(nombre)                                                                                         \
-    static int hijo_##nombre(const std::vector<std::string> &args);                                          \
-    static const ::vn::registra_hijo registra_hijo_##nombre(#nombre, hijo_##nombre);                         \
+#define HIJO(nombre)                                                                                                   \
+    static int hijo_##nombre(const std::vector<std::string> &args);                                                    \
+    static const ::vn::registra_hijo registra_hijo_##nombre(#nombre, hijo_##nombre);                                   \
     static int hijo_##nombre([[maybe_unused]] const std::vector<std::string> &args)

@@ -1,9 +1,9 @@
 #define VN_MODULO "sysdata_test"
-#include "time/sysdata.h"
-#include "foundation/suelo/operaciones_fichero.h"
 #include "foundation/sistema/vnregional.h"
+#include "foundation/suelo/operaciones_fichero.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
+#include "time/sysdata.h"
 #include <cfloat>
 #include <cmath>
 #include <set>
@@ -25,16 +25,26 @@ struct fila {
 };
 // A date whose day and month have two digits, and a time whose hour has.
 constexpr fila FILAS[] = {
-    {"es-ES", ";", ",", ".", "/", ":", 1, 1, "24/12/2023", "domingo, 24 de diciembre de 2023", "15:04:05", "15:04", "lunes", "sábado", "-1.234.567,90"},
-    {"en-US", ",", ".", ",", "/", ":", 0, 0, "12/24/2023", "Sunday, December 24, 2023", "3:04:05 PM", "3:04 PM", "Monday", "Saturday", "-1,234,567.90"},
-    {"en-GB", ",", ".", ",", "/", ":", 1, 1, "24/12/2023", "Sunday, 24 December 2023", "15:04:05", "15:04", "Monday", "Saturday", "-1,234,567.90"},
-    {"de-DE", ";", ",", ".", ".", ":", 1, 1, "24.12.2023", "Sonntag, 24. Dezember 2023", "15:04:05", "15:04", "Montag", "Samstag", "-1.234.567,90"},
-    {"fr-FR", ";", ",", "\u00A0", "/", ":", 1, 1, "24/12/2023", "dimanche 24 décembre 2023", "15:04:05", "15:04", "lundi", "samedi", "-1\u00A0234\u00A0567,90"},
-    {"pt-PT", ";", ",", "\u00A0", "/", ":", 1, 1, "24/12/2023", "domingo, 24 de dezembro de 2023", "15:04:05", "15:04", "segunda-feira", "sábado", "-1\u00A0234\u00A0567,90"},
-    {"pt-BR", ";", ",", ".", "/", ":", 1, 1, "24/12/2023", "domingo, 24 de dezembro de 2023", "15:04:05", "15:04", "segunda-feira", "sábado", "-1.234.567,90"},
-    {"ca-ES", ";", ",", ".", "/", ":", 1, 1, "24/12/2023", "diumenge, 24 de desembre de 2023", "15:04:05", "15:04", "dilluns", "dissabte", "-1.234.567,90"},
-    {"it-IT", ";", ",", ".", "/", ":", 1, 1, "24/12/2023", "domenica 24 dicembre 2023", "15:04:05", "15:04", "lunedì", "sabato", "-1.234.567,90"},
-    {"ja-JP", ",", ".", ",", "/", ":", 2, 1, "2023/12/24", "2023年12月24日日曜日", "15:04:05", "15:04", "???", "???", "-1,234,567.90"},
+    {"es-ES", ";", ",", ".", "/", ":", 1, 1, "24/12/2023", "domingo, 24 de diciembre de 2023", "15:04:05", "15:04",
+     "lunes", "sábado", "-1.234.567,90"},
+    {"en-US", ",", ".", ",", "/", ":", 0, 0, "12/24/2023", "Sunday, December 24, 2023", "3:04:05 PM", "3:04 PM",
+     "Monday", "Saturday", "-1,234,567.90"},
+    {"en-GB", ",", ".", ",", "/", ":", 1, 1, "24/12/2023", "Sunday, 24 December 2023", "15:04:05", "15:04", "Monday",
+     "Saturday", "-1,234,567.90"},
+    {"de-DE", ";", ",", ".", ".", ":", 1, 1, "24.12.2023", "Sonntag, 24. Dezember 2023", "15:04:05", "15:04", "Montag",
+     "Samstag", "-1.234.567,90"},
+    {"fr-FR", ";", ",", "\u00A0", "/", ":", 1, 1, "24/12/2023", "dimanche 24 décembre 2023", "15:04:05", "15:04",
+     "lundi", "samedi", "-1\u00A0234\u00A0567,90"},
+    {"pt-PT", ";", ",", "\u00A0", "/", ":", 1, 1, "24/12/2023", "domingo, 24 de dezembro de 2023", "15:04:05", "15:04",
+     "segunda-feira", "sábado", "-1\u00A0234\u00A0567,90"},
+    {"pt-BR", ";", ",", ".", "/", ":", 1, 1, "24/12/2023", "domingo, 24 de dezembro de 2023", "15:04:05", "15:04",
+     "segunda-feira", "sábado", "-1.234.567,90"},
+    {"ca-ES", ";", ",", ".", "/", ":", 1, 1, "24/12/2023", "diumenge, 24 de desembre de 2023", "15:04:05", "15:04",
+     "dilluns", "dissabte", "-1.234.567,90"},
+    {"it-IT", ";", ",", ".", "/", ":", 1, 1, "24/12/2023", "domenica 24 dicembre 2023", "15:04:05", "15:04", "lunedì",
+     "sabato", "-1.234.567,90"},
+    {"ja-JP", ",", ".", ",", "/", ":", 2, 1, "2023/12/24", "2023年12月24日日曜日", "15:04:05", "15:04", "???", "???",
+     "-1,234,567.90"},
 };
 
 // ANSI text of the page 1252 as UTF-8.
@@ -89,7 +99,11 @@ PRUEBA(sysdata, fechas_y_horas_en_sus_limites) {
     EXPECT_EQ(toma(sysdata_fecha_u(31, 12, -5, 1, nullptr, FALSO)), "");
     EXPECT_EQ(toma(sysdata_fecha(1, 1, 1901, 2, "dddd d-M-yyyy", FALSO)), "martes 1-1-1901");
     EXPECT_EQ(toma(sysdata_fecha(1, 1, 1901, 2, "", FALSO)), "");
-    EXPECT_EQ(ansi(sysdata_fecha(24, 12, 2022, 0, "dddd 'd\xED" "a' d", FALSO)), "sábado día 24");
+    EXPECT_EQ(ansi(sysdata_fecha(24, 12, 2022, 0,
+                                 "dddd 'd\xED"
+                                 "a' d",
+                                 FALSO)),
+              "sábado día 24");
     EXPECT_EQ(toma(ESPERA_INFORME("tamanyo_cadena != 0", sysdata_fecha(30, 2, 2024, 0, nullptr, FALSO))), "");
     EXPECT_EQ(toma(ESPERA_INFORME("tamanyo_cadena != 0", sysdata_hora_u(0, 0, 24, FALSO))), "");
     std::set<std::string> dias;
@@ -107,11 +121,10 @@ PRUEBA(sysdata, numeros_que_no_caben_o_no_lo_son_salen_llanos) {
         const char *texto;
     } filas[] = {
         {1234.5, 0, "1,234.00"}, // to the even one, as the plain text does
-        {1235.5, 0, "1,236.00"}, {0.125, 2, "0.12"}, {-0.125, 3, "-0.13"}, {1e15, 1, "1,000,000,000,000,000.00"},
-        {std::nan(""), 2, "nan"}, {-HUGE_VAL, 2, "-inf"}, {5e-324, 6, "0.00"}, {2.5, 40, "2.50"},
+        {1235.5, 0, "1,236.00"},  {0.125, 2, "0.12"},     {-0.125, 3, "-0.13"}, {1e15, 1, "1,000,000,000,000,000.00"},
+        {std::nan(""), 2, "nan"}, {-HUGE_VAL, 2, "-inf"}, {5e-324, 6, "0.00"},  {2.5, 40, "2.50"},
     };
-    for (const auto &f : filas)
-        EXPECT_EQ(toma(sysdata_formateaNumero_u(f.valor, f.decimales)), f.texto) << f.valor;
+    for (const auto &f : filas) EXPECT_EQ(toma(sysdata_formateaNumero_u(f.valor, f.decimales)), f.texto) << f.valor;
     // The last that fits has 49 characters: 35 digits, 11 commas and the decimals.
     const std::string cabe = toma(sysdata_formateaNumero_u(1e35, 0)), no_cabe = toma(sysdata_formateaNumero_u(4e35, 0));
     EXPECT_EQ(cabe.size(), 49u) << cabe;

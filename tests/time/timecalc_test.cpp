@@ -1,5 +1,5 @@
-#include "time/timecalc.h"
 #include "prueba.h"
+#include "time/timecalc.h"
 #include <array>
 #include <chrono>
 
@@ -12,7 +12,9 @@ fecha de(int64_t t) {
     timecalc_convierte_time64_t_a_fecha_y_hora(t, &f[0], &f[1], &f[2], &f[3], &f[4], &f[5]);
     return f;
 }
-int64_t segundos(const fecha &f) { return timecalc_convierte_fecha_y_hora_a_time_t(f[0], f[1], f[2], f[3], f[4], f[5]); }
+int64_t segundos(const fecha &f) {
+    return timecalc_convierte_fecha_y_hora_a_time_t(f[0], f[1], f[2], f[3], f[4], f[5]);
+}
 
 } // namespace
 
@@ -22,11 +24,13 @@ PRUEBA(timecalc, cada_dia_de_su_alcance_va_y_vuelve) {
         const int64_t momento = t + t / DIA * 7919 % DIA; // any time of day
         const fecha f = de(momento);
         const std::chrono::year_month_day d{std::chrono::sys_days(std::chrono::days(t / DIA))};
-        ASSERT_EQ((std::array{f[0], f[1], f[2]}), (std::array{int(unsigned(d.day())), int(unsigned(d.month())), int(d.year())}));
+        ASSERT_EQ((std::array{f[0], f[1], f[2]}),
+                  (std::array{int(unsigned(d.day())), int(unsigned(d.month())), int(d.year())}));
         ASSERT_EQ(segundos(f), momento);
         ASSERT_EQ(timecalc_convierte_fecha_y_hora_a_time32_t(f[0], f[1], f[2], f[3], f[4], f[5]), momento);
         fecha g{};
-        timecalc_convierte_time32_t_a_fecha_y_hora(static_cast<int32_t>(momento), &g[0], &g[1], &g[2], &g[3], &g[4], &g[5]);
+        timecalc_convierte_time32_t_a_fecha_y_hora(static_cast<int32_t>(momento), &g[0], &g[1], &g[2], &g[3], &g[4],
+                                                   &g[5]);
         ASSERT_EQ(f, g);
     }
     EXPECT_EQ(de(INT32_MAX), (fecha{19, 1, 2038, 3, 14, 7}));
@@ -40,12 +44,18 @@ PRUEBA(timecalc, fuera_de_su_alcance_se_informa) {
         fecha f;
         const char *informe;
     } filas[] = {
-        {{1, 1, 2038, 0, 0, 0}, "anyo >= 1970 && anyo < 2038"},  {{31, 12, 2037, 23, 59, 59}, nullptr},
-        {{31, 12, 1969, 0, 0, 0}, "anyo >= 1970 && anyo < 2038"}, {{29, 2, 2000, 0, 0, 0}, nullptr},
-        {{29, 2, 2001, 0, 0, 0}, "dia >= 1 && dia <= dias_mes"}, {{31, 4, 2000, 0, 0, 0}, "dia >= 1 && dia <= dias_mes"},
-        {{0, 4, 2000, 0, 0, 0}, "dia >= 1 && dia <= dias_mes"},  {{1, 13, 2000, 0, 0, 0}, "mes >= 1 && mes <= 12"},
-        {{1, 0, 2000, 0, 0, 0}, "mes >= 1 && mes <= 12"},        {{1, 1, 2000, 24, 0, 0}, "hora >= 0 && hora < 24"},
-        {{1, 1, 2000, 0, 60, 0}, "minuto >= 0 && minuto < 60"},  {{1, 1, 2000, 0, 0, -1}, "segundo >= 0 && segundo < 60"},
+        {{1, 1, 2038, 0, 0, 0}, "anyo >= 1970 && anyo < 2038"},
+        {{31, 12, 2037, 23, 59, 59}, nullptr},
+        {{31, 12, 1969, 0, 0, 0}, "anyo >= 1970 && anyo < 2038"},
+        {{29, 2, 2000, 0, 0, 0}, nullptr},
+        {{29, 2, 2001, 0, 0, 0}, "dia >= 1 && dia <= dias_mes"},
+        {{31, 4, 2000, 0, 0, 0}, "dia >= 1 && dia <= dias_mes"},
+        {{0, 4, 2000, 0, 0, 0}, "dia >= 1 && dia <= dias_mes"},
+        {{1, 13, 2000, 0, 0, 0}, "mes >= 1 && mes <= 12"},
+        {{1, 0, 2000, 0, 0, 0}, "mes >= 1 && mes <= 12"},
+        {{1, 1, 2000, 24, 0, 0}, "hora >= 0 && hora < 24"},
+        {{1, 1, 2000, 0, 60, 0}, "minuto >= 0 && minuto < 60"},
+        {{1, 1, 2000, 0, 0, -1}, "segundo >= 0 && segundo < 60"},
     };
     for (const auto &fila : filas) {
         int64_t s = -1;

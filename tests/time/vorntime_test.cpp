@@ -1,7 +1,7 @@
 #define VN_MODULO "vorntime_test"
-#include "time/vorntime.h"
 #include "foundation/listas/arr.h"
 #include "persistence/prueba_vornsave.h"
+#include "time/vorntime.h"
 #include <array>
 #include <chrono>
 #include <optional>
@@ -21,7 +21,9 @@ tmtime toma(tmtime *nueva) {
     vtm_destruye(&nueva);
     return f;
 }
-tmtime fecha_de(int dia, int mes, int anyo, int h = 0, int m = 0, int s = 0) { return toma(vtm_crea(h, m, s, dia, mes, anyo)); }
+tmtime fecha_de(int dia, int mes, int anyo, int h = 0, int m = 0, int s = 0) {
+    return toma(vtm_crea(h, m, s, dia, mes, anyo));
+}
 
 // The date of a count of seconds, by the library of the language; its day of the week by the module's own formula.
 tmtime fecha_segun_chrono(int64_t t) {
@@ -29,9 +31,15 @@ tmtime fecha_segun_chrono(int64_t t) {
     const sys_days dia{days(t / DIA)};
     const year_month_day f{dia};
     const auto s = static_cast<int32_t>(t % DIA);
-    return {s % 60, s / 60 % 60, s / 3600, static_cast<int32_t>(unsigned{f.day()}), static_cast<int32_t>(unsigned{f.month()}) - 1,
-            int{f.year()} - 1900, static_cast<int32_t>((t / DIA - 3) % 7),
-            static_cast<int32_t>((dia - sys_days(f.year() / 1 / 1)).count()), 0};
+    return {s % 60,
+            s / 60 % 60,
+            s / 3600,
+            static_cast<int32_t>(unsigned{f.day()}),
+            static_cast<int32_t>(unsigned{f.month()}) - 1,
+            int{f.year()} - 1900,
+            static_cast<int32_t>((t / DIA - 3) % 7),
+            static_cast<int32_t>((dia - sys_days(f.year() / 1 / 1)).count()),
+            0};
 }
 
 } // namespace
@@ -75,7 +83,8 @@ PRUEBA(vorntime, los_extremos_acaban_en_un_resultado_dicho) {
     };
     for (const auto &f : filas) {
         tmtime r{};
-        vn::con_informe(f.informa ? "t >= 0 && t <= ULTIMO_SEGUNDO" : nullptr, [&] { vtm_convierte_time64t_a_fecha(f.t, &r); });
+        vn::con_informe(f.informa ? "t >= 0 && t <= ULTIMO_SEGUNDO" : nullptr,
+                        [&] { vtm_convierte_time64t_a_fecha(f.t, &r); });
         EXPECT_EQ(campos(r), campos(f.fecha)) << f.t;
     }
     EXPECT_EQ(vtm_dia_de_la_semana_tim64t(INT64_MIN), -((INT64_MAX / DIA + 3) % 7));
@@ -83,7 +92,8 @@ PRUEBA(vorntime, los_extremos_acaban_en_un_resultado_dicho) {
     EXPECT_EQ(vtm_segundos_el_uno_enero_anyo(1970), DIA);
     EXPECT_EQ(vtm_segundos_el_uno_enero_anyo(2000), 946684800);
     // Fields out of their range count for what they are; only a month cannot.
-    const tmtime suelta{-1, 100, 25, 0, 0, 100, 0, 0, 0}, sin_mes{0, 0, 0, 1, 12, 100, 0, 0, 0}, lejos{0, 0, 0, 1, 0, 300, 0, 0, 0};
+    const tmtime suelta{-1, 100, 25, 0, 0, 100, 0, 0, 0}, sin_mes{0, 0, 0, 1, 12, 100, 0, 0, 0},
+        lejos{0, 0, 0, 1, 0, 300, 0, 0, 0};
     EXPECT_EQ(vtm_convierte_fecha_a_time_t(&suelta), 946684800 - DIA + 25 * 3600 + 100 * 60 - 1);
     EXPECT_EQ(vtm_convierte_fecha_a_time_t(&sin_mes), 0);
     EXPECT_EQ(vn::Prueba::toma_informes().size(), 1u);
@@ -116,8 +126,9 @@ PRUEBA(vorntime, meses_anyos_y_dias_del_anyo) {
 PRUEBA(vorntime, la_comparacion_mira_seis_campos_en_su_orden) {
     // Each earlier by one field while all that weigh less say the contrary.
     const tmtime base{30, 30, 12, 15, 6, 100, 0, 100, 0};
-    const tmtime antes[] = {{59, 59, 23, 31, 11, 99, 0, 0, 0},  {59, 59, 23, 31, 5, 100, 0, 0, 0}, {59, 59, 23, 14, 6, 100, 0, 0, 0},
-                            {59, 59, 11, 15, 6, 100, 0, 0, 0},  {59, 29, 12, 15, 6, 100, 0, 0, 0}, {29, 30, 12, 15, 6, 100, 0, 0, 0}};
+    const tmtime antes[] = {{59, 59, 23, 31, 11, 99, 0, 0, 0}, {59, 59, 23, 31, 5, 100, 0, 0, 0},
+                            {59, 59, 23, 14, 6, 100, 0, 0, 0}, {59, 59, 11, 15, 6, 100, 0, 0, 0},
+                            {59, 29, 12, 15, 6, 100, 0, 0, 0}, {29, 30, 12, 15, 6, 100, 0, 0, 0}};
     for (const tmtime &f : antes) {
         EXPECT_EQ(vtm_compara_fechas_mayor_menor(&f, &base), -1);
         EXPECT_EQ(vtm_compara_fechas(&base, &f), 1);
@@ -132,8 +143,12 @@ PRUEBA(vorntime, la_comparacion_mira_seis_campos_en_su_orden) {
 PRUEBA(vorntime, un_registro_nuevo_se_comprueba_y_se_puede_ajustar) {
     EXPECT_EQ(campos(fecha_de(29, 2, 2000, 23, 59, 58)), (std::vector<int32_t>{58, 59, 23, 29, 1, 100, 2, 59, 0}));
     EXPECT_EQ(fecha_de(1, 1, -1).tm_wday, 5); // the calendar goes on backwards
-    for (const auto &[h, m, seg, dia, mes, anyo] : {std::array{24, 0, 0, 1, 1, 2000}, {0, 60, 0, 1, 1, 2000}, {0, 0, -1, 1, 1, 2000},
-                                                    {0, 0, 0, 32, 1, 2000}, {0, 0, 0, 1, 13, 2000}, {0, 0, 0, 1, INT32_MIN, INT32_MIN}}) {
+    for (const auto &[h, m, seg, dia, mes, anyo] : {std::array{24, 0, 0, 1, 1, 2000},
+                                                    {0, 60, 0, 1, 1, 2000},
+                                                    {0, 0, -1, 1, 1, 2000},
+                                                    {0, 0, 0, 32, 1, 2000},
+                                                    {0, 0, 0, 1, 13, 2000},
+                                                    {0, 0, 0, 1, INT32_MIN, INT32_MIN}}) {
         EXPECT_EQ(campos(fecha_de(dia, mes, anyo, h, m, seg)), campos(INICIO));
         EXPECT_EQ(vn::Prueba::toma_informes().size(), 1u) << h << " " << mes;
     }
@@ -164,7 +179,10 @@ PRUEBA(vorntime, una_fecha_se_guarda_y_una_danyada_se_informa) {
             vtm_graba_hora_y_fecha(&verano, v);
             vornsave_graba_long(77, v);
         });
-        if (!d.texto && !d.etiquetas) { EXPECT_EQ(vn::hex(b.substr(0, 18)), "030002000100180005006900" "0500ae000000"); }
+        if (!d.texto && !d.etiquetas) {
+            EXPECT_EQ(vn::hex(b.substr(0, 18)), "030002000100180005006900"
+                                                "0500ae000000");
+        }
         vn::leido(d, b, [&](vornsave *v) {
             EXPECT_EQ(campos(toma(vtm_lee_hora_y_fecha(v))), campos(f));
             EXPECT_EQ(campos(toma(vtm_lee_hora_y_fecha(v))), campos(verano));
@@ -187,10 +205,13 @@ PRUEBA(vorntime, una_fecha_se_guarda_y_una_danyada_se_informa) {
                 tmtime mala = f;
                 mala.*r.campo = valor;
                 const bool cabe = valor >= r.minimo && valor <= r.maximo;
-                const auto lee = [&](vornsave *v) { EXPECT_EQ(campos(toma(vtm_lee_hora_y_fecha(v))), campos(cabe ? mala : INICIO)); };
+                const auto lee = [&](vornsave *v) {
+                    EXPECT_EQ(campos(toma(vtm_lee_hora_y_fecha(v))), campos(cabe ? mala : INICIO));
+                };
                 std::string grabada;
-                vn::con_informe(cabe ? nullptr : r.informe,
-                                [&] { grabada = vn::grabado(d, [&](vornsave *v) { vtm_graba_hora_y_fecha(&mala, v); }); });
+                vn::con_informe(cabe ? nullptr : r.informe, [&] {
+                    grabada = vn::grabado(d, [&](vornsave *v) { vtm_graba_hora_y_fecha(&mala, v); });
+                });
                 vn::leido(d, grabada, lee);
                 // The same damage in a file.
                 const std::string danyada = vn::grabado(d, [&](vornsave *v) {
@@ -237,7 +258,9 @@ PRUEBA(vorntime, de_un_texto_sale_una_fecha_o_no_cambia_nada) {
         const vnbool es_fecha = vtm_convierte_cadena_a_tm_u(vn::ancho(texto).c_str(), &ancha);
         EXPECT_EQ(vtm_convierte_cadena_a_tm(texto, &ansi), es_fecha) << texto;
         EXPECT_EQ(campos(ansi), campos(ancha)) << texto;
-        if (es_fecha == FALSO) { EXPECT_EQ(campos(ancha), campos(intacta)) << texto; }
+        if (es_fecha == FALSO) {
+            EXPECT_EQ(campos(ancha), campos(intacta)) << texto;
+        }
         return es_fecha == CIERTO ? std::optional(ancha) : std::nullopt;
     };
     const struct {
@@ -266,10 +289,33 @@ PRUEBA(vorntime, de_un_texto_sale_una_fecha_o_no_cambia_nada) {
         ASSERT_TRUE(leida) << f.texto;
         EXPECT_EQ(campos(*leida), campos(f.fecha)) << f.texto;
     }
-    for (const char *texto :
-         {"29/2/1900", "31/4/2001", "29/2/2100", "1/1/201", "1/1/1899", "1/1/1500", "1/1/2101", "0/1/2000", "32/1/2000", "1/0/2000",
-          "1/13/2000", "1/1", "1/1/", "", "/", "+/1/2000", "++1/1/2000", "1.0/1/2000", "1/enero/2000", "4294967297/1/2000",
-          "1/1/4294969296", "1/1/99999999999999999999999999999999999999", "1/1/2000 24", "1/1/2000 23:60", "1/1/2000 23:59:60",
-          "1/1/2000 99999999999999999999", "1/1/2000\t12", "\xEF\xBC\x91/1/2000"})
+    for (const char *texto : {"29/2/1900",
+                              "31/4/2001",
+                              "29/2/2100",
+                              "1/1/201",
+                              "1/1/1899",
+                              "1/1/1500",
+                              "1/1/2101",
+                              "0/1/2000",
+                              "32/1/2000",
+                              "1/0/2000",
+                              "1/13/2000",
+                              "1/1",
+                              "1/1/",
+                              "",
+                              "/",
+                              "+/1/2000",
+                              "++1/1/2000",
+                              "1.0/1/2000",
+                              "1/enero/2000",
+                              "4294967297/1/2000",
+                              "1/1/4294969296",
+                              "1/1/99999999999999999999999999999999999999",
+                              "1/1/2000 24",
+                              "1/1/2000 23:60",
+                              "1/1/2000 23:59:60",
+                              "1/1/2000 99999999999999999999",
+                              "1/1/2000\t12",
+                              "\xEF\xBC\x91/1/2000"})
         EXPECT_FALSE(lee(texto)) << texto;
 }

@@ -1,9 +1,9 @@
 #define VN_MODULO "vorntime_textos_test"
+#include "foundation/sistema/vnregional.h"
+#include "foundation/sistema/vnstdc.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/msglocal.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/sistema/vnregional.h"
-#include "foundation/sistema/vnstdc.h"
 #include "foundation/texto/widestr.h"
 #include "prueba.h"
 #include "time/vorntime.h"
@@ -72,7 +72,8 @@ PRUEBA(vorntime_textos, los_nombres_son_los_de_cada_lengua_en_las_dos_anchuras) 
     for (const auto &f : filas) {
         const con_idioma activo(f.idioma);
         std::string iniciales;
-        for (uint32_t dia = 0; dia < 7; ++dia) iniciales += de_pagina(vtm_letra_inicial_dia_de_la_semana(dia), f.idioma);
+        for (uint32_t dia = 0; dia < 7; ++dia)
+            iniciales += de_pagina(vtm_letra_inicial_dia_de_la_semana(dia), f.idioma);
         EXPECT_EQ(iniciales, f.iniciales);
         EXPECT_EQ(vn::utf8_de(vorntime_obtener_nombre_mes_u(0)), f.primero);
         EXPECT_EQ(vn::utf8_de(vorntime_obtener_nombre_mes_u(11)), f.ultimo);
@@ -86,7 +87,8 @@ PRUEBA(vorntime_textos, los_nombres_son_los_de_cada_lengua_en_las_dos_anchuras) 
             EXPECT_EQ(con_este, nombre) << idioma;
             EXPECT_EQ(de_pagina(vorntime_obtener_nombre_mes(mes), idioma), nombre) << idioma;
             EXPECT_EQ(de_pagina(vorntime_obtener_nombre_mes_abreviado(mes), idioma),
-                      vn::utf8_de(vorntime_obtener_nombre_mes_abreviado_u(mes))) << idioma;
+                      vn::utf8_de(vorntime_obtener_nombre_mes_abreviado_u(mes)))
+                << idioma;
         }
     }
     EXPECT_EQ(vorntime_obtener_mes(11), 11u);
@@ -107,7 +109,9 @@ PRUEBA(vorntime_textos, fecha_str_escribe_encima_y_nunca_mas_alla) {
             EXPECT_LT(std::strlen(vtm_fecha_str(t)), 64u);
             EXPECT_EQ(de_pagina(vtm_fecha_str(t), idioma), vn::utf8_de(vtm_fecha_str_u(t))) << idioma;
         }
-        if (idioma == 18) { EXPECT_EQ(vn::utf8_de(vtm_fecha_str_u(T)), "Сб 31 Декабрь " + hora); }
+        if (idioma == 18) {
+            EXPECT_EQ(vn::utf8_de(vtm_fecha_str_u(T)), "Сб 31 Декабрь " + hora);
+        }
     }
     // A year that no platform's record holds: told with a message for the user.
     EXPECT_STREQ(vtm_fecha_str(INT64_MAX), "");
@@ -134,13 +138,15 @@ PRUEBA(vorntime_textos, las_formas_del_usuario_son_las_de_su_region) {
         EXPECT_EQ(vn::toma(vtm_formatea_fecha_corta(&antigua)), "");
         EXPECT_EQ(vn::toma(vtm_formatea_hora(&fecha, CIERTO)), hora);
         EXPECT_EQ(vn::toma(vtm_formatea_fecha_y_hora(nullptr, &fecha)), corta + " " + hora);
-        EXPECT_EQ(vn::toma(vtm_formatea_fecha_y_hora_sin_segundos("Obra", &fecha)), "Obra " + corta + " " + f.sin_segundos);
+        EXPECT_EQ(vn::toma(vtm_formatea_fecha_y_hora_sin_segundos("Obra", &fecha)),
+                  "Obra " + corta + " " + f.sin_segundos);
         EXPECT_EQ(vn::toma(vtm_formatea_fecha_ddmmaa_con_separador_sistema(&fecha)), f.ddmmaa);
         EXPECT_EQ(vn::toma(vtm_formatea_fecha_segun_modelo(&fecha, "dddd d 'de' MMMM")), f.con_modelo);
         EXPECT_EQ(vn::toma(vorntime_dame_cadena_formato_fecha(CIERTO)), formato);
         EXPECT_EQ(vn::toma(vorntime_dame_cadena_formato_fecha(FALSO)), formato.substr(0, 10));
     }
-    for (const char *region : {"es-ES", "es-MX", "gl-ES", "ja-JP"}) { // where names are looked at, and where they are not
+    for (const char *region :
+         {"es-ES", "es-MX", "gl-ES", "ja-JP"}) { // where names are looked at, and where they are not
         ASSERT_EQ(vnregional_establece(region), CIERTO);
         vtm_test_fechas(nullptr);
     }

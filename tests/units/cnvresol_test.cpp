@@ -1,5 +1,5 @@
-#include "units/cnvresol.h"
 #include "prueba.h"
+#include "units/cnvresol.h"
 #include <climits>
 
 using namespace vn;

@@ -1,8 +1,8 @@
-#include "units/convers.h"
-#include "foundation/texto/msglocal.h"
 #include "foundation/suelo/vnatexit.h"
+#include "foundation/texto/msglocal.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
+#include "units/convers.h"
 #include "units/vornconf.h"
 #include <algorithm>
 #include <atomic>
@@ -38,19 +38,81 @@ constexpr uint32_t MKS = VORNCONF_SU_MKS, SI = VORNCONF_SU_INTERNACIONAL, IMPERI
 double palabra_en_si(const std::u16string &palabra) {
     constexpr double G = 9.81, LB = 0.45359237 * G, IN = 0.0254, FT = 0.3048;
     static const std::map<std::u16string, double> PALABRAS = {
-        {u"m", 1}, {u"cm", 0.01}, {u"mm", 0.001}, {u"dm", 0.1}, {u"km", 1000}, {u"in", IN}, {u"ft", FT}, {u"yd", 3 * FT},
-        {u"N", 1}, {u"kN", 1000}, {u"kg", G}, {u"kp", G}, {u"t", 1000 * G}, {u"Tn", 1000 * G}, {u"Mp", 1000 * G},
+        {u"m", 1},
+        {u"cm", 0.01},
+        {u"mm", 0.001},
+        {u"dm", 0.1},
+        {u"km", 1000},
+        {u"in", IN},
+        {u"ft", FT},
+        {u"yd", 3 * FT},
+        {u"N", 1},
+        {u"kN", 1000},
+        {u"kg", G},
+        {u"kp", G},
+        {u"t", 1000 * G},
+        {u"Tn", 1000 * G},
+        {u"Mp", 1000 * G},
         {u"mTn", 1000 * G},
-        {u"lb", LB}, {u"lbs", LB}, {u"psi", LB / (IN * IN)}, {u"psf", LB / (FT * FT)}, {u"pcf", LB / (FT * FT * FT)},
-        {u"Pa", 1}, {u"kPa", 1e3}, {u"MPa", 1e6}, {u"GPa", 1e9}, {u"bar", 1e5}, {u"mbar", 100},
-        {u"m.c.a.", 1000 * G}, {u"mm.c.a.", G}, {u"s", 1}, {u"min", 60}, {u"h", 3600},
-        {u"l", 0.001}, {u"CFM", FT * FT * FT / 60}, {u"gpm", 0.003785411784 / 60},
-        {u"J", 1}, {u"Jul", 1}, {u"MJ", 1e6}, {u"W", 1}, {u"kW", 1000}, {u"Wh", 3600}, {u"kWh", 3.6e6}, {u"cal", 4.1868},
-        {u"kcal", 4186.8}, {u"Btu", 1055.05585262}, {u"K", 1}, {u"mK", 1}, {u"°C", 1}, {u"°F", 5. / 9},
-        {u"rad", 1}, {u"mRad", 0.001}, {u"grados", 3.14159265358979324 / 180}, {u"%", 0.01}, {u"%%", 0.01}, {u"x10-6", 1e-6},
-        {u"A", 1}, {u"kA", 1000}, {u"mA", 0.001}, {u"V", 1}, {u"VA", 1}, {u"kVA", 1000}, {u"MVA", 1e6}, {u"Ohm", 1},
-        {u"mOhm", 0.001}, {u"dB", 1}, {u"dBA", 1}, {u"oct", 1}, {u"dBµV", 1}, {u"dBW", 1},
-        {u"tanto", 1}, {u"por", 1}, {u"uno", 1}, {u"cien", 0.01}, {u"Grados", 1}, {u"Centigrados", 1},
+        {u"lb", LB},
+        {u"lbs", LB},
+        {u"psi", LB / (IN * IN)},
+        {u"psf", LB / (FT * FT)},
+        {u"pcf", LB / (FT * FT * FT)},
+        {u"Pa", 1},
+        {u"kPa", 1e3},
+        {u"MPa", 1e6},
+        {u"GPa", 1e9},
+        {u"bar", 1e5},
+        {u"mbar", 100},
+        {u"m.c.a.", 1000 * G},
+        {u"mm.c.a.", G},
+        {u"s", 1},
+        {u"min", 60},
+        {u"h", 3600},
+        {u"l", 0.001},
+        {u"CFM", FT * FT * FT / 60},
+        {u"gpm", 0.003785411784 / 60},
+        {u"J", 1},
+        {u"Jul", 1},
+        {u"MJ", 1e6},
+        {u"W", 1},
+        {u"kW", 1000},
+        {u"Wh", 3600},
+        {u"kWh", 3.6e6},
+        {u"cal", 4.1868},
+        {u"kcal", 4186.8},
+        {u"Btu", 1055.05585262},
+        {u"K", 1},
+        {u"mK", 1},
+        {u"°C", 1},
+        {u"°F", 5. / 9},
+        {u"rad", 1},
+        {u"mRad", 0.001},
+        {u"grados", 3.14159265358979324 / 180},
+        {u"%", 0.01},
+        {u"%%", 0.01},
+        {u"x10-6", 1e-6},
+        {u"A", 1},
+        {u"kA", 1000},
+        {u"mA", 0.001},
+        {u"V", 1},
+        {u"VA", 1},
+        {u"kVA", 1000},
+        {u"MVA", 1e6},
+        {u"Ohm", 1},
+        {u"mOhm", 0.001},
+        {u"dB", 1},
+        {u"dBA", 1},
+        {u"oct", 1},
+        {u"dBµV", 1},
+        {u"dBW", 1},
+        {u"tanto", 1},
+        {u"por", 1},
+        {u"uno", 1},
+        {u"cien", 0.01},
+        {u"Grados", 1},
+        {u"Centigrados", 1},
     };
     const auto p = PALABRAS.find(palabra);
     if (p != PALABRAS.end()) return p->second;
@@ -90,15 +152,17 @@ const struct {
 #undef X
 };
 
-// The rows whose figure is not exactly that of its units, and by how much of it: rounded figures that stay as they are, and
-// three whose area went the other way, which stay too.
+// The rows whose figure is not exactly that of its units, and by how much of it: rounded figures that stay as they are,
+// and three whose area went the other way, which stay too.
 constexpr double PIE_CUADRADO = 0.09290304;
 const struct {
     std::vector<uint32_t> tipos, sistemas;
     double desvio;
 } DESVIOS[] = {
     {{CNV_ANGULO}, {MKS, SI, IMPERIAL}, 8.498e-9},
-    {{CNV_PODER_CALORIFICO, CNV_ENERGIA_KWH, CNV_ENERGIA_SUPERFICIAL_KWH}, {MKS, SI, IMPERIAL}, 1.8e-4}, // 860 kcal a kWh
+    {{CNV_PODER_CALORIFICO, CNV_ENERGIA_KWH, CNV_ENERGIA_SUPERFICIAL_KWH},
+     {MKS, SI, IMPERIAL},
+     1.8e-4}, // 860 kcal a kWh
     {{CNV_RESISTENCIA_TERMICA}, {MKS}, -1.8e-4},
     {{CNV_RESISTENCIA_TERMICA}, {IMPERIAL}, 1.043e-6},
     {{CNV_CAUDAL_AIRE, CNV_CAUDAL_L_S, CNV_CAUDAL_L_MIN, CNV_CAUDAL_L_H, CNV_CAUDAL_EN_L_S}, {IMPERIAL}, 9.391e-7},
@@ -111,7 +175,7 @@ const struct {
     {{CNV_PERDIDA_CARGA, CNV_PERDIDA_CARGA_LINEAL, CNV_PRESION_KPA, CNV_PRESION_BAR, CNV_PERDIDA_CARGA_LINEAL_MBAR},
      {IMPERIAL},
      3.415e-4},
-    {{CNV_PERDIDA_EN_KCAL, CNV_PERDIDA_TERMICA}, {IMPERIAL}, PIE_CUADRADO * PIE_CUADRADO - 1},
+    {{CNV_PERDIDA_EN_KCAL, CNV_PERDIDA_TERMICA}, {IMPERIAL}, PIE_CUADRADO *PIE_CUADRADO - 1},
     {{CNV_CAUDAL_SUPERFICIAL_EN_L_S}, {IMPERIAL}, 1 / (PIE_CUADRADO * PIE_CUADRADO) - 1},
 };
 
@@ -143,7 +207,8 @@ PRUEBA(convers, cada_fila_convierte_lo_que_dicen_sus_unidades) {
         for (uint32_t energia = 0; energia < 3; ++energia) {
             const en_sistema puesto(sistema, energia);
             for (const auto &f : FILAS) {
-                SCOPED_TRACE(testing::Message() << "type " << f.tipo << " in system " << sistema << ", energy " << energia);
+                SCOPED_TRACE(testing::Message()
+                             << "type " << f.tipo << " in system " << sistema << ", energy " << energia);
                 const double sumando = cnv_convierte(CNV_A_MOSTRADO, f.tipo, 0.);
                 const double coef = cnv_convierte(CNV_A_MOSTRADO, f.tipo, 1.) - sumando;
                 const double esperado = unidad_en_si(f.interna) / unidad_en_si(vn::u16_de(cnv_strextunids(f.tipo)));
@@ -206,9 +271,20 @@ PRUEBA(convers, la_precision_es_la_potencia_de_diez_mas_proxima) {
         double prec, esperada;
         uint32_t decimales;
     } filas[] = {
-        {1., 1., 0},          {0.01, 0.01, 2},       {0.03, 0.01, 2},       {0.3, 0.1, 1},         {0.32, 1., 0},
-        {1e-12, 1e-12, 12},   {5e-324, 1e-323, 323}, {DBL_MAX, 1e308, 0},   {INF, 1e308, 0},       {1e22, 1e22, 0},
-        {0.001, 0.001, 3},    {RAIZ, 10., 0},        {RAIZ * 1e-5, 1e-4, 4}, {std::nextafter(RAIZ, 0.), 1., 0},
+        {1., 1., 0},
+        {0.01, 0.01, 2},
+        {0.03, 0.01, 2},
+        {0.3, 0.1, 1},
+        {0.32, 1., 0},
+        {1e-12, 1e-12, 12},
+        {5e-324, 1e-323, 323},
+        {DBL_MAX, 1e308, 0},
+        {INF, 1e308, 0},
+        {1e22, 1e22, 0},
+        {0.001, 0.001, 3},
+        {RAIZ, 10., 0},
+        {RAIZ * 1e-5, 1e-4, 4},
+        {std::nextafter(RAIZ, 0.), 1., 0},
     };
     for (const auto &f : filas) {
         EXPECT_EQ(convers_precision_segun_sistema_uds(f.prec, CNV_METROS), f.esperada) << f.prec;
@@ -221,7 +297,7 @@ PRUEBA(convers, la_precision_es_la_potencia_de_diez_mas_proxima) {
         EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds(x, CNV_METROS), 5u) << x;
     }
     // A precision that is given as a system shows it.
-    EXPECT_EQ(convers_precision_segun_sistema_uds_dado_prec_y_sistema(1., 2, 13), 1.); // an inch, in cm
+    EXPECT_EQ(convers_precision_segun_sistema_uds_dado_prec_y_sistema(1., 2, 13), 1.);                // an inch, in cm
     EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds_dado_prec_y_sistema(1e-6, 1, 0), 2u); // a kPa
     const auto en_kcal = convers_precision_segun_sistema_uds_energia_dado_prec_y_sistema;
     EXPECT_EQ(en_kcal(1., 1, 1, 110), 1.); // shown in kcal/h
@@ -279,8 +355,7 @@ PRUEBA(convers, el_redondeo_va_hacia_donde_dice_su_nombre) {
     EXPECT_EQ(cerca(1.23456, 0.05, CNV_LONGITUD), 1.25); // in metres or feet: by centimetres
     EXPECT_EQ(cerca(1.23456, 0.25, CNV_NO_CONVERSION), 1.25);
     // Nothing to round to: next to no step, a number of steps beyond 32 bits, no number.
-    for (const double x : {1.23456, -7e300, DBL_MAX, INF, -INF})
-        EXPECT_EQ(cerca(x, 1e-7, CNV_METROS), x) << x;
+    for (const double x : {1.23456, -7e300, DBL_MAX, INF, -INF}) EXPECT_EQ(cerca(x, 1e-7, CNV_METROS), x) << x;
     EXPECT_EQ(abajo(2147483647.5, 1., CNV_METROS), 2147483647.);
     EXPECT_EQ(arriba(2147483647.5, 1., CNV_METROS), 2147483647.5);
     EXPECT_EQ(cerca(DBL_MAX, 1., CNV_LONGITUD_CM), DBL_MAX);
@@ -297,23 +372,24 @@ PRUEBA(convers, el_valor_adaptado_es_redondo_en_la_unidad_que_se_ve) {
         uint32_t sistema, tipo;
         double mostrado, esperado;
     } filas[] = {
-        {SI, 1, 1234., 1200.},           // 0.2: a step of 100
-        {SI, 0, 39.9, 39.},              // 0.1: by 1, downwards
+        {SI, 1, 1234., 1200.},            // 0.2: a step of 100
+        {SI, 0, 39.9, 39.},               // 0.1: by 1, downwards
         {IMPERIAL, 1, 2204.62262, 2200.}, // 0.2: 441, a step of 100
-        {IMPERIAL, 13, 39.37, 39.},      // 3.9 inches: by 1
-        {IMPERIAL, 13, 70., 72.},        // 7 inches: by 6
-        {IMPERIAL, 11, 11.2, 12.},       // upwards
-        {IMPERIAL, 19, 11.9, 11.},       // downwards
+        {IMPERIAL, 13, 39.37, 39.},       // 3.9 inches: by 1
+        {IMPERIAL, 13, 70., 72.},         // 7 inches: by 6
+        {IMPERIAL, 11, 11.2, 12.},        // upwards
+        {IMPERIAL, 19, 11.9, 11.},        // downwards
         {IMPERIAL, 24, 1.01e-5, 1.01e-5}, // a step next to nothing
-        {SI, 13, 123.4, 123.4},          // what the M.K.S. shows is as good
-        {SI, 37, 123.4, 123.4},          // no precision of its own
+        {SI, 13, 123.4, 123.4},           // what the M.K.S. shows is as good
+        {SI, 37, 123.4, 123.4},           // no precision of its own
         {IMPERIAL, 33, 1.2345, 1.2345},
     };
     for (const auto &f : filas) {
         const en_sistema puesto(f.sistema);
         const double valor = cnv_convierte(CNV_A_INTERNO, f.tipo, f.mostrado);
         EXPECT_NEAR(cnv_convierte(CNV_A_MOSTRADO, f.tipo, convers_valor_adaptado_a_unidades(valor, f.tipo)), f.esperado,
-                    f.esperado * 1e-14) << "type " << f.tipo << ", " << f.mostrado;
+                    f.esperado * 1e-14)
+            << "type " << f.tipo << ", " << f.mostrado;
     }
     const en_sistema puesto(IMPERIAL);
     for (const double x : {2e12, 1e12, -1e12, INF, NAN_, 0.}) {
@@ -361,7 +437,8 @@ PRUEBA(convers, cada_texto_tiene_su_formato_en_los_dos_anchos) {
     EXPECT_EQ(toma(convers_texto_n_decimales(m, 70, 4)) + toma(convers_texto_n_decimales_u(m, 70, 0)), "1.23461");
     EXPECT_EQ(toma(convers_texto_con_unidades_n_decimales(m, 70, 1)), "1.2 m");
     EXPECT_EQ(toma(convers_texto_con_cabecera_y_unidades_n_decimales(VNU("L"), m, 70, 5)), "L: 1.23456 m");
-    EXPECT_EQ(toma(convers_texto_max_n_decimales(1.2, 70, 3)) + toma(convers_texto_max_n_decimales_u(m, 70, 3)), "1.21.235");
+    EXPECT_EQ(toma(convers_texto_max_n_decimales(1.2, 70, 3)) + toma(convers_texto_max_n_decimales_u(m, 70, 3)),
+              "1.21.235");
     EXPECT_EQ(toma(convers_texto_con_unidades_max_n_decimales(m, 70, 2)), "1.23 m");
     EXPECT_EQ(toma(convers_texto_con_cabecera_y_unidades_max_tres_decimales(VNU("%s"), 2., 70)), "%s: 2 m");
     EXPECT_EQ(toma(convers_texto_con_unidades(NAN_, 70)) + toma(convers_texto_dos_decimales(-INF, 13)), "nan m-inf");

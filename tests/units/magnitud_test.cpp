@@ -1,6 +1,6 @@
-#include "units/magnitud.h"
 #include "propiedades.h"
 #include "prueba.h"
+#include "units/magnitud.h"
 #include "units/vornconf.h"
 #include <cfloat>
 #include <cmath>
@@ -30,12 +30,22 @@ PRUEBA(magnitud, las_constantes_son_las_de_la_casa) {
         double (*f)(double);
         double x, de_x;
     } filas[] = {
-        {magnitud_N_a_Tn, 9810., 1.}, {magnitud_kips_a_Tn, 1., 0.4535923703803783}, {magnitud_in_a_m, 1., 0.0254},
-        {magnitud_ft_a_m, 1., 0.3048}, {magnitud_mi_a_km, 1., 1.609344}, {magnitud_ksi_a_Tm_m2, 1., 703.0695802287469},
-        {magnitud_W_a_Btu_h, 1., 3.41214163313}, {magnitud_kcal_h_a_W, 1., 1.163}, {magnitud_lb_ft2_a_Tn_m2, 9.81, 0.0479},
-        {magnitud_lb_ft3_a_Tn_m3, 1., 0.016}, {magnitud_km_h_a_m_s, 3.6, 1.}, {magnitud_anyos_a_dias, 2., 730.},
-        {magnitud_mca_a_Pa, 1., 9810.}, {magnitud_grados_C_a_grados_F, 100., 212.},
-        {magnitud_incremento_grados_C_a_grados_F, 100., 180.}, {magnitud_grados_C_a_grados_K, 0., 273.15},
+        {magnitud_N_a_Tn, 9810., 1.},
+        {magnitud_kips_a_Tn, 1., 0.4535923703803783},
+        {magnitud_in_a_m, 1., 0.0254},
+        {magnitud_ft_a_m, 1., 0.3048},
+        {magnitud_mi_a_km, 1., 1.609344},
+        {magnitud_ksi_a_Tm_m2, 1., 703.0695802287469},
+        {magnitud_W_a_Btu_h, 1., 3.41214163313},
+        {magnitud_kcal_h_a_W, 1., 1.163},
+        {magnitud_lb_ft2_a_Tn_m2, 9.81, 0.0479},
+        {magnitud_lb_ft3_a_Tn_m3, 1., 0.016},
+        {magnitud_km_h_a_m_s, 3.6, 1.},
+        {magnitud_anyos_a_dias, 2., 730.},
+        {magnitud_mca_a_Pa, 1., 9810.},
+        {magnitud_grados_C_a_grados_F, 100., 212.},
+        {magnitud_incremento_grados_C_a_grados_F, 100., 180.},
+        {magnitud_grados_C_a_grados_K, 0., 273.15},
     };
     for (const auto &f : filas) EXPECT_DOUBLE_EQ(f.f(f.x), f.de_x) << &f - filas;
     EXPECT_EQ(magnitud_pixel_a_cm(4294967295u), 4294967295. * 0.013);
@@ -72,8 +82,8 @@ PRUEBA(magnitud, las_comparaciones_cambian_justo_pasada_la_tolerancia) {
             double x;
             int orden;
         } filas[] = {
-            {t, 0},   {std::nextafter(t, 1.), 1},    {std::nextafter(t, -1.), t > 0 ? 0 : -1}, {0., 0},   {1., 1},
-            {-t, 0},  {std::nextafter(-t, -1.), -1}, {std::nextafter(-t, 1.), t > 0 ? 0 : 1},  {INF, 1}, {-INF, -1},
+            {t, 0},  {std::nextafter(t, 1.), 1},    {std::nextafter(t, -1.), t > 0 ? 0 : -1}, {0., 0},  {1., 1},
+            {-t, 0}, {std::nextafter(-t, -1.), -1}, {std::nextafter(-t, 1.), t > 0 ? 0 : 1},  {INF, 1}, {-INF, -1},
         };
         for (const auto &f : filas) {
             SCOPED_TRACE(testing::Message() << f.x << " with " << t);
@@ -96,14 +106,17 @@ PRUEBA(magnitud, las_comparaciones_cambian_justo_pasada_la_tolerancia) {
 PRUEBA(magnitud, lo_que_no_es_un_numero_no_se_compara_con_nada) {
     EXPECT_EQ(parmzero(NAN_) + parmnotzero(NAN_) + parmgtzero(NAN_) + parmgezero(NAN_) + parmltzero(NAN_), 0);
     for (const double x : {0., INF, NAN_})
-        EXPECT_EQ(parmeq(NAN_, x) + parmne(x, NAN_) + parmgt(NAN_, x) + parmge(x, NAN_) + parmlt(NAN_, x) + parmle(x, NAN_), 0);
+        EXPECT_EQ(parmeq(NAN_, x) + parmne(x, NAN_) + parmgt(NAN_, x) + parmge(x, NAN_) + parmlt(NAN_, x) +
+                      parmle(x, NAN_),
+                  0);
     EXPECT_EQ(parmeq(INF, INF) + parmne(INF, INF) + parmge(INF, INF) + parmle(INF, INF), 0);
 }
 
 PRUEBA(magnitud, el_redondeo_lleva_las_mitades_hacia_arriba) {
     const struct {
         double x, ro, esperado;
-    } filas[] = {{-2.5, 1., -2.}, {2.5, 1., 3.}, {-2.6, 1., -3.}, {7.3, 2.5, 7.5}, {-0.125, 0.25, 0.}, {1e300, 1e-5, 1e300}};
+    } filas[] = {{-2.5, 1., -2.}, {2.5, 1., 3.},      {-2.6, 1., -3.},
+                 {7.3, 2.5, 7.5}, {-0.125, 0.25, 0.}, {1e300, 1e-5, 1e300}};
     for (const auto &f : filas) EXPECT_DOUBLE_EQ(_roundoff(f.x, f.ro), f.esperado) << f.x << " to " << f.ro;
     for (const double ro : {0., -1., NAN_}) EXPECT_EQ(ESPERA_INFORME("ro > 0.", _roundoff(7.3, ro)), 7.3);
 }
@@ -117,8 +130,10 @@ PRUEBA(magnitud, la_longitud_se_redondea_al_paso_del_sistema) {
         const double paso = pulgadas ? 0.0254 : 0.05;
         // 1.234 m are 24.68 steps of 5 cm and 48.58 inches; 1.211 m, 24.22 and 47.68.
         EXPECT_EQ(cerca(1.234, 5, 1), (pulgadas ? 49 : 25) * paso);
-        EXPECT_EQ(magnitud_longitud_redondeada_por_defecto_segun_sistema_unidades(1.234, 5, 1), (pulgadas ? 48 : 24) * paso);
-        EXPECT_EQ(magnitud_longitud_redondeada_por_exceso_segun_sistema_unidades(1.211, 5, 1), (pulgadas ? 48 : 25) * paso);
+        EXPECT_EQ(magnitud_longitud_redondeada_por_defecto_segun_sistema_unidades(1.234, 5, 1),
+                  (pulgadas ? 48 : 24) * paso);
+        EXPECT_EQ(magnitud_longitud_redondeada_por_exceso_segun_sistema_unidades(1.211, 5, 1),
+                  (pulgadas ? 48 : 25) * paso);
         EXPECT_EQ(ESPERA_INFORME("paso > 0.", cerca(1.234, pulgadas ? 1 : 0, pulgadas ? 0 : 1)), 1.234);
     }
     vornconf_Internacional_set_sistema_unidades(antes);

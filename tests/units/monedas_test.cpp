@@ -1,6 +1,6 @@
-#include "units/monedas.h"
 #include "foundation/texto/msglocal.h"
 #include "prueba.h"
+#include "units/monedas.h"
 #include <cfloat>
 #include <cmath>
 

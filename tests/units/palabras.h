@@ -1,8 +1,8 @@
 // What the tests of the amounts in words share.
 #pragma once
 
-#include "foundation/texto/unicode.h"
 #include "foundation/texto/msglocal.h"
+#include "foundation/texto/unicode.h"
 #include "prueba.h"
 #include "units/vnnumlet.h"
 

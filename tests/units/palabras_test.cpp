@@ -2,8 +2,8 @@
 #include "propiedades.h"
 #include <functional>
 
-// Numbers in words against lists made by others, up to a million. Where a list follows another norm, what it differs in is
-// told as a rule over its words.
+// Numbers in words against lists made by others, up to a million. Where a list follows another norm, what it differs in
+// is told as a rule over its words.
 
 using namespace vn;
 

@@ -1,12 +1,12 @@
-#include "primer_uso.h"
-#include "foundation/texto/cad.h"
 #include "foundation/sistema/fichconf.h"
+#include "foundation/sistema/vnmutex.h"
+#include "foundation/suelo/vnatexit.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/msglocal.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/suelo/vnatexit.h"
-#include "foundation/sistema/vnmutex.h"
 #include "foundation/texto/widestr.h"
 #include "frame/alsalir.h"
+#include "primer_uso.h"
 #include "time/sysdata.h"
 #include "units/convers.h"
 #include "units/vornconf.h"
@@ -82,8 +82,9 @@ bool se_ha_destruido() {
 constexpr vn::uso USOS[] = {
     {"unit configuration",
      [](int) {
-         return vornconf_Internacional_sistema_unidades() == 3 && vornconf_Internacional_sistema_unidades_energia() == 2 &&
-                vornconf_Internacional_normaHorm() == 77 && vornconf_es_sistema_unidades_inglesas() == CIERTO;
+         return vornconf_Internacional_sistema_unidades() == 3 &&
+                vornconf_Internacional_sistema_unidades_energia() == 2 && vornconf_Internacional_normaHorm() == 77 &&
+                vornconf_es_sistema_unidades_inglesas() == CIERTO;
      },
      [] { return true; }},
     {"value texts", [](int h) { return (textos[static_cast<size_t>(h)] = fuerza()).starts_with("2204.62 "); },
@@ -93,7 +94,11 @@ constexpr vn::uso USOS[] = {
      [] { return todos_son(mensajes, mensaje()); }},
     {"language", [](int h) { return (idiomas[static_cast<size_t>(h)] = msidioma_dame_idioma()) >= 0; },
      [] { return todos_son(idiomas, msidioma_dame_idioma()); }},
-    {"code page", [](int h) { return (paginas[static_cast<size_t>(h)] = en_mayusculas()) == "\xD1" "AND\xDA"; },
+    {"code page",
+     [](int h) {
+         return (paginas[static_cast<size_t>(h)] = en_mayusculas()) == "\xD1"
+                                                                       "AND\xDA";
+     },
      [] { return todos_son(paginas, en_mayusculas()); }},
     {"region", [](int h) { return !(regiones[static_cast<size_t>(h)] = region()).empty(); },
      [] { return todos_son(regiones, region()); }},

@@ -1,7 +1,7 @@
-#include "units/unidades.h"
 #include "foundation/texto/msglocal.h"
 #include "foundation/texto/unicode.h"
 #include "prueba.h"
+#include "units/unidades.h"
 
 using namespace vn;
 
@@ -10,9 +10,10 @@ namespace {
 using ansi = const char *(*)();
 using ancha = const vnwchar *(*)();
 constexpr std::pair<ansi, ancha> UNIDADES[] = {
-    {unidades_UD, unidades_u_UD}, {unidades_H, unidades_u_H},   {unidades_kg, unidades_u_kg},       {unidades_km, unidades_u_km},
-    {unidades_l, unidades_u_l},   {unidades_m, unidades_u_m},   {unidades_M2, unidades_u_M2},       {unidades_m3, unidades_u_m3},
-    {unidades_t, unidades_u_t},   {unidades_txkm, unidades_u_txkm}, {unidades_m3xkm, unidades_u_m3xkm},
+    {unidades_UD, unidades_u_UD},     {unidades_H, unidades_u_H},         {unidades_kg, unidades_u_kg},
+    {unidades_km, unidades_u_km},     {unidades_l, unidades_u_l},         {unidades_m, unidades_u_m},
+    {unidades_M2, unidades_u_M2},     {unidades_m3, unidades_u_m3},       {unidades_t, unidades_u_t},
+    {unidades_txkm, unidades_u_txkm}, {unidades_m3xkm, unidades_u_m3xkm},
 };
 
 std::string cambia(std::string s, std::string_view a, std::string_view b) {
@@ -30,7 +31,8 @@ PRUEBA(unidades, la_forma_ansi_es_la_ancha_en_la_pagina_del_idioma) {
             const std::string leida = toma(unicode_convierte_ANSI_idioma_a_UNICODE(a(), static_cast<uint32_t>(idioma)));
             std::string esperada = utf8_de(u());
             const auto cabe = [&] {
-                return trconvansi_texto_unicode_es_compatible_ANSI_idioma(ancho(esperada).c_str(), static_cast<uint32_t>(idioma)) == CIERTO;
+                return trconvansi_texto_unicode_es_compatible_ANSI_idioma(ancho(esperada).c_str(),
+                                                                          static_cast<uint32_t>(idioma)) == CIERTO;
             };
             if (!cabe()) esperada = cambia(cambia(esperada, "²", "2"), "³", "3");
             if (!cabe()) esperada = cambia(esperada, "·", ".");

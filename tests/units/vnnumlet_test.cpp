@@ -1,6 +1,6 @@
-#include "units/vnnumlet.h"
 #include "foundation/sistema/vnstdc.h"
 #include "palabras.h"
+#include "units/vnnumlet.h"
 #include <set>
 
 using namespace vn;
@@ -87,12 +87,14 @@ PRUEBA(vnnumlet, un_importe_lleva_sus_monedas) {
          "doscientos un millones doscientas una mil quinientas veintiuna pesetas"},
         {PT_BR, "1202002", FALSO, "libra", "libras", CIERTO, nullptr, nullptr, FALSO,
          "um milhão duzentas e duas mil e duas libras"},
-        {CA, "222.00", FALSO, "pesseta", "pessetes", CIERTO, nullptr, nullptr, FALSO, "dues-centes vint-i-dues pessetes"},
+        {CA, "222.00", FALSO, "pesseta", "pessetes", CIERTO, nullptr, nullptr, FALSO,
+         "dues-centes vint-i-dues pessetes"},
         {EN, "1.50", FALSO, "pound", "pounds", FALSO, "penny", "pence", FALSO, "one pound and fifty pence"},
         {FR, "2000000", FALSO, "euro", "euros", FALSO, nullptr, nullptr, FALSO, "deux millions d'euros"},
         {FR, "1000000.80", FALSO, "livre", "livres", CIERTO, "sou", "sous", FALSO,
          "un million de livres et quatre-vingts sous"},
-        {FR, "21021", FALSO, "livre", "livres", CIERTO, nullptr, nullptr, FALSO, "vingt et un mille vingt et une livres"},
+        {FR, "21021", FALSO, "livre", "livres", CIERTO, nullptr, nullptr, FALSO,
+         "vingt et un mille vingt et une livres"},
     };
     for (const auto &f : filas) {
         msidioma_establece_idioma(f.idioma);
@@ -105,7 +107,8 @@ PRUEBA(vnnumlet, un_importe_lleva_sus_monedas) {
               nullptr);
 }
 
-// No two numbers share their words, whatever their size: a word of the tables that is another's, or a group lost, would.
+// No two numbers share their words, whatever their size: a word of the tables that is another's, or a group lost,
+// would.
 PRUEBA(vnnumlet, cada_numero_tiene_sus_palabras) {
     for (const int idioma : {ES, FR, PT_BR, CA, PT, EN, GL}) {
         std::set<std::string> todas, femeninas;
@@ -123,9 +126,11 @@ PRUEBA(vnnumlet, cada_numero_tiene_sus_palabras) {
 PRUEBA(vnnumlet, lo_que_no_es_un_importe_se_informa) {
     msidioma_establece_idioma(ES);
     for (const char *cadena : {"12.", "1.x5", "abc", "12.\xFF\xFE", " -1"})
-        EXPECT_EQ(ESPERA_INFORME("vnstdc_isdigit(pStrAux[0])", vnnumlet_numero_en_cifras_a_letra(cadena, FALSO)), nullptr);
+        EXPECT_EQ(ESPERA_INFORME("vnstdc_isdigit(pStrAux[0])", vnnumlet_numero_en_cifras_a_letra(cadena, FALSO)),
+                  nullptr);
     for (const char *cadena : {"12.5", "x7", "0,1 "})
-        EXPECT_EQ(ESPERA_INFORME("vnstdc_isdigit(pStrAux[1])", vnnumlet_numero_en_cifras_a_letra(cadena, FALSO)), nullptr);
+        EXPECT_EQ(ESPERA_INFORME("vnstdc_isdigit(pStrAux[1])", vnnumlet_numero_en_cifras_a_letra(cadena, FALSO)),
+                  nullptr);
     for (const char *cadena : {"3.077", "1.234,56", "12.34 "})
         EXPECT_EQ(ESPERA_INFORME("pStrAux[2] == 0", vnnumlet_numero_en_cifras_a_letra(cadena, FALSO)), nullptr);
     for (const char *cadena : {" 12", "-50", "x07"})

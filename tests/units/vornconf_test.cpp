@@ -1,11 +1,11 @@
 #define VN_MODULO "vornconf_test"
-#include "units/vornconf.h"
 #include "fallos.h"
 #include "foundation/sistema/fichconf.h"
-#include "foundation/texto/msglocal.h"
 #include "foundation/suelo/operaciones_fichero.h"
+#include "foundation/texto/msglocal.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
+#include "units/vornconf.h"
 #include <array>
 #include <chrono>
 #include <filesystem>
@@ -18,7 +18,8 @@ namespace {
 
 // The file in a directory of the test's, and the record of the process as the file has it.
 struct en_directorio {
-    explicit en_directorio(const std::string &base = vn::Prueba::directorio()) : nombre(base + "/VORN/estructa/internac.ini") {
+    explicit en_directorio(const std::string &base = vn::Prueba::directorio())
+        : nombre(base + "/VORN/estructa/internac.ini") {
         msidioma_establece_idioma(0); // in the children too
         fichconf_establece_directorio_base(vn::ancho(base).c_str());
         vornconf_par_lee_internacional(nullptr);
@@ -38,7 +39,8 @@ struct en_directorio {
 };
 
 std::array<uint32_t, 7> valores(const internacional &r) {
-    return {r.hormigon, r.conformados, r.laminados, r.electrica, r.madera, r.sistema_unidades, r.sistema_unidades_energia};
+    return {
+        r.hormigon, r.conformados, r.laminados, r.electrica, r.madera, r.sistema_unidades, r.sistema_unidades_energia};
 }
 std::array<uint32_t, 7> leidos() {
     internacional r{};
@@ -51,7 +53,8 @@ internacional todo(uint32_t n) { return {n, n, n, n, n, n, n}; }
 
 std::string texto_de(const std::array<uint32_t, 7> &v, int idioma) {
     std::string t = "[Internacional]\nIdioma=" + std::to_string(idioma);
-    constexpr const char *CLAVES[] = {"Norma", "NormaAceroConf", "NormaAceroLam", "NormaElec", "NormaMadera", "Sistema de Unidades", "SistemaUnidadEnergia"};
+    constexpr const char *CLAVES[] = {"Norma",       "NormaAceroConf",      "NormaAceroLam",       "NormaElec",
+                                      "NormaMadera", "Sistema de Unidades", "SistemaUnidadEnergia"};
     for (size_t i = 0; i < v.size(); ++i) t += std::string("\n") + CLAVES[i] + "=" + std::to_string(v[i]);
     return t + "\n";
 }
@@ -66,8 +69,16 @@ PRUEBA(vornconf, sin_fichero_manda_el_idioma) {
         int idioma;
         std::array<uint32_t, 7> esperado;
     } filas[] = {
-        {3, EN_ESPANYOL}, {9, EN_ESPANYOL}, {1, {13, 10, 12, 4, 4, 2, 0}}, {2, {11, 6, 8, 2, 1, 2, 0}}, {5, {51, 19, 36, 4, 2, 1, 0}},
-        {8, {12, 7, 9, 4, 1, 2, 0}}, {38, {12, 7, 9, 4, 1, 2, 0}}, {24, {53, 28, 32, 4, 1, 1, 0}}, {39, {53, 28, 32, 4, 1, 2, 0}}, {40, {12, 7, 9, 4, 1, 1, 0}},
+        {3, EN_ESPANYOL},
+        {9, EN_ESPANYOL},
+        {1, {13, 10, 12, 4, 4, 2, 0}},
+        {2, {11, 6, 8, 2, 1, 2, 0}},
+        {5, {51, 19, 36, 4, 2, 1, 0}},
+        {8, {12, 7, 9, 4, 1, 2, 0}},
+        {38, {12, 7, 9, 4, 1, 2, 0}},
+        {24, {53, 28, 32, 4, 1, 1, 0}},
+        {39, {53, 28, 32, 4, 1, 2, 0}},
+        {40, {12, 7, 9, 4, 1, 1, 0}},
     };
     for (const auto &f : filas) {
         msidioma_establece_idioma(f.idioma);
@@ -82,8 +93,9 @@ PRUEBA(vornconf, el_fichero_tiene_nueve_lineas) {
     const internacional r{12, 34, 4294967295u, 7, 8, 3, 2};
     vornconf_par_graba_internacional(&r);
     EXPECT_EQ(vornconf_Internacional_normaHorm() + vornconf_Internacional_normaAceroConf(), 46u); // from the record
-    EXPECT_EQ(d.contenido(), "[Internacional]\nIdioma=1\nNorma=12\nNormaAceroConf=34\nNormaAceroLam=-1\nNormaElec=7\nNormaMadera=8\n"
-                             "Sistema de Unidades=3\nSistemaUnidadEnergia=2\n");
+    EXPECT_EQ(d.contenido(),
+              "[Internacional]\nIdioma=1\nNorma=12\nNormaAceroConf=34\nNormaAceroLam=-1\nNormaElec=7\nNormaMadera=8\n"
+              "Sistema de Unidades=3\nSistemaUnidadEnergia=2\n");
     EXPECT_EQ(leidos(), valores(r));
     EXPECT_EQ(vornconf_es_sistema_unidades_inglesas(), CIERTO);
     EXPECT_EQ(vornconf_Internacional_normaAceroLam(), 4294967295u);
@@ -91,7 +103,8 @@ PRUEBA(vornconf, el_fichero_tiene_nueve_lineas) {
     EXPECT_EQ(vornconf_Internacional_sistema_unidades_energia(), 2u);
 
     // Another's keys are lost with the next write; one standard goes to the file and not to the record.
-    d.pon("; mine\r\n[Internacional]\r\nNorma = 5\r\nOtra=1\r\nSistema de Unidades=2\r\nNormaMadera=0\r\n[Mas]\r\nNorma=9\r\n");
+    d.pon("; mine\r\n[Internacional]\r\nNorma = 5\r\nOtra=1\r\nSistema de "
+          "Unidades=2\r\nNormaMadera=0\r\n[Mas]\r\nNorma=9\r\n");
     EXPECT_EQ(vornconf_lee_norma_hormigon(), 5u);
     vornconf_graba_norma_acero_laminado(77);
     EXPECT_EQ(d.contenido(), texto_de({5, 8, 77, 4, 3, 2, 0}, 1));
@@ -111,8 +124,10 @@ PRUEBA(vornconf, lo_que_se_cambia_para_una_ejecucion) {
     EXPECT_EQ(vornconf_lee_norma_hormigon(), 47u);
     EXPECT_EQ(vornconf_Internacional_sistema_unidades(), VORNCONF_SU_IMPERIAL);
     for (const uint32_t mal : {0u, 4u})
-        ESPERA_INFORME("sistema_unidades == VORNCONF_SU_MKS || sistema_unidades == VORNCONF_SU_INTERNACIONAL || sistema_unidades == "
-                       "VORNCONF_SU_IMPERIAL", vornconf_Internacional_set_sistema_unidades(mal));
+        ESPERA_INFORME("sistema_unidades == VORNCONF_SU_MKS || sistema_unidades == VORNCONF_SU_INTERNACIONAL || "
+                       "sistema_unidades == "
+                       "VORNCONF_SU_IMPERIAL",
+                       vornconf_Internacional_set_sistema_unidades(mal));
     ESPERA_INFORME("sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_JULIO || sistema_unidades_energia == "
                    "VORNNORM_UNIDAD_ENERGIA_KCAL || sistema_unidades_energia == VORNNORM_UNIDAD_ENERGIA_BTU",
                    vornconf_Internacional_set_sistema_unidades_energia(3));
@@ -134,7 +149,9 @@ HIJO(graba_antes_de_preguntar) {
     const internacional r{0, 34, 0, 7, 8, 0, 2};
     vornconf_par_graba_internacional(&r);
     return vornconf_Internacional_sistema_unidades() == 1 && vornconf_Internacional_normaHorm() == 47 &&
-                   vornconf_Internacional_normaAceroConf() == 34 ? 0 : 1;
+                   vornconf_Internacional_normaAceroConf() == 34
+               ? 0
+               : 1;
 }
 
 PRUEBA(vornconf, se_crea_solo_si_no_existe) {
@@ -159,8 +176,9 @@ PRUEBA(vornconf, un_fichero_estropeado_da_los_valores_por_defecto) {
     std::string azar;
     for (uint32_t x = 12345; azar.size() < 100000;) azar += static_cast<char>((x = x * 1664525 + 1013904223) >> 24);
     const std::string bien = texto_de({1, 1, 1, 1, 1, 3, 1}, 1);
-    for (const std::string &mal : {std::string(), azar, "[Internacional" + azar, bien + std::string(10 << 20, ' '), "x" + bien.substr(1),
-                                   std::string("[Internacional]\nNorma=abc\nNormaElec=\nSistema de Unidades=0\n")}) {
+    for (const std::string &mal :
+         {std::string(), azar, "[Internacional" + azar, bien + std::string(10 << 20, ' '), "x" + bien.substr(1),
+          std::string("[Internacional]\nNorma=abc\nNormaElec=\nSistema de Unidades=0\n")}) {
         d.pon(mal);
         EXPECT_EQ(leidos(), EN_ESPANYOL) << mal.substr(0, 30);
     }
@@ -194,13 +212,19 @@ PRUEBA(vornconf, un_fichero_estropeado_da_los_valores_por_defecto) {
 
 PRUEBA(vornconf, los_textos_en_cada_idioma) {
     constexpr std::array<const char *, 3> SISTEMAS{"M.K.S.", "Sistema Internacional", "Unidades Inglesas"};
-    constexpr std::array ENERGIAS{"julio, J", "kilocalor\xED" "a, kcal", "unidad t\xE9rmica brit\xE1nica, Btu"};
+    constexpr std::array ENERGIAS{"julio, J",
+                                  "kilocalor\xED"
+                                  "a, kcal",
+                                  "unidad t\xE9rmica brit\xE1nica, Btu"};
     for (uint32_t i = 0; i < 3; ++i) {
         EXPECT_EQ(toma(vornconf_texto_sistema_de_unidades(i + 1)), std::string("Sistema de unidades: ") + SISTEMAS[i]);
         EXPECT_STREQ(vornconf_texto_sistema_unidad_energia(i), ENERGIAS[i]);
     }
-    for (const auto &[idioma, mks] : {std::pair{1, "Syst\xE8me d'unit\xE9s: M.K.S."}, {2, "Sistema de unidades: M.K.S. (m.tf.s.)"},
-                                      {5, "Sistema de unidades: M.K.S."}, {31, "Uk\xB3" "ad jednostek: M.K.S."}}) {
+    for (const auto &[idioma, mks] : {std::pair{1, "Syst\xE8me d'unit\xE9s: M.K.S."},
+                                      {2, "Sistema de unidades: M.K.S. (m.tf.s.)"},
+                                      {5, "Sistema de unidades: M.K.S."},
+                                      {31, "Uk\xB3"
+                                           "ad jednostek: M.K.S."}}) {
         msidioma_establece_idioma(idioma);
         EXPECT_EQ(toma(vornconf_texto_sistema_de_unidades(VORNCONF_SU_MKS)), mks);
     }
@@ -208,7 +232,8 @@ PRUEBA(vornconf, los_textos_en_cada_idioma) {
     for (int i = 0; i <= 40; ++i) {
         msidioma_establece_idioma(i);
         for (uint32_t k = 0; k < 3; ++k) {
-            const std::string t = toma(vornconf_texto_sistema_de_unidades(k + 1)) + vornconf_texto_sistema_unidad_energia(k);
+            const std::string t =
+                toma(vornconf_texto_sistema_de_unidades(k + 1)) + vornconf_texto_sistema_unidad_energia(k);
             EXPECT_EQ(t.find_first_of("?<>"), std::string::npos) << i << " " << t;
         }
     }
@@ -235,15 +260,16 @@ constexpr std::array MUERTES = {vn::fallo::muere_antes, vn::fallo::muere_a_media
 
 } // namespace
 
-// Arguments: the base directory, the value that it writes, how many times, how it dies (or -1), and at which file operation
-// of the last writing. 0 when all that it read was whole.
+// Arguments: the base directory, the value that it writes, how many times, how it dies (or -1), and at which file
+// operation of the last writing. 0 when all that it read was whole.
 HIJO(reescribe_configuracion) {
     const en_directorio d(args.at(0));
     const internacional r = todo(static_cast<uint32_t>(std::stoul(args.at(1))));
     const int muerte = std::stoi(args.at(3));
     std::optional<vn::con_fallos> plan;
     for (int veces = std::stoi(args.at(2)); veces > 0; --veces) {
-        if (muerte >= 0 && veces == 1) plan.emplace(vn::plan_de_fallos{MUERTES[static_cast<size_t>(muerte)], std::stoul(args.at(4))});
+        if (muerte >= 0 && veces == 1)
+            plan.emplace(vn::plan_de_fallos{MUERTES[static_cast<size_t>(muerte)], std::stoul(args.at(4))});
         vornconf_par_graba_internacional(&r);
         const auto v = leidos();
         if (v != valores(todo(v[0]))) return 3;
@@ -264,7 +290,8 @@ PRUEBA(vornconf, muchos_programas_lo_reescriben_y_algunos_mueren_a_medias) {
     for (size_t i = 0; i < PROGRAMAS; ++i) {
         const bool muere = i % 3 == 2;
         hijos.emplace_back("reescribe_configuracion",
-                           std::vector<std::string>{directorio(), std::to_string(100 + i), "2", muere ? std::to_string(i / 3 % 3) : "-1",
+                           std::vector<std::string>{directorio(), std::to_string(100 + i), "2",
+                                                    muere ? std::to_string(i / 3 % 3) : "-1",
                                                     std::to_string(i / 9 % operaciones)});
         lee_entero();
     }
@@ -294,7 +321,8 @@ PRUEBA(vornconf, quien_muere_en_cualquier_punto_deja_el_viejo_o_el_nuevo_y_a_nad
         const auto antes = std::chrono::steady_clock::now();
         vornconf_par_graba_internacional(&viejo);
         EXPECT_LT(segundos_desde(antes), 1.0) << i;
-        vn::proceso hijo("reescribe_configuracion", {directorio(), "9", "1", std::to_string(i % MUERTES.size()), std::to_string(i / MUERTES.size())});
+        vn::proceso hijo("reescribe_configuracion", {directorio(), "9", "1", std::to_string(i % MUERTES.size()),
+                                                     std::to_string(i / MUERTES.size())});
         EXPECT_EQ(hijo.espera(60000), vn::proceso::MUERTO) << i;
         const std::string queda = d.contenido();
         nuevos += queda == nuevo;

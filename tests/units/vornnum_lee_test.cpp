@@ -31,12 +31,32 @@ PRUEBA(vornnum_lee, numeros) {
         bool entero;
         double con_punto, con_coma; // thousands with a point and decimals with a comma
     } FILAS[] = {
-        {"1.5", false, 1.5, 15}, {"1,5", false, NAN, 1.5}, {"  -12  ", true, -12, -12}, {"+7", true, 7, 7}, {" ", false, NAN, NAN},
-        {"-", false, NAN, NAN}, {".", false, NAN, 0}, {",", false, NAN, NAN}, {".5", false, .5, 5}, {"5.", false, 5, 5},
-        {"1e", false, 1, 1}, {"1E+", false, 1, 1}, {"1e-3", false, 1e-3, 1e-3}, {"e5", false, NAN, NAN}, {"1e5x", false, NAN, NAN},
-        {"1 2", false, NAN, NAN}, {"\t1", false, NAN, NAN}, {"1.2.3", false, NAN, 123}, {"..1..,5", false, NAN, 1.5},
-        {"1,2.3", false, NAN, NAN}, {"0x10", false, NAN, NAN}, {"nan", false, NAN, NAN}, {"inf", false, NAN, NAN},
-        {"1e-999", false, 0, 0}, {"0e99999999999999999999", false, 0, 0}, {"1e-99999999999999999999", false, 0, 0},
+        {"1.5", false, 1.5, 15},
+        {"1,5", false, NAN, 1.5},
+        {"  -12  ", true, -12, -12},
+        {"+7", true, 7, 7},
+        {" ", false, NAN, NAN},
+        {"-", false, NAN, NAN},
+        {".", false, NAN, 0},
+        {",", false, NAN, NAN},
+        {".5", false, .5, 5},
+        {"5.", false, 5, 5},
+        {"1e", false, 1, 1},
+        {"1E+", false, 1, 1},
+        {"1e-3", false, 1e-3, 1e-3},
+        {"e5", false, NAN, NAN},
+        {"1e5x", false, NAN, NAN},
+        {"1 2", false, NAN, NAN},
+        {"\t1", false, NAN, NAN},
+        {"1.2.3", false, NAN, 123},
+        {"..1..,5", false, NAN, 1.5},
+        {"1,2.3", false, NAN, NAN},
+        {"0x10", false, NAN, NAN},
+        {"nan", false, NAN, NAN},
+        {"inf", false, NAN, NAN},
+        {"1e-999", false, 0, 0},
+        {"0e99999999999999999999", false, 0, 0},
+        {"1e-99999999999999999999", false, 0, 0},
     };
     for (const auto &f : FILAS) {
         EXPECT_TRUE(igual(lee(f.texto), f.con_punto) && igual(lee(f.texto, 0, '.', ','), f.con_coma)) << f.texto;
@@ -45,10 +65,14 @@ PRUEBA(vornnum_lee, numeros) {
         EXPECT_EQ(num_EsNumeroRealWindows(f.texto, '.', ',') == CIERTO, !std::isnan(f.con_coma)) << f.texto;
     }
     // Empty text is 0 and no number; an infinity is a number by its grammar alone.
-    EXPECT_TRUE(lee("") == 0 && lee("", 3) == 0 && !num_EsNumeroReal("") && std::isnan(lee("1e999")) && num_EsNumeroReal("1e999"));
+    EXPECT_TRUE(lee("") == 0 && lee("", 3) == 0 && !num_EsNumeroReal("") && std::isnan(lee("1e999")) &&
+                num_EsNumeroReal("1e999"));
     EXPECT_FALSE(num_EsNumeroEnteroWindows("1.000", '.') || num_EsNumeroEnteroWindows_u(VNU("1.000"), u'.'));
     EXPECT_EQ(lee("1 234.5", 0, ' '), 1234.5);
-    EXPECT_EQ(lee("1\xA0" "234", 0, '\xA0'), 1234);
+    EXPECT_EQ(lee("1\xA0"
+                  "234",
+                  0, '\xA0'),
+              1234);
     EXPECT_EQ(vornnum_wtof(VNU(" -2.5e1 m")), -25);
     ESPERA_INFORME("sep_decimales != 0", num_EsNumeroRealWindows("1", 0, 0));
     for (const auto &[texto, v] : std::initializer_list<std::pair<const char *, uint32_t>>{
@@ -61,12 +85,41 @@ PRUEBA(vornnum_lee, pies_y_pulgadas) {
         const char *texto;
         double pulgadas; // not-a-number: none
     } FILAS[] = {
-        {"5'-3 1/2\"", 63.5}, {"5'3 1/2", 63.5}, {"- 5 ' - 3 1 / 2 \" ", -63.5}, {"+5'", 60}, {"5'-", 60}, {"5'-3\"", 63},
-        {"5'-1/2\"", 60.5}, {"5'1/2", 60.5}, {"3/4\"", .75}, {"-3/4", -.75}, {"7\"", 7}, {"7 1/8", 7.125}, {"7 1/8\"", 7.125},
-        {"5/0\"", 0}, {"7 5/0", 7}, {"0\"", 0}, {"123456789012345678901234567890\"", 123456789012345678901234567890.},
-        {"5'3", NAN}, {"5'-3 1", NAN}, {"5''", NAN}, {"5\"'", NAN}, {"5\"3", NAN}, {"'", NAN}, {"\"", NAN}, {"/2", NAN},
-        {"1/", NAN}, {"1/2/3", NAN}, {"5.5'", NAN}, {"5e1'", NAN}, {"--5'", NAN}, {"5'--3\"", NAN}, {"5'-3 1/2\"\"", NAN},
-        {"5'-3 1/2\" x", NAN}, {"5'-+3\"", NAN}, {"5 '3\"\t", NAN},
+        {"5'-3 1/2\"", 63.5},
+        {"5'3 1/2", 63.5},
+        {"- 5 ' - 3 1 / 2 \" ", -63.5},
+        {"+5'", 60},
+        {"5'-", 60},
+        {"5'-3\"", 63},
+        {"5'-1/2\"", 60.5},
+        {"5'1/2", 60.5},
+        {"3/4\"", .75},
+        {"-3/4", -.75},
+        {"7\"", 7},
+        {"7 1/8", 7.125},
+        {"7 1/8\"", 7.125},
+        {"5/0\"", 0},
+        {"7 5/0", 7},
+        {"0\"", 0},
+        {"123456789012345678901234567890\"", 123456789012345678901234567890.},
+        {"5'3", NAN},
+        {"5'-3 1", NAN},
+        {"5''", NAN},
+        {"5\"'", NAN},
+        {"5\"3", NAN},
+        {"'", NAN},
+        {"\"", NAN},
+        {"/2", NAN},
+        {"1/", NAN},
+        {"1/2/3", NAN},
+        {"5.5'", NAN},
+        {"5e1'", NAN},
+        {"--5'", NAN},
+        {"5'--3\"", NAN},
+        {"5'-3 1/2\"\"", NAN},
+        {"5'-3 1/2\" x", NAN},
+        {"5'-+3\"", NAN},
+        {"5 '3\"\t", NAN},
     };
     for (const auto &f : FILAS) {
         EXPECT_TRUE(igual(lee(f.texto, 1), f.pulgadas / 12) && igual(lee(f.texto, 2), f.pulgadas) &&

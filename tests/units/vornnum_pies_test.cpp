@@ -16,7 +16,8 @@ uint64_t entero(const char *&p) {
     return n;
 }
 
-// Whether the text is sign, feet, inches, fraction and mark as it must be: below 12 inches beside feet, a fraction below one.
+// Whether the text is sign, feet, inches, fraction and mark as it must be: below 12 inches beside feet, a fraction
+// below one.
 bool bien_escrito(const char *p, bool negativo, int formato, uint32_t denominador) {
     if (negativo && *p++ != '-') return false;
     if (*p < '0' || *p > '9') return false;
@@ -45,13 +46,27 @@ PRUEBA(vornnum_pies, textos) {
         uint32_t denominador;
         const char *texto;
     } FILAS[] = {
-        {5 + 3.5 / 12, 1, 32, "5'-3 1/2\""}, {5.999999, 1, 16, "6'-0\""}, {-5, 1, 32, "-5'-0\""}, {0.0625, 1, 32, "3/4\""},
-        {5 + 0.5 / 12, 1, 16, "5'-0 1/2\""}, {0, 2, 16, "0\""}, {63.5, 2, 32, "5'-3 1/2\""}, {63.5, 3, 32, "63 1/2\""},
-        {-11.99, 2, 16, "-1'-0\""}, {11.99, 3, 16, "12\""}, {5e-324, 1, 32, "0\""}, {-INFINITY, 1, 32, "-inf"}, {3, 2, 0, "3\""},
+        {5 + 3.5 / 12, 1, 32, "5'-3 1/2\""},
+        {5.999999, 1, 16, "6'-0\""},
+        {-5, 1, 32, "-5'-0\""},
+        {0.0625, 1, 32, "3/4\""},
+        {5 + 0.5 / 12, 1, 16, "5'-0 1/2\""},
+        {0, 2, 16, "0\""},
+        {63.5, 2, 32, "5'-3 1/2\""},
+        {63.5, 3, 32, "63 1/2\""},
+        {-11.99, 2, 16, "-1'-0\""},
+        {11.99, 3, 16, "12\""},
+        {5e-324, 1, 32, "0\""},
+        {-INFINITY, 1, 32, "-inf"},
+        {3, 2, 0, "3\""},
         // Nothing to halve and no fraction; an inch to the tolerance; an odd half that is worse; the half of 5 is 2.
-        {7.3, 2, 1, "7\""}, {7.9999999, 2, 1, "8\""}, {7.75, 2, 12, "7 9/12\""}, {7.5, 2, 5, "7 1/2\""},
+        {7.3, 2, 1, "7\""},
+        {7.9999999, 2, 1, "8\""},
+        {7.75, 2, 12, "7 9/12\""},
+        {7.5, 2, 5, "7 1/2\""},
         // Beyond 32 bits, at the last number of feet that has inches, the greatest denominators.
-        {2147483648., 1, 32, "2147483648'-0\""}, {-1e15, 1, 32, "-1000000000000000'-0\""},
+        {2147483648., 1, 32, "2147483648'-0\""},
+        {-1e15, 1, 32, "-1000000000000000'-0\""},
         {0.3, 2, UINT32_MAX, "644245094/2147483647\""},
     };
     for (const auto &f : FILAS) {
@@ -64,14 +79,15 @@ PRUEBA(vornnum_pies, textos) {
     ESPERA_INFORME("denominador_prov > 0.", vornnum_double_a_cadena(3.5, 0, 0, 0, VORNNUM_FORMATO_PULGADAS, 0));
 }
 
-// A million lengths, every denominator, the three formats: never 12 inches or a whole of fraction, and the text read again
-// is the length to the fraction's precision.
+// A million lengths, every denominator, the three formats: never 12 inches or a whole of fraction, and the text read
+// again is the length to the fraction's precision.
 PRUEBA(vornnum_pies, barrido_de_longitudes) {
     azar a(2);
     for (int i = 0; i < 1'000'000; ++i) {
         const uint32_t denominador = i % 65 == 64 ? 1 + a.entero(1000) : 1 + static_cast<uint32_t>(i % 65);
         const int formato = 1 + static_cast<int>(a.entero(3));
-        // Inches: any; next to a whole number; next to the middle of the last fraction and one; a half fraction from a foot.
+        // Inches: any; next to a whole number; next to the middle of the last fraction and one; a half fraction from a
+        // foot.
         double v = a.entre(0, 1), leido = 0;
         for (uint32_t k = a.entero(9); k > 0; --k) v *= 10;
         const double d = denominador, desvio = a.entre(-1, 1);
@@ -99,11 +115,23 @@ PRUEBA(vornnum_pies, anchura_de_un_campo) {
         int formato;
         unsigned anchura;
     } FILAS[] = {
-        {0, 9.99, 0.01, 0, 0, 4}, {0, 10, 0.01, 0, 0, 5}, {-99, 10, 1, 0, 0, 3}, {-10, 1000, 0.001, 0, 0, 8},
-        {0, 1, 0.02, 0, 0, 4}, {0, 0.5, 0.3, 0, 0, 3}, {0, 1e300, 1, 0, 0, 301}, {0, 999.9999999999999, 1, 0, 0, 3},
-        {0, 1, 1e-9, 0, 0, 11}, {0, 1, 0.001, 0, 0, 5}, {0, 1, std::nextafter(0.001, 0.), 0, 0, 5}, {0, 1, 0.0009, 0, 0, 6},
-        {0, 100, 1. / 12, 32, 1, 8}, {-10, 5, 1. / 12 / 8, 32, 1, 12}, {-10, 5, 1. / 12 / 16, 32, 1, 14},
-        {0, 120, 1, 32, 2, 7}, {0, 1200, 1. / 16, 32, 3, 12},
+        {0, 9.99, 0.01, 0, 0, 4},
+        {0, 10, 0.01, 0, 0, 5},
+        {-99, 10, 1, 0, 0, 3},
+        {-10, 1000, 0.001, 0, 0, 8},
+        {0, 1, 0.02, 0, 0, 4},
+        {0, 0.5, 0.3, 0, 0, 3},
+        {0, 1e300, 1, 0, 0, 301},
+        {0, 999.9999999999999, 1, 0, 0, 3},
+        {0, 1, 1e-9, 0, 0, 11},
+        {0, 1, 0.001, 0, 0, 5},
+        {0, 1, std::nextafter(0.001, 0.), 0, 0, 5},
+        {0, 1, 0.0009, 0, 0, 6},
+        {0, 100, 1. / 12, 32, 1, 8},
+        {-10, 5, 1. / 12 / 8, 32, 1, 12},
+        {-10, 5, 1. / 12 / 16, 32, 1, 14},
+        {0, 120, 1, 32, 2, 7},
+        {0, 1200, 1. / 16, 32, 3, 12},
     };
     for (const auto &f : FILAS)
         EXPECT_EQ(vornnum_numero_digitos(f.minimo, f.maximo, f.precision, f.denominador, f.formato), f.anchura)

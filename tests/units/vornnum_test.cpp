@@ -1,11 +1,11 @@
 #define VN_MODULO "vornnum_test"
-#include "units/vornnum.h"
-#include "foundation/texto/cad.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/sistema/vnregional.h"
+#include "foundation/texto/cad.h"
 #include "plataforma/regional.h"
 #include "propiedades.h"
 #include "prueba.h"
+#include "units/vornnum.h"
 #include <cfloat>
 #include <charconv>
 #include <cmath>
@@ -20,8 +20,8 @@ double siguiente(double x) { return std::nextafter(x, HUGE_VAL); }
 // Both widths, which must agree but for one decimal in the scientific form.
 std::string da(double v, int decimales, char millares = 0, char sep = '.', vnbool cientifica = FALSO) {
     const std::string s = toma(num_double_a_string(v, millares, sep, cientifica, decimales)),
-                      u = toma(num_double_a_string_u(v, static_cast<vnwchar>(millares), static_cast<vnwchar>(sep), cientifica,
-                                                     decimales));
+                      u = toma(num_double_a_string_u(v, static_cast<vnwchar>(millares), static_cast<vnwchar>(sep),
+                                                     cientifica, decimales));
     EXPECT_TRUE(s.find('e') == std::string::npos ? u == s : u.size() == s.size() + 1) << u << " and " << s;
     return s;
 }
@@ -41,16 +41,30 @@ PRUEBA(vornnum, formas_de_un_numero) {
         int decimales;
         const char *fija, *cientifica;
     } FILAS[] = {
-        {1234.5, 2, "1.234,50", "1,23e+03"}, {-1234567.891, 2, "-1.234.567,89", "-1,23e+06"}, {0, 0, "0", "0,e+00"},
-        {-0., 2, "0,00", "0,00e+00"}, {123456, 0, "123.456", "1,e+05"}, {NAN, 3, "nan", "nan"}, {-INFINITY, 3, "-inf", "-inf"},
-        // The middle, by the digits of a double, goes up in the fixed form: 1.115 is a little less, and 1.005 too much less.
-        {999.995, 2, "1.000,00", "1,00e+03"}, {0.125, 2, "0,13", "1,25e-01"}, {-2.5, 0, "-3", "-2,e+00"},
-        {1.115, 2, "1,12", "1,11e+00"}, {1.005, 2, "1,00", "1,00e+00"},
+        {1234.5, 2, "1.234,50", "1,23e+03"},
+        {-1234567.891, 2, "-1.234.567,89", "-1,23e+06"},
+        {0, 0, "0", "0,e+00"},
+        {-0., 2, "0,00", "0,00e+00"},
+        {123456, 0, "123.456", "1,e+05"},
+        {NAN, 3, "nan", "nan"},
+        {-INFINITY, 3, "-inf", "-inf"},
+        // The middle, by the digits of a double, goes up in the fixed form: 1.115 is a little less, and 1.005 too much
+        // less.
+        {999.995, 2, "1.000,00", "1,00e+03"},
+        {0.125, 2, "0,13", "1,25e-01"},
+        {-2.5, 0, "-3", "-2,e+00"},
+        {1.115, 2, "1,12", "1,11e+00"},
+        {1.005, 2, "1,00", "1,00e+00"},
         // With automatic decimals the zeros of the scientific form stay.
-        {1234.5, -1, "1.234,5", "1,2345000000e+03"}, {0, -1, "0", "0,0e+00"}, {INFINITY, -1, "inf", "inf"},
-        {0.1, -1, "0,1", "1,000000000000000e-01"}, {200. / 3, -1, "66,666666666667", "6,666666666667e+01"},
-        {200000. / 3, -1, "66.666,666666667", "6,666666667e+04"}, {1e16, -1, "1,00000000000000e+16", "1,00000000000000e+16"},
-        {-DBL_MAX, 9, "-1,797693135e+308", "-1,797693135e+308"}, {5e-324, -1, "4,940656458412465e-324", "4,940656458412465e-324"},
+        {1234.5, -1, "1.234,5", "1,2345000000e+03"},
+        {0, -1, "0", "0,0e+00"},
+        {INFINITY, -1, "inf", "inf"},
+        {0.1, -1, "0,1", "1,000000000000000e-01"},
+        {200. / 3, -1, "66,666666666667", "6,666666666667e+01"},
+        {200000. / 3, -1, "66.666,666666667", "6,666666667e+04"},
+        {1e16, -1, "1,00000000000000e+16", "1,00000000000000e+16"},
+        {-DBL_MAX, 9, "-1,797693135e+308", "-1,797693135e+308"},
+        {5e-324, -1, "4,940656458412465e-324", "4,940656458412465e-324"},
     };
     for (const auto &f : FILAS) {
         EXPECT_EQ(da(f.v, f.decimales, '.', ','), f.fija);
@@ -64,7 +78,8 @@ PRUEBA(vornnum, formas_de_un_numero) {
     ESPERA_INFORME("decimales <= 9", num_double_a_string(1, 0, '.', FALSO, 10));
     EXPECT_EQ(toma(num_long_a_string(INT32_MIN, '.')), "-2.147.483.648");
     EXPECT_EQ(toma(num_ulong_a_string_u(UINT32_MAX, 0)), "4294967295");
-    for (const auto &[n, texto] : std::initializer_list<std::pair<int, const char *>>{{1, "I"}, {38, "XXXVIII"}, {49, "XLIX"}, {90, "XC"}})
+    for (const auto &[n, texto] :
+         std::initializer_list<std::pair<int, const char *>>{{1, "I"}, {38, "XXXVIII"}, {49, "XLIX"}, {90, "XC"}})
         EXPECT_EQ(toma(vornnum_convierte_a_numero_romano(n)), texto);
 }
 
@@ -95,7 +110,9 @@ PRUEBA(vornnum, decimales_automaticos_en_las_potencias_de_diez) {
     } FILAS[] = {
         {1e-15, "9.999999999999999e-16", "1.000000000000000e-15", "1.000000000000000e-15"},
         {1e-14, "9.999999999999998e-15", "0.00000000000001", "0.00000000000001"},
-        {1, "1", "1", "1"}, {1e3, "1000", "1000", "1000"}, {1e6, "1000000", "1000000", "1000000"},
+        {1, "1", "1", "1"},
+        {1e3, "1000", "1000", "1000"},
+        {1e6, "1000000", "1000000", "1000000"},
         {1e14, "99999999999999.98", "100000000000000", "100000000000000.02"},
         {1e15, "999999999999999.88", "1.00000000000000e+15", "1.00000000000000e+15"},
     };
@@ -113,8 +130,8 @@ PRUEBA(vornnum, decimales_automaticos_en_las_potencias_de_diez) {
     }
 }
 
-// Every text of the fixed form against the rounding of the maths library and to_chars, with the ties and what is next to
-// them.
+// Every text of the fixed form against the rounding of the maths library and to_chars, with the ties and what is next
+// to them.
 PRUEBA(vornnum, la_forma_fija_redondea_y_escribe) {
     azar a(1);
     double unidad[10] = {1};
@@ -126,8 +143,9 @@ PRUEBA(vornnum, la_forma_fija_redondea_y_escribe) {
         if (i % 3 == 2) v = a.moneda() ? anterior(v) : siguiente(v);
         if (std::fabs(v) * unidad[d] < 1 || std::fabs(v) * unidad[d] >= 999'999'999'999'999.) continue;
         char esperado[400];
-        *std::to_chars(esperado, esperado + sizeof esperado, prec_redondea_numero_decimales(v, static_cast<uint32_t>(d)),
-                       std::chars_format::fixed, d).ptr = 0;
+        *std::to_chars(esperado, esperado + sizeof esperado,
+                       prec_redondea_numero_decimales(v, static_cast<uint32_t>(d)), std::chars_format::fixed, d)
+             .ptr = 0;
         char *t = num_double_a_string(v, 0, '.', FALSO, d);
         const bool bien = std::string_view(t) == esperado;
         vornstr_destruye(&t);
@@ -159,7 +177,11 @@ PRUEBA(vornnum, una_reserva_por_texto_y_ninguna_por_lectura) {
 
 PRUEBA(vornnum, con_los_separadores_de_la_region) {
     const char *const FILAS[][4] = {{"en-US", "1,234,567.50", "1,234,567.50", "1234567.50"},
-                                    {"fr-FR", "1\u00a0234\u00a0567,50", "1\xA0" "234\xA0" "567,50", "1234567,50"},
+                                    {"fr-FR", "1\u00a0234\u00a0567,50",
+                                     "1\xA0"
+                                     "234\xA0"
+                                     "567,50",
+                                     "1234567,50"},
                                     {"de-DE", "1.234.567,50", "1.234.567,50", "1234567,50"}};
     for (const auto &f : FILAS) {
         ASSERT_EQ(vnregional_establece(f[0]), CIERTO);

@@ -68,8 +68,7 @@ class barredor {
         size_t bytes = 0;       // of the block
     };
 
-    template <class F>
-    void recorre(size_t tope, F &&f);
+    template <class F> void recorre(size_t tope, F &&f);
     void prueba(const indices &cuales, bool solo);
     bool llama(const indices &cuales, bool atrapada, uint64_t &informes, bool *neutro = nullptr);
     void agota_la_memoria();
@@ -120,10 +119,8 @@ struct {
 bool toca_fallar() {
     if (!agotamiento.armado || agotamiento.quedan-- != 0) return false;
     agotamiento.llegado = true;
-    if (agotamiento.para_siempre)
-        agotamiento.quedan = 0;
-    else
-        agotamiento.armado = false;
+    if (agotamiento.para_siempre) agotamiento.quedan = 0;
+    else agotamiento.armado = false;
     return true;
 }
 
@@ -211,9 +208,7 @@ void barredor::prepara(const indices &cuales, std::vector<argumento> &args, std:
         const valor &v = params_[i].valores[cuales[i]];
         args[i].v = &v;
         switch (v.clase) {
-        case clase_valor::objeto:
-            d[i].p = args[i].objeto = v.fab->crea();
-            break;
+        case clase_valor::objeto: d[i].p = args[i].objeto = v.fab->crea(); break;
         case clase_valor::hueco:
             args[i].objeto = v.d.i != 0 ? v.fab->crea() : nullptr;
             args[i].bytes = sizeof(void *);
@@ -225,10 +220,8 @@ void barredor::prepara(const indices &cuales, std::vector<argumento> &args, std:
             d[i].p = args[i].bloque = reserva_bloque(args[i].bytes);
             std::memcpy(args[i].bloque, v.d.p, args[i].bytes);
             break;
-        case clase_valor::bufer:
-            break;
-        default:
-            d[i] = v.d;
+        case clase_valor::bufer: break;
+        default: d[i] = v.d;
         }
     }
     for (size_t i = 0; i < n; ++i) {
@@ -260,8 +253,7 @@ void barredor::recoge(const indices &cuales, std::vector<argumento> &args, const
         if (a.v->clase != clase_valor::hueco) continue;
         void *p = nullptr;
         std::memcpy(&p, a.bloque, sizeof p);
-        if (vivo(p))
-            a.v->fab->destruye(p);
+        if (vivo(p)) a.v->fab->destruye(p);
         else if (p != nullptr && p == a.objeto)
             falta(cuales, false, std::string("leaves ") + params_[i].nombre + " leading to a freed block");
         if (op_.deja_el_anterior && p != a.objeto && vivo(a.objeto)) a.v->fab->destruye(a.objeto);
@@ -273,8 +265,7 @@ void barredor::recoge(const indices &cuales, std::vector<argumento> &args, const
             if (vivo(a.objeto) && params_[i].consume && op_.retiene != nullptr && !informado) continue;
             if (vivo(a.objeto) && params_[i].consume && !op_.deja_el_anterior)
                 falta(cuales, false, std::string("does not take ") + params_[i].nombre + " over");
-            if (vivo(a.objeto))
-                a.v->fab->destruye(a.objeto);
+            if (vivo(a.objeto)) a.v->fab->destruye(a.objeto);
             else if (!params_[i].consume)
                 falta(cuales, false, std::string("destroys its argument ") + params_[i].nombre);
         }
@@ -303,10 +294,8 @@ bool barredor::llama(const indices &cuales, bool atrapada, uint64_t &informes, b
     agotamiento.armado = agotando_;
     try {
         en_trampa e{&op_, d.data(), &r};
-        if (atrapada)
-            trapable_nousar_recursivo_ejecuta_funcion_segura(llama_en_trampa, &e, nullptr);
-        else
-            llama_en_trampa(&e);
+        if (atrapada) trapable_nousar_recursivo_ejecuta_funcion_segura(llama_en_trampa, &e, nullptr);
+        else llama_en_trampa(&e);
     } catch (const agotada &) {
         alcanza = false;
     }
@@ -341,8 +330,7 @@ void barredor::prueba(const indices &cuales, bool solo) {
     if (roto != nullptr) {
         const std::string cual = std::string(params_[parametro_roto].nombre) + '=' + roto->nombre;
         if (informes == 0) falta(cuales, false, cual + " is not reported");
-        if (solo && informes != 0 && !neutro)
-            falta(cuales, false, cual + " does not give the neutral value back");
+        if (solo && informes != 0 && !neutro) falta(cuales, false, cual + " does not give the neutral value back");
         if (solo) ++anotaciones;
     } else if (solo && (informes != 0) != op_.informa && cuales == indices(cuales.size(), 0)) {
         falta(cuales, false,
@@ -356,8 +344,7 @@ void barredor::prueba(const indices &cuales, bool solo) {
         falta(cuales, true, std::string(params_[parametro_roto].nombre) + '=' + roto->nombre + " is not reported");
 }
 
-template <class F>
-void barredor::recorre(size_t tope, F &&f) {
+template <class F> void barredor::recorre(size_t tope, F &&f) {
     const size_t n = params_.size();
     indices cuales(n, 0);
     f(cuales, true);
@@ -367,8 +354,7 @@ void barredor::recorre(size_t tope, F &&f) {
     }
     size_t pares = 0;
     for (size_t i = 0; i < n; ++i)
-        for (size_t j = i + 1; j < n; ++j)
-            pares += (params_[i].valores.size() - 1) * (params_[j].valores.size() - 1);
+        for (size_t j = i + 1; j < n; ++j) pares += (params_[i].valores.size() - 1) * (params_[j].valores.size() - 1);
     if (tope == 0) return;
     // An odd step over the list of pairs touches every row and column of it.
     const size_t paso = pares <= tope ? 1 : (pares / tope + 1) | 1;
@@ -449,9 +435,8 @@ void barre_una(size_t k, const operacion &op, size_t tope) {
     b.barre(tope);
     prepara_ficheros();
     restaura_lo_establecido();
-    std::fprintf(salida, "R\t%zu\t%s\t%llu\t%llu\t%llu\n", k, op.nombre,
-                 static_cast<unsigned long long>(b.llamadas), static_cast<unsigned long long>(b.anotaciones),
-                 static_cast<unsigned long long>(b.agotamientos));
+    std::fprintf(salida, "R\t%zu\t%s\t%llu\t%llu\t%llu\n", k, op.nombre, static_cast<unsigned long long>(b.llamadas),
+                 static_cast<unsigned long long>(b.anotaciones), static_cast<unsigned long long>(b.agotamientos));
     std::fflush(salida);
 }
 
@@ -490,7 +475,9 @@ void vigila(unsigned long segundos) {
 } // namespace barrido
 
 // The libraries ask for their scratch here, where one symbol serves the whole process.
-void *operator new(size_t n, const std::nothrow_t &) noexcept { return barrido::toca_fallar() ? nullptr : ::operator new(n); }
+void *operator new(size_t n, const std::nothrow_t &) noexcept {
+    return barrido::toca_fallar() ? nullptr : ::operator new(n);
+}
 
 int main(int argc, char **argv) {
     using namespace barrido;

@@ -66,24 +66,15 @@ struct operacion {
     const char *nombre;
     void (*llama)(const dato *a, dato &r);
     parametros (*da_parametros)();
-    void (*suelta)(void *p); // of an owned result; null when there is none
-    const char *retiene;     // why memory may stay after its calls, or null
-    const char *deja_pasar;  // parameter and value that it is documented to accept, "name=value", or null
-    bool deja_el_anterior =
-        false; // what an owner's slot held stays the caller's when a new object takes its place
-    const char *neutro =
-        "0"; // the result after a report: a number, "first" for the first argument, "*" for any
-    bool informa = false; // the call with good values reports, and must
+    void (*suelta)(void *p);       // of an owned result; null when there is none
+    const char *retiene;           // why memory may stay after its calls, or null
+    const char *deja_pasar;        // parameter and value that it is documented to accept, "name=value", or null
+    bool deja_el_anterior = false; // what an owner's slot held stays the caller's when a new object takes its place
+    const char *neutro = "0";      // the result after a report: a number, "first" for the first argument, "*" for any
+    bool informa = false;          // the call with good values reports, and must
 };
 
-enum opcion : unsigned {
-    EXIGE = 0,
-    OPCIONAL = 1,
-    CONSUME = 2,
-    HUECO_OPCIONAL = 4,
-    HUECO_VACIO = 8,
-    LLENO = 16
-};
+enum opcion : unsigned { EXIGE = 0, OPCIONAL = 1, CONSUME = 2, HUECO_OPCIONAL = 4, HUECO_VACIO = 8, LLENO = 16 };
 
 // ---------------------------------------------------------------- kinds of parameter
 
@@ -120,8 +111,7 @@ parametro dato_ajeno(const char *nombre);
 void pon_entero(parametro &p, calidad c, int64_t i, bool enorme);
 
 // A whole number without a stated range: its ends too.
-template <class T>
-parametro entero(const char *nombre) {
+template <class T> parametro entero(const char *nombre) {
     parametro p{nombre};
     using lim = std::numeric_limits<T>;
     pon_entero(p, calidad::libre, 1, false);
@@ -134,8 +124,7 @@ parametro entero(const char *nombre) {
 }
 
 // A whole number that must lie in [a, b]: the ends and the first beyond them.
-template <class T, class A, class B>
-parametro entero_en(const char *nombre, A a_, B b_) {
+template <class T, class A, class B> parametro entero_en(const char *nombre, A a_, B b_) {
     parametro p{nombre};
     using lim = std::numeric_limits<T>;
     const T a = static_cast<T>(a_), b = static_cast<T>(b_);
@@ -155,8 +144,7 @@ parametro entero_en(const char *nombre, A a_, B b_) {
 }
 
 // An index into a container that the factory makes with `n` elements.
-template <class T>
-parametro indice(const char *nombre, int64_t n) {
+template <class T> parametro indice(const char *nombre, int64_t n) {
     parametro p{nombre};
     pon_entero(p, calidad::buena, 0, false);
     pon_entero(p, calidad::buena, n - 1, false);
@@ -167,16 +155,11 @@ parametro indice(const char *nombre, int64_t n) {
 }
 
 // A call-back of any type that does nothing and returns nothing.
-template <class F>
-struct generica;
-template <class R, class... A>
-struct generica<R (*)(A...)> {
+template <class F> struct generica;
+template <class R, class... A> struct generica<R (*)(A...)> {
     static R f(A...) { return R(); }
 };
-template <class F>
-void (*sin_efecto())() {
-    return reinterpret_cast<void (*)()>(&generica<F>::f);
-}
+template <class F> void (*sin_efecto())() { return reinterpret_cast<void (*)()>(&generica<F>::f); }
 
 // ---------------------------------------------------------------- what the generated sources give
 

@@ -4,21 +4,21 @@
 
 #include "barrido.h"
 #include "environment/ultfichsel.h"
+#include "foundation/ficheros/dirwin.h"
+#include "foundation/ficheros/fichmem.h"
+#include "foundation/ficheros/lc_fichero.h"
+#include "foundation/ficheros/vdir.h"
+#include "foundation/ficheros/vornfile.h"
 #include "foundation/listas/acadorde.h"
 #include "foundation/listas/apunorde.h"
 #include "foundation/listas/arr.h"
 #include "foundation/sistema/avisos.h"
-#include "foundation/suelo/callback.h"
-#include "foundation/ficheros/dirwin.h"
-#include "foundation/suelo/error_interno.h"
-#include "foundation/ficheros/fichmem.h"
-#include "foundation/ficheros/lc_fichero.h"
-#include "foundation/texto/msglocal.h"
-#include "foundation/ficheros/vdir.h"
-#include "foundation/suelo/vnlongpath.h"
 #include "foundation/sistema/vnmutex.h"
-#include "foundation/ficheros/vornfile.h"
+#include "foundation/suelo/callback.h"
+#include "foundation/suelo/error_interno.h"
+#include "foundation/suelo/vnlongpath.h"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/texto/msglocal.h"
 #include "geometry/poligono.h"
 #include "geometry/pto3dord.h"
 #include "geometry/rectng.h"
@@ -32,20 +32,15 @@ namespace barrido {
 
 // ---------------------------------------------------------------- kinds that only generated code names
 
-template <class F>
-void (*como_general(F *f))() {
-    return reinterpret_cast<void (*)()>(f);
-}
+template <class F> void (*como_general(F *f))() { return reinterpret_cast<void (*)()>(f); }
 
 // The number of elements of a buffer: what fits, none, one, and what its range forbids.
-template <class T>
-parametro longitud(const char *nombre) {
+template <class T> parametro longitud(const char *nombre) {
     parametro p{nombre};
     for (const int64_t i : {16, 0, 1, 2}) pon_entero(p, calidad::libre, i, false);
     return p;
 }
-template <class T, class A, class B>
-parametro longitud(const char *nombre, A a, B b) {
+template <class T, class A, class B> parametro longitud(const char *nombre, A a, B b) {
     parametro p{nombre};
     for (const int64_t i : {int64_t{16}, static_cast<int64_t>(a), int64_t{1}, int64_t{2}})
         if (i >= static_cast<int64_t>(a)) pon_entero(p, calidad::buena, i, false);
@@ -55,8 +50,7 @@ parametro longitud(const char *nombre, A a, B b) {
 }
 
 // A text that the operation changes where it stands.
-template <class C>
-parametro texto_cambiable(const char *nombre, unsigned opciones) {
+template <class C> parametro texto_cambiable(const char *nombre, unsigned opciones) {
     static const C claro[32] = {'a', 'b', ' ', '1', '2', ' '};
     static const C vacio[32] = {};
     parametro p = registro(nombre, claro, sizeof claro, opciones);
@@ -74,53 +68,40 @@ inline parametro direccion_fija(const char *nombre, unsigned opciones) {
     return p;
 }
 
-template <class T>
-parametro registro_de(const char *nombre, const T &bueno, unsigned opciones) {
+template <class T> parametro registro_de(const char *nombre, const T &bueno, unsigned opciones) {
     static std::deque<T> todos; // as long as the program
     return registro(nombre, &todos.emplace_back(bueno), sizeof(T), opciones);
 }
 
-template <class C>
-parametro fichero(const char *nombre, unsigned opciones) {
-    if constexpr (sizeof(C) == 1)
-        return nombre_fichero(nombre, opciones);
-    else
-        return nombre_fichero_u(nombre, opciones);
+template <class C> parametro fichero(const char *nombre, unsigned opciones) {
+    if constexpr (sizeof(C) == 1) return nombre_fichero(nombre, opciones);
+    else return nombre_fichero_u(nombre, opciones);
 }
 // By default a file that is not there.
-template <class C>
-parametro fichero_nuevo(const char *nombre, unsigned opciones) {
+template <class C> parametro fichero_nuevo(const char *nombre, unsigned opciones) {
     parametro p = fichero<C>(nombre, opciones);
     std::swap(p.valores[0], p.valores[2]);
     return p;
 }
-template <class C>
-parametro fichero_carpeta(const char *nombre, unsigned opciones) {
+template <class C> parametro fichero_carpeta(const char *nombre, unsigned opciones) {
     parametro p = fichero<C>(nombre, opciones);
     std::swap(p.valores[0], p.valores[4]);
     return p;
 }
-template <class C>
-parametro modo_de_abrir(const char *nombre) {
-    if constexpr (sizeof(C) == 1)
-        return textos(nombre, {"rb", "w", "a+", "r+b", "", "%s", "rw"});
-    else
-        return textos_u(nombre, {u"rb", u"w", u"a+", u"r+b", u"", u"%s", u"rw"});
+template <class C> parametro modo_de_abrir(const char *nombre) {
+    if constexpr (sizeof(C) == 1) return textos(nombre, {"rb", "w", "a+", "r+b", "", "%s", "rw"});
+    else return textos_u(nombre, {u"rb", u"w", u"a+", u"r+b", u"", u"%s", u"rw"});
 }
-template <class C>
-parametro patron_de_ficheros(const char *nombre) {
-    if constexpr (sizeof(C) == 1)
-        return textos(nombre, {"./*.bin", "", "*", "no_esta/*", "[%s"});
-    else
-        return textos_u(nombre, {u"./*.bin", u"", u"*", u"no_esta/*", u"[%s"});
+template <class C> parametro patron_de_ficheros(const char *nombre) {
+    if constexpr (sizeof(C) == 1) return textos(nombre, {"./*.bin", "", "*", "no_esta/*", "[%s"});
+    else return textos_u(nombre, {u"./*.bin", u"", u"*", u"no_esta/*", u"[%s"});
 }
 
 // ---------------------------------------------------------------- texts and blocks
 
 inline char *nuevo_texto() { return static_cast<char *>(std::memcpy(vornspy_malloc(4), "abc", 4)); }
 inline vnwchar *nuevo_texto_u() {
-    return static_cast<vnwchar *>(
-        std::memcpy(vornspy_malloc(4 * sizeof(vnwchar)), VNU("abc"), 4 * sizeof(vnwchar)));
+    return static_cast<vnwchar *>(std::memcpy(vornspy_malloc(4 * sizeof(vnwchar)), VNU("abc"), 4 * sizeof(vnwchar)));
 }
 inline void *nuevo_bloque() { return vornspy_calloc(8, 8); }
 
@@ -147,9 +128,7 @@ inline vnfichero *flujo_texto() { return f_lc_fopen_seguro_u(VNU("flujo.txt"), V
 inline vnfichero *flujo_de_guardado() {
     return vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(VNU("entrada.bin"));
 }
-inline vnfichero *flujo_que_no_escribe() {
-    return f_lc_fopen_seguro_u(VNU("flujo.bin"), VNU("rb"), "barrido", 0);
-}
+inline vnfichero *flujo_que_no_escribe() { return f_lc_fopen_seguro_u(VNU("flujo.bin"), VNU("rb"), "barrido", 0); }
 
 // The stream of a protocol object outlives it, whoever frees the object.
 struct flujo_prestado {
@@ -229,8 +208,7 @@ inline void prepara_proyecto() {
 
 // ---------------------------------------------------------------- containers of three elements
 
-template <class T>
-T *con(T *a, void (*anade)(T *)) {
+template <class T> T *con(T *a, void (*anade)(T *)) {
     if (a != nullptr) anade(a);
     return a;
 }

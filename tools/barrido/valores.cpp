@@ -191,9 +191,7 @@ parametro formato(const char *nombre) {
     return p;
 }
 
-parametro formato_u(const char *nombre) {
-    return textos_u(nombre, {u"a", u"", u"100 %%", u"%", u"\u00F1%%\n"});
-}
+parametro formato_u(const char *nombre) { return textos_u(nombre, {u"a", u"", u"100 %%", u"%", u"\u00F1%%\n"}); }
 
 parametro objeto(const char *nombre, const fabrica &f, unsigned opciones) {
     parametro p{nombre};

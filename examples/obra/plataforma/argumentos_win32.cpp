@@ -1,6 +1,6 @@
 #include "argumentos.h"
-#include <windows.h>
 #include <shellapi.h>
+#include <windows.h>
 
 namespace obra {
 

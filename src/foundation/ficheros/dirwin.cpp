@@ -1,8 +1,8 @@
 #define VN_MODULO "dirwin (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/dirwin.h"
+#include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/propio_int.h"
-#include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/vnlongpath.h"
 #include "foundation/suelo/vornspy.h"
 #include <algorithm>
@@ -39,8 +39,7 @@ vnbool dirwin_findnextfile_UNICODE(dirwin *d, dirwin_dato *dato) {
 }
 
 vnbool dirwin_es_directorio_UNICODE(const dirwin_dato *dato) {
-    return AFIRMA_NO_NULO(dato) && (dato->atributos & VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY) != 0 ? CIERTO
-                                                                                                : FALSO;
+    return AFIRMA_NO_NULO(dato) && (dato->atributos & VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY) != 0 ? CIERTO : FALSO;
 }
 
 void dirwin_destruye_UNICODE(dirwin **d) {

@@ -1,9 +1,9 @@
 #define VN_MODULO "fichmem (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/fichmem.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/ficheros/guardado_priv.h"
 #include "foundation/ficheros/lc_fichero_int.h"
 #include "foundation/ficheros/temporal_int.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/vornspy.h"
 #include <algorithm>
 #include <cstring>

@@ -15,8 +15,8 @@ constexpr uint32_t TEMPORAL = VN_ABRE_LECTURA | VN_ABRE_ESCRITURA | VN_ABRE_EXCL
 
 bool es_bajo(vnwchar c) { return c >= 0xDC00 && c < 0xE000; }
 
-// A name beside `ruta`. One that would not fit in a directory loses the end of its own part, of which it keeps a digest:
-// two long names have two such names.
+// A name beside `ruta`. One that would not fit in a directory loses the end of its own part, of which it keeps a
+// digest: two long names have two such names.
 cadena_ancha al_lado(const cadena_ancha &ruta, const vnwchar *sufijo) {
     const size_t barra = ruta.find_last_of(VNU("/\\"));
     const size_t inicio = barra == cadena_ancha::npos ? 0 : barra + 1;
@@ -29,7 +29,8 @@ cadena_ancha al_lado(const cadena_ancha &ruta, const vnwchar *sufijo) {
         cadena_ancha cifras = VNU("~");
         for (int k = 28; k >= 0; k -= 4) cifras += VNU("0123456789abcdef")[resumen >> k & 15];
         resto = cifras + resto;
-        while (n > 0 && (plat::mide_nombre(nombre.substr(0, n) + resto) > plat::MAXIMO_NOMBRE || es_bajo(nombre[n]))) --n;
+        while (n > 0 && (plat::mide_nombre(nombre.substr(0, n) + resto) > plat::MAXIMO_NOMBRE || es_bajo(nombre[n])))
+            --n;
     }
     return ruta.substr(0, inicio + n) + resto;
 }
@@ -129,8 +130,7 @@ std::unique_ptr<guardado> guardado::adopta(const vnwchar *nombre, const vnwchar 
 
 bool guardado::es_de(const vnwchar *nombre) const {
     cadena_ancha real;
-    return nombre_ == nombre ||
-           (resuelve(nombre, real) == VN_FICH_BIEN && plat::mismo_camino(real, destino_));
+    return nombre_ == nombre || (resuelve(nombre, real) == VN_FICH_BIEN && plat::mismo_camino(real, destino_));
 }
 
 // The file gets a second name, or a copy where that is refused, which then replaces the safety copy in one step: the
@@ -162,9 +162,8 @@ vnerror_fichero guardado::confirma() {
     if (e == VN_FICH_BIEN) e = operaciones().es_su_nombre(id_, temporal_.c_str());
     if (e == VN_FICH_BIEN) e = prepara_sitio();
     if (e == VN_FICH_BIEN)
-        e = con_paciencia(UN_SEGUNDO, [&] {
-            return operaciones().renombra_abierto(id_, temporal_.c_str(), destino_.c_str());
-        });
+        e = con_paciencia(UN_SEGUNDO,
+                          [&] { return operaciones().renombra_abierto(id_, temporal_.c_str(), destino_.c_str()); });
     if (e != VN_FICH_BIEN) {
         abandona();
         return e;

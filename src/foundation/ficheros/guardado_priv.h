@@ -8,8 +8,8 @@ namespace vn {
 
 inline constexpr const vnwchar *SUFIJO_TEMPORAL = VNU("_TM$");
 
-// Holds the temporary from its opening to its end: another saver of the file waits a second and is refused. Owned by one
-// thread at a time. What dies without having been committed or let go is given up.
+// Holds the temporary from its opening to its end: another saver of the file waits a second and is refused. Owned by
+// one thread at a time. What dies without having been committed or let go is given up.
 class guardado {
   public:
     struct manera {

@@ -1,8 +1,8 @@
 #define VN_MODULO "ini (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/ini.h"
 #include "foundation/suelo/afirma_int.h"
-#include "foundation/texto/numero_int.h"
 #include "foundation/suelo/operaciones_fichero_int.h"
+#include "foundation/texto/numero_int.h"
 #include <algorithm>
 #include <string>
 #include <string_view>
@@ -18,7 +18,8 @@ std::string contenido(const vnwchar *fichero) {
     vnestado_fichero estado{};
     if (op.estado(fichero, &estado) != VN_FICH_BIEN || estado.es_normal != CIERTO || estado.tamanyo > MAXIMO) return {};
     vnid_fichero id = VN_FICHERO_NINGUNO;
-    if (vn::con_paciencia(vn::UNA_DECIMA, [&] { return op.abre(fichero, VN_ABRE_LECTURA, &id); }) != VN_FICH_BIEN) return {};
+    if (vn::con_paciencia(vn::UNA_DECIMA, [&] { return op.abre(fichero, VN_ABRE_LECTURA, &id); }) != VN_FICH_BIEN)
+        return {};
     std::string datos(static_cast<size_t>(estado.tamanyo), '\0');
     size_t leidos = 0;
     const vnerror_fichero e = vn::lee_todo(id, 0, datos.data(), datos.size(), &leidos);
@@ -87,7 +88,8 @@ int32_t ini_lee_int(const vnwchar *fichero, const char *seccion, const char *cla
 
 void ini_lee_varios_int(const vnwchar *fichero, const char *seccion, const char *claves, int32_t *valores,
                         uint32_t cuantas) {
-    if (!AFIRMA_NO_NULO(fichero) || !AFIRMA_NO_NULO(seccion) || !AFIRMA_NO_NULO(claves) || !AFIRMA_NO_NULO(valores)) return;
+    if (!AFIRMA_NO_NULO(fichero) || !AFIRMA_NO_NULO(seccion) || !AFIRMA_NO_NULO(claves) || !AFIRMA_NO_NULO(valores))
+        return;
     const std::string datos = contenido(fichero);
     std::string_view quedan = claves;
     for (uint32_t i = 0; i < cuantas; ++i) {

@@ -12,8 +12,8 @@ VN_C_INICIO
     in names, nor do blanks around them; lines that begin with ';' are comments; the first section of a name is the one,
     and the first key in it. */
 int32_t ini_lee_int(const vnwchar *fichero, const char *seccion, const char *clave, int32_t por_defecto);
-/** The same for several keys of a section, all of one moment of the file. `claves` has them one a line; the value of each
-    goes to its place in `valores`, 0 for those that are missing. */
+/** The same for several keys of a section, all of one moment of the file. `claves` has them one a line; the value of
+    each goes to its place in `valores`, 0 for those that are missing. */
 void ini_lee_varios_int(const vnwchar *fichero, const char *seccion, const char *claves,
                         VN_SALIDA VN_LON(cuantas) int32_t *valores, uint32_t cuantas);
 

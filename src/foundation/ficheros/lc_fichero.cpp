@@ -1,9 +1,9 @@
 #define VN_MODULO "lc_fichero (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/lc_fichero.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/ficheros/guardado_priv.h"
 #include "foundation/ficheros/lc_fichero_int.h"
 #include "foundation/platform/fichero.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/vornspy.h"
 #include <algorithm>
 #include <cstring>
@@ -24,25 +24,15 @@ struct modo_de_apertura {
 bool analiza(const vnwchar *modo, modo_de_apertura &m) {
     m = {0, true};
     switch (modo[0]) {
-    case 'r':
-        m.como = VN_ABRE_LECTURA;
-        break;
-    case 'w':
-        m.como = VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_TRUNCA;
-        break;
-    case 'a':
-        m.como = VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_ANADE;
-        break;
-    default:
-        return false;
+    case 'r': m.como = VN_ABRE_LECTURA; break;
+    case 'w': m.como = VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_TRUNCA; break;
+    case 'a': m.como = VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_ANADE; break;
+    default: return false;
     }
     for (const vnwchar *p = modo + 1; *p != 0; ++p) {
-        if (*p == '+')
-            m.como |= VN_ABRE_LECTURA | VN_ABRE_ESCRITURA;
-        else if (*p == 'b')
-            m.texto = false;
-        else if (*p != 't')
-            return false;
+        if (*p == '+') m.como |= VN_ABRE_LECTURA | VN_ABRE_ESCRITURA;
+        else if (*p == 'b') m.texto = false;
+        else if (*p != 't') return false;
     }
     return true;
 }
@@ -233,8 +223,7 @@ size_t lee_directamente(vnfichero &f, unsigned char *p, size_t n) {
     if (const vnerror_fichero e = lee_todo(f.id, f.base, p, n, &k); e != VN_FICH_BIEN) {
         anota_error(f, e);
         f.fallo_lectura = true;
-    } else if (k < n)
-        f.al_final = true;
+    } else if (k < n) f.al_final = true;
     situa(f, f.base + static_cast<int64_t>(k));
     f.estado = vnfichero::LEYENDO;
     f.lectura_siguiente = TAMANYO_BUFFER;

@@ -1,11 +1,11 @@
 #define VN_MODULO "lc_fichero (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/texto/cad.h"
 #include "foundation/ficheros/fichmem.h"
 #include "foundation/ficheros/lc_fichero_int.h"
-#include "foundation/suelo/propio_int.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/ficheros/vornfile.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/texto/cad.h"
+#include "foundation/texto/unicode.h"
 
 // The file operations that take ANSI names, of all modules: each is the wide one on a converted name.
 

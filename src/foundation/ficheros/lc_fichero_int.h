@@ -21,13 +21,13 @@ struct vnfichero {
     int64_t tamanyo; // as last seen
     vnid_fichero id;
     vnwchar *nombre;
-    vn::guardado *guardado; // of what is opened to take a file's place at its close
+    vn::guardado *guardado;     // of what is opened to take a file's place at its close
     uint32_t lectura_siguiente; // how much the next filling of the buffer asks for
     enum estado_t : uint8_t { NADA, LEYENDO, ESCRIBIENDO } estado;
     bool lee, escribe, anade, traduce, con_posicion;
     bool al_final, fallo_lectura, fallo_escritura, informado;
-    vnerror_fichero error; // the first one of the system's
-    bool sin_sentido; // of what it was given to write
+    vnerror_fichero error;                         // the first one of the system's
+    bool sin_sentido;                              // of what it was given to write
     bool etiquetas_al_leer, etiquetas_al_escribir; // each binary value has the letter of its kind before it
 };
 

@@ -1,7 +1,7 @@
 #define VN_MODULO "lc_fichero (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/ficheros/lc_fichero.h"
 #include "foundation/ficheros/lc_fichero_int.h"
+#include "foundation/suelo/afirma_int.h"
 #include <algorithm>
 
 namespace vn {

@@ -1,8 +1,8 @@
 #define VN_MODULO "timefich (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/timefich.h"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/platform/hora.h"
 #include "foundation/ficheros/vdir_int.h"
+#include "foundation/platform/hora.h"
+#include "foundation/suelo/afirma_int.h"
 #include <chrono>
 
 namespace {
@@ -46,12 +46,11 @@ vnbool timefich_obtener_fecha_fichero_existente_UTC(const char *nombre, int64_t 
 
 void timefich_convertir_fecha(int64_t fecha_UTC, vnbool hora_local, timefich_fecha *fecha) {
     if (fecha != nullptr) *fecha = {};
-    if (!AFIRMA(fecha_UTC >= PRIMER_SEGUNDO && fecha_UTC <= ULTIMO_SEGUNDO) || !AFIRMA_LOGICO(hora_local))
-        return;
+    if (!AFIRMA(fecha_UTC >= PRIMER_SEGUNDO && fecha_UTC <= ULTIMO_SEGUNDO) || !AFIRMA_LOGICO(hora_local)) return;
     if (!AFIRMA_NO_NULO(fecha)) return;
     std::tm t{};
     if (hora_local == CIERTO && vn::plat::hora_local(fecha_UTC, t))
-        *fecha = {t.tm_year + 1900, t.tm_mon + 1, t.tm_mday, t.tm_hour, t.tm_min, t.tm_sec, t.tm_wday, t.tm_yday, t.tm_isdst > 0 ? 1 : 0};
-    else
-        *fecha = descompone_fecha(fecha_UTC);
+        *fecha = {t.tm_year + 1900, t.tm_mon + 1,          t.tm_mday, t.tm_hour, t.tm_min, t.tm_sec, t.tm_wday,
+                  t.tm_yday,        t.tm_isdst > 0 ? 1 : 0};
+    else *fecha = descompone_fecha(fecha_UTC);
 }

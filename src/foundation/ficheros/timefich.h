@@ -16,8 +16,7 @@ VN_C_INICIO
 
 /** When the file was last changed: seconds since 1970-01-01 00:00 UTC. A file that is not there is reported; then
     FALSO, and 0 in `fecha_UTC`. The name without _UNICODE is ANSI. */
-vnbool timefich_obtener_fecha_fichero_existente_UTC_UNICODE(const vnwchar *nombre,
-                                                            VN_SALIDA int64_t *fecha_UTC);
+vnbool timefich_obtener_fecha_fichero_existente_UTC_UNICODE(const vnwchar *nombre, VN_SALIDA int64_t *fecha_UTC);
 vnbool timefich_obtener_fecha_fichero_existente_UTC(const char *nombre, VN_SALIDA int64_t *fecha_UTC);
 /** Takes a moment apart, in local time if `hora_local`, else in UTC. Outside the years 1 to 9999 it is reported, and
     `fecha` is all zero. */

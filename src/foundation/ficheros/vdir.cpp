@@ -1,11 +1,11 @@
 #define VN_MODULO "vdir (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/vdir.h"
+#include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/propio_int.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/suelo/utf_int.h"
-#include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/texto/unicode.h"
 #include <algorithm>
 #include <iterator>
 
@@ -28,9 +28,7 @@ size_t fin_de_parte(vista r, size_t i) {
     return i;
 }
 
-bool es_de_red(vista r) {
-    return r.size() > 2 && es_separador(r[0]) && es_separador(r[1]) && !es_separador(r[2]);
-}
+bool es_de_red(vista r) { return r.size() > 2 && es_separador(r[0]) && es_separador(r[1]) && !es_separador(r[2]); }
 bool es_unidad_de_letra(vista r) { return r.size() >= 2 && es_letra(r[0]) && r[1] == VNU(':'); }
 
 // "C:", "\\server\share", or either behind the prefix of paths without a limit, "\\?\" and "\\?\UNC\".
@@ -65,9 +63,8 @@ bool es_reservado(vista parte) {
         if (r == VNU('X')) return (c >= VNU('1') && c <= VNU('9')) || c == 0xB9 || c == 0xB2 || c == 0xB3;
         return minuscula(c) == r;
     };
-    return std::any_of(std::begin(RESERVADOS), std::end(RESERVADOS), [&](vista r) {
-        return std::equal(nombre.begin(), nombre.end(), r.begin(), r.end(), casan);
-    });
+    return std::any_of(std::begin(RESERVADOS), std::end(RESERVADOS),
+                       [&](vista r) { return std::equal(nombre.begin(), nombre.end(), r.begin(), r.end(), casan); });
 }
 
 // Windows takes the full stops and blanks at the end of a name away, and so would lead to another file.
@@ -77,13 +74,10 @@ bool puede_ser_nombre(vista parte) {
 }
 
 bool es_valida(vista ruta, bool (*vale)(vista parte)) {
-    const bool sin_limite =
-        ruta.size() > 3 && es_de_red(ruta) && ruta[2] == VNU('?') && es_separador(ruta[3]);
+    const bool sin_limite = ruta.size() > 3 && es_de_red(ruta) && ruta[2] == VNU('?') && es_separador(ruta[3]);
     if (sin_limite) ruta.remove_prefix(4);
-    if (es_unidad_de_letra(ruta))
-        ruta.remove_prefix(2);
-    else if (ruta.empty())
-        return false;
+    if (es_unidad_de_letra(ruta)) ruta.remove_prefix(2);
+    else if (ruta.empty()) return false;
     for (size_t i = 0; i < ruta.size(); ++i) {
         const size_t j = fin_de_parte(ruta, i);
         if (const vista parte = ruta.substr(i, j - i); !es_parte_valida(parte) || !vale(parte)) return false;
@@ -97,9 +91,7 @@ bool es_absoluta(vista ruta) {
     return unidad.size() > 2 || (ruta.size() > unidad.size() && es_separador(ruta[unidad.size()]));
 }
 
-size_t ancho_de_caracter(vista t, size_t i) {
-    return es_alto(t[i]) && i + 1 < t.size() && es_bajo(t[i + 1]) ? 2 : 1;
-}
+size_t ancho_de_caracter(vista t, size_t i) { return es_alto(t[i]) && i + 1 < t.size() && es_bajo(t[i + 1]) ? 2 : 1; }
 
 } // namespace
 
@@ -155,8 +147,7 @@ bool casa_con(vista mascara, vista nombre) {
         } else if (estrella != vista::npos) {
             m = estrella + 1;
             n = desde += ancho_de_caracter(nombre, desde);
-        } else
-            return false;
+        } else return false;
     }
     while (m < mascara.size() && mascara[m] == VNU('*')) ++m;
     return m == mascara.size();
@@ -252,15 +243,14 @@ char *vdir_ruta_acceso_directorio_fichero(const char *ruta) {
 vnwchar *vdir_ruta_y_nombre_fichero_sin_extension_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta)) return nullptr;
     const vista entera = ruta, extension = descompone(entera).extension;
-    return nuevo(con_separadores_propios(
-        entera.substr(0, entera.size() - (extension.empty() ? 0 : extension.size() + 1))));
+    return nuevo(
+        con_separadores_propios(entera.substr(0, entera.size() - (extension.empty() ? 0 : extension.size() + 1))));
 }
 
 vnbool vdir_es_path_valido_UNICODE(const vnwchar *ruta, uint32_t clases) {
     if (!AFIRMA_NO_NULO(ruta) || !AFIRMA(clases <= VDIR_PATH_RELATIVO)) return FALSO;
     if (!es_valida(ruta, puede_ser_nombre)) return FALSO;
-    return clases == VDIR_PATH_CUALQUIERA || es_absoluta(ruta) == (clases == VDIR_PATH_ABSOLUTO) ? CIERTO
-                                                                                                 : FALSO;
+    return clases == VDIR_PATH_CUALQUIERA || es_absoluta(ruta) == (clases == VDIR_PATH_ABSOLUTO) ? CIERTO : FALSO;
 }
 
 vnwchar *vdir_disco_de_programa_UNICODE(void) { return nuevo(descompone(plat::ruta_del_programa()).unidad); }

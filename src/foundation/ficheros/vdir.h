@@ -36,8 +36,7 @@ vnwchar *vdir_makepath_UNICODE(VN_OPC const vnwchar *unidad, VN_OPC const vnwcha
     extension without its full stop; a missing one is an empty text. FALSO and null texts if the path is not valid;
     names that only Windows refuses are taken apart all the same. */
 vnbool vdir_splitpath_con_comprobacion_UNICODE(const vnwchar *ruta, VN_SALIDA_OPC vnwchar **unidad,
-                                               VN_SALIDA_OPC vnwchar **directorio,
-                                               VN_SALIDA_OPC vnwchar **nombre,
+                                               VN_SALIDA_OPC vnwchar **directorio, VN_SALIDA_OPC vnwchar **nombre,
                                                VN_SALIDA_OPC vnwchar **extension);
 /** `nombre` with the extension `ext` (with or without full stop) at its end, unless it ends so already, in any
     case. */
@@ -109,10 +108,8 @@ vnbool vdir_borra_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta);
 /** Names, without path, of the files or of the directories in `ruta` that match `mascara`: '*' any text, '?' any one
     character, "*" and "*.*" all; case as the platform has it. In the order of their characters' numbers. FALSO and an
     empty list if the directory cannot be read. */
-vnbool vdir_lista_de_ficheros_UNICODE(const vnwchar *ruta, const vnwchar *mascara,
-                                      VN_SALIDA arrCADENA_u **lista);
-vnbool vdir_lista_de_directorios_UNICODE(const vnwchar *ruta, const vnwchar *mascara,
-                                         VN_SALIDA arrCADENA_u **lista);
+vnbool vdir_lista_de_ficheros_UNICODE(const vnwchar *ruta, const vnwchar *mascara, VN_SALIDA arrCADENA_u **lista);
+vnbool vdir_lista_de_directorios_UNICODE(const vnwchar *ruta, const vnwchar *mascara, VN_SALIDA arrCADENA_u **lista);
 /** Frees a list of either operation. */
 void vdir_libera_lista_de_ficheros_UNICODE(VN_OPC arrCADENA_u **lista);
 

@@ -1,8 +1,8 @@
 #define VN_MODULO "vdir (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/suelo/operaciones_fichero.h"
 #include "foundation/ficheros/vdir.h"
 #include "foundation/ficheros/vdir_int.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/operaciones_fichero.h"
 #include <algorithm>
 
 namespace vn {
@@ -40,14 +40,12 @@ bool renombra(const texto &origen, const texto &destino) {
         if (tabla().borra(origen.c_str()) == VN_FICH_BIEN) return true;
         tabla().borra(destino.c_str());
         return false;
-    case VN_FICH_NO_EXISTE:
-        return false;
+    case VN_FICH_NO_EXISTE: return false;
     // The same file with other capitals.
     case VN_FICH_YA_EXISTE:
         return origen != destino && mismo_nombre(origen, destino) &&
                tabla().renombra(origen.c_str(), destino.c_str()) == VN_FICH_BIEN;
-    default:
-        return !hay_algo(destino) && tabla().renombra(origen.c_str(), destino.c_str()) == VN_FICH_BIEN;
+    default: return !hay_algo(destino) && tabla().renombra(origen.c_str(), destino.c_str()) == VN_FICH_BIEN;
     }
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "foundation/listas/arr.h"
-#include "foundation/suelo/error_interno.h"
 #include "foundation/platform/directorio.h"
+#include "foundation/suelo/error_interno.h"
 
 namespace vn {
 
@@ -53,5 +53,5 @@ bool crea_fichero_unico(const texto &directorio, vista extension, texto &ruta);
 } // namespace vn
 
 // True when the condition holds; when not, reports it with the name of the file, and is false.
-#define AFIRMA_DE_FICHERO(cond, nombre)                                                                      \
+#define AFIRMA_DE_FICHERO(cond, nombre)                                                                                \
     ((cond) ? true : (error_interno_msg_u(VNU(#cond), VN_MODULO, __LINE__, nombre, 0), false))

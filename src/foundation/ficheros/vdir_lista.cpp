@@ -1,7 +1,7 @@
 #define VN_MODULO "vdir (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/ficheros/vdir.h"
 #include "foundation/ficheros/vdir_int.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/vornspy.h"
 #include <algorithm>
 #include <memory>
@@ -11,8 +11,7 @@ namespace vn {
 bool nombres_en(const texto &directorio, vista mascara, clase que, std::vector<texto> &nombres) {
     plat::recorrido r(directorio, false);
     for (plat::ficha f; r.siguiente(f);)
-        if (f.es_directorio == (que == clase::directorios) && casa_con(mascara, f.nombre))
-            nombres.push_back(f.nombre);
+        if (f.es_directorio == (que == clase::directorios) && casa_con(mascara, f.nombre)) nombres.push_back(f.nombre);
     std::sort(nombres.begin(), nombres.end());
     return r.abierto();
 }

@@ -1,9 +1,9 @@
 #define VN_MODULO "vorndir (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/vorndir.h"
+#include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/operaciones_fichero.h"
 #include "foundation/suelo/propio_int.h"
-#include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/vornspy.h"
 #include <algorithm>
 #include <atomic>
@@ -32,13 +32,10 @@ bool crea_fichero_unico(const texto &directorio, vista extension, texto &ruta) {
         ruta = une(directorio, nombre += extension);
         vnid_fichero id = VN_FICHERO_NINGUNO;
         switch (t.abre(ruta.c_str(), VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_NUEVO, &id)) {
-        case VN_FICH_BIEN:
-            return t.cierra(id) == VN_FICH_BIEN;
+        case VN_FICH_BIEN: return t.cierra(id) == VN_FICH_BIEN;
         case VN_FICH_YA_EXISTE:
-        case VN_FICH_INTERRUMPIDA:
-            break;
-        default:
-            return false;
+        case VN_FICH_INTERRUMPIDA: break;
+        default: return false;
         }
     }
     return false;
@@ -147,8 +144,7 @@ vnbool vorndir_lista_de_fichero(const char *patron, arrCADENA **lista) {
     return leido ? CIERTO : FALSO;
 }
 
-vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta,
-                                                                        const vnwchar *mascara,
+vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta, const vnwchar *mascara,
                                                                         arrCADENA_u **ficheros,
                                                                         arrCADENA_u **directorios) {
     if (ficheros != nullptr) *ficheros = nullptr;
@@ -166,8 +162,7 @@ vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vn
         nombres_en(por_visitar[i], VNU("*"), clase::directorios, nombres);
         for (const texto &n : nombres) {
             todos_los_directorios.push_back(une(por_visitar[i], n));
-            if (!plat::es_enlace(todos_los_directorios.back()))
-                por_visitar.push_back(todos_los_directorios.back());
+            if (!plat::es_enlace(todos_los_directorios.back())) por_visitar.push_back(todos_los_directorios.back());
         }
     }
     *ficheros = nueva_lista(todos_los_ficheros);

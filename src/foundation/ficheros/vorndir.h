@@ -34,13 +34,12 @@ vnbool vorndir_lista_de_fichero_UNICODE(const vnwchar *patron, VN_SALIDA arrCADE
 vnbool vorndir_lista_de_fichero(const char *patron, VN_SALIDA arrCADENA **lista);
 /** All below `ruta`: full paths of the files whose names match `mascara`, and of all subdirectories, each before what
     it holds. A link to a directory is listed and not entered. FALSO and empty lists if `ruta` cannot be read. */
-vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta,
-                                                                        const vnwchar *mascara,
+vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta, const vnwchar *mascara,
                                                                         VN_SALIDA arrCADENA_u **ficheros,
                                                                         VN_SALIDA arrCADENA_u **directorios);
 /** Frees both lists. */
-void vorndir_libera_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(
-    VN_OPC arrCADENA_u **ficheros, VN_OPC arrCADENA_u **directorios);
+void vorndir_libera_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(VN_OPC arrCADENA_u **ficheros,
+                                                                             VN_OPC arrCADENA_u **directorios);
 
 VN_C_FIN
 

@@ -1,8 +1,8 @@
 #define VN_MODULO "vornfile (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/vornfile.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/ficheros/guardado_priv.h"
 #include "foundation/ficheros/lc_fichero_int.h"
+#include "foundation/suelo/afirma_int.h"
 #include <utility>
 
 namespace vn {

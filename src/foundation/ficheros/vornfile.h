@@ -1,12 +1,12 @@
 /* Safe replacement of files: at every moment, a power failure included, a name leads to its old content or to the new
    one, whole. The content that was replaced stays as a safety copy, the name with ".bak" appended.
 
-   One saver at a time: while one has a file's temporary open a second one, of this or another program, is refused after a
-   second, before it harms anything. The name is made absolute, and links are followed to the file itself, when it is
+   One saver at a time: while one has a file's temporary open a second one, of this or another program, is refused after
+   a second, before it harms anything. The name is made absolute, and links are followed to the file itself, when it is
    opened; a file that is not a regular one is refused. The new file has the rights of the old one, its group, its owner
    where that is allowed, its access list, and on Windows its attributes; its temporary has them before the first byte.
-   Other hard links keep the old content: that is the price of replacing in one step. A temporary that nobody holds, link
-   or other thing under its name, is removed and made anew. A name that leaves no room for what is appended is cut
+   Other hard links keep the old content: that is the price of replacing in one step. A temporary that nobody holds,
+   link or other thing under its name, is removed and made anew. A name that leaves no room for what is appended is cut
    before it. Why something failed is told by lc_ultimo_error(NULL), and in the report behind the name. */
 #ifndef VN_VORNFILE_H
 #define VN_VORNFILE_H

@@ -1,12 +1,12 @@
 #define VN_MODULO "vtxt (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/vtxt.h"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/listas/arreglo_int.h"
-#include "foundation/texto/formato_int.h"
 #include "foundation/ficheros/lc_fichero.h"
-#include "foundation/texto/unicode.h"
-#include "foundation/suelo/utf_int.h"
 #include "foundation/ficheros/vtxt_int.h"
+#include "foundation/listas/arreglo_int.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/utf_int.h"
+#include "foundation/texto/formato_int.h"
+#include "foundation/texto/unicode.h"
 #include <charconv>
 #include <cmath>
 #include <cstdarg>
@@ -18,8 +18,7 @@ void escribe(std::string_view s, vnfichero *f) {
 }
 
 // A number and the character that follows it, ' ' or '\n'.
-template <class T>
-void escribe_numero(T v, char despues, vnfichero *f) {
+template <class T> void escribe_numero(T v, char despues, vnfichero *f) {
     char texto[40];
     char *fin = texto;
     if constexpr (std::is_same_v<T, char>) fin = std::to_chars(texto, texto + 39, static_cast<unsigned char>(v)).ptr;
@@ -151,32 +150,33 @@ void vtxt_trata_cadena(char **dato, vnfichero *f, vnbool graba) TRATA({
     else *dato = vtxt_lee_cadena(f);
 })
 
-void vtxt_trata_cadena_ansi_ascii(char **dato, vnfichero *f, vnbool graba, uint16_t version, uint16_t version_ascii) TRATA({
-    if (graba == CIERTO) vtxt_escr_string(*dato, f);
-    else *dato = vtxt_lee_cadena_ansi_ascii(f, version, version_ascii);
-})
+    void vtxt_trata_cadena_ansi_ascii(char **dato, vnfichero *f, vnbool graba, uint16_t version, uint16_t version_ascii)
+        TRATA({
+            if (graba == CIERTO) vtxt_escr_string(*dato, f);
+            else *dato = vtxt_lee_cadena_ansi_ascii(f, version, version_ascii);
+        })
 
-void vtxt_trata_cadena_u(vnwchar **dato, vnfichero *f, vnbool graba) TRATA({
-    if (graba == CIERTO) vtxt_escr_cadena_unicode(*dato, f);
-    else *dato = vtxt_lee_cadena_unicode(f);
-})
+            void vtxt_trata_cadena_u(vnwchar **dato, vnfichero *f, vnbool graba) TRATA({
+                if (graba == CIERTO) vtxt_escr_cadena_unicode(*dato, f);
+                else *dato = vtxt_lee_cadena_unicode(f);
+            })
 
-void vtxt_trata_double(double *dato, vnfichero *f, vnbool graba) TRATA({
-    if (graba == CIERTO) vtxt_escr_double(*dato, f);
-    else *dato = vtxt_lee_double(f);
-})
+                void vtxt_trata_double(double *dato, vnfichero *f, vnbool graba) TRATA({
+                    if (graba == CIERTO) vtxt_escr_double(*dato, f);
+                    else *dato = vtxt_lee_double(f);
+                })
 
-void vtxt_trata_ushrt(uint16_t *dato, vnfichero *f, vnbool graba) TRATA({
-    if (graba == CIERTO) vtxt_escr_ushrt(*dato, f);
-    else *dato = vtxt_lee_ushrt(f);
-})
+                    void vtxt_trata_ushrt(uint16_t *dato, vnfichero *f, vnbool graba) TRATA({
+                        if (graba == CIERTO) vtxt_escr_ushrt(*dato, f);
+                        else *dato = vtxt_lee_ushrt(f);
+                    })
 
-void vtxt_trata_uchar_como_ushrt(uint8_t *dato, vnfichero *f, vnbool graba) TRATA({
-    if (graba == CIERTO) vtxt_escr_ushrt(*dato, f);
-    else *dato = vtxt_lee_uchar(f);
-})
+                        void vtxt_trata_uchar_como_ushrt(uint8_t *dato, vnfichero *f, vnbool graba) TRATA({
+                            if (graba == CIERTO) vtxt_escr_ushrt(*dato, f);
+                            else *dato = vtxt_lee_uchar(f);
+                        })
 
-void vtxt_trata_comentario(const char *comentario, vnfichero *f, vnbool graba) {
+                            void vtxt_trata_comentario(const char *comentario, vnfichero *f, vnbool graba) {
     if (!AFIRMA_NO_NULO(comentario) || !AFIRMA_NO_NULO(f) || !AFIRMA_LOGICO(graba)) return;
     if (graba == CIERTO) vtxt_escr_comentario_y_salta(comentario, f);
     else vtxt_salta_linea(f);

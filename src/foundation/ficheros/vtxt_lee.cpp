@@ -1,12 +1,12 @@
 #define VN_MODULO "vtxt (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/listas/arreglo_int.h"
-#include "foundation/texto/cad.h"
 #include "foundation/ficheros/lc_fichero.h"
-#include "foundation/texto/numero_int.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/ficheros/vtxt.h"
 #include "foundation/ficheros/vtxt_int.h"
+#include "foundation/listas/arreglo_int.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/texto/cad.h"
+#include "foundation/texto/numero_int.h"
+#include "foundation/texto/unicode.h"
 #include <limits>
 
 namespace {
@@ -16,7 +16,8 @@ namespace {
 // The next character, which stays there; -1 at the end.
 int mira(vnfichero *f) {
     const auto *v = reinterpret_cast<const vnfichero_ventana *>(f);
-    if (v->fin_lectura - v->pos > 0) [[likely]] return *v->pos;
+    if (v->fin_lectura - v->pos > 0) [[likely]]
+        return *v->pos;
     const int64_t aqui = vornio_ftell_i64(f);
     const int c = f_getc_sin_error(f);
     if (c >= 0) vornio_fseek_i64(f, aqui, VN_DESDE_EL_PRINCIPIO);
@@ -56,8 +57,7 @@ palabra toma_palabra(vnfichero *f) {
     return p;
 }
 
-template <class T>
-bool analiza(const palabra &p, T &valor) {
+template <class T> bool analiza(const palabra &p, T &valor) {
     if constexpr (std::is_same_v<T, double>) {
         const auto r = vn::lee_double(p.texto, p.n);
         valor = r.valor;
@@ -69,15 +69,15 @@ bool analiza(const palabra &p, T &valor) {
     } else {
         using codigo = std::conditional_t<std::is_same_v<T, char>, unsigned char, T>;
         int32_t ancho = 0;
-        if (!analiza(p, ancho) || ancho < std::numeric_limits<codigo>::min() || ancho > std::numeric_limits<codigo>::max())
+        if (!analiza(p, ancho) || ancho < std::numeric_limits<codigo>::min() ||
+            ancho > std::numeric_limits<codigo>::max())
             return false;
         valor = static_cast<T>(ancho);
         return true;
     }
 }
 
-template <class T>
-T lee_numero(vnfichero *f, bool salta) {
+template <class T> T lee_numero(vnfichero *f, bool salta) {
     if (!AFIRMA_NO_NULO(f)) return 0;
     T valor = 0;
     const bool bien = analiza(toma_palabra(f), valor);
@@ -119,8 +119,8 @@ class texto_creciente {
     size_t n_ = 0, capacidad_ = 0;
 };
 
-// What is left of the line, without its end. The end of the stream where a text is due, and a zero, which no text holds,
-// are reported: the text ends there.
+// What is left of the line, without its end. The end of the stream where a text is due, and a zero, which no text
+// holds, are reported: the text ends there.
 vn::propio<char> toma_linea(vnfichero *f) {
     texto_creciente t;
     int c = toma(f);
@@ -172,7 +172,8 @@ vn::propio<vnwchar> toma_linea_unicode(vnfichero *f) {
     const vn::propio<char> linea = toma_linea(f);
     vn::propio<vnwchar> texto(unicode_convierte_UTF8_a_UNICODE(linea.get()));
     // Bytes that are no UTF-8 have become U+FFFD: more of them than were written.
-    const auto sustitutos = std::count(texto.get(), texto.get() + std::char_traits<vnwchar>::length(texto.get()), 0xFFFD);
+    const auto sustitutos =
+        std::count(texto.get(), texto.get() + std::char_traits<vnwchar>::length(texto.get()), 0xFFFD);
     const bool es_utf8 = static_cast<size_t>(sustitutos) == cuenta(linea.get(), "\xEF\xBF\xBD");
     if (!quita_escapes(texto.get()) || !es_utf8) lc_error_leyendo_fichero(f);
     return texto;

@@ -1,7 +1,7 @@
 #define VN_MODULO "acadorde (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/listas/acadorde.h"
-#include "foundation/texto/cad.h"
 #include "foundation/listas/ordenado_priv.h"
+#include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 
 // Both widths are one template. Each text stands beside the key that orders it: itself, or where case is not told apart
@@ -9,8 +9,7 @@
 
 namespace {
 
-template <class C>
-struct entrada {
+template <class C> struct entrada {
     C *texto;
     C *clave; // the text itself, or owned
 };
@@ -32,8 +31,7 @@ void pliega(char *s) { cad_convertir_a_mayusculas(s); }
 void pliega(vnwchar *s) { widestr_convertir_a_mayusculas(s); }
 
 // The key of a text to look for or to insert; it owns a folded copy where the set needs one.
-template <class A>
-struct clave_de {
+template <class A> struct clave_de {
     using C = typename A::caracter;
     vn::propio<C> plegada;
     std::basic_string_view<C> texto;
@@ -45,13 +43,11 @@ struct clave_de {
     }
 };
 
-template <class A>
-auto busca_texto(const A *a, const clave_de<A> &clave) {
+template <class A> auto busca_texto(const A *a, const clave_de<A> &clave) {
     return vn::busca(a, [&clave](const auto &e) { return clave.texto.compare(e.clave); });
 }
 
-template <class A>
-A *crea(vnbool distingue) {
+template <class A> A *crea(vnbool distingue) {
     if (!AFIRMA_TEXTO(distingue == CIERTO || distingue == FALSO,
                       "distingue_may_y_min == CIERTO || distingue_may_y_min == FALSO"))
         return nullptr;
@@ -60,8 +56,7 @@ A *crea(vnbool distingue) {
     return a;
 }
 
-template <class A>
-void destruye(A **a) {
+template <class A> void destruye(A **a) {
     const auto propio = vn::toma_ordenado(a);
     for (uint32_t i = 0; propio != nullptr && i < propio->num; ++i) {
         auto &e = propio->datos[i];
@@ -70,8 +65,7 @@ void destruye(A **a) {
     }
 }
 
-template <class A>
-vnbool inserta(A *a, const typename A::caracter *s) {
+template <class A> vnbool inserta(A *a, const typename A::caracter *s) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
     clave_de<A> clave(a, s);
     const auto sitio = busca_texto(a, clave);
@@ -84,8 +78,7 @@ vnbool inserta(A *a, const typename A::caracter *s) {
     return CIERTO;
 }
 
-template <class A>
-vnbool existe(const A *a, const typename A::caracter *s, uint32_t *pos) {
+template <class A> vnbool existe(const A *a, const typename A::caracter *s, uint32_t *pos) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
     const auto sitio = busca_texto(a, clave_de<A>(a, s));
     if (pos != nullptr) *pos = sitio.pos;

@@ -1,6 +1,6 @@
 /* Sorted sets of texts, ANSI (acadorde) and wide (acadordeu), that tell case apart or not. The order is that of the
-   character units, after folding to upper case where case is not told apart. Threads: several may ask a set at once; one
-   that changes it is alone with it. */
+   character units, after folding to upper case where case is not told apart. Threads: several may ask a set at once;
+   one that changes it is alone with it. */
 #ifndef VN_ACADORDE_H
 #define VN_ACADORDE_H
 

@@ -1,5 +1,5 @@
-/* Sorted set of pointers, kept by a comparer of the caller's. Threads: several may ask a set at once; one that changes it is
-   alone with it. Call it through the wrappers at the end. */
+/* Sorted set of pointers, kept by a comparer of the caller's. Threads: several may ask a set at once; one that changes
+   it is alone with it. Call it through the wrappers at the end. */
 #ifndef VN_APUNORDE_H
 #define VN_APUNORDE_H
 
@@ -13,7 +13,8 @@ typedef int (*vnfunc_compara_con_dato)(const void *a, const void *b, void *dato)
 VN_C_INICIO
 
 /** New empty set; `dato` is handed to the comparer. With a destructor the set owns its elements. */
-apunorde *apunorde_nousar_crea(vnfunc_compara_con_dato comparador, VN_DATO void *dato, VN_OPC vnfunc_destruye destructor);
+apunorde *apunorde_nousar_crea(vnfunc_compara_con_dato comparador, VN_DATO void *dato,
+                               VN_OPC vnfunc_destruye destructor);
 /** Frees the set, calling its destructor with the address of each element, and leaves `*a` null. */
 void apunorde_nousar_destruye(apunorde **a);
 /** The set takes the pointer `p`; its index goes to `pos`. If an equal element is there already that is reported, `p`
@@ -23,7 +24,8 @@ void apunorde_nousar_inserta_original(apunorde *a, VN_CONSUME void *p, VN_SALIDA
 uint32_t apunorde_nousar_numelems(const apunorde *a);
 /** Element number `i` of the order, borrowed; null after a report. */
 void *apunorde_nousar_get(const apunorde *a, VN_INDICE(a) uint32_t i);
-/** Takes element number `i` out of the set and hands it to the caller, who owns it from then on; null after a report. */
+/** Takes element number `i` out of the set and hands it to the caller, who owns it from then on; null after a
+    report. */
 void *apunorde_nousar_quita(apunorde *a, VN_INDICE(a) uint32_t i);
 /** The first element that `comparador(clave, element)` matches, borrowed, or null. The comparer's order must be that
     of the set. */
@@ -39,11 +41,13 @@ vnbool apunorde_nousar_existe_elemento(const apunorde *a, const void *p, VN_SALI
 
 VN_C_FIN
 
-/* `tipo` is the type that the elements lead to, `tipo_dato` that of the comparer's datum, `tipo_clave` that of a key. */
+/* `tipo` is the type that the elements lead to, `tipo_dato` that of the comparer's datum, `tipo_clave` that of a
+   key. */
 #define apunorde_crea(tipo, tipo_dato, comparador, dato, destructor)                                                   \
     apunorde_nousar_crea(                                                                                              \
         VN_COMPRUEBA_TIPO(int (*)(const tipo *, const tipo *, tipo_dato *), comparador, vnfunc_compara_con_dato),      \
-        VN_COMPRUEBA_TIPO(tipo_dato *, dato, void *), VN_COMPRUEBA_TIPO(void (*)(tipo **), destructor, vnfunc_destruye))
+        VN_COMPRUEBA_TIPO(tipo_dato *, dato, void *),                                                                  \
+        VN_COMPRUEBA_TIPO(void (*)(tipo **), destructor, vnfunc_destruye))
 #define apunorde_destruye(a, tipo) ((void)sizeof(tipo *), apunorde_nousar_destruye(a))
 #define apunorde_inserta_original(a, p, tipo, pos)                                                                     \
     apunorde_nousar_inserta_original(a, VN_COMPRUEBA_TIPO(tipo *, p, void *), pos)

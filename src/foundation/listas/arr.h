@@ -280,7 +280,8 @@ vnwchar *arr_GetCopiaCADENA_u(const arrCADENA_u *a, VN_INDICE(a) uint32_t i);
 void arr_SetCADENA(arrCADENA *a, VN_INDICE(a) uint32_t i, VN_OPC const char *s);
 void arr_SetCADENA_u(arrCADENA_u *a, VN_INDICE(a) uint32_t i, VN_OPC const vnwchar *s);
 
-/** Replaces element `i` by the very text `*s`, which the array takes over; `*s` is left null. After a report it is freed. */
+/** Replaces element `i` by the very text `*s`, which the array takes over; `*s` is left null. After a report it is
+    freed. */
 void arr_SetCADENAOriginal(arrCADENA *a, VN_INDICE(a) uint32_t i, VN_OPC VN_CONSUME char **s);
 void arr_SetCADENAOriginal_u(arrCADENA_u *a, VN_INDICE(a) uint32_t i, VN_OPC VN_CONSUME vnwchar **s);
 
@@ -412,11 +413,11 @@ void arr_AnyadirArcoElipsePunto2D(arrPunto2D *a, double xc, double yc, double se
                                   VN_RANGO(3, 1000000) uint32_t num_puntos);
 /** The least rectangle that has all the points. One without points is reported and gives zeros; coordinates
    that are not-a-number do not count. */
-void arr_GetMinimaxPunto2D(const arrPunto2D *a, VN_SALIDA double *xmin, VN_SALIDA double *ymin,
-                           VN_SALIDA double *xmax, VN_SALIDA double *ymax);
+void arr_GetMinimaxPunto2D(const arrPunto2D *a, VN_SALIDA double *xmin, VN_SALIDA double *ymin, VN_SALIDA double *xmax,
+                           VN_SALIDA double *ymax);
 /** The side of the closed outline that starts at point `i`; that of the last point goes back to the first. */
-void arr_GetSegmentoPunto2D(const arrPunto2D *a, VN_INDICE(a) uint32_t i, VN_SALIDA double *x1,
-                            VN_SALIDA double *y1, VN_SALIDA double *x2, VN_SALIDA double *y2);
+void arr_GetSegmentoPunto2D(const arrPunto2D *a, VN_INDICE(a) uint32_t i, VN_SALIDA double *x1, VN_SALIDA double *y1,
+                            VN_SALIDA double *x2, VN_SALIDA double *y2);
 /** Whether both have the same points in the same order, each coordinate within `tolerancia`. */
 vnbool arr_ArraysDePunto2DIguales(const arrPunto2D *a, const arrPunto2D *b, double tolerancia);
 
@@ -474,7 +475,8 @@ vnbool arr_BuscarEstructuraDicotomicamenteConTipo(const arrPuntero *a, VN_DATO c
                                                   vnfunc_compara comparador, VN_SALIDA_OPC uint32_t *pos);
 /** Inserts `p` into an array sorted by `comparador(p, element)`, after its equals; returns its index. */
 uint32_t arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(arrPuntero *a, VN_DATO void *p, vnfunc_compara comparador);
-/** Sorts the elements by `comparador(element, element)`; equals keep their order. The comparer may sort arrays itself. */
+/** Sorts the elements by `comparador(element, element)`; equals keep their order. The comparer may sort arrays
+    itself. */
 void arr_QSortPunteroConTipo(arrPuntero *a, vnfunc_compara comparador);
 /** Calls `funcion(element, datos)` with each element in order; it may change the array. */
 void arr_RecorreEstructuraSimpleConTipo(const arrPuntero *a, vnfunc_recorre funcion, VN_DATO void *datos);

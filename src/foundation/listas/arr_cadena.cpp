@@ -14,35 +14,28 @@ namespace {
 bool iguales_may_o_min(const char *a, const char *b) { return cad_cadenas_iguales_may_o_min(a, b) == CIERTO; }
 bool iguales_may_o_min(const vnwchar *a, const vnwchar *b) { return widestr_cadenas_iguales_may_o_min(a, b) == CIERTO; }
 
-template <class A>
-using caracter = std::remove_pointer_t<typename A::elemento>;
+template <class A> using caracter = std::remove_pointer_t<typename A::elemento>;
 
 void libera(auto *&s) {
     if (s != nullptr) vornspy_free_pp(&s, sizeof(*s));
 }
 
-template <class A>
-void libera_desde(A *a, uint32_t n) {
+template <class A> void libera_desde(A *a, uint32_t n) {
     for (uint32_t i = n; i < a->num; ++i) libera(a->datos[i]);
     a->num = n;
 }
 
-template <class A>
-void destruye(A **a) {
+template <class A> void destruye(A **a) {
     if (const auto propio = vn::toma(a)) libera_desde(propio.get(), 0);
 }
 
 // An array that frees its texts too.
 struct libera_con_textos {
-    template <class A>
-    void operator()(A *a) const {
-        destruye(&a);
-    }
+    template <class A> void operator()(A *a) const { destruye(&a); }
 };
 
 // Appends copies of the first `n` texts of `b`.
-template <class A>
-bool anade_copias(A *a, const A *b, uint32_t n) {
+template <class A> bool anade_copias(A *a, const A *b, uint32_t n) {
     if (!vn::asegura(a, n)) return false;
     for (uint32_t i = 0; i < n; ++i) {
         a->datos[a->num] = vn::copia_texto(b->datos[i]);
@@ -51,34 +44,29 @@ bool anade_copias(A *a, const A *b, uint32_t n) {
     return true;
 }
 
-template <class A>
-A *copia_textos(const A *a) {
+template <class A> A *copia_textos(const A *a) {
     if (!AFIRMA_NO_NULO(a)) return nullptr;
     std::unique_ptr<A, libera_con_textos> b(vn::crea<A>(0));
     return anade_copias(b.get(), a, a->num) ? b.release() : nullptr;
 }
 
 // Puts a text that the array now owns in the place of element `i`.
-template <class A>
-void reemplaza(A *a, uint32_t i, caracter<A> *s) {
+template <class A> void reemplaza(A *a, uint32_t i, caracter<A> *s) {
     if (a->datos[i] != s) libera(a->datos[i]);
     a->datos[i] = s;
 }
 
 // The text that the caller hands over, freed should it not arrive.
-template <class C>
-vn::propio<C> toma_texto(C **s) {
+template <class C> vn::propio<C> toma_texto(C **s) {
     return vn::propio<C>(s != nullptr ? std::exchange(*s, nullptr) : nullptr);
 }
 
-template <class A>
-void inserta_copia(A *a, uint32_t i, const caracter<A> *s) {
+template <class A> void inserta_copia(A *a, uint32_t i, const caracter<A> *s) {
     vn::propio<caracter<A>> c(vn::copia_texto(s));
     if (vn::inserta(a, i, c.get())) static_cast<void>(c.release());
 }
 
-template <class A>
-bool textos_iguales(const A *a, const A *b) {
+template <class A> bool textos_iguales(const A *a, const A *b) {
     using C = caracter<A>;
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return false;
     return a->num == b->num && std::equal(a->datos, a->datos + a->num, b->datos, [](const C *s, const C *t) {
@@ -86,15 +74,13 @@ bool textos_iguales(const A *a, const A *b) {
            });
 }
 
-template <class A>
-vnbool existe(const A *a, const caracter<A> *s, uint32_t *pos) {
+template <class A> vnbool existe(const A *a, const caracter<A> *s, uint32_t *pos) {
     using C = caracter<A>;
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
     return vn::existe(a, pos, 0, [t = std::basic_string_view<C>(s)](const C *e) { return e != nullptr && t == e; });
 }
 
-template <class A>
-vnbool existe_may_o_min(const A *a, const caracter<A> *s, uint32_t *pos) {
+template <class A> vnbool existe_may_o_min(const A *a, const caracter<A> *s, uint32_t *pos) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
     return vn::existe(a, pos, 0, [s](const caracter<A> *e) { return e != nullptr && iguales_may_o_min(e, s); });
 }

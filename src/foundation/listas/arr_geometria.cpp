@@ -1,8 +1,8 @@
 #define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/vector_int.h"
+#include "foundation/suelo/afirma_int.h"
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -13,9 +13,7 @@ using vn::VUELTA;
 // How much longer than a whole number of steps an arc may be, in steps, before it gets one more.
 constexpr double TOLERANCIA_PASOS = 1e-6;
 
-bool hay_puntos(uint32_t n) {
-    return AFIRMA_TEXTO(n >= 3 && n <= 1000000, "num_puntos >= 3 && num_puntos <= 1000000");
-}
+bool hay_puntos(uint32_t n) { return AFIRMA_TEXTO(n >= 3 && n <= 1000000, "num_puntos >= 3 && num_puntos <= 1000000"); }
 
 struct elipse {
     double xc, yc, a, b, coseno, seno;
@@ -26,8 +24,7 @@ struct elipse {
 };
 
 // Appends f(0), f(1)... as points.
-template <class F>
-void anade(arrPunto2D *a, uint32_t n, F &&f) {
+template <class F> void anade(arrPunto2D *a, uint32_t n, F &&f) {
     for (uint32_t i = 0; i < n; ++i) {
         const Punto2D p = f(i);
         arr_AppendPunto2D(a, p.x, p.y);
@@ -40,8 +37,7 @@ void arco(arrPunto2D *a, const elipse &e, double inicial, double final, uint32_t
     const double barrido = std::clamp(dado, -VUELTA, VUELTA);
     const double exactos = std::fabs(barrido) / VUELTA * num_puntos;
     const auto pasos = static_cast<uint32_t>(std::max(1., std::ceil(exactos - TOLERANCIA_PASOS)));
-    anade(a, pasos + 1,
-          [&](uint32_t i) { return e.en(inicial + (i == pasos ? barrido : i * (barrido / pasos))); });
+    anade(a, pasos + 1, [&](uint32_t i) { return e.en(inicial + (i == pasos ? barrido : i * (barrido / pasos))); });
 }
 
 } // namespace
@@ -59,11 +55,9 @@ void arr_AnyadirArcoPunto2D(arrPunto2D *a, double xc, double yc, double radio, d
 }
 
 void arr_AnyadirArcoElipsePunto2D(arrPunto2D *a, double xc, double yc, double semieje_x, double semieje_y,
-                                  double angulo_inicial, double angulo_final, double giro,
-                                  uint32_t num_puntos) {
+                                  double angulo_inicial, double angulo_final, double giro, uint32_t num_puntos) {
     if (!AFIRMA_NO_NULO(a) || !hay_puntos(num_puntos)) return;
-    arco(a, {xc, yc, semieje_x, semieje_y, std::cos(giro), std::sin(giro)}, angulo_inicial, angulo_final,
-         num_puntos);
+    arco(a, {xc, yc, semieje_x, semieje_y, std::cos(giro), std::sin(giro)}, angulo_inicial, angulo_final, num_puntos);
 }
 
 void arr_GetMinimaxPunto2D(const arrPunto2D *a, double *xmin, double *ymin, double *xmax, double *ymax) {

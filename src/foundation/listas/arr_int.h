@@ -38,6 +38,8 @@ VN_TRAMO_CONST(CADENA_u, vnwchar *const)
 #undef VN_TRAMO_CONST
 
 inline std::span<void *> tramo(arrPuntero *a) { return {arr_GetBufferPuntero(a), arr_NumElemsPuntero(a)}; }
-inline std::span<void *const> tramo(const arrPuntero *a) { return {arr_GetBufferConstPuntero(a), arr_NumElemsPuntero(a)}; }
+inline std::span<void *const> tramo(const arrPuntero *a) {
+    return {arr_GetBufferConstPuntero(a), arr_NumElemsPuntero(a)};
+}
 
 } // namespace vn

@@ -57,7 +57,8 @@ arrPuntero *arr_CopiaEstructurasConTipo(const arrPuntero *a, vnfunc_copia copiad
     return anade_copias(b.get(), a, copiador) ? b.release() : nullptr;
 }
 
-void arr_ConcatenaEstructurasConTipo(arrPuntero *a, const arrPuntero *b, vnfunc_copia copiador, const char *, uint32_t) {
+void arr_ConcatenaEstructurasConTipo(arrPuntero *a, const arrPuntero *b, vnfunc_copia copiador, const char *,
+                                     uint32_t) {
     if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b)) anade_copias(a, b, copiador);
 }
 
@@ -90,7 +91,8 @@ vnbool arr_ExisteEstructuraConTipo(const arrPuntero *a, const void *dato, vnfunc
     return existe(a, dato, comparador, 0, pos);
 }
 
-vnbool arr_ExisteUnicaEstructuraConTipo(const arrPuntero *a, const void *dato, vnfunc_compara comparador, uint32_t *pos) {
+vnbool arr_ExisteUnicaEstructuraConTipo(const arrPuntero *a, const void *dato, vnfunc_compara comparador,
+                                        uint32_t *pos) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return FALSO;
     uint32_t primera;
     if (existe(a, dato, comparador, 0, &primera) == FALSO) return FALSO;
@@ -119,8 +121,8 @@ uint32_t arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(arrPuntero *a, void *
     return vn::inserta(a, i, p) ? i : VN_ARR_NO_ESTA;
 }
 
-// Merges runs of 1, 2, 4... between two copies, so that a comparer that has no order leaves the array with the elements that
-// it had.
+// Merges runs of 1, 2, 4... between two copies, so that a comparer that has no order leaves the array with the elements
+// that it had.
 void arr_QSortPunteroConTipo(arrPuntero *a, vnfunc_compara comparador) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador) || a->num < 2) return;
     const uint32_t n = a->num;

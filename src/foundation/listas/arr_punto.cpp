@@ -62,7 +62,9 @@ void arr_SetPunto2D(arrPunto2D *a, uint32_t i, double x, double y) { vn::pon(a, 
 
 void arr_SetPunto3D(arrPunto3D *a, uint32_t i, double x, double y, double z) { vn::pon(a, i, {x, y, z}); }
 
-void arr_SetPunto2DXPriv(arrPunto2DXPriv *a, uint32_t i, double x, double y, void *priv) { vn::pon(a, i, {x, y, priv}); }
+void arr_SetPunto2DXPriv(arrPunto2DXPriv *a, uint32_t i, double x, double y, void *priv) {
+    vn::pon(a, i, {x, y, priv});
+}
 
 void arr_AppendPunto2D(arrPunto2D *a, double x, double y) { vn::anade(a, {x, y}); }
 
@@ -76,13 +78,15 @@ void arr_InvertirPunto3D(arrPunto3D *a) {
 
 vnbool arr_SonIgualesPunto3DConTolerancia(const arrPunto3D *a, const arrPunto3D *b, double tolerancia) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b) || a->num != b->num) return FALSO;
-    const bool todos = std::equal(a->datos, a->datos + a->num, b->datos, [tolerancia](const Punto3D &p, const Punto3D &q) {
-        return cerca(p.x, q.x, tolerancia) && cerca(p.y, q.y, tolerancia) && cerca(p.z, q.z, tolerancia);
-    });
+    const bool todos =
+        std::equal(a->datos, a->datos + a->num, b->datos, [tolerancia](const Punto3D &p, const Punto3D &q) {
+            return cerca(p.x, q.x, tolerancia) && cerca(p.y, q.y, tolerancia) && cerca(p.z, q.z, tolerancia);
+        });
     return todos ? CIERTO : FALSO;
 }
 
 vnbool arr_ExistePunto2D(const arrPunto2D *a, double x, double y, double tolerancia, uint32_t *pos) {
     if (!AFIRMA_NO_NULO(a)) return FALSO;
-    return vn::existe(a, pos, 0, [=](const Punto2D &p) { return cerca(p.x, x, tolerancia) && cerca(p.y, y, tolerancia); });
+    return vn::existe(a, pos, 0,
+                      [=](const Punto2D &p) { return cerca(p.x, x, tolerancia) && cerca(p.y, y, tolerancia); });
 }

@@ -7,13 +7,10 @@
 
 namespace {
 
-template <class A>
-constexpr bool ES_LOGICO = false;
-template <>
-constexpr bool ES_LOGICO<arrBOOL> = true;
+template <class A> constexpr bool ES_LOGICO = false;
+template <> constexpr bool ES_LOGICO<arrBOOL> = true;
 
-template <class A>
-bool vale(typename A::elemento v) {
+template <class A> bool vale(typename A::elemento v) {
     if constexpr (ES_LOGICO<A>) return AFIRMA_LOGICO(v);
     else return true;
 }

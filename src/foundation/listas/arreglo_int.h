@@ -2,8 +2,8 @@
 // A handle is a struct derived from arreglo<T>; an invariant of all: `num` <= `capacidad`, no block when that is 0.
 #pragma once
 
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/propio_int.h"
 #include <algorithm>
 #include <cstring>
@@ -13,8 +13,7 @@
 
 namespace vn {
 
-template <class T>
-struct arreglo {
+template <class T> struct arreglo {
     using elemento = T;
     T *datos;
     uint32_t num, capacidad;
@@ -24,15 +23,13 @@ constexpr uint32_t MAXIMO_AL_CREAR = 1u << 28;
 constexpr uint32_t MAXIMO = ~uint32_t{0};
 
 // Room for `n` elements that comes from outside: none is reported, and gives null.
-template <class T>
-propio<T> pide(uint32_t n) {
+template <class T> propio<T> pide(uint32_t n) {
     propio<T> p(static_cast<T *>(vornspy_reserva_seguro(n, sizeof(T), CIERTO, VN_AQUI)));
     if (!AFIRMA_TEXTO(p != nullptr, "memoria != NULL")) return nullptr;
     return p;
 }
 
-template <class A>
-A *crea(uint32_t n) {
+template <class A> A *crea(uint32_t n) {
     if (!AFIRMA_TEXTO(n <= MAXIMO_AL_CREAR, "n <= 268435456")) return nullptr;
     propio<typename A::elemento> datos;
     if (n > 0 && (datos = pide<typename A::elemento>(n)) == nullptr) return nullptr;
@@ -44,27 +41,24 @@ A *crea(uint32_t n) {
 
 // The handle and its block, not what the elements own.
 struct libera_arreglo {
-    template <class A>
-    void operator()(A *a) const {
+    template <class A> void operator()(A *a) const {
         if (a->datos != nullptr) vornspy_free_pp(&a->datos, sizeof(*a->datos));
         vornspy_free_pp(&a, sizeof(A));
     }
 };
-template <class A>
-using dueno = std::unique_ptr<A, libera_arreglo>;
+template <class A> using dueno = std::unique_ptr<A, libera_arreglo>;
 
 // Takes the array out of its owner's pointer; null after a report.
-template <class A>
-dueno<A> toma(A **a) {
+template <class A> dueno<A> toma(A **a) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_TEXTO(*a != nullptr, "(*a) != NULL")) return nullptr;
     return dueno<A>(std::exchange(*a, nullptr));
 }
 
 // Makes room for `extra` more. A few are the heap's to give; many may be refused, which is reported.
-template <class A>
-bool asegura(A *a, uint32_t extra) {
+template <class A> bool asegura(A *a, uint32_t extra) {
     using T = typename A::elemento;
-    if (extra <= a->capacidad - a->num) [[likely]] return true;
+    if (extra <= a->capacidad - a->num) [[likely]]
+        return true;
     if (!AFIRMA_TEXTO(extra <= MAXIMO - a->num, "num_elementos < ULONG_MAX")) return false;
     const uint64_t minimo = uint64_t{a->num} + extra, comodo = uint64_t{a->capacidad} + a->capacidad / 2 + 8;
     const auto nueva = static_cast<uint32_t>(std::min<uint64_t>(std::max(minimo, comodo), MAXIMO));
@@ -81,35 +75,27 @@ bool asegura(A *a, uint32_t extra) {
     return true;
 }
 
-template <class A>
-bool hay(const A *a, uint32_t i) {
+template <class A> bool hay(const A *a, uint32_t i) {
     return AFIRMA_NO_NULO(a) && AFIRMA_TEXTO(i < a->num, "i < num_elementos");
 }
 
-template <class A>
-uint32_t numelems(const A *a) {
-    return AFIRMA_NO_NULO(a) ? a->num : 0;
-}
+template <class A> uint32_t numelems(const A *a) { return AFIRMA_NO_NULO(a) ? a->num : 0; }
 
-template <class A>
-typename A::elemento elemento(const A *a, uint32_t i) {
+template <class A> typename A::elemento elemento(const A *a, uint32_t i) {
     return hay(a, i) ? a->datos[i] : typename A::elemento{};
 }
 
-template <class A>
-void pon(A *a, uint32_t i, typename A::elemento v) {
+template <class A> void pon(A *a, uint32_t i, typename A::elemento v) {
     if (hay(a, i)) a->datos[i] = v;
 }
 
-template <class A>
-bool anade(A *a, typename A::elemento v) {
+template <class A> bool anade(A *a, typename A::elemento v) {
     if (!AFIRMA_NO_NULO(a) || !asegura(a, 1)) return false;
     a->datos[a->num++] = v;
     return true;
 }
 
-template <class A>
-bool inserta(A *a, uint32_t i, typename A::elemento v) {
+template <class A> bool inserta(A *a, uint32_t i, typename A::elemento v) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_TEXTO(i <= a->num, "i <= num_elementos") || !asegura(a, 1)) return false;
     std::memmove(static_cast<void *>(a->datos + i + 1), a->datos + i, size_t{a->num - i} * sizeof(v));
     a->datos[i] = v;
@@ -118,26 +104,22 @@ bool inserta(A *a, uint32_t i, typename A::elemento v) {
 }
 
 // Takes element `i` out; the caller has checked that it is there.
-template <class A>
-typename A::elemento saca(A *a, uint32_t i) {
+template <class A> typename A::elemento saca(A *a, uint32_t i) {
     const auto v = a->datos[i];
     --a->num;
     std::memmove(static_cast<void *>(a->datos + i), a->datos + i + 1, size_t{a->num - i} * sizeof(v));
     return v;
 }
 
-template <class A>
-void borra(A *a, uint32_t i) {
+template <class A> void borra(A *a, uint32_t i) {
     if (hay(a, i)) saca(a, i);
 }
 
-template <class A>
-void inicializa(A *a, typename A::elemento v) {
+template <class A> void inicializa(A *a, typename A::elemento v) {
     if (AFIRMA_NO_NULO(a)) std::fill_n(a->datos, a->num, v);
 }
 
-template <class A>
-A *copia(const A *a) {
+template <class A> A *copia(const A *a) {
     if (!AFIRMA_NO_NULO(a)) return nullptr;
     dueno<A> b(crea<A>(0));
     if (!asegura(b.get(), a->num)) return nullptr;
@@ -146,8 +128,7 @@ A *copia(const A *a) {
     return b.release();
 }
 
-template <class A>
-void concatena(A *a, const A *b) {
+template <class A> void concatena(A *a, const A *b) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return;
     const uint32_t n = b->num; // before `a` grows: both may be one
     if (n == 0 || !asegura(a, n)) return;
@@ -155,25 +136,22 @@ void concatena(A *a, const A *b) {
     a->num += n;
 }
 
-template <class A>
-bool iguales(const A *a, const A *b) {
+template <class A> bool iguales(const A *a, const A *b) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return false;
-    return a->num == b->num && (a->num == 0 || std::memcmp(a->datos, b->datos, size_t{a->num} * sizeof(*a->datos)) == 0);
+    return a->num == b->num &&
+           (a->num == 0 || std::memcmp(a->datos, b->datos, size_t{a->num} * sizeof(*a->datos)) == 0);
 }
 
-template <class A>
-typename A::elemento *bloque_de(A *a) {
+template <class A> typename A::elemento *bloque_de(A *a) {
     return AFIRMA_NO_NULO(a) && a->num > 0 ? a->datos : nullptr;
 }
 
-template <class A>
-const typename A::elemento *bloque_de(const A *a) {
+template <class A> const typename A::elemento *bloque_de(const A *a) {
     return AFIRMA_NO_NULO(a) && a->num > 0 ? a->datos : nullptr;
 }
 
 // The index of the first element for which `f` holds, looking from `desde` on; `pos`, if given, receives it.
-template <class A, class F>
-vnbool existe(const A *a, uint32_t *pos, uint32_t desde, F &&f) {
+template <class A, class F> vnbool existe(const A *a, uint32_t *pos, uint32_t desde, F &&f) {
     for (uint32_t i = desde; i < a->num; ++i)
         if (f(a->datos[i])) {
             if (pos != nullptr) *pos = i;
@@ -183,8 +161,7 @@ vnbool existe(const A *a, uint32_t *pos, uint32_t desde, F &&f) {
 }
 
 // The first place of a sorted array that does not stand before: `antes(element)` is true for a leading run only.
-template <class A, class F>
-uint32_t primero_que_no(const A *a, F &&antes) {
+template <class A, class F> uint32_t primero_que_no(const A *a, F &&antes) {
     uint32_t desde = 0, hasta = a->num;
     while (desde < hasta) {
         const uint32_t medio = desde + (hasta - desde) / 2;
@@ -195,8 +172,7 @@ uint32_t primero_que_no(const A *a, F &&antes) {
 }
 
 // A copy of a text on the tracked heap; null for null.
-template <class C>
-C *copia_texto(const C *s) {
+template <class C> C *copia_texto(const C *s) {
     if (s == nullptr) return nullptr;
     const size_t bytes = (std::char_traits<C>::length(s) + 1) * sizeof(C);
     return static_cast<C *>(std::memcpy(vornspy_malloc(bytes), s, bytes));

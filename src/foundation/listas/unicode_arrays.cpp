@@ -1,6 +1,6 @@
 #define VN_MODULO "unicode (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/listas/arr.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/unicode.h"
 #include <memory>
 

@@ -7,17 +7,10 @@
 namespace {
 
 // std::in_range takes no character types; a plain char is the number that it is.
-template <class T>
-struct entero {
-    using tipo = T;
-};
-template <>
-struct entero<char> {
-    using tipo = signed char;
-};
+template <class T> struct entero { using tipo = T; };
+template <> struct entero<char> { using tipo = signed char; };
 
-template <class A, class De>
-A el_mas_cercano(De valor) {
+template <class A, class De> A el_mas_cercano(De valor) {
     return std::cmp_less(valor, 0) ? std::numeric_limits<A>::min() : std::numeric_limits<A>::max();
 }
 

@@ -1,9 +1,9 @@
 #define VN_MODULO "mt (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/numeros/mt.h"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/suelo/logico_int.h"
 #include "foundation/numeros/vector_int.h"
 #include "foundation/numeros/vnmath.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 
 using namespace vn;
 
@@ -90,8 +90,7 @@ vnbool mt_puntos2D_iguales(double x1, double y1, double x2, double y2) {
 }
 
 vnbool mt_puntos2D_iguales_con_tolerancia(double x1, double y1, double x2, double y2, double tolerancia) {
-    return logico(SON_IGUALES_PREC(x1, x2, tolerancia) == CIERTO &&
-                  SON_IGUALES_PREC(y1, y2, tolerancia) == CIERTO);
+    return logico(SON_IGUALES_PREC(x1, x2, tolerancia) == CIERTO && SON_IGUALES_PREC(y1, y2, tolerancia) == CIERTO);
 }
 
 double mt_angulo(double x1, double y1, double x2, double y2) { return direccion(y2 - y1, x2 - x1); }
@@ -125,27 +124,24 @@ void mt_gira_xy_sentido_horario(double x, double y, double coseno, double seno, 
     *yg = y * coseno - x * seno;
 }
 
-void mt_gira_coords_respecto_a_un_punto(double xc, double yc, double coseno, double seno, double *x,
-                                        double *y) {
+void mt_gira_coords_respecto_a_un_punto(double xc, double yc, double coseno, double seno, double *x, double *y) {
     transformacion{xc, yc, 1., 1., coseno, seno, xc, yc}.aplica(x, y);
 }
 
-void mt_transforma_coords(double escala, double coseno, double seno, double desplaz_x, double desplaz_y,
-                          double *x, double *y) {
+void mt_transforma_coords(double escala, double coseno, double seno, double desplaz_x, double desplaz_y, double *x,
+                          double *y) {
     transformacion{0., 0., escala, escala, coseno, seno, desplaz_x, desplaz_y}.aplica(x, y);
 }
 
-void mt_transforma_coords_con_origen_escala_giro_y_desplazamiento(double x_origen, double y_origen,
-                                                                  double escala, double coseno, double seno,
-                                                                  double desplaz_x, double desplaz_y,
-                                                                  double *x, double *y) {
+void mt_transforma_coords_con_origen_escala_giro_y_desplazamiento(double x_origen, double y_origen, double escala,
+                                                                  double coseno, double seno, double desplaz_x,
+                                                                  double desplaz_y, double *x, double *y) {
     transformacion{x_origen, y_origen, escala, escala, coseno, seno, desplaz_x, desplaz_y}.aplica(x, y);
 }
 
 void mt_transforma_coords_con_origen_y_diferentes_escalas(double x_origen, double y_origen, double escala_x,
-                                                          double escala_y, double coseno, double seno,
-                                                          double desplaz_x, double desplaz_y, double *x,
-                                                          double *y) {
+                                                          double escala_y, double coseno, double seno, double desplaz_x,
+                                                          double desplaz_y, double *x, double *y) {
     transformacion{x_origen, y_origen, escala_x, escala_y, coseno, seno, desplaz_x, desplaz_y}.aplica(x, y);
 }
 

@@ -60,9 +60,9 @@ double mt_angulo_a_partir_de_seno_y_coseno(double seno, double coseno);
     number; one that is not finite gives 0. */
 double mt_filtra_angulo_mayor_que_cero(double angulo);
 /** Whether a direction lies on the arc that runs counter-clockwise from `inicio` to `fin`, whatever turns they carry.
-    Both limits belong to it, with 1e-6 radians to spare: a thousandth of a millimetre for each metre of the radius, 5 mm
-    on an arc of 5 km. A `fin` a full turn or more beyond `inicio`, or whole turns before it, takes every direction; equal
-    limits take that direction alone. */
+    Both limits belong to it, with 1e-6 radians to spare: a thousandth of a millimetre for each metre of the radius, 5
+    mm on an arc of 5 km. A `fin` a full turn or more beyond `inicio`, or whole turns before it, takes every direction;
+    equal limits take that direction alone. */
 vnbool mt_angulo_dentro_de_rango(double angulo, double inicio, double fin);
 
 /* ---------------------------------------------------------------- the plane: transformations of coordinates */
@@ -71,24 +71,20 @@ vnbool mt_angulo_dentro_de_rango(double angulo, double inicio, double fin);
 void mt_gira_xy_sentido_horario(double x, double y, double coseno, double seno, VN_SALIDA double *xg,
                                 VN_SALIDA double *yg);
 /** Turns (*x, *y) counter-clockwise about the centre. */
-void mt_gira_coords_respecto_a_un_punto(double xc, double yc, double coseno, double seno, double *x,
-                                        double *y);
+void mt_gira_coords_respecto_a_un_punto(double xc, double yc, double coseno, double seno, double *x, double *y);
 /** Scales (*x, *y), turns it counter-clockwise and displaces it, in that order. The other forms first take the point as
     it stands from (x_origen, y_origen), which therefore goes to the displacement; the last has a scale for each
     axis. */
-void mt_transforma_coords(double escala, double coseno, double seno, double desplaz_x, double desplaz_y,
-                          double *x, double *y);
-void mt_transforma_coords_con_origen_escala_giro_y_desplazamiento(double x_origen, double y_origen,
-                                                                  double escala, double coseno, double seno,
-                                                                  double desplaz_x, double desplaz_y,
-                                                                  double *x, double *y);
+void mt_transforma_coords(double escala, double coseno, double seno, double desplaz_x, double desplaz_y, double *x,
+                          double *y);
+void mt_transforma_coords_con_origen_escala_giro_y_desplazamiento(double x_origen, double y_origen, double escala,
+                                                                  double coseno, double seno, double desplaz_x,
+                                                                  double desplaz_y, double *x, double *y);
 void mt_transforma_coords_con_origen_y_diferentes_escalas(double x_origen, double y_origen, double escala_x,
-                                                          double escala_y, double coseno, double seno,
-                                                          double desplaz_x, double desplaz_y, double *x,
-                                                          double *y);
+                                                          double escala_y, double coseno, double seno, double desplaz_x,
+                                                          double desplaz_y, double *x, double *y);
 /** Cavalier projection: x' = x + 0.5 y cos 45, y' = z + 0.5 y sin 45, with 45 degrees. */
-void mt_real_a_proyectado(double x, double y, double z, VN_SALIDA double *x_proyectado,
-                          VN_SALIDA double *y_proyectado);
+void mt_real_a_proyectado(double x, double y, double z, VN_SALIDA double *x_proyectado, VN_SALIDA double *y_proyectado);
 /** The point of the plane z = 0 that the cavalier projection takes there. */
 void mt_proyectado_a_real(double x_proyectado, double y_proyectado, VN_SALIDA double *x, VN_SALIDA double *y);
 
@@ -98,18 +94,17 @@ void mt_proyectado_a_real(double x_proyectado, double y_proyectado, VN_SALIDA do
 vnbool mt_punto_pertenece_a_segmento(double x, double y, double x1, double y1, double x2, double y2);
 /** Whether the segments (1, 2) and (3, 4) cross, and where. A crossing up to 1e-6 beyond an end still counts, and lies
     on the line of the first. Parallel segments have none, overlapping ones included: those whose angle has a sine of at
-    most 1e-14, or what the rounding of the coordinates makes of it, 2 x 2^-52 x (largest coordinate) / (shorter length). */
-vnbool mt_existe_interseccion_entre_segmentos(double x1, double y1, double x2, double y2, double x3,
-                                              double y3, double x4, double y4, VN_SALIDA_OPC double *x,
-                                              VN_SALIDA_OPC double *y);
+    most 1e-14, or what the rounding of the coordinates makes of it, 2 x 2^-52 x (largest coordinate) / (shorter
+    length). */
+vnbool mt_existe_interseccion_entre_segmentos(double x1, double y1, double x2, double y2, double x3, double y3,
+                                              double x4, double y4, VN_SALIDA_OPC double *x, VN_SALIDA_OPC double *y);
 /** Cuts two segments with each other and fills the cuts of both. On which side a point lies is decided exactly, without
     a tolerance; a cut at an end has exactly the coordinates of that end. A segment of no length cuts the other where it
     lies inside it and is not cut. */
 void mt_calcula_inter_segmentos(mt_segmento_t *seg1, mt_segmento_t *seg2);
 /** The roots of a x^2 + b x + c = 0: r1 with the plus sign of the formula, r2 with the minus sign, so r1 >= r2 when `a`
     is positive. With a = 0 both get the root of the rest. FALSO when there are no real roots or no equation. */
-vnbool mt_raices_ecuacion_segundo_grado(double a, double b, double c, VN_SALIDA double *r1,
-                                        VN_SALIDA double *r2);
+vnbool mt_raices_ecuacion_segundo_grado(double a, double b, double c, VN_SALIDA double *r1, VN_SALIDA double *r2);
 
 /* ---------------------------------------------------------------- space */
 
@@ -121,29 +116,27 @@ vnbool mt_pasar_a_unitario_3D(double *x, double *y, double *z);
 /** Dot product. */
 double mt_producto_escalar(double x1, double y1, double z1, double x2, double y2, double z2);
 /** Cross product, first by second; each output may be null. */
-void mt_producto_vectorial(double x1, double y1, double z1, double x2, double y2, double z2,
-                           VN_SALIDA_OPC double *x, VN_SALIDA_OPC double *y, VN_SALIDA_OPC double *z);
+void mt_producto_vectorial(double x1, double y1, double z1, double x2, double y2, double z2, VN_SALIDA_OPC double *x,
+                           VN_SALIDA_OPC double *y, VN_SALIDA_OPC double *z);
 /** Cross product of the vectors from the first point to the second and to the third. Its length is twice the area of
     the triangle. */
-void mt_producto_vectorial_3ptos(double x1, double y1, double z1, double x2, double y2, double z2, double x3,
-                                 double y3, double z3, VN_SALIDA_OPC double *x, VN_SALIDA_OPC double *y,
-                                 VN_SALIDA_OPC double *z);
+void mt_producto_vectorial_3ptos(double x1, double y1, double z1, double x2, double y2, double z2, double x3, double y3,
+                                 double z3, VN_SALIDA_OPC double *x, VN_SALIDA_OPC double *y, VN_SALIDA_OPC double *z);
 /** Unit vector from the first point to the second. FALSO when the two are one; the outputs then get zeros. */
 vnbool mt_vector_director_de_dos_puntos_3D(double x1, double y1, double z1, double x2, double y2, double z2,
                                            VN_SALIDA_OPC double *ux, VN_SALIDA_OPC double *uy,
                                            VN_SALIDA_OPC double *uz);
 /** Foot of (x, y, z) on the line; the line's first point where its two points are one. */
-void mt_proyecta_punto_sobre_recta_3D(double x, double y, double z, double x1, double y1, double z1,
-                                      double x2, double y2, double z2, VN_SALIDA_OPC double *xp,
-                                      VN_SALIDA_OPC double *yp, VN_SALIDA_OPC double *zp);
+void mt_proyecta_punto_sobre_recta_3D(double x, double y, double z, double x1, double y1, double z1, double x2,
+                                      double y2, double z2, VN_SALIDA_OPC double *xp, VN_SALIDA_OPC double *yp,
+                                      VN_SALIDA_OPC double *zp);
 /** D of the plane of normal (A, B, C) through (x, y, z). */
 double mt_D_plano_posicionado_en_coordenada(double A, double B, double C, double x, double y, double z);
 /** Whether the line through (x, y, z) with direction (dx, dy, dz), of any length, cuts the plane, and where. It does
     not when the sine of its angle with the plane is at most 1e-6. */
-vnbool mt_existe_interseccion_recta_con_plano(double x, double y, double z, double dx, double dy, double dz,
-                                              double A, double B, double C, double D,
-                                              VN_SALIDA_OPC double *xc, VN_SALIDA_OPC double *yc,
-                                              VN_SALIDA_OPC double *zc);
+vnbool mt_existe_interseccion_recta_con_plano(double x, double y, double z, double dx, double dy, double dz, double A,
+                                              double B, double C, double D, VN_SALIDA_OPC double *xc,
+                                              VN_SALIDA_OPC double *yc, VN_SALIDA_OPC double *zc);
 
 /* ---------------------------------------------------------------- axes
 
@@ -152,10 +145,10 @@ vnbool mt_existe_interseccion_recta_con_plano(double x, double y, double z, doub
 
 /** The arbitrary-axis rule of drawing exchange: the X and Y axes of the plane whose normal is N, of any length. X is Yg
     x N where |Nx| and |Ny| of the unit normal are both below 1/64, Zg x N elsewhere (horizontal then); Y = N x X. */
-vnbool vornmath_calcula_matriz_transformacion_autocad(double nx, double ny, double nz,
-                                                      VN_SALIDA_OPC double *Xx, VN_SALIDA_OPC double *Xy,
-                                                      VN_SALIDA_OPC double *Xz, VN_SALIDA_OPC double *Yx,
-                                                      VN_SALIDA_OPC double *Yy, VN_SALIDA_OPC double *Yz);
+vnbool vornmath_calcula_matriz_transformacion_autocad(double nx, double ny, double nz, VN_SALIDA_OPC double *Xx,
+                                                      VN_SALIDA_OPC double *Xy, VN_SALIDA_OPC double *Xz,
+                                                      VN_SALIDA_OPC double *Yx, VN_SALIDA_OPC double *Yy,
+                                                      VN_SALIDA_OPC double *Yz);
 /** Axes Y and Z of the X axis that is given, of any length: the arbitrary-axis rule with it as the normal, so that Y is
     horizontal and Z points upwards, but for an almost vertical X. */
 vnbool mt_calcular_ejes_segun_vector_x_local(double Xx, double Xy, double Xz, VN_SALIDA_OPC double *Yx,
@@ -164,20 +157,17 @@ vnbool mt_calcular_ejes_segun_vector_x_local(double Xx, double Xy, double Xz, VN
                                              VN_SALIDA_OPC double *Zz);
 /** Axes whose X runs from the first point to the second; Y and Z as in mt_calcular_ejes_segun_vector_x_local. */
 vnbool mt_calcular_ejes_3D_dados_2_puntos(double x1, double y1, double z1, double x2, double y2, double z2,
-                                          VN_SALIDA_OPC double *Xx, VN_SALIDA_OPC double *Xy,
-                                          VN_SALIDA_OPC double *Xz, VN_SALIDA_OPC double *Yx,
-                                          VN_SALIDA_OPC double *Yy, VN_SALIDA_OPC double *Yz,
-                                          VN_SALIDA_OPC double *Zx, VN_SALIDA_OPC double *Zy,
-                                          VN_SALIDA_OPC double *Zz);
+                                          VN_SALIDA_OPC double *Xx, VN_SALIDA_OPC double *Xy, VN_SALIDA_OPC double *Xz,
+                                          VN_SALIDA_OPC double *Yx, VN_SALIDA_OPC double *Yy, VN_SALIDA_OPC double *Yz,
+                                          VN_SALIDA_OPC double *Zx, VN_SALIDA_OPC double *Zy, VN_SALIDA_OPC double *Zz);
 /** Axes whose X runs from the first point to the second and whose Y lies in the plane of the three, on the side of the
     third. FALSO when the three are on a line: the sine of the angle at the first is at most what
     mt_existe_interseccion_entre_segmentos takes for parallel. */
-vnbool mt_calcular_ejes_3D_dados_3_puntos(double x1, double y1, double z1, double x2, double y2, double z2,
-                                          double x3, double y3, double z3, VN_SALIDA_OPC double *Xx,
-                                          VN_SALIDA_OPC double *Xy, VN_SALIDA_OPC double *Xz,
-                                          VN_SALIDA_OPC double *Yx, VN_SALIDA_OPC double *Yy,
-                                          VN_SALIDA_OPC double *Yz, VN_SALIDA_OPC double *Zx,
-                                          VN_SALIDA_OPC double *Zy, VN_SALIDA_OPC double *Zz);
+vnbool mt_calcular_ejes_3D_dados_3_puntos(double x1, double y1, double z1, double x2, double y2, double z2, double x3,
+                                          double y3, double z3, VN_SALIDA_OPC double *Xx, VN_SALIDA_OPC double *Xy,
+                                          VN_SALIDA_OPC double *Xz, VN_SALIDA_OPC double *Yx, VN_SALIDA_OPC double *Yy,
+                                          VN_SALIDA_OPC double *Yz, VN_SALIDA_OPC double *Zx, VN_SALIDA_OPC double *Zy,
+                                          VN_SALIDA_OPC double *Zz);
 
 VN_C_FIN
 

@@ -1,8 +1,8 @@
 #define VN_MODULO "mt (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/suelo/logico_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vector_int.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <array>
 #include <limits>
 
@@ -96,8 +96,7 @@ void corta(mt_segmento_t &s, Punto3D p) {
 // The ends of the other that lie inside the segment, both on one line, in the order of the segment.
 void corta_solape(mt_segmento_t &s, extremos otro) {
     const extremos e = de(s);
-    if ((e.b.x != e.a.x ? (otro.b.x < otro.a.x) != (e.b.x < e.a.x)
-                        : (otro.b.y < otro.a.y) != (e.b.y < e.a.y)))
+    if ((e.b.x != e.a.x ? (otro.b.x < otro.a.x) != (e.b.x < e.a.x) : (otro.b.y < otro.a.y) != (e.b.y < e.a.y)))
         std::swap(otro.a, otro.b);
     if (estrictamente_entre(e.a, e.b, otro.a)) corta(s, otro.a);
     const bool distintos = otro.a.x != otro.b.x || otro.a.y != otro.b.y;
@@ -122,8 +121,9 @@ double escala_comun(const mt_segmento_t &s1, const mt_segmento_t &s2) {
     return m < 1e-100 ? 0x1p+500 : 1.;
 }
 
-// The root of b^2 - 4 a c, `a` not 0; not a number where that is negative. The products are of factors of at most about 1,
-// those of a c of one size, so that neither overflows or vanishes where it counts, and keep the digits that they would lose.
+// The root of b^2 - 4 a c, `a` not 0; not a number where that is negative. The products are of factors of at most about
+// 1, those of a c of one size, so that neither overflows or vanishes where it counts, and keep the digits that they
+// would lose.
 double raiz_del_discriminante(double a, double b, double c) {
     if (!std::isfinite(a) || !std::isfinite(b) || !std::isfinite(c)) return std::numeric_limits<double>::quiet_NaN();
     const int ea = std::ilogb(a), ec = c == 0. ? ea : std::ilogb(c), e = (ec - ea) / 2;
@@ -146,8 +146,8 @@ vnbool mt_punto_pertenece_a_segmento(double x, double y, double x1, double y1, d
     return logico(std::fabs(p.y * u.x - p.x * u.y) <= TOLERANCIA_PERTENECE);
 }
 
-vnbool mt_existe_interseccion_entre_segmentos(double x1, double y1, double x2, double y2, double x3,
-                                              double y3, double x4, double y4, double *x, double *y) {
+vnbool mt_existe_interseccion_entre_segmentos(double x1, double y1, double x2, double y2, double x3, double y3,
+                                              double x4, double y4, double *x, double *y) {
     Punto3D u{x2 - x1, y2 - y1, 0.}, v{x4 - x3, y4 - y3, 0.};
     const double lu = modulo(u), lv = modulo(v);
     if (!unitario(u) || !unitario(v)) return FALSO;
@@ -172,8 +172,7 @@ void mt_calcula_inter_segmentos(mt_segmento_t *seg1, mt_segmento_t *seg2) {
     const double k = escala_comun(*seg1, *seg2);
     if (k == 0.) return;
     const extremos p = de(*seg1, k), q = de(*seg2, k);
-    const double qa = lado(p.a, p.b, q.a), qb = lado(p.a, p.b, q.b), pa = lado(q.a, q.b, p.a),
-                 pb = lado(q.a, q.b, p.b);
+    const double qa = lado(p.a, p.b, q.a), qb = lado(p.a, p.b, q.b), pa = lado(q.a, q.b, p.a), pb = lado(q.a, q.b, p.b);
     if (qa == 0. && qb == 0. && pa == 0. && pb == 0.) {
         const extremos uno = de(*seg1), otro = de(*seg2);
         corta_solape(*seg1, otro);
@@ -184,8 +183,7 @@ void mt_calcula_inter_segmentos(mt_segmento_t *seg1, mt_segmento_t *seg2) {
     const bool lados_de_q = (pa < 0. && pb > 0.) || (pa > 0. && pb < 0.);
     if (lados_de_p && lados_de_q) {
         // Two almost parallel segments have lost most digits of these by now.
-        const double inicio = lado(q.a, q.b, p.a, true), fin = lado(q.a, q.b, p.b, true),
-                     t = inicio / (inicio - fin);
+        const double inicio = lado(q.a, q.b, p.a, true), fin = lado(q.a, q.b, p.b, true), t = inicio / (inicio - fin);
         const extremos e = de(*seg1);
         const Punto3D c = dentro(dentro(e.a + t * (e.b - e.a), e), de(*seg2));
         corta(*seg1, c);
@@ -193,14 +191,10 @@ void mt_calcula_inter_segmentos(mt_segmento_t *seg1, mt_segmento_t *seg2) {
         return;
     }
     // An end of one on the other. Both segments cannot be cut by ends here, for they are not on one line.
-    if (qa == 0. && estrictamente_entre(p.a, p.b, q.a))
-        corta(*seg1, {seg2->x1, seg2->y1, 0.});
-    else if (qb == 0. && estrictamente_entre(p.a, p.b, q.b))
-        corta(*seg1, {seg2->x2, seg2->y2, 0.});
-    else if (pa == 0. && estrictamente_entre(q.a, q.b, p.a))
-        corta(*seg2, {seg1->x1, seg1->y1, 0.});
-    else if (pb == 0. && estrictamente_entre(q.a, q.b, p.b))
-        corta(*seg2, {seg1->x2, seg1->y2, 0.});
+    if (qa == 0. && estrictamente_entre(p.a, p.b, q.a)) corta(*seg1, {seg2->x1, seg2->y1, 0.});
+    else if (qb == 0. && estrictamente_entre(p.a, p.b, q.b)) corta(*seg1, {seg2->x2, seg2->y2, 0.});
+    else if (pa == 0. && estrictamente_entre(q.a, q.b, p.a)) corta(*seg2, {seg1->x1, seg1->y1, 0.});
+    else if (pb == 0. && estrictamente_entre(q.a, q.b, p.b)) corta(*seg2, {seg1->x2, seg1->y2, 0.});
 }
 
 vnbool mt_raices_ecuacion_segundo_grado(double a, double b, double c, double *r1, double *r2) {

@@ -1,8 +1,8 @@
 #define VN_MODULO "mt (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/suelo/logico_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vector_int.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 
 using namespace vn;
 
@@ -71,27 +71,27 @@ double mt_producto_escalar(double x1, double y1, double z1, double x2, double y2
     return escalar({x1, y1, z1}, {x2, y2, z2});
 }
 
-void mt_producto_vectorial(double x1, double y1, double z1, double x2, double y2, double z2, double *x,
-                           double *y, double *z) {
+void mt_producto_vectorial(double x1, double y1, double z1, double x2, double y2, double z2, double *x, double *y,
+                           double *z) {
     da(x, y, z, vectorial({x1, y1, z1}, {x2, y2, z2}));
 }
 
-void mt_producto_vectorial_3ptos(double x1, double y1, double z1, double x2, double y2, double z2, double x3,
-                                 double y3, double z3, double *x, double *y, double *z) {
+void mt_producto_vectorial_3ptos(double x1, double y1, double z1, double x2, double y2, double z2, double x3, double y3,
+                                 double z3, double *x, double *y, double *z) {
     const Punto3D p{x1, y1, z1};
     da(x, y, z, vectorial(Punto3D{x2, y2, z2} - p, Punto3D{x3, y3, z3} - p));
 }
 
-vnbool mt_vector_director_de_dos_puntos_3D(double x1, double y1, double z1, double x2, double y2, double z2,
-                                           double *ux, double *uy, double *uz) {
+vnbool mt_vector_director_de_dos_puntos_3D(double x1, double y1, double z1, double x2, double y2, double z2, double *ux,
+                                           double *uy, double *uz) {
     Punto3D u{x2 - x1, y2 - y1, z2 - z1};
     const bool hay = unitario(u);
     da(ux, uy, uz, hay ? u : Punto3D{});
     return logico(hay);
 }
 
-void mt_proyecta_punto_sobre_recta_3D(double x, double y, double z, double x1, double y1, double z1,
-                                      double x2, double y2, double z2, double *xp, double *yp, double *zp) {
+void mt_proyecta_punto_sobre_recta_3D(double x, double y, double z, double x1, double y1, double z1, double x2,
+                                      double y2, double z2, double *xp, double *yp, double *zp) {
     const Punto3D o{x1, y1, z1}, p = Punto3D{x, y, z} - o;
     Punto3D u = Punto3D{x2, y2, z2} - o;
     da(xp, yp, zp, unitario(u) ? o + escalar(p, u) * u : o);
@@ -101,9 +101,8 @@ double mt_D_plano_posicionado_en_coordenada(double A, double B, double C, double
     return -escalar({A, B, C}, {x, y, z});
 }
 
-vnbool mt_existe_interseccion_recta_con_plano(double x, double y, double z, double dx, double dy, double dz,
-                                              double A, double B, double C, double D, double *xc, double *yc,
-                                              double *zc) {
+vnbool mt_existe_interseccion_recta_con_plano(double x, double y, double z, double dx, double dy, double dz, double A,
+                                              double B, double C, double D, double *xc, double *yc, double *zc) {
     Punto3D u{dx, dy, dz}, n{A, B, C};
     const double l = modulo(n);
     if (!unitario(u) || !unitario(n)) return FALSO;
@@ -125,8 +124,8 @@ vnbool vornmath_calcula_matriz_transformacion_autocad(double nx, double ny, doub
     return logico(hay);
 }
 
-vnbool mt_calcular_ejes_segun_vector_x_local(double Xx, double Xy, double Xz, double *Yx, double *Yy,
-                                             double *Yz, double *Zx, double *Zy, double *Zz) {
+vnbool mt_calcular_ejes_segun_vector_x_local(double Xx, double Xy, double Xz, double *Yx, double *Yy, double *Yz,
+                                             double *Zx, double *Zy, double *Zz) {
     ejes e;
     const bool hay = de_eje_x({Xx, Xy, Xz}, e);
     da(Yx, Yy, Yz, e.y);
@@ -134,9 +133,9 @@ vnbool mt_calcular_ejes_segun_vector_x_local(double Xx, double Xy, double Xz, do
     return logico(hay);
 }
 
-vnbool mt_calcular_ejes_3D_dados_2_puntos(double x1, double y1, double z1, double x2, double y2, double z2,
-                                          double *Xx, double *Xy, double *Xz, double *Yx, double *Yy,
-                                          double *Yz, double *Zx, double *Zy, double *Zz) {
+vnbool mt_calcular_ejes_3D_dados_2_puntos(double x1, double y1, double z1, double x2, double y2, double z2, double *Xx,
+                                          double *Xy, double *Xz, double *Yx, double *Yy, double *Yz, double *Zx,
+                                          double *Zy, double *Zz) {
     ejes e;
     const bool hay = de_eje_x({x2 - x1, y2 - y1, z2 - z1}, e);
     da(Xx, Xy, Xz, e.x);
@@ -145,10 +144,9 @@ vnbool mt_calcular_ejes_3D_dados_2_puntos(double x1, double y1, double z1, doubl
     return logico(hay);
 }
 
-vnbool mt_calcular_ejes_3D_dados_3_puntos(double x1, double y1, double z1, double x2, double y2, double z2,
-                                          double x3, double y3, double z3, double *Xx, double *Xy, double *Xz,
-                                          double *Yx, double *Yy, double *Yz, double *Zx, double *Zy,
-                                          double *Zz) {
+vnbool mt_calcular_ejes_3D_dados_3_puntos(double x1, double y1, double z1, double x2, double y2, double z2, double x3,
+                                          double y3, double z3, double *Xx, double *Xy, double *Xz, double *Yx,
+                                          double *Yy, double *Yz, double *Zx, double *Zy, double *Zz) {
     ejes e;
     const bool hay = de_tres_puntos({x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3}, e);
     da(Xx, Xy, Xz, e.x);

@@ -42,8 +42,7 @@ dueno crea(uint32_t filas, uint32_t columnas) {
     dueno m(static_cast<vmatr *>(vornspy_calloc(1, sizeof(vmatr))));
     m->filas = filas;
     m->columnas = columnas;
-    m->datos = static_cast<double *>(
-        vornspy_reserva_seguro(size_t{filas} * columnas, sizeof(double), CIERTO, VN_AQUI));
+    m->datos = static_cast<double *>(vornspy_reserva_seguro(size_t{filas} * columnas, sizeof(double), CIERTO, VN_AQUI));
     if (!AFIRMA_TEXTO(m->datos != nullptr, "memoria != NULL")) return nullptr;
     return m;
 }
@@ -57,8 +56,7 @@ double *coeficiente(const vmatr *m, uint32_t i, uint32_t j) {
 
 // The change of a point of the plane or of space, or of its homogeneous form, has a size that the compiler
 // knows: each result is built in registers, with no more than one pass over the points.
-template <int N>
-void producto_fijo(const vmatr *cambio, bool traspuesta, const vmatr *columnas, double *destino) {
+template <int N> void producto_fijo(const vmatr *cambio, bool traspuesta, const vmatr *columnas, double *destino) {
     using cuadrada = Eigen::Matrix<double, N, N>;
     const cuadrada dado = Eigen::Map<const cuadrada>(cambio->datos);
     const cuadrada a = traspuesta ? cuadrada(dado.transpose()) : dado;
@@ -72,25 +70,18 @@ void multiplica(const vmatr *cambio, bool traspuesta, const vmatr *columnas, vma
     if (cambio->filas == cambio->columnas && cambio->filas >= 2 && cambio->filas <= 4) {
         // A column is read before its result is written, and the change is a copy: any of the three may be
         // one.
-        if (cambio->filas == 4)
-            producto_fijo<4>(cambio, traspuesta, columnas, r->datos);
-        else if (cambio->filas == 3)
-            producto_fijo<3>(cambio, traspuesta, columnas, r->datos);
-        else
-            producto_fijo<2>(cambio, traspuesta, columnas, r->datos);
+        if (cambio->filas == 4) producto_fijo<4>(cambio, traspuesta, columnas, r->datos);
+        else if (cambio->filas == 3) producto_fijo<3>(cambio, traspuesta, columnas, r->datos);
+        else producto_fijo<2>(cambio, traspuesta, columnas, r->datos);
         return;
     }
     vista destino(r->datos, r->filas, r->columnas);
     // Through a matrix of its own unless `resultado` is neither of the two.
     const bool aparte = r != cambio && r != columnas;
-    if (traspuesta && aparte)
-        destino.noalias() = ve(cambio).transpose() * ve(columnas);
-    else if (traspuesta)
-        destino = matriz(ve(cambio).transpose() * ve(columnas));
-    else if (aparte)
-        destino.noalias() = ve(cambio) * ve(columnas);
-    else
-        destino = matriz(ve(cambio) * ve(columnas));
+    if (traspuesta && aparte) destino.noalias() = ve(cambio).transpose() * ve(columnas);
+    else if (traspuesta) destino = matriz(ve(cambio).transpose() * ve(columnas));
+    else if (aparte) destino.noalias() = ve(cambio) * ve(columnas);
+    else destino = matriz(ve(cambio) * ve(columnas));
 }
 
 void sobre_buffer(const vmatr *cambio, bool traspuesta, const vmatr *columnas, vmatr *resultado) {
@@ -142,8 +133,7 @@ void vmatr_set_coef_matriz(vmatr *m, uint32_t i, uint32_t j, double v) {
 double *vmatr_get_buffer_matriz(vmatr *m) { return AFIRMA_NO_NULO(m) ? m->datos : nullptr; }
 
 vmatr *vmatr_matriz_inversa(const vmatr *m) {
-    if (!AFIRMA_NO_NULO(m) || !AFIRMA_TEXTO(m->filas == m->columnas, "num_filas == num_columnas"))
-        return nullptr;
+    if (!AFIRMA_NO_NULO(m) || !AFIRMA_TEXTO(m->filas == m->columnas, "num_filas == num_columnas")) return nullptr;
     if (!AFIRMA_TEXTO(ve(m).allFinite(), "es_matriz_regular == CIERTO")) return nullptr;
     // Rows and columns of one size first, so that what counts as zero is the same in all. The inverse of R M
     // C is C^-1 M^-1 R^-1.
@@ -155,7 +145,8 @@ vmatr *vmatr_matriz_inversa(const vmatr *m) {
     if (!AFIRMA_TEXTO(lu.isInvertible(), "es_matriz_regular == CIERTO")) return nullptr;
     dueno r = crea(m->filas, m->columnas);
     if (r == nullptr) return nullptr;
-    // The scales of a rotation with a far origin leave its rows almost alike; a step of Newton's brings the digits back.
+    // The scales of a rotation with a far origin leave its rows almost alike; a step of Newton's brings the digits
+    // back.
     const matriz x = lu.inverse(), resto = matriz::Identity(a.rows(), a.cols()) - a * x;
     vista(r->datos, r->filas, r->columnas) = columnas.asDiagonal() * (x + x * resto) * filas.asDiagonal();
     return r.release();
@@ -170,12 +161,10 @@ vmatr *vmatr_producto_cambio_x_columnas(const vmatr *cambio, const vmatr *column
     return r.release();
 }
 
-void vmatr_producto_sobre_buffer_cambio_x_columnas(const vmatr *cambio, const vmatr *columnas,
-                                                   vmatr *resultado) {
+void vmatr_producto_sobre_buffer_cambio_x_columnas(const vmatr *cambio, const vmatr *columnas, vmatr *resultado) {
     sobre_buffer(cambio, false, columnas, resultado);
 }
 
-void vmatr_producto_sobre_buffer_cambio_trasp_x_columnas(const vmatr *cambio, const vmatr *columnas,
-                                                         vmatr *resultado) {
+void vmatr_producto_sobre_buffer_cambio_trasp_x_columnas(const vmatr *cambio, const vmatr *columnas, vmatr *resultado) {
     sobre_buffer(cambio, true, columnas, resultado);
 }

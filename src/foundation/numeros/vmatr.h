@@ -13,8 +13,7 @@ VN_C_INICIO
 
 /** New matrix of zeros. At most 134,217,728 coefficients; more, or none, is reported and gives null, and so
    is a matrix that there is no memory for. */
-vmatr *vmatr_crea_matriz_nula(VN_RANGO(1, 134217728) uint32_t filas,
-                              VN_RANGO(1, 134217728) uint32_t columnas);
+vmatr *vmatr_crea_matriz_nula(VN_RANGO(1, 134217728) uint32_t filas, VN_RANGO(1, 134217728) uint32_t columnas);
 /** New identity matrix of `n` rows and columns. */
 vmatr *vmatr_crea_matriz_identidad(VN_RANGO(1, 11585) uint32_t n);
 /** Frees the matrix and leaves `*m` null. */
@@ -38,11 +37,9 @@ vmatr *vmatr_matriz_inversa(const vmatr *m);
 vmatr *vmatr_producto_cambio_x_columnas(const vmatr *cambio, const vmatr *columnas);
 /** The same product into `resultado`, which has the rows of the first and the columns of the second and keeps
    nothing of what it had. It may be one of the two. Other sizes are reported and leave it as it was. */
-void vmatr_producto_sobre_buffer_cambio_x_columnas(const vmatr *cambio, const vmatr *columnas,
-                                                   vmatr *resultado);
+void vmatr_producto_sobre_buffer_cambio_x_columnas(const vmatr *cambio, const vmatr *columnas, vmatr *resultado);
 /** As vmatr_producto_sobre_buffer_cambio_x_columnas with the first matrix transposed: a rotation undone. */
-void vmatr_producto_sobre_buffer_cambio_trasp_x_columnas(const vmatr *cambio, const vmatr *columnas,
-                                                         vmatr *resultado);
+void vmatr_producto_sobre_buffer_cambio_trasp_x_columnas(const vmatr *cambio, const vmatr *columnas, vmatr *resultado);
 
 VN_C_FIN
 

@@ -1,7 +1,7 @@
 #define VN_MODULO "vncopro (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/numeros/vncopro.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/platform/coma_flotante.h"
+#include "foundation/suelo/afirma_int.h"
 #include <cstring>
 
 void vncopro_filtra_double_con_posible_error(double *x, vnbool *es_incorrecto, vnbool *es_denormal) {

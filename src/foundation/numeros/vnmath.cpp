@@ -30,27 +30,25 @@ bool mayor_igual(double a, double b, double t) { return a == b || a - b >= -t; }
 
 double tolerancia_buena(double tolerancia) { return AFIRMA(tolerancia >= 0.) ? tolerancia : 0.; }
 
-template <class Entero>
-Entero redondea_a(double x) {
+template <class Entero> Entero redondea_a(double x) {
     const double r = redondeado(x);
     constexpr double minimo = std::numeric_limits<Entero>::min(), maximo = std::numeric_limits<Entero>::max();
-    const bool cabe = std::is_signed_v<Entero> ? AFIRMA_TEXTO(r >= minimo && r <= maximo, "x >= LONG_MIN && x <= LONG_MAX")
-                                               : AFIRMA_TEXTO(r >= minimo && r <= maximo, "x >= 0. && x <= ULONG_MAX");
+    const bool cabe = std::is_signed_v<Entero>
+                          ? AFIRMA_TEXTO(r >= minimo && r <= maximo, "x >= LONG_MIN && x <= LONG_MAX")
+                          : AFIRMA_TEXTO(r >= minimo && r <= maximo, "x >= 0. && x <= ULONG_MAX");
     if (cabe) return static_cast<Entero>(r);
     if (std::isnan(r)) return 0;
     return r < minimo ? std::numeric_limits<Entero>::min() : std::numeric_limits<Entero>::max();
 }
 
-template <class F>
-double redondea_al_paso(double x, double paso, F &&entero) {
+template <class F> double redondea_al_paso(double x, double paso, F &&entero) {
     if (!AFIRMA(paso > 0.)) return x;
     const double resultado = entero(x / paso) * paso;
     return std::isfinite(resultado) ? resultado : x;
 }
 
 // The whole number that `q` is to within the tolerance, or else what `f` makes of it.
-template <class F>
-double entero_perdonando(double q, F &&f) {
+template <class F> double entero_perdonando(double q, F &&f) {
     const double cercano = redondeado(q);
     return std::fabs(q - cercano) <= TOLERANCIA_COCIENTE ? cercano : f(q);
 }
@@ -102,11 +100,13 @@ double prec_redondea_decimales(double x, double paso) {
 }
 
 double prec_redondea_decimales_por_defecto(double x, double paso) {
-    return redondea_al_paso(x, paso, [](double q) { return entero_perdonando(q, [](double r) { return std::floor(r); }); });
+    return redondea_al_paso(x, paso,
+                            [](double q) { return entero_perdonando(q, [](double r) { return std::floor(r); }); });
 }
 
 double prec_redondea_decimales_por_exceso(double x, double paso) {
-    return redondea_al_paso(x, paso, [](double q) { return entero_perdonando(q, [](double r) { return std::ceil(r); }); });
+    return redondea_al_paso(x, paso,
+                            [](double q) { return entero_perdonando(q, [](double r) { return std::ceil(r); }); });
 }
 
 double prec_redondea_numero_decimales(double x, uint32_t decimales) {

@@ -23,8 +23,8 @@ class guarda_error {
     unsigned long ultimo_;
 };
 
-// Keeps the library that an address lies in, if it lies in one, in memory until the process ends: what was registered for
-// that moment can then still be called.
+// Keeps the library that an address lies in, if it lies in one, in memory until the process ends: what was registered
+// for that moment can then still be called.
 void fija_en_memoria(const void *direccion);
 
 } // namespace vn::plat

@@ -49,7 +49,8 @@ class recorrido {
 };
 
 // A directory and those below it, one step down or up at a time. The walk enters no link and stays where it is whatever
-// becomes of the names that led there; it holds no more of the system's records the deeper it goes, where that is bounded.
+// becomes of the names that led there; it holds no more of the system's records the deeper it goes, where that is
+// bounded.
 class descenso {
   public:
     explicit descenso(const texto &raiz);

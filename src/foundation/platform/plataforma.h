@@ -26,7 +26,9 @@ typedef char16_t vnwchar;
 /* Brackets the exported operations of a header: C linkage, visible outside the library. */
 #ifdef __cplusplus
 #define VN_C_INICIO VN_VISIBLE_INICIO extern "C" {
-#define VN_C_FIN } VN_VISIBLE_FIN
+#define VN_C_FIN                                                                                                       \
+    }                                                                                                                  \
+    VN_VISIBLE_FIN
 #else
 #define VN_C_INICIO VN_VISIBLE_INICIO
 #define VN_C_FIN VN_VISIBLE_FIN

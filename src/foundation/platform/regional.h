@@ -14,16 +14,16 @@ struct region {
     texto separador_campos, separador_decimal, separador_millares, separador_fechas, separador_horas;
     texto fecha_corta, fecha_larga, hora; // pictures
     texto orden_fecha, modo_horario;      // a digit each
-    texto agrupacion;                                 // digits of the groups from the right, "3;0": the last again and again
+    texto agrupacion;                     // digits of the groups from the right, "3;0": the last again and again
     texto signo_menos, antes_de_mediodia, despues_de_mediodia, era;
-    texto decimales, cero_inicial, forma_negativa;    // a digit each; the form as Windows numbers them
-    std::array<texto, 7> dias, dias_abreviados;       // from Sunday
-    std::array<texto, 7> dias_en_fecha, dias_abreviados_en_fecha; // in a picture
+    texto decimales, cero_inicial, forma_negativa;                 // a digit each; the form as Windows numbers them
+    std::array<texto, 7> dias, dias_abreviados;                    // from Sunday
+    std::array<texto, 7> dias_en_fecha, dias_abreviados_en_fecha;  // in a picture
     std::array<texto, 12> meses, meses_abreviados, meses_en_fecha; // the last beside a day of the month
 };
 
-// What the user's settings come from, where that can be told for less than it takes to read them: the same text, the same
-// settings. Empty where it cannot.
+// What the user's settings come from, where that can be told for less than it takes to read them: the same text, the
+// same settings. Empty where it cannot.
 std::string origen_de_la_region();
 // The user's settings or, of a name as "es-ES", those of that region; false for a name that the platform does not know.
 bool lee_region(const char *nombre, region &r);

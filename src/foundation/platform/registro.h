@@ -11,7 +11,8 @@ bool lee_registro(uint32_t raiz, const texto &clave, const texto &valor, texto &
 bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto> &nombres);
 bool hay_clave_de_registro(uint32_t raiz, const texto &clave);
 // By name and text.
-bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t que_vista, std::vector<std::pair<texto, texto>> &textos);
+bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t que_vista,
+                        std::vector<std::pair<texto, texto>> &textos);
 // Null takes the value away. False when it cannot be done.
 bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, const vnwchar *contenido);
 bool puede_escribir_registro(uint32_t raiz);

@@ -1,11 +1,11 @@
 #define VN_MODULO "avisos (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/sistema/avisos.h"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/sistema/entorno.h"
-#include "foundation/suelo/error_interno_int.h"
-#include "foundation/sistema/lastwin.h"
-#include "foundation/suelo/par_atomico_int.h"
 #include "foundation/platform/cuadro.h"
+#include "foundation/sistema/entorno.h"
+#include "foundation/sistema/lastwin.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/error_interno_int.h"
+#include "foundation/suelo/par_atomico_int.h"
 
 namespace {
 
@@ -38,6 +38,4 @@ vnbool avisobas_pregunta_u(const vnwchar *texto) {
     return da(VN_AVISO_PREGUNTA, texto) == CIERTO ? CIERTO : FALSO;
 }
 
-void avisos_instala_receptor(vnreceptor_avisos receptor, void *datos) {
-    el_receptor.pon(receptor, datos);
-}
+void avisos_instala_receptor(vnreceptor_avisos receptor, void *datos) { el_receptor.pon(receptor, datos); }

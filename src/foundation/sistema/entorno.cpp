@@ -1,9 +1,9 @@
 #define VN_MODULO "entorno (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/sistema/entorno.h"
-#include "foundation/suelo/logico_int.h"
+#include "foundation/ficheros/vdir_int.h"
 #include "foundation/platform/maquina.h"
 #include "foundation/platform/variables.h"
-#include "foundation/ficheros/vdir_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <cstdlib>
 
 using vn::logico;

@@ -1,9 +1,9 @@
 #define VN_MODULO "fichconf (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/sistema/fichconf.h"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/suelo/eterno_int.h"
 #include "foundation/ficheros/vdir.h"
 #include "foundation/ficheros/vdir_int.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/eterno_int.h"
 #include <mutex>
 
 using vn::texto;
@@ -69,8 +69,6 @@ void fichconf_registra_nombre_distribuidor_no_vorn(const vnwchar *nombre) {
 void fichconf_establece_directorio_base(const vnwchar *ruta) {
     auto &e = vn::eterno<elegido>();
     const std::lock_guard guarda(e.cerrojo);
-    if (ruta != nullptr)
-        e.base = vn::con_separadores_propios(ruta);
-    else
-        e.base.reset();
+    if (ruta != nullptr) e.base = vn::con_separadores_propios(ruta);
+    else e.base.reset();
 }

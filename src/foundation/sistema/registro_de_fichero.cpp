@@ -1,17 +1,17 @@
 #define VN_MODULO "vornreg (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/ficheros/lc_fichero.h"
+#include "foundation/ficheros/temporal_int.h"
+#include "foundation/ficheros/vdir.h"
+#include "foundation/platform/maquina.h"
 #include "foundation/platform/registro.h"
 #include "foundation/sistema/fichconf.h"
-#include "foundation/ficheros/lc_fichero.h"
-#include "foundation/suelo/operaciones_fichero_int.h"
-#include "foundation/platform/maquina.h"
-#include "foundation/suelo/propio_int.h"
-#include "foundation/ficheros/temporal_int.h"
-#include "foundation/suelo/trapable.h"
-#include "foundation/texto/numero_int.h"
-#include "foundation/suelo/utf_int.h"
-#include "foundation/ficheros/vdir.h"
 #include "foundation/sistema/vnmutex.h"
 #include "foundation/sistema/vornreg.h"
+#include "foundation/suelo/operaciones_fichero_int.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/suelo/trapable.h"
+#include "foundation/suelo/utf_int.h"
+#include "foundation/texto/numero_int.h"
 #include "foundation/texto/widestr.h"
 #include <map>
 #include <memory>
@@ -187,7 +187,8 @@ bool carga(const vnwchar *ruta, std::string &datos) {
     if (e == VN_FICH_NO_EXISTE) return true;
     if (e != VN_FICH_BIEN || estado.es_normal != CIERTO || estado.tamanyo > MAXIMO) return false;
     vnid_fichero id = VN_FICHERO_NINGUNO;
-    if (con_paciencia(UNA_DECIMA, [&] { return operaciones().abre(ruta, VN_ABRE_LECTURA, &id); }) != VN_FICH_BIEN) return false;
+    if (con_paciencia(UNA_DECIMA, [&] { return operaciones().abre(ruta, VN_ABRE_LECTURA, &id); }) != VN_FICH_BIEN)
+        return false;
     datos.resize(static_cast<size_t>(estado.tamanyo));
     size_t leidos = 0;
     const bool bien = lee_todo(id, 0, datos.data(), datos.size(), &leidos) == VN_FICH_BIEN;
@@ -242,7 +243,8 @@ bool es_clave(const texto &clave) {
 
 // Whether `otra` lies under `clave`.
 bool esta_debajo(const texto &clave, const texto &otra) {
-    return otra.size() > clave.size() && otra[clave.size()] == u'\\' && sin_caja().iguales(otra.substr(0, clave.size()), clave);
+    return otra.size() > clave.size() && otra[clave.size()] == u'\\' &&
+           sin_caja().iguales(otra.substr(0, clave.size()), clave);
 }
 
 } // namespace
@@ -264,7 +266,9 @@ bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto>
     for (const auto &[otra, suyos] : todas_las_claves()) {
         const bool debajo = esta_debajo(entera, otra);
         hay = hay || debajo || sin_caja().iguales(otra, entera);
-        if (debajo) vistos.emplace(otra.substr(entera.size() + 1, otra.find(u'\\', entera.size() + 1) - entera.size() - 1), true);
+        if (debajo)
+            vistos.emplace(otra.substr(entera.size() + 1, otra.find(u'\\', entera.size() + 1) - entera.size() - 1),
+                           true);
     }
     for (const auto &[nombre, visto] : vistos) nombres.push_back(nombre);
     return hay;
@@ -296,7 +300,8 @@ bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, con
     const bool esta = suya != todas.end() && suya->second.contains(valor);
     if (contenido == nullptr && !esta) return true;
     grabacion g{ruta.get(), con_valor(datos, entera, valor, contenido, esta), false};
-    return g.datos.size() <= MAXIMO && trapable_ejecuta_funcion_segura(grabacion, graba, &g, nullptr) == CIERTO && g.hecha;
+    return g.datos.size() <= MAXIMO && trapable_ejecuta_funcion_segura(grabacion, graba, &g, nullptr) == CIERTO &&
+           g.hecha;
 }
 
 bool puede_escribir_registro(uint32_t) {

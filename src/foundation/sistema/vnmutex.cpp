@@ -1,9 +1,9 @@
 #define VN_MODULO "vnmutex (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/sistema/vnmutex.h"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/sistema/avisos.h"
-#include "foundation/suelo/eterno_int.h"
 #include "foundation/platform/cerrojo.h"
+#include "foundation/sistema/avisos.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/eterno_int.h"
 #include "foundation/suelo/vornspy.h"
 #include <atomic>
 #include <chrono>
@@ -98,10 +98,8 @@ std::string nombre_sencillo(const std::string &nombre) {
         const auto b = static_cast<unsigned char>(c);
         resumen = (resumen ^ b) * 0x100000001b3u;
         const auto letra = static_cast<unsigned char>(b | 32);
-        if ((letra >= 'a' && letra <= 'z') || (b >= '0' && b <= '9') || b == '_' || b == '-')
-            r += c;
-        else
-            ((r += '%') += CIFRAS[b >> 4]) += CIFRAS[b & 15];
+        if ((letra >= 'a' && letra <= 'z') || (b >= '0' && b <= '9') || b == '_' || b == '-') r += c;
+        else ((r += '%') += CIFRAS[b >> 4]) += CIFRAS[b & 15];
     }
     if (r.size() <= MAXIMO) return r;
     r.resize(MAXIMO);

@@ -4,8 +4,8 @@
    mutexes of the same name and kind are the same lock, so each user may make its own and destroy it when
    done; what was entered through one is left through the same. Who waits enters in the order in which it came, be it a
    thread or a program. No wait is for ever: past the time allowed, entering answers FALSO. A program that dies inside
-   frees what it held, and the next one enters; a thread that ends inside keeps it as long as its program runs. A process
-   that splits (fork) keeps what it holds, and its child has entered nothing.
+   frees what it held, and the next one enters; a thread that ends inside keeps it as long as its program runs. A
+   process that splits (fork) keeps what it holds, and its child has entered nothing.
 
    Threads: every operation may be called from any thread; nobody uses a mutex that another thread destroys. */
 #ifndef VN_VNMUTEX_H

@@ -1,11 +1,11 @@
 #define VN_MODULO "vnregional (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/sistema/vnregional.h"
+#include "foundation/ficheros/vdir_int.h"
+#include "foundation/platform/maquina.h"
+#include "foundation/platform/regional.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/calendario_int.h"
 #include "foundation/suelo/eterno_int.h"
-#include "foundation/platform/maquina.h"
-#include "foundation/platform/regional.h"
-#include "foundation/ficheros/vdir_int.h"
 #include <algorithm>
 #include <atomic>
 #include <memory>
@@ -42,9 +42,10 @@ void llano(texto &t, vnwchar blanco) {
 }
 
 void allana(region &r) {
-    for (texto region::*t : {&region::separador_campos, &region::separador_decimal, &region::separador_millares,
-                             &region::separador_fechas, &region::separador_horas, &region::fecha_corta, &region::fecha_larga,
-                             &region::signo_menos, &region::antes_de_mediodia, &region::despues_de_mediodia, &region::era})
+    for (texto region::*t :
+         {&region::separador_campos, &region::separador_decimal, &region::separador_millares, &region::separador_fechas,
+          &region::separador_horas, &region::fecha_corta, &region::fecha_larga, &region::signo_menos,
+          &region::antes_de_mediodia, &region::despues_de_mediodia, &region::era})
         llano(r.*t, 0xA0);
     llano(r.hora, VNU(' '));
 }
@@ -141,7 +142,8 @@ template <class C, class F> void recorre(vista modelo, vista letras, C cita, F c
 texto pinta_fecha(const region &r, const momento &m, vista modelo) {
     constexpr const vnwchar *LETRAS = VNU("dMyg");
     bool con_dia = false; // of the month: its name has another form then in some languages
-    recorre(modelo, LETRAS, [](vista) {}, [&](vnwchar c, size_t n) { con_dia = con_dia || (c == VNU('d') && n < 3); });
+    recorre(
+        modelo, LETRAS, [](vista) {}, [&](vnwchar c, size_t n) { con_dia = con_dia || (c == VNU('d') && n < 3); });
     const auto dia = static_cast<size_t>(m.dia_semana), mes = static_cast<size_t>(m.mes - 1);
     texto t;
     const auto campo = [&](vnwchar c, size_t n) {
@@ -152,8 +154,9 @@ texto pinta_fecha(const region &r, const momento &m, vista modelo) {
         else pon_numero(t, c == VNU('d') ? m.dia : m.mes, n);
     };
     // A year has as many digits as it needs, and a run of y no more than four.
-    recorre(modelo, LETRAS, [&](vista s) { t += s; },
-            [&](vnwchar c, size_t n) { campo(c, c == VNU('y') ? std::min<size_t>(n, 4) : n); });
+    recorre(
+        modelo, LETRAS, [&](vista s) { t += s; },
+        [&](vnwchar c, size_t n) { campo(c, c == VNU('y') ? std::min<size_t>(n, 4) : n); });
     return t;
 }
 
@@ -170,15 +173,21 @@ texto pinta_hora(const region &r, const momento &m, bool con_segundos) {
         }
         if (std::exchange(sin_segundos, false)) t += blancos;
         const texto &mitad = m.hora < 12 ? r.antes_de_mediodia : r.despues_de_mediodia;
-        const int32_t valor = c == VNU('H') ? m.hora : c == VNU('h') ? (m.hora + 11) % 12 + 1 : c == VNU('m') ? m.minuto : m.segundo;
+        const int32_t valor = c == VNU('H')   ? m.hora
+                              : c == VNU('h') ? (m.hora + 11) % 12 + 1
+                              : c == VNU('m') ? m.minuto
+                                              : m.segundo;
         if (c == VNU('t')) t += n == 1 ? mitad.substr(0, 1) : mitad;
         else pon_numero(t, valor, n > 1 ? 2 : 1);
         ultimo = t.size();
     };
-    recorre(r.hora, VNU("hHmst"), [&](vista s) {
-        if (!sin_segundos) t += s;
-        else if (s == vista(VNU(" "))) blancos += s;
-    }, campo);
+    recorre(
+        r.hora, VNU("hHmst"),
+        [&](vista s) {
+            if (!sin_segundos) t += s;
+            else if (s == vista(VNU(" "))) blancos += s;
+        },
+        campo);
     return t;
 }
 
@@ -284,7 +293,9 @@ void vnregional_separadores(vnwchar *decimal, vnwchar *millares) {
 vnwchar *vnregional_fecha_u(int32_t dia, int32_t mes, int32_t anyo, const vnwchar *modelo, vnbool larga) {
     if (!AFIRMA_LOGICO(larga) || !es_fecha(dia, mes, anyo)) return nullptr;
     const auto r = la_region();
-    const vista el_modelo = modelo != nullptr ? vista(modelo) : larga == CIERTO ? vista(r->fecha_larga) : vista(r->fecha_corta);
+    const vista el_modelo = modelo != nullptr ? vista(modelo)
+                            : larga == CIERTO ? vista(r->fecha_larga)
+                                              : vista(r->fecha_corta);
     return vn::nuevo(pinta_fecha(*r, {dia, mes, anyo, dia_de_la_semana(dia, mes, anyo), 0, 0, 0}, el_modelo));
 }
 

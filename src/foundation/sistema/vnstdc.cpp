@@ -1,7 +1,7 @@
 #define VN_MODULO "vnstdc (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/sistema/vnstdc.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/ficheros/lc_fichero.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/numero_int.h"
 #include <algorithm>
 #include <cmath>
@@ -10,25 +10,18 @@
 
 namespace {
 
-template <class C>
-using rasgos = std::char_traits<C>;
-template <class C>
-using vista = std::basic_string_view<C>;
+template <class C> using rasgos = std::char_traits<C>;
+template <class C> using vista = std::basic_string_view<C>;
 
 // The place in `s` at an index of it, or null; the caller may have had the text from a writable one.
-template <class C>
-C *lugar(const C *s, size_t i) {
-    return i == vista<C>::npos ? nullptr : const_cast<C *>(s + i);
-}
+template <class C> C *lugar(const C *s, size_t i) { return i == vista<C>::npos ? nullptr : const_cast<C *>(s + i); }
 
-template <class C>
-C *copia(C *destino, const C *origen) {
+template <class C> C *copia(C *destino, const C *origen) {
     // The texts may overlap, as when one is shifted inside itself.
     return rasgos<C>::move(destino, origen, rasgos<C>::length(origen) + 1);
 }
 
-template <class C>
-C *copia_n(C *destino, const C *origen, size_t n) {
+template <class C> C *copia_n(C *destino, const C *origen, size_t n) {
     const C *fin = rasgos<C>::find(origen, n, C{0});
     const size_t longitud = fin == nullptr ? n : static_cast<size_t>(fin - origen);
     rasgos<C>::move(destino, origen, longitud);
@@ -36,14 +29,12 @@ C *copia_n(C *destino, const C *origen, size_t n) {
     return destino;
 }
 
-template <class C>
-C *busca(const C *s, C c) {
+template <class C> C *busca(const C *s, C c) {
     // The end of the text counts as one of its characters.
     return lugar(s, vista<C>(s, rasgos<C>::length(s) + 1).find(c));
 }
 
-template <class C>
-C *busca_alguno(const C *s, const C *caracteres) {
+template <class C> C *busca_alguno(const C *s, const C *caracteres) {
     return lugar(s, vista<C>(s).find_first_of(caracteres));
 }
 
@@ -77,7 +68,9 @@ char *vnstdc_strcat(char *destino, const char *origen) {
     if (AFIRMA_NO_NULO(destino) && AFIRMA_NO_NULO(origen)) copia(destino + std::strlen(destino), origen);
     return destino;
 }
-int vnstdc_strcmp(const char *a, const char *b) { return AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b) ? std::strcmp(a, b) : 0; }
+int vnstdc_strcmp(const char *a, const char *b) {
+    return AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b) ? std::strcmp(a, b) : 0;
+}
 char *vnstdc_strchr(const char *s, int c) { return AFIRMA_NO_NULO(s) ? busca(s, static_cast<char>(c)) : nullptr; }
 char *vnstdc_strstr(const char *s, const char *t) {
     return AFIRMA_NO_NULO(s) && AFIRMA_NO_NULO(t) ? lugar(s, std::string_view(s).find(t)) : nullptr;

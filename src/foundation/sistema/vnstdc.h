@@ -1,8 +1,8 @@
-/* Portable layer: the platform's standard functions under one roof, with one behaviour on every platform. Each does what
-   the standard function of that name does, but for this: a null pointer is reported (and the result is 0, null or the
-   untouched room), nothing depends on the C locale, and a "long" is 32 bits: "%ld" takes 32 bits of its argument on Linux
-   too, 64 take "%lld" or "%I64d". ANSI text is in the active code page (unicode.h), which on Linux is 1252, not UTF-8, until
-   the host sets another. */
+/* Portable layer: the platform's standard functions under one roof, with one behaviour on every platform. Each does
+   what the standard function of that name does, but for this: a null pointer is reported (and the result is 0, null or
+   the untouched room), nothing depends on the C locale, and a "long" is 32 bits: "%ld" takes 32 bits of its argument on
+   Linux too, 64 take "%lld" or "%I64d". ANSI text is in the active code page (unicode.h), which on Linux is 1252, not
+   UTF-8, until the host sets another. */
 #ifndef VN_VNSTDC_H
 #define VN_VNSTDC_H
 
@@ -30,7 +30,8 @@ char *vnstdc_strchr(const char *s, int c);
 char *vnstdc_strstr(const char *s, const char *t);
 char *vnstdc_strpbrk(const char *s, const char *caracteres);
 
-/** Wide texts; as the ANSI ones. Lengths count 16-bit units. vnstdc_wcscspn: units before the first one of `caracteres`. */
+/** Wide texts; as the ANSI ones. Lengths count 16-bit units. vnstdc_wcscspn: units before the first one of
+    `caracteres`. */
 size_t vnstdc_wcslen(const vnwchar *s);
 vnwchar *vnstdc_wcscpy(VN_SALIDA vnwchar *destino, const vnwchar *origen);
 vnwchar *vnstdc_wcsncpy(VN_SALIDA VN_LON(n) vnwchar *destino, const vnwchar *origen, size_t n);
@@ -40,16 +41,16 @@ vnwchar *vnstdc_wcsrchr(const vnwchar *s, vnwchar c);
 vnwchar *vnstdc_wcspbrk(const vnwchar *s, const vnwchar *caracteres);
 size_t vnstdc_wcscspn(const vnwchar *s, const vnwchar *caracteres);
 
-/** Formatted text, with its length as result. `%s` takes text of the format's width. vnstdc_sprintf: room is the caller's
-    duty. The others write at most `n` units: a text of exactly `n` is not terminated, a longer one is cut there and the
-    result is -1. vnstdc_wprintf writes UTF-8 to the standard output. */
+/** Formatted text, with its length as result. `%s` takes text of the format's width. vnstdc_sprintf: room is the
+    caller's duty. The others write at most `n` units: a text of exactly `n` is not terminated, a longer one is cut
+    there and the result is -1. vnstdc_wprintf writes UTF-8 to the standard output. */
 int vnstdc_sprintf(VN_SALIDA char *destino, VN_FORMATO const char *formato, ...);
 int vnstdc__snprintf(VN_SALIDA VN_LON(n) char *destino, size_t n, VN_FORMATO const char *formato, ...);
 int vnstdc__snwprintf(VN_SALIDA VN_LON(n) vnwchar *destino, size_t n, VN_FORMATO const vnwchar *formato, ...);
 int vnstdc_wprintf(VN_FORMATO const vnwchar *formato, ...);
 
-/** Numbers out of text: white space, a sign, digits; 0 where there is no number, the nearest 32-bit number where it does
-    not fit. vnstdc_wcstod leaves in `*fin`, if not null, where the number ended (`s` when there is none). */
+/** Numbers out of text: white space, a sign, digits; 0 where there is no number, the nearest 32-bit number where it
+    does not fit. vnstdc_wcstod leaves in `*fin`, if not null, where the number ended (`s` when there is none). */
 int vnstdc_atoi(const char *s);
 int vnstdc__wtoi(const vnwchar *s);
 int32_t vnstdc__wtol(const vnwchar *s);
@@ -79,8 +80,9 @@ double vnstdc_fmod(double x, double y);
 /** Clears the error and end marks of a stream. */
 void vnstdc_clearerr(vnfichero *f);
 /** Reads one item from a stream as `formato` says (one conversion: d i u x o c s f g e with l, h, I64 and a width), and
-    returns how many items were read: 1, 0, or -1 at the end of the stream before anything was read. `a` leads to room of
-    the conversion's type; a `%s` without a width is reported and reads nothing. What was not used stays in the stream. */
+    returns how many items were read: 1, 0, or -1 at the end of the stream before anything was read. `a` leads to room
+    of the conversion's type; a `%s` without a width is reported and reads nothing. What was not used stays in the
+    stream. */
 int vnstdc_fscanf1(vnfichero *f, VN_FORMATO const char *formato, VN_SALIDA void *a);
 /** Reads two items from a wide text. As vnstdc_fscanf1; `%s` and `%c` fill wide room. */
 int vnstdc_swscanf2(const vnwchar *s, VN_FORMATO const vnwchar *formato, VN_SALIDA void *a, VN_SALIDA void *b);
@@ -94,9 +96,9 @@ int64_t vnstdc__time64(VN_SALIDA_OPC int64_t *t);
 /** Local time of `*t`. Borrowed: one record per thread. Null when the year cannot be told. */
 struct tm *vnstdc__localtime64(const int64_t *t);
 
-/** Value of an environment variable, or null. Borrowed, not to be written on; good until the variable has been read with
-    sixteen other values. The ANSI form is in the active code page; in the wide one the bytes of a Linux value that are
-    not UTF-8 are the lone surrogates U+DC80 to U+DCFF, and vnstdc__wputenv makes them those bytes again. */
+/** Value of an environment variable, or null. Borrowed, not to be written on; good until the variable has been read
+    with sixteen other values. The ANSI form is in the active code page; in the wide one the bytes of a Linux value that
+    are not UTF-8 are the lone surrogates U+DC80 to U+DCFF, and vnstdc__wputenv makes them those bytes again. */
 char *vnstdc_getenv(const char *nombre);
 vnwchar *vnstdc__wgetenv(const vnwchar *nombre);
 /** Sets a variable of this process from "NAME=value"; "NAME=" takes it away. 0, or -1 for a text of another form. */

@@ -1,12 +1,12 @@
 #define VN_MODULO "vnstdc (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/suelo/afirma_int.h"
-#include "foundation/texto/formato_int.h"
 #include "foundation/ficheros/lc_fichero.h"
-#include "foundation/texto/numero_int.h"
 #include "foundation/platform/consola.h"
-#include "foundation/suelo/propio_int.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/texto/formato_int.h"
+#include "foundation/texto/numero_int.h"
+#include "foundation/texto/unicode.h"
 #include <algorithm>
 #include <climits>
 #include <cstdarg>
@@ -20,8 +20,7 @@ namespace {
 // ---------------------------------------------------------------- writing
 
 // At most `n` units and no end where the text fills them; -1 when it is cut.
-template <class C>
-int formatea_n(C *destino, size_t n, const C *formato, va_list args) {
+template <class C> int formatea_n(C *destino, size_t n, const C *formato, va_list args) {
     va_list otra_vez;
     va_copy(otra_vez, args);
     const size_t longitud = vn::formatea_en(destino, n, formato, args);
@@ -83,8 +82,7 @@ struct conversion {
     char letra = 0;
 };
 
-template <class C>
-conversion lee_conversion(const C *&p) {
+template <class C> conversion lee_conversion(const C *&p) {
     conversion c;
     if (*p == '*') {
         c.guarda = false;
@@ -92,7 +90,8 @@ conversion lee_conversion(const C *&p) {
     }
     if (es_cifra(*p)) {
         c.con_ancho = true;
-        for (c.ancho = 0; es_cifra(*p); ++p) c.ancho = std::min<size_t>(c.ancho * 10 + static_cast<size_t>(*p - '0'), 1u << 30);
+        for (c.ancho = 0; es_cifra(*p); ++p)
+            c.ancho = std::min<size_t>(c.ancho * 10 + static_cast<size_t>(*p - '0'), 1u << 30);
     }
     for (;; ++p) {
         if (*p == 'h') c.bytes /= 2;
@@ -107,12 +106,10 @@ conversion lee_conversion(const C *&p) {
 }
 
 // Characters of a number as long as they can belong to one.
-template <class F>
-class recogida {
+template <class F> class recogida {
   public:
     recogida(F &fuente, size_t ancho) : fuente_(fuente), quedan_(std::min<size_t>(ancho, 512)) {}
-    template <class P>
-    bool una(P &&vale) {
+    template <class P> bool una(P &&vale) {
         const int c = fuente_.mira();
         if (quedan_ == 0 || c < 0 || !vale(c)) return false;
         texto += static_cast<char>(c);
@@ -120,8 +117,7 @@ class recogida {
         fuente_.avanza();
         return true;
     }
-    template <class P>
-    bool varias(P &&vale) {
+    template <class P> bool varias(P &&vale) {
         bool alguna = false;
         while (una(vale)) alguna = true;
         return alguna;
@@ -135,21 +131,19 @@ class recogida {
 
 constexpr auto ES_SIGNO = [](int c) { return c == '+' || c == '-'; };
 
-template <class F>
-std::string recoge_entero(F &fuente, const conversion &c, int &base) {
+template <class F> std::string recoge_entero(F &fuente, const conversion &c, int &base) {
     recogida<F> r(fuente, c.ancho);
     r.una(ES_SIGNO);
     base = c.letra == 'x' || c.letra == 'X' ? 16 : c.letra == 'o' ? 8 : c.letra == 'i' ? 0 : 10;
-    if ((base == 16 || base == 0) && r.una([](int k) { return k == '0'; }) && r.una([](int k) { return k == 'x' || k == 'X'; }))
+    if ((base == 16 || base == 0) && r.una([](int k) { return k == '0'; }) &&
+        r.una([](int k) { return k == 'x' || k == 'X'; }))
         base = 16;
-    else if (base == 0)
-        base = !r.texto.empty() && r.texto.back() == '0' ? 8 : 10;
+    else if (base == 0) base = !r.texto.empty() && r.texto.back() == '0' ? 8 : 10;
     r.varias([base](int k) { return base == 16 ? es_cifra_hexadecimal(k) : k >= '0' && k < '0' + base; });
     return r.texto;
 }
 
-template <class F>
-std::string recoge_real(F &fuente, const conversion &c) {
+template <class F> std::string recoge_real(F &fuente, const conversion &c) {
     recogida<F> r(fuente, c.ancho);
     r.una(ES_SIGNO);
     if (!es_cifra(fuente.mira()) && fuente.mira() != '.') {
@@ -165,14 +159,10 @@ std::string recoge_real(F &fuente, const conversion &c) {
     return r.texto;
 }
 
-template <class T>
-void pon(void *sitio, T valor) {
-    std::memcpy(sitio, &valor, sizeof valor);
-}
+template <class T> void pon(void *sitio, T valor) { std::memcpy(sitio, &valor, sizeof valor); }
 
 // Whether the text is a number, whole; one beyond the room for it is none.
-template <class T>
-bool pon_entero(const std::string &texto, int base, int bytes, void *sitio) {
+template <class T> bool pon_entero(const std::string &texto, int base, int bytes, void *sitio) {
     const vn::leido<T> numero = vn::lee_entero<T>(texto.c_str(), base);
     if (numero.consumido != texto.size() || texto.empty() || numero.desborda) return false;
     const int bits = bytes * 8;
@@ -196,8 +186,7 @@ bool pon_real(const std::string &texto, bool doble, void *sitio) {
 }
 
 // Text up to a blank, or exactly as many characters as the width says for `%c`.
-template <class C, class F>
-bool pon_texto(F &fuente, const conversion &c, void *sitio) {
+template <class C, class F> bool pon_texto(F &fuente, const conversion &c, void *sitio) {
     const bool cuenta = c.letra == 'c';
     const size_t maximo = c.con_ancho ? c.ancho : 1;
     size_t n = 0;
@@ -208,33 +197,41 @@ bool pon_texto(F &fuente, const conversion &c, void *sitio) {
 }
 
 // What one conversion does; false ends the scan.
-template <class C, class F>
-bool convierte(F &fuente, const conversion &c, void *sitio) {
+template <class C, class F> bool convierte(F &fuente, const conversion &c, void *sitio) {
     int base = 10;
     switch (c.letra) {
-    case 'd': case 'i': {
+    case 'd':
+    case 'i': {
         const std::string texto = recoge_entero(fuente, c, base);
         return pon_entero<int64_t>(texto, base, c.bytes, sitio);
     }
-    case 'u': case 'x': case 'X': case 'o': {
+    case 'u':
+    case 'x':
+    case 'X':
+    case 'o': {
         const std::string texto = recoge_entero(fuente, c, base);
         return pon_entero<uint64_t>(texto, base, c.bytes, sitio);
     }
-    case 'f': case 'e': case 'g': case 'E': case 'G': return pon_real(recoge_real(fuente, c), c.doble, sitio);
-    case 's': case 'c': return pon_texto<C>(fuente, c, sitio);
+    case 'f':
+    case 'e':
+    case 'g':
+    case 'E':
+    case 'G': return pon_real(recoge_real(fuente, c), c.doble, sitio);
+    case 's':
+    case 'c': return pon_texto<C>(fuente, c, sitio);
     default: return false;
     }
 }
 
 bool conversion_admitida(const conversion &c) {
-    if (!AFIRMA_TEXTO(std::string_view("diuxXofegEGsc").find(c.letra) != std::string_view::npos && c.letra != 0, "conversion de formato conocida"))
+    if (!AFIRMA_TEXTO(std::string_view("diuxXofegEGsc").find(c.letra) != std::string_view::npos && c.letra != 0,
+                      "conversion de formato conocida"))
         return false;
     if (!AFIRMA_TEXTO(c.bytes >= 1, "conversion de formato conocida")) return false;
     return AFIRMA_TEXTO(c.letra != 's' || c.con_ancho || !c.guarda, "una cadena se lee con su anchura");
 }
 
-template <class C, class F>
-int escanea(F &fuente, const C *formato, void *const *sitios, int numero_sitios) {
+template <class C, class F> int escanea(F &fuente, const C *formato, void *const *sitios, int numero_sitios) {
     int leidos = 0;
     for (const C *p = formato; *p != 0;) {
         if (es_blanco(*p)) {
@@ -254,7 +251,8 @@ int escanea(F &fuente, const C *formato, void *const *sitios, int numero_sitios)
         ++p;
         const conversion c = lee_conversion(p);
         if (!conversion_admitida(c)) return leidos;
-        if (!AFIRMA_TEXTO(!c.guarda || leidos < numero_sitios, "el formato tiene tantas conversiones como datos")) return leidos;
+        if (!AFIRMA_TEXTO(!c.guarda || leidos < numero_sitios, "el formato tiene tantas conversiones como datos"))
+            return leidos;
         if (c.letra != 'c')
             while (es_blanco(fuente.mira())) fuente.avanza();
         if (fuente.mira() < 0) return leidos == 0 ? -1 : leidos;

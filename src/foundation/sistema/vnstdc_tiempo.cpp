@@ -1,12 +1,12 @@
 #define VN_MODULO "vnstdc (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/platform/hora.h"
+#include "foundation/platform/variables.h"
+#include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/calendario_int.h"
 #include "foundation/suelo/eterno_int.h"
-#include "foundation/platform/hora.h"
-#include "foundation/platform/variables.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/sistema/vnstdc.h"
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
@@ -22,11 +22,10 @@ namespace {
 // ---------------------------------------------------------------- text of a time
 
 constexpr std::string_view DIAS[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
-constexpr std::string_view MESES[] = {"January", "February", "March", "April", "May", "June", "July", "August", "September",
-                                      "October", "November", "December"};
+constexpr std::string_view MESES[] = {"January", "February", "March",     "April",   "May",      "June",
+                                      "July",    "August",   "September", "October", "November", "December"};
 
-template <size_t N>
-std::string_view nombre_de(const std::string_view (&nombres)[N], int i, size_t maximo) {
+template <size_t N> std::string_view nombre_de(const std::string_view (&nombres)[N], int i, size_t maximo) {
     return i >= 0 && i < static_cast<int>(N) ? nombres[i].substr(0, maximo) : std::string_view("?");
 }
 
@@ -46,7 +45,9 @@ semana_iso semana_iso_de(const std::tm &t) {
     const int dia = (t.tm_wday + 6) % 7; // from Monday
     const auto semana = [dia](int yday) { return (yday - dia + 10) / 7; };
     // Weeks that a year has: 53 when it begins on a Thursday, or on a Wednesday and is a leap year.
-    const auto semanas = [](int64_t anyo, int primer_dia) { return primer_dia == 3 || (primer_dia == 2 && vn::es_bisiesto(anyo)) ? 53 : 52; };
+    const auto semanas = [](int64_t anyo, int primer_dia) {
+        return primer_dia == 3 || (primer_dia == 2 && vn::es_bisiesto(anyo)) ? 53 : 52;
+    };
     const int64_t anyo = int64_t{t.tm_year} + 1900;
     const int primer_dia = ((dia - t.tm_yday) % 7 + 7) % 7;
     const int s = semana(t.tm_yday);
@@ -61,11 +62,12 @@ semana_iso semana_iso_de(const std::tm &t) {
 int64_t como_utc(const std::tm &t) {
     using namespace std::chrono;
     const auto mes = sys_days(year(t.tm_year + 1900) / (t.tm_mon + 1) / 1);
-    return (mes.time_since_epoch().count() + t.tm_mday - 1) * int64_t{86400} + t.tm_hour * int64_t{3600} + t.tm_min * int64_t{60} + t.tm_sec;
+    return (mes.time_since_epoch().count() + t.tm_mday - 1) * int64_t{86400} + t.tm_hour * int64_t{3600} +
+           t.tm_min * int64_t{60} + t.tm_sec;
 }
 
-// Minutes that the local time of `t` is ahead of UTC: what it is a day before or a day after, whichever gives `t` back. In
-// the hour that a change of time repeats, the one whose summer time is that of `t`.
+// Minutes that the local time of `t` is ahead of UTC: what it is a day before or a day after, whichever gives `t` back.
+// In the hour that a change of time repeats, the one whose summer time is that of `t`.
 int64_t minutos_sobre_utc(const std::tm &t) {
     constexpr int64_t DIA = 86400;
     if (t.tm_mon < 0 || t.tm_mon > 11 || t.tm_year < -32000 || t.tm_year > 30000) return 0; // beyond what a year can be
@@ -92,12 +94,14 @@ std::string campo(char letra, const std::tm &t) {
     switch (letra) {
     case 'a': return std::string(nombre_de(DIAS, t.tm_wday, 3));
     case 'A': return std::string(nombre_de(DIAS, t.tm_wday, 9));
-    case 'b': case 'h': return std::string(nombre_de(MESES, t.tm_mon, 3));
+    case 'b':
+    case 'h': return std::string(nombre_de(MESES, t.tm_mon, 3));
     case 'B': return std::string(nombre_de(MESES, t.tm_mon, 9));
     case 'c': return fecha("%a %b %e %H:%M:%S %Y", t);
     case 'C': return numero(anyo / 100, 2);
     case 'd': return numero(t.tm_mday, 2);
-    case 'D': case 'x': return fecha("%m/%d/%y", t);
+    case 'D':
+    case 'x': return fecha("%m/%d/%y", t);
     case 'e': return numero(t.tm_mday, 2, ' ');
     case 'F': return fecha("%Y-%m-%d", t);
     case 'g': return numero(semana_iso_de(t).anyo % 100, 2);
@@ -113,7 +117,8 @@ std::string campo(char letra, const std::tm &t) {
     case 'R': return fecha("%H:%M", t);
     case 'S': return numero(t.tm_sec, 2);
     case 't': return "\t";
-    case 'T': case 'X': return fecha("%H:%M:%S", t);
+    case 'T':
+    case 'X': return fecha("%H:%M:%S", t);
     case 'u': return numero(t.tm_wday == 0 ? 7 : t.tm_wday, 1);
     case 'U': return numero((int64_t{t.tm_yday} + 7 - t.tm_wday) / 7, 2);
     case 'V': return numero(semana_iso_de(t).semana, 2);
@@ -147,8 +152,7 @@ std::tm acotada(std::tm t) {
     return t;
 }
 
-template <class C>
-size_t escribe_fecha(C *destino, size_t n, const C *formato, const std::tm &sin_acotar) {
+template <class C> size_t escribe_fecha(C *destino, size_t n, const C *formato, const std::tm &sin_acotar) {
     const std::tm t = acotada(sin_acotar);
     size_t longitud = 0;
     const auto pon = [&](C c) {
@@ -174,15 +178,13 @@ size_t escribe_fecha(C *destino, size_t n, const C *formato, const std::tm &sin_
 
 // ---------------------------------------------------------------- environment
 
-template <class C>
-using texto_de = std::basic_string<C>;
+template <class C> using texto_de = std::basic_string<C>;
 using texto_u = texto_de<vnwchar>;
 
 // Of each variable, the values that were lent last: other threads and exit cleaners may still hold one.
 constexpr size_t VALORES_PRESTADOS = 16;
 
-template <class C>
-C *presta(const texto_u &nombre, texto_de<C> valor) {
+template <class C> C *presta(const texto_u &nombre, texto_de<C> valor) {
     struct prestados {
         std::mutex cerrojo;
         std::map<texto_u, std::list<texto_de<C>>> de; // the last one first

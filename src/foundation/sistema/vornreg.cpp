@@ -1,10 +1,10 @@
 #define VN_MODULO "vornreg (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/sistema/vornreg.h"
-#include "foundation/suelo/afirma_int.h"
+#include "foundation/ficheros/vdir_int.h"
 #include "foundation/listas/arr.h"
 #include "foundation/platform/registro.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/ficheros/vdir_int.h"
 #include <algorithm>
 #include <memory>
 
@@ -103,4 +103,6 @@ vnbool vornreg_establece_cadena_u(uint32_t raiz, const vnwchar *clave, const vnw
     return vn::plat::escribe_registro(raiz, limpia(clave), valor, contenido) ? CIERTO : FALSO;
 }
 
-vnbool vornreg_tiene_permisos_escribir_en_registro(void) { return vn::plat::puede_escribir_registro(VORNREG_MAQUINA) ? CIERTO : FALSO; }
+vnbool vornreg_tiene_permisos_escribir_en_registro(void) {
+    return vn::plat::puede_escribir_registro(VORNREG_MAQUINA) ? CIERTO : FALSO;
+}

@@ -14,11 +14,11 @@ typedef struct arrCADENA arrCADENA;
 typedef struct arrCADENA_u arrCADENA_u;
 
 /* Roots. */
-#define VORNREG_CLASES 0u         /**< classes of objects and documents */
-#define VORNREG_CONFIGURACION 1u  /**< the hardware configuration in force */
-#define VORNREG_USUARIO 2u        /**< the current user */
-#define VORNREG_MAQUINA 3u        /**< the machine */
-#define VORNREG_USUARIOS 4u       /**< all users */
+#define VORNREG_CLASES 0u        /**< classes of objects and documents */
+#define VORNREG_CONFIGURACION 1u /**< the hardware configuration in force */
+#define VORNREG_USUARIO 2u       /**< the current user */
+#define VORNREG_MAQUINA 3u       /**< the machine */
+#define VORNREG_USUARIOS 4u      /**< all users */
 
 /* Which registry of a 64-bit machine. Elsewhere than on Windows there is one. */
 #define VORNREG_VISTA_PROPIA 0u /**< that of programs like this one */
@@ -38,8 +38,8 @@ vnbool vornreg_dame_subclaves(VN_RANGO(0, 4) uint32_t raiz, const char *clave, V
 vnbool vornreg_dame_subclaves_u(VN_RANGO(0, 4) uint32_t raiz, const vnwchar *clave, VN_SALIDA arrCADENA_u **lista);
 /** Whether a key is there. */
 vnbool vornreg_existe_clave_u(VN_RANGO(0, 4) uint32_t raiz, const vnwchar *clave);
-/** All texts of a key, by name, in the two new arrays, sorted by the names. FALSO, and nulls, when there is no such key.
-    `vista`: one of VORNREG_VISTA_*. */
+/** All texts of a key, by name, in the two new arrays, sorted by the names. FALSO, and nulls, when there is no such
+    key. `vista`: one of VORNREG_VISTA_*. */
 vnbool vornreg_lee_valores_cadena_clave_ex_u(VN_RANGO(0, 4) uint32_t raiz, const vnwchar *clave,
                                              VN_RANGO(0, 2) uint32_t vista, VN_SALIDA arrCADENA_u **nombres,
                                              VN_SALIDA arrCADENA_u **textos);

@@ -46,8 +46,8 @@ struct dia_del_calendario {
     int32_t dia;  // from 1
 };
 
-// The date that is so many days, 0 or more, after 1 January 1970. Years are counted from 1 March, so that the leap day is
-// their last, in eras of 400, all of one length.
+// The date that is so many days, 0 or more, after 1 January 1970. Years are counted from 1 March, so that the leap day
+// is their last, in eras of 400, all of one length.
 constexpr dia_del_calendario dia_de(int64_t dias) {
     constexpr int64_t DIAS_ERA = 146097, DE_MARZO_DEL_0_A_1970 = 719468;
     const int64_t d = dias + DE_MARZO_DEL_0_A_1970;
@@ -58,7 +58,8 @@ constexpr dia_del_calendario dia_de(int64_t dias) {
     // The months from March on are 31, 30, 31, 30, 31 days long, over and over: 153 days.
     const uint32_t mes_desde_marzo = (5 * de_anyo + 2) / 153;
     const uint32_t mes = mes_desde_marzo < 10 ? mes_desde_marzo + 2 : mes_desde_marzo - 10;
-    return {era * 400 + anyo_de_era + (mes < 2), mes, static_cast<int32_t>(de_anyo - (153 * mes_desde_marzo + 2) / 5 + 1)};
+    return {era * 400 + anyo_de_era + (mes < 2), mes,
+            static_cast<int32_t>(de_anyo - (153 * mes_desde_marzo + 2) / 5 + 1)};
 }
 
 } // namespace vn

@@ -1,10 +1,10 @@
 #define VN_MODULO "error_interno (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/suelo/error_interno.h"
+#include "foundation/platform/consola.h"
 #include "foundation/suelo/contexto.h"
 #include "foundation/suelo/contexto_priv.h"
 #include "foundation/suelo/error_interno_int.h"
 #include "foundation/suelo/par_atomico_int.h"
-#include "foundation/platform/consola.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/utf_int.h"
 #include <atomic>
@@ -36,8 +36,7 @@ class linea_fija {
             pon_punto_de_codigo(vn::es_alto(c) || vn::es_bajo(c) ? vn::REEMPLAZO : c);
         }
     }
-    template <class T>
-    void pon_numero(T n) {
+    template <class T> void pon_numero(T n) {
         char cifras[32];
         *std::to_chars(cifras, cifras + sizeof cifras - 1, n).ptr = '\0';
         pon(cifras);
@@ -162,8 +161,6 @@ void error_interno_punto_2D(const char *expresion, const char *modulo, uint32_t 
     vn::entrega({.expresion = expresion, .punto = punto, .modulo = modulo, .linea = linea});
 }
 
-void error_interno_instala_receptor(vnreceptor_informes receptor, void *datos) {
-    el_receptor.pon(receptor, datos);
-}
+void error_interno_instala_receptor(vnreceptor_informes receptor, void *datos) { el_receptor.pon(receptor, datos); }
 
 uint64_t error_interno_numero_de_informes(void) { return numero_de_informes.load(std::memory_order_relaxed); }

@@ -8,14 +8,14 @@
 
 /** One report. The texts live only during the call of the receiver. */
 typedef struct vninforme {
-    const char *expresion;     /**< failed expression, ANSI; null when it is wide or there is none */
+    const char *expresion;      /**< failed expression, ANSI; null when it is wide or there is none */
     const vnwchar *expresion_u; /**< failed expression, wide; null when it is ANSI or there is none */
-    const char *detalle;       /**< a value worth showing, ANSI, or null */
-    const vnwchar *detalle_u;  /**< a value worth showing, wide, or null */
-    const Punto2D *punto;      /**< the point that failed, or null */
-    const char *modulo;        /**< who reports, as "vornsave (NUCLEOS.DLL)"; may be null */
-    uint32_t linea;            /**< source line */
-    uint16_t clase;            /**< 0 programming fault, 1 stack not empty at the end of its life, 2 edited text */
+    const char *detalle;        /**< a value worth showing, ANSI, or null */
+    const vnwchar *detalle_u;   /**< a value worth showing, wide, or null */
+    const Punto2D *punto;       /**< the point that failed, or null */
+    const char *modulo;         /**< who reports, as "vornsave (NUCLEOS.DLL)"; may be null */
+    uint32_t linea;             /**< source line */
+    uint16_t clase;             /**< 0 programming fault, 1 stack not empty at the end of its life, 2 edited text */
 } vninforme;
 
 /** Receiver of reports. It may be called from any thread; it must return. */

@@ -7,8 +7,7 @@
 namespace vn {
 
 // The one T of the process, made at first use. It costs no allocation of its own.
-template <class T>
-T &eterno() {
+template <class T> T &eterno() {
     alignas(T) static std::byte sitio[sizeof(T)];
     static T *const t = new (sitio) T;
     return *t;

@@ -1,7 +1,7 @@
 #define VN_MODULO "operaciones_fichero (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/suelo/operaciones_fichero.h"
-#include "foundation/suelo/operaciones_fichero_int.h"
 #include "foundation/platform/fichero.h"
+#include "foundation/suelo/operaciones_fichero_int.h"
 #include <memory>
 
 namespace {
@@ -9,8 +9,7 @@ namespace {
 vnoperaciones_fichero las_actuales = vn::plat::operaciones_de_fichero;
 
 // The entries of a table, for what is done to each.
-template <typename F>
-void con_cada_entrada(vnoperaciones_fichero &a, const vnoperaciones_fichero &b, F f) {
+template <typename F> void con_cada_entrada(vnoperaciones_fichero &a, const vnoperaciones_fichero &b, F f) {
     f(a.abre, b.abre);
     f(a.lee, b.lee);
     f(a.escribe, b.escribe);

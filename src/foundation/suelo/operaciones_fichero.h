@@ -44,7 +44,7 @@ typedef enum vnerror_fichero {
 
 /** What is known of a name. */
 typedef struct vnestado_fichero {
-    uint64_t tamanyo;     /**< bytes; 0 for what has no size */
+    uint64_t tamanyo; /**< bytes; 0 for what has no size */
     vnbool es_directorio;
     vnbool es_normal; /**< a regular file: it has a size and can be read at any position */
 } vnestado_fichero;
@@ -65,8 +65,8 @@ typedef struct vnoperaciones_fichero {
     vnerror_fichero (*desbloquea)(vnid_fichero id, int64_t inicio, int64_t tamanyo);
     vnerror_fichero (*cierra)(vnid_fichero id);
     vnerror_fichero (*estado)(const vnwchar *nombre, vnestado_fichero *estado);
-    /** The absolute name, at most `maximo` units with the zero, of the file that a name leads to through links; the file
-        need not be there, its directory must. */
+    /** The absolute name, at most `maximo` units with the zero, of the file that a name leads to through links; the
+        file need not be there, its directory must. */
     vnerror_fichero (*resuelve)(const vnwchar *nombre, vnwchar *real, size_t maximo);
     /** A second name for the same file; `nuevo` must be free. */
     vnerror_fichero (*enlaza)(const vnwchar *existente, const vnwchar *nuevo);

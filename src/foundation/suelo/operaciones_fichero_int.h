@@ -20,8 +20,7 @@ inline constexpr paciencia UNA_VEZ{1, 0}, UNA_DECIMA{6, 20}, UN_SEGUNDO{21, 50},
 inline constexpr uint32_t MAXIMO_INTERRUPCIONES = 1000;
 
 // The operation, again at once while it is interrupted, and after a wait while somebody holds the file.
-template <typename F>
-vnerror_fichero con_paciencia(const paciencia &p, F operacion) {
+template <typename F> vnerror_fichero con_paciencia(const paciencia &p, F operacion) {
     uint32_t interrupciones = 0;
     for (uint32_t intento = 1;;) {
         const vnerror_fichero e = operacion();

@@ -6,8 +6,7 @@
 
 namespace vn {
 
-template <class F>
-class par_atomico {
+template <class F> class par_atomico {
   public:
     struct par {
         F funcion;

@@ -2,8 +2,8 @@
 #ifndef VN_TIPOS_H
 #define VN_TIPOS_H
 
-#include "anotaciones.h"
 #include "../platform/plataforma.h"
+#include "anotaciones.h"
 
 /** Truth value: CIERTO or FALSO, nothing else. */
 typedef uint16_t vnbool;

@@ -1,7 +1,7 @@
 #define VN_MODULO "vnatexit (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/suelo/vnatexit.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/platform/consola.h"
+#include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/propio_int.h"
 #include <atomic>
 #include <cstdlib>
@@ -22,7 +22,9 @@ constinit std::atomic<bool> registrada{false};
 // Puts a chain, from its newest to its oldest entry, on top of the list.
 void apila(entrada *nueva, entrada *vieja) {
     vieja->anterior = la_ultima.load(std::memory_order_relaxed);
-    while (!la_ultima.compare_exchange_weak(vieja->anterior, nueva, std::memory_order_release, std::memory_order_relaxed)) {}
+    while (!la_ultima.compare_exchange_weak(vieja->anterior, nueva, std::memory_order_release,
+                                            std::memory_order_relaxed)) {
+    }
 }
 
 // What has been taken off the list and not yet run.

@@ -1,7 +1,7 @@
 #define VN_MODULO "vnlongpath (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/suelo/vnlongpath.h"
-#include "foundation/suelo/afirma_int.h"
 #include "foundation/platform/longpath.h"
+#include "foundation/suelo/afirma_int.h"
 
 void *vnlongpath_CreateFileW(const vnwchar *nombre, uint32_t acceso, uint32_t comparticion, void *seguridad,
                              uint32_t disposicion, uint32_t atributos, void *plantilla) {

@@ -36,9 +36,8 @@ VN_C_INICIO
 
 /** Opens or creates a file. VNLONGPATH_INVALID_HANDLE if it cannot be; then GetLastError on Windows, errno on Linux,
     says why. `seguridad` and `plantilla` are those of Win32; Linux ignores them. */
-void *vnlongpath_CreateFileW(const vnwchar *nombre, uint32_t acceso, uint32_t comparticion,
-                             VN_DATO void *seguridad, VN_RANGO(1, 5) uint32_t disposicion,
-                             uint32_t atributos, VN_DATO void *plantilla);
+void *vnlongpath_CreateFileW(const vnwchar *nombre, uint32_t acceso, uint32_t comparticion, VN_DATO void *seguridad,
+                             VN_RANGO(1, 5) uint32_t disposicion, uint32_t atributos, VN_DATO void *plantilla);
 /** Closes what vnlongpath_CreateFileW opened; FALSO if it is not open. */
 vnbool vnlongpath_CloseHandle(VN_DATO void *fichero);
 /** Attributes of a file or directory; VNLONGPATH_INVALID_FILE_ATTRIBUTES if it is not there. On Linux: DIRECTORY,

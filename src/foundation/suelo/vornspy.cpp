@@ -1,9 +1,9 @@
 #define VN_MODULO "vornspy (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/platform/consola.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/error_interno_int.h"
 #include "foundation/suelo/par_atomico_int.h"
-#include "foundation/platform/consola.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/vnatexit.h"
 #include <algorithm>
@@ -30,8 +30,8 @@ static_assert(sizeof(cabeza) == 16, "blocks keep the platform's alignment");
 constexpr unsigned BITS_TAMANYO = 44;
 constexpr uint64_t MAXIMO_TAMANYO = uint64_t{1} << (BITS_TAMANYO - 1);
 
-// The map of live blocks: leaves of 256 MiB of addresses each, made at first use, in a table that any address finds its own
-// in.
+// The map of live blocks: leaves of 256 MiB of addresses each, made at first use, in a table that any address finds its
+// own in.
 constexpr unsigned BITS_HOJA = 28, BITS_GRANO = 4, BITS_TABLA = 16;
 constexpr size_t PALABRAS_HOJA = size_t{1} << (BITS_HOJA - BITS_GRANO - 6);
 using palabra = std::atomic<uint64_t>;
@@ -53,7 +53,8 @@ std::atomic<hoja_de_bits *> *sitio_de(uintptr_t numero, hoja_de_bits *&hoja) {
     size_t i = static_cast<size_t>((uint64_t{numero} * 0x9E3779B97F4A7C15u) >> (64 - BITS_TABLA));
     for (size_t k = 0; k <= MASCARA; ++k, i = (i + 1) & MASCARA) {
         hoja = hojas[i].load(std::memory_order_acquire);
-        if (hoja == nullptr || hoja->numero == numero) [[likely]] return &hojas[i];
+        if (hoja == nullptr || hoja->numero == numero) [[likely]]
+            return &hojas[i];
     }
     return nullptr;
 }
@@ -124,7 +125,8 @@ bool esta_vivo(const void *p) {
 
 // What no machine has is not asked for.
 bool permitido(size_t tamanyo) {
-    if (tamanyo > MAXIMO_TAMANYO) [[unlikely]] return false;
+    if (tamanyo > MAXIMO_TAMANYO) [[unlikely]]
+        return false;
     const auto permiso = el_permiso.dame();
     return permiso.funcion == nullptr || permiso.funcion(tamanyo, permiso.datos) == CIERTO;
 }
@@ -156,7 +158,9 @@ constinit std::atomic<const char *> vistos[size_t{1} << BITS_VISTOS] = {}; // by
     std::memcpy(nuevo + 1, modulo, bytes);
     // Two threads at the same name leave it twice: harmless.
     nuevo->siguiente = primero;
-    while (!nombres.compare_exchange_weak(nuevo->siguiente, nuevo, std::memory_order_release, std::memory_order_relaxed)) {}
+    while (
+        !nombres.compare_exchange_weak(nuevo->siguiente, nuevo, std::memory_order_release, std::memory_order_relaxed)) {
+    }
     return nuevo->texto();
 }
 
@@ -165,7 +169,8 @@ const char *propio_nombre(const char *modulo) {
     std::atomic<const char *> &visto =
         vistos[(uint64_t{reinterpret_cast<uintptr_t>(modulo)} * 0x9E3779B97F4A7C15u) >> (64 - BITS_VISTOS)];
     const char *n = visto.load(std::memory_order_acquire);
-    if (n != nullptr && std::strcmp(n, modulo) == 0) [[likely]] return n;
+    if (n != nullptr && std::strcmp(n, modulo) == 0) [[likely]]
+        return n;
     n = apunta_nombre(modulo);
     visto.store(n, std::memory_order_release);
     return n;
@@ -176,18 +181,21 @@ void *estrena(cabeza *c, size_t tamanyo, const char *modulo, uint32_t linea) {
     if (c == nullptr) return nullptr;
     c->modulo = propio_nombre(modulo);
     c->linea_y_tamanyo = (uint64_t{linea} << BITS_TAMANYO) | tamanyo;
-    if (apunta(c + 1)) [[likely]] return c + 1;
+    if (apunta(c + 1)) [[likely]]
+        return c + 1;
     std::free(c);
     return nullptr;
 }
 
 void *reserva(size_t tamanyo, const char *modulo, uint32_t linea) {
-    if (!permitido(tamanyo)) [[unlikely]] return nullptr;
+    if (!permitido(tamanyo)) [[unlikely]]
+        return nullptr;
     return estrena(static_cast<cabeza *>(std::malloc(tamanyo + sizeof(cabeza))), tamanyo, modulo, linea);
 }
 
 void *reserva_a_cero(size_t tamanyo, const char *modulo, uint32_t linea) {
-    if (!permitido(tamanyo)) [[unlikely]] return nullptr;
+    if (!permitido(tamanyo)) [[unlikely]]
+        return nullptr;
     return estrena(static_cast<cabeza *>(std::calloc(1, tamanyo + sizeof(cabeza))), tamanyo, modulo, linea);
 }
 
@@ -200,19 +208,18 @@ void *reserva_a_cero(size_t tamanyo, const char *modulo, uint32_t linea) {
 }
 
 void *exige(void *p, const char *modulo, uint32_t linea) {
-    if (p == nullptr) [[unlikely]] sin_memoria(modulo, linea);
+    if (p == nullptr) [[unlikely]]
+        sin_memoria(modulo, linea);
     return p;
 }
 
 // Calls funcion(number) for each bit of a word that is set.
-template <class F>
-void por_cada_bit(const palabra &en, size_t primero, F &&funcion) {
+template <class F> void por_cada_bit(const palabra &en, size_t primero, F &&funcion) {
     for (uint64_t bits = en.load(std::memory_order_relaxed); bits != 0; bits &= bits - 1)
         funcion(primero + static_cast<size_t>(__builtin_ctzll(bits)));
 }
 
-template <class F>
-void por_cada_vivo(F &&funcion) {
+template <class F> void por_cada_vivo(F &&funcion) {
     const auto di = [&](size_t grano) {
         auto *p = reinterpret_cast<void *>(grano << BITS_GRANO);
         const cabeza *c = cabeza_de(p);
@@ -225,7 +232,8 @@ void por_cada_vivo(F &&funcion) {
         const size_t primer_grano = hoja->numero << (BITS_HOJA - BITS_GRANO);
         for (size_t r = 0; r < std::size(hoja->resumen); ++r) {
             por_cada_bit(hoja->resumen[r], r << 6, [&](size_t grupo) {
-                for (size_t w = grupo << 6; w < (grupo + 1) << 6; ++w) por_cada_bit(hoja->bits[w], primer_grano + (w << 6), di);
+                for (size_t w = grupo << 6; w < (grupo + 1) << 6; ++w)
+                    por_cada_bit(hoja->bits[w], primer_grano + (w << 6), di);
             });
         }
     }
@@ -311,8 +319,8 @@ vnparametros *vornspy_parametro(int n, ...) {
         const int tamanyo = va_arg(args, int);
         if (!AFIRMA(tamanyo == 1 || tamanyo == 2 || tamanyo == 4 || tamanyo == 8)) break;
         // Narrow values travel as int.
-        pack->valor[i] = tamanyo == 8 ? va_arg(args, uint64_t)
-                                      : va_arg(args, unsigned) & (~uint64_t{0} >> (64 - 8 * tamanyo));
+        pack->valor[i] =
+            tamanyo == 8 ? va_arg(args, uint64_t) : va_arg(args, unsigned) & (~uint64_t{0} >> (64 - 8 * tamanyo));
         pack->tamanyo[i] = static_cast<uint8_t>(tamanyo);
         pack->numero = static_cast<uint32_t>(i) + 1;
     }
@@ -369,9 +377,10 @@ uint64_t vornspy_informa_de_fugas(void) {
     });
     for (const auto &[sitio, c] : por_sitio) {
         char texto[256];
-        const int n = std::snprintf(texto, sizeof texto, "%s, %u: %llu bloques sin liberar, %llu bytes\n",
-                                    sitio.first != nullptr ? sitio.first : "?", sitio.second,
-                                    static_cast<unsigned long long>(c.bloques), static_cast<unsigned long long>(c.bytes));
+        const int n =
+            std::snprintf(texto, sizeof texto, "%s, %u: %llu bloques sin liberar, %llu bytes\n",
+                          sitio.first != nullptr ? sitio.first : "?", sitio.second,
+                          static_cast<unsigned long long>(c.bloques), static_cast<unsigned long long>(c.bytes));
         if (n > 0) vn::plat::escribe_error(texto, std::min(static_cast<size_t>(n), sizeof texto - 1));
     }
     return total;
@@ -391,8 +400,8 @@ void vornspy_informa_de_fugas_al_salir(vnbool activo) {
     }
 }
 
-void vornspy_instala_memoria_agotada(vnfunc_memoria_agotada funcion, void *datos) { el_agotamiento.pon(funcion, datos); }
-
-void vornspy_instala_permiso(vnfunc_permiso permiso, void *datos) {
-    el_permiso.pon(permiso, datos);
+void vornspy_instala_memoria_agotada(vnfunc_memoria_agotada funcion, void *datos) {
+    el_agotamiento.pon(funcion, datos);
 }
+
+void vornspy_instala_permiso(vnfunc_permiso permiso, void *datos) { el_permiso.pon(permiso, datos); }

@@ -20,10 +20,10 @@ typedef void (*vnfunc_memoria_agotada)(void *datos);
 VN_C_INICIO
 
 /** Installs what is called when memory has run out, for the blocks below and for the library's own scratch alike; null
-    takes it away. Without it, or if it returns, the process ends with a report to the receiver, "memoria agotada". It is
-    the one place where a host may choose: to save what it can and end by its own means. A host in C++ alone may throw
-    from it, at its own risk: the library's frames release what they hold, but those of call-backs must be C++ too.
-    The library itself throws nothing and does not touch the host's operator new. */
+    takes it away. Without it, or if it returns, the process ends with a report to the receiver, "memoria agotada". It
+    is the one place where a host may choose: to save what it can and end by its own means. A host in C++ alone may
+    throw from it, at its own risk: the library's frames release what they hold, but those of call-backs must be C++
+    too. The library itself throws nothing and does not touch the host's operator new. */
 void vornspy_instala_memoria_agotada(VN_OPC vnfunc_memoria_agotada funcion, VN_DATO void *datos);
 
 /** New block of `tamanyo` bytes (0 gives a block too), aligned to 16. Never null and never smaller: a size that cannot

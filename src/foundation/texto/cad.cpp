@@ -12,7 +12,7 @@ using vista = std::string_view;
 namespace {
 
 constexpr uint32_t MAX_TEXTO = 1u << 30;
-#define AQUI texto::quien{VN_AQUI}
+#define AQUI (texto::quien{VN_AQUI})
 
 char *copia(vista v) { return texto::copia(v, AQUI); }
 
@@ -162,7 +162,8 @@ void cad_reemplaza_todas_cadenas(char **s, const char *a, const char *b) {
 
 uint32_t cad_lista_de_subcadenas(const char *s, char separador, char ***lista) {
     if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(lista)) return 0;
-    return texto::lista<char>(s, [separador](char c) { return c == separador; }, lista, AQUI);
+    return texto::lista<char>(
+        s, [separador](char c) { return c == separador; }, lista, AQUI);
 }
 
 uint32_t vornstr_lista_de_subcadenas(const char *s, char separador, char ***lista) {

@@ -1,6 +1,6 @@
 /* ANSI text: 8 bits, zero-terminated, in the active ANSI code page (unicode.h). Texts that are returned are new blocks
-   of the tracked heap, freed with vornstr_destruye. Two-byte characters of the pages that have them are never cut, and a
-   search does not find a match inside one. Letter case follows the active page, not ASCII alone; characters of more
+   of the tracked heap, freed with vornstr_destruye. Two-byte characters of the pages that have them are never cut, and
+   a search does not find a match inside one. Letter case follows the active page, not ASCII alone; characters of more
    than one byte have no case. */
 #ifndef VN_CAD_H
 #define VN_CAD_H
@@ -19,13 +19,14 @@ void vornstr_destruye_opcional(VN_OPC char **s);
 /** A copy, the caller's. */
 char *cad_copia_cadena(const char *s);
 char *cad_copia_cadena_opcional(VN_OPC const char *s);
-/** New text of a printf-like format: flags `-+ #0`, width and precision (`*` too), conversions d i u x X o c s S f F e E
-    g G a A p %, sizes hh h l ll I I32 I64 z j t w. `l` is 32 bits. `%s` takes ANSI text, `%S` and `%ls` wide; a null text
-    prints "(null)". The decimal sign is always a point. A conversion that does not exist is reported and written as it
-    stands, without taking an argument. */
+/** New text of a printf-like format: flags `-+ #0`, width and precision (`*` too), conversions d i u x X o c s S f F e
+    E g G a A p %, sizes hh h l ll I I32 I64 z j t w. `l` is 32 bits. `%s` takes ANSI text, `%S` and `%ls` wide; a null
+    text prints "(null)". The decimal sign is always a point. A conversion that does not exist is reported and written
+    as it stands, without taking an argument. */
 char *nousar_formatea(VN_FORMATO const char *formato, ...);
 
-/** Appends `t`, or one character, to `*s`, which grows (and may move). `t` may be part of `*s`. A zero appends nothing. */
+/** Appends `t`, or one character, to `*s`, which grows (and may move). `t` may be part of `*s`. A zero appends
+    nothing. */
 void cad_concatena(char **s, const char *t);
 void cad_concatena_caracter(char **s, char c);
 /** Puts `t` before `*s`, which grows (and may move). */
@@ -48,7 +49,8 @@ vnbool cad_es_subcadena_inicial(const char *s, const char *t);
 vnbool cad_es_subcadena_inicial_may_o_min(const char *s, const char *t);
 vnbool cad_es_subcadena_final(const char *s, const char *t);
 
-/** New text: the first `n` bytes of `s` (one less where that would cut a character), or all of it when it is shorter. */
+/** New text: the first `n` bytes of `s` (one less where that would cut a character), or all of it when it is
+    shorter. */
 char *cad_subcadena_inicial(const char *s, uint32_t n);
 /** New text: what stands in `s` before the first `t`; all of `s` when `t` is not there. */
 char *cad_subcadena_anterior(const char *s, const char *t);
@@ -57,8 +59,8 @@ void cad_suprime_subcadena(char *s, const char *t);
 /** Takes `t` from the beginning of `*s`, in place, if it stands there; tells whether it did. */
 vnbool cad_suprime_subcadena_inicial(char **s, const char *t);
 vnbool cad_suprime_subcadena_inicial_may_o_min(char **s, const char *t);
-/** Puts `b` in the place of every `a` of `*s`, from left to right; what was put in is not looked at again. `*s` may move.
-    An empty `a` changes nothing. */
+/** Puts `b` in the place of every `a` of `*s`, from left to right; what was put in is not looked at again. `*s` may
+    move. An empty `a` changes nothing. */
 void cad_reemplaza_todas_cadenas(char **s, const char *a, const char *b);
 
 /** Splits at every `separador`: n separators give n + 1 pieces, empty ones too, as they stand. The list and its texts

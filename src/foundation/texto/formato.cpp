@@ -1,8 +1,8 @@
 #define VN_MODULO "formato (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/texto/formato_int.h"
 #include "foundation/suelo/afirma_int.h"
-#include "foundation/texto/pagina_priv.h"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/texto/formato_int.h"
+#include "foundation/texto/pagina_priv.h"
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -50,8 +50,8 @@ template <class C> class salida {
 struct conversion {
     bool izquierda = false, mas = false, blanco = false, alterna = false, ceros = false;
     int ancho = 0, precision = -1;
-    unsigned bytes = 4;  // of an integer
-    char anchura = 0;    // of a text: 'h' ANSI, 'l' wide, 0 as the letter says
+    unsigned bytes = 4; // of an integer
+    char anchura = 0;   // of a text: 'h' ANSI, 'l' wide, 0 as the letter says
     bool doble_largo = false;
     char letra = 0;
 };
@@ -98,8 +98,7 @@ template <class C> void lee_tamanyo(const C *&p, conversion &c) {
         c.bytes = 8;
         ++p;
         break;
-    default:
-        break;
+    default: break;
     }
 }
 
@@ -133,8 +132,7 @@ struct partes {
 };
 
 template <class C> void pon_numero(salida<C> &s, const conversion &c, partes n, bool rellena_con_ceros) {
-    const size_t largo =
-        n.prefijo.size() + n.ceros_delante + n.cuerpo.size() + n.ceros_detras + n.cola.size();
+    const size_t largo = n.prefijo.size() + n.ceros_delante + n.cuerpo.size() + n.ceros_detras + n.cola.size();
     const size_t ancho = static_cast<size_t>(c.ancho), relleno = ancho > largo ? ancho - largo : 0;
     const bool con_ceros = rellena_con_ceros && c.ceros && !c.izquierda;
     if (!c.izquierda && !con_ceros) s.rellena(' ', relleno);
@@ -146,7 +144,9 @@ template <class C> void pon_numero(salida<C> &s, const conversion &c, partes n, 
     if (c.izquierda) s.rellena(' ', relleno);
 }
 
-std::string_view signo(const conversion &c, bool negativo) { return negativo ? "-" : c.mas ? "+" : c.blanco ? " " : ""; }
+std::string_view signo(const conversion &c, bool negativo) {
+    return negativo ? "-" : c.mas ? "+" : c.blanco ? " " : "";
+}
 
 void a_mayusculas(char *p, const char *fin) {
     for (; p != fin; ++p)
@@ -173,7 +173,8 @@ template <class C> void pon_entero(salida<C> &s, const conversion &c, argumentos
     n.cuerpo = v == 0 && c.precision == 0 ? std::string_view() : std::string_view(cifras, fin);
     if (con_signo) n.prefijo = signo(c, negativo);
     else if (c.alterna && base == 16 && v != 0) n.prefijo = c.letra == 'x' ? "0x" : "0X";
-    if (c.precision > static_cast<int>(n.cuerpo.size())) n.ceros_delante = static_cast<size_t>(c.precision) - n.cuerpo.size();
+    if (c.precision > static_cast<int>(n.cuerpo.size()))
+        n.ceros_delante = static_cast<size_t>(c.precision) - n.cuerpo.size();
     if (c.alterna && base == 8 && n.ceros_delante == 0 && !n.cuerpo.starts_with('0')) n.ceros_delante = 1;
     pon_numero(s, c, n, c.precision < 0);
 }
@@ -224,10 +225,12 @@ template <class C> void pon_real(salida<C> &s, const conversion &c, argumentos &
         pedida = c.precision;
         fin = pedida < 0 ? std::to_chars(cifras, cifras + sizeof cifras, v, std::chars_format::hex).ptr
                          : std::to_chars(cifras, cifras + sizeof cifras, v, std::chars_format::hex,
-                                         std::min(pedida, MAX_PRECISION_EXACTA)).ptr;
+                                         std::min(pedida, MAX_PRECISION_EXACTA))
+                               .ptr;
     } else if (letra == 'g' && !c.alterna) {
         fin = std::to_chars(cifras, cifras + sizeof cifras, v, std::chars_format::general,
-                            std::min(pedida, MAX_PRECISION_EXACTA)).ptr;
+                            std::min(pedida, MAX_PRECISION_EXACTA))
+                  .ptr;
         pedida = -1;
     } else {
         if (letra == 'g') { // with '#' its zeros stay
@@ -294,13 +297,10 @@ template <class C> bool es_ancho(const conversion &c) {
 
 // False when there is no such conversion.
 template <class C> bool pon_conversion(salida<C> &s, const conversion &c, argumentos &a) {
+    // clang-format off
     switch (c.letra) {
-    case 'd': case 'i': case 'u': case 'x': case 'X': case 'o':
-        pon_entero(s, c, a);
-        return true;
-    case 'f': case 'F': case 'e': case 'E': case 'g': case 'G': case 'a': case 'A':
-        pon_real(s, c, a);
-        return true;
+    case 'd': case 'i': case 'u': case 'x': case 'X': case 'o': pon_entero(s, c, a); return true;
+    case 'f': case 'F': case 'e': case 'E': case 'g': case 'G': case 'a': case 'A': pon_real(s, c, a); return true;
     case 's': case 'S':
         if (es_ancho<C>(c)) pon_cadena(s, c, va_arg(a.v, const vnwchar *));
         else pon_cadena(s, c, va_arg(a.v, const char *));
@@ -313,15 +313,11 @@ template <class C> bool pon_conversion(salida<C> &s, const conversion &c, argume
         else pon_texto(s, c, &b, 1);
         return true;
     }
-    case 'p':
-        pon_puntero(s, c, a);
-        return true;
-    case '%':
-        s.pon("%", 1);
-        return true;
-    default:
-        return false;
+    case 'p': pon_puntero(s, c, a); return true;
+    case '%': s.pon("%", 1); return true;
+    default: return false;
     }
+    // clang-format on
 }
 
 template <class C> size_t compone(C *destino, size_t sitio, const C *formato, va_list args, bool informa_de_faltas) {

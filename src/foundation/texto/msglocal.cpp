@@ -1,13 +1,13 @@
 #define VN_MODULO "msglocal (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/texto/msglocal.h"
+#include "foundation/platform/variables.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/eterno_int.h"
+#include "foundation/suelo/propio_int.h"
+#include "foundation/suelo/vnatexit.h"
 #include "foundation/texto/formato_int.h"
 #include "foundation/texto/numero_int.h"
-#include "foundation/platform/variables.h"
-#include "foundation/suelo/propio_int.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/suelo/vnatexit.h"
 #include <atomic>
 #include <map>
 #include <mutex>
@@ -18,13 +18,16 @@ namespace {
 
 // ---------------------------------------------------------------- the active language
 
+// clang-format off
 enum idioma : int {
     ESPANYOL = 0, FRANCES = 1, PORTUGUES_DE_BRASIL = 2, CATALAN = 3, ITALIANO = 4, PORTUGUES = 5, ESPANYOL_DE_AMERICA = 6,
     INGLES = 8, GALLEGO = 9, BULGARO = 10, RUMANO = 11, CHINO = 12, ALEMAN = 13, RUSO = 18, POLACO = 31, TURCO = 33,
     JAPONES = 39
 };
+// clang-format on
 
 // A row: the language's code, the region that it takes ("" any), the index. The first that fits counts.
+// clang-format off
 constexpr struct {
     std::string_view lengua, region;
     idioma indice;
@@ -34,6 +37,7 @@ constexpr struct {
     {"bg", "", BULGARO},    {"ro", "", RUMANO},   {"zh", "", CHINO},    {"de", "", ALEMAN}, {"ru", "", RUSO},
     {"pl", "", POLACO},     {"tr", "", TURCO},    {"ja", "", JAPONES},
 };
+// clang-format on
 
 constexpr int SIN_ESTABLECER = -1;
 std::atomic<int> el_idioma{SIN_ESTABLECER};
@@ -77,8 +81,7 @@ struct lectura {
 };
 
 // The text behind its id. One that is too short for it or does not begin with it is given whole.
-template <class C>
-const C *sin_id(const C *texto, uint32_t ancho_id) {
+template <class C> const C *sin_id(const C *texto, uint32_t ancho_id) {
     if (ancho_id < 2 || texto[0] != '<') return texto;
     for (uint32_t i = 1; i + 1 < ancho_id; ++i)
         if (texto[i] == 0) return texto;
@@ -127,8 +130,8 @@ const char *texto_ansi(const char *celda, uint32_t ancho_id, int indice) {
     const std::pair clave(indice, std::string(celda));
     if (const auto sitio = d.textos.find(clave); sitio != d.textos.end()) return sitio->second.c_str();
     // Kept once it is whole: memory may run out in any of this.
-    const vn::propio<char> ansi(
-        unicode_convierte_UNICODE_a_ANSI_idioma(sin_id(ancho.c_str(), ancho_id), static_cast<uint32_t>(indice), nullptr));
+    const vn::propio<char> ansi(unicode_convierte_UNICODE_a_ANSI_idioma(sin_id(ancho.c_str(), ancho_id),
+                                                                        static_cast<uint32_t>(indice), nullptr));
     if (!d.registrado) atexit_anade(olvida_los_descodificados, nullptr);
     d.registrado = true;
     return d.textos.emplace(clave, ansi.get()).first->second.c_str();

@@ -14,15 +14,15 @@
 
     `textos` has one column per language: 0 Spanish, 1 French, 2 Portuguese of Brazil, 3 Portuguese of Portugal,
     4 Catalan, 5 Italian, 6, 7 and 24 American Spanish, 8 English, 9 Galician, 10 Bulgarian, 11 Romanian, 12 Chinese,
-    13 German, 18 Russian, 31 Polish, 33 Turkish, 39 Japanese; the others repeat Spanish or English. Each begins with the
-    message's id in angle brackets. Wide texts for the wide reader; for the ANSI reader 8-bit texts in the code page of the
-    column's language, or "FFFF" and the hexadecimal digits of the text's UTF-16LE units. */
+    13 German, 18 Russian, 31 Polish, 33 Turkish, 39 Japanese; the others repeat Spanish or English. Each begins with
+    the message's id in angle brackets. Wide texts for the wide reader; for the ANSI reader 8-bit texts in the code page
+    of the column's language, or "FFFF" and the hexadecimal digits of the text's UTF-16LE units. */
 typedef struct vnmensaje {
-    const char *nombre;                       /**< the group, as "vornbin.msg" */
-    uint32_t orden;                           /**< ordinal of the message inside its group */
-    uint32_t ancho_id;                        /**< characters of the id with its brackets; 0 for texts without one */
-    const void *textos[MSGLOCAL_NUM_TEXTOS];  /**< one text per column */
-    const void *fin;                          /**< null */
+    const char *nombre;                      /**< the group, as "vornbin.msg" */
+    uint32_t orden;                          /**< ordinal of the message inside its group */
+    uint32_t ancho_id;                       /**< characters of the id with its brackets; 0 for texts without one */
+    const void *textos[MSGLOCAL_NUM_TEXTOS]; /**< one text per column */
+    const void *fin;                         /**< null */
 } vnmensaje;
 /** Fills a message group; what it points at must stay. */
 typedef void (*vnfunc_mensaje)(vnmensaje *mensaje);

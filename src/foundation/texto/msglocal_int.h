@@ -18,39 +18,40 @@
 namespace vn {
 
 // Columns of a message that have a text of their own. ES_AM stands for the three columns of American Spanish.
+// clang-format off
 enum columna : unsigned char {
     ES = 0, FR = 1, PT_BR = 2, PT = 3, CA = 4, IT = 5, ES_AM = 6, EN = 8, GL = 9, BG = 10, RO = 11, ZH = 12, DE = 13,
     RU = 18, PL = 31, TR = 33, JA = 39
 };
+// clang-format on
 
-template <class C>
-struct texto_en {
+template <class C> struct texto_en {
     columna en;
     const C *texto;
 };
 
-// Where a column without a text of its own takes it from: 14 to 17 and 19 to 23 repeat Spanish, 25 to 30, 32, 34 to 38 and
-// 40 English, American Spanish is Spanish; a language that a row leaves out shows Spanish where it is a neighbour of it
-// (Catalan, Galician), else English.
+// Where a column without a text of its own takes it from: 14 to 17 and 19 to 23 repeat Spanish, 25 to 30, 32, 34 to 38
+// and 40 English, American Spanish is Spanish; a language that a row leaves out shows Spanish where it is a neighbour
+// of it (Catalan, Galician), else English.
 constexpr columna columna_de_reserva(unsigned i) {
+    // clang-format off
     switch (i) {
     case 6: case 4: case 9: return ES;
     case 7: case 24: return ES_AM;
     default: return (i >= 14 && i <= 17) || (i >= 19 && i <= 23) ? ES : EN;
     }
+    // clang-format on
 }
 
 // Characters of the id with its brackets; 0 when the text begins with none.
-template <class C>
-constexpr uint32_t ancho_de_id(const C *texto) {
+template <class C> constexpr uint32_t ancho_de_id(const C *texto) {
     if (texto[0] != '<') return 0;
     uint32_t n = 1;
     while (texto[n] >= '0' && texto[n] <= '9') ++n;
     return n > 1 && texto[n] == '>' ? n + 1 : 0;
 }
 
-template <class C>
-struct grupo_de_textos {
+template <class C> struct grupo_de_textos {
     const char *nombre;
     uint32_t orden;
     uint32_t ancho_id;
@@ -65,8 +66,7 @@ struct grupo_de_textos {
     }
 };
 
-template <class C>
-consteval bool misma_forma(const C *a, const C *b, uint32_t ancho_id) {
+template <class C> consteval bool misma_forma(const C *a, const C *b, uint32_t ancho_id) {
     for (uint32_t i = 0; i < ancho_id; ++i)
         if (a[i] != b[i]) return false;
     // The same placeholders in the same order: a letter after each percent sign.
@@ -94,7 +94,8 @@ consteval grupo_de_textos<C> mensaje(const char *nombre, uint32_t orden, std::in
     if (g.textos[ES] == nullptr || g.textos[EN] == nullptr) throw "Spanish or English is missing";
     g.ancho_id = ancho_de_id(g.textos[ES]);
     for (const C *texto : g.textos)
-        if (texto != nullptr && !misma_forma(g.textos[ES], texto, g.ancho_id)) throw "a text differs in id or placeholders";
+        if (texto != nullptr && !misma_forma(g.textos[ES], texto, g.ancho_id))
+            throw "a text differs in id or placeholders";
     // ES_AM before 7 and 24, which repeat it.
     for (unsigned i = 0; i < MSGLOCAL_NUM_TEXTOS; ++i)
         if (g.textos[i] == nullptr) g.textos[i] = g.textos[columna_de_reserva(i)];
@@ -102,7 +103,8 @@ consteval grupo_de_textos<C> mensaje(const char *nombre, uint32_t orden, std::in
 }
 
 // A message for the wide reader, and one for the ANSI reader.
-consteval grupo_de_textos<vnwchar> mensaje_u(const char *nombre, uint32_t orden, std::initializer_list<texto_en<vnwchar>> t) {
+consteval grupo_de_textos<vnwchar> mensaje_u(const char *nombre, uint32_t orden,
+                                             std::initializer_list<texto_en<vnwchar>> t) {
     return mensaje<vnwchar>(nombre, orden, t);
 }
 consteval grupo_de_textos<char> mensaje_a(const char *nombre, uint32_t orden, std::initializer_list<texto_en<char>> t) {

@@ -118,7 +118,8 @@ template <class T, class C> leido<T> lee_entero(const C *s, size_t n, int base) 
         const auto m = c | 0x20;
         return m >= 'a' && m <= 'z' ? static_cast<unsigned>(m - 'a' + 10) : 99;
     };
-    if ((base == 0 || base == 16) && i < n && s[i] == '0' && i + 1 < n && (s[i + 1] | 0x20) == 'x' && cifra(i + 2) < 16) {
+    if ((base == 0 || base == 16) && i < n && s[i] == '0' && i + 1 < n && (s[i + 1] | 0x20) == 'x' &&
+        cifra(i + 2) < 16) {
         base = 16;
         i += 2;
     }
@@ -133,7 +134,7 @@ template <class T, class C> leido<T> lee_entero(const C *s, size_t n, int base) 
     }
     r.consumido = i;
     using limites = std::numeric_limits<T>;
-    const uint64_t tope = !negativo ? static_cast<uint64_t>(limites::max())
+    const uint64_t tope = !negativo             ? static_cast<uint64_t>(limites::max())
                           : std::is_signed_v<T> ? static_cast<uint64_t>(limites::max()) + 1
                                                 : 0;
     if (r.desborda || valor > tope) {

@@ -10,8 +10,8 @@
 namespace vn {
 
 template <class T> struct leido {
-    T valor = 0;          // 0 when there is no number
-    size_t consumido = 0; // units taken, blanks included; 0 when there is no number
+    T valor = 0;           // 0 when there is no number
+    size_t consumido = 0;  // units taken, blanks included; 0 when there is no number
     bool desborda = false; // the number does not fit the type
 };
 

@@ -1,6 +1,6 @@
 #define VN_MODULO "pagina (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/texto/pagina_priv.h"
 #include "foundation/platform/paginas.h"
+#include "foundation/texto/pagina_priv.h"
 #include "foundation/texto/unicode.h"
 #include <atomic>
 
@@ -42,8 +42,8 @@ void llena_pares(pagina &p, plat::decodificador &d) {
 void llena_bytes(pagina &p, plat::decodificador *d) {
     for (unsigned b = 0; b < 256; ++b) {
         const unsigned char byte = static_cast<unsigned char>(b);
-        // What a page of one byte leaves undefined is itself, like the control characters of all. In one of two bytes it is
-        // nothing, whether a platform says so or gives the control character: others take it for half of a pair.
+        // What a page of one byte leaves undefined is itself, like the control characters of all. In one of two bytes
+        // it is nothing, whether a platform says so or gives the control character: others take it for half of a pair.
         char16_t u = static_cast<char16_t>(b);
         if (p.lider[b] || (p.utf8 && b >= 0x80)) u = NO_ES;
         else if (b >= 0x80 && d != nullptr && (!d->unidad(&byte, 1, u) || es_relleno(u))) u = static_cast<char16_t>(b);

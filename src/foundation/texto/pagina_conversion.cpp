@@ -1,6 +1,6 @@
 #define VN_MODULO "pagina (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/texto/pagina_priv.h"
 #include "foundation/suelo/utf_int.h"
+#include "foundation/texto/pagina_priv.h"
 
 namespace vn {
 namespace {
@@ -17,8 +17,8 @@ template <class C> struct pluma {
     }
 };
 
-// The character at `i`, which moves past it. What is none is U+FFFD: half of a pair alone, and each longest piece of UTF-8
-// that begins no character, as Unicode recommends.
+// The character at `i`, which moves past it. What is none is U+FFFD: half of a pair alone, and each longest piece of
+// UTF-8 that begins no character, as Unicode recommends.
 uint32_t siguiente(vista_u s, size_t &i) {
     const uint32_t c = lee_utf16(s, i);
     return es_alto(c) || es_bajo(c) ? REEMPLAZO : c;

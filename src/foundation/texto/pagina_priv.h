@@ -14,12 +14,12 @@ namespace vn {
 struct pagina {
     uint32_t numero = 0;
     bool utf8 = false;
-    bool doble = false;               // has characters of two bytes
-    std::array<bool, 256> lider{};    // first byte of two
+    bool doble = false;                 // has characters of two bytes
+    std::array<bool, 256> lider{};      // first byte of two
     std::array<char16_t, 256> unidad{}; // of a byte by itself; U+FFFD if it is none
     // The byte in the other case and without accent, or the byte itself.
     std::array<unsigned char, 256> mayuscula{}, minuscula{}, sin_acento{};
-    std::unique_ptr<char16_t[]> pares; // [first << 8 | second], 0 when it is no character
+    std::unique_ptr<char16_t[]> pares;                    // [first << 8 | second], 0 when it is no character
     std::array<std::unique_ptr<uint16_t[]>, 256> inversa; // by the high byte of the unit, then the low one
 
     // The one or two bytes of a unit, 0 when the page does not have it.
@@ -43,7 +43,8 @@ constexpr uint32_t PAGINA_OEM = 850;
 size_t a_ancho(const pagina &p, std::string_view s, vnwchar *destino);
 // Wide text to a page. `perdida` is set, never cleared, when a character becomes '?'. With `sin_acentos`, a character
 // that the page does not have is tried without its accents first.
-size_t a_pagina(const pagina &p, std::basic_string_view<vnwchar> s, char *destino, bool &perdida, bool sin_acentos = false);
+size_t a_pagina(const pagina &p, std::basic_string_view<vnwchar> s, char *destino, bool &perdida,
+                bool sin_acentos = false);
 size_t utf8_a_ancho(std::string_view s, vnwchar *destino);
 size_t ancho_a_utf8(std::basic_string_view<vnwchar> s, char *destino);
 

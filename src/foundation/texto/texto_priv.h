@@ -2,8 +2,8 @@
 #pragma once
 
 #include "foundation/suelo/error_interno.h"
-#include "foundation/texto/pagina_priv.h"
 #include "foundation/suelo/propio_int.h"
+#include "foundation/texto/pagina_priv.h"
 #include <cstring>
 #include <functional>
 #include <string>
@@ -11,8 +11,7 @@
 
 // The check of a pointer in an operation that knows its caller: the report bears the caller's module and line.
 #define AFIRMA_NO_NULO_DE(p)                                                                                           \
-    (__builtin_expect((p) != nullptr, 1) ? true                                                                        \
-                                         : (error_interno("(" #p ") != NULL", modulo, linea, 0), false))
+    (__builtin_expect((p) != nullptr, 1) ? true : (error_interno("(" #p ") != NULL", modulo, linea, 0), false))
 
 // Whether one of them is null, and told.
 #define NULOS1(a) (!AFIRMA_NO_NULO_DE(a))

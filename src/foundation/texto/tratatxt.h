@@ -15,8 +15,8 @@ VN_C_INICIO
 char *tratatxt_recupera_espacio_y_salto_linea(const char *texto);
 /** Marked form to plain text: the inverse of tratatxt_recupera_espacio_y_salto_linea, for every text. */
 char *tratatxt_convierte_espacio_y_salto_linea(const char *texto);
-/** One line cut from a marked text, made safe to stand in a file: leading blanks, line ends and a leading square bracket
-    are marked. Markers that are there already stay. */
+/** One line cut from a marked text, made safe to stand in a file: leading blanks, line ends and a leading square
+    bracket are marked. Markers that are there already stay. */
 char *tratatxt_prepara_almohadilla_espacios_y_salto_linea(const char *linea);
 /** Colour codes, which a text holds as a pilcrow, a palette number and ";", may be edited by name: the Spanish names of
     the colours 1 to 9 (rojo, amarillo, verde, cian, azul, magenta, blanco, gris, gris claro), in any case, become their

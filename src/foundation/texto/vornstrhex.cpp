@@ -1,8 +1,8 @@
 #define VN_MODULO "vornstrhex (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/texto/vornstrhex.h"
 #include "foundation/suelo/afirma_int.h"
-#include "foundation/texto/numero_int.h"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/texto/numero_int.h"
 #include <cstring>
 
 using vn::cifra_hexadecimal;
@@ -50,7 +50,8 @@ vnbool vornstrhex_codifica_caracter_u(vnwchar c, vnwchar *alto, vnwchar *bajo) {
 
 vnbool vornstrhex_decodifica_caracter_u(vnwchar alto, vnwchar bajo, vnwchar *c) {
     if (!AFIRMA_NO_NULO(c)) return FALSO;
-    const uint32_t a = cifra_hexadecimal(static_cast<uint16_t>(alto)), b = cifra_hexadecimal(static_cast<uint16_t>(bajo));
+    const uint32_t a = cifra_hexadecimal(static_cast<uint16_t>(alto)),
+                   b = cifra_hexadecimal(static_cast<uint16_t>(bajo));
     if (a > 15 || b > 15) return FALSO;
     *c = static_cast<vnwchar>(a << 4 | b);
     return CIERTO;

@@ -9,8 +9,8 @@ VN_C_INICIO
 /** New ANSI text of two lower case hexadecimal digits per byte. */
 char *vornstrhex_nousar_buffer_a_cadena_hexadecimal(VN_LON(tamanyo) const void *datos,
                                                     VN_RANGO(0, 1073741823) uint32_t tamanyo);
-/** The bytes that the text stands for, a new block (freed with vornspy_free_pp), and their number. Digits of either case.
-    A text that is not an even number of digits is reported and gives null and 0. */
+/** The bytes that the text stands for, a new block (freed with vornspy_free_pp), and their number. Digits of either
+    case. A text that is not an even number of digits is reported and gives null and 0. */
 unsigned char *vornstrhex_nousar_cadena_hexadecimal_a_buffer(const char *texto, VN_SALIDA uint32_t *tamanyo);
 /** The same for text from outside: null and 0 without a report. */
 unsigned char *vornstrhex_nousar_cadena_hex_a_buffer(const char *texto, VN_SALIDA uint32_t *tamanyo);

@@ -27,8 +27,10 @@ void widestr_nousar_destruye_opcional(VN_OPC vnwchar **s, VN_OPC const char *mod
 /** widestr_destruye as a call-back: `s` is the address of the owner's pointer to a text of either width. */
 void widestr_fun_destruye(VN_SALIDA void *s);
 /** Frees the `n` texts of a list and the list, and leaves `*lista` null, which it may be already if `n` is 0. */
-void widestr_nousar_destruyeListaCadenas(uint32_t n, VN_OPC vnwchar ***lista, VN_OPC const char *modulo, uint32_t linea);
-/** New text of a printf-like format, as nousar_formatea, where `%s` and `%ls` take wide text and `%S` and `%hs` ANSI. */
+void widestr_nousar_destruyeListaCadenas(uint32_t n, VN_OPC vnwchar ***lista, VN_OPC const char *modulo,
+                                         uint32_t linea);
+/** New text of a printf-like format, as nousar_formatea, where `%s` and `%ls` take wide text and `%S` and `%hs`
+    ANSI. */
 vnwchar *copiaforu_nousar_formatea(VN_FORMATO const vnwchar *formato, ...);
 
 /** Length in units. */
@@ -59,7 +61,8 @@ vnbool widestr_nousar_hay_texto(VN_OPC const vnwchar *s, VN_OPC const char *modu
 vnbool widestr_nousar_es_subcadena(const vnwchar *s, const vnwchar *t, VN_OPC const char *modulo, uint32_t linea);
 vnbool widestr_nousar_es_subcadena_may_o_min(const vnwchar *s, const vnwchar *t, VN_OPC const char *modulo,
                                              uint32_t linea);
-vnbool widestr_nousar_es_subcadena_inicial(const vnwchar *s, const vnwchar *t, VN_OPC const char *modulo, uint32_t linea);
+vnbool widestr_nousar_es_subcadena_inicial(const vnwchar *s, const vnwchar *t, VN_OPC const char *modulo,
+                                           uint32_t linea);
 vnbool widestr_nousar_es_subcadena_inicial_may_o_min(const vnwchar *s, const vnwchar *t, VN_OPC const char *modulo,
                                                      uint32_t linea);
 vnbool widestr_nousar_es_subcadena_final(const vnwchar *s, const vnwchar *t, VN_OPC const char *modulo, uint32_t linea);
@@ -73,7 +76,8 @@ vnwchar *widestr_nousar_subcadena(const vnwchar *s, uint32_t inicio, uint32_t n,
 vnwchar *widestr_nousar_subcadena_inicial(const vnwchar *s, uint32_t n, VN_OPC const char *modulo, uint32_t linea);
 vnwchar *widestr_nousar_subcadena_final(const vnwchar *s, uint32_t n, VN_OPC const char *modulo, uint32_t linea);
 /** New text: what stands in `s` before the first `t`; all of `s` when `t` is not there. */
-vnwchar *widestr_nousar_subcadena_anterior(const vnwchar *s, const vnwchar *t, VN_OPC const char *modulo, uint32_t linea);
+vnwchar *widestr_nousar_subcadena_anterior(const vnwchar *s, const vnwchar *t, VN_OPC const char *modulo,
+                                           uint32_t linea);
 vnwchar *widestr_nousar_subcadena_anterior_may_o_min(const vnwchar *s, const vnwchar *t, VN_OPC const char *modulo,
                                                      uint32_t linea);
 /** New text: what stands in `s` after the first `t`; empty when `t` is not there. */
@@ -82,24 +86,28 @@ vnwchar *widestr_nousar_subcadena_posterior(const vnwchar *s, const vnwchar *t, 
 /** Takes every `t` out of `s`, in place. An empty `t` takes nothing. */
 void widestr_nousar_suprime_subcadena(vnwchar *s, const vnwchar *t, VN_OPC const char *modulo, uint32_t linea);
 /** Takes `t` from the beginning, or from the end, of `*s`, in place, if it stands there; tells whether it did. */
-vnbool widestr_nousar_suprime_subcadena_inicial(vnwchar **s, const vnwchar *t, VN_OPC const char *modulo, uint32_t linea);
+vnbool widestr_nousar_suprime_subcadena_inicial(vnwchar **s, const vnwchar *t, VN_OPC const char *modulo,
+                                                uint32_t linea);
 vnbool widestr_nousar_suprime_subcadena_final(vnwchar **s, const vnwchar *t, VN_OPC const char *modulo, uint32_t linea);
-/** Puts `b` in the place of every `a` of `*s`, from left to right; what was put in is not looked at again. `*s` may move.
-    An empty `a` changes nothing. */
+/** Puts `b` in the place of every `a` of `*s`, from left to right; what was put in is not looked at again. `*s` may
+    move. An empty `a` changes nothing. */
 void widestr_nousar_reemplaza_todas_cadenas(vnwchar **s, const vnwchar *a, const vnwchar *b, VN_OPC const char *modulo,
                                             uint32_t linea);
 
 /** New text: the token number `numero`, from 1, of `s` cut at any of the units of `separadores`; several in a row count
     as one. Null when there are fewer tokens. */
-vnwchar *widestr_nousar_extrae_token(const vnwchar *s, const vnwchar *separadores, VN_RANGO(1, 4294967295) uint32_t numero,
-                                     VN_OPC const char *modulo, uint32_t linea);
+vnwchar *widestr_nousar_extrae_token(const vnwchar *s, const vnwchar *separadores,
+                                     VN_RANGO(1, 4294967295) uint32_t numero, VN_OPC const char *modulo,
+                                     uint32_t linea);
 /** Splits at every unit that is one of `separadores`, or at every `separador`: n of them give n + 1 pieces, empty ones
-    too, as they stand. The list and its texts are the caller's, freed with widestr_destruyeListaCadenas. Returns how many. */
+    too, as they stand. The list and its texts are the caller's, freed with widestr_destruyeListaCadenas. Returns how
+    many. */
 uint32_t widestr_nousar_lista_de_subcadenas_sin_eliminar_blancos(const vnwchar *s, const vnwchar *separadores,
                                                                  VN_SALIDA vnwchar ***lista, VN_OPC const char *modulo,
                                                                  uint32_t linea);
-uint32_t widestr_nousar_lista_de_subcadenas_un_separador(const vnwchar *s, vnwchar separador, VN_SALIDA vnwchar ***lista,
-                                                         VN_OPC const char *modulo, uint32_t linea);
+uint32_t widestr_nousar_lista_de_subcadenas_un_separador(const vnwchar *s, vnwchar separador,
+                                                         VN_SALIDA vnwchar ***lista, VN_OPC const char *modulo,
+                                                         uint32_t linea);
 /** How many pieces widestr_lista_de_subcadenas_un_separador gives. */
 uint32_t widestr_nousar_numero_de_subcadenas(const vnwchar *s, vnwchar separador, VN_OPC const char *modulo,
                                              uint32_t linea);

@@ -150,18 +150,21 @@ uint32_t widestr_nousar_lista_de_subcadenas_sin_eliminar_blancos(const vnwchar *
                                                                  vnwchar ***lista, const char *modulo, uint32_t linea) {
     if (NULOS3(s, separadores, lista)) return 0;
     const vista cortes(separadores);
-    return texto::lista<vnwchar>(s, [cortes](vnwchar c) { return cortes.find(c) != NO_ESTA; }, lista, QUIEN);
+    return texto::lista<vnwchar>(
+        s, [cortes](vnwchar c) { return cortes.find(c) != NO_ESTA; }, lista, QUIEN);
 }
 
 uint32_t widestr_nousar_lista_de_subcadenas_un_separador(const vnwchar *s, vnwchar separador, vnwchar ***lista,
                                                          const char *modulo, uint32_t linea) {
     if (NULOS2(s, lista)) return 0;
-    return texto::lista<vnwchar>(s, [separador](vnwchar c) { return c == separador; }, lista, QUIEN);
+    return texto::lista<vnwchar>(
+        s, [separador](vnwchar c) { return c == separador; }, lista, QUIEN);
 }
 
 uint32_t widestr_nousar_numero_de_subcadenas(const vnwchar *s, vnwchar separador, const char *modulo, uint32_t linea) {
     if (NULOS1(s)) return 0;
-    return texto::trocea<vnwchar>(s, [separador](vnwchar c) { return c == separador; }, [](vista) {});
+    return texto::trocea<vnwchar>(
+        s, [separador](vnwchar c) { return c == separador; }, [](vista) {});
 }
 
 double widestr_nousar_atof(const vnwchar *s, const char *modulo, uint32_t linea) {

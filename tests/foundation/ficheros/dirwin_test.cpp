@@ -21,12 +21,11 @@ PRUEBA(dirwin, el_recorrido_da_cada_uno_una_vez) {
         EXPECT_TRUE(nuevo);
         if (es_dir) continue;
         int64_t fecha = 0;
-        timefich_obtener_fecha_fichero_existente_UTC_UNICODE((vn::ancho(d + "/") + dato.nombre).c_str(),
-                                                             &fecha);
+        timefich_obtener_fecha_fichero_existente_UTC_UNICODE((vn::ancho(d + "/") + dato.nombre).c_str(), &fecha);
         EXPECT_EQ(dato.fecha_UTC, fecha);
     }
-    EXPECT_EQ(vistos, (std::map<std::string, std::string>{
-                          {"a.obr", "5"}, {"sub.obr", "dir"}, {largo + "ñ文.obr", "0"}}));
+    EXPECT_EQ(vistos,
+              (std::map<std::string, std::string>{{"a.obr", "5"}, {"sub.obr", "dir"}, {largo + "ñ文.obr", "0"}}));
     EXPECT_EQ(dato.nombre[0], 0);
     EXPECT_EQ(dirwin_findnextfile_UNICODE(w, &dato), FALSO);
     dirwin_destruye_UNICODE(&w);

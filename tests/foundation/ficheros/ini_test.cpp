@@ -17,15 +17,33 @@ PRUEBA(ini, de_cada_texto_un_numero) {
         std::string texto;
         int32_t valor;
     } filas[] = {
-        {"[Sec]\nClave=12\n", 12}, {"[Sec]\r\nClave=12\r\n", 12}, {"[Sec]\nClave=12", 12}, {"\xEF\xBB\xBF[Sec]\nClave=12", 12},
-        {" [ sEC ] resto\n\tcLAVE \t= +12 ; resto\n", 12}, {"[Sec]\nClave=-2147483648", INT32_MIN},
-        {"[Sec]\nClave=99999999999999999999", INT32_MAX}, {"[Sec]\nClave=-99999999999", INT32_MIN},
-        {"[Sec]\nClave=0x10", 0}, {"[Sec]\nClave=010", 10}, {"[Sec]\nClave=1.9", 1}, {"[Sec]\nClave=", 0}, {"[Sec]\nClave=abc", 0},
+        {"[Sec]\nClave=12\n", 12},
+        {"[Sec]\r\nClave=12\r\n", 12},
+        {"[Sec]\nClave=12", 12},
+        {"\xEF\xBB\xBF[Sec]\nClave=12", 12},
+        {" [ sEC ] resto\n\tcLAVE \t= +12 ; resto\n", 12},
+        {"[Sec]\nClave=-2147483648", INT32_MIN},
+        {"[Sec]\nClave=99999999999999999999", INT32_MAX},
+        {"[Sec]\nClave=-99999999999", INT32_MIN},
+        {"[Sec]\nClave=0x10", 0},
+        {"[Sec]\nClave=010", 10},
+        {"[Sec]\nClave=1.9", 1},
+        {"[Sec]\nClave=", 0},
+        {"[Sec]\nClave=abc", 0},
         // The first section of the name, and the first key in it.
-        {"Clave=1\n[Otra]\nClave=2\n[Sec]\nClave=3\nClave=4\n[Sec]\nClave=5", 3}, {"[Sec]\nOtra=1\n[Sec]\nClave=2", -7},
-        {"[Sec]\n;Clave=1\nClave2=2\nMi Clave=3\nClave=4", 4}, {"[Sec\nClave=1", 1}, {"[]\nClave=1", -7}, {"[Sec]\nClave", -7},
-        {"[Sec]\n=1\n==\nClave==1", 0}, {"[Sec]\n" + largo + "\nClave=6\n", 6}, {"[Sec]\nClave=" + std::string(5000, '0') + "6", 6},
-        {ceros + "[Sec]\nClave=1", -7}, {"[Sec]\n" + ceros + "\nClave=1" + ceros, 1}, {"", -7}, {largo, -7},
+        {"Clave=1\n[Otra]\nClave=2\n[Sec]\nClave=3\nClave=4\n[Sec]\nClave=5", 3},
+        {"[Sec]\nOtra=1\n[Sec]\nClave=2", -7},
+        {"[Sec]\n;Clave=1\nClave2=2\nMi Clave=3\nClave=4", 4},
+        {"[Sec\nClave=1", 1},
+        {"[]\nClave=1", -7},
+        {"[Sec]\nClave", -7},
+        {"[Sec]\n=1\n==\nClave==1", 0},
+        {"[Sec]\n" + largo + "\nClave=6\n", 6},
+        {"[Sec]\nClave=" + std::string(5000, '0') + "6", 6},
+        {ceros + "[Sec]\nClave=1", -7},
+        {"[Sec]\n" + ceros + "\nClave=1" + ceros, 1},
+        {"", -7},
+        {largo, -7},
     };
     for (const auto &f : filas) {
         vn::graba_fichero(directorio() + "/f.ini", f.texto);

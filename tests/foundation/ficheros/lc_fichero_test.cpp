@@ -84,10 +84,8 @@ PRUEBA(lc_fichero, random_steps_agree_with_a_model) {
             case 0:
             case 1: {
                 std::string s(n, static_cast<char>('a' + paso % 26));
-                if (n < 16)
-                    vnfichero_pon(f.get(), s.data(), n, VN_AQUI);
-                else
-                    pon(f, s);
+                if (n < 16) vnfichero_pon(f.get(), s.data(), n, VN_AQUI);
+                else pon(f, s);
                 if (n == 0) break;
                 if (modelo.size() < aqui + n) modelo.resize(aqui + n);
                 modelo.replace(aqui, n, s);
@@ -167,10 +165,8 @@ PRUEBA(lc_fichero, text_lines) {
     while (texto.size() < 200000) texto += std::string(texto.size() % 131, 'x') + "\n";
     pon(abre("texto", "wt"), texto);
     const std::string crudo = lee_fichero(ruta("texto"));
-    if (EN_WINDOWS)
-        EXPECT_EQ(crudo.substr(0, 22), "uno\r\ndos\r\n\r\n\x1A tres\r\r\r\n");
-    else
-        EXPECT_TRUE(crudo == texto);
+    if (EN_WINDOWS) EXPECT_EQ(crudo.substr(0, 22), "uno\r\ndos\r\n\r\n\x1A tres\r\r\r\n");
+    else EXPECT_TRUE(crudo == texto);
     flujo f = abre("texto", "rt");
     std::string leido;
     std::vector<std::pair<size_t, int32_t>> sitios;

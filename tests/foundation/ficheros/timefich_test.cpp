@@ -30,9 +30,8 @@ PRUEBA(timefich, un_momento_se_descompone) {
         timefich_fecha fecha;
         timefich_convertir_fecha(t, CIERTO, &fecha);
         const std::tm d = *std::localtime(&t);
-        EXPECT_EQ(campos(fecha),
-                  (std::vector<int32_t>{d.tm_year + 1900, d.tm_mon + 1, d.tm_mday, d.tm_hour, d.tm_min,
-                                        d.tm_sec, d.tm_wday, d.tm_yday, d.tm_isdst}));
+        EXPECT_EQ(campos(fecha), (std::vector<int32_t>{d.tm_year + 1900, d.tm_mon + 1, d.tm_mday, d.tm_hour, d.tm_min,
+                                                       d.tm_sec, d.tm_wday, d.tm_yday, d.tm_isdst}));
     }
     timefich_fecha fecha;
     ESPERA_INFORME("fecha_UTC >= PRIMER_SEGUNDO && fecha_UTC <= ULTIMO_SEGUNDO",
@@ -46,8 +45,7 @@ PRUEBA(timefich, la_fecha_de_un_fichero) {
     int64_t fecha = 0;
     EXPECT_EQ(timefich_obtener_fecha_fichero_existente_UTC(nombre.c_str(), &fecha), CIERTO);
     EXPECT_NEAR(static_cast<double>(fecha), static_cast<double>(std::time(nullptr)), 60);
-    std::filesystem::last_write_time(nombre,
-                                     std::filesystem::last_write_time(nombre) - std::chrono::hours(1000));
+    std::filesystem::last_write_time(nombre, std::filesystem::last_write_time(nombre) - std::chrono::hours(1000));
     int64_t antes = 0;
     EXPECT_EQ(timefich_obtener_fecha_fichero_existente_UTC(nombre.c_str(), &antes), CIERTO);
     EXPECT_EQ(fecha - antes, 3600000);

@@ -1,7 +1,7 @@
 #define VN_MODULO "vdir_test"
 #include "foundation/ficheros/vdir.h"
-#include "foundation/suelo/vnlongpath.h"
 #include "foundation/ficheros/vorndir.h"
+#include "foundation/suelo/vnlongpath.h"
 #include "texto_ancho.h"
 #include <atomic>
 #include <fstream>
@@ -19,9 +19,8 @@ auto en(const std::string &nombre) { return ancho(vn::Prueba::directorio() + "/"
 
 // A new file of so many bytes, through a call that any name and any length of path suit.
 bool crea_fichero(const std::basic_string<vnwchar> &ruta) {
-    void *const h =
-        vnlongpath_CreateFileW(ruta.c_str(), VNLONGPATH_GENERIC_WRITE, 0, nullptr, VNLONGPATH_CREATE_NEW,
-                               VNLONGPATH_FILE_ATTRIBUTE_NORMAL, nullptr);
+    void *const h = vnlongpath_CreateFileW(ruta.c_str(), VNLONGPATH_GENERIC_WRITE, 0, nullptr, VNLONGPATH_CREATE_NEW,
+                                           VNLONGPATH_FILE_ATTRIBUTE_NORMAL, nullptr);
     return vnlongpath_CloseHandle(h) == CIERTO;
 }
 
@@ -61,8 +60,7 @@ PRUEBA(vdir, una_ruta_se_descompone_y_se_recompone) {
         SCOPED_TRACE(f.ruta);
         const auto ruta = ancho(f.ruta);
         vnwchar *partes[4] = {};
-        EXPECT_EQ(vdir_splitpath_con_comprobacion_UNICODE(ruta.c_str(), &partes[0], &partes[1], &partes[2],
-                                                          &partes[3]),
+        EXPECT_EQ(vdir_splitpath_con_comprobacion_UNICODE(ruta.c_str(), &partes[0], &partes[1], &partes[2], &partes[3]),
                   CIERTO);
         EXPECT_EQ(toma(vdir_makepath_UNICODE(partes[0], partes[1], partes[2], partes[3])), propia(f.ruta));
         EXPECT_EQ(toma(partes[0]), propia(f.unidad));
@@ -81,13 +79,11 @@ PRUEBA(vdir, las_rutas_se_componen) {
     } filas[] = {{"a", "b", "a\\b"},     {"a/", "\\b/c", "a\\b\\c"}, {"", "b", "b"}, {"a\\", "", "a\\"},
                  {"C:\\", "x", "C:\\x"}, {"/", "x", "\\x"},          {"", "", ""}};
     for (const auto &f : filas) {
-        EXPECT_EQ(toma(vdir_concatena_directorios_UNICODE(ancho(f.a).c_str(), ancho(f.b).c_str())),
-                  propia(f.juntas));
+        EXPECT_EQ(toma(vdir_concatena_directorios_UNICODE(ancho(f.a).c_str(), ancho(f.b).c_str())), propia(f.juntas));
         EXPECT_EQ(toma(vdir_concatena_directorios(f.a, f.b)), propia(f.juntas));
     }
     EXPECT_EQ(toma(vdir_makepath_UNICODE(VNU("C"), VNU("a"), VNU("x"), VNU(".obr"))), propia("C:a\\x.obr"));
-    EXPECT_EQ(toma(vdir_makepath_UNICODE(VNU("\\\\s\\c"), VNU("a"), VNU("x"), nullptr)),
-              propia("\\\\s\\c\\a\\x"));
+    EXPECT_EQ(toma(vdir_makepath_UNICODE(VNU("\\\\s\\c"), VNU("a"), VNU("x"), nullptr)), propia("\\\\s\\c\\a\\x"));
     EXPECT_EQ(toma(vdir_nombre_fichero_con_ext_UNICODE(VNU("obra.v2"), VNU("obr"))), "obra.v2.obr");
     EXPECT_EQ(toma(vdir_nombre_fichero_con_ext_UNICODE(VNU("obra.OBR"), VNU(".obr"))), "obra.OBR");
     EXPECT_EQ(toma(vdir_nombre_fichero_con_ext_UNICODE(VNU("obra"), VNU(""))), "obra");
@@ -225,8 +221,7 @@ PRUEBA(vdir, renombrar_no_reemplaza_nada) {
 
 PRUEBA(vdir, una_ruta_larga_con_cualquier_letra) {
     std::string larga = "raiz";
-    for (int i = 0; i < 12; ++i)
-        larga += "/" + std::to_string(i) + "_año_文字_\U0001F600_" + std::string(40, 'x');
+    for (int i = 0; i < 12; ++i) larga += "/" + std::to_string(i) + "_año_文字_\U0001F600_" + std::string(40, 'x');
     const auto dir = en(larga), fichero = en(larga + "/шрифт.obr"), otro = en(larga + "\\otro.obr");
     ASSERT_GT(fichero.size(), 600u);
     EXPECT_EQ(vdir_crea_directorios_UNICODE(dir.c_str(), CIERTO), CIERTO);
@@ -253,7 +248,8 @@ PRUEBA(vdir, un_arbol_hondo_se_crea_se_lista_y_se_borra) {
                                                                                &directorios),
               CIERTO);
     ASSERT_EQ(arr_NumElemsCADENA_u(directorios), static_cast<uint32_t>(niveles));
-    EXPECT_EQ(arr_GetCADENA_u(directorios, static_cast<uint32_t>(niveles) - 1), ancho(propia(vn::utf8_de(dir.c_str()))));
+    EXPECT_EQ(arr_GetCADENA_u(directorios, static_cast<uint32_t>(niveles) - 1),
+              ancho(propia(vn::utf8_de(dir.c_str()))));
     vorndir_libera_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(&ficheros, &directorios);
     EXPECT_EQ(vdir_borra_directorio_y_subdirectorios_UNICODE(en("hondo").c_str()), CIERTO);
     EXPECT_EQ(vdir_existe_directorio_UNICODE(en("hondo").c_str()), FALSO);
@@ -328,8 +324,7 @@ PRUEBA(vdir, un_nombre_cualquiera_va_y_vuelve) {
         arrCADENA_u *a = nullptr;
         EXPECT_EQ(vdir_lista_de_ficheros_UNICODE(ancho(directorio()).c_str(), VNU("*"), &a), CIERTO);
         ASSERT_EQ(arr_NumElemsCADENA_u(a), 1u);
-        vnwchar *ruta =
-            vdir_concatena_directorios_UNICODE(ancho(directorio()).c_str(), arr_GetCADENA_u(a, 0));
+        vnwchar *ruta = vdir_concatena_directorios_UNICODE(ancho(directorio()).c_str(), arr_GetCADENA_u(a, 0));
         EXPECT_EQ(vdir_longitud_fichero_u(ruta), 2u);
         EXPECT_EQ(vdir_borra_fichero_UNICODE(ruta), CIERTO);
         toma(ruta);

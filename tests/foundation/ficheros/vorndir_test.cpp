@@ -64,8 +64,8 @@ PRUEBA(vorndir, las_listas_dan_rutas_y_bajan) {
               rutas({"/1.obr", "/ш.obr", "/a/2.obr", "/c/5.obr", "/a/b/3.obr"}));
     EXPECT_EQ(toma(std::exchange(directorios, nullptr)),
               hay_enlaces ? rutas({"/a", "/c", "/a/b", "/c/vuelta"}) : rutas({"/a", "/c", "/a/b"}));
-    EXPECT_EQ(vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(
-                  ancho(d + "/no").c_str(), VNU("*"), &ficheros, &directorios),
+    EXPECT_EQ(vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(ancho(d + "/no").c_str(), VNU("*"),
+                                                                               &ficheros, &directorios),
               FALSO);
     EXPECT_EQ(arr_NumElemsCADENA_u(ficheros) + arr_NumElemsCADENA_u(directorios), 0u);
     vorndir_libera_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(&ficheros, &directorios);

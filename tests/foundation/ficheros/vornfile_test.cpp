@@ -1,7 +1,7 @@
 #include "fallos.h"
 #include "foundation/ficheros/fichmem.h"
-#include "foundation/sistema/vnmutex.h"
 #include "foundation/ficheros/vornfile.h"
+#include "foundation/sistema/vnmutex.h"
 #include "plataforma/ficheros.h"
 #include "plataforma/proceso.h"
 #include "plataforma/regional.h"
@@ -265,13 +265,15 @@ PRUEBA(vornfile, streams_that_are_not_the_save_s_own) {
     const auto n = nombre("x"), otro = nombre("y");
     vnfichero *f = lc_fopen_u(n.c_str(), VNU("rb"));
     EXPECT_EQ(ESPERA_INFORME("abierto para hacerse definitivo al cerrar",
-                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str())), FALSO);
+                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str())),
+              FALSO);
     f = lc_fopen_u(n.c_str(), VNU("rb"));
     EXPECT_EQ(ESPERA_INFORME("abierto para hacerse definitivo al cerrar", vornfile_abandonar_fichero_escritura(f)),
               FALSO);
     f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
     EXPECT_EQ(ESPERA_INFORME("nombre con el que se ha abierto",
-                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, otro.c_str())), FALSO);
+                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, otro.c_str())),
+              FALSO);
     EXPECT_EQ(lee_fichero(ruta("x")) + lee_fichero(ruta("y")), "xy");
     // Told nonsense: it fails, and says so.
     f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());

@@ -1,7 +1,7 @@
 #define VN_MODULO "vtxt_test"
 #include "foundation/ficheros/lc_fichero.h"
-#include "foundation/texto/unicode.h"
 #include "foundation/ficheros/vtxt.h"
+#include "foundation/texto/unicode.h"
 #include "prueba.h"
 #include <bit>
 #include <cmath>
@@ -14,8 +14,7 @@ std::string nombre() { return vn::Prueba::directorio() + "/lineas.txt"; }
 vnfichero *abre(const vnwchar *modo) { return lc_fopen_u(vn::ancho(nombre()).c_str(), modo); }
 
 // What `escribe` puts in a text file, as bytes with the line ends of the program.
-template <class F>
-std::string escrito(F &&escribe) {
+template <class F> std::string escrito(F &&escribe) {
     vnfichero *f = abre(VNU("wt"));
     escribe(f);
     lc_fclose(f);
@@ -24,8 +23,7 @@ std::string escrito(F &&escribe) {
     return bytes;
 }
 
-template <class F>
-void leyendo(std::string_view contenido, F &&lee) {
+template <class F> void leyendo(std::string_view contenido, F &&lee) {
     vn::graba_fichero(nombre(), contenido);
     vnfichero *f = abre(VNU("rt"));
     lee(f);
@@ -64,8 +62,16 @@ PRUEBA(vtxt, los_valores_se_separan_con_un_blanco_y_las_lineas_se_cierran) {
 }
 
 PRUEBA(vtxt, cada_numero_vuelve_tal_cual) {
-    const double dobles[] = {0.0, -0.0, 0.1, 1e300, 5e-324, 1.7976931348623157e308, -3, 123456789012345680.0,
-                             std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
+    const double dobles[] = {0.0,
+                             -0.0,
+                             0.1,
+                             1e300,
+                             5e-324,
+                             1.7976931348623157e308,
+                             -3,
+                             123456789012345680.0,
+                             std::numeric_limits<double>::infinity(),
+                             -std::numeric_limits<double>::infinity()};
     const std::string bytes = escrito([&](vnfichero *f) {
         for (const double d : dobles) vtxt_escr_double(d, f);
         vtxt_escr_double_y_salta(-std::nan(""), f);
@@ -81,7 +87,8 @@ PRUEBA(vtxt, cada_numero_vuelve_tal_cual) {
     });
     EXPECT_NE(bytes.find("inf -inf nan\n"), bytes.npos);
     leyendo(bytes, [&](vnfichero *f) {
-        for (const double d : dobles) EXPECT_EQ(std::bit_cast<uint64_t>(vtxt_lee_double(f)), std::bit_cast<uint64_t>(d));
+        for (const double d : dobles)
+            EXPECT_EQ(std::bit_cast<uint64_t>(vtxt_lee_double(f)), std::bit_cast<uint64_t>(d));
         EXPECT_TRUE(std::isnan(vtxt_lee_double_y_salta(f)));
         for (int i = 0; i < 256; ++i) EXPECT_EQ(vtxt_lee_char(f), static_cast<char>(i));
         vtxt_salta_linea(f);
@@ -117,19 +124,30 @@ PRUEBA(vtxt, los_textos_ocupan_lo_que_queda_de_la_linea) {
 }
 
 PRUEBA(vtxt, los_textos_anchos_conservan_cada_unidad) {
-    const std::u16string filas[] = {u"", u"C:\\Obras\\ñandú.obr", u" con\nsalto\r\ny\ttab ", u"\U0001F600\xD800|\xDC00\xD83D",
-                                    u"\x10""0041\x7F\xFFFD\xFFFE\x0001"};
+    const std::u16string filas[] = {u"", u"C:\\Obras\\ñandú.obr", u" con\nsalto\r\ny\ttab ",
+                                    u"\U0001F600\xD800|\xDC00\xD83D",
+                                    u"\x10"
+                                    "0041\x7F\xFFFD\xFFFE\x0001"};
     const auto texto_de = [](const std::u16string &s) { return std::basic_string<vnwchar>(s.begin(), s.end()); };
     const std::string bytes = escrito([&](vnfichero *f) {
         for (const auto &s : filas) vtxt_escr_cadena_unicode(texto_de(s).c_str(), f);
     });
     EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 5);
-    EXPECT_NE(bytes.find("\nC:\\Obras\\ñandú.obr\n con\x10""000Asalto"), bytes.npos);
+    EXPECT_NE(bytes.find("\nC:\\Obras\\ñandú.obr\n con\x10"
+                         "000Asalto"),
+              bytes.npos);
     leyendo(bytes, [&](vnfichero *f) {
         for (const auto &s : filas) EXPECT_EQ(tomado(vtxt_lee_cadena_unicode(f)), s);
     });
     // What the writer never makes is told.
-    for (const char *mal : {"a\xFFz\n", "\x10""00\n", "\x10""0000\n", "\x10""00g1\n", ""})
+    for (const char *mal : {"a\xFFz\n",
+                            "\x10"
+                            "00\n",
+                            "\x10"
+                            "0000\n",
+                            "\x10"
+                            "00g1\n",
+                            ""})
         leyendo(mal, [&](vnfichero *f) { ESPERA_INFORME(MAL, tomado(vtxt_lee_cadena_unicode(f))); });
 }
 
@@ -177,7 +195,8 @@ PRUEBA(vtxt, un_buffer_nunca_se_pasa) {
         EXPECT_EQ(vtxt_lee_linea(f, buffer, 5), nullptr);
     });
     leyendo("aññ\nabcd\nfin", [&](vnfichero *f) {
-        for (const char16_t *esperado : {u"añ", u"ñ", u"abcd", u"fin"}) EXPECT_EQ(tomado(vtxt_lee_linea_utf8_a_unicode(f, 4)), esperado);
+        for (const char16_t *esperado : {u"añ", u"ñ", u"abcd", u"fin"})
+            EXPECT_EQ(tomado(vtxt_lee_linea_utf8_a_unicode(f, 4)), esperado);
         EXPECT_EQ(vtxt_lee_linea_utf8_a_unicode(f, 4), nullptr);
     });
     vnwchar ancho[4] = {'#', '#', '#', '#'};
@@ -209,7 +228,8 @@ PRUEBA(vtxt, los_miembros_de_dos_sentidos_vuelven_por_donde_fueron) {
     std::basic_string<vnwchar> ancha = vn::ancho("línea\n2");
     valores v{CIERTO, 2.5, 65535, 255, texto, viejo, ancha.data()}, w{};
     const std::string bytes = escrito([&](vnfichero *f) { trata(v, f, CIERTO); });
-    EXPECT_EQ(bytes, "2.5 ; comentario\nSI\n65535 255 un texto\nlínea\x10""000A2\n\xA4\n");
+    EXPECT_EQ(bytes, "2.5 ; comentario\nSI\n65535 255 un texto\nlínea\x10"
+                     "000A2\n\xA4\n");
     leyendo(bytes, [&](vnfichero *f) { trata(w, f, FALSO); });
     EXPECT_TRUE(w.logico == CIERTO && w.doble == 2.5 && w.corto == 65535 && w.byte == 255);
     EXPECT_EQ(tomado(w.cadena), "un texto");

@@ -7,7 +7,8 @@ PRUEBA(acadorde, distinguiendo_ordena_por_bytes_y_no_repite) {
     const struct {
         const char *texto;
         vnbool nuevo;
-    } filas[] = {{"b", CIERTO}, {"", CIERTO}, {"B", CIERTO}, {"\xF1", CIERTO}, {"b", FALSO}, {"a", CIERTO}, {"bb", CIERTO}};
+    } filas[] = {{"b", CIERTO}, {"", CIERTO},  {"B", CIERTO}, {"\xF1", CIERTO},
+                 {"b", FALSO},  {"a", CIERTO}, {"bb", CIERTO}};
     for (const auto &[texto, nuevo] : filas) EXPECT_EQ(acadorde_inserta(a, texto), nuevo) << texto;
     const char *orden[] = {"", "B", "a", "b", "bb", "\xF1"};
     ASSERT_EQ(acadorde_numelems(a), 6u);
@@ -21,7 +22,8 @@ PRUEBA(acadorde, distinguiendo_ordena_por_bytes_y_no_repite) {
     EXPECT_EQ(ESPERA_INFORME("i < num_elementos", acadorde_get(a, 6)), nullptr);
     EXPECT_EQ(ESPERA_INFORME("(a) != NULL", acadorde_get(nullptr, 0)), nullptr);
     acadorde_destruye(&a);
-    EXPECT_EQ(ESPERA_INFORME("distingue_may_y_min == CIERTO || distingue_may_y_min == FALSO", acadorde_crea(2)), nullptr);
+    EXPECT_EQ(ESPERA_INFORME("distingue_may_y_min == CIERTO || distingue_may_y_min == FALSO", acadorde_crea(2)),
+              nullptr);
 }
 
 PRUEBA(acadorde, sin_distinguir_el_primero_se_queda) {
@@ -34,7 +36,8 @@ PRUEBA(acadorde, sin_distinguir_el_primero_se_queda) {
     acadorde_destruye(&a);
 
     acadordeu *u = acadordeu_crea(FALSO);
-    for (const char *s : {"Ñandú", "ábaco", "ÑANDÚ", "zorro", "Ábaco", "ñandú"}) acadordeu_inserta(u, vn::ancho(s).c_str());
+    for (const char *s : {"Ñandú", "ábaco", "ÑANDÚ", "zorro", "Ábaco", "ñandú"})
+        acadordeu_inserta(u, vn::ancho(s).c_str());
     ASSERT_EQ(acadordeu_numelems(u), 3u);
     EXPECT_EQ(vn::utf8_de(acadordeu_get(u, 0)), "zorro");
     vnwchar *c = acadordeu_get_copia(u, 2);

@@ -33,10 +33,18 @@ PRUEBA(arr_geometria, las_figuras_tienen_los_pasos_de_su_parte_de_la_vuelta_y_se
     const struct {
         double inicial, final;
         uint32_t por_vuelta, puntos;
-    } filas[] = {{-PI / 2., PI / 2., 18, 10}, {PI / 2., -PI / 2., 18, 10}, {0., 2. * PI, 64, 65},
-                 {0., 2. * PI + 1e-9, 64, 65}, {0., 1e300, 64, 65},
-                 {-1e300, 1e300, 64, 65}, {0., PI / 2., 6, 3}, {0., PI / 32., 64, 2}, {0., PI / 32. + 1e-6, 64, 3},
-                 {1., 1., 64, 2}, {NAN_, 1., 64, 0}, {0., INF, 64, 0}};
+    } filas[] = {{-PI / 2., PI / 2., 18, 10},
+                 {PI / 2., -PI / 2., 18, 10},
+                 {0., 2. * PI, 64, 65},
+                 {0., 2. * PI + 1e-9, 64, 65},
+                 {0., 1e300, 64, 65},
+                 {-1e300, 1e300, 64, 65},
+                 {0., PI / 2., 6, 3},
+                 {0., PI / 32., 64, 2},
+                 {0., PI / 32. + 1e-6, 64, 3},
+                 {1., 1., 64, 2},
+                 {NAN_, 1., 64, 0},
+                 {0., INF, 64, 0}};
     for (const auto &f : filas) {
         const puntos a = con({});
         arr_AnyadirArcoPunto2D(a.get(), 10., 20., 5., f.inicial, f.final, f.por_vuelta);
@@ -44,13 +52,13 @@ PRUEBA(arr_geometria, las_figuras_tienen_los_pasos_de_su_parte_de_la_vuelta_y_se
         for (const Punto2D &p : vn::tramo(a.get())) EXPECT_TRUE(cerca(std::hypot(p.x - 10., p.y - 20.), 5., 5.));
     }
     const puntos a = con({{7., 7.}});
-    arr_AnyadirArcoPunto2D(a.get(), 0., 0., 1., PI / 2., -PI / 2., 4);                        // clockwise
-    arr_AnyadirCirculoPunto2D(a.get(), 1., 2., 3., 4);                                        // the first is not repeated
-    arr_AnyadirArcoElipsePunto2D(a.get(), 1., 2., 30., 10., 0., PI, PI / 2., 4);              // its long axis upwards
+    arr_AnyadirArcoPunto2D(a.get(), 0., 0., 1., PI / 2., -PI / 2., 4);           // clockwise
+    arr_AnyadirCirculoPunto2D(a.get(), 1., 2., 3., 4);                           // the first is not repeated
+    arr_AnyadirArcoElipsePunto2D(a.get(), 1., 2., 30., 10., 0., PI, PI / 2., 4); // its long axis upwards
     arr_AnyadirCirculoPunto2D(a.get(), NAN_, 0., 1., 5);
     ESPERA_INFORME("num_puntos >= 3 && num_puntos <= 1000000", arr_AnyadirCirculoPunto2D(a.get(), 0., 0., 1., 2));
-    const Punto2D esperados[] = {{7., 7.}, {0., 1.}, {1., 0.}, {0., -1.}, {4., 2.}, {1., 5.}, {-2., 2.}, {1., -1.}, {1., 32.},
-                                 {-9., 2.}, {1., -28.}};
+    const Punto2D esperados[] = {{7., 7.},  {0., 1.},  {1., 0.},  {0., -1.}, {4., 2.},  {1., 5.},
+                                 {-2., 2.}, {1., -1.}, {1., 32.}, {-9., 2.}, {1., -28.}};
     ASSERT_EQ(arr_NumElemsPunto2D(a.get()), std::size(esperados));
     for (uint32_t i = 0; i < std::size(esperados); ++i) EXPECT_TRUE(es(a, i, esperados[i].x, esperados[i].y)) << i;
 }

@@ -1,7 +1,7 @@
 #define VN_MODULO "arr_test"
-#include "foundation/listas/arr.h"
 #include "foundation/listas/acadorde.h"
 #include "foundation/listas/apunorde.h"
+#include "foundation/listas/arr.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/punto.h"
 #include "prueba.h"
@@ -11,7 +11,9 @@
 
 namespace {
 
-char *nuevo(const char *s) { return static_cast<char *>(std::memcpy(vornspy_malloc(std::strlen(s) + 1), s, std::strlen(s) + 1)); }
+char *nuevo(const char *s) {
+    return static_cast<char *>(std::memcpy(vornspy_malloc(std::strlen(s) + 1), s, std::strlen(s) + 1));
+}
 
 struct viga {
     int clave, orden;
@@ -32,7 +34,8 @@ int compara_clave(const int *a, const viga *b) { return (*a > b->clave) - (*a < 
 // One contract for every family of plain elements.
 #define CONTRATO(S, T)                                                                                                 \
     PRUEBA(arr, familia_##S) {                                                                                         \
-        const T uno = 1, cero = 0, tope = std::is_same_v<T, vnbool> && #S[0] == 'B' ? T(1) : std::numeric_limits<T>::max(); \
+        const T uno = 1, cero = 0,                                                                                     \
+                tope = std::is_same_v<T, vnbool> && #S[0] == 'B' ? T(1) : std::numeric_limits<T>::max();               \
         arr##S *a = arr_Crea##S(2);                                                                                    \
         EXPECT_EQ(arr_Get##S(a, 1), cero);                                                                             \
         arr_Inicializa##S(a, uno);                                                                                     \
@@ -145,7 +148,8 @@ PRUEBA(arr, las_cadenas_son_del_array) {
     arr_ReduceTamanyoCADENA(b, 2);
     ESPERA_INFORME("n <= num_elementos", arr_ReduceTamanyoCADENA(b, 3));
     std::string vistos;
-    RecorreCADENA(b, [](const char *e, void *d) { *static_cast<std::string *>(d) += e; }, &vistos);
+    RecorreCADENA(
+        b, [](const char *e, void *d) { *static_cast<std::string *>(d) += e; }, &vistos);
     EXPECT_EQ(vistos, "cerodos");
     arr_DestruyeCADENA(&b);
     arr_DestruyeCADENA(&a);
@@ -226,7 +230,8 @@ PRUEBA(arr, las_estructuras_se_ordenan_se_buscan_y_se_destruyen) {
     EXPECT_EQ(pos, 1001u);
     EXPECT_EQ(arr_BuscarUnicaEstructuraST(a, &clave, int, viga, compara_clave), VN_ARR_NO_ESTA);
     clave = 3;
-    EXPECT_EQ(ESPERA_INFORME("num_encontrados <= 1", arr_BuscarUnicaEstructuraST(a, &clave, int, viga, compara_clave)), 300u);
+    EXPECT_EQ(ESPERA_INFORME("num_encontrados <= 1", arr_BuscarUnicaEstructuraST(a, &clave, int, viga, compara_clave)),
+              300u);
     EXPECT_EQ(arr_BuscarPunteroST(a, arr_GetPunteroST(a, 17, viga), viga), 17u);
     arr_BorrarEstructuraST(a, 17, viga, destruye);
     arr_AppendPunteroST(a, nullptr, viga);
@@ -251,7 +256,8 @@ PRUEBA(arr, un_comparador_sin_orden_o_que_informa_no_pierde_elementos) {
         });
     }));
     int suma = 0;
-    arr_RecorreEstructuraSimpleST(a, viga, int, [](viga *v, int *s) { *s += v->clave; }, &suma);
+    arr_RecorreEstructuraSimpleST(
+        a, viga, int, [](viga *v, int *s) { *s += v->clave; }, &suma);
     EXPECT_EQ(suma, 4950);
     arr_DestruyeEstructurasST(&a, viga, destruye);
 }
@@ -263,7 +269,12 @@ PRUEBA(arr, un_array_de_arrays_y_el_paseo_que_lo_cambia) {
     EXPECT_EQ(a, nullptr);
 
     arrChar *c = arr_CreaChar(1);
-    arr_RecorreChar(c, [](char e, void *d) { if (e < 50) arr_AppendChar(static_cast<arrChar *>(d), static_cast<char>(e + 1)); }, c);
+    arr_RecorreChar(
+        c,
+        [](char e, void *d) {
+            if (e < 50) arr_AppendChar(static_cast<arrChar *>(d), static_cast<char>(e + 1));
+        },
+        c);
     EXPECT_EQ(arr_NumElemsChar(c), 51u);
     arr_DestruyeChar(&c);
 
@@ -282,8 +293,9 @@ PRUEBA(arr, sin_memoria_no_se_pierde_nada) {
         arrCADENA *textos = arr_CreaCADENA(0);
         arrPuntero *vigas = arr_CreaPunteroST(0, viga);
         acadorde *conjunto = acadorde_crea(FALSO);
-        apunorde *orden = apunorde_crea(viga, void, [](const viga *v, const viga *w, void *) { return compara(v, w); },
-                                        static_cast<void *>(nullptr), destruye);
+        apunorde *orden = apunorde_crea(
+            viga, void, [](const viga *v, const viga *w, void *) { return compara(v, w); },
+            static_cast<void *>(nullptr), destruye);
     };
     using operacion = void (*)(caso *);
     const operacion operaciones[] = {

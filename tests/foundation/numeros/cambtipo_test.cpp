@@ -5,8 +5,7 @@
 namespace {
 
 // Both ends of what fits go through; one step beyond is reported and comes back as that end.
-template <class De, class A>
-void extremos(A (*f)(De), De minimo, De maximo, const char *texto) {
+template <class De, class A> void extremos(A (*f)(De), De minimo, De maximo, const char *texto) {
     EXPECT_EQ(f(minimo), static_cast<A>(minimo)) << texto;
     EXPECT_EQ(f(maximo), static_cast<A>(maximo)) << texto;
     const auto fuera = [&](De valor, De esperado) {
@@ -32,7 +31,8 @@ PRUEBA(cambtipo, los_extremos_caben_y_lo_demas_se_informa_y_se_acota) {
     extremos<int16_t>(cambtipo_short_a_unsigned_int, 0, 32767, "short valor cabe en unsigned_int");
     extremos<size_t>(cambtipo_size_t_a_unsigned_long, 0, UINT32_MAX, "size_t valor cabe en unsigned_long");
     extremos<unsigned>(cambtipo_unsigned_int_a_int, 0, INT32_MAX, "unsigned_int valor cabe en int");
-    extremos<uint64_t>(cambtipo_unsigned_long64_a_unsigned_long, 0, UINT32_MAX, "unsigned_long64 valor cabe en unsigned_long");
+    extremos<uint64_t>(cambtipo_unsigned_long64_a_unsigned_long, 0, UINT32_MAX,
+                       "unsigned_long64 valor cabe en unsigned_long");
     extremos<uint32_t>(cambtipo_unsigned_long_a_int, 0, INT32_MAX, "unsigned_long valor cabe en int");
     extremos<uint32_t>(cambtipo_unsigned_long_a_long, 0, INT32_MAX, "unsigned_long valor cabe en long");
     extremos<uint32_t>(cambtipo_unsigned_long_a_short, 0, 32767, "unsigned_long valor cabe en short");

@@ -24,16 +24,17 @@ struct ejes {
     vector3 x, y, z;
     vnbool hay;
     ejes(const vector3 &p, const vector3 &q)
-        : hay(mt_calcular_ejes_3D_dados_2_puntos(p.x, p.y, p.z, q.x, q.y, q.z, &x.x, &x.y, &x.z, &y.x, &y.y, &y.z, &z.x, &z.y,
-                                                 &z.z)) {}
+        : hay(mt_calcular_ejes_3D_dados_2_puntos(p.x, p.y, p.z, q.x, q.y, q.z, &x.x, &x.y, &x.z, &y.x, &y.y, &y.z, &z.x,
+                                                 &z.y, &z.z)) {}
     ejes(const vector3 &p, const vector3 &q, const vector3 &r)
-        : hay(mt_calcular_ejes_3D_dados_3_puntos(p.x, p.y, p.z, q.x, q.y, q.z, r.x, r.y, r.z, &x.x, &x.y, &x.z, &y.x, &y.y,
-                                                 &y.z, &z.x, &z.y, &z.z)) {}
+        : hay(mt_calcular_ejes_3D_dados_3_puntos(p.x, p.y, p.z, q.x, q.y, q.z, r.x, r.y, r.z, &x.x, &x.y, &x.z, &y.x,
+                                                 &y.y, &y.z, &z.x, &z.y, &z.z)) {}
     // How far they are from unit vectors, square to each other and right-handed.
     double error() const {
         vector3 xy;
         mt_producto_vectorial(x.x, x.y, x.z, y.x, y.y, y.z, &xy.x, &xy.y, &xy.z);
-        return std::fabs(por(x, x) - 1.) + std::fabs(por(y, y) - 1.) + std::fabs(por(x, y)) + std::fabs(por(xy, z) - 1.);
+        return std::fabs(por(x, x) - 1.) + std::fabs(por(y, y) - 1.) + std::fabs(por(x, y)) +
+               std::fabs(por(xy, z) - 1.);
     }
 };
 
@@ -70,17 +71,24 @@ PRUEBA(mt, los_angulos_acaban_en_una_vuelta_y_a_tiempo) {
         const double f = mt_filtra_angulo_mayor_que_cero(a);
         EXPECT_TRUE(f >= 0. && f < VUELTA) << a << " " << f;
     }
-    const double filas[][2] = {{-1e-17, 0.}, {VUELTA, 0.}, {abajo(VUELTA), abajo(VUELTA)}, {7., 7. - VUELTA},
-                               {-1., VUELTA - 1.}, {INF, 0.}, {NAN_, 0.}};
+    const double filas[][2] = {{-1e-17, 0.},      {VUELTA, 0.},       {abajo(VUELTA), abajo(VUELTA)},
+                               {7., 7. - VUELTA}, {-1., VUELTA - 1.}, {INF, 0.},
+                               {NAN_, 0.}};
     for (const auto &f : filas) EXPECT_EQ(mt_filtra_angulo_mayor_que_cero(f[0]), f[1]);
     // A sample for the platforms to agree on, and what has no direction.
-    const double angulos[][3] = {{1., 2., 1.1071487177940904}, {-3., 0.1, 3.108271657711546}, {-3., -0.1, 3.1749136494680403},
-                                 {1e-9, -7., 4.712388980527547}, {-1e200, -1e199, 3.241261306080955}, {0., 0., 0.},
-                                 {1., -1e-300, 0.}, {NAN_, 1., 0.}};
+    const double angulos[][3] = {{1., 2., 1.1071487177940904},
+                                 {-3., 0.1, 3.108271657711546},
+                                 {-3., -0.1, 3.1749136494680403},
+                                 {1e-9, -7., 4.712388980527547},
+                                 {-1e200, -1e199, 3.241261306080955},
+                                 {0., 0., 0.},
+                                 {1., -1e-300, 0.},
+                                 {NAN_, 1., 0.}};
     for (const auto &f : angulos) EXPECT_TRUE(cerca(mt_angulo(0., 0., f[0], f[1]), f[2])) << f[0] << " " << f[1];
     azar a(1);
     for (int i = 0; i < CASOS; ++i) {
-        const double x = a.entre(-5., 5.), y = a.entre(-5., 5.), d = mt_distancia(x, y, 0., 0.), t = mt_angulo(0., 0., x, y);
+        const double x = a.entre(-5., 5.), y = a.entre(-5., 5.), d = mt_distancia(x, y, 0., 0.),
+                     t = mt_angulo(0., 0., x, y);
         ASSERT_TRUE(t >= 0. && t < VUELTA && std::fabs(std::cos(t) * d - x) + std::fabs(std::sin(t) * d - y) < 1e-14);
         ASSERT_EQ(mt_angulo_a_partir_de_seno_y_coseno(y, x), t);
         // The middle of the turn from there on, also past the half turn.
@@ -100,14 +108,30 @@ PRUEBA(mt, un_arco_tiene_sus_limites_con_su_tolerancia) {
     const struct {
         double angulo, inicio, fin;
         vnbool dentro;
-    } filas[] = {{1., 1., 2., CIERTO}, {2. + 0.999 * T, 1., 2., CIERTO}, {2. + 1.001 * T, 1., 2., FALSO},
+    } filas[] = {{1., 1., 2., CIERTO},
+                 {2. + 0.999 * T, 1., 2., CIERTO},
+                 {2. + 1.001 * T, 1., 2., FALSO},
                  {1. - 0.999 * T, 1., 2., CIERTO},
-                 {1. - 1.001 * T, 1., 2., FALSO}, {0., 6., 0.5, CIERTO}, {5.9, 6., 0.5, FALSO}, {3., 0., VUELTA, CIERTO},
-                 {3., 1., 1. - VUELTA, CIERTO}, {3., 1., 1., FALSO}, {1., 1., 1., CIERTO}, {3., 1., abajo(1.), FALSO},
-                 {1., 0., -2. * VUELTA, CIERTO}, {4., 0., -1.5 * VUELTA, FALSO},
-                 {1. + VUELTA, 0.9, 1.1, CIERTO}, {1. - 9. * VUELTA, 0.9, 1.1, CIERTO}, {T, 0., 0., CIERTO},
-                 {arriba(T), 0., 0., FALSO}, {1.5, 9., 0.5, FALSO}, {3., 9., 0.5, CIERTO}, {1.5, 0.5, 9., CIERTO},
-                 {NAN_, 0., VUELTA, FALSO}, {1., 0., INF, FALSO}, {1., -1e300, 0., CIERTO}};
+                 {1. - 1.001 * T, 1., 2., FALSO},
+                 {0., 6., 0.5, CIERTO},
+                 {5.9, 6., 0.5, FALSO},
+                 {3., 0., VUELTA, CIERTO},
+                 {3., 1., 1. - VUELTA, CIERTO},
+                 {3., 1., 1., FALSO},
+                 {1., 1., 1., CIERTO},
+                 {3., 1., abajo(1.), FALSO},
+                 {1., 0., -2. * VUELTA, CIERTO},
+                 {4., 0., -1.5 * VUELTA, FALSO},
+                 {1. + VUELTA, 0.9, 1.1, CIERTO},
+                 {1. - 9. * VUELTA, 0.9, 1.1, CIERTO},
+                 {T, 0., 0., CIERTO},
+                 {arriba(T), 0., 0., FALSO},
+                 {1.5, 9., 0.5, FALSO},
+                 {3., 9., 0.5, CIERTO},
+                 {1.5, 0.5, 9., CIERTO},
+                 {NAN_, 0., VUELTA, FALSO},
+                 {1., 0., INF, FALSO},
+                 {1., -1e300, 0., CIERTO}};
     for (const auto &f : filas)
         EXPECT_EQ(mt_angulo_dentro_de_rango(f.angulo, f.inicio, f.fin), f.dentro)
             << f.angulo << " " << f.inicio << " " << f.fin;
@@ -131,20 +155,23 @@ PRUEBA(mt, las_transformaciones_giran_hacia_donde_dicen) {
 
 // At each tolerance, one step beyond it, and what has no answer.
 PRUEBA(mt, cada_tolerancia_esta_en_su_limite) {
-    const auto pertenece = [](double x, double y) { return mt_punto_pertenece_a_segmento(x, y, -1., 0., 0., 0.) == CIERTO; };
+    const auto pertenece = [](double x, double y) {
+        return mt_punto_pertenece_a_segmento(x, y, -1., 0., 0., 0.) == CIERTO;
+    };
     const double P = 1e-5, C = 1e-6;
     EXPECT_TRUE(pertenece(P, 0.) && !pertenece(arriba(P), 0.) && pertenece(-0.5, -P) && !pertenece(-0.5, arriba(P)) &&
                 !pertenece(NAN_, 0.));
     EXPECT_TRUE(mt_punto_pertenece_a_segmento(0., P, 0., 0., 0., 0.) == CIERTO &&
                 mt_punto_pertenece_a_segmento(0., arriba(P), 0., 0., 0., 0.) == FALSO);
     const auto cruza = [](mt_segmento_t a, mt_segmento_t b) {
-        return mt_existe_interseccion_entre_segmentos(a.x1, a.y1, a.x2, a.y2, b.x1, b.y1, b.x2, b.y2, nullptr, nullptr) ==
-               CIERTO;
+        return mt_existe_interseccion_entre_segmentos(a.x1, a.y1, a.x2, a.y2, b.x1, b.y1, b.x2, b.y2, nullptr,
+                                                      nullptr) == CIERTO;
     };
     const auto vertical = [](double x) { return seg(x, -1., x, 1.); };
     EXPECT_TRUE(cruza(seg(0., 0., 1., 0.), vertical(-C)) && !cruza(seg(0., 0., 1., 0.), vertical(-arriba(C))));
     EXPECT_TRUE(cruza(seg(-1., 0., 0., 0.), vertical(C)) && !cruza(seg(-1., 0., 0., 0.), vertical(arriba(C) + 2e-16)));
-    EXPECT_TRUE(cruza(seg(-1., 0., 1., 0.), seg(0., C, 0., 1.)) && !cruza(seg(-1., 0., 1., 0.), seg(0., arriba(C), 0., 1.)));
+    EXPECT_TRUE(cruza(seg(-1., 0., 1., 0.), seg(0., C, 0., 1.)) &&
+                !cruza(seg(-1., 0., 1., 0.), seg(0., arriba(C), 0., 1.)));
     EXPECT_FALSE(cruza(seg(0., 0., 2., 2.), seg(1., 1., 3., 3.)) || cruza(seg(0., 0., 0., 0.), vertical(0.)) ||
                  cruza(seg(0., NAN_, 1., 0.), vertical(0.)));
     // What is on one line but for the rounding of its coordinates is parallel, and what is off it by more is not.
@@ -153,13 +180,16 @@ PRUEBA(mt, cada_tolerancia_esta_en_su_limite) {
         const vn::lugar l = vn::lugar_de(i);
         const double g = a.entre(0., VUELTA), z = a.entre(-1., 1.);
         const auto p = [&](double t, double al_lado = 0.) {
-            return vector3{l.x + t * std::cos(g) - al_lado * std::sin(g), l.y + t * std::sin(g) + al_lado * std::cos(g), l.z + t * z};
+            return vector3{l.x + t * std::cos(g) - al_lado * std::sin(g), l.y + t * std::sin(g) + al_lado * std::cos(g),
+                           l.z + t * z};
         };
         const double k = a.entre(.1, 10.), fuera = l.escala(1.) * 1e-11;
         const vector3 e[] = {p(0.), p(k), p(k / 2.), p(3. * k), p(.6 * k, fuera), p(.3 * k, -fuera)};
         ASSERT_FALSE(cruza(seg(e[0].x, e[0].y, e[1].x, e[1].y), seg(e[2].x, e[2].y, e[3].x, e[3].y))) << i;
         ASSERT_TRUE(cruza(seg(e[0].x, e[0].y, e[1].x, e[1].y), seg(e[4].x, e[4].y, e[5].x, e[5].y))) << i;
-        ASSERT_TRUE(ejes(e[0], e[1], e[3]).hay == FALSO && ejes(e[2], e[3], e[0]).hay == FALSO && ejes(e[0], e[1], e[4]).hay == CIERTO) << i;
+        ASSERT_TRUE(ejes(e[0], e[1], e[3]).hay == FALSO && ejes(e[2], e[3], e[0]).hay == FALSO &&
+                    ejes(e[0], e[1], e[4]).hay == CIERTO)
+            << i;
     }
     EXPECT_TRUE(mt_puntos2D_iguales(C, 0., 0., -C) == CIERTO && mt_puntos2D_iguales(arriba(C), 0., 0., 0.) == FALSO);
     EXPECT_TRUE(mt_puntos2D_iguales_con_tolerancia(0., 0.25, 0., 0., 0.25) == CIERTO &&
@@ -168,7 +198,9 @@ PRUEBA(mt, cada_tolerancia_esta_en_su_limite) {
         return mt_existe_interseccion_recta_con_plano(0., 0., 1., 1., 0., z, 0., 0., 1., 0., nullptr, nullptr, nullptr);
     };
     EXPECT_TRUE(corta(1e-6) == FALSO && corta(1.000001e-6) == CIERTO && corta(NAN_) == FALSO);
-    EXPECT_EQ(mt_existe_interseccion_recta_con_plano(0., 0., 1e308, 1., 0., 1e-5, 0., 0., 1., 0., nullptr, nullptr, nullptr), FALSO);
+    EXPECT_EQ(
+        mt_existe_interseccion_recta_con_plano(0., 0., 1e308, 1., 0., 1e-5, 0., 0., 1., 0., nullptr, nullptr, nullptr),
+        FALSO);
 }
 
 // A cut at an end is that end, and its own segment is not cut; the inside test of polygons stands on this.
@@ -177,20 +209,25 @@ PRUEBA(mt, los_cortes_de_segmentos_dicen_cual_queda_partido) {
     const struct {
         mt_segmento_t a, b;
         const char *cortes; // of the one, of the other
-    } filas[] = {
-        {seg(0, 0, 4, 4), seg(0, 4, 4, 0), "(2,2);(2,2);"}, {seg(0, 0, 4, 0), seg(1, 0, 1, 5), "(1,0);;"},
-        {seg(0, 0, 4, 0), seg(1, 5, 1, 0), "(1,0);;"},
-        {seg(1, 0, 1, 5), seg(0, 0, 4, 0), ";(1,0);"}, {seg(0, 0, 4, 0), seg(4, 0, 4, 5), ";;"},
-        {seg(0, 0, 9, 0), seg(7, 0, 2, 0), "(2,0)(7,0);;"},
-        {seg(9, 0, 0, 0), seg(2, 0, 7, 0), "(7,0)(2,0);;"}, {seg(0, 0, 0, 5), seg(0, 3, 0, 8), "(0,3);(0,5);"},
-        {seg(0, 0, 4, 4), seg(0, 0, 4, 4), ";;"},
-        {seg(0, 0, 4, 4), seg(4, 4, 6, 6), ";;"}, {seg(0, 0, 4, 4), seg(1, 1, 1, 1), "(1,1);;"},
-        {seg(0, 0, 4, 4), seg(1, 2, 1, 2), ";;"},
-        {seg(2, 2, 2, 2), seg(2, 2, 2, 2), ";;"}, {seg(0, 0, 1e308, 0), seg(5e307, -1, 5e307, 1e308), "(5e+307,0);(5e+307,0);"},
-        {seg(0, 0, NAN_, 0), seg(0, 1, 1, -1), ";;"}, {seg(0, 0, INF, 0), seg(0, 1, 1, -1), ";;"},
-        // Half a unit beside the line, at the far ends of 32 bits.
-        {seg(MIN, MIN, MAX, MAX - 1.), seg(0., 0., -5., 5.), ";;"},
-        {seg(MIN, MIN, MAX, MAX - 1.), seg(0., 0., 5., -5.), "(0.25,-0.25);(0.25,-0.25);"}};
+    } filas[] = {{seg(0, 0, 4, 4), seg(0, 4, 4, 0), "(2,2);(2,2);"},
+                 {seg(0, 0, 4, 0), seg(1, 0, 1, 5), "(1,0);;"},
+                 {seg(0, 0, 4, 0), seg(1, 5, 1, 0), "(1,0);;"},
+                 {seg(1, 0, 1, 5), seg(0, 0, 4, 0), ";(1,0);"},
+                 {seg(0, 0, 4, 0), seg(4, 0, 4, 5), ";;"},
+                 {seg(0, 0, 9, 0), seg(7, 0, 2, 0), "(2,0)(7,0);;"},
+                 {seg(9, 0, 0, 0), seg(2, 0, 7, 0), "(7,0)(2,0);;"},
+                 {seg(0, 0, 0, 5), seg(0, 3, 0, 8), "(0,3);(0,5);"},
+                 {seg(0, 0, 4, 4), seg(0, 0, 4, 4), ";;"},
+                 {seg(0, 0, 4, 4), seg(4, 4, 6, 6), ";;"},
+                 {seg(0, 0, 4, 4), seg(1, 1, 1, 1), "(1,1);;"},
+                 {seg(0, 0, 4, 4), seg(1, 2, 1, 2), ";;"},
+                 {seg(2, 2, 2, 2), seg(2, 2, 2, 2), ";;"},
+                 {seg(0, 0, 1e308, 0), seg(5e307, -1, 5e307, 1e308), "(5e+307,0);(5e+307,0);"},
+                 {seg(0, 0, NAN_, 0), seg(0, 1, 1, -1), ";;"},
+                 {seg(0, 0, INF, 0), seg(0, 1, 1, -1), ";;"},
+                 // Half a unit beside the line, at the far ends of 32 bits.
+                 {seg(MIN, MIN, MAX, MAX - 1.), seg(0., 0., -5., 5.), ";;"},
+                 {seg(MIN, MIN, MAX, MAX - 1.), seg(0., 0., 5., -5.), "(0.25,-0.25);(0.25,-0.25);"}};
     for (const auto &f : filas) {
         mt_segmento_t a = f.a, b = f.b;
         mt_calcula_inter_segmentos(&a, &b);
@@ -209,8 +246,9 @@ PRUEBA(mt, los_cortes_de_segmentos_dicen_cual_queda_partido) {
     }
 }
 
-// Against the determinant in 128 bits: near-collinear whole points of the full range; at a survey's coordinates, in steps of
-// 2^-28 m, two segments at a hair's angle, the second longer at both ends. Where they cross is right along them, too.
+// Against the determinant in 128 bits: near-collinear whole points of the full range; at a survey's coordinates, in
+// steps of 2^-28 m, two segments at a hair's angle, the second longer at both ends. Where they cross is right along
+// them, too.
 PRUEBA(mt, el_lado_y_el_cruce_son_exactos_en_todo_el_rango) {
     azar a(3);
     vn::huella h;
@@ -218,11 +256,13 @@ PRUEBA(mt, el_lado_y_el_cruce_son_exactos_en_todo_el_rango) {
     for (int i = 0; i < 2 * CASOS; ++i) {
         const bool lejos = i % 2 != 0;
         const double paso = lejos ? 0x1p-28 : 1.;
-        const int64_t ox = lejos ? 500000ll << 28 : 0, oy = lejos ? 4500000ll << 28 : 0, lado_ = lejos ? 1ll << 31 : INT32_MAX;
+        const int64_t ox = lejos ? 500000ll << 28 : 0, oy = lejos ? 4500000ll << 28 : 0,
+                      lado_ = lejos ? 1ll << 31 : INT32_MAX;
         const int64_t pelo = lejos ? 1ll << (2 + a.entero(21)) : 3;
         const auto x = [&] { return a.entero_entre(-lado_ - 1, lado_); };
         const auto n = [&] { return a.entero_entre(-pelo, pelo); };
-        const int64_t x1 = ox + x(), y1 = oy + x(), x2 = ox + x(), y2 = oy + x(), m = lejos ? -500 : a.entero_entre(1, 1000), d = n();
+        const int64_t x1 = ox + x(), y1 = oy + x(), x2 = ox + x(), y2 = oy + x(),
+                      m = lejos ? -500 : a.entero_entre(1, 1000), d = n();
         // About the m-th thousandth of the segment, to a few units.
         const int64_t px = x1 + (x2 - x1) * m / 1000 + d, py = y1 + (y2 - y1) * m / 1000 + (lejos ? n() : d);
         const int64_t qx = lejos ? x2 + (x2 - x1) / 2 + n() : x(), qy = lejos ? y2 + (y2 - y1) / 2 + n() : x();
@@ -250,12 +290,23 @@ PRUEBA(mt, el_lado_y_el_cruce_son_exactos_en_todo_el_rango) {
 PRUEBA(mt, las_raices_van_en_orden_y_no_pierden_cifras) {
     const struct {
         double a, b, c, r1, r2; // 9, 9: no roots
-    } filas[] = {{1., -3., 2., 2., 1.}, {-1., 3., -2., 1., 2.}, {1., 3., 2., -1., -2.}, {1., 0., -4., 2., -2.},
-                 {1., 2., 1., -1., -1.}, {1., 0., 0., 0., 0.},
-                 {0., 2., -4., 2., 2.}, {0., 0., 1., 9., 9.}, {1., 0., 1., 9., 9.}, {1., -1e8, 1., 1e8, 1e-8},
-                 {NAN_, 1., 0., 9., 9.}, {1., INF, 0., 9., 9.},
-                 {0x1p600, -3 * 0x1p600, 0x1p601, 2., 1.}, {1e-170, -3e-170, 2e-170, 2., 1.}, {1e200, 3., 1e-200, -0.38196601125010515e-200, -2.618033988749895e-200},
-                 {94906265.625, -189812534., 94906268.375, 1.0000000289759583, 1.}, {1e-300, 1e300, 0., 9., 9.}};
+    } filas[] = {{1., -3., 2., 2., 1.},
+                 {-1., 3., -2., 1., 2.},
+                 {1., 3., 2., -1., -2.},
+                 {1., 0., -4., 2., -2.},
+                 {1., 2., 1., -1., -1.},
+                 {1., 0., 0., 0., 0.},
+                 {0., 2., -4., 2., 2.},
+                 {0., 0., 1., 9., 9.},
+                 {1., 0., 1., 9., 9.},
+                 {1., -1e8, 1., 1e8, 1e-8},
+                 {NAN_, 1., 0., 9., 9.},
+                 {1., INF, 0., 9., 9.},
+                 {0x1p600, -3 * 0x1p600, 0x1p601, 2., 1.},
+                 {1e-170, -3e-170, 2e-170, 2., 1.},
+                 {1e200, 3., 1e-200, -0.38196601125010515e-200, -2.618033988749895e-200},
+                 {94906265.625, -189812534., 94906268.375, 1.0000000289759583, 1.},
+                 {1e-300, 1e300, 0., 9., 9.}};
     for (const auto &f : filas) {
         double r1 = 9., r2 = 9.;
         EXPECT_EQ(mt_raices_ecuacion_segundo_grado(f.a, f.b, f.c, &r1, &r2), f.r1 != 9.) << "row " << &f - filas;
@@ -272,14 +323,18 @@ PRUEBA(mt, los_ejes_y_los_pies_estan_donde_se_piden) {
         const double k = l.x > 0. ? 1. : std::ldexp(1., static_cast<int>(a.entero(400)) - 200);
         const auto r = [&] { return k * (a.entero(5) == 0 ? 0. : a.entre(-1., 1.)); };
         const auto un_punto = [&] { return vector3{l.x + r(), l.y + r(), l.z + r()}; };
-        const auto menos = [&k](const vector3 &p, const vector3 &q) { return vector3{(p.x - q.x) / k, (p.y - q.y) / k, (p.z - q.z) / k}; };
+        const auto menos = [&k](const vector3 &p, const vector3 &q) {
+            return vector3{(p.x - q.x) / k, (p.y - q.y) / k, (p.z - q.z) / k};
+        };
         const vector3 p = un_punto(), q = un_punto(), s = un_punto(), u = menos(q, p), v = menos(s, p);
         const double cota = l.escala(20.) * 1e-13;
         vector3 pie, corte, producto;
         if (const ejes e(p, q, s); e.hay == CIERTO) {
-            ASSERT_TRUE(e.error() < 1e-14 && por(e.x, u) > 0. && std::fabs(por(e.y, u)) < 1e-14 && std::fabs(por(e.z, v)) < 1e-7 &&
-                        por(e.y, v) > 0.) << i;
-            mt_producto_vectorial_3ptos(0., 0., 0., u.x, u.y, u.z, v.x, v.y, v.z, &producto.x, &producto.y, &producto.z);
+            ASSERT_TRUE(e.error() < 1e-14 && por(e.x, u) > 0. && std::fabs(por(e.y, u)) < 1e-14 &&
+                        std::fabs(por(e.z, v)) < 1e-7 && por(e.y, v) > 0.)
+                << i;
+            mt_producto_vectorial_3ptos(0., 0., 0., u.x, u.y, u.z, v.x, v.y, v.z, &producto.x, &producto.y,
+                                        &producto.z);
             ASSERT_GT(por(producto, e.z), 0.) << i;
         }
         const ejes e(p, q);
@@ -288,16 +343,21 @@ PRUEBA(mt, los_ejes_y_los_pies_estan_donde_se_piden) {
         mt_proyecta_punto_sobre_recta_3D(s.x, s.y, s.z, p.x, p.y, p.z, q.x, q.y, q.z, &pie.x, &pie.y, &pie.z);
         ASSERT_TRUE(e.hay == CIERTO ? std::fabs(por(menos(s, pie), e.x)) < cota : pie.x == p.x && pie.z == p.z) << i;
         const double D = mt_D_plano_posicionado_en_coordenada(e.z.x, e.z.y, e.z.z, p.x, p.y, p.z);
-        if (mt_existe_interseccion_recta_con_plano(s.x, s.y, s.z, 0., 0., 5., e.z.x, e.z.y, e.z.z, D, &corte.x, &corte.y, &corte.z) == CIERTO) {
-            ASSERT_TRUE(corte.x == s.x && corte.y == s.y && std::fabs(por(menos(corte, p), e.z)) < cota / std::fabs(e.z.z)) << i;
+        if (mt_existe_interseccion_recta_con_plano(s.x, s.y, s.z, 0., 0., 5., e.z.x, e.z.y, e.z.z, D, &corte.x,
+                                                   &corte.y, &corte.z) == CIERTO) {
+            ASSERT_TRUE(corte.x == s.x && corte.y == s.y &&
+                        std::fabs(por(menos(corte, p), e.z)) < cota / std::fabs(e.z.z))
+                << i;
         }
     }
     // The limit of 1/64, in each of the two components: Y turns from Yg x N to horizontal.
     for (const double c : {1. / 64., abajo(1. / 64.)}) {
         double Xx, Xy, Xz;
-        vornmath_calcula_matriz_transformacion_autocad(c, 0., std::sqrt(1. - c * c), &Xx, &Xy, &Xz, nullptr, nullptr, nullptr);
+        vornmath_calcula_matriz_transformacion_autocad(c, 0., std::sqrt(1. - c * c), &Xx, &Xy, &Xz, nullptr, nullptr,
+                                                       nullptr);
         EXPECT_EQ(Xz != 0. && Xx > 0.9, c < 1. / 64.);
-        vornmath_calcula_matriz_transformacion_autocad(0., -c, std::sqrt(1. - c * c), &Xx, &Xy, &Xz, nullptr, nullptr, nullptr);
+        vornmath_calcula_matriz_transformacion_autocad(0., -c, std::sqrt(1. - c * c), &Xx, &Xy, &Xz, nullptr, nullptr,
+                                                       nullptr);
         EXPECT_TRUE(Xy == 0. && Xz == 0. && Xx > 0.9);
     }
     // Three points on a line, one point, not a number: the global axes, and said so.

@@ -1,5 +1,5 @@
-#include "foundation/numeros/vmatr.h"
 #include "foundation/numeros/mt.h"
+#include "foundation/numeros/vmatr.h"
 #include "propiedades.h"
 #include "prueba.h"
 #include <array>
@@ -49,9 +49,10 @@ PRUEBA(vmatr, los_productos_son_las_sumas_de_productos_tambien_sobre_si_mismos) 
     for (uint32_t n = 1; n <= 6; ++n)
         for (uint32_t m = 1; m <= 6; ++m)
             for (uint32_t c = 1; c <= 5; c += 2) {
-                const matriz cambio = hecha(n, m, al_azar), columnas = hecha(m, c, al_azar), otras = hecha(n, c, al_azar);
-                const matriz r(vmatr_producto_cambio_x_columnas(cambio.get(), columnas.get())), buf = hecha(n, c, al_azar),
-                                                                                                tras = hecha(m, c, al_azar);
+                const matriz cambio = hecha(n, m, al_azar), columnas = hecha(m, c, al_azar),
+                             otras = hecha(n, c, al_azar);
+                const matriz r(vmatr_producto_cambio_x_columnas(cambio.get(), columnas.get())),
+                    buf = hecha(n, c, al_azar), tras = hecha(m, c, al_azar);
                 vmatr_producto_sobre_buffer_cambio_x_columnas(cambio.get(), columnas.get(), buf.get());
                 vmatr_producto_sobre_buffer_cambio_trasp_x_columnas(cambio.get(), otras.get(), tras.get());
                 ASSERT_LT(error_de_producto(r, cambio, columnas) + error_de_producto(buf, cambio, columnas) +
@@ -98,27 +99,34 @@ PRUEBA(vmatr, la_inversa_de_unos_ejes_es_su_traspuesta_tambien_lejos) {
         const vn::lugar l = vn::lugar_de(caso);
         const double o[3] = {l.x + a.entre(-9., 9.), l.y + a.entre(-9., 9.), l.z + a.entre(-9., 9.)};
         double e[9];
-        if (mt_calcular_ejes_3D_dados_3_puntos(0., 0., 0., a.entre(-1., 1.), a.entre(-1., 1.), a.entre(-1., 1.), a.entre(-1., 1.),
-                                               a.entre(-1., 1.), 1., e, e + 1, e + 2, e + 3, e + 4, e + 5, e + 6, e + 7, e + 8) != CIERTO)
+        if (mt_calcular_ejes_3D_dados_3_puntos(0., 0., 0., a.entre(-1., 1.), a.entre(-1., 1.), a.entre(-1., 1.),
+                                               a.entre(-1., 1.), a.entre(-1., 1.), 1., e, e + 1, e + 2, e + 3, e + 4,
+                                               e + 5, e + 6, e + 7, e + 8) != CIERTO)
             continue;
-        const matriz m = hecha(4, 4, [&](uint32_t i, uint32_t j) { return i == 3 ? j == 3 : j == 3 ? o[i] : e[3 * j + i]; });
+        const matriz m = hecha(4, 4, [&](uint32_t i, uint32_t j) {
+            return i == 3 ? j == 3 : j == 3 ? o[i] : e[3 * j + i];
+        });
         const matriz inversa(vmatr_matriz_inversa(m.get()));
         for (uint32_t i = 0; i < 3; ++i) {
             for (uint32_t j = 0; j < 3; ++j) ASSERT_NEAR(en(inversa, i, j), e[3 * i + j], 1e-14) << caso;
-            ASSERT_NEAR(en(inversa, i, 3), -(e[3 * i] * o[0] + e[3 * i + 1] * o[1] + e[3 * i + 2] * o[2]), l.escala(20.) * 1e-12) << caso;
+            ASSERT_NEAR(en(inversa, i, 3), -(e[3 * i] * o[0] + e[3 * i + 1] * o[1] + e[3 * i + 2] * o[2]),
+                        l.escala(20.) * 1e-12)
+                << caso;
         }
     }
 }
 
 PRUEBA(vmatr, lo_que_no_puede_ser_se_informa_y_no_cambia_nada) {
-    const matriz m = hecha(2, 3, [](uint32_t i, uint32_t j) { return 10. * i + j; }), corta(vmatr_crea_matriz_nula(3, 2));
+    const matriz m = hecha(2, 3, [](uint32_t i, uint32_t j) { return 10. * i + j; }),
+                 corta(vmatr_crea_matriz_nula(3, 2));
     EXPECT_EQ(vmatr_get_buffer_matriz(m.get())[1 * 2 + 1], 11.); // by columns
     EXPECT_EQ(ESPERA_INFORME("i < num_filas", en(m, 2, 0)), 0.);
     EXPECT_EQ(ESPERA_INFORME("j < num_columnas", en(m, 0, 3)), 0.);
     ESPERA_INFORME("i < num_filas", vmatr_set_coef_matriz(m.get(), UINT32_MAX, 0, 5.));
     EXPECT_EQ(ESPERA_INFORME("num_filas == num_columnas", vmatr_matriz_inversa(m.get())), nullptr);
-    EXPECT_EQ(ESPERA_INFORME("num_columnas_cambio == num_filas_columnas", vmatr_producto_cambio_x_columnas(m.get(), m.get())),
-              nullptr);
+    EXPECT_EQ(
+        ESPERA_INFORME("num_columnas_cambio == num_filas_columnas", vmatr_producto_cambio_x_columnas(m.get(), m.get())),
+        nullptr);
     ESPERA_INFORME("num_filas == num_filas_cambio && num_columnas == num_columnas_columnas",
                    vmatr_producto_sobre_buffer_cambio_trasp_x_columnas(m.get(), m.get(), corta.get()));
     for (const std::pair<uint32_t, uint32_t> &t : {std::pair{0u, 3u}, {1u << 16, 1u << 16}, {11586u, 11586u}})
@@ -127,8 +135,11 @@ PRUEBA(vmatr, lo_que_no_puede_ser_se_informa_y_no_cambia_nada) {
                   nullptr);
     // A row that is another's, a column of zeros, not a number, an infinity.
     constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN(), INF = std::numeric_limits<double>::infinity();
-    for (const std::array<double, 4> &f :
-         {std::array{1., 2., 0.5, 1.}, {1e-30, 0., 1e-30, 0.}, {1., NAN_, 0., 1.}, {INF, 0., 0., 1.}, {0., 0., 0., 0.}}) {
+    for (const std::array<double, 4> &f : {std::array{1., 2., 0.5, 1.},
+                                           {1e-30, 0., 1e-30, 0.},
+                                           {1., NAN_, 0., 1.},
+                                           {INF, 0., 0., 1.},
+                                           {0., 0., 0., 0.}}) {
         const matriz mala = hecha(2, 2, [&](uint32_t i, uint32_t j) { return f[2 * i + j]; });
         EXPECT_EQ(ESPERA_INFORME("es_matriz_regular == CIERTO", vmatr_matriz_inversa(mala.get())), nullptr);
     }

@@ -12,8 +12,8 @@ PRUEBA(vncopro, solo_los_numeros_malos_se_sustituyen_por_cero) {
     } filas[] = {
         {0x7FF0000000000000, 1, 0}, {0xFFF0000000000000, 1, 0}, {0x7FF8000000000000, 1, 0},
         {0x7FF0000000000001, 1, 0}, // signalling
-        {0x0000000000000001, 0, 1}, {0x800FFFFFFFFFFFFF, 0, 1},
-        {0x0010000000000000, 0, 0}, {0x8000000000000000, 0, 0}, {0x7FEFFFFFFFFFFFFF, 0, 0}, {0xC00921FB54442D18, 0, 0},
+        {0x0000000000000001, 0, 1}, {0x800FFFFFFFFFFFFF, 0, 1}, {0x0010000000000000, 0, 0},
+        {0x8000000000000000, 0, 0}, {0x7FEFFFFFFFFFFFFF, 0, 0}, {0xC00921FB54442D18, 0, 0},
     };
     for (const auto &f : filas) {
         double x;

@@ -18,8 +18,9 @@ PRUEBA(vnmath, las_comparaciones_parten_los_numeros_en_tres_en_su_limite) {
         double a, b;
         int orden;
     } filas[] = {
-        {0., 0., 0},        {1e-6, 0., 0},      {1.0000001e-6, 0., 1}, {-1e-6, 0., 0},   {-1.0000001e-6, 0., -1}, {INF, INF, 0},
-        {-INF, -INF, 0},    {INF, -INF, 1},     {1e308, -1e308, 1},    {-INF, DBL_MAX, -1}, {5e-324, 0., 0},      {DBL_MAX, DBL_MAX, 0},
+        {0., 0., 0},     {1e-6, 0., 0},         {1.0000001e-6, 0., 1}, {-1e-6, 0., 0},     {-1.0000001e-6, 0., -1},
+        {INF, INF, 0},   {-INF, -INF, 0},       {INF, -INF, 1},        {1e308, -1e308, 1}, {-INF, DBL_MAX, -1},
+        {5e-324, 0., 0}, {DBL_MAX, DBL_MAX, 0},
     };
     for (const auto &f : filas) {
         SCOPED_TRACE(testing::Message() << f.a << " " << f.b);
@@ -41,7 +42,8 @@ PRUEBA(vnmath, las_comparaciones_parten_los_numeros_en_tres_en_su_limite) {
 
 PRUEBA(vnmath, lo_que_no_es_un_numero_no_es_igual_a_nada_pero_se_ordena) {
     for (const double x : {0., 1., INF, NAN_})
-        EXPECT_EQ(ES_CERO(NAN_) + SON_IGUALES(NAN_, x) + ES_MAYOR(NAN_, x) + ES_MENOR(x, NAN_) + ES_MAYOR_IGUAL(NAN_, x), 0);
+        EXPECT_EQ(
+            ES_CERO(NAN_) + SON_IGUALES(NAN_, x) + ES_MAYOR(NAN_, x) + ES_MENOR(x, NAN_) + ES_MAYOR_IGUAL(NAN_, x), 0);
     double v[] = {NAN_, 2., -INF, NAN_, 1.};
     std::sort(std::begin(v), std::end(v), [](double a, double b) { return vornmath_compara_doubles(a, b, 1e-9) < 0; });
     EXPECT_TRUE(v[0] == -INF && v[1] == 1. && v[2] == 2. && std::isnan(v[3]) && std::isnan(v[4]));
@@ -84,10 +86,26 @@ PRUEBA(vnmath, los_decimales_se_redondean_sobre_las_cifras_que_se_ven) {
         uint32_t n;
         double esperado;
     } filas[] = {
-        {0.125, 2, 0.13},     {-0.125, 2, -0.13}, {1.005, 2, 1.},          {2.5, 0, 3.},         {0.5, 0, 1.},
-        {0.49, 0, 0.},        {-0.004, 2, 0.},    {9.9996, 3, 10.},        {999.5, 0, 1000.},    {0.05, 1, 0.1},
-        {0.04, 1, 0.},        {1e22, 3, 1e22},    {123456789.125, 2, 123456789.13}, {5e-324, 300, 0.}, {5e-324, 400, 5e-324},
-        {DBL_MAX, 0, DBL_MAX}, {1.7, 4294967295u, 1.7}, {0.099999999999999, 14, 0.1}, {0.6, 0, 1.}, {-INF, 2, -INF},
+        {0.125, 2, 0.13},
+        {-0.125, 2, -0.13},
+        {1.005, 2, 1.},
+        {2.5, 0, 3.},
+        {0.5, 0, 1.},
+        {0.49, 0, 0.},
+        {-0.004, 2, 0.},
+        {9.9996, 3, 10.},
+        {999.5, 0, 1000.},
+        {0.05, 1, 0.1},
+        {0.04, 1, 0.},
+        {1e22, 3, 1e22},
+        {123456789.125, 2, 123456789.13},
+        {5e-324, 300, 0.},
+        {5e-324, 400, 5e-324},
+        {DBL_MAX, 0, DBL_MAX},
+        {1.7, 4294967295u, 1.7},
+        {0.099999999999999, 14, 0.1},
+        {0.6, 0, 1.},
+        {-INF, 2, -INF},
     };
     for (const auto &f : filas) EXPECT_EQ(prec_redondea_numero_decimales(f.x, f.n), f.esperado) << f.x << " to " << f.n;
     EXPECT_FALSE(std::signbit(prec_redondea_numero_decimales(-0.001, 2)));

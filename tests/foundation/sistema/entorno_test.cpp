@@ -7,9 +7,19 @@ PRUEBA(entorno, el_producto_escalado_redondea_como_windows) {
     const struct {
         int a, b, c, esperado;
     } filas[] = {
-        {254, 96, 2540, 10}, {1, 1, 2, 1},   {-1, 1, 2, -1},  {1, -1, -2, 1},         {-5, 1, 3, -2},
-        {5, 1, 3, 2},        {1, 1, 0, -1},  {4, 1, -3, -1},  {0, 7, 3, 0},           {2147483647, 2147483647, 2147483647, 2147483647},
-        {2147483647, 2, 1, -1}, {-2147483647 - 1, -1, 1, -1}, {-2147483647 - 1, 2147483647, -2147483647 - 1, 2147483647},
+        {254, 96, 2540, 10},
+        {1, 1, 2, 1},
+        {-1, 1, 2, -1},
+        {1, -1, -2, 1},
+        {-5, 1, 3, -2},
+        {5, 1, 3, 2},
+        {1, 1, 0, -1},
+        {4, 1, -3, -1},
+        {0, 7, 3, 0},
+        {2147483647, 2147483647, 2147483647, 2147483647},
+        {2147483647, 2, 1, -1},
+        {-2147483647 - 1, -1, 1, -1},
+        {-2147483647 - 1, 2147483647, -2147483647 - 1, 2147483647},
         {-2147483647 - 1, 1, 1, -2147483647 - 1},
     };
     for (const auto &f : filas) {
@@ -40,7 +50,8 @@ PRUEBA(entorno, la_identidad_que_declara_el_programa_sale_en_los_dos_anchos) {
     ESPERA_INFORME("mayor.ansi.find('-') == std::string::npos", version_establece_u(VNU("1"), VNU("2026-SP1"), 'a'));
     ESPERA_INFORME("mayor.ansi.size() <= LIMITE_MAYOR", version_establece_u(VNU("1"), largo.c_str(), 'a'));
     for (const char revision : {'-', '\0', ' ', '\n', '\x7f'})
-        ESPERA_INFORME("codigo > ' ' && codigo != 127 && revision != '-'", version_establece_u(VNU("1"), VNU("3"), revision));
+        ESPERA_INFORME("codigo > ' ' && codigo != 127 && revision != '-'",
+                       version_establece_u(VNU("1"), VNU("3"), revision));
     EXPECT_STREQ(version_versionMayor(), "2026");
     version_establece_u(VNU("1"), largo.c_str() + 1, '\xF1');
     EXPECT_EQ(version_revision(), '\xF1');

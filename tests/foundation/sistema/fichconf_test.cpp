@@ -1,6 +1,6 @@
 #define VN_MODULO "fichconf_test"
-#include "foundation/sistema/fichconf.h"
 #include "foundation/ficheros/vdir.h"
+#include "foundation/sistema/fichconf.h"
 #include "texto_ancho.h"
 
 using vn::ancho;
@@ -12,9 +12,7 @@ namespace {
 std::string configuracion(const vnwchar *nombre) {
     return toma(fichconf_dame_ruta_fichero_en_directorio_configuracion(nombre));
 }
-std::string estructa(const vnwchar *nombre) {
-    return toma(fichconf_dame_ruta_fichero_en_directorio_estructa(nombre));
-}
+std::string estructa(const vnwchar *nombre) { return toma(fichconf_dame_ruta_fichero_en_directorio_estructa(nombre)); }
 
 } // namespace
 

@@ -176,10 +176,9 @@ PRUEBA(vnmutex, varios_programas_cuentan_y_algunos_mueren_dentro) {
     std::vector<vn::proceso> hijos;
     for (int i = 0; i < PROGRAMAS; ++i) {
         const bool muere = i % 2 == 1;
-        hijos.emplace_back(
-            "cuenta_bajo_mutex",
-            std::vector<std::string>{nombre, cuenta, directorio() + "/hecho" + std::to_string(i),
-                                     std::to_string(VECES), muere ? std::to_string(7 * i) : "-1"});
+        hijos.emplace_back("cuenta_bajo_mutex",
+                           std::vector<std::string>{nombre, cuenta, directorio() + "/hecho" + std::to_string(i),
+                                                    std::to_string(VECES), muere ? std::to_string(7 * i) : "-1"});
     }
     for (int i = 0; i < PROGRAMAS; ++i) {
         const auto r = hijos[static_cast<size_t>(i)].espera(60000);
@@ -241,7 +240,9 @@ HIJO(intenta_entrar) {
     vnmutex_destruye_saliendo(&m);
     return r;
 }
-static int intenta_otro(const std::string &nombre) { return vn::proceso("intenta_entrar", {nombre}).espera(20000).value_or(-1); }
+static int intenta_otro(const std::string &nombre) {
+    return vn::proceso("intenta_entrar", {nombre}).espera(20000).value_or(-1);
+}
 
 // What a child of a process that is inside may not do: enter, leave for its parent, or take the lock away when it ends.
 static int hijo_del_que_esta_dentro(void *datos) {
@@ -291,8 +292,7 @@ PRUEBA(vnmutex, un_proceso_bifurcado_no_tiene_lo_de_su_padre) {
     EXPECT_EQ(intenta_otro(nombre), 2);
     vnmutex_sal(m);
     vnmutex_sal(mia);
-    for (vnmutex **uno : {&m, &mia})
-        EXPECT_EQ(vn::bifurca(hijo_del_que_ha_salido, uno).value_or(0), 0);
+    for (vnmutex **uno : {&m, &mia}) EXPECT_EQ(vn::bifurca(hijo_del_que_ha_salido, uno).value_or(0), 0);
     EXPECT_EQ(intenta_otro(nombre), 0);
 
     vn::proceso padre("muere_dentro_con_un_hijo", {nombre, directorio() + "/muere"});
@@ -307,7 +307,8 @@ PRUEBA(vnmutex, un_proceso_bifurcado_no_tiene_lo_de_su_padre) {
 // Who makes something else where the shared lock should be gets nothing written, and the user's programs share one of
 // their own, which is told.
 PRUEBA(vnmutex, lo_que_ocupa_el_sitio_del_cerrojo_no_se_toca) {
-    const std::string victima = directorio() + "/victima", vacia = directorio() + "/vacia", casa = directorio() + "/casa";
+    const std::string victima = directorio() + "/victima", vacia = directorio() + "/vacia",
+                      casa = directorio() + "/casa";
     vn::pon_variable("XDG_CONFIG_HOME", casa);
     vn::pon_variable("ENPRUEBA", "1");
     const std::pair<const char *, std::function<void(const std::string &)>> ocupantes[] = {

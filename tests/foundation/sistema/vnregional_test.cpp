@@ -17,7 +17,9 @@ namespace {
 std::string fecha(int32_t dia, int32_t mes, int32_t anyo, const char *modelo) {
     return toma(vnregional_fecha_u(dia, mes, anyo, ancho(modelo).c_str(), FALSO));
 }
-std::string numero(const char *texto, uint32_t maximo = 50) { return toma(vnregional_numero_u(ancho(texto).c_str(), maximo)); }
+std::string numero(const char *texto, uint32_t maximo = 50) {
+    return toma(vnregional_numero_u(ancho(texto).c_str(), maximo));
+}
 std::string decimal() { return toma(vnregional_dato_u(VNREGIONAL_SEPARADOR_DECIMAL)); }
 
 // Back to the user's region when the test ends.
@@ -49,8 +51,15 @@ PRUEBA(vnregional, los_modelos_de_fecha) {
         const en_region r(f.region);
         EXPECT_EQ(fecha(5, 3, 2024, f.modelo), f.texto) << f.region << " " << f.modelo;
     }
-    for (const auto &[dia, mes, anyo] : {std::array{29, 2, 2023}, {29, 2, 1900}, {0, 1, 2000}, {31, 4, 2000}, {1, 13, 2000},
-                                        {1, 0, 2000}, {1, 1, 1600}, {1, 1, 10000}, {-1, 1, 2000}})
+    for (const auto &[dia, mes, anyo] : {std::array{29, 2, 2023},
+                                         {29, 2, 1900},
+                                         {0, 1, 2000},
+                                         {31, 4, 2000},
+                                         {1, 13, 2000},
+                                         {1, 0, 2000},
+                                         {1, 1, 1600},
+                                         {1, 1, 10000},
+                                         {-1, 1, 2000}})
         EXPECT_EQ(fecha(dia, mes, anyo, "d"), "(null)") << dia << " " << mes << " " << anyo;
     EXPECT_EQ(fecha(29, 2, 2000, "d"), "29");
 }
@@ -68,7 +77,8 @@ PRUEBA(vnregional, los_nombres_solos_y_en_una_fecha) {
         const en_region r("gl-ES");
         EXPECT_EQ(miercoles() + fecha(4, 3, 2026, " dddd"), "Mércores mércores");
     }
-    for (const auto &[region, larga] : {std::pair{"fa-IR", "پنجشنبه 5 مارس 2026"}, {"th-TH", "วันพฤหัสบดีที่ 5 มีนาคม ค.ศ. 2026"}}) {
+    for (const auto &[region, larga] :
+         {std::pair{"fa-IR", "پنجشنبه 5 مارس 2026"}, {"th-TH", "วันพฤหัสบดีที่ 5 มีนาคม ค.ศ. 2026"}}) {
         const en_region r(region);
         EXPECT_EQ(toma(vnregional_fecha_u(5, 3, 2026, nullptr, CIERTO)), larga);
     }
@@ -80,7 +90,8 @@ PRUEBA(vnregional, el_dia_de_la_semana_de_toda_fecha) {
     constexpr const char *NOMBRES[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
     for (sys_days d = year(1601) / 1 / 1; d < year(10000) / 1 / 1; d += days(41)) {
         const year_month_day f = d;
-        ASSERT_EQ(fecha(static_cast<int32_t>(unsigned{f.day()}), static_cast<int32_t>(unsigned{f.month()}), int{f.year()}, "dddd"),
+        ASSERT_EQ(fecha(static_cast<int32_t>(unsigned{f.day()}), static_cast<int32_t>(unsigned{f.month()}),
+                        int{f.year()}, "dddd"),
                   NOMBRES[weekday(d).c_encoding()])
             << int{f.year()};
     }
@@ -92,10 +103,11 @@ PRUEBA(vnregional, las_horas) {
         int32_t hora, minuto, segundo;
         const char *con, *sin;
     } filas[] = {
-        {"en-US", 0, 0, 0, "12:00:00 AM", "12:00 AM"},   {"en-US", 12, 59, 9, "12:59:09 PM", "12:59 PM"},
-        {"en-US", 13, 4, 5, "1:04:05 PM", "1:04 PM"},    {"de-DE", 0, 4, 59, "00:04:59", "00:04"},
-        {"fr-CA", 9, 4, 5, "09 h 04 min 05 s", "09 h 04"}, {"fi-FI", 9, 4, 5, "9.04.05", "9.04"}, {"fr-FR", 24, 0, 0, "(null)", "(null)"},
-        {"fr-FR", 0, 60, 0, "(null)", "(null)"},         {"fr-FR", 0, 0, -1, "(null)", "(null)"},
+        {"en-US", 0, 0, 0, "12:00:00 AM", "12:00 AM"},     {"en-US", 12, 59, 9, "12:59:09 PM", "12:59 PM"},
+        {"en-US", 13, 4, 5, "1:04:05 PM", "1:04 PM"},      {"de-DE", 0, 4, 59, "00:04:59", "00:04"},
+        {"fr-CA", 9, 4, 5, "09 h 04 min 05 s", "09 h 04"}, {"fi-FI", 9, 4, 5, "9.04.05", "9.04"},
+        {"fr-FR", 24, 0, 0, "(null)", "(null)"},           {"fr-FR", 0, 60, 0, "(null)", "(null)"},
+        {"fr-FR", 0, 0, -1, "(null)", "(null)"},
     };
     for (const auto &f : filas) {
         const en_region r(f.region);
@@ -108,13 +120,27 @@ PRUEBA(vnregional, los_numeros) {
     const struct {
         const char *region, *numero, *texto;
     } filas[] = {
-        {"es-ES", "1234.5", "1.234,50"},     {"es-ES", "-1234567.895", "-1.234.567,90"}, {"es-ES", "999999.995", "1.000.000,00"},
-        {"es-ES", "999.994999", "999,99"},   {"es-ES", "0", "0,00"},                     {"es-ES", "-0.001", "-0,00"},
-        {"es-ES", "000123", "123,00"},       {"es-ES", ".5", "0,50"},                    {"es-ES", "-9.995", "-10,00"},
-        {"hi-IN", "12345678", "1,23,45,678.00"}, {"de-CH", "1234", "1’234.00"},          {"fr-FR", "1234567", "1\u00A0234\u00A0567,00"},
+        {"es-ES", "1234.5", "1.234,50"},
+        {"es-ES", "-1234567.895", "-1.234.567,90"},
+        {"es-ES", "999999.995", "1.000.000,00"},
+        {"es-ES", "999.994999", "999,99"},
+        {"es-ES", "0", "0,00"},
+        {"es-ES", "-0.001", "-0,00"},
+        {"es-ES", "000123", "123,00"},
+        {"es-ES", ".5", "0,50"},
+        {"es-ES", "-9.995", "-10,00"},
+        {"hi-IN", "12345678", "1,23,45,678.00"},
+        {"de-CH", "1234", "1’234.00"},
+        {"fr-FR", "1234567", "1\u00A0234\u00A0567,00"},
         {"sv-SE", "-1234", "-1\u00A0234,00"}, // the sign and the blank of the ANSI pages
-        {"en-US", "", "(null)"},  {"en-US", "-", "(null)"},    {"en-US", ".", "(null)"},   {"en-US", "1e5", "(null)"},
-        {"en-US", "nan", "(null)"}, {"en-US", "1.2.3", "(null)"}, {"en-US", "+1", "(null)"}, {"en-US", " 1", "(null)"},
+        {"en-US", "", "(null)"},
+        {"en-US", "-", "(null)"},
+        {"en-US", ".", "(null)"},
+        {"en-US", "1e5", "(null)"},
+        {"en-US", "nan", "(null)"},
+        {"en-US", "1.2.3", "(null)"},
+        {"en-US", "+1", "(null)"},
+        {"en-US", " 1", "(null)"},
     };
     for (const auto &f : filas) {
         const en_region r(f.region);
@@ -132,7 +158,8 @@ HIJO(primera_region) {
     for (int i = 0; i < 8; ++i)
         hilos.emplace_back([&, i] {
             vnwchar d = 0, m = 0;
-            for (++listos; listos < 8;) {}
+            for (++listos; listos < 8;) {
+            }
             const std::string dato = i % 2 != 0 ? decimal() : "";
             vnregional_separadores(&d, &m);
             if (d != VNU(',') || m != VNU('.') || (!dato.empty() && dato != ",")) ++distintos;

@@ -1,5 +1,5 @@
-#include "foundation/sistema/vnstdc.h"
 #include "foundation/ficheros/lc_fichero.h"
+#include "foundation/sistema/vnstdc.h"
 #include "texto_ancho.h"
 #include <chrono>
 #include <cmath>
@@ -63,7 +63,10 @@ PRUEBA(vnstdc, el_texto_con_limite_se_corta_sin_salirse) {
         int resultado;
         std::string_view room;
     } filas[] = {
-        {0, -1, "......"}, {2, -1, "ab...."}, {3, 3, "abc..."}, {4, 3, std::string_view("abc\0..", 6)},
+        {0, -1, "......"},
+        {2, -1, "ab...."},
+        {3, 3, "abc..."},
+        {4, 3, std::string_view("abc\0..", 6)},
     };
     for (const auto &f : filas) {
         char room[] = "......";
@@ -155,8 +158,8 @@ PRUEBA(vnstdc, las_fechas_salen_en_ingles_y_las_semanas_segun_la_norma) {
     EXPECT_GT(vnstdc_strftime(room, sizeof room, "%a%b%c%C%G%V%U%W%j%p%x%z", &malo), 0u);
 }
 
-// Every half hour of the days around the changes of summer time, and of other years: the difference that is written is the
-// one that there was, in the repeated hour too.
+// Every half hour of the days around the changes of summer time, and of other years: the difference that is written is
+// the one that there was, in the repeated hour too.
 PRUEBA(vnstdc, la_diferencia_con_la_hora_universal_es_la_de_ese_momento) {
     vnwchar *const zona = vnstdc__wgetenv(VNU("TZ"));
     for (const char *tz : {"TZ=Europe/Madrid", "TZ=America/St_Johns", "TZ=Australia/Lord_Howe"}) {
@@ -168,10 +171,14 @@ PRUEBA(vnstdc, la_diferencia_con_la_hora_universal_es_la_de_ese_momento) {
             for (int64_t t = dia; t < dia + 4 * 86400; t += 1800) {
                 const struct tm local = *vnstdc__localtime64(&t);
                 using namespace std::chrono;
-                const auto d = sys_days(year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday).time_since_epoch().count();
-                const auto minutos = static_cast<int>((d * 86400 + local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec - t) / 60);
+                const auto d = sys_days(year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday)
+                                   .time_since_epoch()
+                                   .count();
+                const auto minutos =
+                    static_cast<int>((d * 86400 + local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec - t) / 60);
                 char esperada[16], escrita[16];
-                vnstdc_sprintf(esperada, "%c%02d%02d", minutos < 0 ? '-' : '+', std::abs(minutos) / 60, std::abs(minutos) % 60);
+                vnstdc_sprintf(esperada, "%c%02d%02d", minutos < 0 ? '-' : '+', std::abs(minutos) / 60,
+                               std::abs(minutos) % 60);
                 vnstdc_strftime(escrita, sizeof escrita, "%z", &local);
                 ASSERT_STREQ(escrita, esperada) << tz << " " << t;
             }

@@ -1,8 +1,8 @@
 #define VN_MODULO "vornreg_test"
-#include "foundation/sistema/vornreg.h"
-#include "foundation/sistema/fichconf.h"
-#include "foundation/ficheros/vdir.h"
 #include "fallos.h"
+#include "foundation/ficheros/vdir.h"
+#include "foundation/sistema/fichconf.h"
+#include "foundation/sistema/vornreg.h"
 #include "plataforma/proceso.h"
 #include "texto_ancho.h"
 
@@ -44,7 +44,8 @@ std::string subclaves(const std::string &clave) {
 }
 std::string textos(const std::string &clave) {
     arrCADENA_u *nombres = nullptr, *valores = nullptr;
-    if (vornreg_lee_valores_cadena_clave_ex_u(RAIZ, ancho(clave).c_str(), VORNREG_VISTA_PROPIA, &nombres, &valores) != CIERTO)
+    if (vornreg_lee_valores_cadena_clave_ex_u(RAIZ, ancho(clave).c_str(), VORNREG_VISTA_PROPIA, &nombres, &valores) !=
+        CIERTO)
         return "(none)";
     const std::string n = toma(nombres);
     return n + " -> " + toma(valores);
@@ -56,9 +57,13 @@ PRUEBA(vornreg, lo_que_se_pone_se_lee) {
     const base_del_usuario al_salir;
     const std::string clave = clave_propia();
     vnwchar sola[] = {VNU('a'), 0xD800, VNU('b'), 0};
-    const std::basic_string<vnwchar> valores[] = {
-        VNU(""), VNU("llano"), VNU("=[;x]\\n \\\\ \\u0041 "), VNU("dos\r\nlíneas\t\x01"), VNU("日本 \U0001F600"), sola,
-        std::basic_string<vnwchar>(5000, VNU('ñ'))};
+    const std::basic_string<vnwchar> valores[] = {VNU(""),
+                                                  VNU("llano"),
+                                                  VNU("=[;x]\\n \\\\ \\u0041 "),
+                                                  VNU("dos\r\nlíneas\t\x01"),
+                                                  VNU("日本 \U0001F600"),
+                                                  sola,
+                                                  std::basic_string<vnwchar>(5000, VNU('ñ'))};
     const char *const nombres[] = {"", "Con espacios", "a=b", "[x]", ";y", "ñandú", "a\\b"};
     for (const char *nombre : nombres) {
         EXPECT_EQ(lee(clave, nombre), VNU("(none)"));
@@ -110,16 +115,18 @@ PRUEBA(vornreg, claves_y_nombres_en_cualquier_caja) {
 PRUEBA(vornreg, un_fichero_escrito_a_mano) {
     if (vn::EN_WINDOWS) return;
     const base_del_usuario al_salir;
-    const std::string clave = clave_propia(), raiz(1, static_cast<char>('0' + RAIZ)), fichero = directorio() + "/VORN/registro.txt";
+    const std::string clave = clave_propia(), raiz(1, static_cast<char>('0' + RAIZ)),
+                      fichero = directorio() + "/VORN/registro.txt";
     std::filesystem::create_directories(directorio() + "/VORN");
-    const std::string antes = "[" + raiz + "\\" + clave + "]\r\n; de la oficina\r\nuno=1\r\n\r\n", resto = "; fin\n[" + raiz + "\\Otra]\nB=2";
+    const std::string antes = "[" + raiz + "\\" + clave + "]\r\n; de la oficina\r\nuno=1\r\n\r\n",
+                      resto = "; fin\n[" + raiz + "\\Otra]\nB=2";
     vn::graba_fichero(fichero, "\xEF\xBB\xBF" + antes + "UNO=1b\n" + resto);
     EXPECT_EQ(lee(clave, "uno"), VNU("1b"));
     EXPECT_TRUE(pon(clave, "Uno", VNU("3")) && pon("Otra", "c", VNU("4")));
     EXPECT_TRUE(quita("otra", "b"));
     EXPECT_TRUE(pon("nueva", "", VNU("5")));
-    EXPECT_EQ(vn::lee_fichero(fichero), "[" + raiz + "\\" + clave + "]\r\n; de la oficina\r\nUno=3\n\r\n; fin\n[" + raiz +
-                                            "\\Otra]\nc=4\n[" + raiz + "\\nueva]\n=5\n");
+    EXPECT_EQ(vn::lee_fichero(fichero), "[" + raiz + "\\" + clave + "]\r\n; de la oficina\r\nUno=3\n\r\n; fin\n[" +
+                                            raiz + "\\Otra]\nc=4\n[" + raiz + "\\nueva]\n=5\n");
 }
 
 // A file too large to be one, and a directory in its place: an answer that is true, whatever it is.

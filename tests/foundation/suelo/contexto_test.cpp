@@ -1,5 +1,5 @@
-#include "foundation/suelo/contexto.h"
 #include "foundation/suelo/callback.h"
+#include "foundation/suelo/contexto.h"
 #include "prueba.h"
 #include <thread>
 
@@ -22,7 +22,8 @@ PRUEBA(contexto, se_ve_lo_que_se_ha_dejado_abierto_y_una_trampa_lo_deja_como_est
     contexto_dentroDeContexto_u(VNU("sección 3"));
     EXPECT_EQ(vn::utf8_de(contexto_actual_u()), "grabando > sección 3");
     EXPECT_EQ(trapable_nousar_recursivo_ejecuta_funcion_segura(falla_dentro, nullptr, nullptr), FALSO);
-    EXPECT_NE(std::string(trapable_texto_del_ultimo_fallo()).find("[grabando > sección 3 > interior]"), std::string::npos);
+    EXPECT_NE(std::string(trapable_texto_del_ultimo_fallo()).find("[grabando > sección 3 > interior]"),
+              std::string::npos);
     EXPECT_EQ(vn::utf8_de(contexto_actual_u()), "grabando > sección 3");
     std::thread([] { EXPECT_EQ(vn::utf8_de(contexto_actual_u()), ""); }).join();
     contexto_fueraDeContexto_u(VNU("sección 3"));

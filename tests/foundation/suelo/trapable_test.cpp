@@ -1,8 +1,8 @@
-#include "foundation/suelo/trapable.h"
-#include "foundation/suelo/callback.h"
-#include "foundation/suelo/vnatexit.h"
-#include "foundation/sistema/vnmutex.h"
 #include "foundation/ficheros/vornfile.h"
+#include "foundation/sistema/vnmutex.h"
+#include "foundation/suelo/callback.h"
+#include "foundation/suelo/trapable.h"
+#include "foundation/suelo/vnatexit.h"
 #include "prueba.h"
 #include <thread>
 

@@ -6,9 +6,8 @@ namespace {
 
 bool abre(const std::string &nombre, uint32_t disposicion, uint32_t acceso,
           uint32_t atributos = VNLONGPATH_FILE_ATTRIBUTE_NORMAL) {
-    return vnlongpath_CloseHandle(vnlongpath_CreateFileW(vn::ancho(nombre).c_str(), acceso,
-                                                         VNLONGPATH_FILE_SHARE_READ, nullptr, disposicion,
-                                                         atributos, nullptr)) == CIERTO;
+    return vnlongpath_CloseHandle(vnlongpath_CreateFileW(vn::ancho(nombre).c_str(), acceso, VNLONGPATH_FILE_SHARE_READ,
+                                                         nullptr, disposicion, atributos, nullptr)) == CIERTO;
 }
 
 } // namespace
@@ -43,19 +42,15 @@ PRUEBA(vnlongpath, cada_disposicion_con_y_sin_fichero) {
 }
 
 PRUEBA(vnlongpath, atributos_y_directorios) {
-    const auto atributos = [](const std::string &n) {
-        return vnlongpath_GetFileAttributesW(vn::ancho(n).c_str());
-    };
+    const auto atributos = [](const std::string &n) { return vnlongpath_GetFileAttributesW(vn::ancho(n).c_str()); };
     const std::string d = directorio(), f = d + "/f";
     EXPECT_EQ(atributos(f), VNLONGPATH_INVALID_FILE_ATTRIBUTES);
     vn::graba_fichero(f, "x");
     EXPECT_EQ(atributos(f) & VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY, 0u);
     EXPECT_EQ(atributos(d) & VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY, VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY);
     EXPECT_FALSE(abre(d, VNLONGPATH_OPEN_EXISTING, VNLONGPATH_GENERIC_READ));
-    EXPECT_TRUE(
-        abre(d, VNLONGPATH_OPEN_EXISTING, VNLONGPATH_GENERIC_READ, VNLONGPATH_FILE_FLAG_BACKUP_SEMANTICS));
-    EXPECT_TRUE(
-        abre(f, VNLONGPATH_OPEN_EXISTING, VNLONGPATH_GENERIC_READ, VNLONGPATH_FILE_FLAG_DELETE_ON_CLOSE));
+    EXPECT_TRUE(abre(d, VNLONGPATH_OPEN_EXISTING, VNLONGPATH_GENERIC_READ, VNLONGPATH_FILE_FLAG_BACKUP_SEMANTICS));
+    EXPECT_TRUE(abre(f, VNLONGPATH_OPEN_EXISTING, VNLONGPATH_GENERIC_READ, VNLONGPATH_FILE_FLAG_DELETE_ON_CLOSE));
     EXPECT_FALSE(vn::existe(f));
     EXPECT_EQ(vnlongpath_CloseHandle(VNLONGPATH_INVALID_HANDLE), FALSO);
     EXPECT_EQ(vnlongpath_CloseHandle(nullptr), FALSO);

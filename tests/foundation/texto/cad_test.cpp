@@ -47,8 +47,15 @@ PRUEBA(cad, crecen_por_los_dos_lados) {
 
 PRUEBA(cad, preguntas) {
     EXPECT_EQ(cad_cadenas_iguales("abc", "abd"), FALSO);
-    EXPECT_EQ(cad_cadenas_iguales_may_o_min("CA\xD1""A", "ca\xF1""a"), CIERTO);
-    EXPECT_EQ(cad_cadenas_iguales_may_o_min("ca\xD1""a", "cana"), FALSO);
+    EXPECT_EQ(cad_cadenas_iguales_may_o_min("CA\xD1"
+                                            "A",
+                                            "ca\xF1"
+                                            "a"),
+              CIERTO);
+    EXPECT_EQ(cad_cadenas_iguales_may_o_min("ca\xD1"
+                                            "a",
+                                            "cana"),
+              FALSO);
     EXPECT_EQ(cad_cadenas_iguales_may_o_min("ab", "abc"), FALSO);
     EXPECT_EQ(cad_cadenas_compara("10.1", "9.1"), -1);
     EXPECT_EQ(cad_cadenas_compara("z", "\xE1"), -1); // bytes are unsigned
@@ -59,7 +66,11 @@ PRUEBA(cad, preguntas) {
     EXPECT_EQ(cad_es_cadena_en_blanco(" . "), FALSO);
     EXPECT_EQ(cad_es_subcadena("abcabd", "abd"), CIERTO);
     EXPECT_EQ(cad_es_subcadena("ab", ""), CIERTO);
-    EXPECT_EQ(cad_es_subcadena_may_min("xxPE\xD1""Ayy", "pe\xF1""a"), CIERTO);
+    EXPECT_EQ(cad_es_subcadena_may_min("xxPE\xD1"
+                                       "Ayy",
+                                       "pe\xF1"
+                                       "a"),
+              CIERTO);
     EXPECT_EQ(cad_es_subcadena_inicial("campo:1", "campo"), CIERTO);
     EXPECT_EQ(cad_es_subcadena_inicial("cam", "campo"), FALSO);
     EXPECT_EQ(cad_es_subcadena_inicial_may_o_min("\xC1rbol", "\xE1R"), CIERTO);
@@ -77,11 +88,19 @@ PRUEBA(cad, partes_y_cambios) {
     EXPECT_EQ(tras("aaab", [](char *s) { cad_suprime_subcadena(s, s + 3); }), "aaa");
     EXPECT_EQ(tras("aXab", [](char *s) { cad_suprime_subcadena(s, ""); }), "aXab");
     EXPECT_EQ(tras("aab", [](char **s) { EXPECT_EQ(cad_suprime_subcadena_inicial(s, "a"), CIERTO); }), "ab");
-    EXPECT_EQ(tras("\xD1""ab", [](char **s) { EXPECT_EQ(cad_suprime_subcadena_inicial_may_o_min(s, "\xF1""A"), CIERTO); }), "b");
+    EXPECT_EQ(tras("\xD1"
+                   "ab",
+                   [](char **s) {
+                       EXPECT_EQ(cad_suprime_subcadena_inicial_may_o_min(s, "\xF1"
+                                                                            "A"),
+                                 CIERTO);
+                   }),
+              "b");
     EXPECT_EQ(tras("ab", [](char **s) { EXPECT_EQ(cad_suprime_subcadena_inicial(s, "b"), FALSO); }), "ab");
     const struct {
         const char *antes, *a, *b, *despues;
-    } filas[] = {{"aXbX", "X", "yX", "ayXbyX"}, {"aaaa", "aa", "a", "aa"}, {"abc", "", "x", "abc"}, {"abab", "ab", "", ""}};
+    } filas[] = {
+        {"aXbX", "X", "yX", "ayXbyX"}, {"aaaa", "aa", "a", "aa"}, {"abc", "", "x", "abc"}, {"abab", "ab", "", ""}};
     for (const auto &f : filas)
         EXPECT_EQ(tras(f.antes, [&](char **s) { cad_reemplaza_todas_cadenas(s, f.a, f.b); }), f.despues);
     EXPECT_EQ(tras(" \ta b \r\n", [](char *s) { cad_LTrim(s); }), "a b \r\n");
@@ -118,7 +137,8 @@ PRUEBA(cad, letras_de_cada_pagina) {
         EXPECT_EQ(tras("\xE6\xB8", mayusculas), "\xC6\xA8");
         EXPECT_EQ(cad_cadenas_iguales_may_o_min("\xC6", "\xE6"), CIERTO);
     }
-    EXPECT_EQ(tras("\xA4\x84\x81\x9B\xE1\xC4z", [](char *s) { cad_convertir_cadena_ascii_ansi(s); }), "\xF1\xE4\xFC\xF8\xDF?z");
+    EXPECT_EQ(tras("\xA4\x84\x81\x9B\xE1\xC4z", [](char *s) { cad_convertir_cadena_ascii_ansi(s); }),
+              "\xF1\xE4\xFC\xF8\xDF?z");
 
     // Page 932: the second bytes of some characters are letters, backslashes and bars of their own.
     const con_pagina japones(932);

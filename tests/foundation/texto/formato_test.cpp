@@ -64,12 +64,18 @@ PRUEBA(formato, reales_con_sus_decimales_exactos) {
 
 PRUEBA(formato, textos_de_las_dos_anchuras) {
     ASSERT_EQ(unicode_establece_pagina_ANSI(1252), CIERTO);
-    const char *ansi = "ca\xF1""a"; // with the page's own letter
+    const char *ansi = "ca\xF1"
+                       "a"; // with the page's own letter
     const auto ancho = vn::ancho("acción €");
-    EXPECT_EQ(vn::toma(nousar_formatea("%s|%S|%ls|%hs|%6s|%-6s|%.2s", ansi, ancho.c_str(), ancho.c_str(), ansi, ansi, ansi, ansi)),
-              "ca\xF1""a|acci\xF3n \x80|acci\xF3n \x80|ca\xF1""a|  ca\xF1""a|ca\xF1""a  |ca");
-    EXPECT_EQ(vn::toma(copiaforu_nousar_formatea(VNU("%s|%S|%ls|%hs|%10s|%.3S"), ancho.c_str(), ansi, ancho.c_str(), ansi,
-                                                   ancho.c_str(), ansi)),
+    EXPECT_EQ(vn::toma(nousar_formatea("%s|%S|%ls|%hs|%6s|%-6s|%.2s", ansi, ancho.c_str(), ancho.c_str(), ansi, ansi,
+                                       ansi, ansi)),
+              "ca\xF1"
+              "a|acci\xF3n \x80|acci\xF3n \x80|ca\xF1"
+              "a|  ca\xF1"
+              "a|ca\xF1"
+              "a  |ca");
+    EXPECT_EQ(vn::toma(copiaforu_nousar_formatea(VNU("%s|%S|%ls|%hs|%10s|%.3S"), ancho.c_str(), ansi, ancho.c_str(),
+                                                 ansi, ancho.c_str(), ansi)),
               "acción €|caña|acción €|caña|  acción €|cañ");
     EXPECT_EQ(vn::toma(nousar_formatea("%c%C%lc%hc", '\xF1', 0x20AC, 0xF3, 'x')), "\xF1\x80\xF3x");
     EXPECT_EQ(vn::toma(copiaforu_nousar_formatea(VNU("%c%C%hc%lc"), 0x20AC, 0xF1, 0xF1, 0x4E00)), "€ññ一");

@@ -1,18 +1,23 @@
+#include "foundation/sistema/vnstdc.h"
+#include "foundation/suelo/vnatexit.h"
 #include "foundation/texto/msglocal.h"
 #include "foundation/texto/msglocal_int.h"
 #include "foundation/texto/unicode.h"
-#include "foundation/suelo/vnatexit.h"
-#include "foundation/sistema/vnstdc.h"
 #include "foundation/texto/widestr.h"
 #include "prueba.h"
 
 namespace {
 
-constexpr auto PLANOS = vn::mensaje_u("prueba.msg", 1, {
-    {vn::ES, VNU("<100001>%d planos de %s")}, {vn::EN, VNU("<100001>%d drawings of %s")}, {vn::CA, VNU("<100001>%d plànols de %s")},
-    {vn::IT, VNU("<100001>%d disegni di %s")}, {vn::PT, VNU("<100001>%d desenhos de %s")}, {vn::JA, VNU("<100001>%d 枚 %s")},
-    {vn::ES_AM, VNU("<100001>%d láminas de %s")},
-});
+constexpr auto PLANOS = vn::mensaje_u("prueba.msg", 1,
+                                      {
+                                          {vn::ES, VNU("<100001>%d planos de %s")},
+                                          {vn::EN, VNU("<100001>%d drawings of %s")},
+                                          {vn::CA, VNU("<100001>%d plànols de %s")},
+                                          {vn::IT, VNU("<100001>%d disegni di %s")},
+                                          {vn::PT, VNU("<100001>%d desenhos de %s")},
+                                          {vn::JA, VNU("<100001>%d 枚 %s")},
+                                          {vn::ES_AM, VNU("<100001>%d láminas de %s")},
+                                      });
 void planos(vnmensaje *m) { PLANOS.rellena(m); }
 
 // An ANSI group: the Russian cell is "<32307>Да" coded, the Polish one is badly coded, the others have their faults.
@@ -51,10 +56,10 @@ PRUEBA(msglocal, cada_indice_da_su_lengua_y_los_demas_la_suya_de_reserva) {
         int idioma;
         const char *texto;
     } filas[] = {
-        {0, "%d planos de %s"},    {3, "%d plànols de %s"},  {4, "%d disegni di %s"}, {5, "%d desenhos de %s"},
-        {6, "%d láminas de %s"},   {7, "%d láminas de %s"},  {24, "%d láminas de %s"}, {8, "%d drawings of %s"},
-        {39, "%d 枚 %s"},          {9, "%d planos de %s"},   {14, "%d planos de %s"}, {17, "%d planos de %s"},
-        {19, "%d planos de %s"},   {23, "%d planos de %s"},  {25, "%d drawings of %s"}, {30, "%d drawings of %s"},
+        {0, "%d planos de %s"},    {3, "%d plànols de %s"},   {4, "%d disegni di %s"},   {5, "%d desenhos de %s"},
+        {6, "%d láminas de %s"},   {7, "%d láminas de %s"},   {24, "%d láminas de %s"},  {8, "%d drawings of %s"},
+        {39, "%d 枚 %s"},          {9, "%d planos de %s"},    {14, "%d planos de %s"},   {17, "%d planos de %s"},
+        {19, "%d planos de %s"},   {23, "%d planos de %s"},   {25, "%d drawings of %s"}, {30, "%d drawings of %s"},
         {32, "%d drawings of %s"}, {38, "%d drawings of %s"}, {40, "%d drawings of %s"}, {13, "%d drawings of %s"},
     };
     for (const auto &f : filas) EXPECT_EQ(lee(f.idioma), f.texto) << f.idioma;

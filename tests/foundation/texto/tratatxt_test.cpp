@@ -7,7 +7,9 @@ namespace {
 
 std::string recupera(const std::string &s) { return vn::toma(tratatxt_recupera_espacio_y_salto_linea(s.c_str())); }
 std::string convierte(const std::string &s) { return vn::toma(tratatxt_convierte_espacio_y_salto_linea(s.c_str())); }
-std::string prepara(const std::string &s) { return vn::toma(tratatxt_prepara_almohadilla_espacios_y_salto_linea(s.c_str())); }
+std::string prepara(const std::string &s) {
+    return vn::toma(tratatxt_prepara_almohadilla_espacios_y_salto_linea(s.c_str()));
+}
 std::string traduce(const std::string &s) { return vn::toma(tratatxt_traducir_codigos_color(s.c_str())); }
 
 } // namespace
@@ -16,8 +18,12 @@ PRUEBA(tratatxt, marcas_que_se_leen) {
     const struct {
         const char *plano, *marcado;
     } filas[] = {
-        {"una línea corriente", "una línea corriente"}, {"uno\n dos", "uno#s#edos"}, {"a  b c ", "a#e#eb c#e"},
-        {"n#1\t\r\n", "n##1#t#r#s"},                    {"[FIN_CADENA]", "#[FIN_CADENA]"}, {"", ""},
+        {"una línea corriente", "una línea corriente"},
+        {"uno\n dos", "uno#s#edos"},
+        {"a  b c ", "a#e#eb c#e"},
+        {"n#1\t\r\n", "n##1#t#r#s"},
+        {"[FIN_CADENA]", "#[FIN_CADENA]"},
+        {"", ""},
     };
     for (const auto &f : filas) {
         EXPECT_EQ(recupera(f.plano), f.marcado);
@@ -52,7 +58,18 @@ PRUEBA(tratatxt, ida_y_vuelta) {
 }
 
 PRUEBA(tratatxt, colores_por_su_nombre) {
-    EXPECT_EQ(traduce("a\xB6rojo;b\xB6""Gris Claro;c"), "a\xB6""1;b\xB6""9;c");
-    for (const char *igual : {"", "\xB6", "\xB6rojo", "\xB6""3;x", "\xB6malva;", "rojo;", "\xB6;"}) EXPECT_EQ(traduce(igual), igual);
-    EXPECT_EQ(traduce("\xB6\xB6""azul;"), "\xB6\xB6""5;");
+    EXPECT_EQ(traduce("a\xB6rojo;b\xB6"
+                      "Gris Claro;c"),
+              "a\xB6"
+              "1;b\xB6"
+              "9;c");
+    for (const char *igual : {"", "\xB6", "\xB6rojo",
+                              "\xB6"
+                              "3;x",
+                              "\xB6malva;", "rojo;", "\xB6;"})
+        EXPECT_EQ(traduce(igual), igual);
+    EXPECT_EQ(traduce("\xB6\xB6"
+                      "azul;"),
+              "\xB6\xB6"
+              "5;");
 }

@@ -1,7 +1,7 @@
 #define VN_MODULO "unicode_test"
-#include "foundation/texto/unicode.h"
 #include "foundation/listas/arr.h"
 #include "foundation/texto/cad.h"
+#include "foundation/texto/unicode.h"
 #include "foundation/texto/widestr.h"
 #include "prueba.h"
 
@@ -49,16 +49,17 @@ PRUEBA(unicode, las_paginas_son_las_mismas_en_todas_partes) {
         uint32_t pagina;
         uint64_t huella;
     } filas[] = {
-        {1250, 6895772076171912249u}, {1251, 2671201261049714931u}, {1252, 4811246781337447939u},
+        {1250, 6895772076171912249u},  {1251, 2671201261049714931u},  {1252, 4811246781337447939u},
         {1253, 12250154106635369279u}, {1254, 13051673659814781517u}, {850, 15667259049449181234u},
-        {932, 2515196498016308220u},  {936, 8438848760219282543u},  {65001, 4586106065103280861u},
+        {932, 2515196498016308220u},   {936, 8438848760219282543u},   {65001, 4586106065103280861u},
     };
     for (const auto &f : filas) {
         const con_pagina activa(f.pagina);
         EXPECT_EQ(unicode_pagina_ANSI(), f.pagina);
         EXPECT_EQ(huella_de_pagina(), f.huella) << f.pagina;
     }
-    for (const uint32_t no : {0u, 1u, 37u, 1200u, 54936u, 65000u, 99999u}) EXPECT_EQ(unicode_establece_pagina_ANSI(no), FALSO) << no;
+    for (const uint32_t no : {0u, 1u, 37u, 1200u, 54936u, 65000u, 99999u})
+        EXPECT_EQ(unicode_establece_pagina_ANSI(no), FALSO) << no;
     EXPECT_EQ(unicode_pagina_ANSI(), 1252u);
 }
 
@@ -69,26 +70,45 @@ PRUEBA(unicode, cada_idioma_escribe_en_su_pagina) {
         const char *ansi;
         vnbool perdida;
     } filas[] = {
-        {0, "Cañón €", "Ca\xF1\xF3n \x80", FALSO},   {8, "Œuvre", "\x8Cuvre", FALSO},
+        {0, "Cañón €", "Ca\xF1\xF3n \x80", FALSO},
+        {8, "Œuvre", "\x8Cuvre", FALSO},
         {10, "Здравей", "\xC7\xE4\xF0\xE0\xE2\xE5\xE9", FALSO},
         {11, "înălțime", "\xEEn\xE3l?ime", CIERTO}, // the comma below is not on the page, the cedilla is
-        {11, "înălţime", "\xEEn\xE3l\xFEime", FALSO}, {12, "中文a", "\xD6\xD0\xCE\xC4""a", FALSO},
-        {18, "Ё", "\xA8", FALSO},                     {31, "żółw", "\xBF\xF3\xB3w", FALSO},
-        {33, "Iğdır", "I\xF0""d\xFDr", FALSO},        {39, "構造~ソ①", "\x8D\x5C\x91\xA2~\x83\x5C\x87\x40", FALSO},
-        {0, "Жα一", "???", CIERTO},                   {39, "éëÿ𠮟", "????", CIERTO},
+        {11, "înălţime", "\xEEn\xE3l\xFEime", FALSO},
+        {12, "中文a",
+         "\xD6\xD0\xCE\xC4"
+         "a",
+         FALSO},
+        {18, "Ё", "\xA8", FALSO},
+        {31, "żółw", "\xBF\xF3\xB3w", FALSO},
+        {33, "Iğdır",
+         "I\xF0"
+         "d\xFDr",
+         FALSO},
+        {39, "構造~ソ①", "\x8D\x5C\x91\xA2~\x83\x5C\x87\x40", FALSO},
+        {0, "Жα一", "???", CIERTO},
+        {39, "éëÿ𠮟", "????", CIERTO},
         {12, "€", "\x80", FALSO},
     };
     for (const auto &f : filas) {
         vnbool perdida = 7;
-        EXPECT_EQ(toma(unicode_convierte_UNICODE_a_ANSI_idioma(ancho(f.utf8).c_str(), f.idioma, &perdida)), f.ansi) << f.utf8;
+        EXPECT_EQ(toma(unicode_convierte_UNICODE_a_ANSI_idioma(ancho(f.utf8).c_str(), f.idioma, &perdida)), f.ansi)
+            << f.utf8;
         EXPECT_EQ(perdida, f.perdida) << f.utf8;
-        EXPECT_EQ(trconvansi_texto_unicode_es_compatible_ANSI_idioma(ancho(f.utf8).c_str(), f.idioma), !f.perdida) << f.utf8;
+        EXPECT_EQ(trconvansi_texto_unicode_es_compatible_ANSI_idioma(ancho(f.utf8).c_str(), f.idioma), !f.perdida)
+            << f.utf8;
         if (f.perdida == CIERTO) continue;
-        EXPECT_EQ(unidades(unicode_convierte_ANSI_idioma_a_UNICODE(f.ansi, f.idioma)), u16_de(ancho(f.utf8).c_str())) << f.utf8;
+        EXPECT_EQ(unidades(unicode_convierte_ANSI_idioma_a_UNICODE(f.ansi, f.idioma)), u16_de(ancho(f.utf8).c_str()))
+            << f.utf8;
     }
     // What a page leaves undefined goes round; a two-byte character that is none does not swallow what follows.
     EXPECT_EQ(unidades(unicode_convierte_ANSI_idioma_a_UNICODE("\x81\x8D\x9D", 0)), u"\x81\x8D\x9D");
-    EXPECT_EQ(unidades(unicode_convierte_ANSI_idioma_a_UNICODE("\x81" "1\x81\xFFz\x81", 39)), u"\xFFFD" u"1\xFFFD" u"z\xFFFD");
+    EXPECT_EQ(unidades(unicode_convierte_ANSI_idioma_a_UNICODE("\x81"
+                                                               "1\x81\xFFz\x81",
+                                                               39)),
+              u"\xFFFD"
+              u"1\xFFFD"
+              u"z\xFFFD");
 }
 
 PRUEBA(unicode, utf8_estricto) {
@@ -98,12 +118,15 @@ PRUEBA(unicode, utf8_estricto) {
     } filas[] = {
         {"a\xC3\xB1\xE2\x82\xAC\xF0\x9F\x98\x80", u"añ€😀"},
         {"\xF4\x8F\xBF\xBF|\xEF\xBF\xBF", u"\xDBFF\xDFFF|\xFFFF"},
-        {"\xC0\xAF", u"\xFFFD\xFFFD"},                 // overlong
-        {"\xE0\x80\x80", u"\xFFFD\xFFFD\xFFFD"},       // overlong
-        {"\xED\xA0\x80", u"\xFFFD\xFFFD\xFFFD"},       // a surrogate
+        {"\xC0\xAF", u"\xFFFD\xFFFD"},                     // overlong
+        {"\xE0\x80\x80", u"\xFFFD\xFFFD\xFFFD"},           // overlong
+        {"\xED\xA0\x80", u"\xFFFD\xFFFD\xFFFD"},           // a surrogate
         {"\xF4\x90\x80\x80", u"\xFFFD\xFFFD\xFFFD\xFFFD"}, // beyond the last character
-        {"\xF1\x80\x80" "a\x80\xFF", u"\xFFFD" u"a\xFFFD\xFFFD"},
-        {"\xE2\x82", u"\xFFFD"},                       // cut
+        {"\xF1\x80\x80"
+         "a\x80\xFF",
+         u"\xFFFD"
+         u"a\xFFFD\xFFFD"},
+        {"\xE2\x82", u"\xFFFD"}, // cut
         {"", u""},
     };
     for (const auto &f : filas) EXPECT_EQ(unidades(unicode_convierte_UTF8_a_UNICODE(f.utf8)), f.ancho);
@@ -113,19 +136,22 @@ PRUEBA(unicode, utf8_estricto) {
         widestr_destruye(&w);
     }
     const vnwchar sueltos[] = {0xD800, 'a', 0xDC00, 0xD83D, 0};
-    EXPECT_EQ(toma(unicode_convierte_UNICODE_a_UTF8(sueltos)), "\xEF\xBF\xBD" "a\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(toma(unicode_convierte_UNICODE_a_UTF8(sueltos)), "\xEF\xBF\xBD"
+                                                               "a\xEF\xBF\xBD\xEF\xBF\xBD");
     EXPECT_EQ(toma(unicode_UNICODE_a_ANSI(sueltos)), "?a??");
     EXPECT_EQ(toma(unicode_convierte_UTF8_a_ANSI("ñ😀")), "\xF1?");
 }
 
 PRUEBA(unicode, formas_que_consumen_y_arrays) {
-    char *a = cad_copia_cadena("ca\xF1""a");
+    char *a = cad_copia_cadena("ca\xF1"
+                               "a");
     vnwchar *w = utunicode_ANSI_a_UNICODE_destruyendo(&a);
     EXPECT_EQ(a, nullptr);
     EXPECT_EQ(utf8_de(w), "caña");
     a = utunicode_UNICODE_a_ANSI_destruyendo_p(w);
     w = utunicode_ANSI_a_UNICODE_destruyendo_p(a);
-    EXPECT_EQ(toma(utunicode_UNICODE_a_ANSI_destruyendo(&w)), "ca\xF1""a");
+    EXPECT_EQ(toma(utunicode_UNICODE_a_ANSI_destruyendo(&w)), "ca\xF1"
+                                                              "a");
     EXPECT_EQ(w, nullptr);
 
     arrCADENA_u *anchos = arr_CreaCADENA_u(3);

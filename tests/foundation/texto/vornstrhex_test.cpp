@@ -1,6 +1,6 @@
 #define VN_MODULO "vornstrhex_test"
-#include "foundation/texto/vornstrhex.h"
 #include "foundation/texto/cad.h"
+#include "foundation/texto/vornstrhex.h"
 #include "prueba.h"
 
 PRUEBA(vornstrhex, bytes_de_ida_y_vuelta) {

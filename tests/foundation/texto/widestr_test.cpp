@@ -1,7 +1,7 @@
 #define VN_MODULO "widestr_test"
-#include "foundation/texto/widestr.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/unicode.h"
+#include "foundation/texto/widestr.h"
 #include "prueba.h"
 
 using namespace vn;
@@ -72,7 +72,8 @@ PRUEBA(widestr, preguntas) {
     // As a word list has them.
     const char *orden[] = {"", "arbol", "Árbol", "árbol", "arbola", "zorro"};
     for (size_t i = 0; i + 1 < std::size(orden); ++i) {
-        EXPECT_LT(widestr_cadenas_compara_lexico_graficamente(A(orden[i]).c_str(), A(orden[i + 1]).c_str()), 0) << orden[i];
+        EXPECT_LT(widestr_cadenas_compara_lexico_graficamente(A(orden[i]).c_str(), A(orden[i + 1]).c_str()), 0)
+            << orden[i];
         EXPECT_EQ(widestr_cadenas_compara_lexico_graficamente(A(orden[i]).c_str(), A(orden[i]).c_str()), 0);
     }
 }
@@ -93,7 +94,8 @@ PRUEBA(widestr, partes) {
         uint32_t numero;
         const char *token;
     } filas[] = {{1, "31"}, {2, "12"}, {3, "2024"}, {4, "10"}, {5, "(null)"}};
-    for (const auto &f : filas) EXPECT_EQ(toma(widestr_extrae_token(VNU("31/12//2024 10:"), VNU("/-: "), f.numero)), f.token);
+    for (const auto &f : filas)
+        EXPECT_EQ(toma(widestr_extrae_token(VNU("31/12//2024 10:"), VNU("/-: "), f.numero)), f.token);
     EXPECT_EQ(widestr_extrae_token(VNU("a"), VNU(" "), 2), nullptr);
 
     vnwchar **lista = nullptr;
@@ -110,10 +112,13 @@ PRUEBA(widestr, partes) {
 
 PRUEBA(widestr, cambios) {
     EXPECT_EQ(tras("xaxbx", [](vnwchar *s) { widestr_suprime_subcadena(s, VNU("x")); }), "ab");
-    EXPECT_EQ(tras("abab", [](vnwchar **s) { EXPECT_EQ(widestr_suprime_subcadena_inicial(s, VNU("ab")), CIERTO); }), "ab");
-    EXPECT_EQ(tras("abab", [](vnwchar **s) { EXPECT_EQ(widestr_suprime_subcadena_final(s, VNU("bab")), CIERTO); }), "a");
+    EXPECT_EQ(tras("abab", [](vnwchar **s) { EXPECT_EQ(widestr_suprime_subcadena_inicial(s, VNU("ab")), CIERTO); }),
+              "ab");
+    EXPECT_EQ(tras("abab", [](vnwchar **s) { EXPECT_EQ(widestr_suprime_subcadena_final(s, VNU("bab")), CIERTO); }),
+              "a");
     EXPECT_EQ(tras("ab", [](vnwchar **s) { EXPECT_EQ(widestr_suprime_subcadena_final(s, VNU("bab")), FALSO); }), "ab");
-    EXPECT_EQ(tras("C:\\A\\A", [](vnwchar **s) { widestr_reemplaza_todas_cadenas(s, VNU("\\A"), VNU("/AA")); }), "C:/AA/AA");
+    EXPECT_EQ(tras("C:\\A\\A", [](vnwchar **s) { widestr_reemplaza_todas_cadenas(s, VNU("\\A"), VNU("/AA")); }),
+              "C:/AA/AA");
     EXPECT_EQ(tras(" \xC2\xA0 a ", [](vnwchar *s) { widestr_LTrim(s); }), "a ");
     EXPECT_EQ(tras(" a \n", [](vnwchar *s) { widestr_RTrim(s); }), " a");
     // One unit for one, and only where the way back leads home.

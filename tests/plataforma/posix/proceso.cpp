@@ -48,8 +48,7 @@ std::optional<int> espera(intptr_t id, uint32_t milisegundos) {
     for (;;) {
         int estado = 0;
         const pid_t p = ::waitpid(static_cast<pid_t>(id), &estado, WNOHANG);
-        if (p == static_cast<pid_t>(id))
-            return WIFEXITED(estado) ? WEXITSTATUS(estado) : 128 + WTERMSIG(estado);
+        if (p == static_cast<pid_t>(id)) return WIFEXITED(estado) ? WEXITSTATUS(estado) : 128 + WTERMSIG(estado);
         if (p < 0 && errno != EINTR) return proceso::MUERTO;
         if (std::chrono::steady_clock::now() >= fin) return std::nullopt;
         std::this_thread::sleep_for(std::chrono::milliseconds(1));

@@ -21,7 +21,8 @@ struct region_del_usuario::interior {
 };
 
 // LANG is another's, and an empty LC_ALL is none.
-region_del_usuario::region_del_usuario(const char *numeros, const char *fechas) : interior_(std::make_unique<interior>()) {
+region_del_usuario::region_del_usuario(const char *numeros, const char *fechas)
+    : interior_(std::make_unique<interior>()) {
     interior_->pon("LC_ALL", "");
     interior_->pon("LC_NUMERIC", numeros);
     interior_->pon("LC_TIME", fechas);

@@ -8,7 +8,9 @@ namespace {
 
 std::wstring ancho(const std::string &utf8) {
     std::wstring w(utf8.size() + 1, L'\0');
-    w.resize(static_cast<size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.c_str(), -1, w.data(), static_cast<int>(w.size()))) - 1);
+    w.resize(
+        static_cast<size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.c_str(), -1, w.data(), static_cast<int>(w.size()))) -
+        1);
     return w;
 }
 
@@ -29,8 +31,8 @@ std::string particularidades(const std::string &fichero) {
     DWORD n = 0;
     wchar_t *texto = nullptr;
     if (!GetFileSecurityW(ancho(fichero).c_str(), DACL_SECURITY_INFORMATION, memoria, sizeof memoria, &n) ||
-        !ConvertSecurityDescriptorToStringSecurityDescriptorW(memoria, SDDL_REVISION_1, DACL_SECURITY_INFORMATION, &texto,
-                                                              nullptr))
+        !ConvertSecurityDescriptorToStringSecurityDescriptorW(memoria, SDDL_REVISION_1, DACL_SECURITY_INFORMATION,
+                                                              &texto, nullptr))
         return s + "?";
     for (const wchar_t *p = texto; *p != 0; ++p) s += static_cast<char>(*p);
     LocalFree(texto);

@@ -53,7 +53,8 @@ intptr_t lanza(const std::vector<std::string> &args) {
     PROCESS_INFORMATION p{};
     // About one process in ten thousand dies in Wine's loader before its first instruction: none that did anything.
     const auto crea = [&] {
-        return CreateProcessW(programa.c_str(), linea.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &inicio, &p);
+        return CreateProcessW(programa.c_str(), linea.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &inicio,
+                              &p);
     };
     for (int intentos = 3; !crea(); --intentos)
         if (GetLastError() != ERROR_INTERNAL_ERROR || intentos == 0) return 0;
@@ -77,11 +78,9 @@ std::vector<std::string> argumentos(int, char **) {
     LPWSTR *anchos = CommandLineToArgvW(GetCommandLineW(), &n);
     std::vector<std::string> r;
     for (int i = 0; i < n; ++i) {
-        std::string u(
-            static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, nullptr, 0, nullptr, nullptr)),
-            '\0');
-        WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, u.data(), static_cast<int>(u.size()), nullptr,
-                            nullptr);
+        std::string u(static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, nullptr, 0, nullptr, nullptr)),
+                      '\0');
+        WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, u.data(), static_cast<int>(u.size()), nullptr, nullptr);
         u.pop_back();
         r.push_back(u);
     }

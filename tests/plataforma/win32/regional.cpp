@@ -7,9 +7,10 @@
 namespace vn {
 namespace {
 
-constexpr LCTYPE DE_NUMEROS[] = {LOCALE_SLIST, LOCALE_SDECIMAL, LOCALE_STHOUSAND, LOCALE_SGROUPING, LOCALE_SNEGATIVESIGN,
-                                 LOCALE_INEGNUMBER, LOCALE_IDIGITS, LOCALE_ILZERO};
-constexpr LCTYPE DE_FECHAS[] = {LOCALE_SSHORTDATE, LOCALE_SLONGDATE, LOCALE_STIMEFORMAT, LOCALE_SSHORTTIME, LOCALE_S1159, LOCALE_S2359};
+constexpr LCTYPE DE_NUMEROS[] = {LOCALE_SLIST,         LOCALE_SDECIMAL,   LOCALE_STHOUSAND, LOCALE_SGROUPING,
+                                 LOCALE_SNEGATIVESIGN, LOCALE_INEGNUMBER, LOCALE_IDIGITS,   LOCALE_ILZERO};
+constexpr LCTYPE DE_FECHAS[] = {LOCALE_SSHORTDATE, LOCALE_SLONGDATE, LOCALE_STIMEFORMAT,
+                                LOCALE_SSHORTTIME, LOCALE_S1159,     LOCALE_S2359};
 
 std::wstring dato(const wchar_t *region, LCTYPE que) {
     wchar_t sitio[160] = L"";
@@ -29,7 +30,8 @@ struct region_del_usuario::interior {
     }
 };
 
-region_del_usuario::region_del_usuario(const char *numeros, const char *fechas) : interior_(std::make_unique<interior>()) {
+region_del_usuario::region_del_usuario(const char *numeros, const char *fechas)
+    : interior_(std::make_unique<interior>()) {
     for (const LCTYPE que : DE_NUMEROS) interior_->pon(que, numeros);
     for (const LCTYPE que : DE_FECHAS) interior_->pon(que, fechas);
 }

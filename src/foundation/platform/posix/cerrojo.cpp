@@ -45,8 +45,8 @@ std::string directorio_propio() {
     return es_solo_mio ? d : std::string();
 }
 
-// Opens the file, or makes it for all users. Not with O_CREAT alone: systems refuse that for a file of another user's in a
-// directory of everybody's.
+// Opens the file, or makes it for all users. Not with O_CREAT alone: systems refuse that for a file of another user's
+// in a directory of everybody's.
 int abre_o_crea(const char *fichero) {
     constexpr int COMO = O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
     int fd = ::open(fichero, COMO);
@@ -54,8 +54,8 @@ int abre_o_crea(const char *fichero) {
     return aparta(fd);
 }
 
-// A file of ours, and not what somebody put in its place to have it written. Its rights are those of all users, whatever
-// the mask of the one who made it.
+// A file of ours, and not what somebody put in its place to have it written. Its rights are those of all users,
+// whatever the mask of the one who made it.
 bool es_de_cerrojo(int fd) {
     struct stat s {};
     if (::fstat(fd, &s) != 0 || !S_ISREG(s.st_mode) || s.st_nlink > 1 || s.st_size > 1) return false;

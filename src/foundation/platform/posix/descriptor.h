@@ -8,8 +8,8 @@
 
 namespace vn::plat {
 
-// A descriptor that has just been opened, or -1, never one of the standard three: where those are closed, what the program
-// prints must not go into a file.
+// A descriptor that has just been opened, or -1, never one of the standard three: where those are closed, what the
+// program prints must not go into a file.
 inline int aparta(int d) {
     if (d < 0 || d > STDERR_FILENO) return d;
     const int otro = ::fcntl(d, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
@@ -19,8 +19,8 @@ inline int aparta(int d) {
     return otro;
 }
 
-// A write while it lives beyond a limit of size, or to a pipe that nobody reads, fails and does not end the process: the
-// signal stays with the thread, which takes it away.
+// A write while it lives beyond a limit of size, or to a pipe that nobody reads, fails and does not end the process:
+// the signal stays with the thread, which takes it away.
 class sin_senyales {
   public:
     sin_senyales() {

@@ -83,8 +83,7 @@ std::optional<texto> casa() {
     std::array<char, 16384> sitio{};
     struct passwd p {
     }, *hay = nullptr;
-    if (::getpwuid_r(::geteuid(), &p, sitio.data(), sitio.size(), &hay) != 0 || hay == nullptr)
-        return std::nullopt;
+    if (::getpwuid_r(::geteuid(), &p, sitio.data(), sitio.size(), &hay) != 0 || hay == nullptr) return std::nullopt;
     return ruta_ancha(p.pw_dir);
 }
 
@@ -184,7 +183,9 @@ bool crea_directorios(const texto &ruta) {
     for (size_t i = 0, fin = 0; i < b.size(); i = fin) {
         fin = std::min(b.find_first_not_of('/', std::min(b.find('/', i), b.size())), b.size());
         const std::string parte = b.substr(i, fin - i);
-        const auto abre = [&] { return descriptor(::openat(en.numero(), parte.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)); };
+        const auto abre = [&] {
+            return descriptor(::openat(en.numero(), parte.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        };
         descriptor d = abre();
         if (d.numero() < 0 && errno == ENOENT && (::mkdirat(en.numero(), parte.c_str(), 0777) == 0 || errno == EEXIST))
             d = abre();
@@ -222,9 +223,7 @@ texto ruta_del_programa() {
 
 std::optional<texto> base_de_configuracion() { return de_usuario("XDG_CONFIG_HOME", VNU(".config")); }
 
-texto unidad_escribible() {
-    return de_usuario("XDG_DATA_HOME", VNU(".local/share")).value_or(directorio_temporal());
-}
+texto unidad_escribible() { return de_usuario("XDG_DATA_HOME", VNU(".local/share")).value_or(directorio_temporal()); }
 
 std::vector<texto> directorios_de_programas() {
     std::vector<texto> r;

@@ -26,33 +26,15 @@ constexpr struct {
     int del_sistema;
     vnerror_fichero error;
 } ERRORES[] = {
-    {ENOSPC, VN_FICH_SIN_ESPACIO},
-    {EDQUOT, VN_FICH_SIN_ESPACIO},
-    {EFBIG, VN_FICH_SIN_ESPACIO},
-    {EACCES, VN_FICH_SIN_PERMISO},
-    {EPERM, VN_FICH_SIN_PERMISO},
-    {EROFS, VN_FICH_SIN_PERMISO},
-    {EBADF, VN_FICH_SIN_PERMISO},
-    {ENOENT, VN_FICH_NO_EXISTE},
-    {ENOTDIR, VN_FICH_NO_EXISTE},
-    {EEXIST, VN_FICH_YA_EXISTE},
-    {ENOTEMPTY, VN_FICH_YA_EXISTE},
-    {EINTR, VN_FICH_INTERRUMPIDA},
-    {EAGAIN, VN_FICH_COMPARTIDO},
-    {EBUSY, VN_FICH_COMPARTIDO},
-    {ETXTBSY, VN_FICH_COMPARTIDO},
-    {EISDIR, VN_FICH_ES_DIRECTORIO},
-    {EOPNOTSUPP, VN_FICH_NO_ADMITIDO},
-    {ENOSYS, VN_FICH_NO_ADMITIDO},
-    {EINVAL, VN_FICH_NO_ADMITIDO},
-    {EXDEV, VN_FICH_NO_ADMITIDO},
-    {EMLINK, VN_FICH_NO_ADMITIDO},
-    {ENOLCK, VN_FICH_NO_ADMITIDO},
-    {ESPIPE, VN_FICH_NO_ADMITIDO},
-    {ELOOP, VN_FICH_NO_ADMITIDO},
-    {ENAMETOOLONG, VN_FICH_NO_ADMITIDO},
-    {EOVERFLOW, VN_FICH_NO_ADMITIDO},
-    {EIO, VN_FICH_ES},
+    {ENOSPC, VN_FICH_SIN_ESPACIO},       {EDQUOT, VN_FICH_SIN_ESPACIO},     {EFBIG, VN_FICH_SIN_ESPACIO},
+    {EACCES, VN_FICH_SIN_PERMISO},       {EPERM, VN_FICH_SIN_PERMISO},      {EROFS, VN_FICH_SIN_PERMISO},
+    {EBADF, VN_FICH_SIN_PERMISO},        {ENOENT, VN_FICH_NO_EXISTE},       {ENOTDIR, VN_FICH_NO_EXISTE},
+    {EEXIST, VN_FICH_YA_EXISTE},         {ENOTEMPTY, VN_FICH_YA_EXISTE},    {EINTR, VN_FICH_INTERRUMPIDA},
+    {EAGAIN, VN_FICH_COMPARTIDO},        {EBUSY, VN_FICH_COMPARTIDO},       {ETXTBSY, VN_FICH_COMPARTIDO},
+    {EISDIR, VN_FICH_ES_DIRECTORIO},     {EOPNOTSUPP, VN_FICH_NO_ADMITIDO}, {ENOSYS, VN_FICH_NO_ADMITIDO},
+    {EINVAL, VN_FICH_NO_ADMITIDO},       {EXDEV, VN_FICH_NO_ADMITIDO},      {EMLINK, VN_FICH_NO_ADMITIDO},
+    {ENOLCK, VN_FICH_NO_ADMITIDO},       {ESPIPE, VN_FICH_NO_ADMITIDO},     {ELOOP, VN_FICH_NO_ADMITIDO},
+    {ENAMETOOLONG, VN_FICH_NO_ADMITIDO}, {EOVERFLOW, VN_FICH_NO_ADMITIDO},  {EIO, VN_FICH_ES},
 };
 
 vnerror_fichero ultimo_error() {
@@ -131,14 +113,12 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     if ((como & VN_ABRE_ANADE) != 0) modo |= O_APPEND;
     if ((como & VN_ABRE_PROPIO) != 0) modo |= O_NOFOLLOW;
     const std::string ruta = bytes(nombre);
-    const int d = aparta(abre_descriptor(ruta, modo, (como & VN_ABRE_LECTURA) != 0,
-                                         (como & VN_ABRE_ESCRITURA) != 0, (como & VN_ABRE_PRIVADO) != 0 ? 0600 : 0666));
+    const int d = aparta(abre_descriptor(ruta, modo, (como & VN_ABRE_LECTURA) != 0, (como & VN_ABRE_ESCRITURA) != 0,
+                                         (como & VN_ABRE_PRIVADO) != 0 ? 0600 : 0666));
     if (d < 0) return ultimo_error();
     const vnerror_fichero e = prepara(d, ruta, como);
-    if (e != VN_FICH_BIEN)
-        ::close(d);
-    else
-        *id = d;
+    if (e != VN_FICH_BIEN) ::close(d);
+    else *id = d;
     return e;
 }
 
@@ -243,8 +223,8 @@ vnerror_fichero renombra_abierto(vnid_fichero id, const vnwchar *existente, cons
 
 vnerror_fichero borra(const vnwchar *nombre) { return resultado(::unlink(bytes(nombre).c_str())); }
 
-// What cannot be a file of somebody's who is at work goes, unopened: a link, a pipe. So does a file that nobody could look
-// at, once its owner has had the time to give it its rights.
+// What cannot be a file of somebody's who is at work goes, unopened: a link, a pipe. So does a file that nobody could
+// look at, once its owner has had the time to give it its rights.
 vnerror_fichero retira(const vnwchar *nombre) {
     const std::string ruta = bytes(nombre);
     struct stat s;
@@ -287,8 +267,8 @@ vnerror_fichero copia_permisos(const vnwchar *origen, vnid_fichero destino) {
     struct stat s, t;
     if (::stat(de.c_str(), &s) != 0 || ::fstat(fd(destino), &t) != 0) return ultimo_error();
     const bool mismos = s.st_uid == t.st_uid && s.st_gid == t.st_gid;
-    const bool con_grupo = mismos || ::fchown(fd(destino), s.st_uid, s.st_gid) == 0 ||
-                           s.st_gid == t.st_gid || ::fchown(fd(destino), static_cast<uid_t>(-1), s.st_gid) == 0;
+    const bool con_grupo = mismos || ::fchown(fd(destino), s.st_uid, s.st_gid) == 0 || s.st_gid == t.st_gid ||
+                           ::fchown(fd(destino), static_cast<uid_t>(-1), s.st_gid) == 0;
     const mode_t modo = s.st_mode & (con_grupo ? 0777 : 0707);
     const mode_t grupo = con_grupo ? 0 : (s.st_mode & 0007) << 3;
     if (::fchmod(fd(destino), modo | grupo) != 0) return errno == EPERM ? VN_FICH_NO_ADMITIDO : ultimo_error();

@@ -14,10 +14,9 @@ void *como_handle(int fd) { return reinterpret_cast<void *>(static_cast<intptr_t
 
 } // namespace
 
-void *abre_fichero(const texto &nombre, uint32_t acceso, uint32_t, void *, uint32_t disposicion,
-                   uint32_t atributos, void *) {
-    const bool lee = (acceso & VNLONGPATH_GENERIC_READ) != 0,
-               escribe = (acceso & VNLONGPATH_GENERIC_WRITE) != 0;
+void *abre_fichero(const texto &nombre, uint32_t acceso, uint32_t, void *, uint32_t disposicion, uint32_t atributos,
+                   void *) {
+    const bool lee = (acceso & VNLONGPATH_GENERIC_READ) != 0, escribe = (acceso & VNLONGPATH_GENERIC_WRITE) != 0;
     const std::string ruta = ruta_del_sistema(nombre);
     if (disposicion == VNLONGPATH_TRUNCATE_EXISTING && !escribe) {
         errno = EINVAL;
@@ -29,8 +28,7 @@ void *abre_fichero(const texto &nombre, uint32_t acceso, uint32_t, void *, uint3
     const int fd = aparta(::open(ruta.c_str(), modo, permisos));
     if (fd < 0) return VNLONGPATH_INVALID_HANDLE;
     struct stat s {};
-    if (::fstat(fd, &s) == 0 && S_ISDIR(s.st_mode) &&
-        (atributos & VNLONGPATH_FILE_FLAG_BACKUP_SEMANTICS) == 0) {
+    if (::fstat(fd, &s) == 0 && S_ISDIR(s.st_mode) && (atributos & VNLONGPATH_FILE_FLAG_BACKUP_SEMANTICS) == 0) {
         ::close(fd);
         errno = EISDIR;
         return VNLONGPATH_INVALID_HANDLE;

@@ -67,8 +67,9 @@ struct campo {
     size_t minimo, maximo; // of letters
 };
 constexpr campo CAMPOS[] = {
-    {u'd', u'd', 1, 2}, {u'E', u'd', 3, 4}, {u'c', u'd', 3, 4}, {u'M', u'M', 1, 4}, {u'L', u'M', 1, 4}, {u'y', u'y', 4, 4},
-    {u'G', u'g', 2, 2}, {u'h', u'h', 1, 2}, {u'K', u'h', 1, 2}, {u'H', u'H', 1, 2}, {u'k', u'H', 1, 2}, {u'm', u'm', 1, 2},
+    {u'd', u'd', 1, 2}, {u'E', u'd', 3, 4}, {u'c', u'd', 3, 4}, {u'M', u'M', 1, 4},
+    {u'L', u'M', 1, 4}, {u'y', u'y', 4, 4}, {u'G', u'g', 2, 2}, {u'h', u'h', 1, 2},
+    {u'K', u'h', 1, 2}, {u'H', u'H', 1, 2}, {u'k', u'H', 1, 2}, {u'm', u'm', 1, 2},
     {u's', u's', 1, 2}, {u'a', u't', 2, 2}, {u'b', u't', 2, 2}, {u'B', u't', 2, 2},
 };
 
@@ -102,7 +103,8 @@ texto modelo_de(const texto &patron) {
             modelo.append(patron, i, fin - i);
         } else if (es_letra(c)) {
             while (fin < patron.size() && patron[fin] == c) ++fin;
-            if (const campo *k = campo_de(c)) modelo.append(std::min(std::max(fin - i, k->minimo), k->maximo), k->nuestro);
+            if (const campo *k = campo_de(c))
+                modelo.append(std::min(std::max(fin - i, k->minimo), k->maximo), k->nuestro);
         } else {
             modelo += c;
         }

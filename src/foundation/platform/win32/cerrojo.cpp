@@ -16,8 +16,8 @@ HANDLE mutex_id(intptr_t id) { return reinterpret_cast<HANDLE>(id); }
 
 bool cerrojo::abre() {
     SECURITY_ATTRIBUTES seguridad{sizeof seguridad, nullptr, FALSE};
-    const bool hay = ConvertStringSecurityDescriptorToSecurityDescriptorW(
-        PERMISOS, SDDL_REVISION_1, &seguridad.lpSecurityDescriptor, nullptr);
+    const bool hay = ConvertStringSecurityDescriptorToSecurityDescriptorW(PERMISOS, SDDL_REVISION_1,
+                                                                          &seguridad.lpSecurityDescriptor, nullptr);
     const std::wstring nombre = L"Global\\nucleos-" + std::wstring(nombre_.begin(), nombre_.end());
     const HANDLE h = CreateMutexExW(hay ? &seguridad : nullptr, nombre.c_str(), 0, DERECHOS);
     if (hay) LocalFree(seguridad.lpSecurityDescriptor);
@@ -29,12 +29,9 @@ cerrojo::toma cerrojo::entra(uint32_t milisegundos) {
     if (id_ == -1 && !abre()) return toma::no;
     // INFINITE is a time like any other here, one millisecond shorter.
     switch (WaitForSingleObject(mutex_id(id_), milisegundos == INFINITE ? INFINITE - 1 : milisegundos)) {
-    case WAIT_OBJECT_0:
-        return toma::bien;
-    case WAIT_ABANDONED:
-        return toma::abandonado;
-    default:
-        return toma::no;
+    case WAIT_OBJECT_0: return toma::bien;
+    case WAIT_ABANDONED: return toma::abandonado;
+    default: return toma::no;
     }
 }
 

@@ -25,9 +25,9 @@ using handle = std::unique_ptr<void, cierra_handle>;
 
 // Opens what is there without getting in anybody's way; null if it cannot be.
 handle abre(const texto &ruta, DWORD acceso) {
-    const HANDLE h = CreateFileW(ruta_del_sistema(ruta).c_str(), acceso,
-                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                 OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    const HANDLE h =
+        CreateFileW(ruta_del_sistema(ruta).c_str(), acceso, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     return handle(h == INVALID_HANDLE_VALUE ? nullptr : h);
 }
 
@@ -37,8 +37,7 @@ int64_t segundos(FILETIME t) {
 }
 
 // The attributes and sizes that three records of the system name alike.
-template <class T>
-void copia(const T &d, ficha &f) {
+template <class T> void copia(const T &d, ficha &f) {
     f.atributos = d.dwFileAttributes;
     f.es_directorio = (d.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     f.tamanyo = f.es_directorio ? 0 : static_cast<uint64_t>(d.nFileSizeHigh) << 32 | d.nFileSizeLow;
@@ -56,13 +55,11 @@ bool sigue_enlace(const texto &ruta, ficha &f) {
 
 // Of the records that replace a file, those that lead elsewhere; a file kept by a cloud service does not.
 bool lleva_a_otro(const WIN32_FIND_DATAW &d) {
-    return (d.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-           IsReparseTagNameSurrogate(d.dwReserved0);
+    return (d.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(d.dwReserved0);
 }
 
 bool busca(const texto &patron, WIN32_FIND_DATAW &d, HANDLE &h) {
-    h = FindFirstFileExW(ruta_del_sistema(patron).c_str(), FindExInfoBasic, &d, FindExSearchNameMatch,
-                         nullptr, 0);
+    h = FindFirstFileExW(ruta_del_sistema(patron).c_str(), FindExInfoBasic, &d, FindExSearchNameMatch, nullptr, 0);
     return h != INVALID_HANDLE_VALUE;
 }
 
@@ -83,9 +80,9 @@ bool crea_directorio(const texto &ruta) {
 void quita_proteccion(const texto &del_sistema) {
     const DWORD a = GetFileAttributesW(del_sistema.c_str());
     if (a == INVALID_FILE_ATTRIBUTES || (a & FILE_ATTRIBUTE_READONLY) == 0) return;
-    const HANDLE h = CreateFileW(del_sistema.c_str(), FILE_WRITE_ATTRIBUTES,
-                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                                 FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    const HANDLE h =
+        CreateFileW(del_sistema.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     if (h == INVALID_HANDLE_VALUE) return;
     FILE_BASIC_INFO d{}; // a time of 0 stays as it is
     d.FileAttributes = (a & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY)) | FILE_ATTRIBUTE_NORMAL;
@@ -99,8 +96,7 @@ bool se_crea_en(const texto &raiz) {
 }
 
 // Grows the room until the call, which answers the length that it needs or has written, fits.
-template <class F>
-texto con_sitio(F llama) {
+template <class F> texto con_sitio(F llama) {
     texto t(MAX_PATH, L'\0');
     for (;;) {
         const DWORD n = llama(t.data(), static_cast<DWORD>(t.size()));
@@ -116,8 +112,7 @@ texto con_sitio(F llama) {
 
 bool es_enlace(const texto &ruta) {
     const texto limpia = sin_separador_final(ruta);
-    if ((GetFileAttributesW(ruta_del_sistema(limpia).c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
-        return false;
+    if ((GetFileAttributesW(ruta_del_sistema(limpia).c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
     WIN32_FIND_DATAW d{};
     HANDLE h = nullptr;
     if (!busca(limpia, d, h)) return false;
@@ -188,8 +183,8 @@ bool recorrido::siguiente(ficha &f) {
     return false;
 }
 
-// The directories on the way down are held by handles that nobody can delete or rename them under: then their names lead
-// where they led. A path has 32,767 characters at most, and so bounds the handles.
+// The directories on the way down are held by handles that nobody can delete or rename them under: then their names
+// lead where they led. A path has 32,767 characters at most, and so bounds the handles.
 struct descenso::interior {
     struct nivel {
         handle sujeto;
@@ -200,13 +195,15 @@ struct descenso::interior {
 
     texto ruta_de(const texto &nombre) const { return ruta_del_sistema(ruta + L'\\' + nombre); }
     bool sujeta() {
-        handle h(CreateFileW(ruta_del_sistema(ruta).c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                             OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+        handle h(CreateFileW(ruta_del_sistema(ruta).c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                             nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT,
+                             nullptr));
         FILE_ATTRIBUTE_TAG_INFO d{};
         if (h.get() == INVALID_HANDLE_VALUE) static_cast<void>(h.release());
         if (!h || !GetFileInformationByHandleEx(h.get(), FileAttributeTagInfo, &d, sizeof d)) return false;
         if ((d.FileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return false;
-        if ((d.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(d.ReparseTag)) return false;
+        if ((d.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(d.ReparseTag))
+            return false;
         niveles.push_back({std::move(h), ruta.size()});
         return true;
     }
@@ -287,16 +284,14 @@ texto ruta_del_programa() {
 std::optional<texto> base_de_configuracion() {
     if (auto v = variable("APPDATA")) return sin_separador_final(*v);
     std::wstring sitio(MAX_PATH, L'\0');
-    if (FAILED(SHGetFolderPathW(nullptr, CSIDL_APPDATA | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT,
-                                sitio.data())))
+    if (FAILED(SHGetFolderPathW(nullptr, CSIDL_APPDATA | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT, sitio.data())))
         return std::nullopt;
     return sin_separador_final(texto(sitio.c_str()));
 }
 
 texto unidad_escribible() {
     const texto programa = ruta_del_programa();
-    if (programa.size() > 2 && programa[1] == L':' && se_crea_en(programa.substr(0, 2)))
-        return programa.substr(0, 2);
+    if (programa.size() > 2 && programa[1] == L':' && se_crea_en(programa.substr(0, 2))) return programa.substr(0, 2);
     const texto sistema = con_sitio([](LPWSTR p, DWORD k) { return GetWindowsDirectoryW(p, k); });
     return sistema.size() > 1 && sistema[1] == L':' ? sistema.substr(0, 2) : texto(L"C:");
 }
@@ -328,8 +323,7 @@ std::vector<texto> directorios_de_programas() {
 
 std::vector<texto> terminaciones_de_programas() {
     std::vector<texto> r{texto()};
-    for (texto &t : separados(variable("PATHEXT").value_or(texto(L".COM;.EXE;.BAT;.CMD"))))
-        r.push_back(std::move(t));
+    for (texto &t : separados(variable("PATHEXT").value_or(texto(L".COM;.EXE;.BAT;.CMD")))) r.push_back(std::move(t));
     return r;
 }
 

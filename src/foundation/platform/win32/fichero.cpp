@@ -80,9 +80,9 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     // One's own may be renamed by its handle, and given rights.
     const DWORD acceso = ((como & VN_ABRE_LECTURA) != 0 ? GENERIC_READ : 0) |
                          ((como & VN_ABRE_ESCRITURA) != 0 ? GENERIC_WRITE : 0) | (propio ? DELETE | WRITE_DAC : 0);
-    const DWORD otros = propio                              ? FILE_SHARE_READ
+    const DWORD otros = propio                            ? FILE_SHARE_READ
                         : (como & VN_ABRE_EXCLUSIVO) != 0 ? TODOS & ~static_cast<DWORD>(FILE_SHARE_WRITE)
-                                                            : TODOS;
+                                                          : TODOS;
     const DWORD manera = (como & VN_ABRE_CREA) == 0    ? OPEN_EXISTING
                          : (como & VN_ABRE_NUEVO) != 0 ? CREATE_NEW
                                                        : OPEN_ALWAYS;
@@ -105,10 +105,10 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     const vnid_fichero nuevo = reinterpret_cast<vnid_fichero>(h);
     BY_HANDLE_FILE_INFORMATION datos;
     vnerror_fichero e = VN_FICH_BIEN;
-    if (propio && (!GetFileInformationByHandle(h, &datos) || (datos.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0))
+    if (propio &&
+        (!GetFileInformationByHandle(h, &datos) || (datos.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0))
         e = VN_FICH_NO_ADMITIDO;
-    else if ((como & VN_ABRE_TRUNCA) != 0)
-        e = trunca(nuevo, 0);
+    else if ((como & VN_ABRE_TRUNCA) != 0) e = trunca(nuevo, 0);
     if (e != VN_FICH_BIEN) {
         CloseHandle(h);
         return e;
@@ -252,7 +252,8 @@ vnerror_fichero borra(const vnwchar *nombre) { return resultado(DeleteFileW(ruta
 vnerror_fichero retira(const vnwchar *nombre) {
     const std::wstring ruta = ruta_del_sistema(nombre);
     const DWORD atributos = GetFileAttributesW(ruta.c_str());
-    if (atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY) != 0) return VN_FICH_ES_DIRECTORIO;
+    if (atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY) != 0)
+        return VN_FICH_ES_DIRECTORIO;
     if (atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_READONLY) != 0)
         SetFileAttributesW(ruta.c_str(), FILE_ATTRIBUTE_NORMAL);
     return borra(nombre);
@@ -266,7 +267,8 @@ vnerror_fichero copia_permisos(const vnwchar *origen, vnid_fichero destino) {
     FILE_BASIC_INFO datos{};
     datos.FileAttributes =
         FILE_ATTRIBUTE_NORMAL | (atributos & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE));
-    if (datos.FileAttributes != FILE_ATTRIBUTE_NORMAL) datos.FileAttributes &= ~static_cast<DWORD>(FILE_ATTRIBUTE_NORMAL);
+    if (datos.FileAttributes != FILE_ATTRIBUTE_NORMAL)
+        datos.FileAttributes &= ~static_cast<DWORD>(FILE_ATTRIBUTE_NORMAL);
     if (!SetFileInformationByHandle(handle(destino), FileBasicInfo, &datos, sizeof datos)) return resultado(FALSE);
     DWORD n = 0;
     GetFileSecurityW(de.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &n);
@@ -277,8 +279,8 @@ vnerror_fichero copia_permisos(const vnwchar *origen, vnid_fichero destino) {
         !GetSecurityDescriptorControl(lista.get(), &control, &revision))
         return VN_FICH_NO_ADMITIDO;
     const SECURITY_INFORMATION que =
-        DACL_SECURITY_INFORMATION |
-        ((control & SE_DACL_PROTECTED) != 0 ? PROTECTED_DACL_SECURITY_INFORMATION : UNPROTECTED_DACL_SECURITY_INFORMATION);
+        DACL_SECURITY_INFORMATION | ((control & SE_DACL_PROTECTED) != 0 ? PROTECTED_DACL_SECURITY_INFORMATION
+                                                                        : UNPROTECTED_DACL_SECURITY_INFORMATION);
     return SetKernelObjectSecurity(handle(destino), que, lista.get()) ? VN_FICH_BIEN : VN_FICH_NO_ADMITIDO;
 }
 

@@ -15,7 +15,8 @@ decodificador::~decodificador() = default;
 
 bool decodificador::unidad(const unsigned char *bytes, int n, char16_t &u) {
     wchar_t salida[4];
-    const int hay = MultiByteToWideChar(pagina_, MB_ERR_INVALID_CHARS, reinterpret_cast<const char *>(bytes), n, salida, 4);
+    const int hay =
+        MultiByteToWideChar(pagina_, MB_ERR_INVALID_CHARS, reinterpret_cast<const char *>(bytes), n, salida, 4);
     if (hay != 1) return false;
     u = static_cast<char16_t>(salida[0]);
     return true;
@@ -26,13 +27,16 @@ void mapas_de_caja(char16_t *mayusculas, char16_t *minusculas) {
         wchar_t origen[NUM_UNIDADES], destino[NUM_UNIDADES];
     };
     const auto t = std::make_unique<textos>();
-    for (const auto &[bandera, mapa] : {std::pair{LCMAP_UPPERCASE, mayusculas}, std::pair{LCMAP_LOWERCASE, minusculas}}) {
-        for (size_t c = 0; c < NUM_UNIDADES; ++c) t->origen[c] = static_cast<wchar_t>(c >= 0xD800 && c < 0xE000 ? ' ' : c);
-        const int n = LCMapStringEx(LOCALE_NAME_INVARIANT, static_cast<DWORD>(bandera), t->origen, NUM_UNIDADES, t->destino,
-                                    NUM_UNIDADES, nullptr, nullptr, 0);
+    for (const auto &[bandera, mapa] :
+         {std::pair{LCMAP_UPPERCASE, mayusculas}, std::pair{LCMAP_LOWERCASE, minusculas}}) {
         for (size_t c = 0; c < NUM_UNIDADES; ++c)
-            mapa[c] = n != static_cast<int>(NUM_UNIDADES) || (c >= 0xD800 && c < 0xE000) ? static_cast<char16_t>(c)
-                                                                                          : static_cast<char16_t>(t->destino[c]);
+            t->origen[c] = static_cast<wchar_t>(c >= 0xD800 && c < 0xE000 ? ' ' : c);
+        const int n = LCMapStringEx(LOCALE_NAME_INVARIANT, static_cast<DWORD>(bandera), t->origen, NUM_UNIDADES,
+                                    t->destino, NUM_UNIDADES, nullptr, nullptr, 0);
+        for (size_t c = 0; c < NUM_UNIDADES; ++c)
+            mapa[c] = n != static_cast<int>(NUM_UNIDADES) || (c >= 0xD800 && c < 0xE000)
+                          ? static_cast<char16_t>(c)
+                          : static_cast<char16_t>(t->destino[c]);
     }
 }
 

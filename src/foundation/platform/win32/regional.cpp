@@ -79,7 +79,8 @@ bool lee_region(const char *nombre, region &r) {
     r.dias_en_fecha = r.dias;
     r.dias_abreviados_en_fecha = r.dias_abreviados;
     for (LCTYPE i = 0; i < 12; ++i)
-        if (!lee((LOCALE_SMONTHNAME1 + i) | LOCALE_RETURN_GENITIVE_NAMES, r.meses_en_fecha[i]) || r.meses_en_fecha[i].empty())
+        if (!lee((LOCALE_SMONTHNAME1 + i) | LOCALE_RETURN_GENITIVE_NAMES, r.meses_en_fecha[i]) ||
+            r.meses_en_fecha[i].empty())
             r.meses_en_fecha[i] = r.meses[i];
     wchar_t era[80];
     r.era = GetCalendarInfoEx(el_nombre, CAL_GREGORIAN, nullptr, CAL_SERASTRING, era, 80, nullptr) > 0 ? era : L"";

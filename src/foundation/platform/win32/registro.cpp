@@ -46,20 +46,23 @@ bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto>
     const clave_abierta h = abre(raiz, clave, KEY_ENUMERATE_SUB_KEYS);
     if (h == nullptr) return false;
     wchar_t nombre[256];
-    for (DWORD i = 0, n = 256; RegEnumKeyExW(h.get(), i, nombre, &n, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS; ++i, n = 256)
+    for (DWORD i = 0, n = 256;
+         RegEnumKeyExW(h.get(), i, nombre, &n, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS; ++i, n = 256)
         nombres.emplace_back(nombre, n);
     return true;
 }
 
 bool hay_clave_de_registro(uint32_t raiz, const texto &clave) { return abre(raiz, clave, KEY_QUERY_VALUE) != nullptr; }
 
-bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t que_vista, std::vector<std::pair<texto, texto>> &textos) {
+bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t que_vista,
+                        std::vector<std::pair<texto, texto>> &textos) {
     const clave_abierta h = abre(raiz, clave, KEY_QUERY_VALUE | VISTAS[que_vista]);
     if (h == nullptr) return false;
     texto nombre(MAXIMO_NOMBRE, L'\0');
     for (DWORD i = 0;; ++i) {
         DWORD n = MAXIMO_NOMBRE;
-        if (RegEnumValueW(h.get(), i, nombre.data(), &n, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) return true;
+        if (RegEnumValueW(h.get(), i, nombre.data(), &n, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
+            return true;
         texto contenido;
         if (lee(h.get(), nombre.c_str(), contenido)) textos.emplace_back(nombre.substr(0, n), contenido);
     }
@@ -73,11 +76,13 @@ bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, con
         return e == ERROR_SUCCESS || e == ERROR_FILE_NOT_FOUND;
     }
     HKEY nueva = nullptr;
-    if (RegCreateKeyExW(la_raiz(raiz), clave.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &nueva, nullptr) != ERROR_SUCCESS)
+    if (RegCreateKeyExW(la_raiz(raiz), clave.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &nueva, nullptr) !=
+        ERROR_SUCCESS)
         return false;
     const clave_abierta h(nueva);
     const auto bytes = static_cast<DWORD>((wcslen(contenido) + 1) * sizeof(wchar_t));
-    return RegSetValueExW(h.get(), valor.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE *>(contenido), bytes) == ERROR_SUCCESS;
+    return RegSetValueExW(h.get(), valor.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE *>(contenido), bytes) ==
+           ERROR_SUCCESS;
 }
 
 bool puede_escribir_registro(uint32_t raiz) { return abre(raiz, L"Software", KEY_WRITE) != nullptr; }

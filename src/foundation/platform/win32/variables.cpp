@@ -11,7 +11,8 @@ bool variable_definida(const char *nombre) {
 
 std::string idioma_del_usuario() {
     wchar_t nombre[LOCALE_NAME_MAX_LENGTH];
-    const int n = LCIDToLocaleName(MAKELCID(GetUserDefaultUILanguage(), SORT_DEFAULT), nombre, LOCALE_NAME_MAX_LENGTH, 0);
+    const int n =
+        LCIDToLocaleName(MAKELCID(GetUserDefaultUILanguage(), SORT_DEFAULT), nombre, LOCALE_NAME_MAX_LENGTH, 0);
     std::string ascii;
     for (int i = 0; i + 1 < n; ++i) ascii += static_cast<char>(nombre[i]);
     return ascii;
