@@ -109,7 +109,7 @@ struct escritura {
 
 void escribe_fichero(escritura *e) {
     vdir_crea_directorios_fichero_si_es_posible_UNICODE(e->ruta);
-    vn::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->ruta));
+    vn::ficheros::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->ruta));
     if (f == nullptr) return;
     {
         const std::unique_ptr<vornsave, destruye_protocolo> v(vornsave_registra_bin(f.get()));

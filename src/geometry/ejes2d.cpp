@@ -30,7 +30,7 @@ bool iguales(const marco &a, const marco &b, double precision) {
 }
 
 bool paralelos(const marco &a, const marco &b, double precision) {
-    return std::fabs(std::fabs(escalar(normal_de(a), normal_de(b))) - 1.) < precision;
+    return std::fabs(std::fabs(numeros::escalar(normal_de(a), normal_de(b))) - 1.) < precision;
 }
 
 marco a_global(const marco &base, const marco &local) {
@@ -41,14 +41,15 @@ marco a_global(const marco &base, const marco &local) {
 marco a_local(const marco &base, const marco &global) {
     const Punto3D w = normal_de(base);
     // The origin goes by the cross product as it comes, the vectors by the unit normal.
-    return {base.vector_a_local(global.o - base.o, vectorial(base.u, base.v)), base.vector_a_local(global.u, w),
-            base.vector_a_local(global.v, w)};
+    return {base.vector_a_local(global.o - base.o, numeros::vectorial(base.u, base.v)),
+            base.vector_a_local(global.u, w), base.vector_a_local(global.v, w)};
 }
 
 // Cosine and sine of an angle in degrees, and a vector turned by it toward another.
 struct giro {
     double coseno, seno;
-    explicit giro(double grados) : coseno(std::cos(grados * PI / 180.0)), seno(std::sin(grados * PI / 180.0)) {}
+    explicit giro(double grados)
+        : coseno(std::cos(grados * numeros::PI / 180.0)), seno(std::sin(grados * numeros::PI / 180.0)) {}
     Punto3D operator()(Punto3D a, Punto3D hacia) const { return coseno * a + seno * hacia; }
 };
 
@@ -60,7 +61,7 @@ bool vn::comprueba_unitario(Punto3D u) {
 }
 
 Punto3D vn::normal_de(Punto3D u, Punto3D v) {
-    Punto3D w = vectorial(u, v);
+    Punto3D w = numeros::vectorial(u, v);
     mt_pasar_a_unitario_3D(&w.x, &w.y, &w.z);
     comprueba_unitario(w);
     return w;
@@ -105,9 +106,9 @@ void ejes2d_ejes_locales_a_globales(EJES, EJES_DE(_local), double *Xo_global, do
         !EXIGE3(Vx_global, Vy_global, Vz_global))
         return;
     const marco m = a_global(MARCO, MARCO_DE(_local));
-    da(Xo_global, Yo_global, Zo_global, m.o);
-    da(Ux_global, Uy_global, Uz_global, m.u);
-    da(Vx_global, Vy_global, Vz_global, m.v);
+    numeros::da(Xo_global, Yo_global, Zo_global, m.o);
+    numeros::da(Ux_global, Uy_global, Uz_global, m.u);
+    numeros::da(Vx_global, Vy_global, Vz_global, m.v);
 }
 
 void ejes2d_ejes_globales_a_locales(EJES, EJES_DE(_global), double *Xo_local, double *Yo_local, double *Zo_local,
@@ -117,9 +118,9 @@ void ejes2d_ejes_globales_a_locales(EJES, EJES_DE(_global), double *Xo_local, do
         !EXIGE3(Vx_local, Vy_local, Vz_local))
         return;
     const marco m = a_local(MARCO, MARCO_DE(_global));
-    da(Xo_local, Yo_local, Zo_local, m.o);
-    da(Ux_local, Uy_local, Uz_local, m.u);
-    da(Vx_local, Vy_local, Vz_local, m.v);
+    numeros::da(Xo_local, Yo_local, Zo_local, m.o);
+    numeros::da(Ux_local, Uy_local, Uz_local, m.u);
+    numeros::da(Vx_local, Vy_local, Vz_local, m.v);
 }
 
 // ---------------------------------------------------------------- comparisons
@@ -142,8 +143,8 @@ vnbool ejes2d_son_paralelos(UV_DE(1), UV_DE(2), double precision) {
 }
 
 vnbool ejes2d_son_ejes_orientados_en_la_misma_direccion(UV_DE(1), UV_DE(2), double precision) {
-    return logico(escalar(normal_de({Ux1, Uy1, Uz1}, {Vx1, Vy1, Vz1}), normal_de({Ux2, Uy2, Uz2}, {Vx2, Vy2, Vz2})) >
-                  precision);
+    return logico(numeros::escalar(normal_de({Ux1, Uy1, Uz1}, {Vx1, Vy1, Vz1}),
+                                   normal_de({Ux2, Uy2, Uz2}, {Vx2, Vy2, Vz2})) > precision);
 }
 
 vnbool ejes2d_son_ejes_coincidentes(EJES_DE(1), EJES_DE(2), double precision_paralelos, double precision_distancia) {
@@ -155,25 +156,25 @@ vnbool ejes2d_son_ejes_coincidentes(EJES_DE(1), EJES_DE(2), double precision_par
 // ---------------------------------------------------------------- changes in place
 
 void ejes2d_invierte_ejes_manteniendo_la_U(double *Vx, double *Vy, double *Vz) {
-    if (EXIGE3(Vx, Vy, Vz)) da(Vx, Vy, Vz, -Punto3D{*Vx, *Vy, *Vz});
+    if (EXIGE3(Vx, Vy, Vz)) numeros::da(Vx, Vy, Vz, -Punto3D{*Vx, *Vy, *Vz});
 }
 
 void ejes2d_gira_ejes_sobre_U(double Ux, double Uy, double Uz, double *Vx, double *Vy, double *Vz, double grados) {
     if (!EXIGE3(Vx, Vy, Vz)) return;
     const Punto3D v{*Vx, *Vy, *Vz};
-    da(Vx, Vy, Vz, giro(grados)(v, normal_de({Ux, Uy, Uz}, v)));
+    numeros::da(Vx, Vy, Vz, giro(grados)(v, normal_de({Ux, Uy, Uz}, v)));
 }
 
 void ejes2d_gira_ejes_sobre_V(double *Ux, double *Uy, double *Uz, double Vx, double Vy, double Vz, double grados) {
     if (!EXIGE3(Ux, Uy, Uz)) return;
     const Punto3D u{*Ux, *Uy, *Uz};
-    da(Ux, Uy, Uz, giro(grados)(u, normal_de(u, {Vx, Vy, Vz})));
+    numeros::da(Ux, Uy, Uz, giro(grados)(u, normal_de(u, {Vx, Vy, Vz})));
 }
 
 void ejes2d_gira_ejes_sobre_W(SALIDAS_UV, double grados) {
     if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
     const Punto3D u{*Ux, *Uy, *Uz}, v{*Vx, *Vy, *Vz};
     const giro g(grados);
-    da(Ux, Uy, Uz, g(u, v));
-    da(Vx, Vy, Vz, g(v, -u));
+    numeros::da(Ux, Uy, Uz, g(u, v));
+    numeros::da(Vx, Vy, Vz, g(v, -u));
 }

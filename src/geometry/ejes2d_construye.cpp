@@ -19,11 +19,11 @@ struct ecuacion {
 
 ecuacion ecuacion_de(const marco &m) {
     const Punto3D w = normal_de(m);
-    return {w, -escalar(w, m.o)};
+    return {w, -numeros::escalar(w, m.o)};
 }
 
 void da(double *A, double *B, double *C, double *D, const ecuacion &e) {
-    vn::da(A, B, C, e.n);
+    vn::numeros::da(A, B, C, e.n);
     if (D != nullptr) *D = e.d;
 }
 
@@ -48,7 +48,7 @@ Punto3D horizontal_de(Punto3D w) {
 
 // A direction in degrees brought between 0 and a turn; one of at most half a turn either way, so a step is enough.
 double angulo_de_giro(double radianes) {
-    double g = -radianes * 180.0 / PI;
+    double g = -radianes * 180.0 / numeros::PI;
     while (g < -MARGEN_ANGULO_NEGATIVO) g += 360.;
     while (g > ANGULO_MAXIMO) g -= 360.;
     return g;
@@ -76,7 +76,7 @@ void ejes2d_ejes_de_una_cara(double x1, double y1, double z1, double x2, double 
                              double z3, double x4, double y4, double z4, SALIDAS_EJES) {
     const Punto3D p1{x1, y1, z1}, p2{x2, y2, z2}, p3{x3, y3, z3}, p4{x4, y4, z4};
     marco m = marco_de_tres_puntos(p1, p2, p4);
-    const double prod_escalar_pto_esta_en_plano = escalar(p3 - p1, vectorial(m.u, m.v));
+    const double prod_escalar_pto_esta_en_plano = numeros::escalar(p3 - p1, numeros::vectorial(m.u, m.v));
     AFIRMA_TEXTO(std::fabs(prod_escalar_pto_esta_en_plano) < i_PRECISION_PUNTO_PERTENECE_PLANO,
                  "vnstdc_fabs(prod_escalar_pto_esta_en_plano) < i_PRECISION_PUNTO_PERTENECE_PLANO");
     const Punto3D suma = p1 + p2 + p3 + p4;
@@ -89,11 +89,11 @@ void ejes2d_ejes_de_una_cara(double x1, double y1, double z1, double x2, double 
 void ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(double A, double B, double C, SALIDAS_UV) {
     if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
     const Punto3D v{0., 0., 1.};
-    Punto3D u = vectorial(v, {A, B, C});
+    Punto3D u = numeros::vectorial(v, {A, B, C});
     const vnbool es_plano_vertical = mt_pasar_a_unitario_3D(&u.x, &u.y, &u.z);
     AFIRMA(es_plano_vertical == CIERTO);
-    vn::da(Ux, Uy, Uz, u);
-    vn::da(Vx, Vy, Vz, v);
+    vn::numeros::da(Ux, Uy, Uz, u);
+    vn::numeros::da(Vx, Vy, Vz, v);
 }
 
 void ejes2d_ejes_para_proyectar_en_vertical_sobre_plano_ABCD(double A, double B, double C, double D, SALIDAS_EJES) {
@@ -102,17 +102,17 @@ void ejes2d_ejes_para_proyectar_en_vertical_sobre_plano_ABCD(double A, double B,
     marco m{-D * n, {}, {0., 0., 1.}};
     if (mt_existe_interseccion_recta_con_plano(1., 0., 0., 0., 0., 1., A, B, C, 0., &m.u.x, &m.u.y, &m.u.z) == CIERTO) {
         mt_pasar_a_unitario_3D(&m.u.x, &m.u.y, &m.u.z);
-        m.v = vectorial(n, m.u);
+        m.v = numeros::vectorial(n, m.u);
     } else {
-        m.u = vectorial(m.v, n);
+        m.u = numeros::vectorial(m.v, n);
     }
     A_SALIDAS(m);
 }
 
 void ejes2d_ejes_horizontales_dado_Ux_Uy(double x, double y, SALIDAS_UV) {
     if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
-    vn::da(Ux, Uy, Uz, {x, y, 0.});
-    vn::da(Vx, Vy, Vz, {-y, x, 0.});
+    vn::numeros::da(Ux, Uy, Uz, {x, y, 0.});
+    vn::numeros::da(Vx, Vy, Vz, {-y, x, 0.});
 }
 
 void ejes2d_ejes_horizontales_dado_angulo_rad(double angulo_rad, SALIDAS_UV) {
@@ -123,46 +123,47 @@ void ejes2d_ejes_horizontales_a_partir_de_normal_del_plano(double Wx, double Wy,
     const Punto3D w{Wx, Wy, Wz};
     comprueba_unitario(w);
     const Punto3D u = horizontal_de(w);
-    vn::da(Ux, Uy, Uz, u);
-    vn::da(Vx, Vy, Vz, vectorial(w, u));
+    vn::numeros::da(Ux, Uy, Uz, u);
+    vn::numeros::da(Vx, Vy, Vz, numeros::vectorial(w, u));
 }
 
 void ejes2d_ejes_horizontales_a_partir_de_ecuacion_del_plano(double A, double B, double C, double D, SALIDAS_EJES) {
     ejes2d_ejes_horizontales_a_partir_de_normal_del_plano(A, B, C, Ux, Uy, Uz, Vx, Vy, Vz);
-    vn::da(Xo, Yo, Zo, -D * Punto3D{A, B, C});
+    vn::numeros::da(Xo, Yo, Zo, -D * Punto3D{A, B, C});
 }
 
 void ejes2d_eje_V_horizontal_a_partir_del_vector_U(double Ux, double Uy, double Uz, double *Vx, double *Vy,
                                                    double *Vz) {
-    vn::da(Vx, Vy, Vz, horizontal_de({Ux, Uy, Uz}));
+    vn::numeros::da(Vx, Vy, Vz, horizontal_de({Ux, Uy, Uz}));
 }
 
 // ---------------------------------------------------------------- angles of turn
 
 void ejes2d_ejes_de_angulos_giro_3d(double giro_x, double giro_y, double giro_z, SALIDAS_UV) {
     if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
-    const double x = -giro_x * PI / 180.0, y = -giro_y * PI / 180.0, z = -giro_z * PI / 180.0;
+    const double x = -giro_x * numeros::PI / 180.0, y = -giro_y * numeros::PI / 180.0,
+                 z = -giro_z * numeros::PI / 180.0;
     const double cx = std::cos(x), sx = std::sin(x), cy = std::cos(y), sy = std::sin(y), cz = std::cos(z),
                  sz = std::sin(z);
     // The first two rows of X (Y Z), multiplied out.
-    vn::da(Ux, Uy, Uz, {cy * cz, -(cy * sz), sy});
-    vn::da(Vx, Vy, Vz, {cx * sz + sx * (sy * cz), cx * cz - sx * (sy * sz), -(sx * cy)});
+    vn::numeros::da(Ux, Uy, Uz, {cy * cz, -(cy * sz), sy});
+    vn::numeros::da(Vx, Vy, Vz, {cx * sz + sx * (sy * cz), cx * cz - sx * (sy * sz), -(sx * cy)});
 }
 
 void ejes2d_angulos_giro_3d_de_ejes(UV, double *giro_x, double *giro_y, double *giro_z) {
     if (!EXIGE3(giro_x, giro_y, giro_z)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});
     Punto3D g;
-    if (Uz >= 1.) g = {std::atan2(Vx, Vy), PI / 2., 0.};
-    else if (Uz <= -1.) g = {-std::atan2(Vx, Vy), -PI / 2., 0.};
+    if (Uz >= 1.) g = {std::atan2(Vx, Vy), numeros::PI / 2., 0.};
+    else if (Uz <= -1.) g = {-std::atan2(Vx, Vy), -numeros::PI / 2., 0.};
     else g = {std::atan2(-Vz, w.z), std::asin(Uz), std::atan2(-Uy, Ux)};
-    vn::da(giro_x, giro_y, giro_z, {angulo_de_giro(g.x), angulo_de_giro(g.y), angulo_de_giro(g.z)});
+    vn::numeros::da(giro_x, giro_y, giro_z, {angulo_de_giro(g.x), angulo_de_giro(g.y), angulo_de_giro(g.z)});
 }
 
 // ---------------------------------------------------------------- equation of the plane
 
 void ejes2d_vector_director_plano(UV, double *Wx, double *Wy, double *Wz) {
-    if (EXIGE3(Wx, Wy, Wz)) vn::da(Wx, Wy, Wz, normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz}));
+    if (EXIGE3(Wx, Wy, Wz)) vn::numeros::da(Wx, Wy, Wz, normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz}));
 }
 
 void ejes2d_ecuacion_del_plano(EJES, double *A, double *B, double *C, double *D) {
@@ -173,7 +174,7 @@ void ejes2d_ecuacion_del_plano_desplazado_en_z_local(EJES, double desplazamiento
                                                      double *C, double *D) {
     if (!EXIGE3(A, B, C)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});
-    da(A, B, C, D, {w, -escalar(w, Punto3D{Xo, Yo, Zo} + desplazamiento_z_local * w)});
+    da(A, B, C, D, {w, -numeros::escalar(w, Punto3D{Xo, Yo, Zo} + desplazamiento_z_local * w)});
 }
 
 void ejes2d_ecuacion_del_plano_a_partir_de_puntos3D(const arrPunto3D *puntos, double *A, double *B, double *C,
@@ -206,7 +207,7 @@ void ejes2d_posiciona_ejes_en_origen_cero_global_proyectado_sobre_el_plano(doubl
     if (!AFIRMA(existe == CIERTO)) return;
     for (double *c : {&o.x, &o.y, &o.z})
         if (std::fabs(*c) < PRECISION_ORIGEN_CERO) *c = 0.;
-    vn::da(Xo, Yo, Zo, o);
+    vn::numeros::da(Xo, Yo, Zo, o);
 }
 
 void ejes2d_desplaza_ejes(double *Xo, double *Yo, double *Zo, UV, double desplazamiento) {
@@ -218,5 +219,5 @@ void ejes2d_desplaza_ejes_ex(EJES, double desplazamiento, double *Xo_desplazado,
                              double *Zo_desplazado) {
     if (!EXIGE3(Xo_desplazado, Yo_desplazado, Zo_desplazado)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});
-    vn::da(Xo_desplazado, Yo_desplazado, Zo_desplazado, Punto3D{Xo, Yo, Zo} + desplazamiento * w);
+    vn::numeros::da(Xo_desplazado, Yo_desplazado, Zo_desplazado, Punto3D{Xo, Yo, Zo} + desplazamiento * w);
 }

@@ -38,20 +38,21 @@ Punto2D vn::a_local_en_plano(const marco &m, Punto3D w, Punto3D p, double precis
 // ---------------------------------------------------------------- points
 
 void ejes2d_coordenada_2D_a_3D(EJES, double x, double y, double *coord_x_3D, double *coord_y_3D, double *coord_z_3D) {
-    if (EXIGE2(coord_x_3D, coord_y_3D)) da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(Punto2D{x, y}));
+    if (EXIGE2(coord_x_3D, coord_y_3D)) numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(Punto2D{x, y}));
 }
 
 void ejes2d_coordenada_2D_a_3D_punto_poligono(EJES, const arrPunto2D *puntos, uint32_t indice, double *coord_x_3D,
                                               double *coord_y_3D, double *coord_z_3D) {
     if (!AFIRMA_NO_NULO(puntos) || !EXIGE2(coord_x_3D, coord_y_3D)) return;
     const bool hay = AFIRMA_TEXTO(indice < arr_NumElemsPunto2D(puntos), "indice < num_puntos");
-    da(coord_x_3D, coord_y_3D, coord_z_3D, hay ? MARCO.a_global(arr_GetBufferConstPunto2D(puntos)[indice]) : Punto3D{});
+    numeros::da(coord_x_3D, coord_y_3D, coord_z_3D,
+                hay ? MARCO.a_global(arr_GetBufferConstPunto2D(puntos)[indice]) : Punto3D{});
 }
 
 void ejes2d_coordenadas_3D_a_2D(EJES, double x, double y, double z, double precision, double *coord_x_2D,
                                 double *coord_y_2D) {
     if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
-    da(coord_x_2D, coord_y_2D, a_local_en_plano(MARCO, normal_de(MARCO), {x, y, z}, precision));
+    numeros::da(coord_x_2D, coord_y_2D, a_local_en_plano(MARCO, normal_de(MARCO), {x, y, z}, precision));
 }
 
 void ejes2d_coordenadas_3D_a_2D_fuera_de_precision(EJES, double x, double y, double z, double precision,
@@ -59,45 +60,46 @@ void ejes2d_coordenadas_3D_a_2D_fuera_de_precision(EJES, double x, double y, dou
     if (fuera_de_precision != nullptr) *fuera_de_precision = FALSO;
     if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
     const Punto3D d = Punto3D{x, y, z} - Punto3D{Xo, Yo, Zo};
-    da(coord_x_2D, coord_y_2D, MARCO.vector_a_local(d));
-    const bool dentro = std::fabs(escalar(d, normal_de(MARCO))) < precision;
+    numeros::da(coord_x_2D, coord_y_2D, MARCO.vector_a_local(d));
+    const bool dentro = std::fabs(numeros::escalar(d, normal_de(MARCO))) < precision;
     if (fuera_de_precision != nullptr) *fuera_de_precision = dentro ? FALSO : CIERTO;
 }
 
 void ejes2d_coordenadas_3D_proyectado_a_2D(EJES, double x, double y, double z, double *coord_x_2D, double *coord_y_2D) {
-    if (EXIGE2(coord_x_2D, coord_y_2D)) da(coord_x_2D, coord_y_2D, MARCO.a_local({x, y, z}));
+    if (EXIGE2(coord_x_2D, coord_y_2D)) numeros::da(coord_x_2D, coord_y_2D, MARCO.a_local({x, y, z}));
 }
 
 void ejes2d_coordenadas_3D_proyectado_a_3D(EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
                                            double *coord_z_3D) {
     if (!EXIGE3(coord_x_3D, coord_y_3D, coord_z_3D)) return;
-    da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(MARCO.a_local({x, y, z})));
+    numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(MARCO.a_local({x, y, z})));
 }
 
 void ejes2d_coordenada_3D_local_a_global(EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
                                          double *coord_z_3D) {
     if (!EXIGE3(coord_x_3D, coord_y_3D, coord_z_3D)) return;
-    da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(Punto3D{x, y, z}, normal_de(MARCO)));
+    numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(Punto3D{x, y, z}, normal_de(MARCO)));
 }
 
 void ejes2d_cambio_sistema_coordenadas(EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
                                        double *coord_z_3D) {
     if (!EXIGE3(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     const marco m = MARCO;
-    da(coord_x_3D, coord_y_3D, coord_z_3D, m.vector_a_local(Punto3D{x, y, z} - m.o, vectorial(m.u, m.v)));
+    numeros::da(coord_x_3D, coord_y_3D, coord_z_3D,
+                m.vector_a_local(Punto3D{x, y, z} - m.o, numeros::vectorial(m.u, m.v)));
 }
 
 void ejes2d_transforma_de_3D_a_2D_pantalla(EJES, double x, double y, double z, double *coord_x_2D, double *coord_y_2D) {
     static_cast<void>(Zo);
     if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
     const Punto2D p = MARCO_UV.vector_a_local({x, y, z});
-    da(coord_x_2D, coord_y_2D, {p.x + Xo, p.y + Yo});
+    numeros::da(coord_x_2D, coord_y_2D, {p.x + Xo, p.y + Yo});
 }
 
 void ejes2d_coordenada_2D_a_3D_pantalla(EJES, double x, double y, double *coord_x_3D, double *coord_y_3D,
                                         double *coord_z_3D) {
     if (!EXIGE3(coord_x_3D, coord_y_3D, coord_z_3D)) return;
-    const Punto3D w = vectorial({Ux, Uy, Uz}, {Vx, Vy, Vz});
+    const Punto3D w = numeros::vectorial({Ux, Uy, Uz}, {Vx, Vy, Vz});
     const double filas[4][4] = {{Ux, Uy, Uz, Xo}, {Vx, Vy, Vz, Yo}, {w.x, w.y, w.z, Zo}, {0., 0., 0., 1.}};
     const matriz_propia directa(vmatr_crea_matriz_nula(4, 4));
     if (directa == nullptr) return;
@@ -109,26 +111,27 @@ void ejes2d_coordenada_2D_a_3D_pantalla(EJES, double x, double y, double *coord_
         const double *c = vmatr_get_buffer_matriz(inversa.get()) + i; // by columns
         p[i] = c[0] * x + c[4] * y + c[12];
     }
-    da(coord_x_3D, coord_y_3D, coord_z_3D, {p[0], p[1], p[2]});
+    numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, {p[0], p[1], p[2]});
 }
 
 void ejes2d_cambia_de_un_sistema_coordenadas_a_otro(EJES_DE(1), EJES_DE(2), double x, double y, double precision,
                                                     double *coord_x_2D, double *coord_y_2D) {
     if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
     const marco m = MARCO_DE(2);
-    da(coord_x_2D, coord_y_2D, a_local_en_plano(m, normal_de(m), MARCO_DE(1).a_global(Punto2D{x, y}), precision));
+    numeros::da(coord_x_2D, coord_y_2D,
+                a_local_en_plano(m, normal_de(m), MARCO_DE(1).a_global(Punto2D{x, y}), precision));
 }
 
 void ejes2d_cambia_de_un_sistema_coordenadas_a_otro_proyectando(EJES_DE(1), EJES_DE(2), double x, double y,
                                                                 double *coord_x_2D, double *coord_y_2D) {
     if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
-    da(coord_x_2D, coord_y_2D, MARCO_DE(2).a_local(MARCO_DE(1).a_global(Punto2D{x, y})));
+    numeros::da(coord_x_2D, coord_y_2D, MARCO_DE(2).a_local(MARCO_DE(1).a_global(Punto2D{x, y})));
 }
 
 // ---------------------------------------------------------------- vectors
 
 void ejes2d_vector_2D_a_3D(UV, double vx, double vy, double *vx_3D, double *vy_3D, double *vz_3D) {
-    if (EXIGE3(vx_3D, vy_3D, vz_3D)) da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_global({vx, vy}));
+    if (EXIGE3(vx_3D, vy_3D, vz_3D)) numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_global({vx, vy}));
 }
 
 void ejes2d_vector_3D_a_2D(UV, double vx, double vy, double vz, double *vx_2D, double *vy_2D) {
@@ -139,28 +142,28 @@ void ejes2d_vector_3D_a_2D_con_precision(UV, double vx, double vy, double vz, do
                                          double *vy_2D) {
     if (!EXIGE2(vx_2D, vy_2D)) return;
     comprueba_en_plano(vx, vy, vz, normal_de(MARCO_UV), precision);
-    da(vx_2D, vy_2D, MARCO_UV.vector_a_local({vx, vy, vz}));
+    numeros::da(vx_2D, vy_2D, MARCO_UV.vector_a_local({vx, vy, vz}));
 }
 
 void ejes2d_vector_3D_proyectado_a_2D(UV, double vx, double vy, double vz, double *vx_2D, double *vy_2D) {
-    if (EXIGE2(vx_2D, vy_2D)) da(vx_2D, vy_2D, MARCO_UV.vector_a_local({vx, vy, vz}));
+    if (EXIGE2(vx_2D, vy_2D)) numeros::da(vx_2D, vy_2D, MARCO_UV.vector_a_local({vx, vy, vz}));
 }
 
 void ejes2d_vector_3D_proyectado_a_3D(UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D,
                                       double *vz_3D) {
     if (!EXIGE3(vx_3D, vy_3D, vz_3D)) return;
-    da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_global(MARCO_UV.vector_a_local({vx, vy, vz})));
+    numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_global(MARCO_UV.vector_a_local({vx, vy, vz})));
 }
 
 void ejes2d_vector_3D_local_a_global(UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D, double *vz_3D) {
     if (!EXIGE3(vx_3D, vy_3D, vz_3D)) return;
     const marco m = MARCO_UV;
-    da(vx_3D, vy_3D, vz_3D, vx * m.u + vy * m.v + vz * normal_de(m));
+    numeros::da(vx_3D, vy_3D, vz_3D, vx * m.u + vy * m.v + vz * normal_de(m));
 }
 
 void ejes2d_vector_3D_global_a_local(UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D, double *vz_3D) {
     if (!EXIGE3(vx_3D, vy_3D, vz_3D)) return;
-    da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_local({vx, vy, vz}, normal_de(MARCO_UV)));
+    numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_local({vx, vy, vz}, normal_de(MARCO_UV)));
 }
 
 // ---------------------------------------------------------------- lines
@@ -171,8 +174,8 @@ void ejes2d_recta_3D_a_2D(EJES, double Xo_recta_3D, double Yo_recta_3D, double Z
     if (!EXIGE2(Xo_recta_2D, Yo_recta_2D) || !EXIGE2(Ux_recta_2D, Uy_recta_2D)) return;
     const marco m = MARCO;
     const Punto3D w = normal_de(m), u{Ux_recta_3D, Uy_recta_3D, Uz_recta_3D};
-    da(Xo_recta_2D, Yo_recta_2D, a_local_en_plano(m, w, {Xo_recta_3D, Yo_recta_3D, Zo_recta_3D}, precision));
-    AFIRMA_TEXTO(std::fabs(escalar(u, w)) < precision,
+    numeros::da(Xo_recta_2D, Yo_recta_2D, a_local_en_plano(m, w, {Xo_recta_3D, Yo_recta_3D, Zo_recta_3D}, precision));
+    AFIRMA_TEXTO(std::fabs(numeros::escalar(u, w)) < precision,
                  "vnstdc_fabs(Ux_recta_3D * Wx + Uy_recta_3D * Wy + Uz_recta_3D * Wz) < precision");
-    da(Ux_recta_2D, Uy_recta_2D, m.vector_a_local(u));
+    numeros::da(Ux_recta_2D, Uy_recta_2D, m.vector_a_local(u));
 }

@@ -42,33 +42,33 @@ template <class T, class Origen, class F> typename familia<T>::array *nueva(std:
 }
 
 template <class F> void en_su_sitio(arrPunto3D *polilinea, F &&f) {
-    for (Punto3D &p : tramo(polilinea)) p = f(p);
+    for (Punto3D &p : listas::tramo(polilinea)) p = f(p);
 }
 
 auto local_a_global(const marco &m) {
     return [m, w = normal_de(m)](Punto3D p) { return m.a_global(p, w); };
 }
 auto global_a_local(const marco &m) {
-    return [m, w = vectorial(m.u, m.v)](Punto3D p) { return m.vector_a_local(p - m.o, w); };
+    return [m, w = numeros::vectorial(m.u, m.v)](Punto3D p) { return m.vector_a_local(p - m.o, w); };
 }
 
 } // namespace
 
 arrPunto3D *ejes2d_polilinea2D_a_3D(EJES, const arrPunto2D *polilinea) {
     if (!AFIRMA_NO_NULO(polilinea)) return nullptr;
-    return nueva<Punto3D>(tramo(polilinea), [m = MARCO](Punto2D p) { return m.a_global(p); });
+    return nueva<Punto3D>(listas::tramo(polilinea), [m = MARCO](Punto2D p) { return m.a_global(p); });
 }
 
 arrPunto2D *ejes2d_polilinea3D_a_2D(EJES, const arrPunto3D *polilinea, double precision) {
     if (!AFIRMA_NO_NULO(polilinea)) return nullptr;
-    return nueva<Punto2D>(tramo(polilinea), [m = MARCO, w = normal_de(MARCO), precision](Punto3D p) {
+    return nueva<Punto2D>(listas::tramo(polilinea), [m = MARCO, w = normal_de(MARCO), precision](Punto3D p) {
         return a_local_en_plano(m, w, p, precision);
     });
 }
 
 arrPunto2D *ejes2d_polilinea3D_proyectada_a_2D(EJES, const arrPunto3D *polilinea) {
     if (!AFIRMA_NO_NULO(polilinea)) return nullptr;
-    return nueva<Punto2D>(tramo(polilinea), [m = MARCO](Punto3D p) { return m.a_local(p); });
+    return nueva<Punto2D>(listas::tramo(polilinea), [m = MARCO](Punto3D p) { return m.a_local(p); });
 }
 
 void ejes2d_transforma_polilinea3D(EJES, arrPunto3D *polilinea) {
@@ -76,7 +76,7 @@ void ejes2d_transforma_polilinea3D(EJES, arrPunto3D *polilinea) {
 }
 
 arrPunto3D *ejes2d_polilinea3D_transformada(EJES, const arrPunto3D *polilinea) {
-    return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(tramo(polilinea), local_a_global(MARCO)) : nullptr;
+    return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(listas::tramo(polilinea), local_a_global(MARCO)) : nullptr;
 }
 
 void ejes2d_polilinea3D_transforma_a_locales(EJES, arrPunto3D *polilinea) {
@@ -84,7 +84,7 @@ void ejes2d_polilinea3D_transforma_a_locales(EJES, arrPunto3D *polilinea) {
 }
 
 arrPunto3D *ejes2d_polilinea3D_transformada_a_locales(EJES, const arrPunto3D *polilinea) {
-    return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(tramo(polilinea), global_a_local(MARCO)) : nullptr;
+    return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(listas::tramo(polilinea), global_a_local(MARCO)) : nullptr;
 }
 
 arrPunto2D *ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(const arrPunto2D *puntos, EJES_DE(_origen),
@@ -94,12 +94,13 @@ arrPunto2D *ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(const ar
     if (!AFIRMA_NO_NULO(puntos)) return nullptr;
     const marco origen = MARCO_DE(_origen), destino = MARCO_DE(_destino);
     const Punto3D w = normal_de(destino);
-    const bool mismo_sentido = escalar(normal_de(origen), w) > MARGEN_MISMA_ORIENTACION;
-    arrPunto2D *resultado = nueva<Punto2D>(tramo(puntos), [&](Punto2D p) {
+    const bool mismo_sentido = numeros::escalar(normal_de(origen), w) > MARGEN_MISMA_ORIENTACION;
+    arrPunto2D *resultado = nueva<Punto2D>(listas::tramo(puntos), [&](Punto2D p) {
         const Punto3D d = origen.a_global(p) - destino.o;
-        if (fuera_de_precision != nullptr && !(std::fabs(escalar(d, w)) < precision)) *fuera_de_precision = CIERTO;
+        if (fuera_de_precision != nullptr && !(std::fabs(numeros::escalar(d, w)) < precision))
+            *fuera_de_precision = CIERTO;
         return destino.vector_a_local(d);
     });
-    if (resultado != nullptr && !mismo_sentido) std::ranges::reverse(tramo(resultado));
+    if (resultado != nullptr && !mismo_sentido) std::ranges::reverse(listas::tramo(resultado));
     return resultado;
 }

@@ -20,7 +20,8 @@
     vn::marco {                                                                                                        \
         {Xo, Yo, Zo}, {Ux, Uy, Uz}, { Vx, Vy, Vz }                                                                     \
     }
-#define A_SALIDAS(m) (vn::da(Xo, Yo, Zo, (m).o), vn::da(Ux, Uy, Uz, (m).u), vn::da(Vx, Vy, Vz, (m).v))
+#define A_SALIDAS(m)                                                                                                   \
+    (vn::numeros::da(Xo, Yo, Zo, (m).o), vn::numeros::da(Ux, Uy, Uz, (m).u), vn::numeros::da(Vx, Vy, Vz, (m).v))
 
 namespace vn {
 
@@ -54,9 +55,11 @@ struct marco {
     Punto3D vector_a_global(Punto2D p) const { return p.x * u + p.y * v; }
     Punto3D a_global(Punto2D p) const { return o + p.x * u + p.y * v; }
     Punto3D a_global(Punto3D p, Punto3D w) const { return o + p.x * u + p.y * v + p.z * w; }
-    Punto2D vector_a_local(Punto3D d) const { return {escalar(d, u), escalar(d, v)}; }
+    Punto2D vector_a_local(Punto3D d) const { return {numeros::escalar(d, u), numeros::escalar(d, v)}; }
     Punto2D a_local(Punto3D p) const { return vector_a_local(p - o); }
-    Punto3D vector_a_local(Punto3D d, Punto3D w) const { return {escalar(d, u), escalar(d, v), escalar(d, w)}; }
+    Punto3D vector_a_local(Punto3D d, Punto3D w) const {
+        return {numeros::escalar(d, u), numeros::escalar(d, v), numeros::escalar(d, w)};
+    }
 };
 
 // Reports a vector that is not of length 1.

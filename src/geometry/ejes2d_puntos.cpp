@@ -49,11 +49,11 @@ struct recta {
     // The greatest coordinate of the way from the foot of a point.
     double desvio(Punto3D p) const {
         const Punto3D d = p - o;
-        return mayor_coordenada(d - escalar(d, u) * u);
+        return numeros::mayor_coordenada(d - numeros::escalar(d, u) * u);
     }
     // Whether a point is off the line, by its foot.
     bool deja_fuera(Punto3D p, double precision) const {
-        return hay && distintos(p, o + escalar(p - o, u) * u, precision);
+        return hay && distintos(p, o + numeros::escalar(p - o, u) * u, precision);
     }
 };
 
@@ -67,19 +67,19 @@ struct bloque {
 
     explicit bloque(puntos_t p) : a(mas_lejano(p, p[0])), b(mas_lejano(p, a)) {
         const Punto3D ab = b - a;
-        const double ab2 = escalar(ab, ab);
+        const double ab2 = numeros::escalar(ab, ab);
         for (const Punto3D &q : p) {
             minimo = {std::min(minimo.x, q.x), std::min(minimo.y, q.y), std::min(minimo.z, q.z)};
             maximo = {std::max(maximo.x, q.x), std::max(maximo.y, q.y), std::max(maximo.z, q.z)};
-            const double t = ab2 > 0. ? std::clamp(escalar(q - a, ab) / ab2, 0., 1.) : 0.;
-            lejos = std::max(lejos, modulo(q - (a + t * ab)));
+            const double t = ab2 > 0. ? std::clamp(numeros::escalar(q - a, ab) / ab2, 0., 1.) : 0.;
+            lejos = std::max(lejos, numeros::modulo(q - (a + t * ab)));
         }
     }
 
     static Punto3D mas_lejano(puntos_t p, Punto3D de) {
         Punto3D r = de;
         for (const Punto3D &q : p)
-            if (escalar(q - de, q - de) > escalar(r - de, r - de)) r = q;
+            if (numeros::escalar(q - de, q - de) > numeros::escalar(r - de, r - de)) r = q;
         return r;
     }
 
@@ -91,11 +91,13 @@ struct bloque {
         return std::max(r.desvio(a), r.desvio(b)) + dudoso(r.o) < precision;
     }
     bool todos_en_plano(Punto3D o, Punto3D w, double precision) const {
-        return std::max(std::fabs(escalar(a - o, w)), std::fabs(escalar(b - o, w))) + dudoso(o) <= precision;
+        return std::max(std::fabs(numeros::escalar(a - o, w)), std::fabs(numeros::escalar(b - o, w))) + dudoso(o) <=
+               precision;
     }
     // What a point may have more than both ends.
     double dudoso(Punto3D o) const {
-        return lejos + REDONDEO * std::max({mayor_coordenada(o), mayor_coordenada(minimo), mayor_coordenada(maximo)});
+        return lejos + REDONDEO * std::max({numeros::mayor_coordenada(o), numeros::mayor_coordenada(minimo),
+                                            numeros::mayor_coordenada(maximo)});
     }
 };
 
@@ -141,7 +143,7 @@ class buscador {
     // The first point off the plane from the one given on around the ring; SIN_PUNTO if none is.
     uint32_t fuera_del_plano(uint32_t desde, Punto3D o, Punto3D w, double precision) const {
         const uint32_t k = primero(
-            desde, 0, [&](uint32_t i) { return !(std::fabs(escalar(p_[i] - o, w)) <= precision); },
+            desde, 0, [&](uint32_t i) { return !(std::fabs(numeros::escalar(p_[i] - o, w)) <= precision); },
             [&](const bloque &b) { return b.todos_en_plano(o, w, precision); });
         return k < p_.size() ? lugar(desde, k) : SIN_PUNTO;
     }
@@ -195,14 +197,14 @@ recorrido recorre(puntos_t p, Punto3D o, Punto3D w, double precision_plano) {
     recorrido r;
     Punto3D llega = p[0] - p[p.size() - 1];
     for (size_t j = 0; j < p.size(); ++j) {
-        const double d = escalar(p[j] - o, w);
+        const double d = numeros::escalar(p[j] - o, w);
         if (!(std::fabs(d) <= precision_plano)) {
             r.falla = static_cast<uint32_t>(j);
             r.distancia = std::fabs(d);
             return r;
         }
         const Punto3D sale = p[j + 1 < p.size() ? j + 1 : 0] - p[j];
-        const double c = escalar(vectorial(llega, sale), w);
+        const double c = numeros::escalar(numeros::vectorial(llega, sale), w);
         r.votos += (c > GIRO_SIN_SENTIDO) - (c < -GIRO_SIN_SENTIDO);
         r.suma = r.suma + p[j];
         llega = sale;
@@ -260,7 +262,7 @@ vnbool forman_ejes(const arrPunto3D *puntos, tolerancias prec, vnbool comprueba_
     if (!AFIRMA_NO_NULO(puntos) || !AFIRMA_LOGICO(comprueba_no_forma_eje)) return FALSO;
     marco m;
     uint32_t culpable;
-    const bool forman = forman_ejes(tramo(puntos), prec, comprueba_no_forma_eje == CIERTO, m, culpable);
+    const bool forman = forman_ejes(listas::tramo(puntos), prec, comprueba_no_forma_eje == CIERTO, m, culpable);
     if (ind_punto_no_forma_eje != nullptr) *ind_punto_no_forma_eje = culpable;
     if (!forman) return FALSO;
     A_SALIDAS(m);
@@ -317,7 +319,7 @@ vnbool ejes2d_punto3D_forman_ejes_solo_mirando_3_puntos_no_lineales(const arrPun
     terna t;
     marco m;
     Punto3D w;
-    if (!buscador(tramo(puntos), precision).busca(0, t) || !ejes_de(t, m, w)) return FALSO;
+    if (!buscador(listas::tramo(puntos), precision).busca(0, t) || !ejes_de(t, m, w)) return FALSO;
     A_SALIDAS(m);
     return CIERTO;
 }
@@ -329,7 +331,7 @@ vnbool ejes2d_existen_tres_puntos_no_lineales(const arrPunto3D *puntos) {
 vnbool ejes2d_existen_tres_puntos_no_lineales_con_precision(const arrPunto3D *puntos, double precision) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
     terna t;
-    return buscador(tramo(puntos), precision).busca(0, t) ? CIERTO : FALSO;
+    return buscador(listas::tramo(puntos), precision).busca(0, t) ? CIERTO : FALSO;
 }
 
 vnbool ejes2d_tres_puntos_forman_ejes(double x1, double y1, double z1, double x2, double y2, double z2, double x3,

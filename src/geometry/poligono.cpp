@@ -91,7 +91,7 @@ bool se_puede_quitar(const poligono_t *pol, int32_t i) {
     if (es_esquina_de_los_limites(pol, v)) return false;
     double angulo = mt_angulo(v.x, v.y, antes.x, antes.y) - mt_angulo(v.x, v.y, despues.x, despues.y);
     angulo = std::floor(angulo * DECIMALES_ANGULO + 0.5) / DECIMALES_ANGULO;
-    return mt_filtra_angulo_mayor_que_cero(angulo) >= vn::MEDIA_VUELTA - TOLERANCIA_LLANO;
+    return mt_filtra_angulo_mayor_que_cero(angulo) >= vn::numeros::MEDIA_VUELTA - TOLERANCIA_LLANO;
 }
 
 // Takes the vertices for which `sobra` holds, from `vertizq` backwards and from `vertder` onwards.

@@ -30,7 +30,7 @@ template <class F> arrPunto3D *nueva(uint32_t n, F &&f) {
 // Ends of a fillet against an end of the polyline: false if it overruns. `hacia` is the direction from the corner.
 bool ajusta_extremo(std::vector<Punto3D> &puntos, bool es_ultimo, Punto3D extremo, Punto3D hacia, bool mantiene) {
     const auto p = es_ultimo ? puntos.end() - 1 : puntos.begin();
-    if (distancia(*p, extremo) > PRECISION_EXTREMO) return escalar(direccion(*p, extremo), hacia) > 0.;
+    if (distancia(*p, extremo) > PRECISION_EXTREMO) return numeros::escalar(direccion(*p, extremo), hacia) > 0.;
     if (mantiene) *p = extremo;
     else puntos.erase(p);
     return true;
@@ -60,7 +60,7 @@ bool vn::ejes_de_tres(Punto3D o, Punto3D a, Punto3D b, Punto3D &x, Punto3D &y, P
 }
 
 double vn::angulo_entre(Punto3D u1, Punto3D u2) {
-    return std::acos(prec_redondea_decimales(escalar(u1, u2), PASO_COSENO));
+    return std::acos(prec_redondea_decimales(numeros::escalar(u1, u2), PASO_COSENO));
 }
 
 bool vn::hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool mantiene_extremos, acuerdo &a) {
@@ -69,17 +69,17 @@ bool vn::hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool ma
     const Punto3D u1 = direccion(p2, p1), u2 = direccion(p2, p3);
     if (!(distancia(p2, p1) > b.diametro / 2.0) || !(distancia(p2, p3) > b.diametro / 2.0)) return false;
     double angulo_segmentos = angulo_entre(u1, u2);
-    if (!(angulo_segmentos > ANGULO_SIN_ACUERDO) || !(std::fabs(angulo_segmentos - PI) > ANGULO_SIN_ACUERDO))
+    if (!(angulo_segmentos > ANGULO_SIN_ACUERDO) || !(std::fabs(angulo_segmentos - numeros::PI) > ANGULO_SIN_ACUERDO))
         return false;
 
     Punto3D u, v, w;
     if (!ejes_de_tres(p2, p1, p3, u, v, w)) return false;
-    if (escalar(v, u2) < 0.) angulo_segmentos = -angulo_segmentos;
-    if (!AFIRMA(angulo_segmentos > -PI) || !AFIRMA(angulo_segmentos < PI)) return false;
+    if (numeros::escalar(v, u2) < 0.) angulo_segmentos = -angulo_segmentos;
+    if (!AFIRMA(angulo_segmentos > -numeros::PI) || !AFIRMA(angulo_segmentos < numeros::PI)) return false;
     const double num_grados_dibujo_doblado = b.num_grados_dibujo_doblado;
     if (!AFIRMA(num_grados_dibujo_doblado > 0.)) return false;
 
-    const double barrido = std::copysign(PI - std::fabs(angulo_segmentos), angulo_segmentos);
+    const double barrido = std::copysign(numeros::PI - std::fabs(angulo_segmentos), angulo_segmentos);
     a.centro = p2 + (b.radio_eje / std::tan(std::fabs(angulo_segmentos) * 0.5)) * u + b.radio_eje * v;
     if (!std::isfinite(a.centro.x + a.centro.y + a.centro.z)) return false;
     a.hay_centro = true;
@@ -101,7 +101,7 @@ arrPunto3D *Pln3D_puntos_circulo(double Xo, double Yo, double Zo, double Ux, dou
                                  double Vz, double diametro, uint16_t num_puntos_circulo) {
     if (!AFIRMA(num_puntos_circulo > 3)) return nullptr;
     const Punto3D o{Xo, Yo, Zo}, u{Ux, Uy, Uz}, v{Vx, Vy, Vz};
-    const double radio = diametro / 2., paso = 2. * PI / num_puntos_circulo;
+    const double radio = diametro / 2., paso = 2. * numeros::PI / num_puntos_circulo;
     return nueva(num_puntos_circulo,
                  [&](uint32_t i) { return o + radio * (std::cos(i * paso) * u + std::sin(i * paso) * v); });
 }
@@ -113,17 +113,17 @@ arrPunto3D *Pln3D_puntos_arco(double x_centro, double y_centro, double z_centro,
     if (!AFIRMA(num_puntos_arco > 3) || !AFIRMA_LOGICO(arco_complementario)) return nullptr;
     const Punto3D centro{x_centro, y_centro, z_centro};
     const Punto3D a = direccion(centro, {x_ini, y_ini, z_ini}), b = direccion(centro, {x_fin, y_fin, z_fin});
-    const Punto3D w = vectorial({Ux, Uy, Uz}, {Vx, Vy, Vz});
+    const Punto3D w = numeros::vectorial({Ux, Uy, Uz}, {Vx, Vy, Vz});
     double angulo = angulo_entre(a, b);
     Punto3D w1 = w;
-    if (std::fabs(angulo - PI) >= MARGEN_MEDIA_VUELTA) {
-        w1 = vectorial(a, b);
+    if (std::fabs(angulo - numeros::PI) >= MARGEN_MEDIA_VUELTA) {
+        w1 = numeros::vectorial(a, b);
         mt_pasar_a_unitario_3D(&w1.x, &w1.y, &w1.z);
-        AFIRMA_TEXTO(std::fabs(std::fabs(escalar(w, w1)) - 1.) < MARGEN_MISMO_PLANO_ARCO,
+        AFIRMA_TEXTO(std::fabs(std::fabs(numeros::escalar(w, w1)) - 1.) < MARGEN_MISMO_PLANO_ARCO,
                      "vnstdc_fabs(vnstdc_fabs(mt_producto_escalar(Wx, Wy, Wz, Wx1, Wy1, Wz1)) - 1.) < .000001");
     }
-    const Punto3D perpendicular = -vectorial(a, w1);
-    if (arco_complementario == CIERTO) angulo -= 2. * PI;
+    const Punto3D perpendicular = -numeros::vectorial(a, w1);
+    if (arco_complementario == CIERTO) angulo -= 2. * numeros::PI;
     const double radio = diametro / 2., paso = angulo / (num_puntos_arco - 1);
     return nueva(num_puntos_arco, [&](uint32_t i) {
         return centro + radio * (std::cos(i * paso) * a + std::sin(i * paso) * perpendicular);
@@ -140,23 +140,24 @@ vnbool Pln3D_se_genera_puntos_acuerdo_entre_tres_puntos(double x1, double y1, do
     acuerdo a;
     const bool hay = hay_acuerdo({x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3}, {diametro, radio, num_grados_dibujo_doblado},
                                  mantiene_extremos == CIERTO, a);
-    if (a.hay_centro) da(x_centro, y_centro, z_centro, a.centro);
+    if (a.hay_centro) numeros::da(x_centro, y_centro, z_centro, a.centro);
     if (hay) *puntos_acuerdo = array_de(a.puntos);
     return *puntos_acuerdo != nullptr ? CIERTO : FALSO;
 }
 
 vnbool Pln3D_poligono_plano_es_convexo(const arrPunto3D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
-    const std::span<const Punto3D> p = tramo(puntos);
+    const std::span<const Punto3D> p = listas::tramo(puntos);
     if (!AFIRMA_TEXTO(p.size() >= 3, "num_puntos >= 3")) return FALSO;
     bool ya_se_tiene_W_con_que_comparar = false;
     Punto3D w{}, llega{};
     // One edge more than there are: the last one turns into the first.
     for (size_t i = 1; i <= p.size() + 1; ++i) {
         const Punto3D sale = direccion(p[(i - 1) % p.size()], p[i % p.size()]);
-        if (escalar(sale, sale) == 0.) continue; // a repeated point
-        const bool gira = escalar(llega, llega) != 0. && !(std::fabs(escalar(llega, sale) - 1.) <= MARGEN_SIN_GIRO);
-        Punto3D w1 = vectorial(llega, sale);
+        if (numeros::escalar(sale, sale) == 0.) continue; // a repeated point
+        const bool gira =
+            numeros::escalar(llega, llega) != 0. && !(std::fabs(numeros::escalar(llega, sale) - 1.) <= MARGEN_SIN_GIRO);
+        Punto3D w1 = numeros::vectorial(llega, sale);
         llega = sale;
         if (!gira) continue;
         const bool hay_normal = mt_pasar_a_unitario_3D(&w1.x, &w1.y, &w1.z) == CIERTO;
@@ -165,7 +166,7 @@ vnbool Pln3D_poligono_plano_es_convexo(const arrPunto3D *puntos) {
             ya_se_tiene_W_con_que_comparar = true;
             continue;
         }
-        const double prod_escalar_poligono_es_plano = hay_normal ? escalar(w, w1) : 0.;
+        const double prod_escalar_poligono_es_plano = hay_normal ? numeros::escalar(w, w1) : 0.;
         AFIRMA_TEXTO(std::fabs(std::fabs(prod_escalar_poligono_es_plano) - 1.) < MARGEN_MISMO_PLANO_POLIGONO,
                      "vnstdc_fabs(vnstdc_fabs(prod_escalar_poligono_es_plano) - 1.) < .00001");
         if (prod_escalar_poligono_es_plano < 0.) return FALSO;
@@ -176,7 +177,7 @@ vnbool Pln3D_poligono_plano_es_convexo(const arrPunto3D *puntos) {
 void Pln3D_GetVerticeMasProximo(const arrPunto3D *puntos, double x, double y, double z, double *x_vertice,
                                 double *y_vertice, double *z_vertice) {
     if (!AFIRMA_NO_NULO(puntos) || !EXIGE3(x_vertice, y_vertice, z_vertice)) return;
-    const std::span<const Punto3D> p = tramo(puntos);
+    const std::span<const Punto3D> p = listas::tramo(puntos);
     size_t mas_proximo = p.size();
     double minima = std::numeric_limits<double>::infinity();
     for (size_t i = 0; i < p.size(); ++i) {
@@ -186,12 +187,12 @@ void Pln3D_GetVerticeMasProximo(const arrPunto3D *puntos, double x, double y, do
         mas_proximo = i;
     }
     if (mas_proximo < std::min<size_t>(p.size(), LIMITE_INDICE_VERTICE))
-        da(x_vertice, y_vertice, z_vertice, p[mas_proximo]);
+        numeros::da(x_vertice, y_vertice, z_vertice, p[mas_proximo]);
 }
 
 double Pln3D_Longitud(const arrPunto3D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return 0.0;
-    const std::span<const Punto3D> p = tramo(puntos);
+    const std::span<const Punto3D> p = listas::tramo(puntos);
     double longitud = 0.0;
     for (size_t i = 1; i < p.size(); ++i) longitud += distancia(p[i - 1], p[i]);
     return longitud;

@@ -21,7 +21,7 @@ void emite_seccion(Punto3D origen, Punto3D u, Punto3D v, bool V_vertical, double
     if (!AFIRMA_NO_NULO(Xo_ult_cir)) return;
     *Xo_ult_cir = origen;
     if (V_vertical) {
-        const Punto3D w = vectorial(u, v);
+        const Punto3D w = numeros::vectorial(u, v);
         ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(w.x, w.y, w.z, &u.x, &u.y, &u.z, &v.x, &v.y, &v.z);
     }
     if (salidas.contornos != nullptr)

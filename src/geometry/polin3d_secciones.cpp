@@ -101,7 +101,7 @@ class cadena {
     // The section of a corner with no fillet.
     bool quiebra(Punto3D a, Punto3D b, Punto3D c, bool es_el_ultimo) {
         const Punto3D entra = direccion(a, b), sale = direccion(b, c);
-        if (std::fabs(std::fabs(escalar(entra, sale)) - 1.) < MARGEN_RECTO) return emite(b);
+        if (std::fabs(std::fabs(numeros::escalar(entra, sale)) - 1.) < MARGEN_RECTO) return emite(b);
         const Punto3D pm = b + (sale - entra);
         // From c, not from b, on purpose.
         orienta(c, pm, a);
@@ -118,7 +118,7 @@ class cadena {
 
 // Runs the chain over a polyline; false if it has no two points, or too many come out.
 bool secciones(const arrPunto3D *puntos, const opciones &o, const salidas_seccion &salidas) {
-    const std::span<const Punto3D> p = tramo(puntos);
+    const std::span<const Punto3D> p = listas::tramo(puntos);
     if (!AFIRMA_TEXTO(p.size() >= 2, "num_puntos >= 2")) return false;
     return cadena(o, salidas).recorre(limpia(p, o.medidas.diametro));
 }
@@ -135,7 +135,7 @@ double polin3d_radio_acuerdo_eje(double a, double b) { return b + a / 2.0; }
 arrPunto3D *polin3d_puntos_polilinea_con_radios_de_acuerdo(const arrPunto3D *puntos, double diametro, double radio,
                                                            double num_grados_dibujo_doblado) {
     if (!AFIRMA_NO_NULO(puntos)) return nullptr;
-    const std::span<const Punto3D> p = tramo(puntos);
+    const std::span<const Punto3D> p = listas::tramo(puntos);
     if (p.size() < 2) return arr_CopiaPunto3D(puntos);
     const barra b{diametro, polin3d_radio_acuerdo_eje(diametro, radio), num_grados_dibujo_doblado};
     std::vector<Punto3D> r{p.front()};

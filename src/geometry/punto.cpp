@@ -12,7 +12,7 @@
 #include <iterator>
 #include <utility>
 
-using vn::logico, vn::MEDIA_VUELTA, vn::VUELTA;
+using vn::logico, vn::numeros::MEDIA_VUELTA, vn::numeros::VUELTA;
 
 namespace {
 

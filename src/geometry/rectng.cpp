@@ -112,8 +112,8 @@ void rec_Get(const rectangulo_t *rec, double *xmin, double *ymin, double *xmax, 
     if (!AFIRMA_NO_NULO(rec)) return;
     AFIRMA(rec->calculados);
     const rectangulo_t r = *rec; // a copy: the outputs may be its own limits
-    vn::da(xmin, ymin, {r.xmin, r.ymin});
-    vn::da(xmax, ymax, {r.xmax, r.ymax});
+    vn::numeros::da(xmin, ymin, {r.xmin, r.ymin});
+    vn::numeros::da(xmax, ymax, {r.xmax, r.ymax});
 }
 
 void rec_get_limites(const rectangulo_t *rec, double *xmin, double *ymin, double *xmax, double *ymax) {
@@ -137,7 +137,7 @@ double rec_Alto(const rectangulo_t *rec) {
 void rec_Centro(const rectangulo_t *rec, double *x, double *y) {
     if (!AFIRMA_NO_NULO(rec)) return;
     AFIRMA(rec->calculados);
-    vn::da(x, y, {(rec->xmin + rec->xmax) / 2., (rec->ymin + rec->ymax) / 2.});
+    vn::numeros::da(x, y, {(rec->xmin + rec->xmax) / 2., (rec->ymin + rec->ymax) / 2.});
 }
 
 void rec_Mover(rectangulo_t *rec, double dx, double dy) {

@@ -33,8 +33,8 @@ vnbool liang_barsky(double xmin, double ymin, double xmax, double ymax, double x
         x1 = x1 + dx * u1;
         y1 = y1 + dy * u1;
     }
-    vn::da(ox1, oy1, {x1, y1});
-    vn::da(ox2, oy2, {x2, y2});
+    vn::numeros::da(ox1, oy1, {x1, y1});
+    vn::numeros::da(ox2, oy2, {x2, y2});
     return CIERTO;
 }
 
@@ -92,8 +92,8 @@ vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, do
                                double *oy1, double *ox2, double *oy2) {
     if (!AFIRMA_NO_NULO(rec)) return FALSO;
     const rectangulo_t r = *rec; // a copy: the outputs may be its own limits
-    vn::da(ox1, oy1, {x1, y1});
-    vn::da(ox2, oy2, {x2, y2});
+    vn::numeros::da(ox1, oy1, {x1, y1});
+    vn::numeros::da(ox2, oy2, {x2, y2});
     if (r.calculados == FALSO) return FALSO;
     const unsigned de_1 = region(r, x1, y1), de_2 = region(r, x2, y2);
     if (de_1 == 0 && de_2 == 0) return CIERTO;

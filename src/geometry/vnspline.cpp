@@ -9,7 +9,7 @@
 
 namespace {
 
-using vn::MEDIA_VUELTA, vn::VUELTA;
+using vn::numeros::MEDIA_VUELTA, vn::numeros::VUELTA;
 // The steepest slope of the curve against its chord.
 constexpr double PENDIENTE_MAXIMA = 10.;
 

@@ -129,7 +129,7 @@ void escribe_fichero(escritura *e) {
         vdir_borra_fichero_si_existe_UNICODE(e->path);
         return;
     }
-    vn::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->path));
+    vn::ficheros::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->path));
     if (f == nullptr) return;
     vtxt_escr_ushrt(VERSION_NOMBRE_OBRA, f.get());
     vtxt_escr_string("; version", f.get());

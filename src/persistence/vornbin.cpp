@@ -63,7 +63,7 @@ X(double, 'd', double, bin_graba_double, bin_lee_double)
 #undef X
 
 void bin_graba_bool(vnbool valor, vnfichero *f) {
-    if (!AFIRMA_LOGICO(valor)) vn::marca_fallo_escritura(f);
+    if (!AFIRMA_LOGICO(valor)) vn::ficheros::marca_fallo_escritura(f);
     bin_graba_byte(static_cast<uint8_t>(valor), f);
 }
 
@@ -75,7 +75,7 @@ vnbool bin_lee_bool(vnfichero *f) {
 }
 
 void bin_graba_SN(char dato, vnfichero *f) {
-    if (!AFIRMA(dato == 'S' || dato == 'N')) vn::marca_fallo_escritura(f);
+    if (!AFIRMA(dato == 'S' || dato == 'N')) vn::ficheros::marca_fallo_escritura(f);
     bin_graba_char(dato, f);
 }
 

@@ -216,7 +216,7 @@ void graba_cabecera(vnfichero *f, const listas_cabecera &listas) {
     const std::string_view texto = identificacion.get();
     cabecera leida;
     if (!AFIRMA(texto.size() < LIMITE_IDENTIFICACION && interpreta_identificacion(texto, leida)))
-        marca_fallo_escritura(f);
+        ficheros::marca_fallo_escritura(f);
     graba_identificacion(f, identificacion.get());
     graba_cuerpo(f, FORMA_ACTUAL, listas);
 }

@@ -47,7 +47,7 @@ bool graba_copia_de_ejemplo(vnfichero *origen, cabecera *c, vnfichero *destino) 
 
 // No safety copy: it would keep the texts that are blanked.
 bool marca_con_listas(fichero origen, cabecera *c, const vnwchar *nomfich) {
-    temporal destino(vornfile_abrir_fichero_escritura_con_temporal_u(nomfich, VNU(".TM@"), FALSO));
+    ficheros::temporal destino(vornfile_abrir_fichero_escritura_con_temporal_u(nomfich, VNU(".TM@"), FALSO));
     if (destino == nullptr || !graba_copia_de_ejemplo(origen.get(), c, destino.get())) return false;
     origen.reset();
     return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(destino.release(), nomfich) == CIERTO;
@@ -75,7 +75,7 @@ vnbool vornbin_marca_fichero_ejemplo_u(const vnwchar *nomfich) {
     if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
     // The temporary of a save is held meanwhile, and goes in the end: no save comes in between, and what one that died
     // has left, which has the texts that are blanked here, is no more.
-    const vn::temporal turno(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nomfich));
+    const vn::ficheros::temporal turno(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nomfich));
     if (turno == nullptr) return FALSO;
     vn::fichero f = vn::abre_para_leer(nomfich);
     if (f == nullptr) return FALSO;

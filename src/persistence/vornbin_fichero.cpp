@@ -9,8 +9,8 @@
 namespace vn {
 namespace {
 
-temporal abre_temporal(const vnwchar *nomfich) {
-    return temporal(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nomfich));
+ficheros::temporal abre_temporal(const vnwchar *nomfich) {
+    return ficheros::temporal(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nomfich));
 }
 
 // The lists of the file that is about to be replaced. A header that is damaged has none: it must not stand in the way
@@ -30,11 +30,11 @@ bool lee_listas_existentes(const vnwchar *nomfich, listas_cabecera *listas) {
     return false;
 }
 
-temporal abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra, const arrCADENA_u *nombres,
-                           const arrCADENA_u *valores) {
+ficheros::temporal abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra, const arrCADENA_u *nombres,
+                                     const arrCADENA_u *valores) {
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
     // Held before the lists are read: no other saver puts fields there in between.
-    temporal f = abre_temporal(nomfich);
+    ficheros::temporal f = abre_temporal(nomfich);
     listas_cabecera listas;
     if (f == nullptr || !lee_listas_existentes(nomfich, &listas)) return nullptr;
     if (nombres != nullptr) listas.pon_campos(nombres, valores);
@@ -55,7 +55,7 @@ void graba_prologo(vnfichero *f, uint16_t version, const char *firma, const vnwc
 vnfichero *abre_con_cabecera_y_prologo(const vnwchar *nomfich, uint16_t version, const char *firma,
                                        const vnwchar *titulo, const arrCADENA_u *nombres, const arrCADENA_u *valores,
                                        const vnwchar *obra) {
-    temporal f = abre_con_cabecera(nomfich, obra, nombres, valores);
+    ficheros::temporal f = abre_con_cabecera(nomfich, obra, nombres, valores);
     if (f != nullptr) graba_prologo(f.get(), version, firma, titulo);
     return f.release();
 }
@@ -89,7 +89,7 @@ bool hace_ejemplo(vnfichero *f) {
     return true;
 }
 
-vnbool cierra_y_reemplaza(temporal f, const vnwchar *nomfich) {
+vnbool cierra_y_reemplaza(ficheros::temporal f, const vnwchar *nomfich) {
     bool es_ejemplo = false;
     if (lc_ha_fallado(f.get()) == FALSO &&
         (!mira_si_es_ejemplo(nomfich, &es_ejemplo) || (es_ejemplo && !hace_ejemplo(f.get()))))
@@ -152,7 +152,7 @@ vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(c
                                                                                const vnwchar *obra) {
     if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(titulo)) return nullptr;
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
-    vn::temporal f = vn::abre_temporal(nomfich);
+    vn::ficheros::temporal f = vn::abre_temporal(nomfich);
     if (f != nullptr) vn::graba_prologo(f.get(), version, firma, titulo);
     return f.release();
 }
@@ -171,7 +171,7 @@ vnbool vornbin_cierra_fichero_abierto_para_escritura_u(vnfichero *f, const vnwch
     if (!AFIRMA_NO_NULO(f)) return FALSO;
     vn::fichero abierto(f);
     if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
-    const vnbool grabado = vn::cierra_y_reemplaza(vn::temporal(abierto.release()), nomfich);
+    const vnbool grabado = vn::cierra_y_reemplaza(vn::ficheros::temporal(abierto.release()), nomfich);
     if (grabado == CIERTO) ultiobra_guarda_nombre_ultima_obra_u(nomfich, obra);
     return grabado;
 }

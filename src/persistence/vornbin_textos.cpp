@@ -45,7 +45,7 @@ char convierte_char(char c) {
 
 // What is to be written has passed its check; if not, which has been reported, the save fails.
 bool hay_dato(bool bien, vnfichero *f) {
-    if (!bien) vn::marca_fallo_escritura(f);
+    if (!bien) vn::ficheros::marca_fallo_escritura(f);
     return bien;
 }
 
@@ -53,7 +53,7 @@ bool hay_dato(bool bien, vnfichero *f) {
 bool lee_no_es_null(vnfichero *f) {
     const uint8_t resultado = bin_lee_byte(f);
     if (resultado == 1) return true;
-    if (!AFIRMA(resultado == 0)) vn::marca_fallo_lectura(f);
+    if (!AFIRMA(resultado == 0)) vn::ficheros::marca_fallo_lectura(f);
     return false;
 }
 

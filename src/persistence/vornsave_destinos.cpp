@@ -112,17 +112,17 @@ template <auto COMPRUEBA> vnbool se_lee_inicio_bloque(const char *id, vnfichero 
 
 // A truth value that is none has no line: what follows would be out of step.
 void graba_BOOL(vnbool v, vnfichero *f) {
-    if (v > CIERTO) marca_fallo_escritura(f);
+    if (v > CIERTO) ficheros::marca_fallo_escritura(f);
     vtxt_escr_BOOL(v, f);
 }
 void graba_bool_con_textos(vnfichero *f, vnbool v, const char *texto1, const char *texto2) {
-    if (v > CIERTO) marca_fallo_escritura(f);
+    if (v > CIERTO) ficheros::marca_fallo_escritura(f);
     vtxt_graba_bool(f, v, texto1, texto2);
 }
 
 // A line end inside a text, and the escape itself, go as wide texts have them; an escape of another form is a text's
 // own.
-constexpr char ESCAPADOS[] = {'\n', '\r', ESCAPE_DE_UNIDAD, '\0'};
+constexpr char ESCAPADOS[] = {'\n', '\r', ficheros::ESCAPE_DE_UNIDAD, '\0'};
 constexpr size_t CIFRAS = 4;
 std::string escapa(const char *s) {
     std::string t;
@@ -130,17 +130,18 @@ std::string escapa(const char *s) {
         n = std::strcspn(s, ESCAPADOS);
         t.append(s, n);
         if (s[n] == '\0') break;
-        t += ESCAPE_DE_UNIDAD;
+        t += ficheros::ESCAPE_DE_UNIDAD;
         t += s[n] == '\n' ? "000A" : s[n] == '\r' ? "000D" : "0010";
         ++n;
     }
     return t;
 }
 char *quita_escapes(char *s) {
-    char *d = std::strchr(s, ESCAPE_DE_UNIDAD);
+    char *d = std::strchr(s, ficheros::ESCAPE_DE_UNIDAD);
     for (const char *p = d; p != nullptr && (*d = *p) != '\0'; ++p, ++d) {
-        if (*p != ESCAPE_DE_UNIDAD) continue;
-        constexpr std::pair<const char *, char> FORMAS[] = {{"000A", '\n'}, {"000D", '\r'}, {"0010", ESCAPE_DE_UNIDAD}};
+        if (*p != ficheros::ESCAPE_DE_UNIDAD) continue;
+        constexpr std::pair<const char *, char> FORMAS[] = {
+            {"000A", '\n'}, {"000D", '\r'}, {"0010", ficheros::ESCAPE_DE_UNIDAD}};
         for (const auto &[cifras, c] : FORMAS)
             if (std::strncmp(p + 1, cifras, CIFRAS) == 0) {
                 *d = c;
@@ -159,7 +160,7 @@ char *lee_cadena_de_linea(vnfichero *f) { return quita_escapes(vtxt_lee_cadena(f
 constexpr size_t TAMANYO_LINEA = 256;
 void graba_linea(const char *s, vnfichero *f) {
     const size_t longitud = escapa(s).size();
-    if (!AFIRMA(longitud < TAMANYO_LINEA)) marca_fallo_escritura(f);
+    if (!AFIRMA(longitud < TAMANYO_LINEA)) ficheros::marca_fallo_escritura(f);
     graba_cadena_en_linea(s, f);
 }
 char *lee_linea(vnfichero *f) {
@@ -172,8 +173,8 @@ bool quedan_en_fichero(vnfichero *f, uint64_t numero, uint64_t tamanyo) {
 }
 bool fichero_ha_fallado(vnfichero *f) { return lc_ha_fallado(f) == CIERTO; }
 void marca_fallo(vnfichero *f) {
-    marca_fallo_escritura(f);
-    marca_fallo_lectura(f);
+    ficheros::marca_fallo_escritura(f);
+    ficheros::marca_fallo_lectura(f);
 }
 constexpr bool dice_sus_fallos(const destino &d) {
     const operaciones_destino &o = d.operaciones;

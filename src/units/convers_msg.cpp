@@ -6,7 +6,7 @@
 namespace {
 
 constexpr size_t NUM_MENSAJES = std::size(vn::UNIDADES_TRADUCIDAS);
-using mensajes = std::array<vn::grupo_de_textos<vnwchar>, NUM_MENSAJES>;
+using mensajes = std::array<vn::texto::grupo_de_textos<vnwchar>, NUM_MENSAJES>;
 
 // The ordinals are the lines' own, from 1.
 consteval mensajes numerados(mensajes m) {
@@ -15,9 +15,9 @@ consteval mensajes numerados(mensajes m) {
 }
 
 constexpr mensajes MENSAJES = numerados({{
-#define T(columna, texto)                                                                                              \
-    { vn::columna, VNU(texto) }
-#define X(es, ...) vn::mensaje_u("convers.msg", 0, {{vn::ES, VNU(es)}, __VA_ARGS__}),
+#define T(columna, letras)                                                                                             \
+    { vn::texto::columna, VNU(letras) }
+#define X(es, ...) vn::texto::mensaje_u("convers.msg", 0, {{vn::texto::ES, VNU(es)}, __VA_ARGS__}),
 #include "units/convers_msg.inl"
 #undef X
 #undef T

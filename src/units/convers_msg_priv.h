@@ -17,7 +17,7 @@ inline constexpr int16_t SIN_TRADUCCION = -1;
 // The row of a text, which is given without its id.
 consteval int16_t fila_de_unidad(const vnwchar *texto) {
     for (size_t i = 0; i < std::size(UNIDADES_TRADUCIDAS); ++i) {
-        const vnwchar *a = UNIDADES_TRADUCIDAS[i] + ancho_de_id(UNIDADES_TRADUCIDAS[i]), *b = texto;
+        const vnwchar *a = UNIDADES_TRADUCIDAS[i] + texto::ancho_de_id(UNIDADES_TRADUCIDAS[i]), *b = texto;
         while (*a == *b && *a != 0) ++a, ++b;
         if (*a == *b) return static_cast<int16_t>(i);
     }

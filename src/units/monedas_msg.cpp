@@ -4,45 +4,45 @@
 
 namespace {
 
-constexpr auto MENSAJE_124345 = vn::mensaje_u("monedas.msg", 1,
-                                              {
-                                                  {vn::ES, VNU("<124345>Ptas")},
-                                                  {vn::FR, VNU("<124345>Ptas")},
-                                                  {vn::PT_BR, VNU("<124345>Ptas")},
-                                                  {vn::PT, VNU("<124345>Ptas")},
-                                                  {vn::CA, VNU("<124345>Ptes")},
-                                                  {vn::IT, VNU("<124345>Ptas")},
-                                                  {vn::EN, VNU("<124345>Ptas")},
-                                                  {vn::GL, VNU("<124345>Ptas")},
-                                                  {vn::BG, VNU("<124345>песети")},
-                                                  {vn::RO, VNU("<124345>pesete")},
-                                                  {vn::ZH, VNU("<124345>比塞塔")},
-                                                  {vn::DE, VNU("<124345>Peseten")},
-                                                  {vn::RU, VNU("<124345>песет")},
-                                                  {vn::PL, VNU("<124345>peset")},
-                                                  {vn::TR, VNU("<124345>peseta")},
-                                                  {vn::JA, VNU("<124345>ペセタ")},
-                                              });
+constexpr auto MENSAJE_124345 = vn::texto::mensaje_u("monedas.msg", 1,
+                                                     {
+                                                         {vn::texto::ES, VNU("<124345>Ptas")},
+                                                         {vn::texto::FR, VNU("<124345>Ptas")},
+                                                         {vn::texto::PT_BR, VNU("<124345>Ptas")},
+                                                         {vn::texto::PT, VNU("<124345>Ptas")},
+                                                         {vn::texto::CA, VNU("<124345>Ptes")},
+                                                         {vn::texto::IT, VNU("<124345>Ptas")},
+                                                         {vn::texto::EN, VNU("<124345>Ptas")},
+                                                         {vn::texto::GL, VNU("<124345>Ptas")},
+                                                         {vn::texto::BG, VNU("<124345>песети")},
+                                                         {vn::texto::RO, VNU("<124345>pesete")},
+                                                         {vn::texto::ZH, VNU("<124345>比塞塔")},
+                                                         {vn::texto::DE, VNU("<124345>Peseten")},
+                                                         {vn::texto::RU, VNU("<124345>песет")},
+                                                         {vn::texto::PL, VNU("<124345>peset")},
+                                                         {vn::texto::TR, VNU("<124345>peseta")},
+                                                         {vn::texto::JA, VNU("<124345>ペセタ")},
+                                                     });
 
-constexpr auto MENSAJE_124346 = vn::mensaje_u("monedas.msg", 2,
-                                              {
-                                                  {vn::ES, VNU("<124346>euros")},
-                                                  {vn::FR, VNU("<124346>euros")},
-                                                  {vn::PT_BR, VNU("<124346>euros")},
-                                                  {vn::PT, VNU("<124346>euros")},
-                                                  {vn::CA, VNU("<124346>euros")},
-                                                  {vn::IT, VNU("<124346>euro")},
-                                                  {vn::EN, VNU("<124346>euros")},
-                                                  {vn::GL, VNU("<124346>euros")},
-                                                  {vn::BG, VNU("<124346>евро")},
-                                                  {vn::RO, VNU("<124346>euro")},
-                                                  {vn::ZH, VNU("<124346>欧元")},
-                                                  {vn::DE, VNU("<124346>Euro")},
-                                                  {vn::RU, VNU("<124346>евро")},
-                                                  {vn::PL, VNU("<124346>euro")},
-                                                  {vn::TR, VNU("<124346>avro")},
-                                                  {vn::JA, VNU("<124346>ユーロ")},
-                                              });
+constexpr auto MENSAJE_124346 = vn::texto::mensaje_u("monedas.msg", 2,
+                                                     {
+                                                         {vn::texto::ES, VNU("<124346>euros")},
+                                                         {vn::texto::FR, VNU("<124346>euros")},
+                                                         {vn::texto::PT_BR, VNU("<124346>euros")},
+                                                         {vn::texto::PT, VNU("<124346>euros")},
+                                                         {vn::texto::CA, VNU("<124346>euros")},
+                                                         {vn::texto::IT, VNU("<124346>euro")},
+                                                         {vn::texto::EN, VNU("<124346>euros")},
+                                                         {vn::texto::GL, VNU("<124346>euros")},
+                                                         {vn::texto::BG, VNU("<124346>евро")},
+                                                         {vn::texto::RO, VNU("<124346>euro")},
+                                                         {vn::texto::ZH, VNU("<124346>欧元")},
+                                                         {vn::texto::DE, VNU("<124346>Euro")},
+                                                         {vn::texto::RU, VNU("<124346>евро")},
+                                                         {vn::texto::PL, VNU("<124346>euro")},
+                                                         {vn::texto::TR, VNU("<124346>avro")},
+                                                         {vn::texto::JA, VNU("<124346>ユーロ")},
+                                                     });
 
 } // namespace
 

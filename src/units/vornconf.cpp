@@ -164,7 +164,7 @@ void escribe_fichero(const internacional &r) {
     const ruta_propia ruta = la_ruta();
     const turno mio;
     if (!AFIRMA_NO_NULO(ruta) || !AFIRMA(mio.dentro())) return;
-    vn::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(ruta.get()));
+    vn::ficheros::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(ruta.get()));
     if (f == nullptr) return;
     vtxt_escr_string("[Internacional]", f.get());
     escribe_linea("Idioma", vornconf_Internacional_idioma(), f.get());

@@ -232,7 +232,7 @@ template <class C> vnbool es_numero_real(const C *cadena, const separadores s) {
 template <class C> uint32_t hexadecimal(const C *cadena) {
     uint32_t v = 0;
     if (!AFIRMA_NO_NULO(cadena)) return v;
-    for (uint32_t c; (c = vn::cifra_hexadecimal(unidad(*cadena))) < 16; ++cadena) v = v << 4 | c;
+    for (uint32_t c; (c = vn::texto::cifra_hexadecimal(unidad(*cadena))) < 16; ++cadena) v = v << 4 | c;
     return v;
 }
 

@@ -24,6 +24,8 @@ TEXTOS = [
     ("src/foundation/texto/cuenta_lo_suyo.h", '#include "../suelo/de_todos_int.h"\n', "by their place beside it"),
     ("src/foundation/texto/ajena.cpp", CABEZA.format("ajena", "_FOUNDATION") + '#include "foundation/suelo/suya_priv.h"\n',
      "is foundation/suelo's own"),
+    ("src/foundation/texto/fuera_priv.h", "namespace vn {\nint f();\n}\n", "namespace vn in the room texto"),
+    ("src/foundation/texto/dentro_priv.h", "namespace vn::texto {\nint f();\n}\nnamespace vn {\nusing texto::f;\n}\n", None),
     ("src/persistence/arriba_priv.h", '#include "environment/algo.h"\n', "persistence may not include environment"),
     ("src/persistence/sin_carpeta_priv.h", '#include "algo.h"\n', "includes name their folder"),
     ("src/nueva/algo.h", "\n", "has no row in the table of layers"),

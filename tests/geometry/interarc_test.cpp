@@ -28,7 +28,7 @@ class cortes {
     }
     size_t num() const { return arr_NumElemsPunto2D(puntos_.get()); }
     const Punto2D &operator[](size_t i) const { return arr_GetBufferConstPunto2D(puntos_.get())[i]; }
-    std::span<const Punto2D> todos() const { return vn::tramo(static_cast<const arrPunto2D *>(puntos_.get())); }
+    std::span<const Punto2D> todos() const { return vn::listas::tramo(static_cast<const arrPunto2D *>(puntos_.get())); }
 
   private:
     std::unique_ptr<arrPunto2D, destruye> puntos_;

@@ -105,6 +105,20 @@ def mira_inclusion(ruta, n, que):
         falta(ruta, n, f"{que} is {otra}'s own: what others need stands in an _int.h")
 
 
+def mira_espacio(ruta, lineas):
+    """What a room of the Foundation declares lives in the room's namespace, so that two rooms may use one short word. The
+    ground's is seen by all; `namespace vn` itself takes only names of a room that all may use bare."""
+    partes = ruta.split("/")
+    if not ruta.startswith("src/foundation/") or len(partes) < 4:
+        return
+    cuarto = partes[2]
+    suyos = {"platform": ("vn::plat",), "suelo": ("vn::inline suelo",)}.get(cuarto, (f"vn::{cuarto}", "vn::plat"))
+    for n, linea in enumerate(lineas, 1):
+        m = re.match(r"namespace (vn[^{]*?) \{", linea)
+        if m and m[1] not in suyos and not (m[1] == "vn" and lineas[n].startswith("using ")):
+            falta(ruta, n, f"namespace {m[1]} in the room {cuarto}")
+
+
 def mira_inclusiones(ruta, lineas, limpias):
     de_la_biblioteca = ruta.startswith("src/")
     if de_la_biblioteca and carpeta_de(ruta[4:]) not in CAPAS:
@@ -153,6 +167,7 @@ def main():
         lineas = texto.split("\n")
         limpias = sin_comentarios(texto).split("\n")
         mira_inclusiones(ruta, lineas, limpias)
+        mira_espacio(ruta, lineas)
         if ruta.startswith("src/") and ruta.endswith(".cpp") and "/platform/" not in ruta:
             mira_modulo(ruta, lineas)
         if len(lineas) - 1 > MAXIMO_LINEAS and not es_tabla(lineas):

@@ -10,16 +10,16 @@
 #include <new>
 
 struct dirwin {
-    explicit dirwin(vn::partes p)
-        : mascara(p.nombre_con_extension()), recorrido(vn::texto(p.hasta_directorio()), true) {}
-    vn::texto mascara;
+    explicit dirwin(vn::ficheros::partes p)
+        : mascara(p.nombre_con_extension()), recorrido(vn::cadena_ancha(p.hasta_directorio()), true) {}
+    vn::cadena_ancha mascara;
     vn::plat::recorrido recorrido;
 };
 
 dirwin *dirwin_crea_UNICODE(const vnwchar *patron) {
     if (!AFIRMA_NO_NULO(patron)) return nullptr;
     vn::propio<void> sitio(vornspy_malloc(sizeof(dirwin)));
-    auto *d = new (sitio.get()) dirwin(vn::descompone(patron));
+    auto *d = new (sitio.get()) dirwin(vn::ficheros::descompone(patron));
     static_cast<void>(sitio.release());
     return d;
 }
@@ -28,7 +28,7 @@ vnbool dirwin_findnextfile_UNICODE(dirwin *d, dirwin_dato *dato) {
     if (dato != nullptr) *dato = {};
     if (!AFIRMA_NO_NULO(d) || !AFIRMA_NO_NULO(dato)) return FALSO;
     for (vn::plat::ficha f; d->recorrido.siguiente(f);) {
-        if (f.nombre.size() >= std::size(dato->nombre) || !vn::casa_con(d->mascara, f.nombre)) continue;
+        if (f.nombre.size() >= std::size(dato->nombre) || !vn::ficheros::casa_con(d->mascara, f.nombre)) continue;
         std::copy(f.nombre.begin(), f.nombre.end(), dato->nombre);
         dato->atributos = f.atributos | (f.es_directorio ? VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY : 0);
         dato->tamanyo = f.tamanyo;

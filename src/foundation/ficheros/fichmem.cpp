@@ -101,7 +101,8 @@ void fichmem_destruye(fichmem **m) {
 
 vnbool fichmem_graba_unicode(const fichmem *m, const vnwchar *nombre) {
     if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(nombre)) return FALSO;
-    vn::temporal f(vornfile_abrir_fichero_escritura_con_temporal_u(nombre, vn::SUFIJO_TEMPORAL, FALSO));
+    vn::ficheros::temporal f(
+        vornfile_abrir_fichero_escritura_con_temporal_u(nombre, vn::ficheros::SUFIJO_TEMPORAL, FALSO));
     if (f == nullptr) return FALSO;
     f_lc_fwrite(m->datos, 1, m->longitud, f.get(), VN_AQUI);
     return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), nombre);
@@ -109,7 +110,7 @@ vnbool fichmem_graba_unicode(const fichmem *m, const vnwchar *nombre) {
 
 fichmem *fichmem_lee_unicode(const vnwchar *nombre) {
     if (!AFIRMA_NO_NULO(nombre)) return nullptr;
-    vn::flujo_abierto f(f_lc_fopen_u(nombre, VNU("rb"), VN_AQUI));
+    vn::ficheros::flujo_abierto f(f_lc_fopen_u(nombre, VNU("rb"), VN_AQUI));
     if (f == nullptr) return nullptr;
     propio m = vacio();
     if (!lee_hasta_el_final(*m, f.get())) {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-namespace vn {
+namespace vn::ficheros {
 namespace {
 
 constexpr const vnwchar *SUFIJO_SEGURIDAD = VNU(".bak");
@@ -179,4 +179,4 @@ void guardado::abandona() {
     if (id_ != VN_FICHERO_NINGUNO) borra_y_cierra(std::exchange(id_, VN_FICHERO_NINGUNO), temporal_);
 }
 
-} // namespace vn
+} // namespace vn::ficheros

@@ -4,7 +4,7 @@
 #include "foundation/suelo/operaciones_fichero_int.h"
 #include <memory>
 
-namespace vn {
+namespace vn::ficheros {
 
 inline constexpr const vnwchar *SUFIJO_TEMPORAL = VNU("_TM$");
 
@@ -49,4 +49,4 @@ class guardado {
     bool con_copia_ = true;
 };
 
-} // namespace vn
+} // namespace vn::ficheros

@@ -76,7 +76,7 @@ bool busca(std::string_view datos, std::string_view seccion, std::string_view cl
 int32_t entero_de(std::string_view datos, std::string_view seccion, std::string_view clave, int32_t por_defecto) {
     std::string_view valor;
     if (!busca(datos, sin_blancos(seccion), sin_blancos(clave), valor)) return por_defecto;
-    return vn::lee_entero<int32_t>(valor.data(), valor.size()).valor;
+    return vn::texto::lee_entero<int32_t>(valor.data(), valor.size()).valor;
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 #include <new>
 #include <utility>
 
-namespace vn {
+namespace vn::ficheros {
 namespace {
 
 thread_local vnerror_fichero ultimo_error = VN_FICH_BIEN;
@@ -350,9 +350,10 @@ void libera_flujo::operator()(vnfichero *f) const {
     vornspy_free_pp(&f, 1);
 }
 
-} // namespace vn
+} // namespace vn::ficheros
 
 using namespace vn;
+using namespace vn::ficheros;
 
 vnfichero *f_lc_fopen_u(const vnwchar *nombre, const vnwchar *modo, const char *modulo, uint32_t linea) {
     return abre_con(nombre, modo, UNA_DECIMA, true, modulo, linea);

@@ -55,7 +55,7 @@ vnfichero *vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar(const c
 }
 
 vnbool vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar(vnfichero *f, const char *nombre) {
-    vn::flujo_abierto mio(f); // closed, whatever comes
+    vn::ficheros::flujo_abierto mio(f); // closed, whatever comes
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(nombre)) return FALSO;
     const auto destino = ancho(nombre);
     return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(mio.release(), destino.get());

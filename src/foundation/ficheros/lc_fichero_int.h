@@ -5,7 +5,7 @@
 #include "foundation/suelo/operaciones_fichero_int.h"
 #include <memory>
 
-namespace vn {
+namespace vn::ficheros {
 class guardado;
 }
 
@@ -21,8 +21,8 @@ struct vnfichero {
     int64_t tamanyo; // as last seen
     vnid_fichero id;
     vnwchar *nombre;
-    vn::guardado *guardado;     // of what is opened to take a file's place at its close
-    uint32_t lectura_siguiente; // how much the next filling of the buffer asks for
+    vn::ficheros::guardado *guardado; // of what is opened to take a file's place at its close
+    uint32_t lectura_siguiente;       // how much the next filling of the buffer asks for
     enum estado_t : uint8_t { NADA, LEYENDO, ESCRIBIENDO } estado;
     bool lee, escribe, anade, traduce, con_posicion;
     bool al_final, fallo_lectura, fallo_escritura, informado;
@@ -31,7 +31,7 @@ struct vnfichero {
     bool etiquetas_al_leer, etiquetas_al_escribir; // each binary value has the letter of its kind before it
 };
 
-namespace vn {
+namespace vn::ficheros {
 
 inline constexpr size_t TAMANYO_BUFFER = 64 * 1024;
 // After a jump the buffer is filled by so much, and then by twice as much each time.
@@ -91,4 +91,4 @@ vnfichero *flujo_de(std::unique_ptr<guardado> g, const char *modulo, uint32_t li
 // nothing more to do with the file.
 std::unique_ptr<guardado> toma_guardado(vnfichero &f);
 
-} // namespace vn
+} // namespace vn::ficheros

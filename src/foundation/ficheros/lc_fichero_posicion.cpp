@@ -4,7 +4,7 @@
 #include "foundation/suelo/afirma_int.h"
 #include <algorithm>
 
-namespace vn {
+namespace vn::ficheros {
 
 int64_t tamanyo_actual(vnfichero &f) {
     vnestado_fichero estado;
@@ -41,9 +41,10 @@ bool mueve_desde(vnfichero &f, int64_t posicion_pedida, int origen) {
 }
 
 } // namespace
-} // namespace vn
+} // namespace vn::ficheros
 
 using namespace vn;
+using namespace vn::ficheros;
 
 vnbool f_lc_feof(const vnfichero *f) { return AFIRMA_NO_NULO(f) && f->al_final ? CIERTO : FALSO; }
 vnbool f_lc_ferror(const vnfichero *f) {

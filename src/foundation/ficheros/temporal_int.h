@@ -4,7 +4,7 @@
 #include "foundation/ficheros/vornfile.h"
 #include <memory>
 
-namespace vn {
+namespace vn::ficheros {
 
 // On the way out of a failure the save is given up.
 struct abandona_temporal {
@@ -12,4 +12,4 @@ struct abandona_temporal {
 };
 using temporal = std::unique_ptr<vnfichero, abandona_temporal>;
 
-} // namespace vn
+} // namespace vn::ficheros

@@ -41,7 +41,7 @@ vnbool timefich_obtener_fecha_fichero_existente_UTC_UNICODE(const vnwchar *nombr
 vnbool timefich_obtener_fecha_fichero_existente_UTC(const char *nombre, int64_t *fecha_UTC) {
     if (fecha_UTC != nullptr) *fecha_UTC = 0;
     if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(fecha_UTC)) return FALSO;
-    return timefich_obtener_fecha_fichero_existente_UTC_UNICODE(vn::de_ansi(nombre).c_str(), fecha_UTC);
+    return timefich_obtener_fecha_fichero_existente_UTC_UNICODE(vn::ficheros::de_ansi(nombre).c_str(), fecha_UTC);
 }
 
 void timefich_convertir_fecha(int64_t fecha_UTC, vnbool hora_local, timefich_fecha *fecha) {

@@ -5,12 +5,12 @@
 #include "foundation/suelo/operaciones_fichero.h"
 #include <algorithm>
 
-namespace vn {
+namespace vn::ficheros {
 namespace {
 
 const vnoperaciones_fichero &tabla() { return *operaciones_fichero_actuales(); }
 
-bool estado(const texto &ruta, vnestado_fichero &e) {
+bool estado(const cadena_ancha &ruta, vnestado_fichero &e) {
     return !ruta.empty() && tabla().estado(ruta.c_str(), &e) == VN_FICH_BIEN;
 }
 
@@ -21,12 +21,12 @@ bool longitud(const vnwchar *nombre, uint64_t &tamanyo) {
     return hay;
 }
 
-bool hay_algo(const texto &ruta) {
+bool hay_algo(const cadena_ancha &ruta) {
     vnestado_fichero e{};
     return estado(ruta, e) || plat::es_enlace(ruta);
 }
 
-bool mismo_nombre(vista a, vista b) {
+bool mismo_nombre(vista_ancha a, vista_ancha b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](vnwchar x, vnwchar y) {
         return (es_separador(x) && es_separador(y)) || plat::para_comparar(x) == plat::para_comparar(y);
     });
@@ -34,7 +34,7 @@ bool mismo_nombre(vista a, vista b) {
 
 // A second name and then the first one away, so that nobody's file is replaced; where a second name cannot be
 // (directories, some file systems), the renaming itself after a look.
-bool renombra(const texto &origen, const texto &destino) {
+bool renombra(const cadena_ancha &origen, const cadena_ancha &destino) {
     switch (tabla().enlaza(origen.c_str(), destino.c_str())) {
     case VN_FICH_BIEN:
         if (tabla().borra(origen.c_str()) == VN_FICH_BIEN) return true;
@@ -50,7 +50,7 @@ bool renombra(const texto &origen, const texto &destino) {
 }
 
 // Empties the current directory of all that is no directory; these are left in `directorios`.
-bool quita_ficheros(plat::descenso &d, std::vector<texto> &directorios) {
+bool quita_ficheros(plat::descenso &d, std::vector<cadena_ancha> &directorios) {
     std::vector<plat::ficha> contenido;
     bool todo = d.lista(contenido);
     for (plat::ficha &f : contenido) {
@@ -60,10 +60,10 @@ bool quita_ficheros(plat::descenso &d, std::vector<texto> &directorios) {
     return todo;
 }
 
-bool borra_contenido(const texto &raiz) {
+bool borra_contenido(const cadena_ancha &raiz) {
     plat::descenso d(raiz);
     if (!d.abierto()) return false;
-    std::vector<std::vector<texto>> faltan(1); // the directories that are left, by depth
+    std::vector<std::vector<cadena_ancha>> faltan(1); // the directories that are left, by depth
     bool todo = quita_ficheros(d, faltan.back());
     for (;;) {
         if (!faltan.back().empty() && d.entra(faltan.back().back())) {
@@ -82,38 +82,39 @@ bool borra_contenido(const texto &raiz) {
     }
 }
 
-bool borra_arbol(const texto &ruta, bool tambien_la_raiz) {
-    const texto raiz(sin_separador_final(ruta));
-    const vista ultima = descompone(raiz).nombre;
-    if (ultima.empty() || ultima == vista(VNU(".")) || ultima == vista(VNU(".."))) return false;
+bool borra_arbol(const cadena_ancha &ruta, bool tambien_la_raiz) {
+    const cadena_ancha raiz(sin_separador_final(ruta));
+    const vista_ancha ultima = descompone(raiz).nombre;
+    if (ultima.empty() || ultima == vista_ancha(VNU(".")) || ultima == vista_ancha(VNU(".."))) return false;
     if (plat::es_enlace(raiz)) return tambien_la_raiz && plat::borra_directorio(raiz);
     if (!hay_algo(raiz)) return true;
     return borra_contenido(raiz) && (!tambien_la_raiz || plat::borra_directorio(raiz));
 }
 
-vista directorio_del_path(vista ruta) {
+vista_ancha directorio_del_path(vista_ancha ruta) {
     return !ruta.empty() && es_separador(ruta.back()) ? ruta : descompone(ruta).hasta_directorio();
 }
 
 } // namespace
 
-bool existe_directorio(const texto &ruta) {
+bool existe_directorio(const cadena_ancha &ruta) {
     vnestado_fichero e{};
     return estado(ruta, e) && e.es_directorio == CIERTO;
 }
 
-bool existe_fichero(const texto &ruta) {
+bool existe_fichero(const cadena_ancha &ruta) {
     vnestado_fichero e{};
     return estado(ruta, e) && e.es_directorio == FALSO;
 }
 
-bool borra_fichero(const texto &ruta) { return tabla().borra(ruta.c_str()) == VN_FICH_BIEN; }
+bool borra_fichero(const cadena_ancha &ruta) { return tabla().borra(ruta.c_str()) == VN_FICH_BIEN; }
 
-bool crea_directorios(const texto &ruta) { return plat::crea_directorios(ruta); }
+bool crea_directorios(const cadena_ancha &ruta) { return plat::crea_directorios(ruta); }
 
-} // namespace vn
+} // namespace vn::ficheros
 
 using namespace vn;
+using namespace vn::ficheros;
 
 vnbool vdir_existe_fichero_UNICODE(const vnwchar *ruta) {
     return AFIRMA_NO_NULO(ruta) && existe_fichero(ruta) ? CIERTO : FALSO;
@@ -136,17 +137,17 @@ vnbool vdir_se_puede_leer_UNICODE(const vnwchar *ruta) {
 }
 
 vnbool vdir_se_puede_escribir_UNICODE(const vnwchar *ruta) {
-    if (!AFIRMA_NO_NULO(ruta) || *ruta == 0 || es_separador(vista(ruta).back())) return FALSO;
+    if (!AFIRMA_NO_NULO(ruta) || *ruta == 0 || es_separador(vista_ancha(ruta).back())) return FALSO;
     vnestado_fichero e{};
     const vnerror_fichero hay = tabla().estado(ruta, &e);
     if (hay == VN_FICH_BIEN) return e.es_directorio == FALSO && plat::puede_escribir(ruta) ? CIERTO : FALSO;
     if (hay != VN_FICH_NO_EXISTE) return FALSO; // links that lead to each other
-    return vdir_se_puede_escribir_en_directorio_UNICODE(texto(descompone(ruta).hasta_directorio()).c_str());
+    return vdir_se_puede_escribir_en_directorio_UNICODE(cadena_ancha(descompone(ruta).hasta_directorio()).c_str());
 }
 
 vnbool vdir_se_puede_escribir_en_directorio_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta)) return FALSO;
-    texto prueba;
+    cadena_ancha prueba;
     return crea_fichero_unico(ruta, VNU("tmp"), prueba) && borra_fichero(prueba) ? CIERTO : FALSO;
 }
 
@@ -206,17 +207,17 @@ vnbool vdir_crea_directorios_UNICODE(const vnwchar *ruta, vnbool informa) {
 
 vnbool vdir_crea_directorios_del_path_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta)) return FALSO;
-    return vdir_crea_directorios_UNICODE(texto(directorio_del_path(ruta)).c_str(), CIERTO);
+    return vdir_crea_directorios_UNICODE(cadena_ancha(directorio_del_path(ruta)).c_str(), CIERTO);
 }
 
 vnbool vdir_crea_directorios_fichero_UNICODE(const vnwchar *fichero) {
     if (!AFIRMA_NO_NULO(fichero)) return FALSO;
-    return vdir_crea_directorios_UNICODE(texto(descompone(fichero).hasta_directorio()).c_str(), CIERTO);
+    return vdir_crea_directorios_UNICODE(cadena_ancha(descompone(fichero).hasta_directorio()).c_str(), CIERTO);
 }
 
 vnbool vdir_crea_directorios_fichero_si_es_posible_UNICODE(const vnwchar *fichero) {
     if (!AFIRMA_NO_NULO(fichero)) return FALSO;
-    return vdir_crea_directorios_UNICODE(texto(descompone(fichero).hasta_directorio()).c_str(), FALSO);
+    return vdir_crea_directorios_UNICODE(cadena_ancha(descompone(fichero).hasta_directorio()).c_str(), FALSO);
 }
 
 vnbool vdir_borra_contenido_directorio_UNICODE(const vnwchar *ruta) {

@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <memory>
 
-namespace vn {
+namespace vn::ficheros {
 
-bool nombres_en(const texto &directorio, vista mascara, clase que, std::vector<texto> &nombres) {
+bool nombres_en(const cadena_ancha &directorio, vista_ancha mascara, clase que, std::vector<cadena_ancha> &nombres) {
     plat::recorrido r(directorio, false);
     for (plat::ficha f; r.siguiente(f);)
         if (f.es_directorio == (que == clase::directorios) && casa_con(mascara, f.nombre)) nombres.push_back(f.nombre);
@@ -16,19 +16,20 @@ bool nombres_en(const texto &directorio, vista mascara, clase que, std::vector<t
     return r.abierto();
 }
 
-arrCADENA_u *nueva_lista(const std::vector<texto> &textos) {
+arrCADENA_u *nueva_lista(const std::vector<cadena_ancha> &textos) {
     // Held until it is whole: memory may run out.
     struct destruye {
         void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
     };
     std::unique_ptr<arrCADENA_u, destruye> a(arr_CreaCADENA_u(0));
-    for (const texto &t : textos) arr_AppendCADENA_u(a.get(), t.c_str());
+    for (const cadena_ancha &t : textos) arr_AppendCADENA_u(a.get(), t.c_str());
     return a.release();
 }
 
-} // namespace vn
+} // namespace vn::ficheros
 
 using namespace vn;
+using namespace vn::ficheros;
 
 namespace {
 
@@ -36,7 +37,7 @@ vnbool lista(const vnwchar *ruta, const vnwchar *mascara, clase que, arrCADENA_u
     if (!AFIRMA_NO_NULO(salida)) return FALSO;
     *salida = nullptr;
     if (!AFIRMA_NO_NULO(ruta) || !AFIRMA_NO_NULO(mascara)) return FALSO;
-    std::vector<texto> nombres;
+    std::vector<cadena_ancha> nombres;
     const bool leido = nombres_en(ruta, mascara, que, nombres);
     *salida = nueva_lista(nombres);
     return leido ? CIERTO : FALSO;

@@ -9,25 +9,25 @@
 #include <atomic>
 #include <random>
 
-namespace vn {
+namespace vn::ficheros {
 namespace {
 
 // Letters and digits that no other call, in no other program, will hit upon.
-texto nombre_nuevo() {
+cadena_ancha nombre_nuevo() {
     static std::atomic<uint32_t> serie{0};
     std::random_device azar;
     uint64_t n = static_cast<uint64_t>(azar()) << 32 | (azar() + ++serie);
-    texto t = VNU("vn");
+    cadena_ancha t = VNU("vn");
     for (int i = 0; i < 13; ++i, n >>= 5) t += VNU("0123456789abcdefghjkmnpqrstvwxyz")[n & 31];
     return t;
 }
 
 } // namespace
 
-bool crea_fichero_unico(const texto &directorio, vista extension, texto &ruta) {
+bool crea_fichero_unico(const cadena_ancha &directorio, vista_ancha extension, cadena_ancha &ruta) {
     const vnoperaciones_fichero &t = *operaciones_fichero_actuales();
     for (int intentos = 0; intentos < 100; ++intentos) {
-        texto nombre = nombre_nuevo();
+        cadena_ancha nombre = nombre_nuevo();
         if (!extension.empty() && extension.front() != VNU('.')) nombre += VNU('.');
         ruta = une(directorio, nombre += extension);
         vnid_fichero id = VN_FICHERO_NINGUNO;
@@ -41,35 +41,37 @@ bool crea_fichero_unico(const texto &directorio, vista extension, texto &ruta) {
     return false;
 }
 
-} // namespace vn
+} // namespace vn::ficheros
 
 using namespace vn;
+using namespace vn::ficheros;
 
 namespace {
 
 // A path of the system's as ANSI text, which must lead to the same place.
-char *como_ansi(const texto &t) {
+char *como_ansi(const cadena_ancha &t) {
     char *texto_ansi = nuevo_ansi_fiel(t);
     return AFIRMA_DE_FICHERO(texto_ansi != nullptr, t.c_str()) ? texto_ansi : nullptr;
 }
 
-bool es_extension(vista ext) {
+bool es_extension(vista_ancha ext) {
     return std::none_of(ext.begin(), ext.end(), [](vnwchar c) { return es_separador(c) || c == VNU(':'); });
 }
 
-bool fichero_temporal(vista ext, texto &ruta) {
+bool fichero_temporal(vista_ancha ext, cadena_ancha &ruta) {
     return AFIRMA(es_extension(ext)) && crea_fichero_unico(plat::directorio_temporal(), ext, ruta);
 }
 
-bool es_programa(const texto &ruta) { return existe_fichero(ruta) && plat::es_ejecutable(ruta); }
+bool es_programa(const cadena_ancha &ruta) { return existe_fichero(ruta) && plat::es_ejecutable(ruta); }
 
-bool busca_ejecutable(const texto &nombre, texto &hallado) {
+bool busca_ejecutable(const cadena_ancha &nombre, cadena_ancha &hallado) {
     const partes p = descompone(nombre);
     if (p.nombre.empty()) return false;
     const bool con_ruta = !p.hasta_directorio().empty();
     const auto terminaciones = plat::terminaciones_de_programas();
-    for (const texto &d : con_ruta ? std::vector<texto>{texto()} : plat::directorios_de_programas())
-        for (const texto &t : terminaciones) {
+    for (const cadena_ancha &d :
+         con_ruta ? std::vector<cadena_ancha>{cadena_ancha()} : plat::directorios_de_programas())
+        for (const cadena_ancha &t : terminaciones) {
             // Where endings tell a program, a name without one is none.
             if (t.empty() && terminaciones.size() > 1 && p.extension.empty()) continue;
             hallado = une(d, nombre + t);
@@ -79,11 +81,11 @@ bool busca_ejecutable(const texto &nombre, texto &hallado) {
 }
 
 // The files that match a pattern, with their path as the pattern has it.
-bool ficheros_de(vista patron, std::vector<texto> &rutas) {
+bool ficheros_de(vista_ancha patron, std::vector<cadena_ancha> &rutas) {
     const partes p = descompone(patron);
-    const texto directorio(p.hasta_directorio());
+    const cadena_ancha directorio(p.hasta_directorio());
     const bool leido = nombres_en(directorio, p.nombre_con_extension(), clase::ficheros, rutas);
-    for (texto &r : rutas) r = une(directorio, r);
+    for (cadena_ancha &r : rutas) r = une(directorio, r);
     return leido;
 }
 
@@ -94,13 +96,13 @@ char *vorndir_dameDirectorioTemporal(void) { return como_ansi(plat::directorio_t
 
 vnwchar *vorndir_creaFicheroTemporalConExt_UNICODE(const vnwchar *ext) {
     if (!AFIRMA_NO_NULO(ext)) return nullptr;
-    texto ruta;
+    cadena_ancha ruta;
     return fichero_temporal(ext, ruta) ? nuevo(ruta) : nullptr;
 }
 
 char *vorndir_creaFicheroTemporalConExt(const char *ext) {
     if (!AFIRMA_NO_NULO(ext)) return nullptr;
-    texto ruta;
+    cadena_ancha ruta;
     if (!fichero_temporal(de_ansi(ext), ruta)) return nullptr;
     char *s = nuevo_ansi_fiel(ruta);
     if (s == nullptr) borra_fichero(ruta);
@@ -112,13 +114,13 @@ vnwchar *vorndir_dame_path_completo_del_programa_UNICODE(void) { return nuevo(pl
 
 vnwchar *vorndir_busca_ejecutable_del_path_UNICODE(const vnwchar *nombre) {
     if (!AFIRMA_NO_NULO(nombre)) return nullptr;
-    texto hallado;
+    cadena_ancha hallado;
     return busca_ejecutable(nombre, hallado) ? nuevo(hallado) : nullptr;
 }
 
 char *vorndir_busca_ejecutable_del_path(const char *nombre) {
     if (!AFIRMA_NO_NULO(nombre)) return nullptr;
-    texto hallado;
+    cadena_ancha hallado;
     return busca_ejecutable(de_ansi(nombre), hallado) ? como_ansi(hallado) : nullptr;
 }
 
@@ -126,7 +128,7 @@ vnbool vorndir_lista_de_fichero_UNICODE(const vnwchar *patron, arrCADENA_u **lis
     if (!AFIRMA_NO_NULO(lista)) return FALSO;
     *lista = nullptr;
     if (!AFIRMA_NO_NULO(patron)) return FALSO;
-    std::vector<texto> rutas;
+    std::vector<cadena_ancha> rutas;
     const bool leido = ficheros_de(patron, rutas);
     *lista = nueva_lista(rutas);
     return leido ? CIERTO : FALSO;
@@ -136,10 +138,10 @@ vnbool vorndir_lista_de_fichero(const char *patron, arrCADENA **lista) {
     if (!AFIRMA_NO_NULO(lista)) return FALSO;
     *lista = nullptr;
     if (!AFIRMA_NO_NULO(patron)) return FALSO;
-    std::vector<texto> rutas;
+    std::vector<cadena_ancha> rutas;
     const bool leido = ficheros_de(de_ansi(patron), rutas);
     *lista = arr_CreaCADENA(0);
-    for (const texto &r : rutas)
+    for (const cadena_ancha &r : rutas)
         if (const propio<char> s(nuevo_ansi_fiel(r)); s != nullptr) arr_AppendCADENA(*lista, s.get());
     return leido ? CIERTO : FALSO;
 }
@@ -151,16 +153,16 @@ vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vn
     if (directorios != nullptr) *directorios = nullptr;
     if (!AFIRMA_NO_NULO(ruta) || !AFIRMA_NO_NULO(mascara)) return FALSO;
     if (!AFIRMA_NO_NULO(ficheros) || !AFIRMA_NO_NULO(directorios)) return FALSO;
-    std::vector<texto> todos_los_ficheros, todos_los_directorios, por_visitar{ruta};
+    std::vector<cadena_ancha> todos_los_ficheros, todos_los_directorios, por_visitar{ruta};
     bool leido = true;
     for (size_t i = 0; i < por_visitar.size(); ++i) {
-        std::vector<texto> nombres;
+        std::vector<cadena_ancha> nombres;
         const bool este = nombres_en(por_visitar[i], mascara, clase::ficheros, nombres);
         if (i == 0) leido = este;
-        for (const texto &n : nombres) todos_los_ficheros.push_back(une(por_visitar[i], n));
+        for (const cadena_ancha &n : nombres) todos_los_ficheros.push_back(une(por_visitar[i], n));
         nombres.clear();
         nombres_en(por_visitar[i], VNU("*"), clase::directorios, nombres);
-        for (const texto &n : nombres) {
+        for (const cadena_ancha &n : nombres) {
             todos_los_directorios.push_back(une(por_visitar[i], n));
             if (!plat::es_enlace(todos_los_directorios.back())) por_visitar.push_back(todos_los_directorios.back());
         }

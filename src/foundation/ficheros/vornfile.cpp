@@ -5,7 +5,7 @@
 #include "foundation/suelo/afirma_int.h"
 #include <utility>
 
-namespace vn {
+namespace vn::ficheros {
 namespace {
 
 vnbool informado(vnerror_fichero e, const vnwchar *destino) {
@@ -26,9 +26,10 @@ vnfichero *abre(const vnwchar *nombre, const guardado::manera &como) {
 }
 
 } // namespace
-} // namespace vn
+} // namespace vn::ficheros
 
 using namespace vn;
+using namespace vn::ficheros;
 
 vnbool vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(const vnwchar *destino,
                                                                             const vnwchar *temporal) {

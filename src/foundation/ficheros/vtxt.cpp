@@ -45,7 +45,7 @@ vn::propio<vnwchar> escapa(std::basic_string_view<vnwchar> s) {
             *p++ = c;
             *p++ = s[++i];
         } else if (c < 32 || c == 127 || vn::es_alto(c) || vn::es_bajo(c)) {
-            *p++ = vn::ESCAPE_DE_UNIDAD;
+            *p++ = vn::ficheros::ESCAPE_DE_UNIDAD;
             for (int bits = 12; bits >= 0; bits -= 4) *p++ = static_cast<vnwchar>("0123456789ABCDEF"[c >> bits & 15]);
         } else {
             *p++ = c;
@@ -117,7 +117,7 @@ void vtxt_printf(vnfichero *f, const char *formato, ...) {
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(formato)) return;
     va_list args;
     va_start(args, formato);
-    const vn::propio<char> texto(vn::formatea_nuevo(formato, args, VN_AQUI));
+    const vn::propio<char> texto(vn::texto::formatea_nuevo(formato, args, VN_AQUI));
     va_end(args);
     if (texto != nullptr) escribe(texto.get(), f);
 }
@@ -126,7 +126,7 @@ void vtxt_printf_u(vnfichero *f, const vnwchar *formato, ...) {
     if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(formato)) return;
     va_list args;
     va_start(args, formato);
-    const vn::propio<vnwchar> texto(vn::formatea_nuevo(formato, args, VN_AQUI));
+    const vn::propio<vnwchar> texto(vn::texto::formatea_nuevo(formato, args, VN_AQUI));
     va_end(args);
     if (texto != nullptr) escribe_en_utf8(texto.get(), f);
 }

@@ -13,9 +13,9 @@
     X(ulong64, uint64_t)                                                                                               \
     X(double, double)
 
-namespace vn {
+namespace vn::ficheros {
 
 // Stands before the four hexadecimal digits of a unit that a line of text cannot hold.
 inline constexpr char ESCAPE_DE_UNIDAD = 16;
 
-} // namespace vn
+} // namespace vn::ficheros

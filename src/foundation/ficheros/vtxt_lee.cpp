@@ -59,11 +59,11 @@ palabra toma_palabra(vnfichero *f) {
 
 template <class T> bool analiza(const palabra &p, T &valor) {
     if constexpr (std::is_same_v<T, double>) {
-        const auto r = vn::lee_double(p.texto, p.n);
+        const auto r = vn::texto::lee_double(p.texto, p.n);
         valor = r.valor;
         return p.n > 0 && r.consumido == p.n && !r.desborda;
     } else if constexpr (sizeof(T) >= 4) {
-        const auto r = vn::lee_entero<T>(p.texto, p.n);
+        const auto r = vn::texto::lee_entero<T>(p.texto, p.n);
         valor = r.valor;
         return p.n > 0 && r.consumido == p.n && !r.desborda;
     } else {
@@ -143,7 +143,7 @@ int digito_hexadecimal(vnwchar c) {
 bool quita_escapes(vnwchar *s) {
     vnwchar *d = s;
     while (*s != 0) {
-        if (*s != vn::ESCAPE_DE_UNIDAD) {
+        if (*s != vn::ficheros::ESCAPE_DE_UNIDAD) {
             *d++ = *s++;
             continue;
         }

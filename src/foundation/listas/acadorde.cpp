@@ -16,11 +16,11 @@ template <class C> struct entrada {
 
 } // namespace
 
-struct acadorde : vn::ordenado<entrada<char>> {
+struct acadorde : vn::listas::ordenado<entrada<char>> {
     using caracter = char;
     vnbool distingue;
 };
-struct acadordeu : vn::ordenado<entrada<vnwchar>> {
+struct acadordeu : vn::listas::ordenado<entrada<vnwchar>> {
     using caracter = vnwchar;
     vnbool distingue;
 };
@@ -37,27 +37,27 @@ template <class A> struct clave_de {
     std::basic_string_view<C> texto;
     clave_de(const A *a, const C *s) : texto(s) {
         if (a->distingue == CIERTO) return;
-        plegada.reset(vn::copia_texto(s));
+        plegada.reset(vn::listas::copia_texto(s));
         pliega(plegada.get());
         texto = plegada.get();
     }
 };
 
 template <class A> auto busca_texto(const A *a, const clave_de<A> &clave) {
-    return vn::busca(a, [&clave](const auto &e) { return clave.texto.compare(e.clave); });
+    return vn::listas::busca(a, [&clave](const auto &e) { return clave.texto.compare(e.clave); });
 }
 
 template <class A> A *crea(vnbool distingue) {
     if (!AFIRMA_TEXTO(distingue == CIERTO || distingue == FALSO,
                       "distingue_may_y_min == CIERTO || distingue_may_y_min == FALSO"))
         return nullptr;
-    A *a = vn::crea<A>(0);
+    A *a = vn::listas::crea<A>(0);
     a->distingue = distingue;
     return a;
 }
 
 template <class A> void destruye(A **a) {
-    const auto propio = vn::toma_ordenado(a);
+    const auto propio = vn::listas::toma_ordenado(a);
     for (uint32_t i = 0; propio != nullptr && i < propio->num; ++i) {
         auto &e = propio->datos[i];
         if (e.clave != e.texto) vornspy_free_pp(&e.clave, 1);
@@ -70,9 +70,9 @@ template <class A> vnbool inserta(A *a, const typename A::caracter *s) {
     clave_de<A> clave(a, s);
     const auto sitio = busca_texto(a, clave);
     if (sitio.elemento != nullptr) return FALSO;
-    vn::propio<typename A::caracter> texto(vn::copia_texto(s));
+    vn::propio<typename A::caracter> texto(vn::listas::copia_texto(s));
     auto *con_clave = clave.plegada != nullptr ? clave.plegada.get() : texto.get();
-    if (!vn::inserta_en(a, sitio, {texto.get(), con_clave})) return FALSO;
+    if (!vn::listas::inserta_en(a, sitio, {texto.get(), con_clave})) return FALSO;
     static_cast<void>(texto.release());
     static_cast<void>(clave.plegada.release());
     return CIERTO;
@@ -93,12 +93,12 @@ template <class A> vnbool existe(const A *a, const typename A::caracter *s, uint
     vnbool S##_inserta(S *a, const C *s) { return inserta(a, s); }                                                     \
     vnbool S##_existe(const S *a, const C *s, uint32_t *pos) { return existe(a, s, pos); }                             \
     const C *S##_get(const S *a, uint32_t i) {                                                                         \
-        return vn::hay_ordenado(a, i) ? vn::elemento_ordenado(a, i).texto : nullptr;                                   \
+        return vn::listas::hay_ordenado(a, i) ? vn::listas::elemento_ordenado(a, i).texto : nullptr;                   \
     }                                                                                                                  \
-    uint32_t S##_numelems(const S *a) { return vn::total(a); }                                                         \
+    uint32_t S##_numelems(const S *a) { return vn::listas::total(a); }                                                 \
     vnbool S##_distingue_may_y_min(const S *a) { return AFIRMA_NO_NULO(a) ? a->distingue : FALSO; }
 
 FAMILIA(acadorde, char)
 FAMILIA(acadordeu, vnwchar)
 
-vnwchar *acadordeu_get_copia(const acadordeu *a, uint32_t i) { return vn::copia_texto(acadordeu_get(a, i)); }
+vnwchar *acadordeu_get_copia(const acadordeu *a, uint32_t i) { return vn::listas::copia_texto(acadordeu_get(a, i)); }

@@ -2,7 +2,7 @@
 #include "foundation/listas/apunorde.h"
 #include "foundation/listas/ordenado_priv.h"
 
-struct apunorde : vn::ordenado<void *> {
+struct apunorde : vn::listas::ordenado<void *> {
     vnfunc_compara_con_dato comparador;
     void *dato;
     vnfunc_destruye destructor; // null: the elements are not the set's
@@ -15,14 +15,14 @@ void destruye_elemento(const apunorde *a, void *p) {
 }
 
 auto busca_elemento(const apunorde *a, const void *p) {
-    return vn::busca(a, [=](const void *e) { return a->comparador(p, e, a->dato); });
+    return vn::listas::busca(a, [=](const void *e) { return a->comparador(p, e, a->dato); });
 }
 
 auto busca_clave(const apunorde *a, const void *clave, vnfunc_compara comparador) {
-    return vn::busca(a, [=](const void *e) { return comparador(clave, e); });
+    return vn::listas::busca(a, [=](const void *e) { return comparador(clave, e); });
 }
 
-vnbool responde(const vn::sitio_ordenado<void *> &sitio, uint32_t *pos) {
+vnbool responde(const vn::listas::sitio_ordenado<void *> &sitio, uint32_t *pos) {
     if (pos != nullptr) *pos = sitio.pos;
     return sitio.elemento != nullptr ? CIERTO : FALSO;
 }
@@ -31,7 +31,7 @@ vnbool responde(const vn::sitio_ordenado<void *> &sitio, uint32_t *pos) {
 
 apunorde *apunorde_nousar_crea(vnfunc_compara_con_dato comparador, void *dato, vnfunc_destruye destructor) {
     if (!AFIRMA_NO_NULO(comparador)) return nullptr;
-    apunorde *a = vn::crea<apunorde>(0);
+    apunorde *a = vn::listas::crea<apunorde>(0);
     a->comparador = comparador;
     a->dato = dato;
     a->destructor = destructor;
@@ -39,7 +39,7 @@ apunorde *apunorde_nousar_crea(vnfunc_compara_con_dato comparador, void *dato, v
 }
 
 void apunorde_nousar_destruye(apunorde **a) {
-    const auto propio = vn::toma_ordenado(a);
+    const auto propio = vn::listas::toma_ordenado(a);
     for (uint32_t i = 0; propio != nullptr && i < propio->num; ++i) destruye_elemento(propio.get(), propio->datos[i]);
 }
 
@@ -50,19 +50,20 @@ void apunorde_nousar_inserta_original(apunorde *a, void *p, uint32_t *pos) {
     std::unique_ptr<void, decltype(destruye)> propio(p, destruye);
     const auto sitio = busca_elemento(a, p);
     const bool existe = responde(sitio, pos) == CIERTO;
-    if (AFIRMA_TEXTO(!existe, "existe == FALSO") && vn::inserta_en(a, sitio, p)) static_cast<void>(propio.release());
+    if (AFIRMA_TEXTO(!existe, "existe == FALSO") && vn::listas::inserta_en(a, sitio, p))
+        static_cast<void>(propio.release());
 }
 
-uint32_t apunorde_nousar_numelems(const apunorde *a) { return vn::total(a); }
+uint32_t apunorde_nousar_numelems(const apunorde *a) { return vn::listas::total(a); }
 
 void *apunorde_nousar_get(const apunorde *a, uint32_t i) {
-    return vn::hay_ordenado(a, i) ? vn::elemento_ordenado(a, i) : nullptr;
+    return vn::listas::hay_ordenado(a, i) ? vn::listas::elemento_ordenado(a, i) : nullptr;
 }
 
 void *apunorde_nousar_quita(apunorde *a, uint32_t i) {
-    if (!vn::hay_ordenado(a, i)) return nullptr;
-    vn::asienta(a);
-    return vn::saca(a, i);
+    if (!vn::listas::hay_ordenado(a, i)) return nullptr;
+    vn::listas::asienta(a);
+    return vn::listas::saca(a, i);
 }
 
 void *apunorde_nousar_busca(const apunorde *a, const void *clave, vnfunc_compara comparador) {

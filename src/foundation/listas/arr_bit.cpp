@@ -3,7 +3,7 @@
 #include "foundation/listas/arreglo_int.h"
 
 // Bits stand as they are stored in files: eight to a byte, the lowest first, the rest of the last byte 0.
-struct arrBIT : vn::arreglo<uint8_t> {
+struct arrBIT : vn::listas::arreglo<uint8_t> {
     uint32_t bits;
 };
 
@@ -18,16 +18,16 @@ bool hay_bit(const arrBIT *a, uint32_t i) {
 } // namespace
 
 arrBIT *arr_CreaBIT(uint32_t n) {
-    if (!AFIRMA_TEXTO(n <= vn::MAXIMO_AL_CREAR, "n <= 268435456")) return nullptr;
-    arrBIT *a = vn::crea<arrBIT>(bytes_de(n));
+    if (!AFIRMA_TEXTO(n <= vn::listas::MAXIMO_AL_CREAR, "n <= 268435456")) return nullptr;
+    arrBIT *a = vn::listas::crea<arrBIT>(bytes_de(n));
     if (a != nullptr) a->bits = n;
     return a;
 }
 
-void arr_DestruyeBIT(arrBIT **a) { vn::toma(a); }
+void arr_DestruyeBIT(arrBIT **a) { vn::listas::toma(a); }
 
 arrBIT *arr_CopiaBIT(const arrBIT *a) {
-    arrBIT *b = vn::copia(a);
+    arrBIT *b = vn::listas::copia(a);
     if (b != nullptr) b->bits = a->bits;
     return b;
 }
@@ -48,18 +48,18 @@ void arr_SetBIT(arrBIT *a, uint32_t i, vnbool v) {
 
 void arr_AppendBIT(arrBIT *a, vnbool v) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_LOGICO(v)) return;
-    if (!AFIRMA_TEXTO(a->bits < vn::MAXIMO, "num_elementos < ULONG_MAX")) return;
-    if (a->bits % 8 == 0 && !vn::anade(a, uint8_t{0})) return;
+    if (!AFIRMA_TEXTO(a->bits < vn::listas::MAXIMO, "num_elementos < ULONG_MAX")) return;
+    if (a->bits % 8 == 0 && !vn::listas::anade(a, uint8_t{0})) return;
     arr_SetBIT(a, a->bits++, v);
 }
 
 void arr_AumentaTamanyoBIT(arrBIT *a, uint32_t n) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_TEXTO(n >= a->bits, "n >= num_elementos")) return;
     const uint32_t mas = bytes_de(n) - a->num;
-    if (!vn::asegura(a, mas)) return;
+    if (!vn::listas::asegura(a, mas)) return;
     if (mas > 0) std::memset(a->datos + a->num, 0, mas);
     a->num += mas;
     a->bits = n;
 }
 
-const uint8_t *arr_GetBufferConstBIT(const arrBIT *a) { return vn::bloque_de(a); }
+const uint8_t *arr_GetBufferConstBIT(const arrBIT *a) { return vn::listas::bloque_de(a); }

@@ -6,8 +6,8 @@
 
 // The operations of both widths, one expansion each; arr.h spells their names.
 
-struct arrCADENA : vn::arreglo<char *> {};
-struct arrCADENA_u : vn::arreglo<vnwchar *> {};
+struct arrCADENA : vn::listas::arreglo<char *> {};
+struct arrCADENA_u : vn::listas::arreglo<vnwchar *> {};
 
 namespace {
 
@@ -26,7 +26,7 @@ template <class A> void libera_desde(A *a, uint32_t n) {
 }
 
 template <class A> void destruye(A **a) {
-    if (const auto propio = vn::toma(a)) libera_desde(propio.get(), 0);
+    if (const auto propio = vn::listas::toma(a)) libera_desde(propio.get(), 0);
 }
 
 // An array that frees its texts too.
@@ -36,9 +36,9 @@ struct libera_con_textos {
 
 // Appends copies of the first `n` texts of `b`.
 template <class A> bool anade_copias(A *a, const A *b, uint32_t n) {
-    if (!vn::asegura(a, n)) return false;
+    if (!vn::listas::asegura(a, n)) return false;
     for (uint32_t i = 0; i < n; ++i) {
-        a->datos[a->num] = vn::copia_texto(b->datos[i]);
+        a->datos[a->num] = vn::listas::copia_texto(b->datos[i]);
         ++a->num;
     }
     return true;
@@ -46,7 +46,7 @@ template <class A> bool anade_copias(A *a, const A *b, uint32_t n) {
 
 template <class A> A *copia_textos(const A *a) {
     if (!AFIRMA_NO_NULO(a)) return nullptr;
-    std::unique_ptr<A, libera_con_textos> b(vn::crea<A>(0));
+    std::unique_ptr<A, libera_con_textos> b(vn::listas::crea<A>(0));
     return anade_copias(b.get(), a, a->num) ? b.release() : nullptr;
 }
 
@@ -62,8 +62,8 @@ template <class C> vn::propio<C> toma_texto(C **s) {
 }
 
 template <class A> void inserta_copia(A *a, uint32_t i, const caracter<A> *s) {
-    vn::propio<caracter<A>> c(vn::copia_texto(s));
-    if (vn::inserta(a, i, c.get())) static_cast<void>(c.release());
+    vn::propio<caracter<A>> c(vn::listas::copia_texto(s));
+    if (vn::listas::inserta(a, i, c.get())) static_cast<void>(c.release());
 }
 
 template <class A> bool textos_iguales(const A *a, const A *b) {
@@ -77,43 +77,44 @@ template <class A> bool textos_iguales(const A *a, const A *b) {
 template <class A> vnbool existe(const A *a, const caracter<A> *s, uint32_t *pos) {
     using C = caracter<A>;
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
-    return vn::existe(a, pos, 0, [t = std::basic_string_view<C>(s)](const C *e) { return e != nullptr && t == e; });
+    return vn::listas::existe(a, pos, 0,
+                              [t = std::basic_string_view<C>(s)](const C *e) { return e != nullptr && t == e; });
 }
 
 template <class A> vnbool existe_may_o_min(const A *a, const caracter<A> *s, uint32_t *pos) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
-    return vn::existe(a, pos, 0, [s](const caracter<A> *e) { return e != nullptr && iguales_may_o_min(e, s); });
+    return vn::listas::existe(a, pos, 0, [s](const caracter<A> *e) { return e != nullptr && iguales_may_o_min(e, s); });
 }
 
 } // namespace
 
 #define FAMILIA(S, C, ORIGINAL)                                                                                        \
-    arr##S *arr_Crea##S(uint32_t n) { return vn::crea<arr##S>(n); }                                                    \
+    arr##S *arr_Crea##S(uint32_t n) { return vn::listas::crea<arr##S>(n); }                                            \
     void arr_Destruye##S(arr##S **a) { destruye(a); }                                                                  \
     arr##S *arr_Copia##S(const arr##S *a) { return copia_textos(a); }                                                  \
-    uint32_t arr_NumElems##S(const arr##S *a) { return vn::numelems(a); }                                              \
-    const C *arr_Get##S(const arr##S *a, uint32_t i) { return vn::elemento(a, i); }                                    \
-    C *arr_GetCopia##S(const arr##S *a, uint32_t i) { return vn::copia_texto<C>(vn::elemento(a, i)); }                 \
+    uint32_t arr_NumElems##S(const arr##S *a) { return vn::listas::numelems(a); }                                      \
+    const C *arr_Get##S(const arr##S *a, uint32_t i) { return vn::listas::elemento(a, i); }                            \
+    C *arr_GetCopia##S(const arr##S *a, uint32_t i) { return vn::listas::copia_texto<C>(vn::listas::elemento(a, i)); } \
     void arr_Set##S(arr##S *a, uint32_t i, const C *s) {                                                               \
-        if (vn::hay(a, i)) reemplaza(a, i, vn::copia_texto(s));                                                        \
+        if (vn::listas::hay(a, i)) reemplaza(a, i, vn::listas::copia_texto(s));                                        \
     }                                                                                                                  \
     void arr_Set##ORIGINAL(arr##S *a, uint32_t i, C **s) {                                                             \
         vn::propio<C> c = toma_texto(s);                                                                               \
-        if (vn::hay(a, i) && AFIRMA_NO_NULO(s)) reemplaza(a, i, c.release());                                          \
+        if (vn::listas::hay(a, i) && AFIRMA_NO_NULO(s)) reemplaza(a, i, c.release());                                  \
     }                                                                                                                  \
     void arr_Append##S(arr##S *a, const C *s) {                                                                        \
         if (AFIRMA_NO_NULO(a)) inserta_copia(a, a->num, s);                                                            \
     }                                                                                                                  \
     void arr_Append##ORIGINAL(arr##S *a, C **s) {                                                                      \
         vn::propio<C> c = toma_texto(s);                                                                               \
-        if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(s) && vn::anade(a, c.get())) static_cast<void>(c.release());           \
+        if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(s) && vn::listas::anade(a, c.get())) static_cast<void>(c.release());   \
     }                                                                                                                  \
     void arr_Insertar##S(arr##S *a, uint32_t i, const C *s) {                                                          \
         if (AFIRMA_NO_NULO(a)) inserta_copia(a, i, s);                                                                 \
     }                                                                                                                  \
     void arr_Borrar##S(arr##S *a, uint32_t i) {                                                                        \
-        if (!vn::hay(a, i)) return;                                                                                    \
-        C *s = vn::saca(a, i);                                                                                         \
+        if (!vn::listas::hay(a, i)) return;                                                                            \
+        C *s = vn::listas::saca(a, i);                                                                                 \
         libera(s);                                                                                                     \
     }                                                                                                                  \
     void arr_ReduceTamanyo##S(arr##S *a, uint32_t n) {                                                                 \
@@ -130,7 +131,7 @@ template <class A> vnbool existe_may_o_min(const A *a, const caracter<A> *s, uin
     }                                                                                                                  \
     vnbool arr_Existe##S(const arr##S *a, const C *s, uint32_t *pos) { return existe(a, s, pos); }                     \
     vnbool arr_ExisteMayMin##S(const arr##S *a, const C *s, uint32_t *pos) { return existe_may_o_min(a, s, pos); }     \
-    const C *const *arr_GetBufferConst##S(const arr##S *a) { return vn::bloque_de(a); }                                \
+    const C *const *arr_GetBufferConst##S(const arr##S *a) { return vn::listas::bloque_de(a); }                        \
     void nousar_Recorre##S(const arr##S *a, void (*funcion)(const C *, void *), void *datos, const char *, uint32_t) { \
         if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(funcion)) return;                                                    \
         for (uint32_t i = 0; i < a->num; ++i) funcion(a->datos[i], datos);                                             \

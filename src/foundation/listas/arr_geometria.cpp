@@ -9,7 +9,7 @@
 
 namespace {
 
-using vn::VUELTA;
+using vn::numeros::VUELTA;
 // How much longer than a whole number of steps an arc may be, in steps, before it gets one more.
 constexpr double TOLERANCIA_PASOS = 1e-6;
 
@@ -68,7 +68,7 @@ void arr_GetMinimaxPunto2D(const arrPunto2D *a, double *xmin, double *ymin, doub
     if (!AFIRMA_TEXTO(arr_NumElemsPunto2D(a) > 0, "num_puntos > 0")) return;
     constexpr double INF = std::numeric_limits<double>::infinity();
     double x1 = INF, y1 = INF, x2 = -INF, y2 = -INF;
-    for (const Punto2D &p : vn::tramo(a)) {
+    for (const Punto2D &p : vn::listas::tramo(a)) {
         x1 = p.x < x1 ? p.x : x1;
         x2 = p.x > x2 ? p.x : x2;
         y1 = p.y < y1 ? p.y : y1;
@@ -80,7 +80,7 @@ void arr_GetMinimaxPunto2D(const arrPunto2D *a, double *xmin, double *ymin, doub
 
 void arr_GetSegmentoPunto2D(const arrPunto2D *a, uint32_t i, double *x1, double *y1, double *x2, double *y2) {
     if (!AFIRMA_NO_NULO(a)) return;
-    const auto puntos = vn::tramo(a);
+    const auto puntos = vn::listas::tramo(a);
     if (!AFIRMA_TEXTO(i < puntos.size(), "i < num_elementos") || !AFIRMA_NO_NULO(x1) || !AFIRMA_NO_NULO(y1) ||
         !AFIRMA_NO_NULO(x2) || !AFIRMA_NO_NULO(y2))
         return;
@@ -93,7 +93,7 @@ void arr_GetSegmentoPunto2D(const arrPunto2D *a, uint32_t i, double *x1, double 
 
 vnbool arr_ArraysDePunto2DIguales(const arrPunto2D *a, const arrPunto2D *b, double tolerancia) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return FALSO;
-    const auto p = vn::tramo(a), q = vn::tramo(b);
+    const auto p = vn::listas::tramo(a), q = vn::listas::tramo(b);
     const bool iguales =
         std::equal(p.begin(), p.end(), q.begin(), q.end(), [tolerancia](const Punto2D &u, const Punto2D &v) {
             return std::fabs(u.x - v.x) <= tolerancia && std::fabs(u.y - v.y) <= tolerancia;

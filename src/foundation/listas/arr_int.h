@@ -19,7 +19,7 @@
     X(ULong64, uint64_t)                                                                                               \
     X(Double, double)
 
-namespace vn {
+namespace vn::listas {
 
 #define VN_TRAMO(S, T)                                                                                                 \
     inline std::span<T> tramo(arr##S *a) { return {arr_GetBuffer##S(a), arr_NumElems##S(a)}; }
@@ -42,4 +42,4 @@ inline std::span<void *const> tramo(const arrPuntero *a) {
     return {arr_GetBufferConstPuntero(a), arr_NumElemsPuntero(a)};
 }
 
-} // namespace vn
+} // namespace vn::listas

@@ -2,13 +2,13 @@
 #include "foundation/listas/arr.h"
 #include "foundation/listas/arreglo_int.h"
 
-struct arrPuntero : vn::arreglo<void *> {};
+struct arrPuntero : vn::listas::arreglo<void *> {};
 
 namespace {
 
 // Calls the destructor with the address of each element before the array goes.
 void destruye(arrPuntero **a, vnfunc_destruye destructor) {
-    const auto propio = vn::toma(a);
+    const auto propio = vn::listas::toma(a);
     if (propio == nullptr || !AFIRMA_NO_NULO(destructor)) return;
     for (uint32_t i = 0; i < propio->num; ++i)
         if (propio->datos[i] != nullptr) destructor(&propio->datos[i]);
@@ -17,7 +17,7 @@ void destruye(arrPuntero **a, vnfunc_destruye destructor) {
 // A copier that takes nothing hands the pointer on.
 bool anade_copias(arrPuntero *a, const arrPuntero *b, vnfunc_copia copiador) {
     const uint32_t n = b->num; // before `a` grows: both may be one
-    if (!vn::asegura(a, n)) return false;
+    if (!vn::listas::asegura(a, n)) return false;
     for (uint32_t i = 0; i < n; ++i) {
         void *p = b->datos[i];
         a->datos[a->num] = copiador == nullptr || p == nullptr ? p : copiador(p);
@@ -27,7 +27,7 @@ bool anade_copias(arrPuntero *a, const arrPuntero *b, vnfunc_copia copiador) {
 }
 
 vnbool existe(const arrPuntero *a, const void *dato, vnfunc_compara comparador, uint32_t desde, uint32_t *pos) {
-    return vn::existe(a, pos, desde, [=](const void *e) { return comparador(dato, e) == 0; });
+    return vn::listas::existe(a, pos, desde, [=](const void *e) { return comparador(dato, e) == 0; });
 }
 
 // Merges the sorted runs [i, medio) and [medio, fin) of `de` into `a`; of equals those of the first run come first.
@@ -41,9 +41,9 @@ void mezcla(void *const *de, void **a, uint32_t i, uint32_t medio, uint32_t fin,
 
 } // namespace
 
-arrPuntero *arr_CreaPunteroConTipo(uint32_t n) { return vn::crea<arrPuntero>(n); }
+arrPuntero *arr_CreaPunteroConTipo(uint32_t n) { return vn::listas::crea<arrPuntero>(n); }
 
-void arr_DestruyePunteroConTipo(arrPuntero **a) { vn::toma(a); }
+void arr_DestruyePunteroConTipo(arrPuntero **a) { vn::listas::toma(a); }
 
 void arr_DestruyeEstructurasConTipo(arrPuntero **a, vnfunc_destruye destructor) { destruye(a, destructor); }
 
@@ -53,7 +53,7 @@ void arr_DestruyeEstructurasArrayConTipo(arrPuntero **a, vnfunc_destruye destruc
 
 arrPuntero *arr_CopiaEstructurasConTipo(const arrPuntero *a, vnfunc_copia copiador) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(copiador)) return nullptr;
-    vn::dueno<arrPuntero> b(vn::crea<arrPuntero>(0));
+    vn::listas::dueno<arrPuntero> b(vn::listas::crea<arrPuntero>(0));
     return anade_copias(b.get(), a, copiador) ? b.release() : nullptr;
 }
 
@@ -62,27 +62,27 @@ void arr_ConcatenaEstructurasConTipo(arrPuntero *a, const arrPuntero *b, vnfunc_
     if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b)) anade_copias(a, b, copiador);
 }
 
-uint32_t arr_NumElemsPuntero(const arrPuntero *a) { return vn::numelems(a); }
+uint32_t arr_NumElemsPuntero(const arrPuntero *a) { return vn::listas::numelems(a); }
 
-void *arr_GetPunteroConTipo(const arrPuntero *a, uint32_t i) { return vn::elemento(a, i); }
+void *arr_GetPunteroConTipo(const arrPuntero *a, uint32_t i) { return vn::listas::elemento(a, i); }
 
-void arr_SetPunteroConTipo(arrPuntero *a, uint32_t i, void *p) { vn::pon(a, i, p); }
+void arr_SetPunteroConTipo(arrPuntero *a, uint32_t i, void *p) { vn::listas::pon(a, i, p); }
 
-void arr_AppendPunteroConTipo(arrPuntero *a, void *p) { vn::anade(a, p); }
+void arr_AppendPunteroConTipo(arrPuntero *a, void *p) { vn::listas::anade(a, p); }
 
-void arr_InsertarPunteroConTipo(arrPuntero *a, uint32_t i, void *p) { vn::inserta(a, i, p); }
+void arr_InsertarPunteroConTipo(arrPuntero *a, uint32_t i, void *p) { vn::listas::inserta(a, i, p); }
 
-void arr_BorrarPuntero(arrPuntero *a, uint32_t i) { vn::borra(a, i); }
+void arr_BorrarPuntero(arrPuntero *a, uint32_t i) { vn::listas::borra(a, i); }
 
 void arr_BorrarEstructuraConTipo(arrPuntero *a, uint32_t i, vnfunc_destruye destructor) {
-    if (!vn::hay(a, i) || !AFIRMA_NO_NULO(destructor)) return;
-    void *p = vn::saca(a, i);
+    if (!vn::listas::hay(a, i) || !AFIRMA_NO_NULO(destructor)) return;
+    void *p = vn::listas::saca(a, i);
     if (p != nullptr) destructor(&p);
 }
 
 uint32_t arr_BuscarPunteroConTipo(const arrPuntero *a, const void *p) {
     uint32_t pos = VN_ARR_NO_ESTA;
-    if (AFIRMA_NO_NULO(a)) vn::existe(a, &pos, 0, [p](const void *e) { return e == p; });
+    if (AFIRMA_NO_NULO(a)) vn::listas::existe(a, &pos, 0, [p](const void *e) { return e == p; });
     return pos;
 }
 
@@ -110,15 +110,15 @@ uint32_t arr_BuscarUnicaEstructuraConTipo(const arrPuntero *a, const void *dato,
 vnbool arr_BuscarEstructuraDicotomicamenteConTipo(const arrPuntero *a, const void *dato, vnfunc_compara comparador,
                                                   uint32_t *pos) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return FALSO;
-    const uint32_t i = vn::primero_que_no(a, [=](const void *e) { return comparador(dato, e) > 0; });
+    const uint32_t i = vn::listas::primero_que_no(a, [=](const void *e) { return comparador(dato, e) > 0; });
     if (pos != nullptr) *pos = i;
     return i < a->num && comparador(dato, a->datos[i]) == 0 ? CIERTO : FALSO;
 }
 
 uint32_t arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(arrPuntero *a, void *p, vnfunc_compara comparador) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return VN_ARR_NO_ESTA;
-    const uint32_t i = vn::primero_que_no(a, [=](const void *e) { return comparador(p, e) >= 0; });
-    return vn::inserta(a, i, p) ? i : VN_ARR_NO_ESTA;
+    const uint32_t i = vn::listas::primero_que_no(a, [=](const void *e) { return comparador(p, e) >= 0; });
+    return vn::listas::inserta(a, i, p) ? i : VN_ARR_NO_ESTA;
 }
 
 // Merges runs of 1, 2, 4... between two copies, so that a comparer that has no order leaves the array with the elements
@@ -126,7 +126,7 @@ uint32_t arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(arrPuntero *a, void *
 void arr_QSortPunteroConTipo(arrPuntero *a, vnfunc_compara comparador) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador) || a->num < 2) return;
     const uint32_t n = a->num;
-    const auto ida = vn::pide<void *>(n), vuelta = vn::pide<void *>(n);
+    const auto ida = vn::listas::pide<void *>(n), vuelta = vn::listas::pide<void *>(n);
     if (ida == nullptr || vuelta == nullptr) return;
     void **de = ida.get(), **hacia = vuelta.get();
     std::copy_n(a->datos, n, de);
@@ -152,6 +152,6 @@ vnbool arr_SonIgualesPunteroConTipo(const arrPuntero *a, const arrPuntero *b, vn
     return todos ? CIERTO : FALSO;
 }
 
-void **arr_GetBufferPuntero(arrPuntero *a) { return vn::bloque_de(a); }
+void **arr_GetBufferPuntero(arrPuntero *a) { return vn::listas::bloque_de(a); }
 
-void *const *arr_GetBufferConstPuntero(const arrPuntero *a) { return vn::bloque_de(a); }
+void *const *arr_GetBufferConstPuntero(const arrPuntero *a) { return vn::listas::bloque_de(a); }

@@ -5,16 +5,16 @@
 
 // The operations that the families of points share, one expansion a family; arr.h spells their names.
 #define COMUN(S)                                                                                                       \
-    struct arr##S : vn::arreglo<S> {};                                                                                 \
-    arr##S *arr_Crea##S(uint32_t n) { return vn::crea<arr##S>(n); }                                                    \
-    uint32_t arr_NumElems##S(const arr##S *a) { return vn::numelems(a); }                                              \
-    const S *arr_GetBufferConst##S(const arr##S *a) { return vn::bloque_de(a); }
+    struct arr##S : vn::listas::arreglo<S> {};                                                                         \
+    arr##S *arr_Crea##S(uint32_t n) { return vn::listas::crea<arr##S>(n); }                                            \
+    uint32_t arr_NumElems##S(const arr##S *a) { return vn::listas::numelems(a); }                                      \
+    const S *arr_GetBufferConst##S(const arr##S *a) { return vn::listas::bloque_de(a); }
 #define DE_PUNTOS(S)                                                                                                   \
-    void arr_Destruye##S(arr##S **a) { vn::toma(a); }                                                                  \
-    arr##S *arr_Copia##S(const arr##S *a) { return vn::copia(a); }                                                     \
-    void arr_Borrar##S(arr##S *a, uint32_t i) { vn::borra(a, i); }                                                     \
-    void arr_Concatena##S(arr##S *a, const arr##S *b) { vn::concatena(a, b); }                                         \
-    S *arr_GetBuffer##S(arr##S *a) { return vn::bloque_de(a); }
+    void arr_Destruye##S(arr##S **a) { vn::listas::toma(a); }                                                          \
+    arr##S *arr_Copia##S(const arr##S *a) { return vn::listas::copia(a); }                                             \
+    void arr_Borrar##S(arr##S *a, uint32_t i) { vn::listas::borra(a, i); }                                             \
+    void arr_Concatena##S(arr##S *a, const arr##S *b) { vn::listas::concatena(a, b); }                                 \
+    S *arr_GetBuffer##S(arr##S *a) { return vn::listas::bloque_de(a); }
 
 COMUN(Punto2D)
 COMUN(Punto3D)
@@ -29,21 +29,21 @@ bool cerca(double a, double b, double tolerancia) { return std::fabs(a - b) <= t
 } // namespace
 
 void arr_DestruyePunto2DXPriv(arrPunto2DXPriv **a, vnfunc_destruye destructor) {
-    const auto propio = vn::toma(a);
+    const auto propio = vn::listas::toma(a);
     if (propio == nullptr || destructor == nullptr) return;
     for (uint32_t i = 0; i < propio->num; ++i)
         if (propio->datos[i].priv != nullptr) destructor(&propio->datos[i].priv);
 }
 
 void arr_GetPunto2D(const arrPunto2D *a, uint32_t i, double *x, double *y) {
-    const Punto2D p = vn::elemento(a, i);
+    const Punto2D p = vn::listas::elemento(a, i);
     if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
     *x = p.x;
     *y = p.y;
 }
 
 void arr_GetPunto3D(const arrPunto3D *a, uint32_t i, double *x, double *y, double *z) {
-    const Punto3D p = vn::elemento(a, i);
+    const Punto3D p = vn::listas::elemento(a, i);
     if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y) || !AFIRMA_NO_NULO(z)) return;
     *x = p.x;
     *y = p.y;
@@ -51,26 +51,26 @@ void arr_GetPunto3D(const arrPunto3D *a, uint32_t i, double *x, double *y, doubl
 }
 
 void arr_GetPunto2DXPriv(const arrPunto2DXPriv *a, uint32_t i, double *x, double *y, void **priv) {
-    const Punto2DXPriv p = vn::elemento(a, i);
+    const Punto2DXPriv p = vn::listas::elemento(a, i);
     if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
     *x = p.x;
     *y = p.y;
     if (priv != nullptr) *priv = p.priv;
 }
 
-void arr_SetPunto2D(arrPunto2D *a, uint32_t i, double x, double y) { vn::pon(a, i, {x, y}); }
+void arr_SetPunto2D(arrPunto2D *a, uint32_t i, double x, double y) { vn::listas::pon(a, i, {x, y}); }
 
-void arr_SetPunto3D(arrPunto3D *a, uint32_t i, double x, double y, double z) { vn::pon(a, i, {x, y, z}); }
+void arr_SetPunto3D(arrPunto3D *a, uint32_t i, double x, double y, double z) { vn::listas::pon(a, i, {x, y, z}); }
 
 void arr_SetPunto2DXPriv(arrPunto2DXPriv *a, uint32_t i, double x, double y, void *priv) {
-    vn::pon(a, i, {x, y, priv});
+    vn::listas::pon(a, i, {x, y, priv});
 }
 
-void arr_AppendPunto2D(arrPunto2D *a, double x, double y) { vn::anade(a, {x, y}); }
+void arr_AppendPunto2D(arrPunto2D *a, double x, double y) { vn::listas::anade(a, {x, y}); }
 
-void arr_AppendPunto3D(arrPunto3D *a, double x, double y, double z) { vn::anade(a, {x, y, z}); }
+void arr_AppendPunto3D(arrPunto3D *a, double x, double y, double z) { vn::listas::anade(a, {x, y, z}); }
 
-void arr_AppendPunto2DXPriv(arrPunto2DXPriv *a, double x, double y, void *priv) { vn::anade(a, {x, y, priv}); }
+void arr_AppendPunto2DXPriv(arrPunto2DXPriv *a, double x, double y, void *priv) { vn::listas::anade(a, {x, y, priv}); }
 
 void arr_InvertirPunto3D(arrPunto3D *a) {
     if (AFIRMA_NO_NULO(a)) std::reverse(a->datos, a->datos + a->num);
@@ -87,6 +87,6 @@ vnbool arr_SonIgualesPunto3DConTolerancia(const arrPunto3D *a, const arrPunto3D 
 
 vnbool arr_ExistePunto2D(const arrPunto2D *a, double x, double y, double tolerancia, uint32_t *pos) {
     if (!AFIRMA_NO_NULO(a)) return FALSO;
-    return vn::existe(a, pos, 0,
-                      [=](const Punto2D &p) { return cerca(p.x, x, tolerancia) && cerca(p.y, y, tolerancia); });
+    return vn::listas::existe(a, pos, 0,
+                              [=](const Punto2D &p) { return cerca(p.x, x, tolerancia) && cerca(p.y, y, tolerancia); });
 }

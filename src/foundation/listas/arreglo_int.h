@@ -11,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-namespace vn {
+namespace vn::listas {
 
 template <class T> struct arreglo {
     using elemento = T;
@@ -178,4 +178,4 @@ template <class C> C *copia_texto(const C *s) {
     return static_cast<C *>(std::memcpy(vornspy_malloc(bytes), s, bytes));
 }
 
-} // namespace vn
+} // namespace vn::listas

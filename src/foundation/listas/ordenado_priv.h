@@ -6,7 +6,7 @@
 
 #include "foundation/listas/arreglo_int.h"
 
-namespace vn {
+namespace vn::listas {
 
 template <class T> struct pendiente {
     T v;
@@ -89,4 +89,4 @@ template <class A> dueno<A> toma_ordenado(A **a) {
     return propio;
 }
 
-} // namespace vn
+} // namespace vn::listas

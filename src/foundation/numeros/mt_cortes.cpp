@@ -7,6 +7,7 @@
 #include <limits>
 
 using namespace vn;
+using namespace vn::numeros;
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include "foundation/suelo/logico_int.h"
 
 using namespace vn;
+using namespace vn::numeros;
 
 namespace {
 

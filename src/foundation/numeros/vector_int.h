@@ -9,7 +9,7 @@
 #define EXIGE2(a, b) (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b))
 #define EXIGE3(a, b, c) (EXIGE2(a, b) && AFIRMA_NO_NULO(c))
 
-namespace vn {
+namespace vn::numeros {
 
 inline constexpr double PI = 3.141592653589793, MEDIA_VUELTA = PI, VUELTA = 6.283185307179586;
 
@@ -78,4 +78,11 @@ inline void da(double *x, double *y, double *z, Punto3D p) {
     if (z != nullptr) *z = p.z;
 }
 
+} // namespace vn::numeros
+
+// The records of the C surface live in no namespace, so that their operators are found from here.
+namespace vn {
+using numeros::operator+;
+using numeros::operator-;
+using numeros::operator*;
 } // namespace vn

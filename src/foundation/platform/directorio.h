@@ -3,6 +3,7 @@
 #pragma once
 
 #include "foundation/platform/plataforma.h"
+#include "foundation/suelo/cadena_int.h"
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -12,9 +13,6 @@
 
 namespace vn::plat {
 
-using texto = std::basic_string<vnwchar>;
-using vista = std::basic_string_view<vnwchar>;
-
 extern const vnwchar SEPARADOR;
 
 // The character by which two names are compared: where case does not count, its upper-case form.
@@ -22,7 +20,7 @@ vnwchar para_comparar(vnwchar c);
 
 // What a name is. A link is told as such, and the rest is of what it leads to, if it leads anywhere.
 struct ficha {
-    texto nombre;
+    cadena_ancha nombre;
     bool es_directorio = false;
     bool es_enlace = false;
     uint32_t atributos = 0; // VNLONGPATH_FILE_ATTRIBUTE_*
@@ -31,14 +29,14 @@ struct ficha {
 };
 
 // The one of a path, without the name. False if there is nothing, or a link to nothing.
-bool consulta(const texto &ruta, ficha &f);
-bool es_enlace(const texto &ruta);
+bool consulta(const cadena_ancha &ruta, ficha &f);
+bool es_enlace(const cadena_ancha &ruta);
 
 // Walks over a directory, "." and ".." left out.
 class recorrido {
   public:
     // `con_datos`: the whole record of each, not only its name and whether it is a directory or a link.
-    recorrido(const texto &directorio, bool con_datos);
+    recorrido(const cadena_ancha &directorio, bool con_datos);
     ~recorrido();
     bool abierto() const;
     bool siguiente(ficha &f);
@@ -53,17 +51,17 @@ class recorrido {
 // bounded.
 class descenso {
   public:
-    explicit descenso(const texto &raiz);
+    explicit descenso(const cadena_ancha &raiz);
     ~descenso();
     bool abierto() const;
     // What the current directory holds.
     bool lista(std::vector<ficha> &contenido);
     // Into a directory of the current one: false if it is none (any more), is a link or cannot be read.
-    bool entra(const texto &nombre);
+    bool entra(const cadena_ancha &nombre);
     // Back to the one above, which is then the current one: false if this one was moved elsewhere meanwhile.
     bool sal();
     // Removes a file, a link or an empty directory of the current one, write-protected or not.
-    bool borra(const texto &nombre);
+    bool borra(const cadena_ancha &nombre);
 
   private:
     struct interior;
@@ -71,22 +69,22 @@ class descenso {
 };
 
 // The directory and those above it that are missing. True also if it was there.
-bool crea_directorios(const texto &ruta);
+bool crea_directorios(const cadena_ancha &ruta);
 // An empty directory, or a link to one.
-bool borra_directorio(const texto &ruta);
+bool borra_directorio(const cadena_ancha &ruta);
 // Whether the file, which exists, can be opened.
-bool puede_leer(const texto &fichero);
-bool puede_escribir(const texto &fichero);
+bool puede_leer(const cadena_ancha &fichero);
+bool puede_escribir(const cadena_ancha &fichero);
 
-texto directorio_temporal();
-texto ruta_del_programa();
+cadena_ancha directorio_temporal();
+cadena_ancha ruta_del_programa();
 // The variable of the environment, if it is there and not empty.
-std::optional<texto> variable(const char *nombre);
-std::optional<texto> base_de_configuracion();
-texto unidad_escribible();
+std::optional<cadena_ancha> variable(const char *nombre);
+std::optional<cadena_ancha> base_de_configuracion();
+cadena_ancha unidad_escribible();
 // The directories where programs are searched, and the endings that may be added to a name.
-std::vector<texto> directorios_de_programas();
-std::vector<texto> terminaciones_de_programas();
-bool es_ejecutable(const texto &fichero);
+std::vector<cadena_ancha> directorios_de_programas();
+std::vector<cadena_ancha> terminaciones_de_programas();
+bool es_ejecutable(const cadena_ancha &fichero);
 
 } // namespace vn::plat

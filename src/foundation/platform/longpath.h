@@ -6,9 +6,9 @@
 
 namespace vn::plat {
 
-void *abre_fichero(const texto &nombre, uint32_t acceso, uint32_t comparticion, void *seguridad, uint32_t disposicion,
-                   uint32_t atributos, void *plantilla);
+void *abre_fichero(const cadena_ancha &nombre, uint32_t acceso, uint32_t comparticion, void *seguridad,
+                   uint32_t disposicion, uint32_t atributos, void *plantilla);
 bool cierra_fichero(void *fichero);
-uint32_t atributos_de(const texto &nombre);
+uint32_t atributos_de(const cadena_ancha &nombre);
 
 } // namespace vn::plat

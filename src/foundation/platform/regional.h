@@ -2,6 +2,7 @@
 #pragma once
 
 #include "foundation/platform/plataforma.h"
+#include "foundation/suelo/cadena_int.h"
 #include <array>
 #include <cstdint>
 #include <string>
@@ -10,16 +11,15 @@ namespace vn::plat {
 
 // Pictures are Windows'; other texts are as they are shown.
 struct region {
-    using texto = std::basic_string<vnwchar>;
-    texto separador_campos, separador_decimal, separador_millares, separador_fechas, separador_horas;
-    texto fecha_corta, fecha_larga, hora; // pictures
-    texto orden_fecha, modo_horario;      // a digit each
-    texto agrupacion;                     // digits of the groups from the right, "3;0": the last again and again
-    texto signo_menos, antes_de_mediodia, despues_de_mediodia, era;
-    texto decimales, cero_inicial, forma_negativa;                 // a digit each; the form as Windows numbers them
-    std::array<texto, 7> dias, dias_abreviados;                    // from Sunday
-    std::array<texto, 7> dias_en_fecha, dias_abreviados_en_fecha;  // in a picture
-    std::array<texto, 12> meses, meses_abreviados, meses_en_fecha; // the last beside a day of the month
+    cadena_ancha separador_campos, separador_decimal, separador_millares, separador_fechas, separador_horas;
+    cadena_ancha fecha_corta, fecha_larga, hora; // pictures
+    cadena_ancha orden_fecha, modo_horario;      // a digit each
+    cadena_ancha agrupacion;                     // digits of the groups from the right, "3;0": the last again and again
+    cadena_ancha signo_menos, antes_de_mediodia, despues_de_mediodia, era;
+    cadena_ancha decimales, cero_inicial, forma_negativa; // a digit each; the form as Windows numbers them
+    std::array<cadena_ancha, 7> dias, dias_abreviados;    // from Sunday
+    std::array<cadena_ancha, 7> dias_en_fecha, dias_abreviados_en_fecha;  // in a picture
+    std::array<cadena_ancha, 12> meses, meses_abreviados, meses_en_fecha; // the last beside a day of the month
 };
 
 // What the user's settings come from, where that can be told for less than it takes to read them: the same text, the

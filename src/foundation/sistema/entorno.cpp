@@ -25,10 +25,10 @@ vnbool env_esta_definido_VNCACHINFO_LOG(void) { return logico(vn::plat::variable
 vnbool machine_es_imagen_de_64bits(void) { return logico(sizeof(void *) == 8); }
 // The library is built for 64 bits alone, and such an image runs on no other system.
 vnbool verswin_EsVersion_64_bits(void) { return machine_es_imagen_de_64bits(); }
-vnwchar *machine_nombre_u(void) { return vn::nuevo(vn::plat::nombre_de_la_maquina()); }
+vnwchar *machine_nombre_u(void) { return vn::ficheros::nuevo(vn::plat::nombre_de_la_maquina()); }
 vnwchar *machine_nombre_usuario_u(void) {
-    vn::texto nombre;
-    return vn::plat::nombre_del_usuario(nombre) ? vn::nuevo(nombre) : nullptr;
+    vn::cadena_ancha nombre;
+    return vn::plat::nombre_del_usuario(nombre) ? vn::ficheros::nuevo(nombre) : nullptr;
 }
 uint64_t machine_milisegundos(void) { return vn::plat::milisegundos_de_la_maquina(); }
 int vornwin_MulDiv(int a, int b, int c) { return por_entre(a, b, c); }

@@ -6,39 +6,40 @@
 #include "foundation/suelo/eterno_int.h"
 #include <mutex>
 
-using vn::texto;
-using vn::vista;
+using vn::cadena_ancha;
+using vn::vista_ancha;
 
 namespace {
 
 struct elegido {
     std::mutex cerrojo;
-    texto distribuidor = VNU("VORN");
-    std::optional<texto> base;
+    cadena_ancha distribuidor = VNU("VORN");
+    std::optional<cadena_ancha> base;
 };
 
 constexpr const vnwchar *ESTRUCTA = VNU("estructa");
 
 // The configuration directory; empty if the user has none.
-texto directorio() {
+cadena_ancha directorio() {
     auto &e = vn::eterno<elegido>();
     const std::lock_guard guarda(e.cerrojo);
     const auto base = e.base ? e.base : vn::plat::base_de_configuracion();
-    return base ? vn::une(*base, e.distribuidor) : texto();
+    return base ? vn::ficheros::une(*base, e.distribuidor) : cadena_ancha();
 }
 
-vnwchar *ruta_en(const texto &dir, const vnwchar *nombre) {
-    return dir.empty() ? nullptr : vn::nuevo(vn::une(dir, nombre));
+vnwchar *ruta_en(const cadena_ancha &dir, const vnwchar *nombre) {
+    return dir.empty() ? nullptr : vn::ficheros::nuevo(vn::ficheros::une(dir, nombre));
 }
 
-texto directorio_estructa() {
-    const texto d = directorio();
-    return d.empty() ? d : vn::une(d, ESTRUCTA);
+cadena_ancha directorio_estructa() {
+    const cadena_ancha d = directorio();
+    return d.empty() ? d : vn::ficheros::une(d, ESTRUCTA);
 }
 
 bool es_una_parte(const vnwchar *nombre) {
-    const vista n = nombre;
-    return n != vista(VNU(".")) && n != vista(VNU("..")) && vn::descompone(n).hasta_directorio().empty() &&
+    const vista_ancha n = nombre;
+    return n != vista_ancha(VNU(".")) && n != vista_ancha(VNU("..")) &&
+           vn::ficheros::descompone(n).hasta_directorio().empty() &&
            vdir_es_path_valido_UNICODE(nombre, VDIR_PATH_RELATIVO) == CIERTO;
 }
 
@@ -53,11 +54,11 @@ vnwchar *fichconf_dame_ruta_fichero_en_directorio_estructa(const vnwchar *nombre
 }
 
 vnbool fichconf_crea_directorio_estructa(void) {
-    const texto d = directorio_estructa();
-    return !d.empty() && vn::crea_directorios(d) ? CIERTO : FALSO;
+    const cadena_ancha d = directorio_estructa();
+    return !d.empty() && vn::ficheros::crea_directorios(d) ? CIERTO : FALSO;
 }
 
-vnwchar *fichconf_dame_unidad_escribible(void) { return vn::nuevo(vn::plat::unidad_escribible()); }
+vnwchar *fichconf_dame_unidad_escribible(void) { return vn::ficheros::nuevo(vn::plat::unidad_escribible()); }
 
 void fichconf_registra_nombre_distribuidor_no_vorn(const vnwchar *nombre) {
     if (!AFIRMA_NO_NULO(nombre) || !AFIRMA(es_una_parte(nombre))) return;
@@ -69,6 +70,6 @@ void fichconf_registra_nombre_distribuidor_no_vorn(const vnwchar *nombre) {
 void fichconf_establece_directorio_base(const vnwchar *ruta) {
     auto &e = vn::eterno<elegido>();
     const std::lock_guard guarda(e.cerrojo);
-    if (ruta != nullptr) e.base = vn::con_separadores_propios(ruta);
+    if (ruta != nullptr) e.base = vn::ficheros::con_separadores_propios(ruta);
     else e.base.reset();
 }

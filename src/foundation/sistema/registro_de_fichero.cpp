@@ -26,19 +26,19 @@ constexpr uint64_t MAXIMO = 16 * 1024 * 1024;
 
 // Without regard to case, in the order of the upper-case letters.
 struct sin_caja {
-    bool operator()(const texto &a, const texto &b) const {
+    bool operator()(const cadena_ancha &a, const cadena_ancha &b) const {
         const auto mayuscula = [](vnwchar c) { return widestr_convertir_caracter_a_mayusculas(c); };
         for (size_t i = 0; i < a.size() && i < b.size(); ++i)
             if (const vnwchar x = mayuscula(a[i]), y = mayuscula(b[i]); x != y) return x < y;
         return a.size() < b.size();
     }
-    bool iguales(const texto &a, const texto &b) const { return !(*this)(a, b) && !(*this)(b, a); }
+    bool iguales(const cadena_ancha &a, const cadena_ancha &b) const { return !(*this)(a, b) && !(*this)(b, a); }
 };
-using valores = std::map<texto, texto, sin_caja>;
-using claves = std::map<texto, valores, sin_caja>;
+using valores = std::map<cadena_ancha, cadena_ancha, sin_caja>;
+using claves = std::map<cadena_ancha, valores, sin_caja>;
 
-texto con_raiz(uint32_t raiz, const texto &clave) {
-    texto t(1, static_cast<vnwchar>(u'0' + raiz));
+cadena_ancha con_raiz(uint32_t raiz, const cadena_ancha &clave) {
+    cadena_ancha t(1, static_cast<vnwchar>(u'0' + raiz));
     return clave.empty() ? t : (t + u'\\') + clave;
 }
 
@@ -46,7 +46,7 @@ texto con_raiz(uint32_t raiz, const texto &clave) {
 struct fila {
     uint32_t raiz;
     const vnwchar *clave, *valor;
-    texto (*contenido)();
+    cadena_ancha (*contenido)();
 };
 constexpr fila PROPIAS[] = {
     {VORNREG_CLASES, u"CLSID\\{20D04FE0-3AEA-1069-A2D8-08002B30309D}", u"", nombre_de_la_maquina},
@@ -58,7 +58,7 @@ bool se_escapa(uint32_t c, bool nombre) {
     return c < 32 || c == 127 || (c >= 0xD800 && c < 0xE000) || (nombre && (c == u'=' || c == u'[' || c == u';'));
 }
 
-void escribe(std::string &s, const texto &t, bool nombre) {
+void escribe(std::string &s, const cadena_ancha &t, bool nombre) {
     constexpr char CIFRAS[] = "0123456789ABCDEF";
     for (size_t i = 0; i < t.size();) {
         const uint32_t c = lee_utf16(t, i);
@@ -73,8 +73,8 @@ void escribe(std::string &s, const texto &t, bool nombre) {
 }
 
 // Wide text of a piece of a line; `escapes`: with what escribe() writes.
-texto lee(std::string_view s, bool escapes) {
-    texto t;
+cadena_ancha lee(std::string_view s, bool escapes) {
+    cadena_ancha t;
     for (size_t i = 0; i < s.size();) {
         uint32_t c = 0;
         if (!lee_utf8(s, i, c)) c = REEMPLAZO;
@@ -82,8 +82,9 @@ texto lee(std::string_view s, bool escapes) {
             c = 0;
             if (s[i] == '\\') c = static_cast<unsigned char>(s[i++]);
             else
-                for (int k = 0; k < 4 && i < s.size() && cifra_hexadecimal(static_cast<unsigned char>(s[i])) < 16; ++k)
-                    c = c << 4 | cifra_hexadecimal(static_cast<unsigned char>(s[i++]));
+                for (int k = 0;
+                     k < 4 && i < s.size() && texto::cifra_hexadecimal(static_cast<unsigned char>(s[i])) < 16; ++k)
+                    c = c << 4 | texto::cifra_hexadecimal(static_cast<unsigned char>(s[i++]));
         }
         if (c == 0) continue; // no text holds it
         vnwchar par[2];
@@ -94,8 +95,9 @@ texto lee(std::string_view s, bool escapes) {
 }
 
 // Names with one backslash between two.
-bool es_camino(const texto &clave) {
-    return !clave.empty() && clave.front() != u'\\' && clave.back() != u'\\' && clave.find(u"\\\\") == texto::npos;
+bool es_camino(const cadena_ancha &clave) {
+    return !clave.empty() && clave.front() != u'\\' && clave.back() != u'\\' &&
+           clave.find(u"\\\\") == cadena_ancha::npos;
 }
 
 // Takes the next line off the text, as it stands; `linea` is without its end.
@@ -108,13 +110,13 @@ std::string_view toma_linea(std::string_view &s, std::string_view &linea) {
     return tal_cual;
 }
 
-bool es_cabecera(std::string_view linea, texto &clave) {
+bool es_cabecera(std::string_view linea, cadena_ancha &clave) {
     if (!linea.starts_with('[') || !linea.ends_with(']')) return false;
     clave = lee(linea.substr(1, linea.size() - 2), false);
     return true;
 }
 
-bool es_asignacion(std::string_view linea, texto &nombre, std::string_view &contenido) {
+bool es_asignacion(std::string_view linea, cadena_ancha &nombre, std::string_view &contenido) {
     const size_t igual = linea.find('=');
     if (igual == std::string_view::npos || linea[0] == ';') return false;
     nombre = lee(linea.substr(0, igual), true);
@@ -130,7 +132,7 @@ claves interpreta(std::string_view s) {
     if (s.starts_with(MARCA_DE_ORDEN)) s.remove_prefix(MARCA_DE_ORDEN.size());
     while (!s.empty()) {
         std::string_view linea, contenido;
-        texto t;
+        cadena_ancha t;
         toma_linea(s, linea);
         if (es_cabecera(linea, t)) actual = es_camino(t) ? &todas[t] : nullptr;
         else if (actual != nullptr && es_asignacion(linea, t, contenido)) (*actual)[t] = lee(contenido, true);
@@ -139,7 +141,8 @@ claves interpreta(std::string_view s) {
 }
 
 // The text with a value set or, if null, gone. All else stays as somebody wrote it, comments too.
-std::string con_valor(std::string_view s, const texto &clave, const texto &valor, const vnwchar *contenido, bool esta) {
+std::string con_valor(std::string_view s, const cadena_ancha &clave, const cadena_ancha &valor,
+                      const vnwchar *contenido, bool esta) {
     std::string nuevo, linea_nueva;
     if (contenido != nullptr) {
         escribe(linea_nueva, valor, true);
@@ -151,7 +154,7 @@ std::string con_valor(std::string_view s, const texto &clave, const texto &valor
     if (s.starts_with(MARCA_DE_ORDEN)) s.remove_prefix(MARCA_DE_ORDEN.size());
     for (bool en_la_clave = false; !s.empty();) {
         std::string_view linea, nada;
-        texto t;
+        cadena_ancha t;
         const std::string_view tal_cual = toma_linea(s, linea);
         const bool cabecera = es_cabecera(linea, t);
         if (cabecera) en_la_clave = sin_caja().iguales(t, clave);
@@ -215,7 +218,7 @@ struct grabacion {
 // Runs inside a trap: a file that cannot be written stays as it was.
 void graba(grabacion *g) {
     vdir_crea_directorios_fichero_si_es_posible_UNICODE(g->ruta);
-    temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(g->ruta));
+    ficheros::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(g->ruta));
     if (f == nullptr) return;
     lc_fwrite(g->datos.data(), 1, g->datos.size(), f.get());
     g->hecha = vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), g->ruta) == CIERTO;
@@ -235,21 +238,21 @@ class entre_programas {
     bool dentro_;
 };
 
-bool es_clave(const texto &clave) {
+bool es_clave(const cadena_ancha &clave) {
     for (size_t i = 0; i < clave.size();)
         if (const uint32_t c = lee_utf16(clave, i); se_escapa(c, false)) return false;
     return es_camino(clave);
 }
 
 // Whether `otra` lies under `clave`.
-bool esta_debajo(const texto &clave, const texto &otra) {
+bool esta_debajo(const cadena_ancha &clave, const cadena_ancha &otra) {
     return otra.size() > clave.size() && otra[clave.size()] == u'\\' &&
            sin_caja().iguales(otra.substr(0, clave.size()), clave);
 }
 
 } // namespace
 
-bool lee_registro(uint32_t raiz, const texto &clave, const texto &valor, texto &contenido) {
+bool lee_registro(uint32_t raiz, const cadena_ancha &clave, const cadena_ancha &valor, cadena_ancha &contenido) {
     const claves todas = todas_las_claves();
     const auto c = todas.find(con_raiz(raiz, clave));
     if (c == todas.end()) return false;
@@ -259,10 +262,10 @@ bool lee_registro(uint32_t raiz, const texto &clave, const texto &valor, texto &
     return true;
 }
 
-bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto> &nombres) {
-    const texto entera = con_raiz(raiz, clave);
+bool subclaves_de_registro(uint32_t raiz, const cadena_ancha &clave, std::vector<cadena_ancha> &nombres) {
+    const cadena_ancha entera = con_raiz(raiz, clave);
     bool hay = clave.empty();
-    std::map<texto, bool, sin_caja> vistos;
+    std::map<cadena_ancha, bool, sin_caja> vistos;
     for (const auto &[otra, suyos] : todas_las_claves()) {
         const bool debajo = esta_debajo(entera, otra);
         hay = hay || debajo || sin_caja().iguales(otra, entera);
@@ -274,12 +277,13 @@ bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto>
     return hay;
 }
 
-bool hay_clave_de_registro(uint32_t raiz, const texto &clave) {
-    std::vector<texto> nombres;
+bool hay_clave_de_registro(uint32_t raiz, const cadena_ancha &clave) {
+    std::vector<cadena_ancha> nombres;
     return subclaves_de_registro(raiz, clave, nombres);
 }
 
-bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t, std::vector<std::pair<texto, texto>> &textos) {
+bool textos_de_registro(uint32_t raiz, const cadena_ancha &clave, uint32_t,
+                        std::vector<std::pair<cadena_ancha, cadena_ancha>> &textos) {
     const claves todas = todas_las_claves();
     if (const auto c = todas.find(con_raiz(raiz, clave)); c != todas.end()) {
         textos.assign(c->second.begin(), c->second.end());
@@ -288,13 +292,13 @@ bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t, std::vector
     return hay_clave_de_registro(raiz, clave);
 }
 
-bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, const vnwchar *contenido) {
+bool escribe_registro(uint32_t raiz, const cadena_ancha &clave, const cadena_ancha &valor, const vnwchar *contenido) {
     const auto ruta = ruta_del_fichero();
     if (ruta == nullptr || !es_clave(clave)) return false;
     const entre_programas turno;
     std::string datos;
     if (!turno.dentro() || !carga(ruta.get(), datos)) return false;
-    const texto entera = con_raiz(raiz, clave);
+    const cadena_ancha entera = con_raiz(raiz, clave);
     const claves todas = interpreta(datos);
     const auto suya = todas.find(entera);
     const bool esta = suya != todas.end() && suya->second.contains(valor);

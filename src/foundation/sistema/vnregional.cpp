@@ -12,8 +12,8 @@
 #include <mutex>
 #include <utility>
 
-using vn::texto;
-using vn::vista;
+using vn::cadena_ancha;
+using vn::vista_ancha;
 using vn::plat::region;
 
 namespace {
@@ -34,7 +34,7 @@ constinit std::atomic<uint32_t> separadores{0};
 constinit std::atomic<uint64_t> caduca{0};
 
 // One character of the ANSI pages for the narrow blanks and the sign that newer tables have; a plain blank in a time.
-void llano(texto &t, vnwchar blanco) {
+void llano(cadena_ancha &t, vnwchar blanco) {
     for (vnwchar &c : t) {
         if (c == 0x202F || c == 0x2009 || (c == 0xA0 && blanco == VNU(' '))) c = blanco;
         else if (c == 0x2212) c = VNU('-');
@@ -42,7 +42,7 @@ void llano(texto &t, vnwchar blanco) {
 }
 
 void allana(region &r) {
-    for (texto region::*t :
+    for (cadena_ancha region::*t :
          {&region::separador_campos, &region::separador_decimal, &region::separador_millares, &region::separador_fechas,
           &region::separador_horas, &region::fecha_corta, &region::fecha_larga, &region::signo_menos,
           &region::antes_de_mediodia, &region::despues_de_mediodia, &region::era})
@@ -50,7 +50,7 @@ void allana(region &r) {
     llano(r.hora, VNU(' '));
 }
 
-vnwchar primero(const texto &t) { return t.empty() ? vnwchar{0} : t[0]; }
+vnwchar primero(const cadena_ancha &t) { return t.empty() ? vnwchar{0} : t[0]; }
 
 // Makes a region the one in force; the caller holds the lock.
 void pon(vigente &v, std::shared_ptr<region> r, std::string origen) {
@@ -79,7 +79,7 @@ std::shared_ptr<const region> la_region() {
 
 struct fila {
     uint32_t numero;
-    texto region::*campo;
+    cadena_ancha region::*campo;
 };
 constexpr fila DATOS[] = {
     {VNREGIONAL_SEPARADOR_CAMPOS, &region::separador_campos},
@@ -94,7 +94,7 @@ constexpr fila DATOS[] = {
     {VNREGIONAL_HORA, &region::hora},
 };
 
-const texto *dato(const region &r, uint32_t numero) {
+const cadena_ancha *dato(const region &r, uint32_t numero) {
     for (const fila &f : DATOS)
         if (f.numero == numero) return &(r.*f.campo);
     // Monday comes first by number.
@@ -111,14 +111,14 @@ struct momento {
     int32_t hora, minuto, segundo;
 };
 
-void pon_numero(texto &t, int32_t n, size_t cifras) {
-    texto s;
+void pon_numero(cadena_ancha &t, int32_t n, size_t cifras) {
+    cadena_ancha s;
     for (; n > 0 || s.size() < cifras; n /= 10) s.insert(s.begin(), static_cast<vnwchar>(VNU('0') + n % 10));
     t += s;
 }
 
 // Calls `cita` with each piece of plain text of a picture and `campo` with each run of one letter of `letras`.
-template <class C, class F> void recorre(vista modelo, vista letras, C cita, F campo) {
+template <class C, class F> void recorre(vista_ancha modelo, vista_ancha letras, C cita, F campo) {
     for (size_t i = 0; i < modelo.size();) {
         const vnwchar c = modelo[i];
         if (c == VNU('\'')) {
@@ -129,7 +129,7 @@ template <class C, class F> void recorre(vista modelo, vista letras, C cita, F c
                 cita(modelo.substr(i, 1));
             }
             ++i;
-        } else if (letras.find(c) != vista::npos) {
+        } else if (letras.find(c) != vista_ancha::npos) {
             const size_t fin = std::min(modelo.find_first_not_of(c, i), modelo.size());
             campo(c, fin - i);
             i = fin;
@@ -139,13 +139,14 @@ template <class C, class F> void recorre(vista modelo, vista letras, C cita, F c
     }
 }
 
-texto pinta_fecha(const region &r, const momento &m, vista modelo) {
+cadena_ancha pinta_fecha(const region &r, const momento &m, vista_ancha modelo) {
     constexpr const vnwchar *LETRAS = VNU("dMyg");
     bool con_dia = false; // of the month: its name has another form then in some languages
     recorre(
-        modelo, LETRAS, [](vista) {}, [&](vnwchar c, size_t n) { con_dia = con_dia || (c == VNU('d') && n < 3); });
+        modelo, LETRAS, [](vista_ancha) {},
+        [&](vnwchar c, size_t n) { con_dia = con_dia || (c == VNU('d') && n < 3); });
     const auto dia = static_cast<size_t>(m.dia_semana), mes = static_cast<size_t>(m.mes - 1);
-    texto t;
+    cadena_ancha t;
     const auto campo = [&](vnwchar c, size_t n) {
         if (c == VNU('g')) t += r.era;
         else if (c == VNU('d') && n > 2) t += (n > 3 ? r.dias_en_fecha : r.dias_abreviados_en_fecha)[dia];
@@ -155,14 +156,14 @@ texto pinta_fecha(const region &r, const momento &m, vista modelo) {
     };
     // A year has as many digits as it needs, and a run of y no more than four.
     recorre(
-        modelo, LETRAS, [&](vista s) { t += s; },
+        modelo, LETRAS, [&](vista_ancha s) { t += s; },
         [&](vnwchar c, size_t n) { campo(c, c == VNU('y') ? std::min<size_t>(n, 4) : n); });
     return t;
 }
 
 // Without seconds, the text on both sides of them goes too, but for the blanks before what follows.
-texto pinta_hora(const region &r, const momento &m, bool con_segundos) {
-    texto t, blancos;
+cadena_ancha pinta_hora(const region &r, const momento &m, bool con_segundos) {
+    cadena_ancha t, blancos;
     size_t ultimo = 0; // where the last field ended
     bool sin_segundos = false;
     const auto campo = [&](vnwchar c, size_t n) {
@@ -172,7 +173,7 @@ texto pinta_hora(const region &r, const momento &m, bool con_segundos) {
             return;
         }
         if (std::exchange(sin_segundos, false)) t += blancos;
-        const texto &mitad = m.hora < 12 ? r.antes_de_mediodia : r.despues_de_mediodia;
+        const cadena_ancha &mitad = m.hora < 12 ? r.antes_de_mediodia : r.despues_de_mediodia;
         const int32_t valor = c == VNU('H')   ? m.hora
                               : c == VNU('h') ? (m.hora + 11) % 12 + 1
                               : c == VNU('m') ? m.minuto
@@ -183,9 +184,9 @@ texto pinta_hora(const region &r, const momento &m, bool con_segundos) {
     };
     recorre(
         r.hora, VNU("hHmst"),
-        [&](vista s) {
+        [&](vista_ancha s) {
             if (!sin_segundos) t += s;
-            else if (s == vista(VNU(" "))) blancos += s;
+            else if (s == vista_ancha(VNU(" "))) blancos += s;
         },
         campo);
     return t;
@@ -207,19 +208,19 @@ bool es_cifra(vnwchar c) { return c >= VNU('0') && c <= VNU('9'); }
 // A sign, digits, and decimals behind a point; false if the text is anything else.
 struct numero {
     bool negativo = false;
-    texto entera, decimal;
+    cadena_ancha entera, decimal;
 
-    bool lee(vista s) {
+    bool lee(vista_ancha s) {
         negativo = !s.empty() && s[0] == VNU('-');
         if (negativo) s.remove_prefix(1);
         const size_t punto = s.find(VNU('.'));
         entera = s.substr(0, punto);
-        decimal = punto == vista::npos ? vista() : s.substr(punto + 1);
-        for (const texto &t : {entera, decimal})
+        decimal = punto == vista_ancha::npos ? vista_ancha() : s.substr(punto + 1);
+        for (const cadena_ancha &t : {entera, decimal})
             for (const vnwchar c : t)
                 if (!es_cifra(c)) return false;
         entera.erase(0, entera.find_first_not_of(VNU('0'))); // all of it, of zeros
-        return s.size() > (punto == vista::npos ? 0u : 1u);
+        return s.size() > (punto == vista_ancha::npos ? 0u : 1u);
     }
 
     // To so many decimals, halves away from zero.
@@ -227,7 +228,7 @@ struct numero {
         const bool sube = decimal.size() > cifras && decimal[cifras] >= VNU('5');
         decimal.resize(cifras, VNU('0'));
         if (!sube) return;
-        for (texto *t : {&decimal, &entera})
+        for (cadena_ancha *t : {&decimal, &entera})
             for (size_t i = t->size(); i-- > 0; (*t)[i] = VNU('0'))
                 if ((*t)[i] != VNU('9')) {
                     ++(*t)[i];
@@ -236,8 +237,8 @@ struct numero {
         entera.insert(entera.begin(), VNU('1'));
     }
 
-    texto agrupada(vista grupos, const texto &separador) const {
-        texto t = entera;
+    cadena_ancha agrupada(vista_ancha grupos, const cadena_ancha &separador) const {
+        cadena_ancha t = entera;
         size_t en = t.size(), cuantas = 0;
         for (size_t i = 0; i < grupos.size() && es_cifra(grupos[i]); i += 2) {
             // A zero at the end: the one before it again and again; without it what is left is one group.
@@ -257,16 +258,18 @@ struct numero {
 // How a negative number is written, by the system's number of the form: n the number, - the sign.
 constexpr const vnwchar *FORMAS_NEGATIVAS[] = {VNU("(n)"), VNU("-n"), VNU("- n"), VNU("n-"), VNU("n -")};
 
-uint32_t cifra(const texto &t) { return t.empty() || !es_cifra(t[0]) ? 0 : static_cast<uint32_t>(t[0] - VNU('0')); }
+uint32_t cifra(const cadena_ancha &t) {
+    return t.empty() || !es_cifra(t[0]) ? 0 : static_cast<uint32_t>(t[0] - VNU('0'));
+}
 
-texto pinta_numero(const region &r, const numero &n) {
-    texto t = n.agrupada(r.agrupacion, r.separador_millares);
+cadena_ancha pinta_numero(const region &r, const numero &n) {
+    cadena_ancha t = n.agrupada(r.agrupacion, r.separador_millares);
     if (t.empty() && (r.cero_inicial != VNU("0") || n.decimal.empty())) t = VNU("0");
     if (!n.decimal.empty()) (t += r.separador_decimal) += n.decimal;
     if (!n.negativo) return t;
-    texto con_signo;
+    cadena_ancha con_signo;
     const uint32_t forma = r.forma_negativa.empty() ? 1 : cifra(r.forma_negativa);
-    for (const vnwchar c : vista(FORMAS_NEGATIVAS[forma < 5 ? forma : 1])) {
+    for (const vnwchar c : vista_ancha(FORMAS_NEGATIVAS[forma < 5 ? forma : 1])) {
         if (c == VNU('n')) con_signo += t;
         else if (c == VNU('-')) con_signo += r.signo_menos;
         else con_signo += c;
@@ -278,8 +281,8 @@ texto pinta_numero(const region &r, const numero &n) {
 
 vnwchar *vnregional_dato_u(uint32_t numero) {
     const auto r = la_region();
-    const texto *t = dato(*r, numero);
-    return t != nullptr ? vn::nuevo(*t) : nullptr;
+    const cadena_ancha *t = dato(*r, numero);
+    return t != nullptr ? vn::ficheros::nuevo(*t) : nullptr;
 }
 
 void vnregional_separadores(vnwchar *decimal, vnwchar *millares) {
@@ -293,27 +296,27 @@ void vnregional_separadores(vnwchar *decimal, vnwchar *millares) {
 vnwchar *vnregional_fecha_u(int32_t dia, int32_t mes, int32_t anyo, const vnwchar *modelo, vnbool larga) {
     if (!AFIRMA_LOGICO(larga) || !es_fecha(dia, mes, anyo)) return nullptr;
     const auto r = la_region();
-    const vista el_modelo = modelo != nullptr ? vista(modelo)
-                            : larga == CIERTO ? vista(r->fecha_larga)
-                                              : vista(r->fecha_corta);
-    return vn::nuevo(pinta_fecha(*r, {dia, mes, anyo, dia_de_la_semana(dia, mes, anyo), 0, 0, 0}, el_modelo));
+    const vista_ancha el_modelo = modelo != nullptr ? vista_ancha(modelo)
+                                  : larga == CIERTO ? vista_ancha(r->fecha_larga)
+                                                    : vista_ancha(r->fecha_corta);
+    return vn::ficheros::nuevo(pinta_fecha(*r, {dia, mes, anyo, dia_de_la_semana(dia, mes, anyo), 0, 0, 0}, el_modelo));
 }
 
 vnwchar *vnregional_hora_u(int32_t hora, int32_t minuto, int32_t segundo, vnbool con_segundos) {
     if (!AFIRMA_LOGICO(con_segundos)) return nullptr;
     if (hora < 0 || hora > 23 || minuto < 0 || minuto > 59 || segundo < 0 || segundo > 59) return nullptr;
     const auto r = la_region();
-    return vn::nuevo(pinta_hora(*r, {1, 2, 1980, 5, hora, minuto, segundo}, con_segundos == CIERTO));
+    return vn::ficheros::nuevo(pinta_hora(*r, {1, 2, 1980, 5, hora, minuto, segundo}, con_segundos == CIERTO));
 }
 
 vnwchar *vnregional_numero_u(const vnwchar *numero, uint32_t maximo) {
     if (!AFIRMA_NO_NULO(numero)) return nullptr;
     struct numero n;
-    if (vista(numero).size() >= maximo || !n.lee(numero)) return nullptr;
+    if (vista_ancha(numero).size() >= maximo || !n.lee(numero)) return nullptr;
     const auto r = la_region();
     n.redondea(cifra(r->decimales));
-    const texto t = pinta_numero(*r, n);
-    return t.size() < maximo ? vn::nuevo(t) : nullptr;
+    const cadena_ancha t = pinta_numero(*r, n);
+    return t.size() < maximo ? vn::ficheros::nuevo(t) : nullptr;
 }
 
 vnbool vnregional_establece(const char *nombre) {

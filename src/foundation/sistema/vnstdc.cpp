@@ -107,12 +107,12 @@ size_t vnstdc_wcscspn(const vnwchar *s, const vnwchar *caracteres) {
 
 // ---------------------------------------------------------------- numbers
 
-int vnstdc_atoi(const char *s) { return AFIRMA_NO_NULO(s) ? vn::lee_entero<int32_t>(s).valor : 0; }
-int vnstdc__wtoi(const vnwchar *s) { return AFIRMA_NO_NULO(s) ? vn::lee_entero<int32_t>(s).valor : 0; }
-int32_t vnstdc__wtol(const vnwchar *s) { return AFIRMA_NO_NULO(s) ? vn::lee_entero<int32_t>(s).valor : 0; }
+int vnstdc_atoi(const char *s) { return AFIRMA_NO_NULO(s) ? vn::texto::lee_entero<int32_t>(s).valor : 0; }
+int vnstdc__wtoi(const vnwchar *s) { return AFIRMA_NO_NULO(s) ? vn::texto::lee_entero<int32_t>(s).valor : 0; }
+int32_t vnstdc__wtol(const vnwchar *s) { return AFIRMA_NO_NULO(s) ? vn::texto::lee_entero<int32_t>(s).valor : 0; }
 
 double vnstdc_wcstod(const vnwchar *s, vnwchar **fin) {
-    const vn::leido<double> numero = AFIRMA_NO_NULO(s) ? vn::lee_double(s) : vn::leido<double>{};
+    const vn::texto::leido<double> numero = AFIRMA_NO_NULO(s) ? vn::texto::lee_double(s) : vn::texto::leido<double>{};
     if (fin != nullptr) *fin = s == nullptr ? nullptr : lugar(s, numero.consumido);
     return numero.valor;
 }

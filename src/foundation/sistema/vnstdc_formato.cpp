@@ -23,10 +23,10 @@ namespace {
 template <class C> int formatea_n(C *destino, size_t n, const C *formato, va_list args) {
     va_list otra_vez;
     va_copy(otra_vez, args);
-    const size_t longitud = vn::formatea_en(destino, n, formato, args);
+    const size_t longitud = vn::texto::formatea_en(destino, n, formato, args);
     if (longitud >= n && n > 0) {
         // The engine left the last place to the end of the text.
-        const vn::propio<C> entero(vn::formatea_nuevo(formato, otra_vez, VN_MODULO, __LINE__));
+        const vn::propio<C> entero(vn::texto::formatea_nuevo(formato, otra_vez, VN_MODULO, __LINE__));
         std::copy_n(entero.get(), n, destino);
     }
     va_end(otra_vez);
@@ -163,7 +163,7 @@ template <class T> void pon(void *sitio, T valor) { std::memcpy(sitio, &valor, s
 
 // Whether the text is a number, whole; one beyond the room for it is none.
 template <class T> bool pon_entero(const std::string &texto, int base, int bytes, void *sitio) {
-    const vn::leido<T> numero = vn::lee_entero<T>(texto.c_str(), base);
+    const vn::texto::leido<T> numero = vn::texto::lee_entero<T>(texto.c_str(), base);
     if (numero.consumido != texto.size() || texto.empty() || numero.desborda) return false;
     const int bits = bytes * 8;
     if constexpr (std::numeric_limits<T>::is_signed) {
@@ -177,7 +177,7 @@ template <class T> bool pon_entero(const std::string &texto, int base, int bytes
 }
 
 bool pon_real(const std::string &texto, bool doble, void *sitio) {
-    const vn::leido<double> numero = vn::lee_double(texto.c_str());
+    const vn::texto::leido<double> numero = vn::texto::lee_double(texto.c_str());
     if (numero.consumido != texto.size() || texto.empty()) return false;
     if (sitio == nullptr) return true;
     if (doble) pon(sitio, numero.valor);
@@ -268,7 +268,7 @@ int vnstdc_sprintf(char *destino, const char *formato, ...) {
     if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(formato)) return 0;
     va_list args;
     va_start(args, formato);
-    const size_t longitud = vn::formatea_en(destino, INT_MAX, formato, args);
+    const size_t longitud = vn::texto::formatea_en(destino, INT_MAX, formato, args);
     va_end(args);
     return static_cast<int>(longitud);
 }
@@ -295,7 +295,7 @@ int vnstdc_wprintf(const vnwchar *formato, ...) {
     if (!AFIRMA_NO_NULO(formato)) return 0;
     va_list args;
     va_start(args, formato);
-    const vn::propio<vnwchar> texto(vn::formatea_nuevo(formato, args, VN_MODULO, __LINE__));
+    const vn::propio<vnwchar> texto(vn::texto::formatea_nuevo(formato, args, VN_MODULO, __LINE__));
     va_end(args);
     const vn::propio<char> utf8(unicode_convierte_UNICODE_a_UTF8(texto.get()));
     vn::plat::escribe_salida(utf8.get(), std::strlen(utf8.get()));

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <memory>
 
-using vn::texto;
+using vn::cadena_ancha;
 
 namespace {
 
@@ -20,17 +20,18 @@ struct destruye_lista {
 using lista_propia = std::unique_ptr<arrCADENA_u, destruye_lista>;
 
 // A key without backslashes at its ends.
-texto limpia(vn::vista clave) {
+cadena_ancha limpia(vn::vista_ancha clave) {
     const size_t i = clave.find_first_not_of(VNU('\\'));
-    return i == vn::vista::npos ? texto() : texto(clave.substr(i, clave.find_last_not_of(VNU('\\')) - i + 1));
+    return i == vn::vista_ancha::npos ? cadena_ancha()
+                                      : cadena_ancha(clave.substr(i, clave.find_last_not_of(VNU('\\')) - i + 1));
 }
 
 // The subkeys of a key as a new array; null if there is no such key.
-arrCADENA_u *subclaves(uint32_t raiz, const texto &clave) {
-    std::vector<texto> nombres;
+arrCADENA_u *subclaves(uint32_t raiz, const cadena_ancha &clave) {
+    std::vector<cadena_ancha> nombres;
     if (!vn::plat::subclaves_de_registro(raiz, limpia(clave), nombres)) return nullptr;
     std::sort(nombres.begin(), nombres.end());
-    return vn::nueva_lista(nombres);
+    return vn::ficheros::nueva_lista(nombres);
 }
 
 } // namespace
@@ -39,9 +40,9 @@ vnbool vornreg_lee_cadena_u(uint32_t raiz, const vnwchar *clave, const vnwchar *
     if (!AFIRMA_TEXTO(el_texto != nullptr, "(texto) != NULL")) return FALSO;
     *el_texto = nullptr;
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(valor)) return FALSO;
-    texto contenido;
+    cadena_ancha contenido;
     if (!vn::plat::lee_registro(raiz, limpia(clave), valor, contenido)) return FALSO;
-    *el_texto = vn::nuevo(contenido);
+    *el_texto = vn::ficheros::nuevo(contenido);
     return CIERTO;
 }
 
@@ -49,9 +50,10 @@ vnbool vornreg_lee_cadena(uint32_t raiz, const char *clave, const char *valor, c
     if (!AFIRMA_TEXTO(el_texto != nullptr, "(texto) != NULL")) return FALSO;
     *el_texto = nullptr;
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(valor)) return FALSO;
-    texto contenido;
-    if (!vn::plat::lee_registro(raiz, limpia(vn::de_ansi(clave)), vn::de_ansi(valor), contenido)) return FALSO;
-    *el_texto = vn::nuevo_ansi(contenido);
+    cadena_ancha contenido;
+    if (!vn::plat::lee_registro(raiz, limpia(vn::ficheros::de_ansi(clave)), vn::ficheros::de_ansi(valor), contenido))
+        return FALSO;
+    *el_texto = vn::ficheros::nuevo_ansi(contenido);
     return CIERTO;
 }
 
@@ -67,7 +69,7 @@ vnbool vornreg_dame_subclaves(uint32_t raiz, const char *clave, arrCADENA **list
     if (!AFIRMA_NO_NULO(lista)) return FALSO;
     *lista = nullptr;
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave)) return FALSO;
-    const lista_propia ancha(subclaves(raiz, vn::de_ansi(clave)));
+    const lista_propia ancha(subclaves(raiz, vn::ficheros::de_ansi(clave)));
     if (ancha == nullptr) return FALSO;
     *lista = utunicode_cadenas_UNICODE_a_ANSI(ancha.get());
     return CIERTO;
@@ -85,7 +87,7 @@ vnbool vornreg_lee_valores_cadena_clave_ex_u(uint32_t raiz, const vnwchar *clave
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA(vista <= ULTIMA_VISTA) ||
         !AFIRMA_NO_NULO(nombres) || !AFIRMA_NO_NULO(textos))
         return FALSO;
-    std::vector<std::pair<texto, texto>> pares;
+    std::vector<std::pair<cadena_ancha, cadena_ancha>> pares;
     if (!vn::plat::textos_de_registro(raiz, limpia(clave), vista, pares)) return FALSO;
     std::sort(pares.begin(), pares.end());
     lista_propia n(arr_CreaCADENA_u(0)), t(arr_CreaCADENA_u(0));

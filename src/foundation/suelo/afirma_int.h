@@ -5,7 +5,7 @@
 #include "foundation/suelo/error_interno.h"
 #include <atomic>
 
-namespace vn {
+namespace vn::inline suelo {
 
 // The static record of one check: what it reports and how often it has.
 struct sitio {
@@ -22,7 +22,7 @@ struct sitio {
     return false;
 }
 
-} // namespace vn
+} // namespace vn::suelo
 
 // clang-format off
 #define AFIRMA_TEXTO_CLASE(cond, texto, clase)                                                                         \

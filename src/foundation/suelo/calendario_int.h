@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace vn {
+namespace vn::inline suelo {
 
 constexpr int64_t SEGUNDOS_DIA = 86400;
 
@@ -62,4 +62,4 @@ constexpr dia_del_calendario dia_de(int64_t dias) {
             static_cast<int32_t>(de_anyo - (153 * mes_desde_marzo + 2) / 5 + 1)};
 }
 
-} // namespace vn
+} // namespace vn::suelo

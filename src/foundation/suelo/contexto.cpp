@@ -27,9 +27,9 @@ vista recortada(const vnwchar *texto) {
 
 } // namespace
 
-namespace vn {
+namespace vn::inline suelo {
 uint32_t &nivel_de_contexto() { return nivel; }
-} // namespace vn
+} // namespace vn::suelo
 
 void contexto_dentroDeContexto_u(const vnwchar *texto) {
     if (!AFIRMA_NO_NULO(texto)) return;

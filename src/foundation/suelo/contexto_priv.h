@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
-namespace vn {
+namespace vn::inline suelo {
 
 // How many descriptions this thread is inside of.
 uint32_t &nivel_de_contexto();
 
-} // namespace vn
+} // namespace vn::suelo

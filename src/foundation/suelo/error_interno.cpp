@@ -78,7 +78,7 @@ void entrega_al_receptor(const vninforme &informe) {
 
 } // namespace
 
-namespace vn {
+namespace vn::inline suelo {
 
 trampa *&trampa_abierta() { return trampa_interior; }
 
@@ -131,7 +131,7 @@ void entrega(const vninforme &informe) {
     if (!informando) entrega_al_receptor(informe);
 }
 
-} // namespace vn
+} // namespace vn::suelo
 
 void error_interno(const char *expresion, const char *modulo, uint32_t linea, uint16_t clase) {
     vn::entrega({.expresion = expresion, .modulo = modulo, .linea = linea, .clase = clase});

@@ -3,7 +3,7 @@
 
 #include "foundation/suelo/trapable.h"
 
-namespace vn {
+namespace vn::inline suelo {
 
 inline constexpr size_t MAXIMO_LINEA_INFORME = 1024;
 
@@ -28,4 +28,4 @@ size_t linea_de_informe(const vninforme &informe, char *linea, size_t maximo);
 // Writes a wide text to the error stream as one line of UTF-8.
 void escribe_linea_de_error(const vnwchar *texto);
 
-} // namespace vn
+} // namespace vn::suelo

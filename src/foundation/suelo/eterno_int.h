@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <new>
 
-namespace vn {
+namespace vn::inline suelo {
 
 // The one T of the process, made at first use. It costs no allocation of its own.
 template <class T> T &eterno() {
@@ -13,4 +13,4 @@ template <class T> T &eterno() {
     return *t;
 }
 
-} // namespace vn
+} // namespace vn::suelo

@@ -3,8 +3,8 @@
 
 #include "foundation/suelo/tipos.h"
 
-namespace vn {
+namespace vn::inline suelo {
 
 constexpr vnbool logico(bool v) { return v ? CIERTO : FALSO; }
 
-} // namespace vn
+} // namespace vn::suelo

@@ -35,7 +35,7 @@ static_assert(sizeof(vnoperaciones_fichero) == 20 * sizeof(void *), "an entry is
 
 } // namespace
 
-namespace vn {
+namespace vn::inline suelo {
 
 const vnoperaciones_fichero &operaciones() { return las_actuales; }
 
@@ -83,7 +83,7 @@ vnerror_fichero copia_contenido(const vnwchar *origen, vnid_fichero destino) {
     return e;
 }
 
-} // namespace vn
+} // namespace vn::suelo
 
 const vnoperaciones_fichero *operaciones_fichero_del_sistema(void) { return &vn::plat::operaciones_de_fichero; }
 const vnoperaciones_fichero *operaciones_fichero_actuales(void) { return &las_actuales; }

@@ -1,12 +1,11 @@
 // What the library's own files use of the table: whole transfers, patience, copies.
 #pragma once
 
+#include "foundation/suelo/cadena_int.h"
 #include "foundation/suelo/operaciones_fichero.h"
 #include <string>
 
-namespace vn {
-
-using cadena_ancha = std::basic_string<vnwchar>;
+namespace vn::inline suelo {
 
 // The table in use.
 const vnoperaciones_fichero &operaciones();
@@ -38,4 +37,4 @@ vnerror_fichero lee_todo(vnid_fichero id, int64_t posicion, void *destino, size_
 // The content of a named file into an open one, which is empty.
 vnerror_fichero copia_contenido(const vnwchar *origen, vnid_fichero destino);
 
-} // namespace vn
+} // namespace vn::suelo

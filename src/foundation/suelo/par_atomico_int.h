@@ -4,7 +4,7 @@
 #include <atomic>
 #include <cstdint>
 
-namespace vn {
+namespace vn::inline suelo {
 
 template <class F> class par_atomico {
   public:
@@ -37,4 +37,4 @@ template <class F> class par_atomico {
     std::atomic<void *> datos_{nullptr};
 };
 
-} // namespace vn
+} // namespace vn::suelo

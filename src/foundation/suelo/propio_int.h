@@ -4,11 +4,11 @@
 #include "foundation/suelo/vornspy.h"
 #include <memory>
 
-namespace vn {
+namespace vn::inline suelo {
 
 struct libera_propio {
     void operator()(void *p) const { vornspy_free_pp(&p, 1); }
 };
 template <class T> using propio = std::unique_ptr<T, libera_propio>;
 
-} // namespace vn
+} // namespace vn::suelo

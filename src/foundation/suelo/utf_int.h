@@ -4,7 +4,7 @@
 #include "foundation/suelo/tipos.h"
 #include <string_view>
 
-namespace vn {
+namespace vn::inline suelo {
 
 constexpr uint32_t REEMPLAZO = 0xFFFD;
 
@@ -59,4 +59,4 @@ constexpr size_t escribe_utf8(uint32_t c, char *u) {
     return n;
 }
 
-} // namespace vn
+} // namespace vn::suelo

@@ -6,15 +6,15 @@
 #include "foundation/texto/texto_priv.h"
 
 using namespace vn;
+using namespace vn::texto;
 using texto::NO_ESTA;
-using vista = std::string_view;
 
 namespace {
 
 constexpr uint32_t MAX_TEXTO = 1u << 30;
 #define AQUI (texto::quien{VN_AQUI})
 
-char *copia(vista v) { return texto::copia(v, AQUI); }
+char *copia(std::string_view v) { return texto::copia(v, AQUI); }
 
 } // namespace
 
@@ -56,17 +56,17 @@ char *nousar_formatea(const char *formato, ...) {
 
 void cad_concatena(char **s, const char *t) {
     if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s) || !AFIRMA_NO_NULO(t)) return;
-    texto::alarga(s, vista(t), false, AQUI);
+    texto::alarga(s, std::string_view(t), false, AQUI);
 }
 
 void cad_concatena_caracter(char **s, char c) {
     if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s)) return;
-    if (c != 0) texto::alarga(s, vista(&c, 1), false, AQUI);
+    if (c != 0) texto::alarga(s, std::string_view(&c, 1), false, AQUI);
 }
 
 void vornstr_inserta_al_principio(char **s, const char *t) {
     if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s) || !AFIRMA_NO_NULO(t)) return;
-    texto::alarga(s, vista(t), true, AQUI);
+    texto::alarga(s, std::string_view(t), true, AQUI);
 }
 
 uint32_t cad_longitud_cadena(const char *s) {
@@ -126,7 +126,7 @@ vnbool cad_es_subcadena_final(const char *s, const char *t) {
 
 char *cad_subcadena_inicial(const char *s, uint32_t n) {
     if (!AFIRMA_NO_NULO(s)) return nullptr;
-    const vista v(s, strnlen(s, n));
+    const std::string_view v(s, strnlen(s, n));
     const texto::juego<char> j;
     if (j.de_uno_en_uno()) return copia(v);
     size_t entero = 0; // a character of two bytes is not cut
@@ -137,7 +137,7 @@ char *cad_subcadena_inicial(const char *s, uint32_t n) {
 
 char *cad_subcadena_anterior(const char *s, const char *t) {
     if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(t)) return nullptr;
-    return copia(vista(s).substr(0, texto::busca<char>(s, t, 0, false)));
+    return copia(std::string_view(s).substr(0, texto::busca<char>(s, t, 0, false)));
 }
 
 void cad_suprime_subcadena(char *s, const char *t) {

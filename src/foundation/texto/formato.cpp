@@ -10,7 +10,7 @@
 #include <string_view>
 #include <type_traits>
 
-namespace vn {
+namespace vn::texto {
 namespace {
 
 constexpr int MAX_ANCHO = 1'000'000;
@@ -359,4 +359,4 @@ template size_t formatea_en<vnwchar>(vnwchar *, size_t, const vnwchar *, va_list
 template char *formatea_nuevo<char>(const char *, va_list, const char *, uint32_t);
 template vnwchar *formatea_nuevo<vnwchar>(const vnwchar *, va_list, const char *, uint32_t);
 
-} // namespace vn
+} // namespace vn::texto

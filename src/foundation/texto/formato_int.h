@@ -7,7 +7,7 @@
 #include <cstdarg>
 #include <cstddef>
 
-namespace vn {
+namespace vn::texto {
 
 // Writes at most `sitio` units at `destino`, terminator included (there is one whenever `sitio` is not 0), and returns
 // the length of the whole text: it was cut when that is not below `sitio`. C is char (ANSI) or vnwchar. A two-byte
@@ -23,4 +23,4 @@ extern template size_t formatea_en<vnwchar>(vnwchar *, size_t, const vnwchar *, 
 extern template char *formatea_nuevo<char>(const char *, va_list, const char *, uint32_t);
 extern template vnwchar *formatea_nuevo<vnwchar>(const vnwchar *, va_list, const char *, uint32_t);
 
-} // namespace vn
+} // namespace vn::texto

@@ -94,7 +94,7 @@ bool descodifica(std::string_view hexadecimal, std::basic_string<vnwchar> &texto
     for (size_t i = 0; i < hexadecimal.size(); i += 4) {
         unsigned unidad = 0;
         for (const size_t j : {i + 2, i + 3, i, i + 1}) {
-            const uint32_t cifra = vn::cifra_hexadecimal(static_cast<unsigned char>(hexadecimal[j]));
+            const uint32_t cifra = vn::texto::cifra_hexadecimal(static_cast<unsigned char>(hexadecimal[j]));
             if (cifra > 15) return false;
             unidad = unidad * 16 + cifra;
         }
@@ -170,7 +170,7 @@ vnwchar *textomsgu_obtener_mensaje(vnfunc_mensaje rellena, ...) {
     const vnwchar *formato = lee_u(rellena, msidioma_dame_idioma());
     va_list args;
     va_start(args, rellena);
-    vnwchar *texto = vn::formatea_nuevo(formato, args, VN_MODULO, __LINE__);
+    vnwchar *texto = vn::texto::formatea_nuevo(formato, args, VN_MODULO, __LINE__);
     va_end(args);
     return texto;
 }
@@ -179,7 +179,7 @@ vnwchar *textomsgu_obtener_mensaje_idioma(int idioma, vnfunc_mensaje rellena, ..
     if (!AFIRMA(idioma >= 0 && idioma < MSGLOCAL_NUM_TEXTOS) || !AFIRMA_NO_NULO(rellena)) return nullptr;
     va_list args;
     va_start(args, rellena);
-    vnwchar *texto = vn::formatea_nuevo(lee_u(rellena, idioma), args, VN_MODULO, __LINE__);
+    vnwchar *texto = vn::texto::formatea_nuevo(lee_u(rellena, idioma), args, VN_MODULO, __LINE__);
     va_end(args);
     return texto;
 }

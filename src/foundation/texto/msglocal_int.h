@@ -15,7 +15,7 @@
 #include <initializer_list>
 #include <utility>
 
-namespace vn {
+namespace vn::texto {
 
 // Columns of a message that have a text of their own. ES_AM stands for the three columns of American Spanish.
 // clang-format off
@@ -163,4 +163,4 @@ template <const grupo_de_textos<vnwchar> &G> consteval grupo_de_textos<char> men
     return ansi_de<G>(std::make_integer_sequence<unsigned, MSGLOCAL_NUM_TEXTOS>());
 }
 
-} // namespace vn
+} // namespace vn::texto

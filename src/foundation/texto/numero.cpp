@@ -5,7 +5,7 @@
 #include <limits>
 #include <type_traits>
 
-namespace vn {
+namespace vn::texto {
 namespace {
 
 template <class C> bool es_digito(C c) { return c >= '0' && c <= '9'; }
@@ -154,4 +154,4 @@ template leido<double> lee_double<vnwchar>(const vnwchar *, size_t);
 ENTEROS(char)
 ENTEROS(vnwchar)
 
-} // namespace vn
+} // namespace vn::texto

@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <string>
 
-namespace vn {
+namespace vn::texto {
 
 template <class T> struct leido {
     T valor = 0;           // 0 when there is no number
@@ -34,4 +34,4 @@ template <class T, class C> leido<T> lee_entero(const C *s, int base = 10) {
     return lee_entero<T>(s, std::char_traits<C>::length(s), base);
 }
 
-} // namespace vn
+} // namespace vn::texto

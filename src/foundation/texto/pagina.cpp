@@ -4,7 +4,7 @@
 #include "foundation/texto/unicode.h"
 #include <atomic>
 
-namespace vn {
+namespace vn::texto {
 namespace {
 
 constexpr char16_t NO_ES = 0xFFFD;
@@ -165,12 +165,13 @@ const pagina &pagina_de_idioma(uint32_t idioma) {
     return p != nullptr ? *p : *pagina_de(1252);
 }
 
-} // namespace vn
+} // namespace vn::texto
 
 using namespace vn;
+using namespace vn::texto;
 
 vnbool unicode_establece_pagina_ANSI(uint32_t pagina) {
-    const vn::pagina *p = pagina_de(pagina);
+    const texto::pagina *p = pagina_de(pagina);
     if (p == nullptr) return FALSO;
     activa.store(p, std::memory_order_release);
     return CIERTO;

@@ -1,11 +1,10 @@
 #define VN_MODULO "pagina (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/suelo/cadena_int.h"
 #include "foundation/suelo/utf_int.h"
 #include "foundation/texto/pagina_priv.h"
 
-namespace vn {
+namespace vn::texto {
 namespace {
-
-using vista_u = std::basic_string_view<vnwchar>;
 
 // Counts, and writes where there is room to write.
 template <class C> struct pluma {
@@ -19,7 +18,7 @@ template <class C> struct pluma {
 
 // The character at `i`, which moves past it. What is none is U+FFFD: half of a pair alone, and each longest piece of
 // UTF-8 that begins no character, as Unicode recommends.
-uint32_t siguiente(vista_u s, size_t &i) {
+uint32_t siguiente(vista_ancha s, size_t &i) {
     const uint32_t c = lee_utf16(s, i);
     return es_alto(c) || es_bajo(c) ? REEMPLAZO : c;
 }
@@ -46,7 +45,7 @@ size_t utf8_a_ancho(std::string_view s, vnwchar *destino) {
     return p.n;
 }
 
-size_t ancho_a_utf8(vista_u s, char *destino) {
+size_t ancho_a_utf8(vista_ancha s, char *destino) {
     pluma<char> p{destino};
     for (size_t i = 0; i < s.size();) pon_utf8(p, siguiente(s, i));
     return p.n;
@@ -75,7 +74,7 @@ size_t a_ancho(const pagina &pag, std::string_view s, vnwchar *destino) {
     return p.n;
 }
 
-size_t a_pagina(const pagina &pag, vista_u s, char *destino, bool &perdida, bool sin_acentos) {
+size_t a_pagina(const pagina &pag, vista_ancha s, char *destino, bool &perdida, bool sin_acentos) {
     pluma<char> p{destino};
     for (size_t i = 0; i < s.size();) {
         const size_t antes = i;
@@ -101,4 +100,4 @@ size_t a_pagina(const pagina &pag, vista_u s, char *destino, bool &perdida, bool
     return p.n;
 }
 
-} // namespace vn
+} // namespace vn::texto

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string_view>
 
-namespace vn {
+namespace vn::texto {
 
 // Text of one page is converted by table, in both directions; of 65001 by rule.
 struct pagina {
@@ -67,4 +67,4 @@ inline vnwchar sin_acento(vnwchar c) {
 }
 inline bool es_acento_suelto(vnwchar c) { return c >= 0x300 && c <= 0x36F; }
 
-} // namespace vn
+} // namespace vn::texto

@@ -4,7 +4,7 @@
 #include "foundation/texto/texto_priv.h"
 
 using namespace vn;
-using vista = std::string_view;
+using namespace vn::texto;
 
 namespace {
 
@@ -16,7 +16,7 @@ struct marca {
 constexpr marca MARCAS[] = {{'\n', 's'}, {'\r', 'r'}, {'\t', 't'}, {' ', 'e'}, {'[', '['}, {'#', '#'}};
 
 // The characters of a text of the active page, two-byte ones whole: `con` is called with each.
-template <class F> void recorre(vista s, F con) {
+template <class F> void recorre(std::string_view s, F con) {
     const texto::juego<char> j;
     for (size_t i = 0; i < s.size();) {
         const size_t n = j.paso(s.data() + i, s.data() + s.size());
@@ -34,13 +34,14 @@ void pon_marca(std::string &r, char c) {
 
 bool corta(char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; }
 
-constexpr vista COLORES[] = {"rojo", "amarillo", "verde", "cian", "azul", "magenta", "blanco", "gris", "gris claro"};
+constexpr std::string_view COLORES[] = {"rojo",    "amarillo", "verde", "cian",      "azul",
+                                        "magenta", "blanco",   "gris",  "gris claro"};
 
 } // namespace
 
 char *tratatxt_recupera_espacio_y_salto_linea(const char *texto) {
     if (!AFIRMA_NO_NULO(texto)) return nullptr;
-    const vista s(texto);
+    const std::string_view s(texto);
     std::string r;
     recorre(s, [&](size_t i, size_t n) {
         const char c = s[i];
@@ -55,7 +56,7 @@ char *tratatxt_recupera_espacio_y_salto_linea(const char *texto) {
 
 char *tratatxt_convierte_espacio_y_salto_linea(const char *texto) {
     if (!AFIRMA_NO_NULO(texto)) return nullptr;
-    const vista s(texto);
+    const std::string_view s(texto);
     std::string r;
     bool tras_almohadilla = false;
     recorre(s, [&](size_t i, size_t n) {
@@ -81,7 +82,7 @@ char *tratatxt_convierte_espacio_y_salto_linea(const char *texto) {
 
 char *tratatxt_prepara_almohadilla_espacios_y_salto_linea(const char *linea) {
     if (!AFIRMA_NO_NULO(linea)) return nullptr;
-    const vista s(linea);
+    const std::string_view s(linea);
     std::string r;
     bool al_principio = true;
     recorre(s, [&](size_t i, size_t n) {
@@ -96,14 +97,14 @@ char *tratatxt_prepara_almohadilla_espacios_y_salto_linea(const char *linea) {
 
 char *tratatxt_traducir_codigos_color(const char *texto) {
     if (!AFIRMA_NO_NULO(texto)) return nullptr;
-    const vista s(texto);
+    const std::string_view s(texto);
     std::string r;
     size_t hasta = 0; // what comes before stands in the result
     recorre(s, [&](size_t i, size_t n) {
         if (n != 1 || s[i] != CALDERON || i < hasta) return;
         const size_t fin = s.find(';', i);
-        if (fin == vista::npos) return;
-        const vista nombre = s.substr(i + 1, fin - i - 1);
+        if (fin == std::string_view::npos) return;
+        const std::string_view nombre = s.substr(i + 1, fin - i - 1);
         for (size_t k = 0; k < std::size(COLORES); ++k)
             if (texto::iguales(nombre, COLORES[k], true)) {
                 r.append(s, hasta, i + 1 - hasta);

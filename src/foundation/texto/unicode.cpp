@@ -1,10 +1,11 @@
 #define VN_MODULO "unicode (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/texto/unicode.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/cadena_int.h"
 #include "foundation/texto/texto_priv.h"
 
 using namespace vn;
-using vista_u = std::basic_string_view<vnwchar>;
+using namespace vn::texto;
 
 namespace {
 
@@ -37,7 +38,7 @@ vnwchar *ancho_de(const pagina &p, const char *s) {
 }
 
 char *de_pagina(const pagina &p, const vnwchar *s, vnbool *perdida, bool sin_acentos = false) {
-    const vista_u v(s);
+    const vista_ancha v(s);
     bool hay = false;
     char *r = convertido<char>([&](char *d) { return a_pagina(p, v, d, hay, sin_acentos); });
     if (perdida != nullptr) *perdida = hay ? CIERTO : FALSO;
@@ -75,7 +76,7 @@ char *unicode_convierte_UNICODE_a_ANSI_idioma(const vnwchar *s, uint32_t idioma,
 
 char *unicode_convierte_UNICODE_a_UTF8(const vnwchar *s) {
     if (!AFIRMA_NO_NULO(s)) return nullptr;
-    return convertido<char>([v = vista_u(s)](char *d) { return ancho_a_utf8(v, d); });
+    return convertido<char>([v = vista_ancha(s)](char *d) { return ancho_a_utf8(v, d); });
 }
 
 vnwchar *unicode_convierte_UTF8_a_UNICODE(const char *s) {

@@ -5,7 +5,7 @@
 #include "foundation/texto/numero_int.h"
 #include <cstring>
 
-using vn::cifra_hexadecimal;
+using vn::texto::cifra_hexadecimal;
 
 char *vornstrhex_nousar_buffer_a_cadena_hexadecimal(const void *datos, uint32_t tamanyo) {
     if (!AFIRMA_NO_NULO(datos) || !AFIRMA(tamanyo < 1u << 30)) return nullptr;

@@ -1,13 +1,14 @@
 #define VN_MODULO "widestr (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/texto/widestr.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/cadena_int.h"
 #include "foundation/texto/formato_int.h"
 #include "foundation/texto/texto_priv.h"
 
 // Texts: made, copied, destroyed, joined, changed. widestr_consulta.cpp asks about them and takes parts.
 
 using namespace vn;
-using vista = std::basic_string_view<vnwchar>;
+using namespace vn::texto;
 
 static constexpr uint32_t MAX_TEXTO = 1u << 30;
 
@@ -30,11 +31,11 @@ vnwchar *widestr_nousar_crea_de_unidades(const vnwchar *str, uint32_t len, const
 
 vnwchar *widestr_nousar_copia(const vnwchar *s, const char *modulo, uint32_t linea) {
     if (NULOS1(s)) return nullptr;
-    return texto::copia(vista(s), QUIEN);
+    return texto::copia(vista_ancha(s), QUIEN);
 }
 
 vnwchar *widestr_nousar_copia_opcional(const vnwchar *s, const char *modulo, uint32_t linea) {
-    return s != nullptr ? texto::copia(vista(s), QUIEN) : nullptr;
+    return s != nullptr ? texto::copia(vista_ancha(s), QUIEN) : nullptr;
 }
 
 vnwchar *widestr_nousar_copia_si_no_null(const vnwchar *s, const char *modulo, uint32_t linea) {
@@ -72,7 +73,7 @@ vnwchar *copiaforu_nousar_formatea(const vnwchar *formato, ...) {
 
 void widestr_nousar_concatena(vnwchar **s, const vnwchar *t, const char *modulo, uint32_t linea) {
     if (NULOS3(s, *s, t)) return;
-    texto::alarga(s, vista(t), false, QUIEN);
+    texto::alarga(s, vista_ancha(t), false, QUIEN);
 }
 
 void widestr_nousar_cad_concatena(vnwchar **s, const vnwchar *t, const char *modulo, uint32_t linea) {
@@ -81,12 +82,12 @@ void widestr_nousar_cad_concatena(vnwchar **s, const vnwchar *t, const char *mod
 
 void widestr_nousar_concatena_caracter(vnwchar **s, vnwchar c, const char *modulo, uint32_t linea) {
     if (NULOS2(s, *s)) return;
-    if (c != 0) texto::alarga(s, vista(&c, 1), false, QUIEN);
+    if (c != 0) texto::alarga(s, vista_ancha(&c, 1), false, QUIEN);
 }
 
 void widestr_nousar_inserta_al_principio(vnwchar **s, const vnwchar *t, const char *modulo, uint32_t linea) {
     if (NULOS3(s, *s, t)) return;
-    texto::alarga(s, vista(t), true, QUIEN);
+    texto::alarga(s, vista_ancha(t), true, QUIEN);
 }
 
 void widestr_nousar_suprime_subcadena(vnwchar *s, const vnwchar *t, const char *modulo, uint32_t linea) {
@@ -101,7 +102,7 @@ vnbool widestr_nousar_suprime_subcadena_inicial(vnwchar **s, const vnwchar *t, c
 
 vnbool widestr_nousar_suprime_subcadena_final(vnwchar **s, const vnwchar *t, const char *modulo, uint32_t linea) {
     if (NULOS3(s, *s, t)) return FALSO;
-    const vista v(*s), final(t);
+    const vista_ancha v(*s), final(t);
     if (!texto::termina(v, final)) return FALSO;
     (*s)[v.size() - final.size()] = 0;
     return CIERTO;

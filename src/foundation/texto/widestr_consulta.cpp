@@ -1,5 +1,6 @@
 #define VN_MODULO "widestr (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/cadena_int.h"
 #include "foundation/texto/numero_int.h"
 #include "foundation/texto/texto_priv.h"
 #include "foundation/texto/widestr.h"
@@ -8,8 +9,8 @@
 // Questions about wide texts, and new texts that are parts of others.
 
 using namespace vn;
+using namespace vn::texto;
 using texto::NO_ESTA;
-using vista = std::basic_string_view<vnwchar>;
 
 namespace {
 
@@ -23,12 +24,12 @@ uint32_t letra(const vnwchar *&s) {
 
 uint32_t widestr_nousar_longitud(const vnwchar *s, const char *modulo, uint32_t linea) {
     if (NULOS1(s)) return 0;
-    return static_cast<uint32_t>(vista(s).size());
+    return static_cast<uint32_t>(vista_ancha(s).size());
 }
 
 vnbool widestr_nousar_cadenas_iguales(const vnwchar *a, const vnwchar *b, const char *modulo, uint32_t linea) {
     if (NULOS2(a, b)) return FALSO;
-    return vista(a) == vista(b);
+    return vista_ancha(a) == vista_ancha(b);
 }
 
 vnbool widestr_nousar_cadenas_iguales_may_o_min(const vnwchar *a, const vnwchar *b, const char *modulo,
@@ -94,49 +95,49 @@ vnbool widestr_nousar_es_subcadena_final(const vnwchar *s, const vnwchar *t, con
 
 vnwchar *widestr_nousar_strchr(const vnwchar *s, vnwchar c, const char *modulo, uint32_t linea) {
     if (NULOS1(s)) return nullptr;
-    const vnwchar *p = std::char_traits<vnwchar>::find(s, vista(s).size() + 1, c);
+    const vnwchar *p = std::char_traits<vnwchar>::find(s, vista_ancha(s).size() + 1, c);
     return const_cast<vnwchar *>(p);
 }
 
 vnwchar *widestr_nousar_subcadena(const vnwchar *s, uint32_t inicio, uint32_t n, const char *modulo, uint32_t linea) {
     if (NULOS1(s)) return nullptr;
-    const vista v(s);
+    const vista_ancha v(s);
     return texto::copia(v.substr(std::min<size_t>(inicio, v.size()), n), QUIEN);
 }
 
 vnwchar *widestr_nousar_subcadena_inicial(const vnwchar *s, uint32_t n, const char *modulo, uint32_t linea) {
     if (NULOS1(s)) return nullptr;
-    return texto::copia(vista(s).substr(0, n), QUIEN);
+    return texto::copia(vista_ancha(s).substr(0, n), QUIEN);
 }
 
 vnwchar *widestr_nousar_subcadena_final(const vnwchar *s, uint32_t n, const char *modulo, uint32_t linea) {
     if (NULOS1(s)) return nullptr;
-    const vista v(s);
+    const vista_ancha v(s);
     return texto::copia(v.substr(v.size() - std::min<size_t>(n, v.size())), QUIEN);
 }
 
 vnwchar *widestr_nousar_subcadena_anterior(const vnwchar *s, const vnwchar *t, const char *modulo, uint32_t linea) {
     if (NULOS2(s, t)) return nullptr;
-    return texto::copia(vista(s).substr(0, texto::busca<vnwchar>(s, t, 0, false)), QUIEN);
+    return texto::copia(vista_ancha(s).substr(0, texto::busca<vnwchar>(s, t, 0, false)), QUIEN);
 }
 
 vnwchar *widestr_nousar_subcadena_anterior_may_o_min(const vnwchar *s, const vnwchar *t, const char *modulo,
                                                      uint32_t linea) {
     if (NULOS2(s, t)) return nullptr;
-    return texto::copia(vista(s).substr(0, texto::busca<vnwchar>(s, t, 0, true)), QUIEN);
+    return texto::copia(vista_ancha(s).substr(0, texto::busca<vnwchar>(s, t, 0, true)), QUIEN);
 }
 
 vnwchar *widestr_nousar_subcadena_posterior(const vnwchar *s, const vnwchar *t, const char *modulo, uint32_t linea) {
     if (NULOS2(s, t)) return nullptr;
-    const vista v(s), buscado(t);
+    const vista_ancha v(s), buscado(t);
     const size_t i = texto::busca(v, buscado, 0, false);
-    return texto::copia(i == NO_ESTA ? vista() : v.substr(i + buscado.size()), QUIEN);
+    return texto::copia(i == NO_ESTA ? vista_ancha() : v.substr(i + buscado.size()), QUIEN);
 }
 
 vnwchar *widestr_nousar_extrae_token(const vnwchar *s, const vnwchar *separadores, uint32_t numero, const char *modulo,
                                      uint32_t linea) {
     if (NULOS2(s, separadores) || !AFIRMA(numero > 0)) return nullptr;
-    const vista v(s), cortes(separadores);
+    const vista_ancha v(s), cortes(separadores);
     size_t i = 0, fin = 0;
     for (uint32_t k = 0; k < numero; ++k) {
         i = v.find_first_not_of(cortes, fin);
@@ -149,7 +150,7 @@ vnwchar *widestr_nousar_extrae_token(const vnwchar *s, const vnwchar *separadore
 uint32_t widestr_nousar_lista_de_subcadenas_sin_eliminar_blancos(const vnwchar *s, const vnwchar *separadores,
                                                                  vnwchar ***lista, const char *modulo, uint32_t linea) {
     if (NULOS3(s, separadores, lista)) return 0;
-    const vista cortes(separadores);
+    const vista_ancha cortes(separadores);
     return texto::lista<vnwchar>(
         s, [cortes](vnwchar c) { return cortes.find(c) != NO_ESTA; }, lista, QUIEN);
 }
@@ -164,7 +165,7 @@ uint32_t widestr_nousar_lista_de_subcadenas_un_separador(const vnwchar *s, vnwch
 uint32_t widestr_nousar_numero_de_subcadenas(const vnwchar *s, vnwchar separador, const char *modulo, uint32_t linea) {
     if (NULOS1(s)) return 0;
     return texto::trocea<vnwchar>(
-        s, [separador](vnwchar c) { return c == separador; }, [](vista) {});
+        s, [separador](vnwchar c) { return c == separador; }, [](vista_ancha) {});
 }
 
 double widestr_nousar_atof(const vnwchar *s, const char *modulo, uint32_t linea) {

@@ -22,7 +22,7 @@ puntos con(std::initializer_list<Punto2D> dados) {
     return a;
 }
 bool es(const puntos &a, uint32_t i, double x, double y) {
-    const Punto2D p = vn::tramo(a.get())[i];
+    const Punto2D p = vn::listas::tramo(a.get())[i];
     return cerca(p.x, x, 50.) && cerca(p.y, y, 50.);
 }
 
@@ -49,7 +49,8 @@ PRUEBA(arr_geometria, las_figuras_tienen_los_pasos_de_su_parte_de_la_vuelta_y_se
         const puntos a = con({});
         arr_AnyadirArcoPunto2D(a.get(), 10., 20., 5., f.inicial, f.final, f.por_vuelta);
         ASSERT_EQ(arr_NumElemsPunto2D(a.get()), f.puntos) << &f - filas;
-        for (const Punto2D &p : vn::tramo(a.get())) EXPECT_TRUE(cerca(std::hypot(p.x - 10., p.y - 20.), 5., 5.));
+        for (const Punto2D &p : vn::listas::tramo(a.get()))
+            EXPECT_TRUE(cerca(std::hypot(p.x - 10., p.y - 20.), 5., 5.));
     }
     const puntos a = con({{7., 7.}});
     arr_AnyadirArcoPunto2D(a.get(), 0., 0., 1., PI / 2., -PI / 2., 4);           // clockwise

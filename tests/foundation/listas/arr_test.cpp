@@ -44,8 +44,8 @@ int compara_clave(const int *a, const viga *b) { return (*a > b->clave) - (*a < 
         arr##S *b = arr_Copia##S(a);                                                                                   \
         EXPECT_EQ(arr_SonIguales##S(a, b), CIERTO);                                                                    \
         arr_Concatena##S(a, a);                                                                                        \
-        ASSERT_EQ(vn::tramo(a).size(), 204u);                                                                          \
-        EXPECT_TRUE(std::ranges::equal(vn::tramo(a).subspan(102), vn::tramo(std::as_const(b))));                       \
+        ASSERT_EQ(vn::listas::tramo(a).size(), 204u);                                                                  \
+        EXPECT_TRUE(std::ranges::equal(vn::listas::tramo(a).subspan(102), vn::listas::tramo(std::as_const(b))));       \
         EXPECT_EQ(arr_SonIguales##S(a, b), FALSO);                                                                     \
         EXPECT_EQ(arr_Get##S(a, 102), cero);                                                                           \
         EXPECT_EQ(arr_Get##S(a, 103), uno);                                                                            \
@@ -181,7 +181,7 @@ PRUEBA(arr, los_puntos_van_por_coordenadas) {
     EXPECT_EQ(arr_SonIgualesPunto3DConTolerancia(a, b, 0.01), CIERTO);
     EXPECT_EQ(arr_SonIgualesPunto3DConTolerancia(a, b, 0.0001), FALSO);
     arr_BorrarPunto3D(b, 1);
-    EXPECT_EQ(vn::tramo(b)[1].x, 0.0);
+    EXPECT_EQ(vn::listas::tramo(b)[1].x, 0.0);
     EXPECT_EQ(arr_SonIgualesPunto3DConTolerancia(a, b, 100), FALSO);
     ESPERA_INFORME("i < num_elementos", arr_GetPunto3D(b, 2, &x, &y, &z));
     EXPECT_EQ(z, 0.0);

@@ -8,16 +8,16 @@
 
 namespace {
 
-constexpr auto PLANOS = vn::mensaje_u("prueba.msg", 1,
-                                      {
-                                          {vn::ES, VNU("<100001>%d planos de %s")},
-                                          {vn::EN, VNU("<100001>%d drawings of %s")},
-                                          {vn::CA, VNU("<100001>%d plànols de %s")},
-                                          {vn::IT, VNU("<100001>%d disegni di %s")},
-                                          {vn::PT, VNU("<100001>%d desenhos de %s")},
-                                          {vn::JA, VNU("<100001>%d 枚 %s")},
-                                          {vn::ES_AM, VNU("<100001>%d láminas de %s")},
-                                      });
+constexpr auto PLANOS = vn::texto::mensaje_u("prueba.msg", 1,
+                                             {
+                                                 {vn::texto::ES, VNU("<100001>%d planos de %s")},
+                                                 {vn::texto::EN, VNU("<100001>%d drawings of %s")},
+                                                 {vn::texto::CA, VNU("<100001>%d plànols de %s")},
+                                                 {vn::texto::IT, VNU("<100001>%d disegni di %s")},
+                                                 {vn::texto::PT, VNU("<100001>%d desenhos de %s")},
+                                                 {vn::texto::JA, VNU("<100001>%d 枚 %s")},
+                                                 {vn::texto::ES_AM, VNU("<100001>%d láminas de %s")},
+                                             });
 void planos(vnmensaje *m) { PLANOS.rellena(m); }
 
 // An ANSI group: the Russian cell is "<32307>Да" coded, the Polish one is badly coded, the others have their faults.

@@ -45,8 +45,8 @@ PRUEBA(numero, reales) {
         {"0.1e-100000000000000000000000000", 0, 32, true},
     };
     for (const auto &f : filas) {
-        const auto a = lee_double(f.texto);
-        const auto w = lee_double(ancho(f.texto).c_str());
+        const auto a = texto::lee_double(f.texto);
+        const auto w = texto::lee_double(ancho(f.texto).c_str());
         EXPECT_EQ(a.valor, f.valor) << f.texto;
         EXPECT_EQ(w.valor, f.valor) << f.texto;
         EXPECT_EQ(a.consumido, f.consumido) << f.texto;
@@ -54,18 +54,18 @@ PRUEBA(numero, reales) {
         EXPECT_EQ(a.desborda, f.desborda) << f.texto;
         EXPECT_EQ(w.desborda, f.desborda) << f.texto;
     }
-    EXPECT_TRUE(std::signbit(lee_double("-0").valor));
-    EXPECT_TRUE(std::isnan(lee_double("nan ").valor));
+    EXPECT_TRUE(std::signbit(texto::lee_double("-0").valor));
+    EXPECT_TRUE(std::isnan(texto::lee_double("nan ").valor));
     // Long enough for no buffer: the size of the text, not of its value, decides the road.
     const std::string ceros = "0." + std::string(5000, '0') + "1e5001", nueves = "1" + std::string(400, '0') + ".0";
-    EXPECT_EQ(lee_double(ancho(ceros).c_str()).valor, 1.0);
-    EXPECT_EQ(lee_double(ancho(nueves).c_str()).valor, INF);
+    EXPECT_EQ(texto::lee_double(ancho(ceros).c_str()).valor, 1.0);
+    EXPECT_EQ(texto::lee_double(ancho(nueves).c_str()).valor, INF);
     // Only as much as is given is looked at.
-    EXPECT_EQ(lee_double("123456", 3).valor, 123);
+    EXPECT_EQ(texto::lee_double("123456", 3).valor, 123);
 }
 
 PRUEBA(numero, enteros) {
-    const auto i32 = [](const char *t, int base = 10) { return lee_entero<int32_t>(t, base); };
+    const auto i32 = [](const char *t, int base = 10) { return texto::lee_entero<int32_t>(t, base); };
     EXPECT_EQ(i32("  -12abc").valor, -12);
     EXPECT_EQ(i32("  -12abc").consumido, 5u);
     EXPECT_EQ(i32("2147483647").valor, INT32_MAX);
@@ -78,11 +78,11 @@ PRUEBA(numero, enteros) {
     EXPECT_EQ(i32("0x1F", 0).valor, 31);
     EXPECT_EQ(i32("017", 0).valor, 15);
     EXPECT_EQ(i32("0xg", 16).consumido, 1u);
-    EXPECT_EQ(lee_entero<uint32_t>("-1").valor, 0u);
-    EXPECT_TRUE(lee_entero<uint32_t>("-1").desborda);
-    EXPECT_EQ(lee_entero<uint64_t>("18446744073709551615").valor, UINT64_MAX);
-    EXPECT_TRUE(lee_entero<uint64_t>("18446744073709551616").desborda);
-    EXPECT_EQ(lee_entero<int64_t>("-9223372036854775808").valor, INT64_MIN);
-    EXPECT_EQ(lee_entero<int64_t>(VNU("\t+7")).valor, 7);
+    EXPECT_EQ(texto::lee_entero<uint32_t>("-1").valor, 0u);
+    EXPECT_TRUE(texto::lee_entero<uint32_t>("-1").desborda);
+    EXPECT_EQ(texto::lee_entero<uint64_t>("18446744073709551615").valor, UINT64_MAX);
+    EXPECT_TRUE(texto::lee_entero<uint64_t>("18446744073709551616").desborda);
+    EXPECT_EQ(texto::lee_entero<int64_t>("-9223372036854775808").valor, INT64_MIN);
+    EXPECT_EQ(texto::lee_entero<int64_t>(VNU("\t+7")).valor, 7);
     EXPECT_EQ(widestr_atoul(VNU("4294967296")), UINT32_MAX);
 }

@@ -18,7 +18,8 @@ PRUEBA(tablas, textos_de_numeros) {
         for (std::string media, simple, doble, texto; f >> media >> simple >> doble >> texto;) {
             ++filas;
             const double esperado = std::bit_cast<double>(std::stoull(doble, nullptr, 16));
-            for (const double leido : {lee_double(texto.c_str()).valor, lee_double(ancho(texto).c_str()).valor})
+            for (const double leido :
+                 {texto::lee_double(texto.c_str()).valor, texto::lee_double(ancho(texto).c_str()).valor})
                 EXPECT_TRUE(std::isnan(esperado) ? std::isnan(leido)
                                                  : std::bit_cast<uint64_t>(leido) == std::bit_cast<uint64_t>(esperado))
                     << texto << ": " << leido << ", not " << esperado;

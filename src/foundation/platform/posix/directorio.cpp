@@ -68,17 +68,17 @@ bool lee_entrada(DIR *lista, bool con_datos, ficha &f) {
     return false;
 }
 
-bool hay_permiso(const texto &fichero, int cual) {
+bool hay_permiso(const cadena_ancha &fichero, int cual) {
     const ruta_en r(fichero);
     return ::faccessat(r.directorio(), r.nombre(), cual, AT_EACCESS) == 0;
 }
 
-texto sin_separador_final(texto t) {
+cadena_ancha sin_separador_final(cadena_ancha t) {
     while (t.size() > 1 && (t.back() == VNU('/') || t.back() == VNU('\\'))) t.pop_back();
     return t;
 }
 
-std::optional<texto> casa() {
+std::optional<cadena_ancha> casa() {
     if (auto v = variable("HOME"); v && v->front() == SEPARADOR) return v;
     std::array<char, 16384> sitio{};
     struct passwd p {
@@ -88,20 +88,20 @@ std::optional<texto> casa() {
 }
 
 // The directory that a variable names, or one below the user's home.
-std::optional<texto> de_usuario(const char *nombre, vista en_casa) {
+std::optional<cadena_ancha> de_usuario(const char *nombre, vista_ancha en_casa) {
     if (auto v = variable(nombre); v && v->front() == SEPARADOR) return sin_separador_final(*v);
-    if (auto c = casa()) return sin_separador_final(*c) + SEPARADOR + texto(en_casa);
+    if (auto c = casa()) return sin_separador_final(*c) + SEPARADOR + cadena_ancha(en_casa);
     return std::nullopt;
 }
 
 } // namespace
 
-bool consulta(const texto &ruta, ficha &f) {
+bool consulta(const cadena_ancha &ruta, ficha &f) {
     const ruta_en r(ruta);
     return lee_ficha(r.directorio(), r.nombre(), f);
 }
 
-bool es_enlace(const texto &ruta) {
+bool es_enlace(const cadena_ancha &ruta) {
     // With a separator at its end the name would be that of what the link leads to.
     const ruta_en r(sin_separador_final(ruta));
     struct stat s {};
@@ -113,8 +113,8 @@ struct recorrido::interior {
     bool con_datos;
 };
 
-recorrido::recorrido(const texto &directorio, bool con_datos) : interior_(std::make_unique<interior>()) {
-    const ruta_en r(directorio.empty() ? texto(VNU(".")) : directorio);
+recorrido::recorrido(const cadena_ancha &directorio, bool con_datos) : interior_(std::make_unique<interior>()) {
+    const ruta_en r(directorio.empty() ? cadena_ancha(VNU(".")) : directorio);
     *interior_ = {abre_en(r.directorio(), r.nombre(), 0), con_datos};
 }
 
@@ -136,7 +136,7 @@ struct descenso::interior {
     std::vector<std::pair<dev_t, ino_t>> de_arriba;
 };
 
-descenso::descenso(const texto &raiz) : interior_(std::make_unique<interior>()) {
+descenso::descenso(const cadena_ancha &raiz) : interior_(std::make_unique<interior>()) {
     const ruta_en r(sin_separador_final(raiz));
     interior_->actual = abre_en(r.directorio(), r.nombre(), O_NOFOLLOW);
 }
@@ -151,7 +151,7 @@ bool descenso::lista(std::vector<ficha> &contenido) {
     return errno == 0;
 }
 
-bool descenso::entra(const texto &nombre) {
+bool descenso::entra(const cadena_ancha &nombre) {
     struct stat s {};
     const int en = ::dirfd(interior_->actual.get());
     lista_abierta dentro = abre_en(en, ruta_del_sistema(nombre).c_str(), O_NOFOLLOW);
@@ -171,13 +171,13 @@ bool descenso::sal() {
     return true;
 }
 
-bool descenso::borra(const texto &nombre) {
+bool descenso::borra(const cadena_ancha &nombre) {
     const int en = ::dirfd(interior_->actual.get());
     const std::string b = ruta_del_sistema(nombre);
     return ::unlinkat(en, b.c_str(), 0) == 0 || (errno == EISDIR && ::unlinkat(en, b.c_str(), AT_REMOVEDIR) == 0);
 }
 
-bool crea_directorios(const texto &ruta) {
+bool crea_directorios(const cadena_ancha &ruta) {
     const std::string b = ruta_del_sistema(ruta);
     descriptor en(AT_FDCWD);
     for (size_t i = 0, fin = 0; i < b.size(); i = fin) {
@@ -195,44 +195,46 @@ bool crea_directorios(const texto &ruta) {
     return true;
 }
 
-bool borra_directorio(const texto &ruta) {
+bool borra_directorio(const cadena_ancha &ruta) {
     const ruta_en r(sin_separador_final(ruta));
     return ::unlinkat(r.directorio(), r.nombre(), es_enlace(ruta) ? 0 : AT_REMOVEDIR) == 0;
 }
 
-bool puede_leer(const texto &fichero) { return hay_permiso(fichero, R_OK); }
-bool puede_escribir(const texto &fichero) { return hay_permiso(fichero, W_OK); }
-bool es_ejecutable(const texto &fichero) { return hay_permiso(fichero, X_OK); }
+bool puede_leer(const cadena_ancha &fichero) { return hay_permiso(fichero, R_OK); }
+bool puede_escribir(const cadena_ancha &fichero) { return hay_permiso(fichero, W_OK); }
+bool es_ejecutable(const cadena_ancha &fichero) { return hay_permiso(fichero, X_OK); }
 
-std::optional<texto> variable(const char *nombre) {
+std::optional<cadena_ancha> variable(const char *nombre) {
     const char *v = std::getenv(nombre);
     if (v == nullptr || *v == 0) return std::nullopt;
     return ruta_ancha(v);
 }
 
-texto directorio_temporal() {
+cadena_ancha directorio_temporal() {
     auto v = variable("TMPDIR");
-    return v && v->front() == SEPARADOR ? sin_separador_final(*v) : texto(VNU("/tmp"));
+    return v && v->front() == SEPARADOR ? sin_separador_final(*v) : cadena_ancha(VNU("/tmp"));
 }
 
-texto ruta_del_programa() {
+cadena_ancha ruta_del_programa() {
     std::string b(4096, '\0');
     const ssize_t n = ::readlink("/proc/self/exe", b.data(), b.size());
-    return n > 0 ? ruta_ancha(std::string_view(b).substr(0, static_cast<size_t>(n))) : texto();
+    return n > 0 ? ruta_ancha(std::string_view(b).substr(0, static_cast<size_t>(n))) : cadena_ancha();
 }
 
-std::optional<texto> base_de_configuracion() { return de_usuario("XDG_CONFIG_HOME", VNU(".config")); }
+std::optional<cadena_ancha> base_de_configuracion() { return de_usuario("XDG_CONFIG_HOME", VNU(".config")); }
 
-texto unidad_escribible() { return de_usuario("XDG_DATA_HOME", VNU(".local/share")).value_or(directorio_temporal()); }
+cadena_ancha unidad_escribible() {
+    return de_usuario("XDG_DATA_HOME", VNU(".local/share")).value_or(directorio_temporal());
+}
 
-std::vector<texto> directorios_de_programas() {
-    std::vector<texto> r;
-    const texto todos = variable("PATH").value_or(texto(VNU("/usr/local/bin:/usr/bin:/bin"))) + VNU(':');
-    for (size_t i = 0, j = 0; (j = todos.find(VNU(':'), i)) != texto::npos; i = j + 1)
-        r.push_back(j > i ? todos.substr(i, j - i) : texto(VNU(".")));
+std::vector<cadena_ancha> directorios_de_programas() {
+    std::vector<cadena_ancha> r;
+    const cadena_ancha todos = variable("PATH").value_or(cadena_ancha(VNU("/usr/local/bin:/usr/bin:/bin"))) + VNU(':');
+    for (size_t i = 0, j = 0; (j = todos.find(VNU(':'), i)) != cadena_ancha::npos; i = j + 1)
+        r.push_back(j > i ? todos.substr(i, j - i) : cadena_ancha(VNU(".")));
     return r;
 }
 
-std::vector<texto> terminaciones_de_programas() { return {texto()}; }
+std::vector<cadena_ancha> terminaciones_de_programas() { return {cadena_ancha()}; }
 
 } // namespace vn::plat

@@ -14,8 +14,8 @@ void *como_handle(int fd) { return reinterpret_cast<void *>(static_cast<intptr_t
 
 } // namespace
 
-void *abre_fichero(const texto &nombre, uint32_t acceso, uint32_t, void *, uint32_t disposicion, uint32_t atributos,
-                   void *) {
+void *abre_fichero(const cadena_ancha &nombre, uint32_t acceso, uint32_t, void *, uint32_t disposicion,
+                   uint32_t atributos, void *) {
     const bool lee = (acceso & VNLONGPATH_GENERIC_READ) != 0, escribe = (acceso & VNLONGPATH_GENERIC_WRITE) != 0;
     const std::string ruta = ruta_del_sistema(nombre);
     if (disposicion == VNLONGPATH_TRUNCATE_EXISTING && !escribe) {
@@ -42,7 +42,7 @@ bool cierra_fichero(void *fichero) {
     return fd > 0 && fd <= INT_MAX && ::close(static_cast<int>(fd)) == 0;
 }
 
-uint32_t atributos_de(const texto &nombre) {
+uint32_t atributos_de(const cadena_ancha &nombre) {
     ficha f;
     return consulta(nombre, f) || f.es_enlace ? f.atributos : VNLONGPATH_INVALID_FILE_ATTRIBUTES;
 }

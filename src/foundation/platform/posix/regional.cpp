@@ -10,7 +10,6 @@
 namespace vn::plat {
 namespace {
 
-using texto = region::texto;
 using vista = std::basic_string_view<vnwchar>;
 
 template <auto CIERRA> struct cierra {
@@ -40,8 +39,8 @@ std::string canonico(const std::string &nombre) {
 }
 
 // Runs a call of the tables that fills room and says how much it needs.
-template <class F> texto con_sitio(F llama) {
-    texto t(64, 0);
+template <class F> cadena_ancha con_sitio(F llama) {
+    cadena_ancha t(64, 0);
     for (int vez = 0; vez < 2; ++vez) {
         UErrorCode error = U_ZERO_ERROR;
         const int32_t n = llama(t.data(), static_cast<int32_t>(t.size()), &error);
@@ -88,13 +87,13 @@ size_t fin_de_cita(vista s, size_t i) {
     return i;
 }
 
-texto patron_de(const UDateFormat *f) {
+cadena_ancha patron_de(const UDateFormat *f) {
     return con_sitio([&](vnwchar *p, int32_t n, UErrorCode *e) { return udat_toPattern(f, 0, p, n, e); });
 }
 
 // Quoting is the same in both; a year has four digits, as in a short date of Windows.
-texto modelo_de(const texto &patron) {
-    texto modelo;
+cadena_ancha modelo_de(const cadena_ancha &patron) {
+    cadena_ancha modelo;
     for (size_t i = 0; i < patron.size();) {
         const vnwchar c = patron[i];
         size_t fin = i + 1;
@@ -114,8 +113,8 @@ texto modelo_de(const texto &patron) {
 }
 
 // The text between the first two fields of a picture.
-texto separador_de(vista modelo) {
-    texto s;
+cadena_ancha separador_de(vista modelo) {
+    cadena_ancha s;
     size_t i = modelo.find_first_of(u"dMyhHms");
     if (i == vista::npos) return s;
     i = modelo.find_first_not_of(modelo[i], i);
@@ -138,8 +137,8 @@ vnwchar orden_de(vista modelo) {
 
 // ---------------------------------------------------------------- the settings
 
-template <size_t N>
-void lee_nombres(const UDateFormat *f, UDateFormatSymbolType que, int32_t primero, std::array<texto, N> &nombres) {
+template <size_t N> void lee_nombres(const UDateFormat *f, UDateFormatSymbolType que, int32_t primero,
+                                     std::array<cadena_ancha, N> &nombres) {
     for (size_t i = 0; i < N; ++i)
         nombres[i] = con_sitio([&](vnwchar *p, int32_t n, UErrorCode *e) {
             return udat_getSymbols(f, que, primero + static_cast<int32_t>(i), p, n, e);
@@ -160,25 +159,25 @@ bool lee_fechas(const std::string &nombre, region &r) {
     const fechas corta = abre(suyo, UDAT_NONE, UDAT_SHORT), larga = abre(suyo, UDAT_NONE, UDAT_FULL);
     const fechas hora = abre(suyo, UDAT_MEDIUM, UDAT_NONE);
     if (!corta || !larga || !hora) return false;
-    const texto patron_largo = patron_de(larga.get());
+    const cadena_ancha patron_largo = patron_de(larga.get());
     r.fecha_corta = modelo_de(patron_de(corta.get()));
     r.fecha_larga = modelo_de(patron_largo);
     r.hora = modelo_de(patron_de(hora.get()));
     r.separador_fechas = separador_de(r.fecha_corta);
     r.separador_horas = separador_de(r.hora);
     r.orden_fecha = orden_de(r.fecha_corta);
-    r.modo_horario = r.hora.find(u'H') != texto::npos ? u'1' : u'0';
+    r.modo_horario = r.hora.find(u'H') != cadena_ancha::npos ? u'1' : u'0';
     const UDateFormat *f = larga.get();
     lee_nombres(f, UDAT_STANDALONE_WEEKDAYS, 1, r.dias);
     lee_nombres(f, UDAT_STANDALONE_SHORT_WEEKDAYS, 1, r.dias_abreviados);
     // A region says which form its dates take.
-    const bool solos = patron_largo.find(u'c') != texto::npos;
+    const bool solos = patron_largo.find(u'c') != cadena_ancha::npos;
     lee_nombres(f, solos ? UDAT_STANDALONE_WEEKDAYS : UDAT_WEEKDAYS, 1, r.dias_en_fecha);
     lee_nombres(f, solos ? UDAT_STANDALONE_SHORT_WEEKDAYS : UDAT_SHORT_WEEKDAYS, 1, r.dias_abreviados_en_fecha);
     lee_nombres(f, UDAT_STANDALONE_MONTHS, 0, r.meses);
     lee_nombres(f, UDAT_SHORT_MONTHS, 0, r.meses_abreviados);
     lee_nombres(f, UDAT_MONTHS, 0, r.meses_en_fecha);
-    std::array<texto, 2> mitades, eras;
+    std::array<cadena_ancha, 2> mitades, eras;
     lee_nombres(f, UDAT_AM_PMS, 0, mitades);
     lee_nombres(f, UDAT_ERAS, 0, eras);
     r.antes_de_mediodia = mitades[0];

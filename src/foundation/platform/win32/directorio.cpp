@@ -24,7 +24,7 @@ struct cierra_handle {
 using handle = std::unique_ptr<void, cierra_handle>;
 
 // Opens what is there without getting in anybody's way; null if it cannot be.
-handle abre(const texto &ruta, DWORD acceso) {
+handle abre(const cadena_ancha &ruta, DWORD acceso) {
     const HANDLE h =
         CreateFileW(ruta_del_sistema(ruta).c_str(), acceso, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                     nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
@@ -44,7 +44,7 @@ template <class T> void copia(const T &d, ficha &f) {
     f.fecha = segundos(d.ftLastWriteTime);
 }
 
-bool sigue_enlace(const texto &ruta, ficha &f) {
+bool sigue_enlace(const cadena_ancha &ruta, ficha &f) {
     const handle h = abre(ruta, FILE_READ_ATTRIBUTES);
     BY_HANDLE_FILE_INFORMATION d{};
     if (!h || !GetFileInformationByHandle(h.get(), &d)) return false;
@@ -58,18 +58,18 @@ bool lleva_a_otro(const WIN32_FIND_DATAW &d) {
     return (d.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(d.dwReserved0);
 }
 
-bool busca(const texto &patron, WIN32_FIND_DATAW &d, HANDLE &h) {
+bool busca(const cadena_ancha &patron, WIN32_FIND_DATAW &d, HANDLE &h) {
     h = FindFirstFileExW(ruta_del_sistema(patron).c_str(), FindExInfoBasic, &d, FindExSearchNameMatch, nullptr, 0);
     return h != INVALID_HANDLE_VALUE;
 }
 
-texto sin_separador_final(texto t) {
+cadena_ancha sin_separador_final(cadena_ancha t) {
     while (!t.empty() && (t.back() == L'\\' || t.back() == L'/')) t.pop_back();
     return t;
 }
 
 // True also if the directory was there.
-bool crea_directorio(const texto &ruta) {
+bool crea_directorio(const cadena_ancha &ruta) {
     const std::wstring r = ruta_del_sistema(ruta);
     if (CreateDirectoryW(r.c_str(), nullptr)) return true;
     const DWORD a = GetFileAttributesW(r.c_str());
@@ -77,7 +77,7 @@ bool crea_directorio(const texto &ruta) {
 }
 
 // Takes away what keeps a file, or the link itself, from being removed though its directory may be written.
-void quita_proteccion(const texto &del_sistema) {
+void quita_proteccion(const cadena_ancha &del_sistema) {
     const DWORD a = GetFileAttributesW(del_sistema.c_str());
     if (a == INVALID_FILE_ATTRIBUTES || (a & FILE_ATTRIBUTE_READONLY) == 0) return;
     const HANDLE h =
@@ -90,14 +90,14 @@ void quita_proteccion(const texto &del_sistema) {
     CloseHandle(h);
 }
 
-bool se_crea_en(const texto &raiz) {
-    const texto prueba = raiz + L"\\~nucleos" + std::to_wstring(GetCurrentProcessId());
+bool se_crea_en(const cadena_ancha &raiz) {
+    const cadena_ancha prueba = raiz + L"\\~nucleos" + std::to_wstring(GetCurrentProcessId());
     return CreateDirectoryW(prueba.c_str(), nullptr) && RemoveDirectoryW(prueba.c_str());
 }
 
 // Grows the room until the call, which answers the length that it needs or has written, fits.
-template <class F> texto con_sitio(F llama) {
-    texto t(MAX_PATH, L'\0');
+template <class F> cadena_ancha con_sitio(F llama) {
+    cadena_ancha t(MAX_PATH, L'\0');
     for (;;) {
         const DWORD n = llama(t.data(), static_cast<DWORD>(t.size()));
         if (n < t.size()) {
@@ -110,8 +110,8 @@ template <class F> texto con_sitio(F llama) {
 
 } // namespace
 
-bool es_enlace(const texto &ruta) {
-    const texto limpia = sin_separador_final(ruta);
+bool es_enlace(const cadena_ancha &ruta) {
+    const cadena_ancha limpia = sin_separador_final(ruta);
     if ((GetFileAttributesW(ruta_del_sistema(limpia).c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
     WIN32_FIND_DATAW d{};
     HANDLE h = nullptr;
@@ -120,7 +120,7 @@ bool es_enlace(const texto &ruta) {
     return lleva_a_otro(d);
 }
 
-bool consulta(const texto &ruta, ficha &f) {
+bool consulta(const cadena_ancha &ruta, ficha &f) {
     f = {};
     WIN32_FILE_ATTRIBUTE_DATA d{};
     if (!GetFileAttributesExW(ruta_del_sistema(ruta).c_str(), GetFileExInfoStandard, &d)) return false;
@@ -142,15 +142,15 @@ void cierra(HANDLE &busqueda) {
 } // namespace
 
 struct recorrido::interior {
-    texto directorio;
+    cadena_ancha directorio;
     HANDLE busqueda;
     WIN32_FIND_DATAW dato;
     bool pendiente;
 };
 
-recorrido::recorrido(const texto &directorio, bool) : interior_(std::make_unique<interior>()) {
+recorrido::recorrido(const cadena_ancha &directorio, bool) : interior_(std::make_unique<interior>()) {
     interior_->directorio = directorio;
-    texto &d = interior_->directorio;
+    cadena_ancha &d = interior_->directorio;
     if (!d.empty() && d.back() != L'\\' && d.back() != L'/' && d.back() != L':') d += L'\\';
     interior_->pendiente = busca(d + L"*", interior_->dato, interior_->busqueda);
     // The root of an empty disk is a directory with nothing in it.
@@ -167,14 +167,14 @@ bool recorrido::siguiente(ficha &f) {
         const WIN32_FIND_DATAW d = i.dato;
         i.pendiente = FindNextFileW(i.busqueda, &i.dato) != 0;
         if (!i.pendiente && GetLastError() != ERROR_NO_MORE_FILES) cierra(i.busqueda);
-        const vista nombre = d.cFileName;
+        const vista_ancha nombre = d.cFileName;
         if (nombre == L"." || nombre == L"..") continue;
         f = {};
         copia(d, f);
         if (lleva_a_otro(d)) {
             const bool es_directorio = f.es_directorio;
             f.es_enlace = true;
-            sigue_enlace(i.directorio + texto(nombre), f);
+            sigue_enlace(i.directorio + cadena_ancha(nombre), f);
             f.es_directorio = es_directorio;
         }
         f.nombre = nombre;
@@ -190,10 +190,10 @@ struct descenso::interior {
         handle sujeto;
         size_t longitud; // of its path
     };
-    texto ruta;
+    cadena_ancha ruta;
     std::vector<nivel> niveles;
 
-    texto ruta_de(const texto &nombre) const { return ruta_del_sistema(ruta + L'\\' + nombre); }
+    cadena_ancha ruta_de(const cadena_ancha &nombre) const { return ruta_del_sistema(ruta + L'\\' + nombre); }
     bool sujeta() {
         handle h(CreateFileW(ruta_del_sistema(ruta).c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE,
                              nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT,
@@ -209,7 +209,7 @@ struct descenso::interior {
     }
 };
 
-descenso::descenso(const texto &raiz) : interior_(std::make_unique<interior>()) {
+descenso::descenso(const cadena_ancha &raiz) : interior_(std::make_unique<interior>()) {
     interior_->ruta = sin_separador_final(raiz);
     interior_->sujeta();
 }
@@ -224,7 +224,7 @@ bool descenso::lista(std::vector<ficha> &contenido) {
     return r.abierto();
 }
 
-bool descenso::entra(const texto &nombre) {
+bool descenso::entra(const cadena_ancha &nombre) {
     interior_->ruta += L'\\' + nombre;
     const bool dentro = interior_->sujeta();
     if (!dentro) interior_->ruta.resize(interior_->niveles.back().longitud);
@@ -237,19 +237,19 @@ bool descenso::sal() {
     return true;
 }
 
-bool descenso::borra(const texto &nombre) {
-    const texto r = interior_->ruta_de(nombre);
+bool descenso::borra(const cadena_ancha &nombre) {
+    const cadena_ancha r = interior_->ruta_de(nombre);
     quita_proteccion(r);
     return DeleteFileW(r.c_str()) || RemoveDirectoryW(r.c_str());
 }
 
-bool crea_directorios(const texto &ruta) {
-    const texto entera = sin_separador_final(ruta);
+bool crea_directorios(const cadena_ancha &ruta) {
+    const cadena_ancha entera = sin_separador_final(ruta);
     size_t fin = entera.size();
     // Upwards to the first that is there or can be made, and down again.
     while (fin > 0 && !crea_directorio(entera.substr(0, fin))) {
         const size_t nombre = entera.find_last_of(L"\\/", fin - 1);
-        if (nombre == texto::npos || nombre == 0) return false;
+        if (nombre == cadena_ancha::npos || nombre == 0) return false;
         fin = entera.find_last_not_of(L"\\/", nombre) + 1;
     }
     if (fin == 0) return entera.empty();
@@ -260,49 +260,49 @@ bool crea_directorios(const texto &ruta) {
     return true;
 }
 
-bool borra_directorio(const texto &ruta) { return RemoveDirectoryW(ruta_del_sistema(ruta).c_str()) != 0; }
+bool borra_directorio(const cadena_ancha &ruta) { return RemoveDirectoryW(ruta_del_sistema(ruta).c_str()) != 0; }
 
-bool puede_leer(const texto &fichero) { return abre(fichero, GENERIC_READ) != nullptr; }
-bool puede_escribir(const texto &fichero) { return abre(fichero, GENERIC_WRITE) != nullptr; }
-bool es_ejecutable(const texto &) { return true; }
+bool puede_leer(const cadena_ancha &fichero) { return abre(fichero, GENERIC_READ) != nullptr; }
+bool puede_escribir(const cadena_ancha &fichero) { return abre(fichero, GENERIC_WRITE) != nullptr; }
+bool es_ejecutable(const cadena_ancha &) { return true; }
 
-std::optional<texto> variable(const char *nombre) {
+std::optional<cadena_ancha> variable(const char *nombre) {
     const std::wstring n(nombre, nombre + strlen(nombre));
-    texto v = con_sitio([&](LPWSTR p, DWORD k) { return GetEnvironmentVariableW(n.c_str(), p, k); });
+    cadena_ancha v = con_sitio([&](LPWSTR p, DWORD k) { return GetEnvironmentVariableW(n.c_str(), p, k); });
     if (v.empty()) return std::nullopt;
     return v;
 }
 
-texto directorio_temporal() {
+cadena_ancha directorio_temporal() {
     return sin_separador_final(con_sitio([](LPWSTR p, DWORD k) { return GetTempPathW(k, p); }));
 }
 
-texto ruta_del_programa() {
+cadena_ancha ruta_del_programa() {
     return con_sitio([](LPWSTR p, DWORD k) { return GetModuleFileNameW(nullptr, p, k); });
 }
 
-std::optional<texto> base_de_configuracion() {
+std::optional<cadena_ancha> base_de_configuracion() {
     if (auto v = variable("APPDATA")) return sin_separador_final(*v);
     std::wstring sitio(MAX_PATH, L'\0');
     if (FAILED(SHGetFolderPathW(nullptr, CSIDL_APPDATA | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT, sitio.data())))
         return std::nullopt;
-    return sin_separador_final(texto(sitio.c_str()));
+    return sin_separador_final(cadena_ancha(sitio.c_str()));
 }
 
-texto unidad_escribible() {
-    const texto programa = ruta_del_programa();
+cadena_ancha unidad_escribible() {
+    const cadena_ancha programa = ruta_del_programa();
     if (programa.size() > 2 && programa[1] == L':' && se_crea_en(programa.substr(0, 2))) return programa.substr(0, 2);
-    const texto sistema = con_sitio([](LPWSTR p, DWORD k) { return GetWindowsDirectoryW(p, k); });
-    return sistema.size() > 1 && sistema[1] == L':' ? sistema.substr(0, 2) : texto(L"C:");
+    const cadena_ancha sistema = con_sitio([](LPWSTR p, DWORD k) { return GetWindowsDirectoryW(p, k); });
+    return sistema.size() > 1 && sistema[1] == L':' ? sistema.substr(0, 2) : cadena_ancha(L"C:");
 }
 
 namespace {
 
-std::vector<texto> separados(const texto &todos) {
-    std::vector<texto> r;
-    const texto t = todos + L";";
-    for (size_t i = 0, j = 0; (j = t.find(L';', i)) != texto::npos; i = j + 1) {
-        texto uno = t.substr(i, j - i);
+std::vector<cadena_ancha> separados(const cadena_ancha &todos) {
+    std::vector<cadena_ancha> r;
+    const cadena_ancha t = todos + L";";
+    for (size_t i = 0, j = 0; (j = t.find(L';', i)) != cadena_ancha::npos; i = j + 1) {
+        cadena_ancha uno = t.substr(i, j - i);
         std::erase(uno, L'"');
         if (!uno.empty()) r.push_back(uno);
     }
@@ -312,18 +312,19 @@ std::vector<texto> separados(const texto &todos) {
 } // namespace
 
 // As the system looks for a program: beside this one, in its own directories, then along the variable.
-std::vector<texto> directorios_de_programas() {
-    const texto programa = ruta_del_programa();
-    std::vector<texto> r{programa.substr(0, programa.find_last_of(L"\\/")),
-                         con_sitio([](LPWSTR p, DWORD k) { return GetSystemDirectoryW(p, k); }),
-                         con_sitio([](LPWSTR p, DWORD k) { return GetWindowsDirectoryW(p, k); })};
-    for (texto &d : separados(variable("PATH").value_or(texto()))) r.push_back(std::move(d));
+std::vector<cadena_ancha> directorios_de_programas() {
+    const cadena_ancha programa = ruta_del_programa();
+    std::vector<cadena_ancha> r{programa.substr(0, programa.find_last_of(L"\\/")),
+                                con_sitio([](LPWSTR p, DWORD k) { return GetSystemDirectoryW(p, k); }),
+                                con_sitio([](LPWSTR p, DWORD k) { return GetWindowsDirectoryW(p, k); })};
+    for (cadena_ancha &d : separados(variable("PATH").value_or(cadena_ancha()))) r.push_back(std::move(d));
     return r;
 }
 
-std::vector<texto> terminaciones_de_programas() {
-    std::vector<texto> r{texto()};
-    for (texto &t : separados(variable("PATHEXT").value_or(texto(L".COM;.EXE;.BAT;.CMD")))) r.push_back(std::move(t));
+std::vector<cadena_ancha> terminaciones_de_programas() {
+    std::vector<cadena_ancha> r{cadena_ancha()};
+    for (cadena_ancha &t : separados(variable("PATHEXT").value_or(cadena_ancha(L".COM;.EXE;.BAT;.CMD"))))
+        r.push_back(std::move(t));
     return r;
 }
 

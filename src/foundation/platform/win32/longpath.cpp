@@ -13,8 +13,8 @@ static_assert(VNLONGPATH_FILE_FLAG_BACKUP_SEMANTICS == FILE_FLAG_BACKUP_SEMANTIC
               VNLONGPATH_FILE_FLAG_DELETE_ON_CLOSE == FILE_FLAG_DELETE_ON_CLOSE &&
               VNLONGPATH_FILE_FLAG_WRITE_THROUGH == FILE_FLAG_WRITE_THROUGH);
 
-void *abre_fichero(const texto &nombre, uint32_t acceso, uint32_t comparticion, void *seguridad, uint32_t disposicion,
-                   uint32_t atributos, void *plantilla) {
+void *abre_fichero(const cadena_ancha &nombre, uint32_t acceso, uint32_t comparticion, void *seguridad,
+                   uint32_t disposicion, uint32_t atributos, void *plantilla) {
     // As documented; not every system sees to it.
     if (disposicion == TRUNCATE_EXISTING && (acceso & (GENERIC_WRITE | GENERIC_ALL | FILE_WRITE_DATA)) == 0) {
         SetLastError(ERROR_INVALID_PARAMETER);
@@ -28,6 +28,6 @@ bool cierra_fichero(void *fichero) {
     return fichero != nullptr && fichero != VNLONGPATH_INVALID_HANDLE && CloseHandle(fichero) != 0;
 }
 
-uint32_t atributos_de(const texto &nombre) { return GetFileAttributesW(ruta_del_sistema(nombre).c_str()); }
+uint32_t atributos_de(const cadena_ancha &nombre) { return GetFileAttributesW(ruta_del_sistema(nombre).c_str()); }
 
 } // namespace vn::plat

@@ -18,13 +18,13 @@ HKEY la_raiz(uint32_t raiz) {
     return raices[raiz];
 }
 
-clave_abierta abre(uint32_t raiz, const texto &clave, REGSAM acceso) {
+clave_abierta abre(uint32_t raiz, const cadena_ancha &clave, REGSAM acceso) {
     HKEY h = nullptr;
     return clave_abierta(RegOpenKeyExW(la_raiz(raiz), clave.c_str(), 0, acceso, &h) == ERROR_SUCCESS ? h : nullptr);
 }
 
 // A text, its variables replaced where it is marked so.
-bool lee(HKEY h, const wchar_t *valor, texto &contenido) {
+bool lee(HKEY h, const wchar_t *valor, cadena_ancha &contenido) {
     for (DWORD bytes = 256;;) {
         contenido.resize(bytes / sizeof(wchar_t));
         const LSTATUS e = RegGetValueW(h, nullptr, valor, RRF_RT_REG_SZ, nullptr, contenido.data(), &bytes);
@@ -37,12 +37,12 @@ bool lee(HKEY h, const wchar_t *valor, texto &contenido) {
 
 } // namespace
 
-bool lee_registro(uint32_t raiz, const texto &clave, const texto &valor, texto &contenido) {
+bool lee_registro(uint32_t raiz, const cadena_ancha &clave, const cadena_ancha &valor, cadena_ancha &contenido) {
     const clave_abierta h = abre(raiz, clave, KEY_QUERY_VALUE);
     return h != nullptr && lee(h.get(), valor.c_str(), contenido);
 }
 
-bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto> &nombres) {
+bool subclaves_de_registro(uint32_t raiz, const cadena_ancha &clave, std::vector<cadena_ancha> &nombres) {
     const clave_abierta h = abre(raiz, clave, KEY_ENUMERATE_SUB_KEYS);
     if (h == nullptr) return false;
     wchar_t nombre[256];
@@ -52,23 +52,25 @@ bool subclaves_de_registro(uint32_t raiz, const texto &clave, std::vector<texto>
     return true;
 }
 
-bool hay_clave_de_registro(uint32_t raiz, const texto &clave) { return abre(raiz, clave, KEY_QUERY_VALUE) != nullptr; }
+bool hay_clave_de_registro(uint32_t raiz, const cadena_ancha &clave) {
+    return abre(raiz, clave, KEY_QUERY_VALUE) != nullptr;
+}
 
-bool textos_de_registro(uint32_t raiz, const texto &clave, uint32_t que_vista,
-                        std::vector<std::pair<texto, texto>> &textos) {
+bool textos_de_registro(uint32_t raiz, const cadena_ancha &clave, uint32_t que_vista,
+                        std::vector<std::pair<cadena_ancha, cadena_ancha>> &textos) {
     const clave_abierta h = abre(raiz, clave, KEY_QUERY_VALUE | VISTAS[que_vista]);
     if (h == nullptr) return false;
-    texto nombre(MAXIMO_NOMBRE, L'\0');
+    cadena_ancha nombre(MAXIMO_NOMBRE, L'\0');
     for (DWORD i = 0;; ++i) {
         DWORD n = MAXIMO_NOMBRE;
         if (RegEnumValueW(h.get(), i, nombre.data(), &n, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
             return true;
-        texto contenido;
+        cadena_ancha contenido;
         if (lee(h.get(), nombre.c_str(), contenido)) textos.emplace_back(nombre.substr(0, n), contenido);
     }
 }
 
-bool escribe_registro(uint32_t raiz, const texto &clave, const texto &valor, const vnwchar *contenido) {
+bool escribe_registro(uint32_t raiz, const cadena_ancha &clave, const cadena_ancha &valor, const vnwchar *contenido) {
     if (contenido == nullptr) {
         const clave_abierta h = abre(raiz, clave, KEY_SET_VALUE);
         if (h == nullptr) return !hay_clave_de_registro(raiz, clave);
