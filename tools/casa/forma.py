@@ -25,7 +25,7 @@ def largas(ruta):
 def main():
     rutas = subprocess.run(["git", "-C", RAIZ, "ls-files", "-co", "--exclude-standard", *CARPETAS], capture_output=True,
                            text=True, check=True).stdout.split()
-    rutas = [r for r in rutas if r.endswith((".h", ".cpp", ".c")) and os.path.exists(os.path.join(RAIZ, r))]
+    rutas = [r for r in rutas if r.endswith((".h", ".hpp", ".cpp", ".c")) and os.path.exists(os.path.join(RAIZ, r))]
     faltas = [f"{r}:{n}: {ancho} columns" for r in rutas for n, ancho in largas(r)]
     formadas = subprocess.run(["clang-format", "--dry-run", "-Werror", *rutas], cwd=RAIZ, capture_output=True, text=True)
     faltas += [l.split(" error: ")[0] + " not as clang-format has it" for l in formadas.stderr.split("\n") if " error: " in l]

@@ -80,7 +80,7 @@ def carpeta_de(ruta):
 
 
 def es_publica(ruta):
-    return ruta.startswith("src/") and ruta.endswith(".h") and not ruta.endswith(("_priv.h", "_int.h")) and \
+    return ruta.startswith("src/") and ruta.endswith((".h", ".hpp")) and not ruta.endswith(("_priv.h", "_int.h")) and \
         (not es_de_plataforma(ruta) or ruta.endswith("/plataforma.h"))
 
 
@@ -160,7 +160,7 @@ def main():
     rutas = subprocess.run(["git", "-C", RAIZ, "ls-files", "-co", "--exclude-standard", "src", "tests", "fuzz", "bench",
                             "examples"], capture_output=True, text=True, check=True).stdout.split()
     for ruta in rutas:
-        if not ruta.endswith((".h", ".cpp", ".c", ".inl")) or not os.path.exists(os.path.join(RAIZ, ruta)):
+        if not ruta.endswith((".h", ".hpp", ".cpp", ".c", ".inl")) or not os.path.exists(os.path.join(RAIZ, ruta)):
             continue
         with open(os.path.join(RAIZ, ruta), encoding="utf-8") as f:
             texto = f.read()

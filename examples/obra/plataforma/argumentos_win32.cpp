@@ -1,6 +1,7 @@
 #include "argumentos.h"
-#include <shellapi.h>
 #include <windows.h>
+
+#include <shellapi.h>
 
 namespace obra {
 

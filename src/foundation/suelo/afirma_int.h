@@ -36,6 +36,18 @@ struct sitio {
 #define AFIRMA_TEXTO(cond, texto) AFIRMA_TEXTO_CLASE(cond, texto, 0)
 /** AFIRMA_NO_NULO(p): reports "(p) != NULL". */
 #define AFIRMA_NO_NULO(p) AFIRMA_TEXTO_CLASE((p) != nullptr, "(" #p ") != NULL", 0)
+/** EXIGE(a, b, c): none of them is null; the first that is, in the order of the parameters, is reported. Up to eight. */
+#define EXIGE(...)                                                                                                     \
+    VN_EXIGE_(__VA_ARGS__, VN_EXIGE_8, VN_EXIGE_7, VN_EXIGE_6, VN_EXIGE_5, VN_EXIGE_4, VN_EXIGE_3, VN_EXIGE_2,         \
+              AFIRMA_NO_NULO, )(__VA_ARGS__)
+#define VN_EXIGE_(a, b, c, d, e, f, g, h, cual, ...) cual
+#define VN_EXIGE_2(a, b) (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b))
+#define VN_EXIGE_3(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_2(__VA_ARGS__))
+#define VN_EXIGE_4(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_3(__VA_ARGS__))
+#define VN_EXIGE_5(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_4(__VA_ARGS__))
+#define VN_EXIGE_6(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_5(__VA_ARGS__))
+#define VN_EXIGE_7(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_6(__VA_ARGS__))
+#define VN_EXIGE_8(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_7(__VA_ARGS__))
 /** AFIRMA_LOGICO(v): reports "v == CIERTO || v == FALSO". */
 #define AFIRMA_LOGICO(v) AFIRMA_TEXTO_CLASE((v) == CIERTO || (v) == FALSO, #v " == CIERTO || " #v " == FALSO", 0)
 /** AFIRMA_DEFECTO(): the default branch of a selection; always false. */
