@@ -107,7 +107,7 @@ def mira_inclusion(ruta, n, que):
 
 def mira_espacio(ruta, lineas):
     """What a room of the Foundation declares lives in the room's namespace, so that two rooms may use one short word. The
-    ground's is seen by all; `namespace vn` itself takes only names of a room that all may use bare."""
+    ground's is seen by all; `namespace vn` itself takes what hosts in C++ use (.hpp) and names that all may use bare."""
     partes = ruta.split("/")
     if not ruta.startswith("src/foundation/") or len(partes) < 4:
         return
@@ -115,7 +115,7 @@ def mira_espacio(ruta, lineas):
     suyos = {"platform": ("vn::plat",), "suelo": ("vn::inline suelo",)}.get(cuarto, (f"vn::{cuarto}", "vn::plat"))
     for n, linea in enumerate(lineas, 1):
         m = re.match(r"namespace (vn[^{]*?) \{", linea)
-        if m and m[1] not in suyos and not (m[1] == "vn" and lineas[n].startswith("using ")):
+        if m and m[1] not in suyos and not (m[1] == "vn" and (ruta.endswith(".hpp") or lineas[n].startswith("using "))):
             falta(ruta, n, f"namespace {m[1]} in the room {cuarto}")
 
 

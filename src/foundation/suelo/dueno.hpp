@@ -1,4 +1,5 @@
-// Owners, for the library's C++ and for hosts in C++: a handle goes back by its family's own operation when its owner goes.
+// Owners, for the library's C++ and for hosts in C++: a handle goes back by its family's own operation when its owner
+// goes.
 //
 //     const vn::dueno<arr_DestruyeDouble> alturas(arr_CreaDouble(0));
 //     const vn::dueno<lc_fclose_seguro> fichero(f_lc_fopen_u(nombre, VNU("rb"), VN_AQUI));
