@@ -1,6 +1,6 @@
-#include "foundation/texto/unicode.h"
 #include "modelo_dxf.h"
 #include "posesion.h"
+#include <nucleos/foundation/texto/unicode.h>
 #include <algorithm>
 #include <cmath>
 

@@ -1,8 +1,8 @@
 #include "geometria.h"
-#include "foundation/numeros/mt.h"
-#include "foundation/numeros/vnmath.h"
-#include "geometry/poligono.h"
-#include "geometry/punto.h"
+#include <nucleos/foundation/numeros/mt.h>
+#include <nucleos/foundation/numeros/vnmath.h>
+#include <nucleos/geometry/poligono.h>
+#include <nucleos/geometry/punto.h>
 #include <algorithm>
 #include <cmath>
 #include <limits>

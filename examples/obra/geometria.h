@@ -1,9 +1,9 @@
 // What the library's geometry finds in a drawing: what holds it, what closes, what crosses. Metres.
 #pragma once
 
-#include "geometry/rectng.h"
 #include "plano.h"
 #include "posesion.h"
+#include <nucleos/geometry/rectng.h>
 
 namespace obra {
 

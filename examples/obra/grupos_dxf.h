@@ -1,7 +1,7 @@
 // The groups of a DXF, one after another: a code on a line, its value on the next, which has no limit of length.
 #pragma once
 
-#include "foundation/ficheros/lc_fichero.h"
+#include <nucleos/foundation/ficheros/lc_fichero.h>
 #include <string>
 
 namespace obra {

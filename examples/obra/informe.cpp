@@ -1,6 +1,6 @@
 #include "informe.h"
-#include "foundation/texto/unicode.h"
 #include "informe_priv.h"
+#include <nucleos/foundation/texto/unicode.h>
 
 namespace obra {
 namespace {

@@ -1,8 +1,8 @@
 // The report of a project file.
 #pragma once
 
-#include "foundation/texto/msglocal.h"
 #include "plano_fichero.h"
+#include <nucleos/foundation/texto/msglocal.h>
 
 namespace obra {
 

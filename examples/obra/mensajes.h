@@ -1,7 +1,7 @@
 // The texts of this program for its user, by the language that is active.
 #pragma once
 
-#include "foundation/texto/msglocal.h"
+#include <nucleos/foundation/texto/msglocal.h>
 
 namespace obra::mensaje {
 

@@ -1,5 +1,5 @@
 #include "modelo_dxf.h"
-#include "foundation/texto/widestr.h"
+#include <nucleos/foundation/texto/widestr.h>
 #include <algorithm>
 #include <array>
 #include <climits>

@@ -2,15 +2,9 @@
 //   obra importa PLANO.dxf OBRA [CAMPO=VALOR...]   a drawing into a project file
 //   obra informa OBRA [--sistema ...] [--energia ...] [--idioma N]
 //                                                  what a project file holds, in a system of units and a language
-// A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or
-// left half written.
+// A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or left
+// half written.
 #include "dxf.h"
-#include "foundation/ficheros/vdir.h"
-#include "foundation/sistema/avisos.h"
-#include "foundation/sistema/version.h"
-#include "foundation/suelo/error_interno.h"
-#include "foundation/suelo/vornspy.h"
-#include "foundation/texto/unicode.h"
 #include "informe.h"
 #include "mensajes.h"
 #include "opciones.h"
@@ -18,6 +12,12 @@
 #include "posesion.h"
 #include <cstdio>
 #include <new>
+#include <nucleos/foundation/ficheros/vdir.h>
+#include <nucleos/foundation/sistema/avisos.h>
+#include <nucleos/foundation/sistema/version.h>
+#include <nucleos/foundation/suelo/error_interno.h>
+#include <nucleos/foundation/suelo/vornspy.h>
+#include <nucleos/foundation/texto/unicode.h>
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "opciones.h"
-#include "foundation/texto/msglocal.h"
 #include "informe.h"
 #include "mensajes.h"
-#include "units/vornconf.h"
+#include <nucleos/foundation/texto/msglocal.h>
+#include <nucleos/units/vornconf.h>
 #include <charconv>
 
 namespace obra {

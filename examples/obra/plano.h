@@ -2,7 +2,7 @@
 // angles in radians, counter-clockwise; everything in plan.
 #pragma once
 
-#include "foundation/suelo/tipos.h"
+#include <nucleos/foundation/suelo/tipos.h>
 #include <cstdint>
 #include <map>
 #include <string>

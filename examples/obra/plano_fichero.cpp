@@ -1,7 +1,7 @@
 #include "plano_fichero.h"
-#include "foundation/suelo/trapable.h"
-#include "persistence/vornbin.h"
 #include "posesion.h"
+#include <nucleos/foundation/suelo/trapable.h>
+#include <nucleos/persistence/vornbin.h>
 #include <utility>
 
 // A file is the full header, the number of sections, the section of the drawing and a section per layer. Kinds that

@@ -1,12 +1,12 @@
 // Owners of the library's handles: each is given back when its owner goes.
 #pragma once
 
-#include "foundation/ficheros/lc_fichero.h"
-#include "foundation/listas/arr.h"
-#include "foundation/texto/cad.h"
-#include "foundation/texto/widestr.h"
-#include "persistence/vornsave.h"
 #include <memory>
+#include <nucleos/foundation/ficheros/lc_fichero.h>
+#include <nucleos/foundation/listas/arr.h>
+#include <nucleos/foundation/texto/cad.h>
+#include <nucleos/foundation/texto/widestr.h>
+#include <nucleos/persistence/vornsave.h>
 
 namespace obra {
 

@@ -1,6 +1,6 @@
 #include "textos_dxf.h"
-#include "foundation/texto/unicode.h"
 #include "posesion.h"
+#include <nucleos/foundation/texto/unicode.h>
 #include <charconv>
 
 namespace obra {

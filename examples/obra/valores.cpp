@@ -1,10 +1,10 @@
 #include "valores.h"
-#include "foundation/texto/unicode.h"
 #include "informe.h"
 #include "posesion.h"
-#include "time/sysdata.h"
-#include "units/convers.h"
-#include "units/vornconf.h"
+#include <nucleos/foundation/texto/unicode.h>
+#include <nucleos/time/sysdata.h>
+#include <nucleos/units/convers.h>
+#include <nucleos/units/vornconf.h>
 #include <cmath>
 #include <iterator>
 

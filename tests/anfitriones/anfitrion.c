@@ -1,10 +1,10 @@
 /* A host in C whose frames nothing can be thrown through: it is compiled without unwind tables. Traps, call-backs under
    them, refused arguments and a size that nobody has. */
-#include "foundation/listas/arr.h"
-#include "foundation/sistema/vnmutex.h"
-#include "foundation/suelo/trapable.h"
-#include "foundation/suelo/vornspy.h"
-#include "persistence/vornsave.h"
+#include <nucleos/foundation/listas/arr.h>
+#include <nucleos/foundation/sistema/vnmutex.h>
+#include <nucleos/foundation/suelo/trapable.h>
+#include <nucleos/foundation/suelo/vornspy.h>
+#include <nucleos/persistence/vornsave.h>
 #include <stdint.h>
 #include <stdio.h>
 #include <stdlib.h>

@@ -1,7 +1,7 @@
 /* A plug-in that its host unloads: what it has left on the heap keeps its name, and what it registered still runs. */
 #define VN_MODULO "complemento (COMPLEMENTO.DLL)"
-#include "foundation/suelo/vnatexit.h"
-#include "foundation/suelo/vornspy.h"
+#include <nucleos/foundation/suelo/vnatexit.h>
+#include <nucleos/foundation/suelo/vornspy.h>
 #include <stdio.h>
 
 #define SALE __attribute__((visibility("default")))

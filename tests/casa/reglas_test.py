@@ -31,6 +31,10 @@ TEXTOS = [
     ("src/nueva/algo.h", "\n", "has no row in the table of layers"),
     ("src/frame/sistema.h", "#include <windows.h>\n", "only platform/ includes"),
     ("tests/frame/sistema_test.cpp", "#include <sys/mman.h>\n", "only platform/ includes"),
+    ("examples/obra/bien.cpp", '#include "otra.h"\n#include <nucleos/foundation/suelo/bien.h>\n', None),
+    ("examples/obra/desde_src.cpp", '#include "foundation/suelo/bien.h"\n', "a host includes <nucleos/foundation/suelo/bien.h>"),
+    ("tests/paquete/sin_nucleos.c", "#include <foundation/suelo/bien.h>\n", "only platform/ includes"),
+    ("tests/frame/como_anfitrion_test.cpp", "#include <nucleos/foundation/suelo/bien.h>\n", "only platform/ includes"),
     ("src/frame/condicion.h", "#  if defined(_WIN32) && 1\n#endif\n", "#if of a platform (_WIN32)"),
     ("src/frame/anonimo.cpp", '#include "frame/anonimo.h"\n', "the first line is not #define VN_MODULO"),
     ("src/frame/ajeno.cpp", CABEZA.format("ajeno", "_FOUNDATION"), "is not the library of this folder"),
@@ -111,7 +115,7 @@ def main():
         if "seguida: declared, not in src/exports/foundation.txt" not in salida:
             fallos.append("an operation that is declared and not listed goes unseen")
         # A header that leans on another's includes does not compile alone.
-        escribe(arbol, "src/foundation/algo.h", "uint32_t f(void);\n")
+        escribe(arbol, "include/nucleos/foundation/algo.h", "uint32_t f(void);\n")
         estado, salida = ejecuta("cabeceras_solas.py", arbol, arbol, "cc", "c++")
         if estado == 0 or salida.count("algo.h as -std") != 2:
             fallos.append("a header that does not compile alone goes unseen")

@@ -1,7 +1,7 @@
 #include "geometria.h"
-#include "geometry/punto.h"
 #include "propiedades.h"
 #include "prueba.h"
+#include <nucleos/geometry/punto.h>
 #include <numbers>
 
 using namespace obra;

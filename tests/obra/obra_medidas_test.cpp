@@ -1,13 +1,13 @@
 // What the report of the sample host measures, and how it says it.
-#include "foundation/sistema/fichconf.h"
-#include "foundation/sistema/vnregional.h"
 #include "informe.h"
 #include "medidas.h"
 #include "opciones.h"
 #include "prueba.h"
-#include "units/vornconf.h"
 #include "valores.h"
 #include <cmath>
+#include <nucleos/foundation/sistema/fichconf.h>
+#include <nucleos/foundation/sistema/vnregional.h>
+#include <nucleos/units/vornconf.h>
 #include <numbers>
 
 using namespace obra;

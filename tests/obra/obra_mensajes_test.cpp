@@ -2,7 +2,7 @@
 #include "informe.h"
 #include "mensajes.h"
 #include "prueba.h"
-#include "units/vornconf.h"
+#include <nucleos/units/vornconf.h>
 #include <cctype>
 #include <set>
 #include <sstream>

@@ -1,6 +1,6 @@
-#include "foundation/suelo/error_interno.h"
-#include "persistence/vornbin.h"
-#include "persistence/vornsave.h"
+#include <nucleos/foundation/suelo/error_interno.h>
+#include <nucleos/persistence/vornbin.h>
+#include <nucleos/persistence/vornsave.h>
 #include <stdio.h>
 
 int main(void) {

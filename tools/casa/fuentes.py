@@ -49,6 +49,8 @@ syncstream system_error thread tuple type_traits typeindex typeinfo unordered_ma
 variant vector version""".split())
 # Libraries made for the job, by folder of the tree.
 OTRAS = {"src": ("Eigen/",), "tests": ("gtest/",), "bench": ("benchmark/", "Q", "double-conversion/", "udunits2.h", "date/", "CGAL/", "geos", "Eigen/"), "fuzz": (), "examples": ("cairo",)}
+# Hosts: they have nothing of ours on their include path but nucleos/.
+ANFITRIONES = ("examples/", "tests/anfitriones/", "tests/obra/", "tests/paquete/")
 PLATAFORMA = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(_WIN32|_WIN64|WIN32|__linux__|__unix__|__MINGW\w*|__APPLE__|"
                         r"__CYGWIN__|_POSIX_\w+)\b")
 # Outside the library too, what differs between platforms stands in a folder of its own.
@@ -131,6 +133,11 @@ def mira_inclusiones(ruta, lineas, limpias):
         que = m[2]
         if m[1] == '"' and de_la_biblioteca:
             mira_inclusion(ruta, n, que)
+        if ruta.startswith(ANFITRIONES):
+            if m[1] == '"' and os.path.exists(os.path.join(RAIZ, "src", que)):
+                falta(ruta, n, f'"{que}": a host includes <nucleos/{que}>')
+            if que.startswith("nucleos/"):
+                continue
         if m[1] == "<" and not es_de_plataforma(ruta) and que not in ESTANDAR and \
                 not que.startswith(OTRAS.get(ruta.split("/")[0], ())):
             falta(ruta, n, f"<{que}>: only platform/ includes what is not a standard header")
