@@ -8,23 +8,28 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_C_VISIBILITY_PRESET hidden)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-if(NOT CMAKE_BUILD_TYPE)
-  set(CMAKE_BUILD_TYPE Release)
-endif()
-foreach(lenguaje C CXX)
-  # NDEBUG changes nothing here: the checks of the library stay in.
-  set(CMAKE_${lenguaje}_FLAGS_RELEASE "-O2 -g")
-  set(CMAKE_${lenguaje}_FLAGS_RELWITHDEBINFO "-O1 -g")
-endforeach()
-if(WIN32)
-  # Debug sections of a PE file would be shipped with it.
-  string(REPLACE " -g" "" CMAKE_C_FLAGS_RELEASE "${CMAKE_C_FLAGS_RELEASE}")
-  string(REPLACE " -g" "" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
+if(PROJECT_IS_TOP_LEVEL)
+  if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release)
+  endif()
+  set(depuracion " -g")
+  if(WIN32) # debug sections of a PE file would be shipped with it
+    set(depuracion)
+  endif()
+  foreach(lenguaje C CXX)
+    # NDEBUG changes nothing here: the checks of the library stay in.
+    set(CMAKE_${lenguaje}_FLAGS_RELEASE "-O2${depuracion}")
+    set(CMAKE_${lenguaje}_FLAGS_RELWITHDEBINFO "-O1 -g")
+  endforeach()
 endif()
 
+set(errores)
+if(NUCLEOS_AVISOS_SON_ERRORES)
+  set(errores -Werror)
+endif()
 add_library(nucleos_opciones INTERFACE)
 # -ffp-contract=off: the same bits on both platforms.
-target_compile_options(nucleos_opciones INTERFACE -ffp-contract=off -Wall -Wextra -Wpedantic -Werror -Wshadow
+target_compile_options(nucleos_opciones INTERFACE -ffp-contract=off -Wall -Wextra -Wpedantic ${errores} -Wshadow
   -Wconversion -Wno-sign-conversion -Wno-missing-field-initializers
   $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual>
   $<$<CXX_COMPILER_ID:GNU>:-Wmissing-declarations -Wno-psabi>

@@ -1,5 +1,7 @@
-# Installs the built tree, moves the copy, and builds and runs the first host out of it in a tree of its own.
-# -DARBOL=build tree  -DMODO=cmake|pkgconfig  -DCOMPILADOR=cc  [-DCADENA=toolchain]  [-DEMULADOR=program]
+# Builds and runs the first host in a tree of its own: out of an installed and moved copy (cmake, pkgconfig), or with the
+# library as a part of its project (subproyecto).
+# -DARBOL=build tree  -DMODO=cmake|pkgconfig|subproyecto  -DCOMPILADOR=cc  [-DCOMPILADORXX=c++]  [-DCADENA=toolchain]
+# [-DEMULADOR=program]
 get_filename_component(aqui ${CMAKE_CURRENT_LIST_FILE} DIRECTORY)
 set(trabajo ${ARBOL}/paquete_${MODO})
 file(REMOVE_RECURSE ${trabajo})
@@ -13,28 +15,30 @@ function(ejecuta)
   endif()
 endfunction()
 
-ejecuta(${CMAKE_COMMAND} --install ${ARBOL} --prefix ${trabajo}/instalado)
-# A name with a blank: paths must be quoted on the way.
-file(RENAME ${trabajo}/instalado "${trabajo}/otro sitio")
-set(raiz "${trabajo}/otro sitio")
-file(GLOB_RECURSE de_mas "${raiz}/*_priv.h" "${raiz}/*afirma.h" "${raiz}/*consola.h")
-if(de_mas)
-  message(FATAL_ERROR "private headers installed: ${de_mas}")
+if(MODO STREQUAL "subproyecto")
+  set(raiz ${ARBOL})
+else()
+  ejecuta(${CMAKE_COMMAND} --install ${ARBOL} --prefix ${trabajo}/instalado)
+  # A name with a blank: paths must be quoted on the way.
+  file(RENAME ${trabajo}/instalado "${trabajo}/otro sitio")
+  set(raiz "${trabajo}/otro sitio")
+  # No file but a binary's debug data may remember where it was built or installed.
+  file(GLOB_RECURSE textos "${raiz}/*.cmake" "${raiz}/*.pc" "${raiz}/*.h")
+  foreach(texto ${textos})
+    file(STRINGS ${texto} rastros REGEX "paquete_${MODO}|/build/")
+    if(rastros)
+      message(FATAL_ERROR "${texto} remembers a path: ${rastros}")
+    endif()
+  endforeach()
 endif()
-# No file but a binary's debug data may remember where it was built or installed.
-file(GLOB_RECURSE textos "${raiz}/*.cmake" "${raiz}/*.pc" "${raiz}/*.h")
-foreach(texto ${textos})
-  file(STRINGS ${texto} rastros REGEX "paquete_${MODO}|/build/")
-  if(rastros)
-    message(FATAL_ERROR "${texto} remembers a path: ${rastros}")
-  endif()
-endforeach()
-
-# A host whose own headers have the names of ours, first on its include path, and that includes every one of ours.
 file(GLOB puertas RELATIVE "${raiz}/include" "${raiz}/include/*")
-if(NOT puertas STREQUAL "nucleos")
-  message(FATAL_ERROR "on the include path of a host: ${puertas}")
+file(GLOB_RECURSE de_mas "${raiz}/include/*_priv.h" "${raiz}/include/*_int.h" "${raiz}/include/*consola.h")
+if(de_mas OR NOT puertas STREQUAL "nucleos")
+  message(FATAL_ERROR "on the include path of a host: ${puertas}; private headers: ${de_mas}")
 endif()
+
+# What the host has besides: headers of its own with the names of ours, first on its include path, and a source that
+# includes every one of ours.
 file(GLOB_RECURSE cabeceras RELATIVE "${raiz}/include/nucleos" "${raiz}/include/nucleos/*.h")
 set(todas "#include \"foundation/tipos.h\"\n#include \"units/convers.h\"\n")
 foreach(cabecera foundation/tipos.h ${cabeceras})
@@ -60,6 +64,17 @@ if(MODO STREQUAL "cmake")
     file(GLOB bibliotecas "${raiz}/bin/*.dll")
     file(COPY ${bibliotecas} DESTINATION ${trabajo}/programa)
   endif()
+elseif(MODO STREQUAL "subproyecto")
+  get_filename_component(arbol ${aqui}/../.. ABSOLUTE)
+  set(opciones -DCMAKE_C_COMPILER=${COMPILADOR} -DCMAKE_CXX_COMPILER=${COMPILADORXX} -DSUYAS=${trabajo}/suyas -DNUCLEOS=${arbol})
+  ejecuta(${CMAKE_COMMAND} -G Ninja -S ${aqui} -B ${trabajo}/configurado ${opciones} -DMANERA=add_subdirectory)
+  # Built as the preset is, and as deep below src/, so that the compiler cache has it.
+  set(programa ${ARBOL}-subproyecto/primer_host)
+  file(REMOVE_RECURSE ${ARBOL}-subproyecto)
+  ejecuta(${CMAKE_COMMAND} -G Ninja -S ${aqui} -B ${ARBOL}-subproyecto ${opciones} -DMANERA=fetchcontent
+    -DCMAKE_C_COMPILER_LAUNCHER=${arbol}/tools/compila -DCMAKE_CXX_COMPILER_LAUNCHER=${arbol}/tools/compila
+    -DCMAKE_BUILD_TYPE=Release "-DCMAKE_CXX_FLAGS_RELEASE=-O2 -g" -DNUCLEOS_AVISOS_SON_ERRORES=ON)
+  ejecuta(${CMAKE_COMMAND} --build ${ARBOL}-subproyecto)
 else()
   file(GLOB_RECURSE pc "${raiz}/nucleos.pc")
   get_filename_component(pc "${pc}" DIRECTORY)
