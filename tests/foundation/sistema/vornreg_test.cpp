@@ -179,6 +179,6 @@ GUARDADO(registro) {
 }
 
 PRUEBA(vornreg, cada_fallo_al_grabarlo) {
-    if (vn::EN_WINDOWS) GTEST_SKIP();
+    if (vn::EN_WINDOWS) GTEST_SKIP() << "the registry of Windows is no file";
     vn::comprueba_guardado("registro", {.fichero = "registro.txt", .informa = false});
 }
