@@ -14,6 +14,7 @@
 #include <new>
 #include <nucleos/foundation/ficheros/vdir.h>
 #include <nucleos/foundation/sistema/avisos.h>
+#include <nucleos/foundation/sistema/nucleos_version.h>
 #include <nucleos/foundation/sistema/version.h>
 #include <nucleos/foundation/suelo/error_interno.h>
 #include <nucleos/foundation/suelo/vornspy.h>
@@ -116,8 +117,10 @@ int informa(const std::vector<std::string> &args) {
 }
 
 int ejecuta(const std::vector<std::string> &args) {
-    for (const std::string &a : args)
+    for (const std::string &a : args) {
         if (a == "--help" || a == "-h") return std::puts(di(mensaje::uso).c_str()) < 0;
+        if (a == "--version") return std::printf("obra %s\nnucleos %s\n", version_versionAplicacion(), nucleos_version()) < 0;
+    }
     if (args.size() < 2) return uso(di(mensaje::falta_orden));
     if (args[1] == "importa") return importa(args);
     if (args[1] == "informa") return informa(args);
