@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""The first host that the README shows is the one that the package's test builds and runs."""
+"""What the documents say is so: the first host that the README shows is the one that the package's test builds and runs,
+and docs/third-party.md has every package that the tree asks for."""
 import os
 import re
 import sys
@@ -8,15 +9,21 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."
 from lee_cabeceras import RAIZ
 
 
+def lee(ruta):
+    with open(os.path.join(RAIZ, ruta), encoding="utf-8") as f:
+        return f.read()
+
+
 def main():
-    with open(os.path.join(RAIZ, "README.md"), encoding="utf-8") as f:
-        mostrado = re.search(r"^```c\n(.*?)^```$", f.read(), re.S | re.M)
-    with open(os.path.join(RAIZ, "tests/paquete/primer_host.c"), encoding="utf-8") as f:
-        probado = f.read()
-    if mostrado is None or mostrado[1] != probado:
-        print("README.md does not show tests/paquete/primer_host.c")
-        return 1
-    return 0
+    faltas = []
+    mostrado = re.search(r"^```c\n(.*?)^```$", lee("README.md"), re.S | re.M)
+    if mostrado is None or mostrado[1] != lee("tests/paquete/primer_host.c"):
+        faltas.append("README.md does not show tests/paquete/primer_host.c")
+    paquetes = re.findall(r"^[^#\s].*$", lee("tools/paquetes.txt"), re.M)
+    ajenas = lee("docs/third-party.md")
+    faltas += [f"docs/third-party.md says nothing of {p}" for p in paquetes if f"`{p}`" not in ajenas]
+    print("\n".join(faltas) or f"the first host and {len(paquetes)} packages are told")
+    return 1 if faltas or not paquetes else 0
 
 
 if __name__ == "__main__":
