@@ -15,9 +15,15 @@ foreach(cabecera ${VN_CABECERAS})
   list(APPEND VN_TABLAS ${incluidas})
 endforeach()
 list(REMOVE_DUPLICATES VN_TABLAS)
-# The list for the checks of the tree and the sweep of arguments.
-list(JOIN VN_CABECERAS "\n" texto)
-file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/cabeceras_publicas.txt CONTENT "@texto@\n" @ONLY)
+# For hosts in C++ alone.
+file(GLOB_RECURSE VN_CABECERAS_CXX RELATIVE ${fuentes} CONFIGURE_DEPENDS ${fuentes}/*.hpp)
+# The lists for the checks of the tree and the sweep of arguments.
+foreach(lista VN_CABECERAS VN_CABECERAS_CXX)
+  list(JOIN ${lista} "\n" texto)
+  string(REPLACE VN_CABECERAS cabeceras_publicas nombre ${lista})
+  string(TOLOWER ${nombre} nombre)
+  file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/${nombre}.txt CONTENT "@texto@\n" @ONLY)
+endforeach()
 
 # In the build tree each is a line that includes the one in src/, so that an edit is seen at once and nothing is read twice.
 # The way there is relative, for the compiler cache, and between real places, since `..` of a link leads elsewhere.
@@ -26,7 +32,7 @@ file(MAKE_DIRECTORY ${puertas})
 file(REAL_PATH ${puertas} puertas)
 file(REAL_PATH ${fuentes} fuentes)
 file(GLOB_RECURSE sobran RELATIVE ${puertas} ${puertas}/*)
-foreach(cabecera ${VN_CABECERAS} ${VN_TABLAS})
+foreach(cabecera ${VN_CABECERAS} ${VN_CABECERAS_CXX} ${VN_TABLAS})
   list(REMOVE_ITEM sobran ${cabecera})
   get_filename_component(carpeta ${cabecera} DIRECTORY)
   file(RELATIVE_PATH camino ${puertas}/${carpeta} ${fuentes}/${cabecera})

@@ -1,7 +1,7 @@
 # What a host gets: headers, libraries, a CMake package and a pkg-config file, all of which survive being moved.
 include(CMakePackageConfigHelpers)
 
-foreach(cabecera ${VN_CABECERAS} ${VN_TABLAS})
+foreach(cabecera ${VN_CABECERAS} ${VN_CABECERAS_CXX} ${VN_TABLAS})
   get_filename_component(carpeta ${cabecera} DIRECTORY)
   install(FILES ${PROJECT_SOURCE_DIR}/src/${cabecera} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/nucleos/${carpeta})
 endforeach()

@@ -52,9 +52,9 @@ class Funcion:
         return f"{self.cabecera}:{self.linea}: {self.nombre}"
 
 
-def cabeceras_publicas(arbol):
-    """The list that the build wrote: what is installed."""
-    with open(os.path.join(arbol, "cabeceras_publicas.txt"), encoding="utf-8") as f:
+def cabeceras_publicas(arbol, cuales=""):
+    """The list that the build wrote: what is installed; "_cxx" for those of C++ alone."""
+    with open(os.path.join(arbol, f"cabeceras_publicas{cuales}.txt"), encoding="utf-8") as f:
         return f.read().split()
 
 

@@ -1,8 +1,8 @@
 #include "modelo_dxf.h"
 #include "posesion.h"
-#include <nucleos/foundation/texto/unicode.h>
 #include <algorithm>
 #include <cmath>
+#include <nucleos/foundation/texto/unicode.h>
 
 namespace obra {
 namespace {

@@ -1,12 +1,12 @@
 #include "geometria.h"
-#include <nucleos/foundation/numeros/mt.h>
-#include <nucleos/foundation/numeros/vnmath.h>
-#include <nucleos/geometry/poligono.h>
-#include <nucleos/geometry/punto.h>
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>
+#include <nucleos/foundation/numeros/mt.h>
+#include <nucleos/foundation/numeros/vnmath.h>
+#include <nucleos/geometry/poligono.h>
+#include <nucleos/geometry/punto.h>
 #include <numeric>
 #include <optional>
 #include <tuple>

@@ -1,9 +1,9 @@
 #include "modelo_dxf.h"
-#include <nucleos/foundation/texto/widestr.h>
 #include <algorithm>
 #include <array>
 #include <climits>
 #include <cmath>
+#include <nucleos/foundation/texto/widestr.h>
 #include <unordered_map>
 
 namespace obra {

@@ -2,8 +2,8 @@
 //   obra importa PLANO.dxf OBRA [CAMPO=VALOR...]   a drawing into a project file
 //   obra informa OBRA [--sistema ...] [--energia ...] [--idioma N]
 //                                                  what a project file holds, in a system of units and a language
-// A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or left
-// half written.
+// A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or
+// left half written.
 #include "dxf.h"
 #include "informe.h"
 #include "mensajes.h"
@@ -119,7 +119,8 @@ int informa(const std::vector<std::string> &args) {
 int ejecuta(const std::vector<std::string> &args) {
     for (const std::string &a : args) {
         if (a == "--help" || a == "-h") return std::puts(di(mensaje::uso).c_str()) < 0;
-        if (a == "--version") return std::printf("obra %s\nnucleos %s\n", version_versionAplicacion(), nucleos_version()) < 0;
+        if (a == "--version")
+            return std::printf("obra %s\nnucleos %s\n", version_versionAplicacion(), nucleos_version()) < 0;
     }
     if (args.size() < 2) return uso(di(mensaje::falta_orden));
     if (args[1] == "importa") return importa(args);

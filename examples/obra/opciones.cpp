@@ -1,9 +1,9 @@
 #include "opciones.h"
 #include "informe.h"
 #include "mensajes.h"
+#include <charconv>
 #include <nucleos/foundation/texto/msglocal.h>
 #include <nucleos/units/vornconf.h>
-#include <charconv>
 
 namespace obra {
 namespace {

@@ -2,9 +2,9 @@
 // angles in radians, counter-clockwise; everything in plan.
 #pragma once
 
-#include <nucleos/foundation/suelo/tipos.h>
 #include <cstdint>
 #include <map>
+#include <nucleos/foundation/suelo/tipos.h>
 #include <string>
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "textos_dxf.h"
 #include "posesion.h"
-#include <nucleos/foundation/texto/unicode.h>
 #include <charconv>
+#include <nucleos/foundation/texto/unicode.h>
 
 namespace obra {
 namespace {

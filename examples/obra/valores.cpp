@@ -1,12 +1,12 @@
 #include "valores.h"
 #include "informe.h"
 #include "posesion.h"
+#include <cmath>
+#include <iterator>
 #include <nucleos/foundation/texto/unicode.h>
 #include <nucleos/time/sysdata.h>
 #include <nucleos/units/convers.h>
 #include <nucleos/units/vornconf.h>
-#include <cmath>
-#include <iterator>
 
 namespace obra {
 namespace {

@@ -100,6 +100,7 @@ def main():
         compara(salida, estado, [(ruta + ":", que) for ruta, _, que in TEXTOS], fallos)
     with tempfile.TemporaryDirectory() as arbol:
         escribe(arbol, "cabeceras_publicas.txt", "foundation/algo.h\n")
+        escribe(arbol, "cabeceras_publicas_cxx.txt", "")
         with open(os.path.join(construido, "cabeceras_publicas.txt"), encoding="utf-8") as f:
             assert "foundation/suelo/anotaciones.h" in f.read().split()
         with open(os.path.join(AQUI, "../../src/foundation/suelo/anotaciones.h"), encoding="utf-8") as f:

@@ -2,8 +2,8 @@
 #include "informe.h"
 #include "mensajes.h"
 #include "prueba.h"
-#include <nucleos/units/vornconf.h>
 #include <cctype>
+#include <nucleos/units/vornconf.h>
 #include <set>
 #include <sstream>
 

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Compiles every public header alone, the way a host includes it, as C11 and as C++20, with all warnings as errors.
+"""Compiles every public header alone, the way a host includes it, as C11 and as C++20 (.hpp: as C++20), with all warnings as errors.
 usage: cabeceras_solas.py BUILD_TREE CC CXX [FLAG...]"""
 import os
 import subprocess
@@ -23,9 +23,10 @@ def main():
     arbol, cc, cxx, *opciones = sys.argv[1:]
     cabeceras = cabeceras_publicas(arbol)
     opciones.append(f"-I{arbol}/include")
-    ordenes = [[cc, "-xc", "-std=c11", *opciones], [cxx, "-xc++", "-std=c++20", *opciones]]
+    c, de_cxx = [cc, "-xc", "-std=c11", *opciones], [cxx, "-xc++", "-std=c++20", *opciones]
+    pares = [(o, h) for h in cabeceras for o in (c, de_cxx)] + [(de_cxx, h) for h in cabeceras_publicas(arbol, "_cxx")]
     with ThreadPoolExecutor(2) as grupo:
-        faltas = [f for f in grupo.map(lambda a: compila(*a), [(o, c) for c in cabeceras for o in ordenes]) if f]
+        faltas = [f for f in grupo.map(lambda a: compila(*a), pares) if f]
     print("\n".join(faltas) or f"{len(cabeceras)} headers compile alone, two ways")
     return 1 if faltas or not cabeceras else 0
 

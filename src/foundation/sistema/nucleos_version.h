@@ -1,5 +1,5 @@
-/* The version of this library: the one that a host was compiled against, and the one that it runs with. What a host says of
-   itself stands in version.h. The build takes its own version from the three numbers. */
+/* The version of this library: the one that a host was compiled against, and the one that it runs with. What a host
+   says of itself stands in version.h. The build takes its own version from the three numbers. */
 #ifndef VN_NUCLEOS_VERSION_H
 #define VN_NUCLEOS_VERSION_H
 
@@ -19,9 +19,9 @@
 
 VN_C_INICIO
 
-/** The version of the library that runs, and how it was built: "0.1.0 (GNU 12.2.0, Linux x86_64)", with the commit behind
-    the platform where the builder told it. It begins with the NUCLEOS_VERSION of the headers that it was built with, which
-    need not be those of the host. Plain ASCII; lent for good. */
+/** The version of the library that runs, and how it was built: "0.1.0 (GNU 12.2.0, Linux x86_64)", with the commit
+    behind the platform where the builder told it. It begins with the NUCLEOS_VERSION of the headers that it was built
+    with, which need not be those of the host. Plain ASCII; lent for good. */
 const char *nucleos_version(void);
 
 VN_C_FIN

@@ -36,7 +36,8 @@ struct sitio {
 #define AFIRMA_TEXTO(cond, texto) AFIRMA_TEXTO_CLASE(cond, texto, 0)
 /** AFIRMA_NO_NULO(p): reports "(p) != NULL". */
 #define AFIRMA_NO_NULO(p) AFIRMA_TEXTO_CLASE((p) != nullptr, "(" #p ") != NULL", 0)
-/** EXIGE(a, b, c): none of them is null; the first that is, in the order of the parameters, is reported. Up to eight. */
+/** EXIGE(a, b, c): none of them is null; the first that is, in the order of the parameters, is reported. Up to
+    eight. */
 #define EXIGE(...)                                                                                                     \
     VN_EXIGE_(__VA_ARGS__, VN_EXIGE_8, VN_EXIGE_7, VN_EXIGE_6, VN_EXIGE_5, VN_EXIGE_4, VN_EXIGE_3, VN_EXIGE_2,         \
               AFIRMA_NO_NULO, )(__VA_ARGS__)
