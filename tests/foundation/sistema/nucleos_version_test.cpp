@@ -1,5 +1,6 @@
 #include "foundation/sistema/nucleos_version.h"
 #include "prueba.h"
+#include <cstdio>
 #include <regex>
 
 PRUEBA(nucleos_version, la_de_la_biblioteca_y_la_de_sus_cabeceras) {
