@@ -16,9 +16,9 @@ void ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(const arrPuntero 
 /** Replaces root and name of the record of `clave`, or appends one. The texts are copied. */
 void ultfichsel_registra_nombre_fichero(arrPuntero *ultimos_fich_seleccionados, const char *clave, const vnwchar *raiz,
                                         const vnwchar *nombre_fichero);
-/** CIERTO and a new text in `*nombre_fichero` if there is a record of `clave`, else FALSO and null. Where the stored
-    root and `raiz_actual` differ (any case) and neither is empty, the stored root in the name gives way to
-    `raiz_actual`. */
+/** CIERTO and a new text in `*nombre_fichero` if there is a record of `clave`, else FALSO and null. Where the
+    stored root and `raiz_actual` differ (any case) and neither is empty, the stored root in the name gives way
+    to `raiz_actual`. */
 vnbool ultfichsel_ultimo_fichero_seleccionado_si_existe(const arrPuntero *ultimos_fich_seleccionados, const char *clave,
                                                         const vnwchar *raiz_actual, VN_SALIDA vnwchar **nombre_fichero);
 /** Frees the array and its records. */

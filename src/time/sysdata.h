@@ -42,8 +42,8 @@ char *sysdata_fecha(int32_t dia, int32_t mes, int32_t anyo, int32_t dia_semana, 
                     vnbool larga);
 vnwchar *sysdata_fecha_u(int32_t dia, int32_t mes, int32_t anyo, int32_t dia_semana, VN_OPC const vnwchar *modelo,
                          vnbool larga);
-/** Text of a time of day, 0 to 59, 0 to 59, 0 to 23; another is reported as "tamanyo_cadena != 0" and gives an empty
-    text. */
+/** Text of a time of day, 0 to 59, 0 to 59, 0 to 23; another is reported as "tamanyo_cadena != 0" and gives an
+    empty text. */
 char *sysdata_hora(int32_t segundo, int32_t minuto, int32_t hora, vnbool con_segundos);
 vnwchar *sysdata_hora_u(int32_t segundo, int32_t minuto, int32_t hora, vnbool con_segundos);
 

@@ -1,9 +1,9 @@
 /* Dates and times: a broken-down record, its seconds since 1970, and the texts that files, lists and dialogs need. No
    time zone enters but where an operation says local time. Years are those of the Gregorian calendar.
 
-   Two features of the count of seconds stay as they are, because files hold it: it is one day ahead for dates of 1970
-   to 1972, and again from 2101 on, since it counts a leap day for every fourth year before. The way back knows
-   neither. */
+   Two features of the count of seconds stay as they are, because files hold it: it is one day ahead for dates of
+   1970 to 1972, and again from 2101 on, since it counts a leap day for every fourth year before. The way back
+   knows neither. */
 #ifndef VN_VORNTIME_H
 #define VN_VORNTIME_H
 
@@ -29,8 +29,8 @@ VN_C_INICIO
 
 /* ---- Records. The check of one reports each field that is out of its range (tm_year and tm_isdst have none). ---- */
 
-/** New record, checked, with its day of the week and of the year; `anyo` in full. After a report it is the start of
-    1970. */
+/** New record, checked, with its day of the week and of the year; `anyo` in full. After a report it is the start
+    of 1970. */
 tmtime *vtm_crea(VN_RANGO(0, 23) int32_t hora, VN_RANGO(0, 59) int32_t minuto, VN_RANGO(0, 59) int32_t segundo,
                  VN_RANGO(1, 31) int32_t dia, VN_RANGO(1, 12) int32_t mes, int32_t anyo);
 /** New copy. */
@@ -73,9 +73,9 @@ void vtm_test_fechas(VN_DATO void *vornsave_o_contexto);
 int64_t vtm_convierte_fecha_a_time_t(const tmtime *fecha);
 /** The same in 32 bits. A date that does not fit is reported and gives the nearest number that does. */
 uint32_t vtm_convierte_fecha_a_segundos(const tmtime *fecha);
-/** Date of a count of seconds, in the true calendar; the day of the week as vtm_dia_de_la_semana_tim64t gives it.
-    Outside the years 1970 to 2147485547, whose last second is the end of the range, it is reported: the start of
-    1970. */
+/** Date of a count of seconds, in the true calendar; the day of the week as vtm_dia_de_la_semana_tim64t gives
+    it. Outside the years 1970 to 2147485547, whose last second is the end of the range, it is reported: the
+    start of 1970. */
 void vtm_convierte_time64t_a_fecha(VN_RANGO(0, 67768036191676799) int64_t t, VN_SALIDA tmtime *fecha);
 void vtm_convierte_timet_a_fecha(VN_RANGO(0, 67768036191676799) int64_t t, VN_SALIDA tmtime *fecha);
 void vtm_convierte_segundos_a_fecha(uint32_t segundos, VN_SALIDA tmtime *fecha);

@@ -38,8 +38,8 @@ double cnv_convierte(VN_RANGO(0, 1) int32_t sentido, VN_RANGO(0, 145) uint32_t t
     header: for those of another the host runs the exit registry, vnatexit_ejecuta, and asks anew); empty for
     CNV_NO_CONVERSION. Good until then. */
 const vnwchar *cnv_strextunids(VN_RANGO(0, 145) uint32_t tipovalor);
-/** How a value of the type is typed in and shown: VORNNUM_FORMATO_* (vornnum.h), 0 but for lengths of the imperial
-    system. */
+/** How a value of the type is typed in and shown: VORNNUM_FORMATO_* (vornnum.h), 0 but for lengths of the
+    imperial system. */
 int32_t convers_formato_entrada(VN_RANGO(0, 145) uint32_t tipovalor);
 /** Whether that is in feet and inches. */
 vnbool convers_es_longitud_en_sistema_imperial(VN_RANGO(0, 145) uint32_t tipovalor);

@@ -213,8 +213,8 @@ vnbool parmgtzero(double x);
 vnbool parmgezero(double x);
 vnbool parmltzero(double x);
 
-/** The same of `a - b`: a difference of exactly t is equal. Two infinities of one sign compare as nothing: all
-    FALSO. */
+/** The same of `a - b`: a difference of exactly t is equal. Two infinities of one sign compare as nothing:
+    all FALSO. */
 vnbool parmeq(double a, double b);
 vnbool parmne(double a, double b);
 vnbool parmgt(double a, double b);
@@ -222,9 +222,9 @@ vnbool parmge(double a, double b);
 vnbool parmlt(double a, double b);
 vnbool parmle(double a, double b);
 
-/** Sets the tolerance of the `parm` comparisons, process-wide, 0.00001 at first. No value is refused: with zero they
-    are the exact comparisons, with a negative one nothing equals anything. From one thread, while nothing else
-    compares. */
+/** Sets the tolerance of the `parm` comparisons, process-wide, 0.00001 at first. No value is refused: with zero
+    they are the exact comparisons, with a negative one nothing equals anything. From one thread, while nothing
+    else compares. */
 void setroundoff(double roundoff);
 /** `x` rounded to the nearest multiple of `ro`, halves upwards, also of negative values. An `ro` that is not above zero
     is reported and `x` comes back. */

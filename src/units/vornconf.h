@@ -20,8 +20,8 @@
 #define VORNNORM_UNIDAD_ENERGIA_KCAL 1u
 #define VORNNORM_UNIDAD_ENERGIA_BTU 2u
 
-/** No standard: of concrete, cold-formed steel, rolled steel, electrical and timber works. Other codes are the
-    hosts'. */
+/** No standard: of concrete, cold-formed steel, rolled steel, electrical and timber works. Other codes are
+    the hosts'. */
 #define NORMA_H_ERROR 0u
 #define NORMA_C_ERROR 0u
 #define NORMA_L_ERROR 0u

@@ -47,8 +47,8 @@ vnbool vornnum_dameNumeroDeCadenaConDecimales_u(const vnwchar *cadena, VN_SALIDA
                                                 vnwchar sep_decimales, VN_RANGO(0, 3) int32_t formato);
 /** The number that the text begins with, with a period, whatever follows it; 0 if there is none. */
 double vornnum_wtof(const vnwchar *cadena);
-/** The number that the hexadecimal digits at the beginning of the text make, modulo 2 to the 32; 0 if there are
-    none. */
+/** The number that the hexadecimal digits at the beginning of the text make, modulo 2 to the 32; 0 if there
+    are none. */
 uint32_t num_string_hex_a_ulong(const char *cadena);
 uint32_t num_string_hex_a_ulong_u(const vnwchar *cadena);
 
@@ -101,9 +101,9 @@ vnwchar *num_ulong_a_string_u(uint32_t valor, vnwchar sep_millares);
 char *vornnum_convierte_a_numero_romano(VN_RANGO(1, 99) int32_t valor);
 vnwchar *vornnum_convierte_a_numero_romano_u(VN_RANGO(1, 99) int32_t valor);
 
-/** Width in characters of a field for numbers from `minimo` to `maximo`, told to `precision` (which must be above 5e-10
-    for VORNNUM_FORMATO_NUMERO; values and precision in the unit of the format). What is not finite is reported, and
-    0. */
+/** Width in characters of a field for numbers from `minimo` to `maximo`, told to `precision` (which must be above
+    5e-10 for VORNNUM_FORMATO_NUMERO; values and precision in the unit of the format). What is not finite is reported,
+    and 0. */
 uint16_t vornnum_numero_digitos(double minimo, double maximo, double precision, uint32_t denominador,
                                 VN_RANGO(0, 3) int32_t formato);
 

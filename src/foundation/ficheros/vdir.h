@@ -38,15 +38,13 @@ vnwchar *vdir_makepath_UNICODE(VN_OPC const vnwchar *unidad, VN_OPC const vnwcha
 vnbool vdir_splitpath_con_comprobacion_UNICODE(const vnwchar *ruta, VN_SALIDA_OPC vnwchar **unidad,
                                                VN_SALIDA_OPC vnwchar **directorio, VN_SALIDA_OPC vnwchar **nombre,
                                                VN_SALIDA_OPC vnwchar **extension);
-/** `nombre` with the extension `ext` (with or without full stop) at its end, unless it ends so already, in any
-    case. */
+/** `nombre` with the extension `ext` (with or without full stop) at its end, unless it ends so already, in any case. */
 vnwchar *vdir_nombre_fichero_con_ext_UNICODE(const vnwchar *nombre, const vnwchar *ext);
 /** Last part of the path without its extension. */
 vnwchar *vdir_nombre_base_fichero_UNICODE(const vnwchar *ruta);
 /** Extension of the last part, without full stop; empty if there is none. */
 vnwchar *vdir_extension_fichero_UNICODE(const vnwchar *ruta);
-/** The directory that holds the path's last part: "" for a plain name, with a separator at the end only for a root.
-    */
+/** The directory that holds the path's last part: "" for a plain name, with a separator at the end only for a root. */
 vnwchar *vdir_ruta_acceso_directorio_fichero_UNICODE(const vnwchar *ruta);
 char *vdir_ruta_acceso_directorio_fichero(const char *ruta);
 /** The path without the extension of its last part. */
@@ -84,8 +82,8 @@ vnbool vdir_borra_fichero_UNICODE(const vnwchar *ruta);
 vnbool vdir_borra_fichero_si_existe_UNICODE(const vnwchar *ruta);
 /** The same; a failure is not reported: FALSO if the file is still there or never was. */
 vnbool vdir_borra_fichero_con_comprobacion_UNICODE(const vnwchar *ruta);
-/** Renames a file or directory. It replaces nothing: an existing `destino` is a failure, which is reported, and
-    FALSO. */
+/** Renames a file or directory. It replaces nothing: an existing `destino` is a failure, which is reported,
+    and FALSO. */
 vnbool vdir_renombra_fichero_UNICODE(const vnwchar *origen, const vnwchar *destino);
 /** The same; a failure is not reported. */
 vnbool vdir_renombra_fichero_si_es_posible_UNICODE(const vnwchar *origen, const vnwchar *destino);

@@ -1,5 +1,5 @@
-/* Places on disk: the temporary directory, the running program, programs of the search path; lists with
-   subdirectories. */
+/* Places on disk: the temporary directory, the running program, programs of the search path; lists
+   with subdirectories. */
 #ifndef VN_VORNDIR_H
 #define VN_VORNDIR_H
 
@@ -27,9 +27,9 @@ vnwchar *vorndir_dame_path_completo_del_programa_UNICODE(void);
 vnwchar *vorndir_busca_ejecutable_del_path_UNICODE(const vnwchar *nombre);
 char *vorndir_busca_ejecutable_del_path(const char *nombre);
 
-/** Full paths of the files that match `patron`: a directory, a separator and a mask (vdir_lista_de_ficheros_UNICODE).
-    The ANSI form leaves out those that the code page cannot hold. FALSO and an empty list if the directory cannot be
-    read. */
+/** Full paths of the files that match `patron`: a directory, a separator and a mask
+    (vdir_lista_de_ficheros_UNICODE). The ANSI form leaves out those that the code page cannot hold. FALSO and an
+    empty list if the directory cannot be read. */
 vnbool vorndir_lista_de_fichero_UNICODE(const vnwchar *patron, VN_SALIDA arrCADENA_u **lista);
 vnbool vorndir_lista_de_fichero(const char *patron, VN_SALIDA arrCADENA **lista);
 /** All below `ruta`: full paths of the files whose names match `mascara`, and of all subdirectories, each before what

@@ -100,8 +100,8 @@ char *vtxt_lee_cadena_ASCII(vnfichero *f);
 char *vtxt_lee_cadena_ansi_ascii(vnfichero *f, uint16_t version, uint16_t version_ascii);
 /** As vtxt_lee_cadena, as a new wide text. */
 vnwchar *vtxt_lee_cadena_ansi_a_unicode(vnfichero *f);
-/** Reads the line that vtxt_escr_cadena_unicode wrote as a new text. Bytes that are no UTF-8 are reported, and come as
-    U+FFFD. */
+/** Reads the line that vtxt_escr_cadena_unicode wrote as a new text. Bytes that are no UTF-8 are reported, and come
+    as U+FFFD. */
 vnwchar *vtxt_lee_cadena_unicode(vnfichero *f);
 
 /** Reads a line into `buffer`, which has room for `maximo` characters, the zero included. What does not fit is passed

@@ -24,8 +24,8 @@ void apunorde_nousar_inserta_original(apunorde *a, VN_CONSUME void *p, VN_SALIDA
 uint32_t apunorde_nousar_numelems(const apunorde *a);
 /** Element number `i` of the order, borrowed; null after a report. */
 void *apunorde_nousar_get(const apunorde *a, VN_INDICE(a) uint32_t i);
-/** Takes element number `i` out of the set and hands it to the caller, who owns it from then on; null after a
-    report. */
+/** Takes element number `i` out of the set and hands it to the caller, who owns it from then on; null after
+    a report. */
 void *apunorde_nousar_quita(apunorde *a, VN_INDICE(a) uint32_t i);
 /** The first element that `comparador(clave, element)` matches, borrowed, or null. The comparer's order must be that
     of the set. */
@@ -41,8 +41,8 @@ vnbool apunorde_nousar_existe_elemento(const apunorde *a, const void *p, VN_SALI
 
 VN_C_FIN
 
-/* `tipo` is the type that the elements lead to, `tipo_dato` that of the comparer's datum, `tipo_clave` that of a
-   key. */
+/* `tipo` is the type that the elements lead to, `tipo_dato` that of the comparer's datum, `tipo_clave` that of
+   a key. */
 #define apunorde_crea(tipo, tipo_dato, comparador, dato, destructor)                                                   \
     apunorde_nousar_crea(                                                                                              \
         VN_COMPRUEBA_TIPO(int (*)(const tipo *, const tipo *, tipo_dato *), comparador, vnfunc_compara_con_dato),      \

@@ -280,8 +280,8 @@ vnwchar *arr_GetCopiaCADENA_u(const arrCADENA_u *a, VN_INDICE(a) uint32_t i);
 void arr_SetCADENA(arrCADENA *a, VN_INDICE(a) uint32_t i, VN_OPC const char *s);
 void arr_SetCADENA_u(arrCADENA_u *a, VN_INDICE(a) uint32_t i, VN_OPC const vnwchar *s);
 
-/** Replaces element `i` by the very text `*s`, which the array takes over; `*s` is left null. After a report it is
-    freed. */
+/** Replaces element `i` by the very text `*s`, which the array takes over; `*s` is left null. After a report it
+    is freed. */
 void arr_SetCADENAOriginal(arrCADENA *a, VN_INDICE(a) uint32_t i, VN_OPC VN_CONSUME char **s);
 void arr_SetCADENAOriginal_u(arrCADENA_u *a, VN_INDICE(a) uint32_t i, VN_OPC VN_CONSUME vnwchar **s);
 
@@ -396,23 +396,23 @@ vnbool arr_SonIgualesPunto3DConTolerancia(const arrPunto3D *a, const arrPunto3D 
 vnbool arr_ExistePunto2D(const arrPunto2D *a, double x, double y, double tolerancia, VN_SALIDA_OPC uint32_t *pos);
 
 /** Appends the points of a figure of the plane, its outline as a polygon. Angles in radians; `num_puntos` is
-   how many a full turn has. A figure that is not finite appends nothing. A circle: from its point at angle 0,
-   counter-clockwise; the first is not repeated at the end. */
+    how many a full turn has. A figure that is not finite appends nothing. A circle: from its point at angle 0,
+    counter-clockwise; the first is not repeated at the end. */
 void arr_AnyadirCirculoPunto2D(arrPunto2D *a, double xc, double yc, double radio,
                                VN_RANGO(3, 1000000) uint32_t num_puntos);
 /** An arc from one angle to the other, both ends included: counter-clockwise, or clockwise when the last
-   angle is below the first. More than a full turn is a full turn. As many steps as cover the arc, none longer
-   than those of the full turn, all equal. */
+    angle is below the first. More than a full turn is a full turn. As many steps as cover the arc, none longer
+    than those of the full turn, all equal. */
 void arr_AnyadirArcoPunto2D(arrPunto2D *a, double xc, double yc, double radio, double angulo_inicial,
                             double angulo_final, VN_RANGO(3, 1000000) uint32_t num_puntos);
 /** The same of an ellipse whose semi-axis `semieje_x` stands at the angle `giro` and `semieje_y` a quarter
-   turn further. The angles are the parameter of the ellipse, from that axis: (semieje_x cos, semieje_y sin)
-   before the turn. */
+    turn further. The angles are the parameter of the ellipse, from that axis: (semieje_x cos, semieje_y sin)
+    before the turn. */
 void arr_AnyadirArcoElipsePunto2D(arrPunto2D *a, double xc, double yc, double semieje_x, double semieje_y,
                                   double angulo_inicial, double angulo_final, double giro,
                                   VN_RANGO(3, 1000000) uint32_t num_puntos);
 /** The least rectangle that has all the points. One without points is reported and gives zeros; coordinates
-   that are not-a-number do not count. */
+    that are not-a-number do not count. */
 void arr_GetMinimaxPunto2D(const arrPunto2D *a, VN_SALIDA double *xmin, VN_SALIDA double *ymin, VN_SALIDA double *xmax,
                            VN_SALIDA double *ymax);
 /** The side of the closed outline that starts at point `i`; that of the last point goes back to the first. */
@@ -475,8 +475,8 @@ vnbool arr_BuscarEstructuraDicotomicamenteConTipo(const arrPuntero *a, VN_DATO c
                                                   vnfunc_compara comparador, VN_SALIDA_OPC uint32_t *pos);
 /** Inserts `p` into an array sorted by `comparador(p, element)`, after its equals; returns its index. */
 uint32_t arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(arrPuntero *a, VN_DATO void *p, vnfunc_compara comparador);
-/** Sorts the elements by `comparador(element, element)`; equals keep their order. The comparer may sort arrays
-    itself. */
+/** Sorts the elements by `comparador(element, element)`; equals keep their order. The comparer may sort
+    arrays itself. */
 void arr_QSortPunteroConTipo(arrPuntero *a, vnfunc_compara comparador);
 /** Calls `funcion(element, datos)` with each element in order; it may change the array. */
 void arr_RecorreEstructuraSimpleConTipo(const arrPuntero *a, vnfunc_recorre funcion, VN_DATO void *datos);

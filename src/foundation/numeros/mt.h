@@ -39,8 +39,8 @@ void f_mt_parametros_segmento(double x1, double y1, double x2, double y2, VN_SAL
 double mt_posicion_relativa_a_segmento(double x, double y, double x1, double y1, double x2, double y2);
 /** Makes a vector of unit length. FALSO, and the vector stays, when it has no direction: zero, or not finite. */
 vnbool mt_pasar_a_unitario_2D(double *x, double *y);
-/** Component z of the cross product of two vectors of the plane: positive when the second is to the left of the
-    first. */
+/** Component z of the cross product of two vectors of the plane: positive when the second is to the left of
+    the first. */
 double mt_producto_vectorial_plano(double x1, double y1, double x2, double y2);
 /** Unit vector that halves the turn from the first unit vector counter-clockwise to the second: the middle of the arc
     between two radii. The half turn gives the left normal of the first, equal vectors the first itself. */
@@ -72,9 +72,9 @@ void mt_gira_xy_sentido_horario(double x, double y, double coseno, double seno, 
                                 VN_SALIDA double *yg);
 /** Turns (*x, *y) counter-clockwise about the centre. */
 void mt_gira_coords_respecto_a_un_punto(double xc, double yc, double coseno, double seno, double *x, double *y);
-/** Scales (*x, *y), turns it counter-clockwise and displaces it, in that order. The other forms first take the point as
-    it stands from (x_origen, y_origen), which therefore goes to the displacement; the last has a scale for each
-    axis. */
+/** Scales (*x, *y), turns it counter-clockwise and displaces it, in that order. The other forms first take the
+    point as it stands from (x_origen, y_origen), which therefore goes to the displacement; the last has a scale for
+    each axis. */
 void mt_transforma_coords(double escala, double coseno, double seno, double desplaz_x, double desplaz_y, double *x,
                           double *y);
 void mt_transforma_coords_con_origen_escala_giro_y_desplazamiento(double x_origen, double y_origen, double escala,
@@ -92,10 +92,10 @@ void mt_proyectado_a_real(double x_proyectado, double y_proyectado, VN_SALIDA do
 
 /** Whether (x, y) lies on the segment, its ends included: not farther from it than 1e-5. */
 vnbool mt_punto_pertenece_a_segmento(double x, double y, double x1, double y1, double x2, double y2);
-/** Whether the segments (1, 2) and (3, 4) cross, and where. A crossing up to 1e-6 beyond an end still counts, and lies
-    on the line of the first. Parallel segments have none, overlapping ones included: those whose angle has a sine of at
-    most 1e-14, or what the rounding of the coordinates makes of it, 2 x 2^-52 x (largest coordinate) / (shorter
-    length). */
+/** Whether the segments (1, 2) and (3, 4) cross, and where. A crossing up to 1e-6 beyond an end still counts, and
+    lies on the line of the first. Parallel segments have none, overlapping ones included: those whose angle has a
+    sine of at most 1e-14, or what the rounding of the coordinates makes of it, 2 x 2^-52 x (largest coordinate) /
+    (shorter length). */
 vnbool mt_existe_interseccion_entre_segmentos(double x1, double y1, double x2, double y2, double x3, double y3,
                                               double x4, double y4, VN_SALIDA_OPC double *x, VN_SALIDA_OPC double *y);
 /** Cuts two segments with each other and fills the cuts of both. On which side a point lies is decided exactly, without

@@ -12,7 +12,7 @@ typedef struct vmatr vmatr;
 VN_C_INICIO
 
 /** New matrix of zeros. At most 134,217,728 coefficients; more, or none, is reported and gives null, and so
-   is a matrix that there is no memory for. */
+    is a matrix that there is no memory for. */
 vmatr *vmatr_crea_matriz_nula(VN_RANGO(1, 134217728) uint32_t filas, VN_RANGO(1, 134217728) uint32_t columnas);
 /** New identity matrix of `n` rows and columns. */
 vmatr *vmatr_crea_matriz_identidad(VN_RANGO(1, 11585) uint32_t n);
@@ -29,14 +29,14 @@ void vmatr_set_coef_matriz(vmatr *m, uint32_t i, uint32_t j, double v);
 double *vmatr_get_buffer_matriz(vmatr *m);
 
 /** New inverse of a square matrix. One that has none (a row that the others give, to the precision of
-   doubles, or a coefficient that is not finite) is reported and gives null. The scales of rows and columns do
-   not matter: those of a transformation that displaces by kilometres and scales by a millionth are fine. */
+    doubles, or a coefficient that is not finite) is reported and gives null. The scales of rows and columns do
+    not matter: those of a transformation that displaces by kilometres and scales by a millionth are fine. */
 vmatr *vmatr_matriz_inversa(const vmatr *m);
 /** New product of `cambio` by `columnas`: each column of the second, a point or an axis, through the first.
-   As many columns in the first as rows in the second; otherwise it is reported, and null. */
+    As many columns in the first as rows in the second; otherwise it is reported, and null. */
 vmatr *vmatr_producto_cambio_x_columnas(const vmatr *cambio, const vmatr *columnas);
 /** The same product into `resultado`, which has the rows of the first and the columns of the second and keeps
-   nothing of what it had. It may be one of the two. Other sizes are reported and leave it as it was. */
+    nothing of what it had. It may be one of the two. Other sizes are reported and leave it as it was. */
 void vmatr_producto_sobre_buffer_cambio_x_columnas(const vmatr *cambio, const vmatr *columnas, vmatr *resultado);
 /** As vmatr_producto_sobre_buffer_cambio_x_columnas with the first matrix transposed: a rotation undone. */
 void vmatr_producto_sobre_buffer_cambio_trasp_x_columnas(const vmatr *cambio, const vmatr *columnas, vmatr *resultado);

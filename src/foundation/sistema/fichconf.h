@@ -1,11 +1,10 @@
 /* Configuration places of the programs of the family: which directory is whose.
 
        <base>/<distributor>            the configuration directory
-       <base>/<distributor>/estructa   the directory of what all its programs share
-   The base is the user's: on Windows the variable APPDATA (or what the system gives when it is not set), on
-   Linux the variable XDG_CONFIG_HOME or ".config" of the home directory, unless the host sets another. The
-   distributor is "VORN" until another is registered. Paths are wide, new texts. Threads: any, those that set
-   included. */
+   <base>/<distributor>/estructa   the directory of what all its programs share The base is the user's: on Windows the
+   variable APPDATA (or what the system gives when it is not set), on Linux the variable XDG_CONFIG_HOME or ".config" of
+   the home directory, unless the host sets another. The distributor is "VORN" until another is registered. Paths are
+   wide, new texts. Threads: any, those that set included. */
 #ifndef VN_FICHCONF_H
 #define VN_FICHCONF_H
 

@@ -41,8 +41,7 @@ void vnmutex_destruye(VN_OPC vnmutex **m);
 /** For the end of the process: leaves it first if it is held, by whatever thread, and destroys it. */
 void vnmutex_destruye_saliendo(VN_OPC vnmutex **m);
 
-/** Sets how long vnmutex_entra waits, in milliseconds, for the whole process; returns what it was. 30,000 at first.
-    */
+/** Sets how long vnmutex_entra waits, in milliseconds, for the whole process; returns what it was. 30,000 at first. */
 uint32_t vnmutex_establece_plazo(uint32_t milisegundos);
 /** How often this process has entered a mutex whose holder had died inside: what it guards may be half done. */
 uint64_t vnmutex_numero_de_abandonados(void);

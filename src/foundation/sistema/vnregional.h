@@ -39,8 +39,8 @@ vnwchar *vnregional_fecha_u(int32_t dia, int32_t mes, int32_t anyo, VN_OPC const
     them. Null when there is no such time. */
 vnwchar *vnregional_hora_u(int32_t hora, int32_t minuto, int32_t segundo, vnbool con_segundos);
 /** A number of the form "-1234.5" as the region writes it, with its number of decimals (rounded, halves away from
-    zero), its grouping and its sign, new. Null when the text is no such number or the result takes `maximo` units or
-    more. */
+    zero), its grouping and its sign, new. Null when the text is no such number or the result takes `maximo` units
+    or more. */
 vnwchar *vnregional_numero_u(const vnwchar *numero, uint32_t maximo);
 
 /** Sets the region of the process, by its name as "es-ES", instead of the user's; its settings are then those that the

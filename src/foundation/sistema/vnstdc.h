@@ -30,8 +30,8 @@ char *vnstdc_strchr(const char *s, int c);
 char *vnstdc_strstr(const char *s, const char *t);
 char *vnstdc_strpbrk(const char *s, const char *caracteres);
 
-/** Wide texts; as the ANSI ones. Lengths count 16-bit units. vnstdc_wcscspn: units before the first one of
-    `caracteres`. */
+/** Wide texts; as the ANSI ones. Lengths count 16-bit units. vnstdc_wcscspn: units before the first one
+    of `caracteres`. */
 size_t vnstdc_wcslen(const vnwchar *s);
 vnwchar *vnstdc_wcscpy(VN_SALIDA vnwchar *destino, const vnwchar *origen);
 vnwchar *vnstdc_wcsncpy(VN_SALIDA VN_LON(n) vnwchar *destino, const vnwchar *origen, size_t n);
@@ -79,10 +79,10 @@ double vnstdc_fmod(double x, double y);
 
 /** Clears the error and end marks of a stream. */
 void vnstdc_clearerr(vnfichero *f);
-/** Reads one item from a stream as `formato` says (one conversion: d i u x o c s f g e with l, h, I64 and a width), and
-    returns how many items were read: 1, 0, or -1 at the end of the stream before anything was read. `a` leads to room
-    of the conversion's type; a `%s` without a width is reported and reads nothing. What was not used stays in the
-    stream. */
+/** Reads one item from a stream as `formato` says (one conversion: d i u x o c s f g e with l, h, I64 and a width),
+    and returns how many items were read: 1, 0, or -1 at the end of the stream before anything was read. `a` leads to
+    room of the conversion's type; a `%s` without a width is reported and reads nothing. What was not used stays in
+    the stream. */
 int vnstdc_fscanf1(vnfichero *f, VN_FORMATO const char *formato, VN_SALIDA void *a);
 /** Reads two items from a wide text. As vnstdc_fscanf1; `%s` and `%c` fill wide room. */
 int vnstdc_swscanf2(const vnwchar *s, VN_FORMATO const vnwchar *formato, VN_SALIDA void *a, VN_SALIDA void *b);

@@ -32,8 +32,8 @@ VN_C_INICIO
 vnbool vornreg_lee_cadena(VN_RANGO(0, 4) uint32_t raiz, const char *clave, const char *valor, VN_SALIDA char **texto);
 vnbool vornreg_lee_cadena_u(VN_RANGO(0, 4) uint32_t raiz, const vnwchar *clave, const vnwchar *valor,
                             VN_SALIDA vnwchar **texto);
-/** The names of the keys right under a key, sorted, in the new array `*lista`. FALSO, and null, when there is no such
-    key. */
+/** The names of the keys right under a key, sorted, in the new array `*lista`. FALSO, and null, when there is no
+    such key. */
 vnbool vornreg_dame_subclaves(VN_RANGO(0, 4) uint32_t raiz, const char *clave, VN_SALIDA arrCADENA **lista);
 vnbool vornreg_dame_subclaves_u(VN_RANGO(0, 4) uint32_t raiz, const vnwchar *clave, VN_SALIDA arrCADENA_u **lista);
 /** Whether a key is there. */

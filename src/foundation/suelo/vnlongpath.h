@@ -40,9 +40,9 @@ void *vnlongpath_CreateFileW(const vnwchar *nombre, uint32_t acceso, uint32_t co
                              VN_RANGO(1, 5) uint32_t disposicion, uint32_t atributos, VN_DATO void *plantilla);
 /** Closes what vnlongpath_CreateFileW opened; FALSO if it is not open. */
 vnbool vnlongpath_CloseHandle(VN_DATO void *fichero);
-/** Attributes of a file or directory; VNLONGPATH_INVALID_FILE_ATTRIBUTES if it is not there. On Linux: DIRECTORY,
-    READONLY (this user may not write it), HIDDEN (its name begins with a full stop), REPARSE_POINT (a link), else
-    NORMAL. */
+/** Attributes of a file or directory; VNLONGPATH_INVALID_FILE_ATTRIBUTES if it is not there. On Linux:
+    DIRECTORY, READONLY (this user may not write it), HIDDEN (its name begins with a full stop), REPARSE_POINT
+    (a link), else NORMAL. */
 uint32_t vnlongpath_GetFileAttributesW(const vnwchar *nombre);
 
 VN_C_FIN

@@ -62,9 +62,9 @@ void vornspy_destruye_parametros(vnparametros **parametros);
 
 /** Calls `funcion` with each live block of the process, in no order. Other threads must not free meanwhile. */
 void vornspy_recorre_bloques_vivos(vnfunc_bloque funcion, VN_DATO void *datos);
-/** Number of live blocks, and their bytes if `bytes` is not null. What the library made at first use and keeps for the
-    exit list is among them: a program looks for leaks with vornspy_informa_de_fugas_al_salir, a test after
-    vnatexit_ejecuta. */
+/** Number of live blocks, and their bytes if `bytes` is not null. What the library made at first use and keeps
+    for the exit list is among them: a program looks for leaks with vornspy_informa_de_fugas_al_salir, a test
+    after vnatexit_ejecuta. */
 uint64_t vornspy_bloques_vivos(VN_SALIDA_OPC uint64_t *bytes);
 /** Writes to the error stream one line per module and line that has live blocks, those that the library keeps until the
     exit included; returns how many blocks. */

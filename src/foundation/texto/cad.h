@@ -25,8 +25,8 @@ char *cad_copia_cadena_opcional(VN_OPC const char *s);
     as it stands, without taking an argument. */
 char *nousar_formatea(VN_FORMATO const char *formato, ...);
 
-/** Appends `t`, or one character, to `*s`, which grows (and may move). `t` may be part of `*s`. A zero appends
-    nothing. */
+/** Appends `t`, or one character, to `*s`, which grows (and may move). `t` may be part of `*s`. A zero
+    appends nothing. */
 void cad_concatena(char **s, const char *t);
 void cad_concatena_caracter(char **s, char c);
 /** Puts `t` before `*s`, which grows (and may move). */
@@ -49,8 +49,8 @@ vnbool cad_es_subcadena_inicial(const char *s, const char *t);
 vnbool cad_es_subcadena_inicial_may_o_min(const char *s, const char *t);
 vnbool cad_es_subcadena_final(const char *s, const char *t);
 
-/** New text: the first `n` bytes of `s` (one less where that would cut a character), or all of it when it is
-    shorter. */
+/** New text: the first `n` bytes of `s` (one less where that would cut a character), or all of it when it
+    is shorter. */
 char *cad_subcadena_inicial(const char *s, uint32_t n);
 /** New text: what stands in `s` before the first `t`; all of `s` when `t` is not there. */
 char *cad_subcadena_anterior(const char *s, const char *t);

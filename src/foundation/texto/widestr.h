@@ -29,8 +29,8 @@ void widestr_fun_destruye(VN_SALIDA void *s);
 /** Frees the `n` texts of a list and the list, and leaves `*lista` null, which it may be already if `n` is 0. */
 void widestr_nousar_destruyeListaCadenas(uint32_t n, VN_OPC vnwchar ***lista, VN_OPC const char *modulo,
                                          uint32_t linea);
-/** New text of a printf-like format, as nousar_formatea, where `%s` and `%ls` take wide text and `%S` and `%hs`
-    ANSI. */
+/** New text of a printf-like format, as nousar_formatea, where `%s` and `%ls` take wide text and `%S` and
+    `%hs` ANSI. */
 vnwchar *copiaforu_nousar_formatea(VN_FORMATO const vnwchar *formato, ...);
 
 /** Length in units. */
@@ -99,9 +99,9 @@ void widestr_nousar_reemplaza_todas_cadenas(vnwchar **s, const vnwchar *a, const
 vnwchar *widestr_nousar_extrae_token(const vnwchar *s, const vnwchar *separadores,
                                      VN_RANGO(1, 4294967295) uint32_t numero, VN_OPC const char *modulo,
                                      uint32_t linea);
-/** Splits at every unit that is one of `separadores`, or at every `separador`: n of them give n + 1 pieces, empty ones
-    too, as they stand. The list and its texts are the caller's, freed with widestr_destruyeListaCadenas. Returns how
-    many. */
+/** Splits at every unit that is one of `separadores`, or at every `separador`: n of them give n + 1 pieces, empty
+    ones too, as they stand. The list and its texts are the caller's, freed with widestr_destruyeListaCadenas. Returns
+    how many. */
 uint32_t widestr_nousar_lista_de_subcadenas_sin_eliminar_blancos(const vnwchar *s, const vnwchar *separadores,
                                                                  VN_SALIDA vnwchar ***lista, VN_OPC const char *modulo,
                                                                  uint32_t linea);
