@@ -6,12 +6,12 @@
 #include "foundation/listas/arr.h"
 #include "foundation/sistema/fichconf.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/error_interno_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
-#include <memory>
 #include <utility>
 
 namespace {
@@ -32,25 +32,13 @@ void destruye_registro(registro **r) {
     vornspy_free_pp(r, sizeof(registro));
 }
 
-struct destruye_lista {
-    void operator()(arrPuntero *a) const { arr_DestruyeEstructurasST(&a, registro, destruye_registro); }
-};
-struct libera_registro {
-    void operator()(registro *r) const { destruye_registro(&r); }
-};
-struct destruye_array {
-    void operator()(arrPuntero *a) const { arr_DestruyePunteroST(&a, registro); }
-};
-struct destruye_protocolo {
-    void operator()(vornsave *v) const { vornsave_libera(&v); }
-};
-struct cierra_callando {
-    void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
-};
-using lista_propia = std::unique_ptr<arrPuntero, destruye_lista>;
-using registro_propio = std::unique_ptr<registro, libera_registro>;
+void destruye_lista(arrPuntero **a) { arr_DestruyeEstructurasST(a, registro, destruye_registro); }
+void destruye_array(arrPuntero **a) { arr_DestruyePunteroST(a, registro); }
+
+using lista_propia = vn::dueno<destruye_lista>;
+using registro_propio = vn::dueno<destruye_registro>;
+using protocolo_propio = vn::dueno<vornsave_libera>;
 using texto_propio = vn::propio<vnwchar>;
-using fichero_propio = std::unique_ptr<vnfichero, cierra_callando>;
 
 registro_propio nuevo_registro() {
     return registro_propio(static_cast<registro *>(vornspy_calloc(1, sizeof(registro))));
@@ -96,9 +84,9 @@ registro *lee_registro(lectura *l, vornsave *v) {
 
 // Both run inside a trap: what the file holds or the disk refuses comes back as a failure.
 void lee_fichero(lectura *l) {
-    const std::unique_ptr<vornsave, destruye_protocolo> v(vornsave_registra_bin(l->fichero));
+    const protocolo_propio v(vornsave_registra_bin(l->fichero));
     // The records are the list's; the array that comes back only repeats them.
-    const std::unique_ptr<arrPuntero, destruye_array> repetidos(
+    const vn::dueno<destruye_array> repetidos(
         vornsave_lee_arr_punteros_con_1_dato_extraST(v.get(), registro, lectura, lee_registro, l));
 }
 
@@ -112,7 +100,7 @@ void escribe_fichero(escritura *e) {
     vn::ficheros::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->ruta));
     if (f == nullptr) return;
     {
-        const std::unique_ptr<vornsave, destruye_protocolo> v(vornsave_registra_bin(f.get()));
+        const protocolo_propio v(vornsave_registra_bin(f.get()));
         vornsave_graba_arr_punterosST(e->lista, v.get(), registro, graba_registro);
     }
     if (vn::atrapado()) return;
@@ -129,7 +117,7 @@ arrPuntero *ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados(void) {
     const texto_propio ruta = ruta_del_fichero();
     lectura l{};
     if (ruta == nullptr || vdir_existe_fichero_UNICODE(ruta.get()) != CIERTO) return l.lista.release();
-    const fichero_propio f(f_lc_fopen_seguro_u(ruta.get(), VNU("rb"), VN_AQUI));
+    const vn::dueno<lc_fclose_seguro> f(f_lc_fopen_seguro_u(ruta.get(), VNU("rb"), VN_AQUI));
     if (f == nullptr) return l.lista.release();
     l.fichero = f.get();
     if (trapable_ejecuta_funcion_segura(lectura, lee_fichero, &l, nullptr) == CIERTO) return l.lista.release();
@@ -150,9 +138,7 @@ void ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(const arrPuntero 
 
 void ultfichsel_registra_nombre_fichero(arrPuntero *ultimos_fich_seleccionados, const char *clave, const vnwchar *raiz,
                                         const vnwchar *nombre_fichero) {
-    if (!AFIRMA_NO_NULO(ultimos_fich_seleccionados) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(raiz) ||
-        !AFIRMA_NO_NULO(nombre_fichero))
-        return;
+    if (!EXIGE(ultimos_fich_seleccionados, clave, raiz, nombre_fichero)) return;
     // Copied first: the texts may be the record's own.
     texto_propio raiz_nueva(widestr_copia(raiz)), nombre_nuevo(widestr_copia(nombre_fichero));
     registro *r = busca(ultimos_fich_seleccionados, clave);
@@ -169,9 +155,7 @@ void ultfichsel_registra_nombre_fichero(arrPuntero *ultimos_fich_seleccionados, 
 
 vnbool ultfichsel_ultimo_fichero_seleccionado_si_existe(const arrPuntero *ultimos_fich_seleccionados, const char *clave,
                                                         const vnwchar *raiz_actual, vnwchar **nombre_fichero) {
-    if (!AFIRMA_NO_NULO(ultimos_fich_seleccionados) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(raiz_actual) ||
-        !AFIRMA_NO_NULO(nombre_fichero))
-        return FALSO;
+    if (!EXIGE(ultimos_fich_seleccionados, clave, raiz_actual, nombre_fichero)) return FALSO;
     *nombre_fichero = nullptr;
     const registro *r = busca(ultimos_fich_seleccionados, clave);
     if (r == nullptr) return FALSO;

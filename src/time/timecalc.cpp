@@ -33,7 +33,7 @@ constexpr int64_t ULTIMO_SEGUNDO = 253402300799;
 
 void descompone(int64_t t, int32_t *dia, int32_t *mes, int32_t *anyo, int32_t *hora, int32_t *minuto,
                 int32_t *segundo) {
-    if (!AFIRMA_NO_NULO(dia) || !AFIRMA_NO_NULO(mes) || !AFIRMA_NO_NULO(anyo)) return;
+    if (!EXIGE(dia, mes, anyo)) return;
     if (!AFIRMA(t >= 0 && t <= ULTIMO_SEGUNDO)) t = 0;
     const dia_del_calendario d = dia_de(t / SEGUNDOS_DIA);
     const auto resto = static_cast<int32_t>(t % SEGUNDOS_DIA);

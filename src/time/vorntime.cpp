@@ -4,6 +4,7 @@
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/calendario_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "persistence/vornsave.h"
 #include "time/vorntime_priv.h"
 #include <algorithm>
@@ -87,7 +88,7 @@ tmtime *vtm_copia_tm(const tmtime *datos_a_copiar) {
 }
 
 void vtm_destruye(tmtime **fecha) {
-    if (AFIRMA_NO_NULO(fecha) && AFIRMA_NO_NULO(*fecha)) vornspy_free_pp(fecha, sizeof(tmtime));
+    if (EXIGE(fecha, *fecha)) vornspy_free_pp(fecha, sizeof(tmtime));
 }
 
 void vtm_libera_tm_arr(arrPuntero **arr) { arr_DestruyeEstructurasST(arr, tmtime, vtm_destruye); }
@@ -107,7 +108,7 @@ void vorntime_ajusta_fecha_valida(tmtime *fecha) {
 }
 
 void vorntime_obtener_dia_mes_anyo(const tmtime *fecha, int32_t *dia, int32_t *mes, int32_t *anyo) {
-    if (!AFIRMA_NO_NULO(fecha) || !AFIRMA_NO_NULO(dia) || !AFIRMA_NO_NULO(mes) || !AFIRMA_NO_NULO(anyo)) return;
+    if (!EXIGE(fecha, dia, mes, anyo)) return;
     *dia = fecha->tm_mday;
     *mes = static_cast<int32_t>(int64_t{fecha->tm_mon} + 1);
     *anyo = static_cast<int32_t>(int64_t{fecha->tm_year} + 1900);
@@ -128,7 +129,7 @@ tmtime *vtm_lee_hora_y_fecha(vornsave *vornsave_datos) {
 }
 
 int vtm_compara_fechas_mayor_menor(const tmtime *a, const tmtime *b) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return 0;
+    if (!EXIGE(a, b)) return 0;
     for (const auto campo : ORDEN)
         if (a->*campo != b->*campo) return a->*campo < b->*campo ? -1 : 1;
     return 0;
@@ -137,8 +138,8 @@ int vtm_compara_fechas_mayor_menor(const tmtime *a, const tmtime *b) {
 int vtm_compara_fechas(const tmtime *a, const tmtime *b) { return vtm_compara_fechas_mayor_menor(a, b); }
 
 vnbool vtm_fechas_iguales(const tmtime *a, const tmtime *b) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return FALSO;
-    return vtm_compara_fechas_mayor_menor(a, b) == 0 ? CIERTO : FALSO;
+    if (!EXIGE(a, b)) return FALSO;
+    return logico(vtm_compara_fechas_mayor_menor(a, b) == 0);
 }
 
 int64_t vorntime_ahora_UTC(void) { return vnstdc__time64(nullptr); }

@@ -76,7 +76,7 @@ std::optional<tmtime> lee(const vnwchar *cadena) {
 } // namespace
 
 vnbool vtm_convierte_cadena_a_tm_u(const vnwchar *cadena, tmtime *fecha) {
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(fecha)) return FALSO;
+    if (!EXIGE(cadena, fecha)) return FALSO;
     const std::optional<tmtime> leida = lee(cadena);
     if (!leida) return FALSO;
     *fecha = *leida;
@@ -84,7 +84,7 @@ vnbool vtm_convierte_cadena_a_tm_u(const vnwchar *cadena, tmtime *fecha) {
 }
 
 vnbool vtm_convierte_cadena_a_tm(const char *cadena, tmtime *fecha) {
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(fecha)) return FALSO;
+    if (!EXIGE(cadena, fecha)) return FALSO;
     const propio<vnwchar> ancha(utunicode_ANSI_a_UNICODE(cadena));
     return vtm_convierte_cadena_a_tm_u(ancha.get(), fecha);
 }

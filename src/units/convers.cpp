@@ -97,10 +97,8 @@ void convers_valores_para_vnudcuso(uint32_t tipovalor, double *factor_conversion
                                    const vnwchar **texto_unidades) {
     const vista_convers v(tipovalor);
     if (!v.es_tipo) return;
-    if (!AFIRMA_NO_NULO(factor_conversion_a_unidades_internas)) return;
-    if (!AFIRMA_NO_NULO(sumando_conversion_a_unidades_internas)) return;
-    if (!AFIRMA_NO_NULO(es_correcto_texto_de_unidades_despues_de_valor)) return;
-    if (!AFIRMA_NO_NULO(texto_unidades)) return;
+    if (!EXIGE(factor_conversion_a_unidades_internas, sumando_conversion_a_unidades_internas)) return;
+    if (!EXIGE(es_correcto_texto_de_unidades_despues_de_valor, texto_unidades)) return;
     *factor_conversion_a_unidades_internas = 1 / v.cifras.coef;
     *sumando_conversion_a_unidades_internas = 0 - v.cifras.sumando;
     *es_correcto_texto_de_unidades_despues_de_valor = !v.es_longitud_imperial();

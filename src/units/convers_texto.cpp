@@ -164,14 +164,14 @@ vnwchar *convers_texto_ex(const vnwchar *cabecera, double valor, uint32_t tipova
 
 vnbool convers_dameNumeroDeCadena(const char *cadena, double *valor, uint32_t tipovalor) {
     if (valor != nullptr) *valor = 0;
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    if (!EXIGE(cadena, valor)) return FALSO;
     const vista_convers v(tipovalor);
     return v.es_tipo ? vornnum_dameNumeroDeCadena(cadena, valor, v.formato) : FALSO;
 }
 
 vnbool convers_dameNumeroDeCadena_u(const vnwchar *cadena, double *valor, uint32_t tipovalor) {
     if (valor != nullptr) *valor = 0;
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    if (!EXIGE(cadena, valor)) return FALSO;
     const vista_convers v(tipovalor);
     return v.es_tipo ? vornnum_dameNumeroDeCadena_u(cadena, valor, v.formato) : FALSO;
 }
@@ -179,7 +179,7 @@ vnbool convers_dameNumeroDeCadena_u(const vnwchar *cadena, double *valor, uint32
 vnbool convers_dameNumeroDeCadenaConDecimales(const char *cadena, double *valor, char sep_millares, char sep_decimales,
                                               uint32_t tipovalor) {
     if (valor != nullptr) *valor = 0;
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    if (!EXIGE(cadena, valor)) return FALSO;
     const vista_convers v(tipovalor);
     return v.es_tipo ? vornnum_dameNumeroDeCadenaConDecimales(cadena, valor, sep_millares, sep_decimales, v.formato)
                      : FALSO;
@@ -188,7 +188,7 @@ vnbool convers_dameNumeroDeCadenaConDecimales(const char *cadena, double *valor,
 vnbool convers_dameNumeroDeCadenaConDecimales_u(const vnwchar *cadena, double *valor, vnwchar sep_millares,
                                                 vnwchar sep_decimales, uint32_t tipovalor) {
     if (valor != nullptr) *valor = 0;
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    if (!EXIGE(cadena, valor)) return FALSO;
     const vista_convers v(tipovalor);
     return v.es_tipo ? vornnum_dameNumeroDeCadenaConDecimales_u(cadena, valor, sep_millares, sep_decimales, v.formato)
                      : FALSO;

@@ -121,7 +121,7 @@ char *vnnumlet_moneda_en_cifras_a_letra(const char *cadena, vnbool negativo, con
                                         const char *monedaFraccionariaSingular, const char *monedaFraccionariaPlural,
                                         vnbool monedaFraccionariaFemenina) {
     if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_LOGICO(negativo)) return nullptr;
-    if (!AFIRMA_NO_NULO(monedaPrincipalSingular) || !AFIRMA_NO_NULO(monedaPrincipalPlural)) return nullptr;
+    if (!EXIGE(monedaPrincipalSingular, monedaPrincipalPlural)) return nullptr;
     if (!AFIRMA_LOGICO(monedaPrincipalFemenina) || !AFIRMA_LOGICO(monedaFraccionariaFemenina)) return nullptr;
     moneda m{{monedaPrincipalSingular, monedaPrincipalPlural, monedaPrincipalFemenina == CIERTO}, {}};
     if (monedaFraccionariaSingular == nullptr) {

@@ -8,6 +8,7 @@
 #include "foundation/sistema/vnmutex.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/eterno_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/msglocal.h"
@@ -267,7 +268,7 @@ uint32_t vornconf_Internacional_idioma(void) {
 vnbool vornconf_es_sistema_unidades_inglesas(void) {
     const uint32_t sistema = vornconf_Internacional_sistema_unidades();
     if (sistema < VORNCONF_SU_MKS || sistema > VORNCONF_SU_IMPERIAL) return AFIRMA_DEFECTO(), FALSO;
-    return sistema == VORNCONF_SU_IMPERIAL ? CIERTO : FALSO;
+    return vn::logico(sistema == VORNCONF_SU_IMPERIAL);
 }
 
 uint32_t vornconf_lee_norma_hormigon(void) { return lee_fichero().hormigon; }

@@ -2,6 +2,7 @@
 #include "foundation/numeros/vnmath.h"
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/numero_int.h"
 #include "units/vornnum_priv.h"
@@ -208,7 +209,7 @@ template <class C> bool lee(const C *cadena, const separadores s, int32_t format
 }
 
 template <class C> vnbool numero_de_cadena(const C *cadena, double *valor, const separadores s, int32_t formato) {
-    if (!AFIRMA_NO_NULO(cadena) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    if (!EXIGE(cadena, valor)) return FALSO;
     *valor = 0;
     if (!AFIRMA_TEXTO(s.decimales != 0, "sep_decimales != 0")) return FALSO;
     if (!vn::formato_bueno(formato)) return FALSO;
@@ -219,14 +220,13 @@ template <class C> vnbool numero_de_cadena(const C *cadena, double *valor, const
 }
 
 template <class C> vnbool es_numero_entero(const C *cadena) {
-    return AFIRMA_NO_NULO(cadena) && es_entero(cadena) ? CIERTO : FALSO;
+    return vn::logico(AFIRMA_NO_NULO(cadena) && es_entero(cadena));
 }
 
 template <class C> vnbool es_numero_real(const C *cadena, const separadores s) {
     real<C> r;
-    return AFIRMA_NO_NULO(cadena) && AFIRMA_TEXTO(s.decimales != 0, "sep_decimales != 0") && explora(cadena, s, r)
-               ? CIERTO
-               : FALSO;
+    return vn::logico(AFIRMA_NO_NULO(cadena) && AFIRMA_TEXTO(s.decimales != 0, "sep_decimales != 0") &&
+                      explora(cadena, s, r));
 }
 
 template <class C> uint32_t hexadecimal(const C *cadena) {

@@ -43,6 +43,13 @@ TEXTOS = [
      "is not its own header"),
     ("src/frame/largo.h", "int f(void);\n" * 801, "more than 800 lines"),
     ("src/frame/tabla.inl", 'X(1, "a")\n' * 900, None),
+    ("src/frame/verdad_priv.h", "vnbool v = a == b\n    ? CIERTO\n    : FALSO; // x ? CIERTO : FALSO\n", "becomes a vnbool by logico()"),
+    ("src/frame/mentira_priv.h", "vnbool v = a ? FALSO : CIERTO;\n", "becomes a vnbool by logico()"),
+    ("src/frame/nulos_priv.h", "if (!AFIRMA_NO_NULO(a) ||\n    !AFIRMA_NO_NULO(*b)) return;\n", "are checked by EXIGE()"),
+    ("src/frame/ninguno_priv.h", "if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b)) f();\n", "are checked by EXIGE()"),
+    ("src/frame/uno_priv.h", "if (!AFIRMA_NO_NULO(a) || !AFIRMA(n > 0) || !AFIRMA_NO_NULO(b)) return;\n", None),
+    ("src/frame/destruye_priv.h", "struct d {\n    void operator()(vnmutex *m) const { vnmutex_destruye(&m); }\n};\n", "is owned by vn::dueno"),
+    ("src/frame/compara_priv.h", "struct c {\n    bool operator()(const char *a) const;\n    void operator()(int a) const;\n};\n", None),
     ("src/exports/foundation.txt", "b\na\n", "not sorted and unique"),
     ("src/exports/nucleos.txt", "a\na\n", "not sorted and unique"),
 ]

@@ -56,6 +56,18 @@ PLATAFORMA = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(_WIN32|_WIN64|W
 # Outside the library too, what differs between platforms stands in a folder of its own.
 OTRAS_PLATAFORMAS = ("tests/plataforma/", "bench/plataforma/", "examples/obra/plataforma/")
 MAXIMO_LINEAS = 800
+# One way to say a thing in src/: what is written otherwise, and how it is said. Literals and comments are not looked at. The
+# system's handles in platform/ have their own owners.
+DUENO = "what a function destroys is owned by vn::dueno<function>"
+NULO = r"AFIRMA_NO_NULO\([^()]*\)"
+IDIOMAS = [
+    (re.compile(r"\?\s*CIERTO\s*:\s*FALSO\b|\?\s*FALSO\s*:\s*CIERTO\b"), "a condition becomes a vnbool by logico()"),
+    (re.compile(rf"!{NULO}[\s\\]*\|\|[\s\\]*!{NULO}|{NULO}[\s\\]*&&[\s\\]*{NULO}"), "several pointers are checked by EXIGE()"),
+    (re.compile(r"\bvoid\s+operator\(\)\((?!void\b)\w+\s*\*\w+\)\s*const"), DUENO),
+]
+DE_LOS_IDIOMAS = ("src/foundation/suelo/logico_int.h", "src/foundation/suelo/afirma_int.h")
+EN_OBRAS = ("src/persistence/", "src/geometry/", "src/foundation/numeros/", "src/frame/alsalir.cpp", "src/foundation/listas/arr_geometria.cpp",
+            "src/foundation/texto/msglocal.cpp")  # being converted
 
 faltas = []
 
@@ -148,6 +160,16 @@ def mira_inclusiones(ruta, lineas, limpias):
                 falta(ruta, n, f"#if of a platform ({m[1]}) outside platform/")
 
 
+def mira_idiomas(ruta, limpio):
+    """The idioms of the library's own sources, over the text without comments: a condition may take several lines."""
+    if ruta.startswith(DE_LOS_IDIOMAS + EN_OBRAS):
+        return
+    for patron, que in IDIOMAS:
+        for m in patron.finditer(limpio):
+            if not (que == DUENO and es_de_plataforma(ruta)):
+                falta(ruta, limpio.count("\n", 0, m.start()) + 1, que)
+
+
 def mira_modulo(ruta, lineas):
     """A source names itself before its first include and includes its own public header first."""
     m = re.match(r'#define VN_MODULO "(\w+) \((NUCLEOS(?:_FOUNDATION)?)\.DLL\)"$', lineas[0])
@@ -172,9 +194,12 @@ def main():
         with open(os.path.join(RAIZ, ruta), encoding="utf-8") as f:
             texto = f.read()
         lineas = texto.split("\n")
-        limpias = sin_comentarios(texto).split("\n")
+        limpio = sin_comentarios(texto)
+        limpias = limpio.split("\n")
         mira_inclusiones(ruta, lineas, limpias)
         mira_espacio(ruta, lineas)
+        if ruta.startswith("src/"):
+            mira_idiomas(ruta, limpio)
         if ruta.startswith("src/") and ruta.endswith(".cpp") and "/platform/" not in ruta:
             mira_modulo(ruta, lineas)
         if len(lineas) - 1 > MAXIMO_LINEAS and not es_tabla(lineas):

@@ -2,6 +2,7 @@
 #include "foundation/ficheros/dirwin.h"
 #include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/vnlongpath.h"
 #include "foundation/suelo/vornspy.h"
@@ -26,7 +27,7 @@ dirwin *dirwin_crea_UNICODE(const vnwchar *patron) {
 
 vnbool dirwin_findnextfile_UNICODE(dirwin *d, dirwin_dato *dato) {
     if (dato != nullptr) *dato = {};
-    if (!AFIRMA_NO_NULO(d) || !AFIRMA_NO_NULO(dato)) return FALSO;
+    if (!EXIGE(d, dato)) return FALSO;
     for (vn::plat::ficha f; d->recorrido.siguiente(f);) {
         if (f.nombre.size() >= std::size(dato->nombre) || !vn::ficheros::casa_con(d->mascara, f.nombre)) continue;
         std::copy(f.nombre.begin(), f.nombre.end(), dato->nombre);
@@ -39,7 +40,7 @@ vnbool dirwin_findnextfile_UNICODE(dirwin *d, dirwin_dato *dato) {
 }
 
 vnbool dirwin_es_directorio_UNICODE(const dirwin_dato *dato) {
-    return AFIRMA_NO_NULO(dato) && (dato->atributos & VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY) != 0 ? CIERTO : FALSO;
+    return vn::logico(AFIRMA_NO_NULO(dato) && (dato->atributos & VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY) != 0);
 }
 
 void dirwin_destruye_UNICODE(dirwin **d) {

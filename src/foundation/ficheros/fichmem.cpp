@@ -4,6 +4,7 @@
 #include "foundation/ficheros/lc_fichero_int.h"
 #include "foundation/ficheros/temporal_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/vornspy.h"
 #include <algorithm>
 #include <cstring>
@@ -11,10 +12,7 @@
 
 namespace {
 
-struct libera {
-    void operator()(fichmem *m) const { fichmem_destruye(&m); }
-};
-using propio = std::unique_ptr<fichmem, libera>;
+using propio = vn::dueno<fichmem_destruye>;
 
 propio vacio() {
     propio m(static_cast<fichmem *>(vornspy_malloc(sizeof(fichmem))));
@@ -94,13 +92,13 @@ char *fichmem_copia_contenido_como_cadena(const fichmem *m) {
 }
 
 void fichmem_destruye(fichmem **m) {
-    if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(*m)) return;
+    if (!EXIGE(m, *m)) return;
     if ((*m)->datos != nullptr) vornspy_free_pp(&(*m)->datos, 1);
     vornspy_free_pp(m, sizeof(fichmem));
 }
 
 vnbool fichmem_graba_unicode(const fichmem *m, const vnwchar *nombre) {
-    if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(nombre)) return FALSO;
+    if (!EXIGE(m, nombre)) return FALSO;
     vn::ficheros::temporal f(
         vornfile_abrir_fichero_escritura_con_temporal_u(nombre, vn::ficheros::SUFIJO_TEMPORAL, FALSO));
     if (f == nullptr) return FALSO;

@@ -82,14 +82,13 @@ int32_t entero_de(std::string_view datos, std::string_view seccion, std::string_
 } // namespace
 
 int32_t ini_lee_int(const vnwchar *fichero, const char *seccion, const char *clave, int32_t por_defecto) {
-    if (!AFIRMA_NO_NULO(fichero) || !AFIRMA_NO_NULO(seccion) || !AFIRMA_NO_NULO(clave)) return 0;
+    if (!EXIGE(fichero, seccion, clave)) return 0;
     return entero_de(contenido(fichero), seccion, clave, por_defecto);
 }
 
 void ini_lee_varios_int(const vnwchar *fichero, const char *seccion, const char *claves, int32_t *valores,
                         uint32_t cuantas) {
-    if (!AFIRMA_NO_NULO(fichero) || !AFIRMA_NO_NULO(seccion) || !AFIRMA_NO_NULO(claves) || !AFIRMA_NO_NULO(valores))
-        return;
+    if (!EXIGE(fichero, seccion, claves, valores)) return;
     const std::string datos = contenido(fichero);
     std::string_view quedan = claves;
     for (uint32_t i = 0; i < cuantas; ++i) {

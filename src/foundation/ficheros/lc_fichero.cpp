@@ -4,6 +4,7 @@
 #include "foundation/ficheros/lc_fichero_int.h"
 #include "foundation/platform/fichero.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/vornspy.h"
 #include <algorithm>
 #include <cstring>
@@ -82,7 +83,7 @@ vnfichero *abre(const vnwchar *nombre, const modo_de_apertura &m, const pacienci
 vnfichero *abre_con(const vnwchar *nombre, const vnwchar *modo, const paciencia &p, bool informa, const char *modulo,
                     uint32_t linea, uint32_t ademas = 0) {
     modo_de_apertura m;
-    if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(modo)) return nullptr;
+    if (!EXIGE(nombre, modo)) return nullptr;
     if (!AFIRMA_TEXTO(analiza(modo, m), "modo de apertura")) return nullptr;
     m.como |= ademas;
     if (ademas != 0 && !AFIRMA_TEXTO((m.como & VN_ABRE_ESCRITURA) != 0, "modo de escritura")) return nullptr;
@@ -344,7 +345,7 @@ std::unique_ptr<guardado> toma_guardado(vnfichero &f) {
     return std::unique_ptr<guardado>(std::exchange(f.guardado, nullptr));
 }
 
-void libera_flujo::operator()(vnfichero *f) const {
+void libera_flujo(vnfichero *f) {
     if (f->guardado != nullptr) std::unique_ptr<guardado>(f->guardado)->suelta();
     if (f->id != VN_FICHERO_NINGUNO) operaciones().cierra(f->id);
     vornspy_free_pp(&f, 1);
@@ -390,13 +391,13 @@ vnbool lc_fclose(vnfichero *f) {
 vnbool lc_fclose_seguro(vnfichero *f) {
     if (!AFIRMA_NO_NULO(f)) return FALSO;
     const flujo mio(f);
-    return cierra(*f, false) ? CIERTO : FALSO;
+    return logico(cierra(*f, false));
 }
 
 vnbool lc_fclose_volcando_a_disco(vnfichero *f) {
     if (!AFIRMA_NO_NULO(f)) return FALSO;
     const flujo mio(f);
-    return cierra(*f, true) ? CIERTO : FALSO;
+    return logico(cierra(*f, true));
 }
 
 size_t f_lc_fread(void *destino, size_t tamanyo, size_t numero, vnfichero *f, const char *modulo, uint32_t linea) {

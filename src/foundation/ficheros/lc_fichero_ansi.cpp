@@ -16,17 +16,17 @@ vn::propio<vnwchar> ancho(const char *ansi) { return vn::propio<vnwchar>(utunico
 } // namespace
 
 vnfichero *f_lc_fopen(const char *nombre, const char *modo, const char *modulo, uint32_t linea) {
-    if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(modo)) return nullptr;
+    if (!EXIGE(nombre, modo)) return nullptr;
     return f_lc_fopen_u(ancho(nombre).get(), ancho(modo).get(), modulo, linea);
 }
 
 vnfichero *f_lc_fopen_en_varios_intentos(const char *nombre, const char *modo, const char *modulo, uint32_t linea) {
-    if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(modo)) return nullptr;
+    if (!EXIGE(nombre, modo)) return nullptr;
     return f_lc_fopen_en_varios_intentos_u(ancho(nombre).get(), ancho(modo).get(), modulo, linea);
 }
 
 vnfichero *f_lc_fopen_seguro(const char *nombre, const char *modo, const char *modulo, uint32_t linea) {
-    if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(modo)) return nullptr;
+    if (!EXIGE(nombre, modo)) return nullptr;
     return f_lc_fopen_seguro_u(ancho(nombre).get(), ancho(modo).get(), modulo, linea);
 }
 
@@ -56,12 +56,12 @@ vnfichero *vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar(const c
 
 vnbool vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar(vnfichero *f, const char *nombre) {
     vn::ficheros::flujo_abierto mio(f); // closed, whatever comes
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(nombre)) return FALSO;
+    if (!EXIGE(f, nombre)) return FALSO;
     const auto destino = ancho(nombre);
     return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(mio.release(), destino.get());
 }
 
 vnbool vf_copyfile_seguro(const char *origen, const char *destino) {
-    if (!AFIRMA_NO_NULO(origen) || !AFIRMA_NO_NULO(destino)) return FALSO;
+    if (!EXIGE(origen, destino)) return FALSO;
     return vf_copyfile_seguro_u(ancho(origen).get(), ancho(destino).get());
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "foundation/ficheros/lc_fichero.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/operaciones_fichero_int.h"
 #include <memory>
 
@@ -53,16 +54,11 @@ int64_t tamanyo_actual(vnfichero &f);
 void informa_escritura(vnfichero &f, const char *modulo, uint32_t linea);
 
 // Closes the file and keeps the record, whose name a report may need.
-struct libera_flujo {
-    void operator()(vnfichero *f) const;
-};
-using flujo = std::unique_ptr<vnfichero, libera_flujo>;
+void libera_flujo(vnfichero *f);
+using flujo = dueno<libera_flujo>;
 
 // An owner that closes on the way out of a failure; what it holds is closed by hand when all is well.
-struct cierra_callando {
-    void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
-};
-using flujo_abierto = std::unique_ptr<vnfichero, cierra_callando>;
+using flujo_abierto = dueno<lc_fclose_seguro>;
 
 // Remembers the reason for lc_ultimo_error, and gives it back.
 vnerror_fichero anota_error(vnerror_fichero e);

@@ -2,6 +2,7 @@
 #include "foundation/ficheros/lc_fichero.h"
 #include "foundation/ficheros/lc_fichero_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <algorithm>
 
 namespace vn::ficheros {
@@ -46,9 +47,9 @@ bool mueve_desde(vnfichero &f, int64_t posicion_pedida, int origen) {
 using namespace vn;
 using namespace vn::ficheros;
 
-vnbool f_lc_feof(const vnfichero *f) { return AFIRMA_NO_NULO(f) && f->al_final ? CIERTO : FALSO; }
+vnbool f_lc_feof(const vnfichero *f) { return logico(AFIRMA_NO_NULO(f) && f->al_final); }
 vnbool f_lc_ferror(const vnfichero *f) {
-    return AFIRMA_NO_NULO(f) && (f->fallo_lectura || f->fallo_escritura || f->sin_sentido) ? CIERTO : FALSO;
+    return logico(AFIRMA_NO_NULO(f) && (f->fallo_lectura || f->fallo_escritura || f->sin_sentido));
 }
 vnbool lc_ha_fallado(const vnfichero *f) { return f_lc_ferror(f); }
 
@@ -67,7 +68,7 @@ int32_t lc_ftell(const vnfichero *f) {
 
 vnbool vornio_fseek_i64(vnfichero *f, int64_t posicion, int origen) {
     if (!AFIRMA_NO_NULO(f) || !AFIRMA(origen >= VN_DESDE_EL_PRINCIPIO && origen <= VN_DESDE_EL_FINAL)) return FALSO;
-    return mueve_desde(*f, posicion, origen) ? CIERTO : FALSO;
+    return logico(mueve_desde(*f, posicion, origen));
 }
 
 vnbool lc_fseek(vnfichero *f, int32_t posicion, int origen) { return vornio_fseek_i64(f, posicion, origen); }
@@ -93,10 +94,10 @@ vnbool lc_quedan(vnfichero *f, uint64_t numero, uint64_t tamanyo) {
     if (f->estado == vnfichero::LEYENDO && necesita <= f->fin - f->v.pos) return CIERTO;
     // What only reads asks the system again only when the size that was seen would not do.
     if (!f->escribe && f->con_posicion && necesita <= f->tamanyo - posicion(*f)) return CIERTO;
-    return necesita <= lc_bytes_restantes(f) ? CIERTO : FALSO;
+    return logico(necesita <= lc_bytes_restantes(f));
 }
 
-vnbool lc_fflush(vnfichero *f) { return AFIRMA_NO_NULO(f) && vacia_informando(*f) ? CIERTO : FALSO; }
+vnbool lc_fflush(vnfichero *f) { return logico(AFIRMA_NO_NULO(f) && vacia_informando(*f)); }
 
 vnbool lc_vuelca_a_disco(vnfichero *f) {
     if (!AFIRMA_NO_NULO(f) || !vacia_informando(*f)) return FALSO;
@@ -136,5 +137,5 @@ vnbool lc_desbloquea_zona_fichero(vnfichero *f, int64_t inicio, uint32_t tamanyo
     const bool escrito = vacia(*f);
     const bool libre = operaciones().desbloquea(f->id, inicio, tamanyo) == VN_FICH_BIEN;
     if (!escrito) informa_escritura(*f, VN_AQUI);
-    return escrito && libre ? CIERTO : FALSO;
+    return logico(escrito && libre);
 }

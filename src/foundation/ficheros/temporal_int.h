@@ -2,14 +2,11 @@
 #pragma once
 
 #include "foundation/ficheros/vornfile.h"
-#include <memory>
+#include "foundation/suelo/dueno.hpp"
 
 namespace vn::ficheros {
 
 // On the way out of a failure the save is given up.
-struct abandona_temporal {
-    void operator()(vnfichero *f) const { vornfile_abandonar_fichero_escritura(f); }
-};
-using temporal = std::unique_ptr<vnfichero, abandona_temporal>;
+using temporal = dueno<vornfile_abandonar_fichero_escritura>;
 
 } // namespace vn::ficheros

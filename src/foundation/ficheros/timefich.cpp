@@ -30,7 +30,7 @@ timefich_fecha descompone_fecha(int64_t segundos) {
 
 vnbool timefich_obtener_fecha_fichero_existente_UTC_UNICODE(const vnwchar *nombre, int64_t *fecha_UTC) {
     if (fecha_UTC != nullptr) *fecha_UTC = 0;
-    if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(fecha_UTC)) return FALSO;
+    if (!EXIGE(nombre, fecha_UTC)) return FALSO;
     vn::plat::ficha f;
     const bool existe = vn::plat::consulta(nombre, f) && !f.es_directorio;
     if (!AFIRMA_DE_FICHERO(existe, nombre)) return FALSO;
@@ -40,7 +40,7 @@ vnbool timefich_obtener_fecha_fichero_existente_UTC_UNICODE(const vnwchar *nombr
 
 vnbool timefich_obtener_fecha_fichero_existente_UTC(const char *nombre, int64_t *fecha_UTC) {
     if (fecha_UTC != nullptr) *fecha_UTC = 0;
-    if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(fecha_UTC)) return FALSO;
+    if (!EXIGE(nombre, fecha_UTC)) return FALSO;
     return timefich_obtener_fecha_fichero_existente_UTC_UNICODE(vn::ficheros::de_ansi(nombre).c_str(), fecha_UTC);
 }
 

@@ -2,6 +2,7 @@
 #include "foundation/ficheros/vdir.h"
 #include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/utf_int.h"
 #include "foundation/suelo/vornspy.h"
@@ -182,12 +183,12 @@ using namespace vn;
 using namespace vn::ficheros;
 
 vnwchar *vdir_concatena_directorios_UNICODE(const vnwchar *a, const vnwchar *b) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return nullptr;
+    if (!EXIGE(a, b)) return nullptr;
     return nuevo(une(a, b));
 }
 
 char *vdir_concatena_directorios(const char *a, const char *b) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return nullptr;
+    if (!EXIGE(a, b)) return nullptr;
     return nuevo_ansi(une(de_ansi(a), de_ansi(b)));
 }
 
@@ -220,7 +221,7 @@ vnbool vdir_splitpath_con_comprobacion_UNICODE(const vnwchar *ruta, vnwchar **un
 }
 
 vnwchar *vdir_nombre_fichero_con_ext_UNICODE(const vnwchar *nombre, const vnwchar *ext) {
-    if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(ext)) return nullptr;
+    if (!EXIGE(nombre, ext)) return nullptr;
     const cadena_ancha final = *ext == 0 || *ext == VNU('.') ? cadena_ancha(ext) : VNU('.') + cadena_ancha(ext);
     return nuevo(acaba_en(nombre, final) ? cadena_ancha(nombre) : nombre + final);
 }
@@ -256,7 +257,7 @@ vnwchar *vdir_ruta_y_nombre_fichero_sin_extension_UNICODE(const vnwchar *ruta) {
 vnbool vdir_es_path_valido_UNICODE(const vnwchar *ruta, uint32_t clases) {
     if (!AFIRMA_NO_NULO(ruta) || !AFIRMA(clases <= VDIR_PATH_RELATIVO)) return FALSO;
     if (!es_valida(ruta, puede_ser_nombre)) return FALSO;
-    return clases == VDIR_PATH_CUALQUIERA || es_absoluta(ruta) == (clases == VDIR_PATH_ABSOLUTO) ? CIERTO : FALSO;
+    return logico(clases == VDIR_PATH_CUALQUIERA || es_absoluta(ruta) == (clases == VDIR_PATH_ABSOLUTO));
 }
 
 vnwchar *vdir_disco_de_programa_UNICODE(void) { return nuevo(descompone(plat::ruta_del_programa()).unidad); }

@@ -2,6 +2,7 @@
 #include "foundation/ficheros/vdir.h"
 #include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/operaciones_fichero.h"
 #include <algorithm>
 
@@ -116,31 +117,27 @@ bool crea_directorios(const cadena_ancha &ruta) { return plat::crea_directorios(
 using namespace vn;
 using namespace vn::ficheros;
 
-vnbool vdir_existe_fichero_UNICODE(const vnwchar *ruta) {
-    return AFIRMA_NO_NULO(ruta) && existe_fichero(ruta) ? CIERTO : FALSO;
-}
+vnbool vdir_existe_fichero_UNICODE(const vnwchar *ruta) { return logico(AFIRMA_NO_NULO(ruta) && existe_fichero(ruta)); }
 
-vnbool vdir_existe_fichero(const char *ruta) {
-    return AFIRMA_NO_NULO(ruta) && existe_fichero(de_ansi(ruta)) ? CIERTO : FALSO;
-}
+vnbool vdir_existe_fichero(const char *ruta) { return logico(AFIRMA_NO_NULO(ruta) && existe_fichero(de_ansi(ruta))); }
 
 vnbool vdir_existe_directorio_UNICODE(const vnwchar *ruta) {
-    return AFIRMA_NO_NULO(ruta) && existe_directorio(ruta) ? CIERTO : FALSO;
+    return logico(AFIRMA_NO_NULO(ruta) && existe_directorio(ruta));
 }
 
 vnbool vdir_existe_directorio(const char *ruta) {
-    return AFIRMA_NO_NULO(ruta) && existe_directorio(de_ansi(ruta)) ? CIERTO : FALSO;
+    return logico(AFIRMA_NO_NULO(ruta) && existe_directorio(de_ansi(ruta)));
 }
 
 vnbool vdir_se_puede_leer_UNICODE(const vnwchar *ruta) {
-    return AFIRMA_NO_NULO(ruta) && existe_fichero(ruta) && plat::puede_leer(ruta) ? CIERTO : FALSO;
+    return logico(AFIRMA_NO_NULO(ruta) && existe_fichero(ruta) && plat::puede_leer(ruta));
 }
 
 vnbool vdir_se_puede_escribir_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta) || *ruta == 0 || es_separador(vista_ancha(ruta).back())) return FALSO;
     vnestado_fichero e{};
     const vnerror_fichero hay = tabla().estado(ruta, &e);
-    if (hay == VN_FICH_BIEN) return e.es_directorio == FALSO && plat::puede_escribir(ruta) ? CIERTO : FALSO;
+    if (hay == VN_FICH_BIEN) return logico(e.es_directorio == FALSO && plat::puede_escribir(ruta));
     if (hay != VN_FICH_NO_EXISTE) return FALSO; // links that lead to each other
     return vdir_se_puede_escribir_en_directorio_UNICODE(cadena_ancha(descompone(ruta).hasta_directorio()).c_str());
 }
@@ -148,7 +145,7 @@ vnbool vdir_se_puede_escribir_UNICODE(const vnwchar *ruta) {
 vnbool vdir_se_puede_escribir_en_directorio_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta)) return FALSO;
     cadena_ancha prueba;
-    return crea_fichero_unico(ruta, VNU("tmp"), prueba) && borra_fichero(prueba) ? CIERTO : FALSO;
+    return logico(crea_fichero_unico(ruta, VNU("tmp"), prueba) && borra_fichero(prueba));
 }
 
 vnbool vdir_se_puede_escribir_en_directorio(const char *ruta) {
@@ -171,13 +168,13 @@ uint32_t vdir_longitud_fichero_u(const vnwchar *nombre) {
 vnbool vdir_longitud_fichero_seguro_u(const vnwchar *nombre, uint64_t *tamanyo) {
     if (!AFIRMA_NO_NULO(tamanyo)) return FALSO;
     *tamanyo = 0;
-    return AFIRMA_NO_NULO(nombre) && longitud(nombre, *tamanyo) ? CIERTO : FALSO;
+    return logico(AFIRMA_NO_NULO(nombre) && longitud(nombre, *tamanyo));
 }
 
 vnbool vdir_borra_fichero_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta)) return FALSO;
     const bool borrado = borra_fichero(ruta);
-    return AFIRMA_DE_FICHERO(borrado, ruta) ? CIERTO : FALSO;
+    return logico(AFIRMA_DE_FICHERO(borrado, ruta));
 }
 
 vnbool vdir_borra_fichero_si_existe_UNICODE(const vnwchar *ruta) {
@@ -186,23 +183,23 @@ vnbool vdir_borra_fichero_si_existe_UNICODE(const vnwchar *ruta) {
 }
 
 vnbool vdir_borra_fichero_con_comprobacion_UNICODE(const vnwchar *ruta) {
-    return AFIRMA_NO_NULO(ruta) && borra_fichero(ruta) ? CIERTO : FALSO;
+    return logico(AFIRMA_NO_NULO(ruta) && borra_fichero(ruta));
 }
 
 vnbool vdir_renombra_fichero_UNICODE(const vnwchar *origen, const vnwchar *destino) {
-    if (!AFIRMA_NO_NULO(origen) || !AFIRMA_NO_NULO(destino)) return FALSO;
+    if (!EXIGE(origen, destino)) return FALSO;
     const bool renombrado = renombra(origen, destino);
-    return AFIRMA_DE_FICHERO(renombrado, destino) ? CIERTO : FALSO;
+    return logico(AFIRMA_DE_FICHERO(renombrado, destino));
 }
 
 vnbool vdir_renombra_fichero_si_es_posible_UNICODE(const vnwchar *origen, const vnwchar *destino) {
-    return AFIRMA_NO_NULO(origen) && AFIRMA_NO_NULO(destino) && renombra(origen, destino) ? CIERTO : FALSO;
+    return logico(EXIGE(origen, destino) && renombra(origen, destino));
 }
 
 vnbool vdir_crea_directorios_UNICODE(const vnwchar *ruta, vnbool informa) {
     if (!AFIRMA_NO_NULO(ruta) || !AFIRMA_LOGICO(informa)) return FALSO;
     const bool creados = crea_directorios(ruta);
-    return creados || (informa == CIERTO && AFIRMA_DE_FICHERO(creados, ruta)) ? CIERTO : FALSO;
+    return logico(creados || (informa == CIERTO && AFIRMA_DE_FICHERO(creados, ruta)));
 }
 
 vnbool vdir_crea_directorios_del_path_UNICODE(const vnwchar *ruta) {
@@ -223,11 +220,11 @@ vnbool vdir_crea_directorios_fichero_si_es_posible_UNICODE(const vnwchar *ficher
 vnbool vdir_borra_contenido_directorio_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta)) return FALSO;
     const bool borrado = borra_arbol(ruta, false);
-    return AFIRMA_DE_FICHERO(borrado, ruta) ? CIERTO : FALSO;
+    return logico(AFIRMA_DE_FICHERO(borrado, ruta));
 }
 
 vnbool vdir_borra_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta)) return FALSO;
     const bool borrado = borra_arbol(ruta, true);
-    return AFIRMA_DE_FICHERO(borrado, ruta) ? CIERTO : FALSO;
+    return logico(AFIRMA_DE_FICHERO(borrado, ruta));
 }

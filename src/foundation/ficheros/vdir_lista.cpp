@@ -2,9 +2,10 @@
 #include "foundation/ficheros/vdir.h"
 #include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/vornspy.h"
 #include <algorithm>
-#include <memory>
 
 namespace vn::ficheros {
 
@@ -17,11 +18,7 @@ bool nombres_en(const cadena_ancha &directorio, vista_ancha mascara, clase que, 
 }
 
 arrCADENA_u *nueva_lista(const std::vector<cadena_ancha> &textos) {
-    // Held until it is whole: memory may run out.
-    struct destruye {
-        void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
-    };
-    std::unique_ptr<arrCADENA_u, destruye> a(arr_CreaCADENA_u(0));
+    dueno<arr_DestruyeCADENA_u> a(arr_CreaCADENA_u(0));
     for (const cadena_ancha &t : textos) arr_AppendCADENA_u(a.get(), t.c_str());
     return a.release();
 }
@@ -36,11 +33,11 @@ namespace {
 vnbool lista(const vnwchar *ruta, const vnwchar *mascara, clase que, arrCADENA_u **salida) {
     if (!AFIRMA_NO_NULO(salida)) return FALSO;
     *salida = nullptr;
-    if (!AFIRMA_NO_NULO(ruta) || !AFIRMA_NO_NULO(mascara)) return FALSO;
+    if (!EXIGE(ruta, mascara)) return FALSO;
     std::vector<cadena_ancha> nombres;
     const bool leido = nombres_en(ruta, mascara, que, nombres);
     *salida = nueva_lista(nombres);
-    return leido ? CIERTO : FALSO;
+    return logico(leido);
 }
 
 } // namespace

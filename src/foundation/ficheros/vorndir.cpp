@@ -2,6 +2,7 @@
 #include "foundation/ficheros/vorndir.h"
 #include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/operaciones_fichero.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/vornspy.h"
@@ -131,7 +132,7 @@ vnbool vorndir_lista_de_fichero_UNICODE(const vnwchar *patron, arrCADENA_u **lis
     std::vector<cadena_ancha> rutas;
     const bool leido = ficheros_de(patron, rutas);
     *lista = nueva_lista(rutas);
-    return leido ? CIERTO : FALSO;
+    return logico(leido);
 }
 
 vnbool vorndir_lista_de_fichero(const char *patron, arrCADENA **lista) {
@@ -143,7 +144,7 @@ vnbool vorndir_lista_de_fichero(const char *patron, arrCADENA **lista) {
     *lista = arr_CreaCADENA(0);
     for (const cadena_ancha &r : rutas)
         if (const propio<char> s(nuevo_ansi_fiel(r)); s != nullptr) arr_AppendCADENA(*lista, s.get());
-    return leido ? CIERTO : FALSO;
+    return logico(leido);
 }
 
 vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vnwchar *ruta, const vnwchar *mascara,
@@ -151,8 +152,7 @@ vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vn
                                                                         arrCADENA_u **directorios) {
     if (ficheros != nullptr) *ficheros = nullptr;
     if (directorios != nullptr) *directorios = nullptr;
-    if (!AFIRMA_NO_NULO(ruta) || !AFIRMA_NO_NULO(mascara)) return FALSO;
-    if (!AFIRMA_NO_NULO(ficheros) || !AFIRMA_NO_NULO(directorios)) return FALSO;
+    if (!EXIGE(ruta, mascara, ficheros, directorios)) return FALSO;
     std::vector<cadena_ancha> todos_los_ficheros, todos_los_directorios, por_visitar{ruta};
     bool leido = true;
     for (size_t i = 0; i < por_visitar.size(); ++i) {
@@ -169,7 +169,7 @@ vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vn
     }
     *ficheros = nueva_lista(todos_los_ficheros);
     *directorios = nueva_lista(todos_los_directorios);
-    return leido ? CIERTO : FALSO;
+    return logico(leido);
 }
 
 void vorndir_libera_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(arrCADENA_u **ficheros,

@@ -3,6 +3,7 @@
 #include "foundation/ficheros/guardado_priv.h"
 #include "foundation/ficheros/lc_fichero_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <utility>
 
 namespace vn::ficheros {
@@ -33,7 +34,7 @@ using namespace vn::ficheros;
 
 vnbool vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(const vnwchar *destino,
                                                                             const vnwchar *temporal) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(temporal)) return FALSO;
+    if (!EXIGE(destino, temporal)) return FALSO;
     vnerror_fichero e = VN_FICH_BIEN;
     if (const auto g = guardado::adopta(destino, temporal, &e)) e = g->confirma();
     else operaciones().retira(temporal);
@@ -46,14 +47,14 @@ vnfichero *vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(const
 
 vnfichero *vornfile_abrir_fichero_escritura_con_temporal_u(const vnwchar *nombre, const vnwchar *sufijo,
                                                            vnbool con_copia) {
-    if (!AFIRMA_NO_NULO(nombre) || !AFIRMA_NO_NULO(sufijo) || !AFIRMA_LOGICO(con_copia)) return nullptr;
+    if (!EXIGE(nombre, sufijo) || !AFIRMA_LOGICO(con_copia)) return nullptr;
     if (!AFIRMA_TEXTO(es_sufijo(sufijo), "sufijo de un nombre")) return nullptr;
     return abre(nombre, {.sufijo = sufijo, .con_copia = con_copia == CIERTO});
 }
 
 vnbool vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(vnfichero *f, const vnwchar *nombre) {
     flujo_abierto mio(f); // closed, whatever comes
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(nombre)) return FALSO;
+    if (!EXIGE(f, nombre)) return FALSO;
     // Another stream, or another name: nothing of anybody's is renamed or removed.
     if (!AFIRMA_TEXTO(f->guardado != nullptr, "abierto para hacerse definitivo al cerrar")) return FALSO;
     if (!AFIRMA_TEXTO(f->guardado->es_de(nombre), "nombre con el que se ha abierto")) return FALSO;
@@ -76,18 +77,18 @@ vnbool vornfile_abandonar_fichero_escritura(vnfichero *f) {
 }
 
 vnbool vf_copyfile_seguro_u(const vnwchar *origen, const vnwchar *destino) {
-    if (!AFIRMA_NO_NULO(origen) || !AFIRMA_NO_NULO(destino)) return FALSO;
+    if (!EXIGE(origen, destino)) return FALSO;
     vnerror_fichero e = VN_FICH_BIEN;
     if (const auto g = guardado::abre(destino, {.con_copia = false, .derechos = origen}, &e)) {
         e = copia_contenido(origen, g->id());
         if (e == VN_FICH_BIEN) e = g->confirma();
     }
     if (e != VN_FICH_BIEN) anota_error(e);
-    return e == VN_FICH_BIEN ? CIERTO : FALSO;
+    return logico(e == VN_FICH_BIEN);
 }
 
 vnbool vf_appendfile_u(const vnwchar *origen, const vnwchar *destino) {
-    if (!AFIRMA_NO_NULO(origen) || !AFIRMA_NO_NULO(destino)) return FALSO;
+    if (!EXIGE(origen, destino)) return FALSO;
     flujo_abierto de(f_lc_fopen_u(origen, VNU("rb"), VN_AQUI));
     if (de == nullptr) return FALSO;
     flujo_abierto a(f_lc_fopen_u(destino, VNU("ab"), VN_AQUI));

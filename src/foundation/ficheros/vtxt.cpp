@@ -73,32 +73,32 @@ void vtxt_escr_BOOL(vnbool v, vnfichero *f) {
 }
 
 void vtxt_graba_bool(vnfichero *f, vnbool v, const char *texto1, const char *texto2) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_LOGICO(v) || !AFIRMA_NO_NULO(texto1) || !AFIRMA_NO_NULO(texto2)) return;
+    if (!AFIRMA_NO_NULO(f) || !AFIRMA_LOGICO(v) || !EXIGE(texto1, texto2)) return;
     vtxt_escr_string(v == CIERTO ? texto1 : texto2, f);
 }
 
 void vtxt_escr_string(const char *s, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(f)) return;
+    if (!EXIGE(s, f)) return;
     escribe(s, f);
     escribe("\n", f);
 }
 
 void vtxt_escr_string_sin_salto_de_linea(const char *s, vnfichero *f) {
-    if (AFIRMA_NO_NULO(s) && AFIRMA_NO_NULO(f)) escribe(s, f);
+    if (EXIGE(s, f)) escribe(s, f);
 }
 
 void vtxt_escr_string_sin_salto_de_linea_u(const vnwchar *s, vnfichero *f) {
-    if (AFIRMA_NO_NULO(s) && AFIRMA_NO_NULO(f)) escribe_en_utf8(s, f);
+    if (EXIGE(s, f)) escribe_en_utf8(s, f);
 }
 
 void vtxt_escr_cadena_unicode(const vnwchar *s, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(f)) return;
+    if (!EXIGE(s, f)) return;
     escribe_en_utf8(escapa(s).get(), f);
     escribe("\n", f);
 }
 
 void vtxt_escr_comentario_y_salta(const char *comentario, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(comentario) || !AFIRMA_NO_NULO(f)) return;
+    if (!EXIGE(comentario, f)) return;
     escribe("; ", f);
     std::string_view resto = comentario;
     for (size_t n; (n = resto.find_first_of("\r\n")) != resto.npos; resto.remove_prefix(n + 1)) {
@@ -114,7 +114,7 @@ void vtxt_escr_fin_linea(vnfichero *f) {
 }
 
 void vtxt_printf(vnfichero *f, const char *formato, ...) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(formato)) return;
+    if (!EXIGE(f, formato)) return;
     va_list args;
     va_start(args, formato);
     const vn::propio<char> texto(vn::texto::formatea_nuevo(formato, args, VN_AQUI));
@@ -123,7 +123,7 @@ void vtxt_printf(vnfichero *f, const char *formato, ...) {
 }
 
 void vtxt_printf_u(vnfichero *f, const vnwchar *formato, ...) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(formato)) return;
+    if (!EXIGE(f, formato)) return;
     va_list args;
     va_start(args, formato);
     const vn::propio<vnwchar> texto(vn::texto::formatea_nuevo(formato, args, VN_AQUI));
@@ -132,7 +132,7 @@ void vtxt_printf_u(vnfichero *f, const vnwchar *formato, ...) {
 }
 
 void vtxt_trata_bool(vnfichero *f, vnbool *dato, const char *texto1, const char *texto2, vnbool graba) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(dato) || !AFIRMA_NO_NULO(texto1) || !AFIRMA_NO_NULO(texto2)) return;
+    if (!EXIGE(f, dato, texto1, texto2)) return;
     if (!AFIRMA_LOGICO(graba)) return;
     if (graba == CIERTO) vtxt_graba_bool(f, *dato, texto1, texto2);
     else *dato = vtxt_lee_bool(f, texto1, texto2);
@@ -141,7 +141,7 @@ void vtxt_trata_bool(vnfichero *f, vnbool *dato, const char *texto1, const char 
 // The other members that go both ways; each checks the two pointers and the direction.
 #define TRATA(...)                                                                                                     \
     {                                                                                                                  \
-        if (!AFIRMA_NO_NULO(dato) || !AFIRMA_NO_NULO(f) || !AFIRMA_LOGICO(graba)) return;                              \
+        if (!EXIGE(dato, f) || !AFIRMA_LOGICO(graba)) return;                                                          \
         __VA_ARGS__                                                                                                    \
     }
 
@@ -177,7 +177,7 @@ void vtxt_trata_cadena(char **dato, vnfichero *f, vnbool graba) TRATA({
                         })
 
                             void vtxt_trata_comentario(const char *comentario, vnfichero *f, vnbool graba) {
-    if (!AFIRMA_NO_NULO(comentario) || !AFIRMA_NO_NULO(f) || !AFIRMA_LOGICO(graba)) return;
+    if (!EXIGE(comentario, f) || !AFIRMA_LOGICO(graba)) return;
     if (graba == CIERTO) vtxt_escr_comentario_y_salta(comentario, f);
     else vtxt_salta_linea(f);
 }

@@ -4,6 +4,7 @@
 #include "foundation/ficheros/vtxt_int.h"
 #include "foundation/listas/arreglo_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/numero_int.h"
 #include "foundation/texto/unicode.h"
@@ -193,15 +194,15 @@ char vtxt_lee_char_y_salta_ASCII(vnfichero *f) { return de_ascii(vtxt_lee_char_y
 vnbool vtxt_leer_BOOL(vnfichero *f) {
     const uint16_t v = vtxt_lee_ushrt_y_salta(f);
     if (v > 1) lc_error_leyendo_fichero(f);
-    return v == 1 ? CIERTO : FALSO;
+    return vn::logico(v == 1);
 }
 
 vnbool vtxt_lee_bool(vnfichero *f, const char *texto1, const char *texto2) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(texto1) || !AFIRMA_NO_NULO(texto2)) return FALSO;
+    if (!EXIGE(f, texto1, texto2)) return FALSO;
     const vn::propio<char> linea = toma_linea(f);
     const std::string_view leido = linea.get();
     if (leido != texto1 && leido != texto2) lc_error_leyendo_fichero(f);
-    return leido == texto1 ? CIERTO : FALSO;
+    return vn::logico(leido == texto1);
 }
 
 char *vtxt_lee_cadena(vnfichero *f) { return AFIRMA_NO_NULO(f) ? toma_linea(f).release() : nullptr; }
@@ -224,7 +225,7 @@ vnwchar *vtxt_lee_cadena_ansi_a_unicode(vnfichero *f) {
 vnwchar *vtxt_lee_cadena_unicode(vnfichero *f) { return AFIRMA_NO_NULO(f) ? toma_linea_unicode(f).release() : nullptr; }
 
 void vtxt_lee_string(vnfichero *f, char *buffer, uint32_t maximo) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(buffer) || !AFIRMA(maximo >= 1 && maximo <= INT32_MAX)) return;
+    if (!EXIGE(f, buffer) || !AFIRMA(maximo >= 1 && maximo <= INT32_MAX)) return;
     uint32_t n = 0;
     int c = toma(f);
     bool bien = c >= 0;
@@ -237,7 +238,7 @@ void vtxt_lee_string(vnfichero *f, char *buffer, uint32_t maximo) {
 }
 
 void vtxt_lee_string_unicode(vnfichero *f, vnwchar *buffer, uint32_t maximo) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(buffer) || !AFIRMA(maximo >= 1 && maximo <= INT32_MAX)) return;
+    if (!EXIGE(f, buffer) || !AFIRMA(maximo >= 1 && maximo <= INT32_MAX)) return;
     buffer[0] = 0;
     const vn::propio<vnwchar> texto = toma_linea_unicode(f);
     const std::basic_string_view<vnwchar> s = texto.get();
@@ -248,7 +249,7 @@ void vtxt_lee_string_unicode(vnfichero *f, vnwchar *buffer, uint32_t maximo) {
 }
 
 char *vtxt_lee_linea(vnfichero *f, char *buffer, uint32_t maximo) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(buffer) || !AFIRMA(maximo >= 2 && maximo <= INT32_MAX)) return nullptr;
+    if (!EXIGE(f, buffer) || !AFIRMA(maximo >= 2 && maximo <= INT32_MAX)) return nullptr;
     uint32_t n = 0;
     for (int c = 0; n + 1 < maximo && c != '\n';) {
         c = toma(f);

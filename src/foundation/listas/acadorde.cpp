@@ -1,6 +1,7 @@
 #define VN_MODULO "acadorde (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/listas/acadorde.h"
 #include "foundation/listas/ordenado_priv.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 
@@ -66,7 +67,7 @@ template <class A> void destruye(A **a) {
 }
 
 template <class A> vnbool inserta(A *a, const typename A::caracter *s) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
+    if (!EXIGE(a, s)) return FALSO;
     clave_de<A> clave(a, s);
     const auto sitio = busca_texto(a, clave);
     if (sitio.elemento != nullptr) return FALSO;
@@ -79,10 +80,10 @@ template <class A> vnbool inserta(A *a, const typename A::caracter *s) {
 }
 
 template <class A> vnbool existe(const A *a, const typename A::caracter *s, uint32_t *pos) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
+    if (!EXIGE(a, s)) return FALSO;
     const auto sitio = busca_texto(a, clave_de<A>(a, s));
     if (pos != nullptr) *pos = sitio.pos;
-    return sitio.elemento != nullptr ? CIERTO : FALSO;
+    return vn::logico(sitio.elemento != nullptr);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #define VN_MODULO "apunorde (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/listas/apunorde.h"
 #include "foundation/listas/ordenado_priv.h"
+#include "foundation/suelo/logico_int.h"
 
 struct apunorde : vn::listas::ordenado<void *> {
     vnfunc_compara_con_dato comparador;
@@ -24,7 +25,7 @@ auto busca_clave(const apunorde *a, const void *clave, vnfunc_compara comparador
 
 vnbool responde(const vn::listas::sitio_ordenado<void *> &sitio, uint32_t *pos) {
     if (pos != nullptr) *pos = sitio.pos;
-    return sitio.elemento != nullptr ? CIERTO : FALSO;
+    return vn::logico(sitio.elemento != nullptr);
 }
 
 } // namespace
@@ -44,7 +45,7 @@ void apunorde_nousar_destruye(apunorde **a) {
 }
 
 void apunorde_nousar_inserta_original(apunorde *a, void *p, uint32_t *pos) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(p)) return;
+    if (!EXIGE(a, p)) return;
     // The set took it: what it does not keep is destroyed, also when memory runs out.
     const auto destruye = [a](void *q) { destruye_elemento(a, q); };
     std::unique_ptr<void, decltype(destruye)> propio(p, destruye);
@@ -67,23 +68,23 @@ void *apunorde_nousar_quita(apunorde *a, uint32_t i) {
 }
 
 void *apunorde_nousar_busca(const apunorde *a, const void *clave, vnfunc_compara comparador) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return nullptr;
+    if (!EXIGE(a, comparador)) return nullptr;
     const auto sitio = busca_clave(a, clave, comparador);
     return sitio.elemento != nullptr ? *sitio.elemento : nullptr;
 }
 
 void *apunorde_nousar_dame(const apunorde *a, const void *clave, vnfunc_compara comparador) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return nullptr;
+    if (!EXIGE(a, comparador)) return nullptr;
     const auto sitio = busca_clave(a, clave, comparador);
     return AFIRMA_TEXTO(sitio.elemento != nullptr, "existe == CIERTO") ? *sitio.elemento : nullptr;
 }
 
 vnbool apunorde_nousar_existe(const apunorde *a, const void *clave, vnfunc_compara comparador, uint32_t *pos) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return FALSO;
+    if (!EXIGE(a, comparador)) return FALSO;
     return responde(busca_clave(a, clave, comparador), pos);
 }
 
 vnbool apunorde_nousar_existe_elemento(const apunorde *a, const void *p, uint32_t *pos) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(p)) return FALSO;
+    if (!EXIGE(a, p)) return FALSO;
     return responde(busca_elemento(a, p), pos);
 }

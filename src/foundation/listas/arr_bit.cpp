@@ -1,6 +1,7 @@
 #define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/listas/arr.h"
 #include "foundation/listas/arreglo_int.h"
+#include "foundation/suelo/logico_int.h"
 
 // Bits stand as they are stored in files: eight to a byte, the lowest first, the rest of the last byte 0.
 struct arrBIT : vn::listas::arreglo<uint8_t> {
@@ -36,7 +37,7 @@ uint32_t arr_NumElemsBIT(const arrBIT *a) { return AFIRMA_NO_NULO(a) ? a->bits :
 
 vnbool arr_GetBIT(const arrBIT *a, uint32_t i) {
     if (!hay_bit(a, i)) return FALSO;
-    return (a->datos[i / 8] >> (i % 8) & 1) != 0 ? CIERTO : FALSO;
+    return vn::logico((a->datos[i / 8] >> (i % 8) & 1) != 0);
 }
 
 void arr_SetBIT(arrBIT *a, uint32_t i, vnbool v) {

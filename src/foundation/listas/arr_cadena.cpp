@@ -1,6 +1,7 @@
 #define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/listas/arr.h"
 #include "foundation/listas/arreglo_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 
@@ -29,11 +30,6 @@ template <class A> void destruye(A **a) {
     if (const auto propio = vn::listas::toma(a)) libera_desde(propio.get(), 0);
 }
 
-// An array that frees its texts too.
-struct libera_con_textos {
-    template <class A> void operator()(A *a) const { destruye(&a); }
-};
-
 // Appends copies of the first `n` texts of `b`.
 template <class A> bool anade_copias(A *a, const A *b, uint32_t n) {
     if (!vn::listas::asegura(a, n)) return false;
@@ -46,7 +42,7 @@ template <class A> bool anade_copias(A *a, const A *b, uint32_t n) {
 
 template <class A> A *copia_textos(const A *a) {
     if (!AFIRMA_NO_NULO(a)) return nullptr;
-    std::unique_ptr<A, libera_con_textos> b(vn::listas::crea<A>(0));
+    vn::dueno<destruye<A>> b(vn::listas::crea<A>(0));
     return anade_copias(b.get(), a, a->num) ? b.release() : nullptr;
 }
 
@@ -68,7 +64,7 @@ template <class A> void inserta_copia(A *a, uint32_t i, const caracter<A> *s) {
 
 template <class A> bool textos_iguales(const A *a, const A *b) {
     using C = caracter<A>;
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return false;
+    if (!EXIGE(a, b)) return false;
     return a->num == b->num && std::equal(a->datos, a->datos + a->num, b->datos, [](const C *s, const C *t) {
                return s == nullptr || t == nullptr ? s == t : std::basic_string_view<C>(s) == t;
            });
@@ -76,13 +72,13 @@ template <class A> bool textos_iguales(const A *a, const A *b) {
 
 template <class A> vnbool existe(const A *a, const caracter<A> *s, uint32_t *pos) {
     using C = caracter<A>;
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
+    if (!EXIGE(a, s)) return FALSO;
     return vn::listas::existe(a, pos, 0,
                               [t = std::basic_string_view<C>(s)](const C *e) { return e != nullptr && t == e; });
 }
 
 template <class A> vnbool existe_may_o_min(const A *a, const caracter<A> *s, uint32_t *pos) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(s)) return FALSO;
+    if (!EXIGE(a, s)) return FALSO;
     return vn::listas::existe(a, pos, 0, [s](const caracter<A> *e) { return e != nullptr && iguales_may_o_min(e, s); });
 }
 
@@ -107,7 +103,7 @@ template <class A> vnbool existe_may_o_min(const A *a, const caracter<A> *s, uin
     }                                                                                                                  \
     void arr_Append##ORIGINAL(arr##S *a, C **s) {                                                                      \
         vn::propio<C> c = toma_texto(s);                                                                               \
-        if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(s) && vn::listas::anade(a, c.get())) static_cast<void>(c.release());   \
+        if (EXIGE(a, s) && vn::listas::anade(a, c.get())) static_cast<void>(c.release());                              \
     }                                                                                                                  \
     void arr_Insertar##S(arr##S *a, uint32_t i, const C *s) {                                                          \
         if (AFIRMA_NO_NULO(a)) inserta_copia(a, i, s);                                                                 \
@@ -121,9 +117,9 @@ template <class A> vnbool existe_may_o_min(const A *a, const caracter<A> *s, uin
         if (AFIRMA_NO_NULO(a) && AFIRMA_TEXTO(n <= a->num, "n <= num_elementos")) libera_desde(a, n);                  \
     }                                                                                                                  \
     void arr_Concatena##S(arr##S *a, const arr##S *b) {                                                                \
-        if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b)) anade_copias(a, b, b->num);                                        \
+        if (EXIGE(a, b)) anade_copias(a, b, b->num);                                                                   \
     }                                                                                                                  \
-    vnbool arr_SonIguales##S(const arr##S *a, const arr##S *b) { return textos_iguales(a, b) ? CIERTO : FALSO; }       \
+    vnbool arr_SonIguales##S(const arr##S *a, const arr##S *b) { return vn::logico(textos_iguales(a, b)); }            \
     uint32_t arr_Buscar##S(const arr##S *a, const C *s) {                                                              \
         uint32_t pos = VN_ARR_NO_ESTA;                                                                                 \
         existe(a, s, &pos);                                                                                            \
@@ -133,7 +129,7 @@ template <class A> vnbool existe_may_o_min(const A *a, const caracter<A> *s, uin
     vnbool arr_ExisteMayMin##S(const arr##S *a, const C *s, uint32_t *pos) { return existe_may_o_min(a, s, pos); }     \
     const C *const *arr_GetBufferConst##S(const arr##S *a) { return vn::listas::bloque_de(a); }                        \
     void nousar_Recorre##S(const arr##S *a, void (*funcion)(const C *, void *), void *datos, const char *, uint32_t) { \
-        if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(funcion)) return;                                                    \
+        if (!EXIGE(a, funcion)) return;                                                                                \
         for (uint32_t i = 0; i < a->num; ++i) funcion(a->datos[i], datos);                                             \
     }
 

@@ -1,6 +1,7 @@
 #define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/listas/arr.h"
 #include "foundation/listas/arreglo_int.h"
+#include "foundation/suelo/logico_int.h"
 
 struct arrPuntero : vn::listas::arreglo<void *> {};
 
@@ -52,14 +53,14 @@ void arr_DestruyeEstructurasConstConTipo(arrPuntero **a, vnfunc_destruye destruc
 void arr_DestruyeEstructurasArrayConTipo(arrPuntero **a, vnfunc_destruye destructor) { destruye(a, destructor); }
 
 arrPuntero *arr_CopiaEstructurasConTipo(const arrPuntero *a, vnfunc_copia copiador) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(copiador)) return nullptr;
-    vn::listas::dueno<arrPuntero> b(vn::listas::crea<arrPuntero>(0));
+    if (!EXIGE(a, copiador)) return nullptr;
+    vn::listas::arreglo_propio<arrPuntero> b(vn::listas::crea<arrPuntero>(0));
     return anade_copias(b.get(), a, copiador) ? b.release() : nullptr;
 }
 
 void arr_ConcatenaEstructurasConTipo(arrPuntero *a, const arrPuntero *b, vnfunc_copia copiador, const char *,
                                      uint32_t) {
-    if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b)) anade_copias(a, b, copiador);
+    if (EXIGE(a, b)) anade_copias(a, b, copiador);
 }
 
 uint32_t arr_NumElemsPuntero(const arrPuntero *a) { return vn::listas::numelems(a); }
@@ -87,13 +88,13 @@ uint32_t arr_BuscarPunteroConTipo(const arrPuntero *a, const void *p) {
 }
 
 vnbool arr_ExisteEstructuraConTipo(const arrPuntero *a, const void *dato, vnfunc_compara comparador, uint32_t *pos) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return FALSO;
+    if (!EXIGE(a, comparador)) return FALSO;
     return existe(a, dato, comparador, 0, pos);
 }
 
 vnbool arr_ExisteUnicaEstructuraConTipo(const arrPuntero *a, const void *dato, vnfunc_compara comparador,
                                         uint32_t *pos) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return FALSO;
+    if (!EXIGE(a, comparador)) return FALSO;
     uint32_t primera;
     if (existe(a, dato, comparador, 0, &primera) == FALSO) return FALSO;
     static_cast<void>(AFIRMA_TEXTO(existe(a, dato, comparador, primera + 1, nullptr) == FALSO, "num_encontrados <= 1"));
@@ -109,14 +110,14 @@ uint32_t arr_BuscarUnicaEstructuraConTipo(const arrPuntero *a, const void *dato,
 
 vnbool arr_BuscarEstructuraDicotomicamenteConTipo(const arrPuntero *a, const void *dato, vnfunc_compara comparador,
                                                   uint32_t *pos) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return FALSO;
+    if (!EXIGE(a, comparador)) return FALSO;
     const uint32_t i = vn::listas::primero_que_no(a, [=](const void *e) { return comparador(dato, e) > 0; });
     if (pos != nullptr) *pos = i;
-    return i < a->num && comparador(dato, a->datos[i]) == 0 ? CIERTO : FALSO;
+    return vn::logico(i < a->num && comparador(dato, a->datos[i]) == 0);
 }
 
 uint32_t arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(arrPuntero *a, void *p, vnfunc_compara comparador) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador)) return VN_ARR_NO_ESTA;
+    if (!EXIGE(a, comparador)) return VN_ARR_NO_ESTA;
     const uint32_t i = vn::listas::primero_que_no(a, [=](const void *e) { return comparador(p, e) >= 0; });
     return vn::listas::inserta(a, i, p) ? i : VN_ARR_NO_ESTA;
 }
@@ -124,7 +125,7 @@ uint32_t arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(arrPuntero *a, void *
 // Merges runs of 1, 2, 4... between two copies, so that a comparer that has no order leaves the array with the elements
 // that it had.
 void arr_QSortPunteroConTipo(arrPuntero *a, vnfunc_compara comparador) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(comparador) || a->num < 2) return;
+    if (!EXIGE(a, comparador) || a->num < 2) return;
     const uint32_t n = a->num;
     const auto ida = vn::listas::pide<void *>(n), vuelta = vn::listas::pide<void *>(n);
     if (ida == nullptr || vuelta == nullptr) return;
@@ -140,16 +141,16 @@ void arr_QSortPunteroConTipo(arrPuntero *a, vnfunc_compara comparador) {
 }
 
 void arr_RecorreEstructuraSimpleConTipo(const arrPuntero *a, vnfunc_recorre funcion, void *datos) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(funcion)) return;
+    if (!EXIGE(a, funcion)) return;
     for (uint32_t i = 0; i < a->num; ++i) funcion(a->datos[i], datos);
 }
 
 vnbool arr_SonIgualesPunteroConTipo(const arrPuntero *a, const arrPuntero *b, vnfunc_compara comparador) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b) || a->num != b->num) return FALSO;
+    if (!EXIGE(a, b) || a->num != b->num) return FALSO;
     const bool todos = std::equal(a->datos, a->datos + a->num, b->datos, [comparador](const void *p, const void *q) {
         return comparador == nullptr || p == nullptr || q == nullptr ? p == q : comparador(p, q) == 0;
     });
-    return todos ? CIERTO : FALSO;
+    return vn::logico(todos);
 }
 
 void **arr_GetBufferPuntero(arrPuntero *a) { return vn::listas::bloque_de(a); }

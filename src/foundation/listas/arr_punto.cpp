@@ -1,6 +1,7 @@
 #define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/listas/arr.h"
 #include "foundation/listas/arreglo_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <cmath>
 
 // The operations that the families of points share, one expansion a family; arr.h spells their names.
@@ -37,14 +38,14 @@ void arr_DestruyePunto2DXPriv(arrPunto2DXPriv **a, vnfunc_destruye destructor) {
 
 void arr_GetPunto2D(const arrPunto2D *a, uint32_t i, double *x, double *y) {
     const Punto2D p = vn::listas::elemento(a, i);
-    if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
+    if (!EXIGE(x, y)) return;
     *x = p.x;
     *y = p.y;
 }
 
 void arr_GetPunto3D(const arrPunto3D *a, uint32_t i, double *x, double *y, double *z) {
     const Punto3D p = vn::listas::elemento(a, i);
-    if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y) || !AFIRMA_NO_NULO(z)) return;
+    if (!EXIGE(x, y, z)) return;
     *x = p.x;
     *y = p.y;
     *z = p.z;
@@ -52,7 +53,7 @@ void arr_GetPunto3D(const arrPunto3D *a, uint32_t i, double *x, double *y, doubl
 
 void arr_GetPunto2DXPriv(const arrPunto2DXPriv *a, uint32_t i, double *x, double *y, void **priv) {
     const Punto2DXPriv p = vn::listas::elemento(a, i);
-    if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
+    if (!EXIGE(x, y)) return;
     *x = p.x;
     *y = p.y;
     if (priv != nullptr) *priv = p.priv;
@@ -77,12 +78,12 @@ void arr_InvertirPunto3D(arrPunto3D *a) {
 }
 
 vnbool arr_SonIgualesPunto3DConTolerancia(const arrPunto3D *a, const arrPunto3D *b, double tolerancia) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b) || a->num != b->num) return FALSO;
+    if (!EXIGE(a, b) || a->num != b->num) return FALSO;
     const bool todos =
         std::equal(a->datos, a->datos + a->num, b->datos, [tolerancia](const Punto3D &p, const Punto3D &q) {
             return cerca(p.x, q.x, tolerancia) && cerca(p.y, q.y, tolerancia) && cerca(p.z, q.z, tolerancia);
         });
-    return todos ? CIERTO : FALSO;
+    return vn::logico(todos);
 }
 
 vnbool arr_ExistePunto2D(const arrPunto2D *a, double x, double y, double tolerancia, uint32_t *pos) {

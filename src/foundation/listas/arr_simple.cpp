@@ -2,6 +2,7 @@
 #include "foundation/listas/arr.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/listas/arreglo_int.h"
+#include "foundation/suelo/logico_int.h"
 
 // The operations of the plain families, one expansion a family; arr.h spells their names.
 
@@ -34,7 +35,7 @@ template <class A> bool vale(typename A::elemento v) {
         if (AFIRMA_NO_NULO(a) && vale<arr##S>(v)) vn::listas::inicializa(a, v);                                        \
     }                                                                                                                  \
     void arr_Concatena##S(arr##S *a, const arr##S *b) { vn::listas::concatena(a, b); }                                 \
-    vnbool arr_SonIguales##S(const arr##S *a, const arr##S *b) { return vn::listas::iguales(a, b) ? CIERTO : FALSO; }  \
+    vnbool arr_SonIguales##S(const arr##S *a, const arr##S *b) { return vn::logico(vn::listas::iguales(a, b)); }       \
     T *arr_GetBuffer##S(arr##S *a) { return vn::listas::bloque_de(a); }                                                \
     const T *arr_GetBufferConst##S(const arr##S *a) { return vn::listas::bloque_de(a); }
 
@@ -51,6 +52,6 @@ vnbool arr_ExisteULong(const arrULong *a, uint32_t v, uint32_t desde, uint32_t *
 }
 
 void arr_nousar_RecorreChar(const arrChar *a, vnfunc_recorre_char funcion, void *datos, const char *, uint32_t) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(funcion)) return;
+    if (!EXIGE(a, funcion)) return;
     for (uint32_t i = 0; i < a->num; ++i) funcion(a->datos[i], datos);
 }

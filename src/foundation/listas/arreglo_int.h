@@ -4,10 +4,10 @@
 
 #include "foundation/listas/arr.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/propio_int.h"
 #include <algorithm>
 #include <cstring>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -40,18 +40,16 @@ template <class A> A *crea(uint32_t n) {
 }
 
 // The handle and its block, not what the elements own.
-struct libera_arreglo {
-    template <class A> void operator()(A *a) const {
-        if (a->datos != nullptr) vornspy_free_pp(&a->datos, sizeof(*a->datos));
-        vornspy_free_pp(&a, sizeof(A));
-    }
-};
-template <class A> using dueno = std::unique_ptr<A, libera_arreglo>;
+template <class A> void libera_arreglo(A *a) {
+    if (a->datos != nullptr) vornspy_free_pp(&a->datos, sizeof(*a->datos));
+    vornspy_free_pp(&a, sizeof(A));
+}
+template <class A> using arreglo_propio = dueno<libera_arreglo<A>>;
 
 // Takes the array out of its owner's pointer; null after a report.
-template <class A> dueno<A> toma(A **a) {
+template <class A> arreglo_propio<A> toma(A **a) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_TEXTO(*a != nullptr, "(*a) != NULL")) return nullptr;
-    return dueno<A>(std::exchange(*a, nullptr));
+    return arreglo_propio<A>(std::exchange(*a, nullptr));
 }
 
 // Makes room for `extra` more. A few are the heap's to give; many may be refused, which is reported.
@@ -121,7 +119,7 @@ template <class A> void inicializa(A *a, typename A::elemento v) {
 
 template <class A> A *copia(const A *a) {
     if (!AFIRMA_NO_NULO(a)) return nullptr;
-    dueno<A> b(crea<A>(0));
+    arreglo_propio<A> b(crea<A>(0));
     if (!asegura(b.get(), a->num)) return nullptr;
     if (a->num > 0) std::memcpy(static_cast<void *>(b->datos), a->datos, size_t{a->num} * sizeof(*a->datos));
     b->num = a->num;
@@ -129,7 +127,7 @@ template <class A> A *copia(const A *a) {
 }
 
 template <class A> void concatena(A *a, const A *b) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return;
+    if (!EXIGE(a, b)) return;
     const uint32_t n = b->num; // before `a` grows: both may be one
     if (n == 0 || !asegura(a, n)) return;
     std::memcpy(static_cast<void *>(a->datos + a->num), b->datos, size_t{n} * sizeof(*a->datos));
@@ -137,7 +135,7 @@ template <class A> void concatena(A *a, const A *b) {
 }
 
 template <class A> bool iguales(const A *a, const A *b) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return false;
+    if (!EXIGE(a, b)) return false;
     return a->num == b->num &&
            (a->num == 0 || std::memcmp(a->datos, b->datos, size_t{a->num} * sizeof(*a->datos)) == 0);
 }

@@ -81,8 +81,8 @@ template <class A> const typename A::elemento &elemento_ordenado(const A *a, uin
 }
 
 // Takes the set out of its owner's pointer, settled; null after a report.
-template <class A> dueno<A> toma_ordenado(A **a) {
-    dueno<A> propio = toma(a);
+template <class A> arreglo_propio<A> toma_ordenado(A **a) {
+    arreglo_propio<A> propio = toma(a);
     if (propio == nullptr) return propio;
     asienta(propio.get());
     if (propio->cola.datos != nullptr) vornspy_free_pp(&propio->cola.datos, 1);

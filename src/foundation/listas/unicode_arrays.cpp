@@ -1,21 +1,16 @@
 #define VN_MODULO "unicode (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/listas/arr.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/texto/unicode.h"
-#include <memory>
 
 // The array forms of the conversions.
 
 namespace {
 
-struct libera {
-    void operator()(arrCADENA *a) const { arr_DestruyeCADENA(&a); }
-    void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
-};
-
 // An array of each text that `convierte` makes; null elements stay null.
 template <class F> arrCADENA_u *ancha(const arrCADENA *a, F convierte) {
-    std::unique_ptr<arrCADENA_u, libera> r(arr_CreaCADENA_u(arr_NumElemsCADENA(a)));
+    vn::dueno<arr_DestruyeCADENA_u> r(arr_CreaCADENA_u(arr_NumElemsCADENA(a)));
     if (r == nullptr) return nullptr;
     const char *const *textos = arr_GetBufferConstCADENA(a);
     for (uint32_t i = 0, n = arr_NumElemsCADENA(a); i < n; ++i) {
@@ -26,7 +21,7 @@ template <class F> arrCADENA_u *ancha(const arrCADENA *a, F convierte) {
 }
 
 template <class F> arrCADENA *estrecha(const arrCADENA_u *a, F convierte) {
-    std::unique_ptr<arrCADENA, libera> r(arr_CreaCADENA(arr_NumElemsCADENA_u(a)));
+    vn::dueno<arr_DestruyeCADENA> r(arr_CreaCADENA(arr_NumElemsCADENA_u(a)));
     if (r == nullptr) return nullptr;
     const vnwchar *const *textos = arr_GetBufferConstCADENA_u(a);
     for (uint32_t i = 0, n = arr_NumElemsCADENA_u(a); i < n; ++i) {
@@ -57,8 +52,8 @@ arrCADENA_u *utunicode_cadenas_ANSI_a_UNICODE(const arrCADENA *a) {
 }
 
 arrCADENA_u *utunicode_cadenas_ANSI_a_UNICODE_destruyendo(arrCADENA **a) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(*a)) return nullptr;
-    std::unique_ptr<arrCADENA_u, libera> r(ancha(*a, unicode_convierte_ANSI_a_UNICODE));
+    if (!EXIGE(a, *a)) return nullptr;
+    vn::dueno<arr_DestruyeCADENA_u> r(ancha(*a, unicode_convierte_ANSI_a_UNICODE));
     arr_DestruyeCADENA(a);
     return r.release();
 }
@@ -69,20 +64,20 @@ arrCADENA *utunicode_cadenas_UNICODE_a_ANSI(const arrCADENA_u *a) {
 }
 
 arrCADENA *utunicode_cadenas_UNICODE_a_ANSI_destruyendo(arrCADENA_u **a) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(*a)) return nullptr;
-    std::unique_ptr<arrCADENA, libera> r(estrecha(*a, unicode_UNICODE_a_ANSI));
+    if (!EXIGE(a, *a)) return nullptr;
+    vn::dueno<arr_DestruyeCADENA> r(estrecha(*a, unicode_UNICODE_a_ANSI));
     arr_DestruyeCADENA_u(a);
     return r.release();
 }
 
 arrCADENA_u *utunicode_cadenas_UTF8_a_UNICODE_destruyendo(arrCADENA **a) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(*a)) return nullptr;
-    std::unique_ptr<arrCADENA_u, libera> r(ancha(*a, unicode_convierte_UTF8_a_UNICODE));
+    if (!EXIGE(a, *a)) return nullptr;
+    vn::dueno<arr_DestruyeCADENA_u> r(ancha(*a, unicode_convierte_UTF8_a_UNICODE));
     arr_DestruyeCADENA(a);
     return r.release();
 }
 
 void utunicode_destruye_cadenas_UNICODE(arrCADENA_u **a) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(*a)) return;
+    if (!EXIGE(a, *a)) return;
     arr_DestruyeCADENA_u(a);
 }

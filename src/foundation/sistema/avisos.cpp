@@ -5,6 +5,7 @@
 #include "foundation/sistema/lastwin.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/error_interno_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/par_atomico_int.h"
 
 namespace {
@@ -16,7 +17,7 @@ vnbool da(vntipo_aviso tipo, const vnwchar *texto) {
         return receptor.funcion(tipo, texto, receptor.datos);
     if (void *ventana = lastwin_win_GetWinMain(); ventana != nullptr && tipo != VN_AVISO_DESARROLLO) {
         const vn::plat::respuesta r = vn::plat::muestra_cuadro(ventana, texto, tipo == VN_AVISO_PREGUNTA);
-        if (r != vn::plat::respuesta::nadie) return r == vn::plat::respuesta::si ? CIERTO : FALSO;
+        if (r != vn::plat::respuesta::nadie) return vn::logico(r == vn::plat::respuesta::si);
     }
     vn::escribe_linea_de_error(texto);
     return FALSO;
@@ -35,7 +36,7 @@ void vnaviso_aviso_interno_como_error_u(const vnwchar *texto) {
 
 vnbool avisobas_pregunta_u(const vnwchar *texto) {
     if (!AFIRMA_NO_NULO(texto)) return FALSO;
-    return da(VN_AVISO_PREGUNTA, texto) == CIERTO ? CIERTO : FALSO;
+    return vn::logico(da(VN_AVISO_PREGUNTA, texto) == CIERTO);
 }
 
 void avisos_instala_receptor(vnreceptor_avisos receptor, void *datos) { el_receptor.pon(receptor, datos); }

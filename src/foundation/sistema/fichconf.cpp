@@ -4,6 +4,7 @@
 #include "foundation/ficheros/vdir_int.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/eterno_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <mutex>
 
 using vn::cadena_ancha;
@@ -55,7 +56,7 @@ vnwchar *fichconf_dame_ruta_fichero_en_directorio_estructa(const vnwchar *nombre
 
 vnbool fichconf_crea_directorio_estructa(void) {
     const cadena_ancha d = directorio_estructa();
-    return !d.empty() && vn::ficheros::crea_directorios(d) ? CIERTO : FALSO;
+    return vn::logico(!d.empty() && vn::ficheros::crea_directorios(d));
 }
 
 vnwchar *fichconf_dame_unidad_escribible(void) { return vn::ficheros::nuevo(vn::plat::unidad_escribible()); }

@@ -7,6 +7,7 @@
 #include "foundation/sistema/fichconf.h"
 #include "foundation/sistema/vnmutex.h"
 #include "foundation/sistema/vornreg.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/operaciones_fichero_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/trapable.h"
@@ -14,7 +15,6 @@
 #include "foundation/texto/numero_int.h"
 #include "foundation/texto/widestr.h"
 #include <map>
-#include <memory>
 
 // The file: lines "[root\key\key]", each followed by its "name=text". UTF-8; "\\" is a backslash, and "\" with four
 // hexadecimal digits a unit that has no place in a line of text or that says something in it.
@@ -231,10 +231,7 @@ class entre_programas {
     bool dentro() const { return dentro_; }
 
   private:
-    struct sale {
-        void operator()(vnmutex *m) const { vnmutex_destruye_saliendo(&m); }
-    };
-    std::unique_ptr<vnmutex, sale> mutex_;
+    dueno<vnmutex_destruye_saliendo> mutex_;
     bool dentro_;
 };
 

@@ -39,7 +39,7 @@ const vnwchar *version_versionMayor_u(void) { return la_identidad().mayor.ancho.
 char version_revision(void) { return la_identidad().revision; }
 
 void version_establece_u(const vnwchar *version_aplicacion, const vnwchar *version_mayor, char revision) {
-    if (!AFIRMA_NO_NULO(version_aplicacion) || !AFIRMA_NO_NULO(version_mayor)) return;
+    if (!EXIGE(version_aplicacion, version_mayor)) return;
     texto_doble aplicacion(version_aplicacion), mayor(version_mayor);
     if (!AFIRMA(mayor.ansi.find('-') == std::string::npos) || !AFIRMA(mayor.ansi.size() <= LIMITE_MAYOR)) return;
     const auto codigo = static_cast<unsigned char>(revision);

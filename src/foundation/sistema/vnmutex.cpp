@@ -4,6 +4,7 @@
 #include "foundation/sistema/avisos.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/eterno_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/vornspy.h"
 #include <atomic>
 #include <chrono>
@@ -245,7 +246,7 @@ vnmutex *vnmutex_crea_entre_aplicaciones(const char *nombre) {
 
 vnbool vnmutex_entra(vnmutex *m) {
     if (!AFIRMA_NO_NULO(m) || !AFIRMA(vornspy_es_memoria_reservada_valida(m) == CIERTO)) return FALSO;
-    return entra(*m) ? CIERTO : FALSO;
+    return vn::logico(entra(*m));
 }
 
 void vnmutex_sal(vnmutex *m) {
@@ -260,7 +261,7 @@ void vnmutex_sal(vnmutex *m) {
 }
 
 vnbool vnmutex_entra_creando_entre_aplicaciones_si_es_necesario(vnmutex **m, const char *nombre) {
-    if (!AFIRMA_NO_NULO(m) || !AFIRMA_NO_NULO(nombre) || !AFIRMA(nombre[0] != 0)) return FALSO;
+    if (!EXIGE(m, nombre) || !AFIRMA(nombre[0] != 0)) return FALSO;
     vnmutex *el_mutex = nullptr;
     {
         const std::lock_guard guarda(el_registro().creacion);

@@ -286,7 +286,7 @@ vnwchar *vnregional_dato_u(uint32_t numero) {
 }
 
 void vnregional_separadores(vnwchar *decimal, vnwchar *millares) {
-    if (!AFIRMA_NO_NULO(decimal) || !AFIRMA_NO_NULO(millares)) return;
+    if (!EXIGE(decimal, millares)) return;
     if (vn::plat::milisegundos_de_la_maquina() >= caduca.load(std::memory_order_acquire)) la_region();
     const uint32_t los_dos = separadores.load(std::memory_order_relaxed);
     *decimal = static_cast<vnwchar>(los_dos >> 16);

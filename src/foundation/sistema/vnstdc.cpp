@@ -43,7 +43,7 @@ template <class C> C *busca_alguno(const C *s, const C *caracteres) {
 // ---------------------------------------------------------------- bytes
 
 void *vnstdc_memcpy(void *destino, const void *origen, size_t n) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(origen)) return destino;
+    if (!EXIGE(destino, origen)) return destino;
     return std::memmove(destino, origen, n);
 }
 
@@ -51,45 +51,41 @@ void *vnstdc_memset(void *destino, int c, size_t n) {
     return AFIRMA_NO_NULO(destino) ? std::memset(destino, c, n) : nullptr;
 }
 
-int vnstdc_memcmp(const void *a, const void *b, size_t n) {
-    return AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b) ? std::memcmp(a, b, n) : 0;
-}
+int vnstdc_memcmp(const void *a, const void *b, size_t n) { return EXIGE(a, b) ? std::memcmp(a, b, n) : 0; }
 
 // ---------------------------------------------------------------- ANSI texts
 
 size_t vnstdc_strlen(const char *s) { return AFIRMA_NO_NULO(s) ? std::strlen(s) : 0; }
 char *vnstdc_strcpy(char *destino, const char *origen) {
-    return AFIRMA_NO_NULO(destino) && AFIRMA_NO_NULO(origen) ? copia(destino, origen) : destino;
+    return EXIGE(destino, origen) ? copia(destino, origen) : destino;
 }
 char *vnstdc_strncpy(char *destino, const char *origen, size_t n) {
-    return AFIRMA_NO_NULO(destino) && AFIRMA_NO_NULO(origen) ? copia_n(destino, origen, n) : destino;
+    return EXIGE(destino, origen) ? copia_n(destino, origen, n) : destino;
 }
 char *vnstdc_strcat(char *destino, const char *origen) {
-    if (AFIRMA_NO_NULO(destino) && AFIRMA_NO_NULO(origen)) copia(destino + std::strlen(destino), origen);
+    if (EXIGE(destino, origen)) copia(destino + std::strlen(destino), origen);
     return destino;
 }
-int vnstdc_strcmp(const char *a, const char *b) {
-    return AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b) ? std::strcmp(a, b) : 0;
-}
+int vnstdc_strcmp(const char *a, const char *b) { return EXIGE(a, b) ? std::strcmp(a, b) : 0; }
 char *vnstdc_strchr(const char *s, int c) { return AFIRMA_NO_NULO(s) ? busca(s, static_cast<char>(c)) : nullptr; }
 char *vnstdc_strstr(const char *s, const char *t) {
-    return AFIRMA_NO_NULO(s) && AFIRMA_NO_NULO(t) ? lugar(s, std::string_view(s).find(t)) : nullptr;
+    return EXIGE(s, t) ? lugar(s, std::string_view(s).find(t)) : nullptr;
 }
 char *vnstdc_strpbrk(const char *s, const char *caracteres) {
-    return AFIRMA_NO_NULO(s) && AFIRMA_NO_NULO(caracteres) ? busca_alguno(s, caracteres) : nullptr;
+    return EXIGE(s, caracteres) ? busca_alguno(s, caracteres) : nullptr;
 }
 
 // ---------------------------------------------------------------- wide texts
 
 size_t vnstdc_wcslen(const vnwchar *s) { return AFIRMA_NO_NULO(s) ? rasgos<vnwchar>::length(s) : 0; }
 vnwchar *vnstdc_wcscpy(vnwchar *destino, const vnwchar *origen) {
-    return AFIRMA_NO_NULO(destino) && AFIRMA_NO_NULO(origen) ? copia(destino, origen) : destino;
+    return EXIGE(destino, origen) ? copia(destino, origen) : destino;
 }
 vnwchar *vnstdc_wcsncpy(vnwchar *destino, const vnwchar *origen, size_t n) {
-    return AFIRMA_NO_NULO(destino) && AFIRMA_NO_NULO(origen) ? copia_n(destino, origen, n) : destino;
+    return EXIGE(destino, origen) ? copia_n(destino, origen, n) : destino;
 }
 vnwchar *vnstdc_wcscat(vnwchar *destino, const vnwchar *origen) {
-    if (AFIRMA_NO_NULO(destino) && AFIRMA_NO_NULO(origen)) copia(destino + rasgos<vnwchar>::length(destino), origen);
+    if (EXIGE(destino, origen)) copia(destino + rasgos<vnwchar>::length(destino), origen);
     return destino;
 }
 vnwchar *vnstdc_wcschr(const vnwchar *s, vnwchar c) { return AFIRMA_NO_NULO(s) ? busca(s, c) : nullptr; }
@@ -97,10 +93,10 @@ vnwchar *vnstdc_wcsrchr(const vnwchar *s, vnwchar c) {
     return AFIRMA_NO_NULO(s) ? lugar(s, vista<vnwchar>(s, rasgos<vnwchar>::length(s) + 1).rfind(c)) : nullptr;
 }
 vnwchar *vnstdc_wcspbrk(const vnwchar *s, const vnwchar *caracteres) {
-    return AFIRMA_NO_NULO(s) && AFIRMA_NO_NULO(caracteres) ? busca_alguno(s, caracteres) : nullptr;
+    return EXIGE(s, caracteres) ? busca_alguno(s, caracteres) : nullptr;
 }
 size_t vnstdc_wcscspn(const vnwchar *s, const vnwchar *caracteres) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(caracteres)) return 0;
+    if (!EXIGE(s, caracteres)) return 0;
     const vista<vnwchar> v(s);
     return std::min(v.find_first_of(caracteres), v.size());
 }

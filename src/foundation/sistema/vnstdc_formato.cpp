@@ -265,7 +265,7 @@ template <class C, class F> int escanea(F &fuente, const C *formato, void *const
 } // namespace
 
 int vnstdc_sprintf(char *destino, const char *formato, ...) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(formato)) return 0;
+    if (!EXIGE(destino, formato)) return 0;
     va_list args;
     va_start(args, formato);
     const size_t longitud = vn::texto::formatea_en(destino, INT_MAX, formato, args);
@@ -274,7 +274,7 @@ int vnstdc_sprintf(char *destino, const char *formato, ...) {
 }
 
 int vnstdc__snprintf(char *destino, size_t n, const char *formato, ...) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(formato)) return 0;
+    if (!EXIGE(destino, formato)) return 0;
     va_list args;
     va_start(args, formato);
     const int longitud = formatea_n(destino, n, formato, args);
@@ -283,7 +283,7 @@ int vnstdc__snprintf(char *destino, size_t n, const char *formato, ...) {
 }
 
 int vnstdc__snwprintf(vnwchar *destino, size_t n, const vnwchar *formato, ...) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(formato)) return 0;
+    if (!EXIGE(destino, formato)) return 0;
     va_list args;
     va_start(args, formato);
     const int longitud = formatea_n(destino, n, formato, args);
@@ -303,13 +303,13 @@ int vnstdc_wprintf(const vnwchar *formato, ...) {
 }
 
 int vnstdc_fscanf1(vnfichero *f, const char *formato, void *a) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(formato) || !AFIRMA_NO_NULO(a)) return 0;
+    if (!EXIGE(f, formato, a)) return 0;
     fuente_flujo fuente(f);
     return escanea(fuente, formato, &a, 1);
 }
 
 int vnstdc_swscanf2(const vnwchar *s, const vnwchar *formato, void *a, void *b) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(formato) || !AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return 0;
+    if (!EXIGE(s, formato, a, b)) return 0;
     fuente_texto fuente(s);
     void *const sitios[] = {a, b};
     return escanea(fuente, formato, sitios, 2);

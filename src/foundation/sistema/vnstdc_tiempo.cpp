@@ -214,12 +214,12 @@ int asigna(const vnwchar *asignacion) {
 } // namespace
 
 size_t vnstdc_strftime(char *destino, size_t n, const char *formato, const struct tm *t) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(formato) || !AFIRMA_NO_NULO(t)) return 0;
+    if (!EXIGE(destino, formato, t)) return 0;
     return escribe_fecha(destino, n, formato, *t);
 }
 
 size_t vnstdc_wcsftime(vnwchar *destino, size_t n, const vnwchar *formato, const struct tm *t) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(formato) || !AFIRMA_NO_NULO(t)) return 0;
+    if (!EXIGE(destino, formato, t)) return 0;
     return escribe_fecha(destino, n, formato, *t);
 }
 

@@ -4,9 +4,10 @@
 #include "foundation/listas/arr.h"
 #include "foundation/platform/registro.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/texto/unicode.h"
 #include <algorithm>
-#include <memory>
 
 using vn::cadena_ancha;
 
@@ -14,10 +15,7 @@ namespace {
 
 constexpr uint32_t ULTIMA_RAIZ = VORNREG_USUARIOS, ULTIMA_VISTA = VORNREG_VISTA_64;
 
-struct destruye_lista {
-    void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
-};
-using lista_propia = std::unique_ptr<arrCADENA_u, destruye_lista>;
+using lista_propia = vn::dueno<arr_DestruyeCADENA_u>;
 
 // A key without backslashes at its ends.
 cadena_ancha limpia(vn::vista_ancha clave) {
@@ -39,7 +37,7 @@ arrCADENA_u *subclaves(uint32_t raiz, const cadena_ancha &clave) {
 vnbool vornreg_lee_cadena_u(uint32_t raiz, const vnwchar *clave, const vnwchar *valor, vnwchar **el_texto) {
     if (!AFIRMA_TEXTO(el_texto != nullptr, "(texto) != NULL")) return FALSO;
     *el_texto = nullptr;
-    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !EXIGE(clave, valor)) return FALSO;
     cadena_ancha contenido;
     if (!vn::plat::lee_registro(raiz, limpia(clave), valor, contenido)) return FALSO;
     *el_texto = vn::ficheros::nuevo(contenido);
@@ -49,7 +47,7 @@ vnbool vornreg_lee_cadena_u(uint32_t raiz, const vnwchar *clave, const vnwchar *
 vnbool vornreg_lee_cadena(uint32_t raiz, const char *clave, const char *valor, char **el_texto) {
     if (!AFIRMA_TEXTO(el_texto != nullptr, "(texto) != NULL")) return FALSO;
     *el_texto = nullptr;
-    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(valor)) return FALSO;
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !EXIGE(clave, valor)) return FALSO;
     cadena_ancha contenido;
     if (!vn::plat::lee_registro(raiz, limpia(vn::ficheros::de_ansi(clave)), vn::ficheros::de_ansi(valor), contenido))
         return FALSO;
@@ -62,7 +60,7 @@ vnbool vornreg_dame_subclaves_u(uint32_t raiz, const vnwchar *clave, arrCADENA_u
     *lista = nullptr;
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave)) return FALSO;
     *lista = subclaves(raiz, clave);
-    return *lista != nullptr ? CIERTO : FALSO;
+    return vn::logico(*lista != nullptr);
 }
 
 vnbool vornreg_dame_subclaves(uint32_t raiz, const char *clave, arrCADENA **lista) {
@@ -77,7 +75,7 @@ vnbool vornreg_dame_subclaves(uint32_t raiz, const char *clave, arrCADENA **list
 
 vnbool vornreg_existe_clave_u(uint32_t raiz, const vnwchar *clave) {
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave)) return FALSO;
-    return vn::plat::hay_clave_de_registro(raiz, limpia(clave)) ? CIERTO : FALSO;
+    return vn::logico(vn::plat::hay_clave_de_registro(raiz, limpia(clave)));
 }
 
 vnbool vornreg_lee_valores_cadena_clave_ex_u(uint32_t raiz, const vnwchar *clave, uint32_t vista, arrCADENA_u **nombres,
@@ -85,7 +83,7 @@ vnbool vornreg_lee_valores_cadena_clave_ex_u(uint32_t raiz, const vnwchar *clave
     if (nombres != nullptr) *nombres = nullptr;
     if (textos != nullptr) *textos = nullptr;
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA(vista <= ULTIMA_VISTA) ||
-        !AFIRMA_NO_NULO(nombres) || !AFIRMA_NO_NULO(textos))
+        !EXIGE(nombres, textos))
         return FALSO;
     std::vector<std::pair<cadena_ancha, cadena_ancha>> pares;
     if (!vn::plat::textos_de_registro(raiz, limpia(clave), vista, pares)) return FALSO;
@@ -101,10 +99,10 @@ vnbool vornreg_lee_valores_cadena_clave_ex_u(uint32_t raiz, const vnwchar *clave
 }
 
 vnbool vornreg_establece_cadena_u(uint32_t raiz, const vnwchar *clave, const vnwchar *valor, const vnwchar *contenido) {
-    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA_NO_NULO(valor)) return FALSO;
-    return vn::plat::escribe_registro(raiz, limpia(clave), valor, contenido) ? CIERTO : FALSO;
+    if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !EXIGE(clave, valor)) return FALSO;
+    return vn::logico(vn::plat::escribe_registro(raiz, limpia(clave), valor, contenido));
 }
 
 vnbool vornreg_tiene_permisos_escribir_en_registro(void) {
-    return vn::plat::puede_escribir_registro(VORNREG_MAQUINA) ? CIERTO : FALSO;
+    return vn::logico(vn::plat::puede_escribir_registro(VORNREG_MAQUINA));
 }

@@ -22,6 +22,11 @@ struct sitio {
     return false;
 }
 
+[[gnu::cold, gnu::noinline]] inline bool informa_de(const char *texto, const char *modulo, uint32_t linea) {
+    error_interno(texto, modulo, linea, 0);
+    return false;
+}
+
 } // namespace vn::suelo
 
 // clang-format off
@@ -38,17 +43,25 @@ struct sitio {
 #define AFIRMA_NO_NULO(p) AFIRMA_TEXTO_CLASE((p) != nullptr, "(" #p ") != NULL", 0)
 /** EXIGE(a, b, c): none of them is null; the first that is, in the order of the parameters, is reported. Up to
     eight. */
-#define EXIGE(...)                                                                                                     \
-    VN_EXIGE_(__VA_ARGS__, VN_EXIGE_8, VN_EXIGE_7, VN_EXIGE_6, VN_EXIGE_5, VN_EXIGE_4, VN_EXIGE_3, VN_EXIGE_2,         \
-              AFIRMA_NO_NULO, )(__VA_ARGS__)
-#define VN_EXIGE_(a, b, c, d, e, f, g, h, cual, ...) cual
-#define VN_EXIGE_2(a, b) (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b))
-#define VN_EXIGE_3(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_2(__VA_ARGS__))
-#define VN_EXIGE_4(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_3(__VA_ARGS__))
-#define VN_EXIGE_5(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_4(__VA_ARGS__))
-#define VN_EXIGE_6(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_5(__VA_ARGS__))
-#define VN_EXIGE_7(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_6(__VA_ARGS__))
-#define VN_EXIGE_8(a, ...) (AFIRMA_NO_NULO(a) && VN_EXIGE_7(__VA_ARGS__))
+#define EXIGE(...) VN_CADA_UNO_(VN_EXIGE_AQUI_, (), __VA_ARGS__)
+/** EXIGE_DE(modulo, linea, a, b, c): the same in an operation that knows its caller, whom the report names. */
+#define EXIGE_DE(modulo, linea, ...) VN_CADA_UNO_(VN_EXIGE_DE_, (modulo, linea), __VA_ARGS__)
+#define VN_EXIGE_AQUI_(de, p) AFIRMA_NO_NULO(p)
+#define VN_EXIGE_DE_(de, p)                                                                                            \
+    (__builtin_expect((p) != nullptr, 1) ? true : vn::informa_de("(" #p ") != NULL", VN_SIN_PARENTESIS_ de))
+#define VN_SIN_PARENTESIS_(...) __VA_ARGS__
+#define VN_CADA_UNO_(F, de, ...)                                                                                       \
+    VN_NOVENO_(__VA_ARGS__, VN_CADA_8_, VN_CADA_7_, VN_CADA_6_, VN_CADA_5_, VN_CADA_4_, VN_CADA_3_, VN_CADA_2_,        \
+               VN_CADA_1_, )(F, de, __VA_ARGS__)
+#define VN_NOVENO_(a, b, c, d, e, f, g, h, cual, ...) cual
+#define VN_CADA_1_(F, de, a) F(de, a)
+#define VN_CADA_2_(F, de, a, ...) (F(de, a) && VN_CADA_1_(F, de, __VA_ARGS__))
+#define VN_CADA_3_(F, de, a, ...) (F(de, a) && VN_CADA_2_(F, de, __VA_ARGS__))
+#define VN_CADA_4_(F, de, a, ...) (F(de, a) && VN_CADA_3_(F, de, __VA_ARGS__))
+#define VN_CADA_5_(F, de, a, ...) (F(de, a) && VN_CADA_4_(F, de, __VA_ARGS__))
+#define VN_CADA_6_(F, de, a, ...) (F(de, a) && VN_CADA_5_(F, de, __VA_ARGS__))
+#define VN_CADA_7_(F, de, a, ...) (F(de, a) && VN_CADA_6_(F, de, __VA_ARGS__))
+#define VN_CADA_8_(F, de, a, ...) (F(de, a) && VN_CADA_7_(F, de, __VA_ARGS__))
 /** AFIRMA_LOGICO(v): reports "v == CIERTO || v == FALSO". */
 #define AFIRMA_LOGICO(v) AFIRMA_TEXTO_CLASE((v) == CIERTO || (v) == FALSO, #v " == CIERTO || " #v " == FALSO", 0)
 /** AFIRMA_DEFECTO(): the default branch of a selection; always false. */

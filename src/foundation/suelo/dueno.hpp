@@ -21,11 +21,12 @@ template <class R, class T> struct asa_de<R (*)(T *)> {
     template <auto DESTRUYE> static void suelta(T *p) { DESTRUYE(p); }
 };
 
-template <auto DESTRUYE> struct suelta {
+template <auto DESTRUYE> struct suelta_dueno {
     using asa = asa_de<decltype(DESTRUYE)>;
     void operator()(typename asa::tipo *p) const { asa::template suelta<DESTRUYE>(p); }
 };
-template <auto DESTRUYE> using dueno = std::unique_ptr<typename suelta<DESTRUYE>::asa::tipo, suelta<DESTRUYE>>;
+template <auto DESTRUYE> using dueno =
+    std::unique_ptr<typename suelta_dueno<DESTRUYE>::asa::tipo, suelta_dueno<DESTRUYE>>;
 
 } // namespace vn
 

@@ -3,6 +3,7 @@
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/contexto_priv.h"
 #include "foundation/suelo/error_interno_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <algorithm>
 #include <cstring>
 
@@ -41,14 +42,14 @@ bool ejecuta(vnfunc_trapable funcion, void *datos) {
 
 vnbool trapable_nousar_recursivo_ejecuta_funcion_segura(vnfunc_trapable funcion, void *datos, vnbool *resultado) {
     vnbool ha_ido_bien = FALSO;
-    if (AFIRMA_NO_NULO(funcion)) ha_ido_bien = ejecuta(funcion, datos) ? CIERTO : FALSO;
+    if (AFIRMA_NO_NULO(funcion)) ha_ido_bien = vn::logico(ejecuta(funcion, datos));
     if (resultado != nullptr) *resultado = ha_ido_bien;
     return ha_ido_bien;
 }
 
 vnbool trapable_ha_fallado(void) {
     const vn::trampa *t = vn::trampa_abierta();
-    return t != nullptr && t->marcada ? CIERTO : FALSO;
+    return vn::logico(t != nullptr && t->marcada);
 }
 
 const char *trapable_texto_del_ultimo_fallo(void) { return ultimo_fallo; }

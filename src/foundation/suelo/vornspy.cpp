@@ -3,6 +3,7 @@
 #include "foundation/platform/consola.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/error_interno_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/par_atomico_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/vnatexit.h"
@@ -296,11 +297,11 @@ void *vornspy_nousar_copia_puntero_opcional(const void *p, vnfunc_copia copiador
 }
 
 void vornspy_nousar_destruye_puntero_opcional(void *p, vnfunc_destruye destructor) {
-    if (!AFIRMA_NO_NULO(p) || !AFIRMA_NO_NULO(destructor)) return;
+    if (!EXIGE(p, destructor)) return;
     if (puntero_en(p) != nullptr) destructor(p);
 }
 
-vnbool vornspy_es_memoria_reservada_valida(const void *p) { return esta_vivo(p) ? CIERTO : FALSO; }
+vnbool vornspy_es_memoria_reservada_valida(const void *p) { return vn::logico(esta_vivo(p)); }
 
 // ---------------------------------------------------------------- packs of values
 

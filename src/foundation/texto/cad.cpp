@@ -29,7 +29,7 @@ char *cad_crea_de_bytes(const char *str, uint32_t len) {
 }
 
 void vornstr_destruye(char **s) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s)) return;
+    if (!EXIGE(s, *s)) return;
     texto::destruye(s);
 }
 
@@ -55,17 +55,17 @@ char *nousar_formatea(const char *formato, ...) {
 }
 
 void cad_concatena(char **s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s) || !AFIRMA_NO_NULO(t)) return;
+    if (!EXIGE(s, *s, t)) return;
     texto::alarga(s, std::string_view(t), false, AQUI);
 }
 
 void cad_concatena_caracter(char **s, char c) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s)) return;
+    if (!EXIGE(s, *s)) return;
     if (c != 0) texto::alarga(s, std::string_view(&c, 1), false, AQUI);
 }
 
 void vornstr_inserta_al_principio(char **s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s) || !AFIRMA_NO_NULO(t)) return;
+    if (!EXIGE(s, *s, t)) return;
     texto::alarga(s, std::string_view(t), true, AQUI);
 }
 
@@ -75,17 +75,17 @@ uint32_t cad_longitud_cadena(const char *s) {
 }
 
 vnbool cad_cadenas_iguales(const char *a, const char *b) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return FALSO;
+    if (!EXIGE(a, b)) return FALSO;
     return std::strcmp(a, b) == 0;
 }
 
 vnbool cad_cadenas_iguales_may_o_min(const char *a, const char *b) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return FALSO;
+    if (!EXIGE(a, b)) return FALSO;
     return texto::iguales<char>(a, b, true);
 }
 
 int cad_cadenas_compara(const char *a, const char *b) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return 0;
+    if (!EXIGE(a, b)) return 0;
     return texto::compara<char>(a, b);
 }
 
@@ -100,27 +100,27 @@ vnbool cad_es_cadena_en_blanco(const char *s) {
 }
 
 vnbool cad_es_subcadena(const char *s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(t)) return FALSO;
+    if (!EXIGE(s, t)) return FALSO;
     return texto::busca<char>(s, t, 0, false) != NO_ESTA;
 }
 
 vnbool cad_es_subcadena_may_min(const char *s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(t)) return FALSO;
+    if (!EXIGE(s, t)) return FALSO;
     return texto::busca<char>(s, t, 0, true) != NO_ESTA;
 }
 
 vnbool cad_es_subcadena_inicial(const char *s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(t)) return FALSO;
+    if (!EXIGE(s, t)) return FALSO;
     return texto::empieza<char>(s, t, false);
 }
 
 vnbool cad_es_subcadena_inicial_may_o_min(const char *s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(t)) return FALSO;
+    if (!EXIGE(s, t)) return FALSO;
     return texto::empieza<char>(s, t, true);
 }
 
 vnbool cad_es_subcadena_final(const char *s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(t)) return FALSO;
+    if (!EXIGE(s, t)) return FALSO;
     return texto::termina<char>(s, t);
 }
 
@@ -136,32 +136,32 @@ char *cad_subcadena_inicial(const char *s, uint32_t n) {
 }
 
 char *cad_subcadena_anterior(const char *s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(t)) return nullptr;
+    if (!EXIGE(s, t)) return nullptr;
     return copia(std::string_view(s).substr(0, texto::busca<char>(s, t, 0, false)));
 }
 
 void cad_suprime_subcadena(char *s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(t)) return;
+    if (!EXIGE(s, t)) return;
     texto::suprime<char>(s, t);
 }
 
 vnbool cad_suprime_subcadena_inicial(char **s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s) || !AFIRMA_NO_NULO(t)) return FALSO;
+    if (!EXIGE(s, *s, t)) return FALSO;
     return texto::suprime_inicial<char>(*s, t, false);
 }
 
 vnbool cad_suprime_subcadena_inicial_may_o_min(char **s, const char *t) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s) || !AFIRMA_NO_NULO(t)) return FALSO;
+    if (!EXIGE(s, *s, t)) return FALSO;
     return texto::suprime_inicial<char>(*s, t, true);
 }
 
 void cad_reemplaza_todas_cadenas(char **s, const char *a, const char *b) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s) || !AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return;
+    if (!EXIGE(s, *s, a, b)) return;
     texto::reemplaza<char>(s, a, b, AQUI);
 }
 
 uint32_t cad_lista_de_subcadenas(const char *s, char separador, char ***lista) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(lista)) return 0;
+    if (!EXIGE(s, lista)) return 0;
     return texto::lista<char>(
         s, [separador](char c) { return c == separador; }, lista, AQUI);
 }

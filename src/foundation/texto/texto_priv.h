@@ -1,7 +1,6 @@
 // What the operations on ANSI and on wide text share: one template serves both widths.
 #pragma once
 
-#include "foundation/suelo/error_interno.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/texto/pagina_priv.h"
 #include <cstring>
@@ -9,14 +8,7 @@
 #include <string>
 #include <string_view>
 
-// The check of a pointer in an operation that knows its caller: the report bears the caller's module and line.
-#define AFIRMA_NO_NULO_DE(p)                                                                                           \
-    (__builtin_expect((p) != nullptr, 1) ? true : (error_interno("(" #p ") != NULL", modulo, linea, 0), false))
-
-// Whether one of them is null, and told.
-#define NULOS1(a) (!AFIRMA_NO_NULO_DE(a))
-#define NULOS2(a, b) (!AFIRMA_NO_NULO_DE(a) || !AFIRMA_NO_NULO_DE(b))
-#define NULOS3(a, b, c) (!AFIRMA_NO_NULO_DE(a) || !AFIRMA_NO_NULO_DE(b) || !AFIRMA_NO_NULO_DE(c))
+// The caller, of an operation that takes its module and line.
 #define QUIEN (vn::texto::quien{modulo, linea})
 
 namespace vn::texto {

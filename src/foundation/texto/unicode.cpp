@@ -2,6 +2,7 @@
 #include "foundation/texto/unicode.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/cadena_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/texto/texto_priv.h"
 
 using namespace vn;
@@ -41,7 +42,7 @@ char *de_pagina(const pagina &p, const vnwchar *s, vnbool *perdida, bool sin_ace
     const vista_ancha v(s);
     bool hay = false;
     char *r = convertido<char>([&](char *d) { return a_pagina(p, v, d, hay, sin_acentos); });
-    if (perdida != nullptr) *perdida = hay ? CIERTO : FALSO;
+    if (perdida != nullptr) *perdida = logico(hay);
     return r;
 }
 
@@ -103,7 +104,7 @@ vnbool trconvansi_texto_unicode_es_compatible_ANSI_idioma(const vnwchar *s, uint
     if (!AFIRMA_NO_NULO(s) || !AFIRMA(idioma <= MAX_IDIOMA)) return FALSO;
     bool perdida = false;
     a_pagina(pagina_de_idioma(idioma), s, nullptr, perdida);
-    return perdida ? FALSO : CIERTO;
+    return logico(!perdida);
 }
 
 vnwchar *utunicode_ANSI_a_UNICODE(const char *s) { return unicode_convierte_ANSI_a_UNICODE(s); }
@@ -111,14 +112,14 @@ vnwchar *utunicode_ANSI_a_UNICODE(const char *s) { return unicode_convierte_ANSI
 char *utunicode_UNICODE_a_ANSI(const vnwchar *s) { return unicode_UNICODE_a_ANSI(s); }
 
 vnwchar *utunicode_ANSI_a_UNICODE_destruyendo(char **s) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s)) return nullptr;
+    if (!EXIGE(s, *s)) return nullptr;
     propio<vnwchar> r(ancho_de(pagina_activa(), *s));
     texto::destruye(s);
     return r.release();
 }
 
 char *utunicode_UNICODE_a_ANSI_destruyendo(vnwchar **s) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s)) return nullptr;
+    if (!EXIGE(s, *s)) return nullptr;
     propio<char> r(de_pagina(pagina_activa(), *s, nullptr));
     texto::destruye(s);
     return r.release();
@@ -143,6 +144,6 @@ char *utunicode_UNICODE_a_ANSI_destruyendo_p(vnwchar *s) {
 }
 
 void utunicode_destruye_UNICODE(vnwchar **s) {
-    if (!AFIRMA_NO_NULO(s) || !AFIRMA_NO_NULO(*s)) return;
+    if (!EXIGE(s, *s)) return;
     texto::destruye(s);
 }

@@ -20,7 +20,7 @@ char *vornstrhex_nousar_buffer_a_cadena_hexadecimal(const void *datos, uint32_t 
 }
 
 unsigned char *vornstrhex_nousar_cadena_hex_a_buffer(const char *texto, uint32_t *tamanyo) {
-    if (!AFIRMA_NO_NULO(texto) || !AFIRMA_NO_NULO(tamanyo)) return nullptr;
+    if (!EXIGE(texto, tamanyo)) return nullptr;
     *tamanyo = 0;
     const size_t n = std::strlen(texto);
     if (n % 2 != 0 || n / 2 > UINT32_MAX) return nullptr;
@@ -35,14 +35,14 @@ unsigned char *vornstrhex_nousar_cadena_hex_a_buffer(const char *texto, uint32_t
 }
 
 unsigned char *vornstrhex_nousar_cadena_hexadecimal_a_buffer(const char *texto, uint32_t *tamanyo) {
-    if (!AFIRMA_NO_NULO(texto) || !AFIRMA_NO_NULO(tamanyo)) return nullptr;
+    if (!EXIGE(texto, tamanyo)) return nullptr;
     unsigned char *buffer = vornstrhex_nousar_cadena_hex_a_buffer(texto, tamanyo);
     (void)AFIRMA_NO_NULO(buffer);
     return buffer;
 }
 
 vnbool vornstrhex_codifica_caracter_u(vnwchar c, vnwchar *alto, vnwchar *bajo) {
-    if (!AFIRMA_NO_NULO(alto) || !AFIRMA_NO_NULO(bajo) || c > 0xFF) return FALSO;
+    if (!EXIGE(alto, bajo) || c > 0xFF) return FALSO;
     *alto = VNU("0123456789ABCDEF")[c >> 4];
     *bajo = VNU("0123456789ABCDEF")[c & 15];
     return CIERTO;

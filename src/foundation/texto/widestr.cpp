@@ -25,12 +25,12 @@ vnwchar *widestr_nousar_creacadena_con_caracter(uint32_t n, vnwchar c, const cha
 }
 
 vnwchar *widestr_nousar_crea_de_unidades(const vnwchar *str, uint32_t len, const char *modulo, uint32_t linea) {
-    if (NULOS1(str) || !AFIRMA(len <= MAX_TEXTO)) return nullptr;
+    if (!EXIGE_DE(modulo, linea, str) || !AFIRMA(len <= MAX_TEXTO)) return nullptr;
     return texto::de_unidades(str, len, QUIEN, [&] { error_interno("widestr_longitud(str)==len", modulo, linea, 0); });
 }
 
 vnwchar *widestr_nousar_copia(const vnwchar *s, const char *modulo, uint32_t linea) {
-    if (NULOS1(s)) return nullptr;
+    if (!EXIGE_DE(modulo, linea, s)) return nullptr;
     return texto::copia(vista_ancha(s), QUIEN);
 }
 
@@ -43,12 +43,12 @@ vnwchar *widestr_nousar_copia_si_no_null(const vnwchar *s, const char *modulo, u
 }
 
 void widestr_nousar_destruye(vnwchar **s, const char *modulo, uint32_t linea) {
-    if (NULOS2(s, *s)) return;
+    if (!EXIGE_DE(modulo, linea, s, *s)) return;
     texto::destruye(s);
 }
 
 void widestr_nousar_destruye_opcional(vnwchar **s, const char *modulo, uint32_t linea) {
-    if (NULOS1(s) || *s == nullptr) return;
+    if (!EXIGE_DE(modulo, linea, s) || *s == nullptr) return;
     texto::destruye(s);
 }
 
@@ -58,7 +58,7 @@ void widestr_fun_destruye(void *s) {
 }
 
 void widestr_nousar_destruyeListaCadenas(uint32_t n, vnwchar ***lista, const char *modulo, uint32_t linea) {
-    if (NULOS1(lista)) return;
+    if (!EXIGE_DE(modulo, linea, lista)) return;
     texto::destruye_lista(n, lista);
 }
 
@@ -72,7 +72,7 @@ vnwchar *copiaforu_nousar_formatea(const vnwchar *formato, ...) {
 }
 
 void widestr_nousar_concatena(vnwchar **s, const vnwchar *t, const char *modulo, uint32_t linea) {
-    if (NULOS3(s, *s, t)) return;
+    if (!EXIGE_DE(modulo, linea, s, *s, t)) return;
     texto::alarga(s, vista_ancha(t), false, QUIEN);
 }
 
@@ -81,27 +81,27 @@ void widestr_nousar_cad_concatena(vnwchar **s, const vnwchar *t, const char *mod
 }
 
 void widestr_nousar_concatena_caracter(vnwchar **s, vnwchar c, const char *modulo, uint32_t linea) {
-    if (NULOS2(s, *s)) return;
+    if (!EXIGE_DE(modulo, linea, s, *s)) return;
     if (c != 0) texto::alarga(s, vista_ancha(&c, 1), false, QUIEN);
 }
 
 void widestr_nousar_inserta_al_principio(vnwchar **s, const vnwchar *t, const char *modulo, uint32_t linea) {
-    if (NULOS3(s, *s, t)) return;
+    if (!EXIGE_DE(modulo, linea, s, *s, t)) return;
     texto::alarga(s, vista_ancha(t), true, QUIEN);
 }
 
 void widestr_nousar_suprime_subcadena(vnwchar *s, const vnwchar *t, const char *modulo, uint32_t linea) {
-    if (NULOS2(s, t)) return;
+    if (!EXIGE_DE(modulo, linea, s, t)) return;
     texto::suprime<vnwchar>(s, t);
 }
 
 vnbool widestr_nousar_suprime_subcadena_inicial(vnwchar **s, const vnwchar *t, const char *modulo, uint32_t linea) {
-    if (NULOS3(s, *s, t)) return FALSO;
+    if (!EXIGE_DE(modulo, linea, s, *s, t)) return FALSO;
     return texto::suprime_inicial<vnwchar>(*s, t, false);
 }
 
 vnbool widestr_nousar_suprime_subcadena_final(vnwchar **s, const vnwchar *t, const char *modulo, uint32_t linea) {
-    if (NULOS3(s, *s, t)) return FALSO;
+    if (!EXIGE_DE(modulo, linea, s, *s, t)) return FALSO;
     const vista_ancha v(*s), final(t);
     if (!texto::termina(v, final)) return FALSO;
     (*s)[v.size() - final.size()] = 0;
@@ -110,32 +110,32 @@ vnbool widestr_nousar_suprime_subcadena_final(vnwchar **s, const vnwchar *t, con
 
 void widestr_nousar_reemplaza_todas_cadenas(vnwchar **s, const vnwchar *a, const vnwchar *b, const char *modulo,
                                             uint32_t linea) {
-    if (NULOS3(s, *s, a) || NULOS1(b)) return;
+    if (!EXIGE_DE(modulo, linea, s, *s, a, b)) return;
     texto::reemplaza<vnwchar>(s, a, b, QUIEN);
 }
 
 void widestr_nousar_LTrim(vnwchar *s, const char *modulo, uint32_t linea) {
-    if (NULOS1(s)) return;
+    if (!EXIGE_DE(modulo, linea, s)) return;
     texto::deja(s, texto::sin_blancos_delante<vnwchar>(s));
 }
 
 void widestr_nousar_RTrim(vnwchar *s, const char *modulo, uint32_t linea) {
-    if (NULOS1(s)) return;
+    if (!EXIGE_DE(modulo, linea, s)) return;
     texto::deja(s, texto::sin_blancos_detras<vnwchar>(s));
 }
 
 void widestr_nousar_convertir_a_mayusculas(vnwchar *s, const char *modulo, uint32_t linea) {
-    if (NULOS1(s)) return;
+    if (!EXIGE_DE(modulo, linea, s)) return;
     texto::cambia(s, [](const auto &j, vnwchar c) { return j.mayuscula(c); });
 }
 
 void widestr_nousar_convertir_a_minusculas(vnwchar *s, const char *modulo, uint32_t linea) {
-    if (NULOS1(s)) return;
+    if (!EXIGE_DE(modulo, linea, s)) return;
     texto::cambia(s, [](const auto &j, vnwchar c) { return j.minuscula(c); });
 }
 
 void widestr_nousar_convertir_cadena_sin_acentos(vnwchar *s, const char *modulo, uint32_t linea) {
-    if (NULOS1(s)) return;
+    if (!EXIGE_DE(modulo, linea, s)) return;
     vnwchar *donde = s;
     for (; *s != 0; ++s)
         if (!es_acento_suelto(*s)) *donde++ = sin_acento(*s);

@@ -1,5 +1,6 @@
 #include "foundation/platform/directorio.h"
 #include "foundation/platform/posix/ruta.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/vnlongpath.h"
 #include <algorithm>
 #include <array>
@@ -19,10 +20,8 @@ vnwchar para_comparar(vnwchar c) { return c; }
 
 namespace {
 
-struct cierra_directorio {
-    void operator()(DIR *d) const { ::closedir(d); }
-};
-using lista_abierta = std::unique_ptr<DIR, cierra_directorio>;
+void cierra_directorio(DIR *d) { ::closedir(d); }
+using lista_abierta = dueno<cierra_directorio>;
 
 lista_abierta abre_en(int en, const char *nombre, int ademas) {
     descriptor d(::openat(en, nombre, O_RDONLY | O_DIRECTORY | O_CLOEXEC | ademas));

@@ -1,13 +1,14 @@
 #include "foundation/platform/fichero.h"
 #include "foundation/platform/posix/descriptor.h"
 #include "foundation/platform/posix/ruta.h"
+#include "foundation/suelo/dueno.hpp"
+#include "foundation/suelo/logico_int.h"
 #include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
-#include <memory>
 #include <string_view>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -152,8 +153,8 @@ vnerror_fichero trunca(vnid_fichero id, int64_t tamanyo) {
 vnerror_fichero estado_de(int r, const struct stat &s, vnestado_fichero *estado) {
     *estado = {};
     if (r != 0) return ultimo_error();
-    estado->es_directorio = S_ISDIR(s.st_mode) ? CIERTO : FALSO;
-    estado->es_normal = S_ISREG(s.st_mode) ? CIERTO : FALSO;
+    estado->es_directorio = logico(S_ISDIR(s.st_mode));
+    estado->es_normal = logico(S_ISREG(s.st_mode));
     if (S_ISREG(s.st_mode)) estado->tamanyo = static_cast<uint64_t>(s.st_size);
     return VN_FICH_BIEN;
 }
@@ -184,6 +185,8 @@ vnerror_fichero cierra(vnid_fichero id) {
     return ::close(fd(id)) == 0 || errno == EINTR ? VN_FICH_BIEN : ultimo_error();
 }
 
+void libera_texto(char *p) { std::free(p); }
+
 vnerror_fichero resuelve(const vnwchar *nombre, vnwchar *real, size_t maximo) {
     constexpr int MAXIMO_ENLACES = 40;
     std::string ruta = bytes(nombre);
@@ -192,10 +195,7 @@ vnerror_fichero resuelve(const vnwchar *nombre, vnwchar *real, size_t maximo) {
         char enlace[PATH_MAX];
         const ssize_t n = ::readlink(ruta.c_str(), enlace, sizeof enlace);
         if (n < 0) {
-            struct libera {
-                void operator()(char *p) const { std::free(p); }
-            };
-            const std::unique_ptr<char, libera> d(::realpath(directorio.empty() ? "." : directorio.c_str(), nullptr));
+            const dueno<libera_texto> d(::realpath(directorio.empty() ? "." : directorio.c_str(), nullptr));
             if (d == nullptr) return ultimo_error();
             const auto entera = ruta_ancha(d.get() + std::string(d.get()[1] != 0 ? "/" : "") + fichero);
             if (entera.size() >= maximo) return VN_FICH_NO_ADMITIDO;

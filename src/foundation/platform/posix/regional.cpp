@@ -12,6 +12,7 @@ namespace {
 
 using vista = std::basic_string_view<vnwchar>;
 
+// These handles are void * to the tables, whose closing operations vn::dueno would hand the address of a pointer.
 template <auto CIERRA> struct cierra {
     template <class T> void operator()(T *p) const { CIERRA(p); }
 };

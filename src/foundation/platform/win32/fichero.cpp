@@ -1,5 +1,6 @@
 #include "foundation/platform/fichero.h"
 #include "foundation/platform/win32/ruta.h"
+#include "foundation/suelo/logico_int.h"
 #include <algorithm>
 #include <cstddef>
 #include <memory>
@@ -152,8 +153,8 @@ vnerror_fichero estado(const vnwchar *nombre, vnestado_fichero *e) {
     *e = {};
     WIN32_FILE_ATTRIBUTE_DATA d;
     if (!GetFileAttributesExW(ruta_del_sistema(nombre).c_str(), GetFileExInfoStandard, &d)) return resultado(FALSE);
-    e->es_directorio = (d.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? CIERTO : FALSO;
-    e->es_normal = (d.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0 ? CIERTO : FALSO;
+    e->es_directorio = logico((d.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0);
+    e->es_normal = logico((d.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0);
     if (e->es_normal == CIERTO) e->tamanyo = static_cast<uint64_t>(d.nFileSizeHigh) << 32 | d.nFileSizeLow;
     return VN_FICH_BIEN;
 }
