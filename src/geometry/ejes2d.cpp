@@ -90,20 +90,20 @@ ejes2d *ejes2d_local_a_global(EJES, const ejes2d *ejes_resp_sr_base) {
 }
 
 ejes2d *ejes2d_local_a_ejes2d_global(const ejes2d *ejes_resp_sr_base, const ejes2d *ejes_sr_base_resp_sr_global) {
-    if (!EXIGE2(ejes_resp_sr_base, ejes_sr_base_resp_sr_global)) return nullptr;
+    if (!EXIGE(ejes_resp_sr_base, ejes_sr_base_resp_sr_global)) return nullptr;
     return nuevo_de(a_global(marco_de(*ejes_sr_base_resp_sr_global), marco_de(*ejes_resp_sr_base)));
 }
 
 ejes2d *ejes2d_global_a_ejes2d_local(const ejes2d *ejes_sr_base_resp_sr_global, const ejes2d *ejes_sr_resp_sr_global) {
-    if (!EXIGE2(ejes_sr_base_resp_sr_global, ejes_sr_resp_sr_global)) return nullptr;
+    if (!EXIGE(ejes_sr_base_resp_sr_global, ejes_sr_resp_sr_global)) return nullptr;
     return nuevo_de(a_local(marco_de(*ejes_sr_base_resp_sr_global), marco_de(*ejes_sr_resp_sr_global)));
 }
 
 void ejes2d_ejes_locales_a_globales(EJES, EJES_DE(_local), double *Xo_global, double *Yo_global, double *Zo_global,
                                     double *Ux_global, double *Uy_global, double *Uz_global, double *Vx_global,
                                     double *Vy_global, double *Vz_global) {
-    if (!EXIGE3(Xo_global, Yo_global, Zo_global) || !EXIGE3(Ux_global, Uy_global, Uz_global) ||
-        !EXIGE3(Vx_global, Vy_global, Vz_global))
+    if (!EXIGE(Xo_global, Yo_global, Zo_global) || !EXIGE(Ux_global, Uy_global, Uz_global) ||
+        !EXIGE(Vx_global, Vy_global, Vz_global))
         return;
     const marco m = a_global(MARCO, MARCO_DE(_local));
     numeros::da(Xo_global, Yo_global, Zo_global, m.o);
@@ -114,8 +114,8 @@ void ejes2d_ejes_locales_a_globales(EJES, EJES_DE(_local), double *Xo_global, do
 void ejes2d_ejes_globales_a_locales(EJES, EJES_DE(_global), double *Xo_local, double *Yo_local, double *Zo_local,
                                     double *Ux_local, double *Uy_local, double *Uz_local, double *Vx_local,
                                     double *Vy_local, double *Vz_local) {
-    if (!EXIGE3(Xo_local, Yo_local, Zo_local) || !EXIGE3(Ux_local, Uy_local, Uz_local) ||
-        !EXIGE3(Vx_local, Vy_local, Vz_local))
+    if (!EXIGE(Xo_local, Yo_local, Zo_local) || !EXIGE(Ux_local, Uy_local, Uz_local) ||
+        !EXIGE(Vx_local, Vy_local, Vz_local))
         return;
     const marco m = a_local(MARCO, MARCO_DE(_global));
     numeros::da(Xo_local, Yo_local, Zo_local, m.o);
@@ -156,23 +156,23 @@ vnbool ejes2d_son_ejes_coincidentes(EJES_DE(1), EJES_DE(2), double precision_par
 // ---------------------------------------------------------------- changes in place
 
 void ejes2d_invierte_ejes_manteniendo_la_U(double *Vx, double *Vy, double *Vz) {
-    if (EXIGE3(Vx, Vy, Vz)) numeros::da(Vx, Vy, Vz, -Punto3D{*Vx, *Vy, *Vz});
+    if (EXIGE(Vx, Vy, Vz)) numeros::da(Vx, Vy, Vz, -Punto3D{*Vx, *Vy, *Vz});
 }
 
 void ejes2d_gira_ejes_sobre_U(double Ux, double Uy, double Uz, double *Vx, double *Vy, double *Vz, double grados) {
-    if (!EXIGE3(Vx, Vy, Vz)) return;
+    if (!EXIGE(Vx, Vy, Vz)) return;
     const Punto3D v{*Vx, *Vy, *Vz};
     numeros::da(Vx, Vy, Vz, giro(grados)(v, normal_de({Ux, Uy, Uz}, v)));
 }
 
 void ejes2d_gira_ejes_sobre_V(double *Ux, double *Uy, double *Uz, double Vx, double Vy, double Vz, double grados) {
-    if (!EXIGE3(Ux, Uy, Uz)) return;
+    if (!EXIGE(Ux, Uy, Uz)) return;
     const Punto3D u{*Ux, *Uy, *Uz};
     numeros::da(Ux, Uy, Uz, giro(grados)(u, normal_de(u, {Vx, Vy, Vz})));
 }
 
 void ejes2d_gira_ejes_sobre_W(SALIDAS_UV, double grados) {
-    if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
+    if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     const Punto3D u{*Ux, *Uy, *Uz}, v{*Vx, *Vy, *Vz};
     const giro g(grados);
     numeros::da(Ux, Uy, Uz, g(u, v));

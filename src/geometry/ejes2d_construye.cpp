@@ -59,7 +59,7 @@ double angulo_de_giro(double radianes) {
 // ---------------------------------------------------------------- out of points
 
 void ejes2d_ejes_con_dos_puntos(double x1, double y1, double z1, double x2, double y2, double z2, SALIDAS_EJES) {
-    if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
+    if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     marco m{{x1, y1, z1}, {}, {}};
     if (mt_vector_director_de_dos_puntos_3D(x1, y1, z1, x2, y2, z2, &m.u.x, &m.u.y, &m.u.z) != CIERTO)
         m.u = {1., 0., 0.};
@@ -79,15 +79,14 @@ void ejes2d_ejes_de_una_cara(double x1, double y1, double z1, double x2, double 
     const double prod_escalar_pto_esta_en_plano = numeros::escalar(p3 - p1, numeros::vectorial(m.u, m.v));
     AFIRMA_TEXTO(std::fabs(prod_escalar_pto_esta_en_plano) < i_PRECISION_PUNTO_PERTENECE_PLANO,
                  "vnstdc_fabs(prod_escalar_pto_esta_en_plano) < i_PRECISION_PUNTO_PERTENECE_PLANO");
-    const Punto3D suma = p1 + p2 + p3 + p4;
-    m.o = {suma.x / 4., suma.y / 4., suma.z / 4.};
+    m.o = (p1 + p2 + p3 + p4) / 4.;
     A_SALIDAS(m);
 }
 
 // ---------------------------------------------------------------- out of a plane or a vector
 
 void ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(double A, double B, double C, SALIDAS_UV) {
-    if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
+    if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     const Punto3D v{0., 0., 1.};
     Punto3D u = numeros::vectorial(v, {A, B, C});
     const vnbool es_plano_vertical = mt_pasar_a_unitario_3D(&u.x, &u.y, &u.z);
@@ -110,7 +109,7 @@ void ejes2d_ejes_para_proyectar_en_vertical_sobre_plano_ABCD(double A, double B,
 }
 
 void ejes2d_ejes_horizontales_dado_Ux_Uy(double x, double y, SALIDAS_UV) {
-    if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
+    if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     vn::numeros::da(Ux, Uy, Uz, {x, y, 0.});
     vn::numeros::da(Vx, Vy, Vz, {-y, x, 0.});
 }
@@ -140,7 +139,7 @@ void ejes2d_eje_V_horizontal_a_partir_del_vector_U(double Ux, double Uy, double 
 // ---------------------------------------------------------------- angles of turn
 
 void ejes2d_ejes_de_angulos_giro_3d(double giro_x, double giro_y, double giro_z, SALIDAS_UV) {
-    if (!EXIGE3(Ux, Uy, Uz) || !EXIGE3(Vx, Vy, Vz)) return;
+    if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     const double x = -giro_x * numeros::PI / 180.0, y = -giro_y * numeros::PI / 180.0,
                  z = -giro_z * numeros::PI / 180.0;
     const double cx = std::cos(x), sx = std::sin(x), cy = std::cos(y), sy = std::sin(y), cz = std::cos(z),
@@ -151,7 +150,7 @@ void ejes2d_ejes_de_angulos_giro_3d(double giro_x, double giro_y, double giro_z,
 }
 
 void ejes2d_angulos_giro_3d_de_ejes(UV, double *giro_x, double *giro_y, double *giro_z) {
-    if (!EXIGE3(giro_x, giro_y, giro_z)) return;
+    if (!EXIGE(giro_x, giro_y, giro_z)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});
     Punto3D g;
     if (Uz >= 1.) g = {std::atan2(Vx, Vy), numeros::PI / 2., 0.};
@@ -163,23 +162,23 @@ void ejes2d_angulos_giro_3d_de_ejes(UV, double *giro_x, double *giro_y, double *
 // ---------------------------------------------------------------- equation of the plane
 
 void ejes2d_vector_director_plano(UV, double *Wx, double *Wy, double *Wz) {
-    if (EXIGE3(Wx, Wy, Wz)) vn::numeros::da(Wx, Wy, Wz, normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz}));
+    if (EXIGE(Wx, Wy, Wz)) vn::numeros::da(Wx, Wy, Wz, normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz}));
 }
 
 void ejes2d_ecuacion_del_plano(EJES, double *A, double *B, double *C, double *D) {
-    if (EXIGE3(A, B, C)) da(A, B, C, D, ecuacion_de(MARCO));
+    if (EXIGE(A, B, C)) da(A, B, C, D, ecuacion_de(MARCO));
 }
 
 void ejes2d_ecuacion_del_plano_desplazado_en_z_local(EJES, double desplazamiento_z_local, double *A, double *B,
                                                      double *C, double *D) {
-    if (!EXIGE3(A, B, C)) return;
+    if (!EXIGE(A, B, C)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});
     da(A, B, C, D, {w, -numeros::escalar(w, Punto3D{Xo, Yo, Zo} + desplazamiento_z_local * w)});
 }
 
 void ejes2d_ecuacion_del_plano_a_partir_de_puntos3D(const arrPunto3D *puntos, double *A, double *B, double *C,
                                                     double *D) {
-    if (!AFIRMA_NO_NULO(puntos) || !EXIGE3(A, B, C)) return;
+    if (!EXIGE(puntos, A, B, C)) return;
     marco m{};
     ejes2d_crea_a_partir_de_puntos3D(puntos, &m.o.x, &m.o.y, &m.o.z, &m.u.x, &m.u.y, &m.u.z, &m.v.x, &m.v.y, &m.v.z);
     const bool hay = m.u.x != 0. || m.u.y != 0. || m.u.z != 0.;
@@ -189,7 +188,7 @@ void ejes2d_ecuacion_del_plano_a_partir_de_puntos3D(const arrPunto3D *puntos, do
 void ejes2d_ecuacion_del_plano_dado_tres_puntos(double x1, double y1, double z1, double x2, double y2, double z2,
                                                 double x3, double y3, double z3, double *A, double *B, double *C,
                                                 double *D) {
-    if (EXIGE3(A, B, C)) da(A, B, C, D, ecuacion_de(marco_de_tres_puntos({x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3})));
+    if (EXIGE(A, B, C)) da(A, B, C, D, ecuacion_de(marco_de_tres_puntos({x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3})));
 }
 
 double ejes2d_distancia_con_signo_punto_a_plano(EJES, double x, double y, double z) {
@@ -199,7 +198,7 @@ double ejes2d_distancia_con_signo_punto_a_plano(EJES, double x, double y, double
 // ---------------------------------------------------------------- the origin moved
 
 void ejes2d_posiciona_ejes_en_origen_cero_global_proyectado_sobre_el_plano(double *Xo, double *Yo, double *Zo, UV) {
-    if (!EXIGE3(Xo, Yo, Zo)) return;
+    if (!EXIGE(Xo, Yo, Zo)) return;
     const ecuacion e = ecuacion_de({{*Xo, *Yo, *Zo}, {Ux, Uy, Uz}, {Vx, Vy, Vz}});
     Punto3D o;
     const vnbool existe = mt_existe_interseccion_recta_con_plano(0., 0., 0., e.n.x, e.n.y, e.n.z, e.n.x, e.n.y, e.n.z,
@@ -211,13 +210,13 @@ void ejes2d_posiciona_ejes_en_origen_cero_global_proyectado_sobre_el_plano(doubl
 }
 
 void ejes2d_desplaza_ejes(double *Xo, double *Yo, double *Zo, UV, double desplazamiento) {
-    if (!EXIGE3(Xo, Yo, Zo)) return;
+    if (!EXIGE(Xo, Yo, Zo)) return;
     ejes2d_desplaza_ejes_ex(*Xo, *Yo, *Zo, Ux, Uy, Uz, Vx, Vy, Vz, desplazamiento, Xo, Yo, Zo);
 }
 
 void ejes2d_desplaza_ejes_ex(EJES, double desplazamiento, double *Xo_desplazado, double *Yo_desplazado,
                              double *Zo_desplazado) {
-    if (!EXIGE3(Xo_desplazado, Yo_desplazado, Zo_desplazado)) return;
+    if (!EXIGE(Xo_desplazado, Yo_desplazado, Zo_desplazado)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});
     vn::numeros::da(Xo_desplazado, Yo_desplazado, Zo_desplazado, Punto3D{Xo, Yo, Zo} + desplazamiento * w);
 }

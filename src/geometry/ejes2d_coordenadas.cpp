@@ -3,10 +3,11 @@
 #include "foundation/listas/arr.h"
 #include "foundation/numeros/vmatr.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
+#include "foundation/suelo/logico_int.h"
 #include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <cmath>
-#include <memory>
 
 using namespace vn;
 
@@ -16,11 +17,6 @@ using namespace vn;
     }
 
 namespace {
-
-struct destruye_matriz {
-    void operator()(vmatr *m) const { vmatr_destruir_matriz(&m); }
-};
-using matriz_propia = std::unique_ptr<vmatr, destruye_matriz>;
 
 void comprueba_en_plano(double x, double y, double z, Punto3D w, double precision) {
     AFIRMA_TEXTO(std::fabs(x * w.x + y * w.y + z * w.z) < precision,
@@ -38,12 +34,12 @@ Punto2D vn::a_local_en_plano(const marco &m, Punto3D w, Punto3D p, double precis
 // ---------------------------------------------------------------- points
 
 void ejes2d_coordenada_2D_a_3D(EJES, double x, double y, double *coord_x_3D, double *coord_y_3D, double *coord_z_3D) {
-    if (EXIGE2(coord_x_3D, coord_y_3D)) numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(Punto2D{x, y}));
+    if (EXIGE(coord_x_3D, coord_y_3D)) numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(Punto2D{x, y}));
 }
 
 void ejes2d_coordenada_2D_a_3D_punto_poligono(EJES, const arrPunto2D *puntos, uint32_t indice, double *coord_x_3D,
                                               double *coord_y_3D, double *coord_z_3D) {
-    if (!AFIRMA_NO_NULO(puntos) || !EXIGE2(coord_x_3D, coord_y_3D)) return;
+    if (!EXIGE(puntos, coord_x_3D, coord_y_3D)) return;
     const bool hay = AFIRMA_TEXTO(indice < arr_NumElemsPunto2D(puntos), "indice < num_puntos");
     numeros::da(coord_x_3D, coord_y_3D, coord_z_3D,
                 hay ? MARCO.a_global(arr_GetBufferConstPunto2D(puntos)[indice]) : Punto3D{});
@@ -51,39 +47,39 @@ void ejes2d_coordenada_2D_a_3D_punto_poligono(EJES, const arrPunto2D *puntos, ui
 
 void ejes2d_coordenadas_3D_a_2D(EJES, double x, double y, double z, double precision, double *coord_x_2D,
                                 double *coord_y_2D) {
-    if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
+    if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     numeros::da(coord_x_2D, coord_y_2D, a_local_en_plano(MARCO, normal_de(MARCO), {x, y, z}, precision));
 }
 
 void ejes2d_coordenadas_3D_a_2D_fuera_de_precision(EJES, double x, double y, double z, double precision,
                                                    double *coord_x_2D, double *coord_y_2D, vnbool *fuera_de_precision) {
     if (fuera_de_precision != nullptr) *fuera_de_precision = FALSO;
-    if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
+    if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     const Punto3D d = Punto3D{x, y, z} - Punto3D{Xo, Yo, Zo};
     numeros::da(coord_x_2D, coord_y_2D, MARCO.vector_a_local(d));
     const bool dentro = std::fabs(numeros::escalar(d, normal_de(MARCO))) < precision;
-    if (fuera_de_precision != nullptr) *fuera_de_precision = dentro ? FALSO : CIERTO;
+    if (fuera_de_precision != nullptr) *fuera_de_precision = logico(!dentro);
 }
 
 void ejes2d_coordenadas_3D_proyectado_a_2D(EJES, double x, double y, double z, double *coord_x_2D, double *coord_y_2D) {
-    if (EXIGE2(coord_x_2D, coord_y_2D)) numeros::da(coord_x_2D, coord_y_2D, MARCO.a_local({x, y, z}));
+    if (EXIGE(coord_x_2D, coord_y_2D)) numeros::da(coord_x_2D, coord_y_2D, MARCO.a_local({x, y, z}));
 }
 
 void ejes2d_coordenadas_3D_proyectado_a_3D(EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
                                            double *coord_z_3D) {
-    if (!EXIGE3(coord_x_3D, coord_y_3D, coord_z_3D)) return;
+    if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(MARCO.a_local({x, y, z})));
 }
 
 void ejes2d_coordenada_3D_local_a_global(EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
                                          double *coord_z_3D) {
-    if (!EXIGE3(coord_x_3D, coord_y_3D, coord_z_3D)) return;
+    if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(Punto3D{x, y, z}, normal_de(MARCO)));
 }
 
 void ejes2d_cambio_sistema_coordenadas(EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
                                        double *coord_z_3D) {
-    if (!EXIGE3(coord_x_3D, coord_y_3D, coord_z_3D)) return;
+    if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     const marco m = MARCO;
     numeros::da(coord_x_3D, coord_y_3D, coord_z_3D,
                 m.vector_a_local(Punto3D{x, y, z} - m.o, numeros::vectorial(m.u, m.v)));
@@ -91,21 +87,21 @@ void ejes2d_cambio_sistema_coordenadas(EJES, double x, double y, double z, doubl
 
 void ejes2d_transforma_de_3D_a_2D_pantalla(EJES, double x, double y, double z, double *coord_x_2D, double *coord_y_2D) {
     static_cast<void>(Zo);
-    if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
+    if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     const Punto2D p = MARCO_UV.vector_a_local({x, y, z});
     numeros::da(coord_x_2D, coord_y_2D, {p.x + Xo, p.y + Yo});
 }
 
 void ejes2d_coordenada_2D_a_3D_pantalla(EJES, double x, double y, double *coord_x_3D, double *coord_y_3D,
                                         double *coord_z_3D) {
-    if (!EXIGE3(coord_x_3D, coord_y_3D, coord_z_3D)) return;
+    if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     const Punto3D w = numeros::vectorial({Ux, Uy, Uz}, {Vx, Vy, Vz});
     const double filas[4][4] = {{Ux, Uy, Uz, Xo}, {Vx, Vy, Vz, Yo}, {w.x, w.y, w.z, Zo}, {0., 0., 0., 1.}};
-    const matriz_propia directa(vmatr_crea_matriz_nula(4, 4));
+    const dueno<vmatr_destruir_matriz> directa(vmatr_crea_matriz_nula(4, 4));
     if (directa == nullptr) return;
     for (uint32_t i = 0; i < 4; ++i)
         for (uint32_t j = 0; j < 4; ++j) vmatr_set_coef_matriz(directa.get(), i, j, filas[i][j]);
-    const matriz_propia inversa(vmatr_matriz_inversa(directa.get()));
+    const dueno<vmatr_destruir_matriz> inversa(vmatr_matriz_inversa(directa.get()));
     double p[3] = {};
     for (uint32_t i = 0; i < 3 && inversa != nullptr; ++i) {
         const double *c = vmatr_get_buffer_matriz(inversa.get()) + i; // by columns
@@ -116,7 +112,7 @@ void ejes2d_coordenada_2D_a_3D_pantalla(EJES, double x, double y, double *coord_
 
 void ejes2d_cambia_de_un_sistema_coordenadas_a_otro(EJES_DE(1), EJES_DE(2), double x, double y, double precision,
                                                     double *coord_x_2D, double *coord_y_2D) {
-    if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
+    if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     const marco m = MARCO_DE(2);
     numeros::da(coord_x_2D, coord_y_2D,
                 a_local_en_plano(m, normal_de(m), MARCO_DE(1).a_global(Punto2D{x, y}), precision));
@@ -124,14 +120,14 @@ void ejes2d_cambia_de_un_sistema_coordenadas_a_otro(EJES_DE(1), EJES_DE(2), doub
 
 void ejes2d_cambia_de_un_sistema_coordenadas_a_otro_proyectando(EJES_DE(1), EJES_DE(2), double x, double y,
                                                                 double *coord_x_2D, double *coord_y_2D) {
-    if (!EXIGE2(coord_x_2D, coord_y_2D)) return;
+    if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     numeros::da(coord_x_2D, coord_y_2D, MARCO_DE(2).a_local(MARCO_DE(1).a_global(Punto2D{x, y})));
 }
 
 // ---------------------------------------------------------------- vectors
 
 void ejes2d_vector_2D_a_3D(UV, double vx, double vy, double *vx_3D, double *vy_3D, double *vz_3D) {
-    if (EXIGE3(vx_3D, vy_3D, vz_3D)) numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_global({vx, vy}));
+    if (EXIGE(vx_3D, vy_3D, vz_3D)) numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_global({vx, vy}));
 }
 
 void ejes2d_vector_3D_a_2D(UV, double vx, double vy, double vz, double *vx_2D, double *vy_2D) {
@@ -140,29 +136,29 @@ void ejes2d_vector_3D_a_2D(UV, double vx, double vy, double vz, double *vx_2D, d
 
 void ejes2d_vector_3D_a_2D_con_precision(UV, double vx, double vy, double vz, double precision, double *vx_2D,
                                          double *vy_2D) {
-    if (!EXIGE2(vx_2D, vy_2D)) return;
+    if (!EXIGE(vx_2D, vy_2D)) return;
     comprueba_en_plano(vx, vy, vz, normal_de(MARCO_UV), precision);
     numeros::da(vx_2D, vy_2D, MARCO_UV.vector_a_local({vx, vy, vz}));
 }
 
 void ejes2d_vector_3D_proyectado_a_2D(UV, double vx, double vy, double vz, double *vx_2D, double *vy_2D) {
-    if (EXIGE2(vx_2D, vy_2D)) numeros::da(vx_2D, vy_2D, MARCO_UV.vector_a_local({vx, vy, vz}));
+    if (EXIGE(vx_2D, vy_2D)) numeros::da(vx_2D, vy_2D, MARCO_UV.vector_a_local({vx, vy, vz}));
 }
 
 void ejes2d_vector_3D_proyectado_a_3D(UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D,
                                       double *vz_3D) {
-    if (!EXIGE3(vx_3D, vy_3D, vz_3D)) return;
+    if (!EXIGE(vx_3D, vy_3D, vz_3D)) return;
     numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_global(MARCO_UV.vector_a_local({vx, vy, vz})));
 }
 
 void ejes2d_vector_3D_local_a_global(UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D, double *vz_3D) {
-    if (!EXIGE3(vx_3D, vy_3D, vz_3D)) return;
+    if (!EXIGE(vx_3D, vy_3D, vz_3D)) return;
     const marco m = MARCO_UV;
     numeros::da(vx_3D, vy_3D, vz_3D, vx * m.u + vy * m.v + vz * normal_de(m));
 }
 
 void ejes2d_vector_3D_global_a_local(UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D, double *vz_3D) {
-    if (!EXIGE3(vx_3D, vy_3D, vz_3D)) return;
+    if (!EXIGE(vx_3D, vy_3D, vz_3D)) return;
     numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_local({vx, vy, vz}, normal_de(MARCO_UV)));
 }
 
@@ -171,7 +167,7 @@ void ejes2d_vector_3D_global_a_local(UV, double vx, double vy, double vz, double
 void ejes2d_recta_3D_a_2D(EJES, double Xo_recta_3D, double Yo_recta_3D, double Zo_recta_3D, double Ux_recta_3D,
                           double Uy_recta_3D, double Uz_recta_3D, double precision, double *Xo_recta_2D,
                           double *Yo_recta_2D, double *Ux_recta_2D, double *Uy_recta_2D) {
-    if (!EXIGE2(Xo_recta_2D, Yo_recta_2D) || !EXIGE2(Ux_recta_2D, Uy_recta_2D)) return;
+    if (!EXIGE(Xo_recta_2D, Yo_recta_2D, Ux_recta_2D, Uy_recta_2D)) return;
     const marco m = MARCO;
     const Punto3D w = normal_de(m), u{Ux_recta_3D, Uy_recta_3D, Uz_recta_3D};
     numeros::da(Xo_recta_2D, Yo_recta_2D, a_local_en_plano(m, w, {Xo_recta_3D, Yo_recta_3D, Zo_recta_3D}, precision));

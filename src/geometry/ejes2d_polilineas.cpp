@@ -2,11 +2,11 @@
 // Whole polylines from global to local and back.
 #include "foundation/listas/arr_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
 #include <cmath>
-#include <memory>
 #include <span>
 
 using namespace vn;
@@ -17,24 +17,20 @@ template <class T> struct familia;
 template <> struct familia<Punto2D> {
     using array = arrPunto2D;
     static constexpr auto crea = arr_CreaPunto2D;
-    static constexpr auto destruye = arr_DestruyePunto2D;
+    using propio = dueno<arr_DestruyePunto2D>;
     static constexpr auto bloque = arr_GetBufferPunto2D;
 };
 template <> struct familia<Punto3D> {
     using array = arrPunto3D;
     static constexpr auto crea = arr_CreaPunto3D;
-    static constexpr auto destruye = arr_DestruyePunto3D;
+    using propio = dueno<arr_DestruyePunto3D>;
     static constexpr auto bloque = arr_GetBufferPunto3D;
-};
-template <class T> struct destruye_array {
-    void operator()(typename familia<T>::array *a) const { familia<T>::destruye(&a); }
 };
 
 // New array with what `f` makes of each point.
 template <class T, class Origen, class F> typename familia<T>::array *nueva(std::span<const Origen> puntos, F &&f) {
     // Owned meanwhile: what is done to a point may report.
-    std::unique_ptr<typename familia<T>::array, destruye_array<T>> a(
-        familia<T>::crea(static_cast<uint32_t>(puntos.size())));
+    typename familia<T>::propio a(familia<T>::crea(static_cast<uint32_t>(puntos.size())));
     if (a == nullptr) return nullptr;
     T *destino = familia<T>::bloque(a.get());
     for (const Origen &p : puntos) *destino++ = f(p);

@@ -3,6 +3,7 @@
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
@@ -34,7 +35,7 @@ bool apartados(Punto3D a, Punto3D b, double precision) {
 // distinct.
 bool distintos(Punto3D a, Punto3D b, double precision) {
     const Punto3D d = a - b;
-    return std::isfinite(d.x + d.y + d.z) &&
+    return numeros::es_finito(d) &&
            (std::fabs(d.x) >= precision || std::fabs(d.y) >= precision || std::fabs(d.z) >= precision);
 }
 
@@ -67,7 +68,7 @@ struct bloque {
 
     explicit bloque(puntos_t p) : a(mas_lejano(p, p[0])), b(mas_lejano(p, a)) {
         const Punto3D ab = b - a;
-        const double ab2 = numeros::escalar(ab, ab);
+        const double ab2 = numeros::cuadrado(ab);
         for (const Punto3D &q : p) {
             minimo = {std::min(minimo.x, q.x), std::min(minimo.y, q.y), std::min(minimo.z, q.z)};
             maximo = {std::max(maximo.x, q.x), std::max(maximo.y, q.y), std::max(maximo.z, q.z)};
@@ -79,7 +80,7 @@ struct bloque {
     static Punto3D mas_lejano(puntos_t p, Punto3D de) {
         Punto3D r = de;
         for (const Punto3D &q : p)
-            if (numeros::escalar(q - de, q - de) > numeros::escalar(r - de, r - de)) r = q;
+            if (numeros::cuadrado(q - de) > numeros::cuadrado(r - de)) r = q;
         return r;
     }
 
@@ -238,9 +239,8 @@ bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marc
             }
         const recorrido r = recorre(p, t.p1, w, prec.plano);
         if (r.falla == SIN_PUNTO) {
-            const auto n = static_cast<double>(p.size());
             if (r.votos < 0) m.u = -m.u;
-            m.o = {r.suma.x / n, r.suma.y / n, r.suma.z / n};
+            m.o = r.suma / static_cast<double>(p.size());
             culpable = culpable_del_primero;
             return true;
         }
@@ -331,11 +331,11 @@ vnbool ejes2d_existen_tres_puntos_no_lineales(const arrPunto3D *puntos) {
 vnbool ejes2d_existen_tres_puntos_no_lineales_con_precision(const arrPunto3D *puntos, double precision) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
     terna t;
-    return buscador(listas::tramo(puntos), precision).busca(0, t) ? CIERTO : FALSO;
+    return logico(buscador(listas::tramo(puntos), precision).busca(0, t));
 }
 
 vnbool ejes2d_tres_puntos_forman_ejes(double x1, double y1, double z1, double x2, double y2, double z2, double x3,
                                       double y3, double z3) {
-    return recta({x1, y1, z1}, {x2, y2, z2}, PRECISION_PUNTOS).deja_fuera({x3, y3, z3}, PRECISION_PUNTOS) ? CIERTO
-                                                                                                          : FALSO;
+    const recta r({x1, y1, z1}, {x2, y2, z2}, PRECISION_PUNTOS);
+    return logico(r.deja_fuera({x3, y3, z3}, PRECISION_PUNTOS));
 }

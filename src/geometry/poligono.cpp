@@ -8,6 +8,8 @@
 #include <cmath>
 #include <cstdlib>
 
+using namespace vn::numeros;
+
 namespace {
 
 using vertice = poligono_vertice_t;
@@ -24,19 +26,20 @@ constexpr double BAJO_EL_POLIGONO = 1000.;
 constexpr int MAXIMO_VUELTAS = 100;
 
 // Differences of coordinates need more than 32 bits.
-Punto2D en_reales(const vertice &v) { return {static_cast<double>(v.x), static_cast<double>(v.y)}; }
+Punto2D desde(const vertice &a, const vertice &b) {
+    return {static_cast<double>(b.x) - a.x, static_cast<double>(b.y) - a.y};
+}
 
 // Where a point is from an edge.
 enum class lado_t { antes = 0, despues = 1, entre = 2, izquierda = 3, derecha = 4 };
 
-lado_t lado(const vertice &v1, const vertice &v2, const vertice &p) {
-    const Punto2D a = en_reales(v1), b = en_reales(v2), q = en_reales(p);
-    const double dx = b.x - a.x, dy = b.y - a.y;
-    const double c = dx * (q.y - a.y) - dy * (q.x - a.x);
+lado_t lado(const vertice &a, const vertice &b, const vertice &p) {
+    const Punto2D arista = desde(a, b), al_punto = desde(a, p);
+    const double c = vectorial(arista, al_punto);
     if (c > TOLERANCIA_LADO) return lado_t::izquierda;
     if (c < -TOLERANCIA_LADO) return lado_t::derecha;
-    if (dx * (q.x - a.x) + dy * (q.y - a.y) < 0.) return lado_t::antes;
-    return dx * (q.x - b.x) + dy * (q.y - b.y) >= 0. ? lado_t::despues : lado_t::entre;
+    if (escalar(arista, al_punto) < 0.) return lado_t::antes;
+    return escalar(arista, desde(b, p)) >= 0. ? lado_t::despues : lado_t::entre;
 }
 
 bool iguales(const vertice &a, const vertice &b) { return a.x == b.x && a.y == b.y; }
@@ -91,7 +94,7 @@ bool se_puede_quitar(const poligono_t *pol, int32_t i) {
     if (es_esquina_de_los_limites(pol, v)) return false;
     double angulo = mt_angulo(v.x, v.y, antes.x, antes.y) - mt_angulo(v.x, v.y, despues.x, despues.y);
     angulo = std::floor(angulo * DECIMALES_ANGULO + 0.5) / DECIMALES_ANGULO;
-    return mt_filtra_angulo_mayor_que_cero(angulo) >= vn::numeros::MEDIA_VUELTA - TOLERANCIA_LLANO;
+    return mt_filtra_angulo_mayor_que_cero(angulo) >= MEDIA_VUELTA - TOLERANCIA_LLANO;
 }
 
 // Takes the vertices for which `sobra` holds, from `vertizq` backwards and from `vertder` onwards.

@@ -5,6 +5,7 @@
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "geometry/polin3d_priv.h"
 #include <algorithm>
 #include <cmath>
@@ -81,10 +82,10 @@ bool vn::hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool ma
 
     const double barrido = std::copysign(numeros::PI - std::fabs(angulo_segmentos), angulo_segmentos);
     a.centro = p2 + (b.radio_eje / std::tan(std::fabs(angulo_segmentos) * 0.5)) * u + b.radio_eje * v;
-    if (!std::isfinite(a.centro.x + a.centro.y + a.centro.z)) return false;
+    if (!numeros::es_finito(a.centro)) return false;
     a.hay_centro = true;
 
-    const double pasos = std::ceil(std::fabs(barrido) / (num_grados_dibujo_doblado * RADIANES_POR_GRADO));
+    const double pasos = std::ceil(std::fabs(barrido) / (num_grados_dibujo_doblado * numeros::RADIANES_POR_GRADO));
     if (!AFIRMA_TEXTO(pasos + 1. > 1., "num_puntos > 1") ||
         !AFIRMA_TEXTO(pasos <= MAXIMO_PASOS, "num_puntos <= MAXIMO_PUNTOS"))
         return false;
@@ -142,7 +143,7 @@ vnbool Pln3D_se_genera_puntos_acuerdo_entre_tres_puntos(double x1, double y1, do
                                  mantiene_extremos == CIERTO, a);
     if (a.hay_centro) numeros::da(x_centro, y_centro, z_centro, a.centro);
     if (hay) *puntos_acuerdo = array_de(a.puntos);
-    return *puntos_acuerdo != nullptr ? CIERTO : FALSO;
+    return logico(*puntos_acuerdo != nullptr);
 }
 
 vnbool Pln3D_poligono_plano_es_convexo(const arrPunto3D *puntos) {
@@ -171,12 +172,12 @@ vnbool Pln3D_poligono_plano_es_convexo(const arrPunto3D *puntos) {
                      "vnstdc_fabs(vnstdc_fabs(prod_escalar_poligono_es_plano) - 1.) < .00001");
         if (prod_escalar_poligono_es_plano < 0.) return FALSO;
     }
-    return AFIRMA_TEXTO(ya_se_tiene_W_con_que_comparar, "ya_se_tiene_W_con_que_comparar == CIERTO") ? CIERTO : FALSO;
+    return logico(AFIRMA_TEXTO(ya_se_tiene_W_con_que_comparar, "ya_se_tiene_W_con_que_comparar == CIERTO"));
 }
 
 void Pln3D_GetVerticeMasProximo(const arrPunto3D *puntos, double x, double y, double z, double *x_vertice,
                                 double *y_vertice, double *z_vertice) {
-    if (!AFIRMA_NO_NULO(puntos) || !EXIGE3(x_vertice, y_vertice, z_vertice)) return;
+    if (!EXIGE(puntos, x_vertice, y_vertice, z_vertice)) return;
     const std::span<const Punto3D> p = listas::tramo(puntos);
     size_t mas_proximo = p.size();
     double minima = std::numeric_limits<double>::infinity();

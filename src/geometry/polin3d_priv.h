@@ -3,7 +3,6 @@
 
 #include "foundation/listas/arr.h"
 #include "foundation/numeros/vector_int.h"
-#include <memory>
 #include <vector>
 
 namespace vn {
@@ -24,16 +23,10 @@ inline constexpr double PRECISION_SECCION = 1e-06;
 inline constexpr double MARGEN_RECTO = 0.0001;
 // The step of a cosine that is rounded before its angle is asked for.
 inline constexpr double PASO_COSENO = 1e-14;
-inline constexpr double RADIANES_POR_GRADO = 0.017453292519943295;
 
 // What a fillet and a result may have: a tiny step could ask for points without bound.
 inline constexpr double MAXIMO_PASOS = 100000.;
 inline constexpr uint64_t MAXIMO_PUNTOS = uint64_t{1} << 22;
-
-struct destruye_puntos {
-    void operator()(arrPunto3D *a) const { arr_DestruyePunto3D(&a); }
-};
-using puntos_propios = std::unique_ptr<arrPunto3D, destruye_puntos>;
 
 // New array with the points; null if there is no memory for them.
 arrPunto3D *array_de(const std::vector<Punto3D> &puntos);

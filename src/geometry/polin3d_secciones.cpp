@@ -3,6 +3,7 @@
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "geometry/ejes2d.h"
 #include "geometry/polin3d.h"
 #include "geometry/polin3d_priv.h"
@@ -13,12 +14,8 @@ using namespace vn;
 
 namespace {
 
-struct destruye_contornos {
-    void operator()(arrPuntero *a) const { arr_DestruyeEstructurasArrayST(&a, arrPunto3D, arr_DestruyePunto3D); }
-};
-struct destruye_ejes {
-    void operator()(arrPuntero *a) const { arr_DestruyeEstructurasST(&a, ejes2d, ejes2d_destruye); }
-};
+void destruye_contornos(arrPuntero **a) { arr_DestruyeEstructurasArrayST(a, arrPunto3D, arr_DestruyePunto3D); }
+void destruye_ejes(arrPuntero **a) { arr_DestruyeEstructurasST(a, ejes2d, ejes2d_destruye); }
 
 bool caben(uint64_t num_puntos) { return AFIRMA(num_puntos <= MAXIMO_PUNTOS); }
 
@@ -124,7 +121,7 @@ bool secciones(const arrPunto3D *puntos, const opciones &o, const salidas_seccio
 }
 
 arrPuntero *ejes_de_secciones(const arrPunto3D *puntos, const opciones &o) {
-    std::unique_ptr<arrPuntero, destruye_ejes> ejes(arr_CreaPunteroST(0, ejes2d));
+    dueno<destruye_ejes> ejes(arr_CreaPunteroST(0, ejes2d));
     return secciones(puntos, o, {nullptr, nullptr, ejes.get()}) ? ejes.release() : nullptr;
 }
 
@@ -162,8 +159,8 @@ arrPuntero *polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
     if (!AFIRMA_NO_NULO(puntos) || !AFIRMA(num_puntos_circulo > 3)) return nullptr;
     // The arguments stand the other way round than in a polyline's own fillets, on purpose.
     const barra b{diametro, polin3d_radio_acuerdo_eje(radio, diametro), num_grados_dibujo_doblado};
-    std::unique_ptr<arrPuntero, destruye_contornos> contornos(arr_CreaPunteroST(0, arrPunto3D));
-    puntos_propios los_centros(arr_CreaPunto3D(0));
+    dueno<destruye_contornos> contornos(arr_CreaPunteroST(0, arrPunto3D));
+    dueno<arr_DestruyePunto3D> los_centros(arr_CreaPunto3D(0));
     if (!secciones(puntos, {b, true, false, num_puntos_circulo}, {contornos.get(), los_centros.get(), nullptr}))
         return nullptr;
     if (centros != nullptr) *centros = los_centros.release();

@@ -12,7 +12,8 @@
 #include <iterator>
 #include <utility>
 
-using vn::logico, vn::numeros::MEDIA_VUELTA, vn::numeros::VUELTA;
+using namespace vn;
+using namespace vn::numeros;
 
 namespace {
 
@@ -35,20 +36,7 @@ constexpr double GIRO_MINIMO = 1e-07;
 // Width below which a segment that meets the box's side is vertical.
 constexpr double LIMITE_VERTICAL = 1e-06;
 
-Punto2D resta(const Punto2D &p, const Punto2D &q) { return {p.x - q.x, p.y - q.y}; }
-Punto2D relativo(const Punto2D &p, const Punto2D &q, double t) {
-    return {p.x + t * (q.x - p.x), p.y + t * (q.y - p.y)};
-}
 Punto2D *nuevo(const Punto2D &p) { return creapunto(p.x, p.y); }
-double escalar(const Punto2D &p, const Punto2D &q) { return p.x * q.x + p.y * q.y; }
-double cuadrado(const Punto2D &p) { return escalar(p, p); }
-
-// Exact along an axis, where there is no root to take.
-double modulo_de(double x, double y) {
-    if (x == 0.) return std::fabs(y);
-    if (y == 0.) return std::fabs(x);
-    return RAIZ(x * x + y * y);
-}
 
 bool iguales(const Punto2D &p, const Punto2D &q) {
     return std::fabs(p.x - q.x) < p_EPS && std::fabs(p.y - q.y) < p_EPS;
@@ -64,9 +52,9 @@ bool iguales(const Punto2D &p, const Punto2D &q) {
 
 double posicion(const Punto2D &p, const Punto2D &s1, const Punto2D &s2, bool admite_degenerado, const char *modulo,
                 uint32_t linea) {
-    const Punto2D d = resta(s2, s1);
+    const Punto2D d = s2 - s1;
     const double den = cuadrado(d);
-    if (ES_CERO_PREC(den, p_EPS_2) == FALSO) return escalar(d, resta(p, s1)) / den;
+    if (ES_CERO_PREC(den, p_EPS_2) == FALSO) return escalar(d, p - s1) / den;
     if (!admite_degenerado) error_interno_punto_2D("!ES_CERO_PREC(den, p_EPS_2)", modulo, linea, &p);
     if (iguales(p, s1)) return 0.;
     return iguales(p, s2) ? 1. : P_POSICION_DESCONOCIDA;
@@ -74,14 +62,14 @@ double posicion(const Punto2D &p, const Punto2D &s1, const Punto2D &s2, bool adm
 #define POSICION(p, s1, s2) posicion(p, s1, s2, false, VN_AQUI)
 
 double distancia2_a_segmento(const Punto2D &p, const Punto2D &s1, const Punto2D &s2) {
-    if (s1.x == s2.x && s1.y == s2.y) return cuadrado(resta(p, s1));
+    if (s1.x == s2.x && s1.y == s2.y) return cuadrado(p - s1);
     double longitud = 0., coseno = 0., seno = 0.;
     f_mt_parametros_segmento(s1.x, s1.y, s2.x, s2.y, &longitud, &coseno, &seno);
-    const Punto2D d = resta(p, s1);
-    const double avance = coseno * d.x + seno * d.y;
+    const Punto2D d = p - s1;
+    const double avance = escalar({coseno, seno}, d);
     if (avance < 0.) return cuadrado(d);
-    if (avance > longitud) return cuadrado(resta(p, s2));
-    const double distancia = std::fabs(d.y * coseno - d.x * seno);
+    if (avance > longitud) return cuadrado(p - s2);
+    const double distancia = std::fabs(vectorial({coseno, seno}, d));
     return distancia * distancia;
 }
 
@@ -106,7 +94,7 @@ bool normal_corta(const Punto2D &p, const Punto2D &s1, const Punto2D &s2) {
 }
 
 bool no_es_numero(const Punto2D &p) { return std::isnan(p.x) || std::isnan(p.y); }
-bool es_finito(const Punto2D &p) { return std::isfinite(p.x) && std::isfinite(p.y); }
+bool es_lugar(const Punto2D &p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
 // Differences, so that infinite sides that are the same side do not touch: they are nowhere.
 bool cajas_se_solapan(const Punto2D &o1, const Punto2D &e1, const Punto2D &o2, const Punto2D &e2) {
@@ -120,9 +108,7 @@ struct pieza {
     bool recta;
 };
 
-double parametro_cruzado(const pieza &a, const pieza &b) {
-    return (a.p.x - a.q.x) * (b.q.y - b.p.y) - (a.p.y - a.q.y) * (b.q.x - b.p.x);
-}
+double parametro_cruzado(const pieza &a, const pieza &b) { return vectorial(a.p - a.q, b.q - b.p); }
 
 // Whether a crossing that is an end to p_EPS, by axis, lies on both pieces.
 [[gnu::noinline]] bool es_el_extremo(const Punto2D &r, const pieza &esta, const pieza &otra) {
@@ -149,14 +135,14 @@ double parametro_cruzado(const pieza &a, const pieza &b) {
 [[gnu::always_inline]] inline Punto2D *corte(const pieza &a, const pieza &b) {
     const double den = parametro_cruzado(a, b);
     if (!(std::fabs(den) > LIMITE_PARALELISMO)) return corte_de_paralelas(a, b);
-    const double t = ((b.q.x - a.q.x) * (b.q.y - b.p.y) - (b.q.y - a.q.y) * (b.q.x - b.p.x)) / den;
-    const Punto2D r = {t * a.p.x + (1. - t) * a.q.x, t * a.p.y + (1. - t) * a.q.y};
+    const double t = vectorial(b.q - a.q, b.q - b.p) / den;
+    const Punto2D r = t * a.p + (1. - t) * a.q;
     if (!a.recta && !dentro(t, r, a, b)) return nullptr;
     if (!b.recta) {
-        const double u = ((a.p.x - a.q.x) * (b.q.y - a.q.y) - (a.p.y - a.q.y) * (b.q.x - a.q.x)) / den;
+        const double u = vectorial(a.p - a.q, b.q - a.q) / den;
         if (!dentro(u, r, b, a)) return nullptr;
     }
-    return es_finito(r) ? nuevo(r) : nullptr; // lines that meet beyond all numbers do not
+    return es_lugar(r) ? nuevo(r) : nullptr; // lines that meet beyond all numbers do not
 }
 
 // A piece that is a point: the first of its ends that lies on the other piece.
@@ -189,7 +175,7 @@ bool mueve_de_posicion(Punto2D &p, uint32_t posicion, double ancho, double alto,
     if (!AFIRMA(posicion > 0 && posicion < 10 && otra_posicion > 0 && otra_posicion < 10)) return false;
     const Punto2D al_centro = hasta_el_centro(posicion, ancho, alto, coseno, seno);
     const Punto2D del_centro = hasta_el_centro(otra_posicion, ancho, alto, coseno, seno);
-    p = {p.x + al_centro.x - del_centro.x, p.y + al_centro.y - del_centro.y};
+    p = p + al_centro - del_centro;
     return true;
 }
 
@@ -218,16 +204,12 @@ void p_asignar(Punto2D *destino, const Punto2D *origen) {
     if (AFIRMA(destino && origen)) *destino = *origen;
 }
 
-Punto2D *p_sump(const Punto2D *p, const Punto2D *q) {
-    return AFIRMA(p && q) ? creapunto(p->x + q->x, p->y + q->y) : nullptr;
-}
-Punto2D *p_restp(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? nuevo(resta(*p, *q)) : nullptr; }
+Punto2D *p_sump(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? nuevo(*p + *q) : nullptr; }
+Punto2D *p_restp(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? nuevo(*p - *q) : nullptr; }
 double p_prodpuntos(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? escalar(*p, *q) : 0.; }
-double p_modulo(const Punto2D *p) { return AFIRMA_TEXTO(p != nullptr, "p != NULL") ? modulo_de(p->x, p->y) : 0.; }
-double p_modulo2(const Punto2D *p, const Punto2D *q) {
-    return AFIRMA(p && q) ? modulo_de(p->x - q->x, p->y - q->y) : 0.;
-}
-double p_dist2(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? cuadrado(resta(*p, *q)) : 0.; }
+double p_modulo(const Punto2D *p) { return AFIRMA_TEXTO(p != nullptr, "p != NULL") ? modulo(*p) : 0.; }
+double p_modulo2(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? modulo(*p - *q) : 0.; }
+double p_dist2(const Punto2D *p, const Punto2D *q) { return AFIRMA(p && q) ? cuadrado(*p - *q) : 0.; }
 
 Punto2D *p_punto_relativo_a_dos(const Punto2D *p, const Punto2D *q, double t) {
     return AFIRMA(p && q) ? nuevo(relativo(*p, *q, t)) : nullptr;
@@ -249,7 +231,7 @@ Punto2D *p_punto_en_recta(const Punto2D *p, double x0, double y0, double seno, d
 
 void p_punto_simetrico_respecto_a_una_recta(double x, double y, double x0, double y0, double coseno, double seno,
                                             double *xs, double *ys) {
-    if (!AFIRMA_NO_NULO(xs) || !AFIRMA_NO_NULO(ys)) return;
+    if (!EXIGE(xs, ys)) return;
     const double avance = (x - x0) * coseno + (y - y0) * seno;
     *xs = 2. * (x0 + avance * coseno) - x;
     *ys = 2. * (y0 + avance * seno) - y;
@@ -269,11 +251,11 @@ void p_gira2(const Punto2D *p, Punto2D *q, double seno, double coseno) {
     if (!AFIRMA(p && q)) return;
     const Punto2D centro = *p; // which may be q itself
     mt_gira_xy_sentido_horario(q->x - centro.x, q->y - centro.y, coseno, seno, &q->x, &q->y);
-    *q = {q->x + centro.x, q->y + centro.y};
+    *q = *q + centro;
 }
 
 void p_gira_alrededor_punto_sentido_horario(double cx, double cy, double angulo, double *x, double *y) {
-    if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
+    if (!EXIGE(x, y)) return;
     if (std::fabs(angulo) < GIRO_MINIMO || !std::isfinite(angulo)) return;
     double xg = 0., yg = 0.;
     mt_gira_xy_sentido_horario(*x - cx, *y - cy, vnstdc_cos(angulo), vnstdc_sin(angulo), &xg, &yg);
@@ -296,7 +278,7 @@ void p_transforma_coords_con_origen_escala_giro_y_desplazamiento(Punto2D *p, dou
 
 void p_coordenadas_en_otra_posicion(double x, double y, uint32_t posicion, double ancho, double alto, double coseno,
                                     double seno, uint32_t otra_posicion, double *otra_pos_x, double *otra_pos_y) {
-    if (!AFIRMA_NO_NULO(otra_pos_x) || !AFIRMA_NO_NULO(otra_pos_y)) return;
+    if (!EXIGE(otra_pos_x, otra_pos_y)) return;
     Punto2D p = {x, y};
     if (!mueve_de_posicion(p, posicion, ancho, alto, coseno, seno, otra_posicion)) return;
     *otra_pos_x = p.x;
@@ -355,7 +337,7 @@ Punto2D *p_corte_normal(const Punto2D *p, const Punto2D *s1, const Punto2D *s2) 
 Punto2D *p_corte_normal_recta(const Punto2D *p, const Punto2D *s1, const Punto2D *s2) {
     if (!AFIRMA(p && s1 && s2) || iguales(*s1, *s2)) return nullptr;
     const Punto2D pie = relativo(*s1, *s2, POSICION(*p, *s1, *s2));
-    return es_finito(pie) ? nuevo(pie) : nullptr;
+    return es_lugar(pie) ? nuevo(pie) : nullptr;
 }
 
 vnbool p_esta_antes_en_recta(const Punto2D *a, const Punto2D *b, const Punto2D *s1, const Punto2D *s2) {
@@ -366,15 +348,15 @@ vnbool p_lado_recta(const Punto2D *p, const Punto2D *o, const Punto2D *e) {
     if (!AFIRMA(p && o && e)) return FALSO;
     if (iguales(*o, *e)) informa_de_dos(VNU("puntos_distintos"), *o, *e, VN_AQUI);
     // A very short base would make every value small.
-    Punto2D d = resta(*e, *o);
-    while (std::fabs(d.x) < 1. && std::fabs(d.y) < 1. && (d.x != 0. || d.y != 0.)) d = {d.x * 10., d.y * 10.};
-    const Punto2D r = resta(*p, *o);
-    return logico(d.y * r.x - d.x * r.y > -p_EPS);
+    Punto2D d = *e - *o;
+    while (std::fabs(d.x) < 1. && std::fabs(d.y) < 1. && (d.x != 0. || d.y != 0.)) d = 10. * d;
+    const Punto2D r = *p - *o;
+    return logico(vectorial(r, d) > -p_EPS);
 }
 
 uint32_t p_lado_punto_respecto_a_recta(const Punto2D *p, const Punto2D *o, double coseno, double seno) {
     if (!AFIRMA(p && o)) return 0;
-    const double v = (p->y - o->y) * coseno - (p->x - o->x) * seno;
+    const double v = vectorial({coseno, seno}, *p - *o);
     if (ES_MAYOR_CERO(v) == CIERTO) return 1;
     return ES_MENOR_CERO(v) == CIERTO ? 2 : 0;
 }

@@ -117,9 +117,7 @@ void rec_Get(const rectangulo_t *rec, double *xmin, double *ymin, double *xmax, 
 }
 
 void rec_get_limites(const rectangulo_t *rec, double *xmin, double *ymin, double *xmax, double *ymax) {
-    if (AFIRMA_NO_NULO(rec) && AFIRMA_NO_NULO(xmin) && AFIRMA_NO_NULO(ymin) && AFIRMA_NO_NULO(xmax) &&
-        AFIRMA_NO_NULO(ymax))
-        rec_Get(rec, xmin, ymin, xmax, ymax);
+    if (EXIGE(rec, xmin, ymin, xmax, ymax)) rec_Get(rec, xmin, ymin, xmax, ymax);
 }
 
 double rec_Ancho(const rectangulo_t *rec) {
@@ -163,7 +161,7 @@ void rec_MaximizaY(rectangulo_t *rec, double y) {
 }
 
 void rec_MaximizaRect(rectangulo_t *rec1, const rectangulo_t *rec2) {
-    if (!AFIRMA_NO_NULO(rec1) || !AFIRMA_NO_NULO(rec2)) return;
+    if (!EXIGE(rec1, rec2)) return;
     if (!AFIRMA(rec2->calculados)) return;
     maximiza_punto(*rec1, rec2->xmin, rec2->ymin);
     maximiza_punto(*rec1, rec2->xmax, rec2->ymax);
@@ -179,7 +177,7 @@ void rec_IncrementaAnchos(rectangulo_t *rec, double incremento_a_cada_lado) {
 }
 
 void rec_RecortaRect(rectangulo_t *rec1, const rectangulo_t *rec2) {
-    if (!AFIRMA_NO_NULO(rec1) || !AFIRMA_NO_NULO(rec2)) return;
+    if (!EXIGE(rec1, rec2)) return;
     AFIRMA(rec1->calculados);
     AFIRMA(rec2->calculados);
     if (!se_solapan(*rec1, *rec2)) {
@@ -216,11 +214,11 @@ vnbool rectng_punto_esta_en_borde_con_precision(const rectangulo_t *rec, double 
 }
 
 vnbool rec_ClipRectangulo(const rectangulo_t *rec1, const rectangulo_t *rec2) {
-    return logico(AFIRMA_NO_NULO(rec1) && AFIRMA_NO_NULO(rec2) && se_solapan(*rec1, *rec2));
+    return logico(EXIGE(rec1, rec2) && se_solapan(*rec1, *rec2));
 }
 
 uint32_t rec_RelacionaRectangulos(const rectangulo_t *rec1, const rectangulo_t *rec2) {
-    if (!AFIRMA_NO_NULO(rec1) || !AFIRMA_NO_NULO(rec2) || !se_solapan(*rec1, *rec2)) return 0;
+    if (!EXIGE(rec1, rec2) || !se_solapan(*rec1, *rec2)) return 0;
     const bool dentro = mayor_igual(rec2->xmin, rec1->xmin) && menor_igual(rec2->xmax, rec1->xmax) &&
                         mayor_igual(rec2->ymin, rec1->ymin) && menor_igual(rec2->ymax, rec1->ymax);
     return dentro ? 2 : 1;
@@ -300,7 +298,7 @@ uint32_t rectng_calculaPosicionMasCercana(double x, double y, double tolerancia)
 
 void rectng_calcula_coordenadas_posicion(uint32_t posicion, double izquierda, double derecha, double abajo,
                                          double arriba, double *coord_x, double *coord_y) {
-    if (!AFIRMA_NO_NULO(coord_x) || !AFIRMA_NO_NULO(coord_y)) return;
+    if (!EXIGE(coord_x, coord_y)) return;
     if (posicion >= std::size(LUGARES)) AFIRMA_DEFECTO(), posicion = 0;
     const auto [columna, fila] = LUGARES[posicion];
     *coord_x = columna == 0 ? 0. : columna < 0 ? -izquierda : derecha;
@@ -310,9 +308,7 @@ void rectng_calcula_coordenadas_posicion(uint32_t posicion, double izquierda, do
 void rectng_AnchosDesdePuntoFijo(double ancho_y, double ancho_z, double coord_y_cdg, double coord_z_cdg,
                                  uint32_t posicion, double *ancho_y_inicial, double *ancho_z_inicial,
                                  double *ancho_y_final, double *ancho_z_final) {
-    if (!AFIRMA_NO_NULO(ancho_y_inicial) || !AFIRMA_NO_NULO(ancho_z_inicial) || !AFIRMA_NO_NULO(ancho_y_final) ||
-        !AFIRMA_NO_NULO(ancho_z_final))
-        return;
+    if (!EXIGE(ancho_y_inicial, ancho_z_inicial, ancho_y_final, ancho_z_final)) return;
     *ancho_y_inicial = *ancho_z_inicial = *ancho_y_final = *ancho_z_final = 0.;
     AFIRMA_TEXTO(std::fabs(coord_y_cdg) < MARGEN_CDG * ancho_y, "vnstdc_fabs(coord_y_cdg) < 0.50001 * ancho_y");
     AFIRMA_TEXTO(std::fabs(coord_z_cdg) < MARGEN_CDG * ancho_z, "vnstdc_fabs(coord_z_cdg) < 0.50001 * ancho_z");

@@ -4,6 +4,7 @@
 #include "foundation/numeros/vector_int.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "geometry/rectng.h"
 #include <cmath>
 
@@ -116,5 +117,5 @@ vnbool rec_ClipSegmentoAntiguo(const rectangulo_t *rec, double x1, double y1, do
     dentro |= prueba_lado_horizontal(r, r.ymin, vuelta, o2);
     dentro |= prueba_lado_horizontal(r, r.ymax, ida, o2);
     dentro |= prueba_lado_horizontal(r, r.ymax, vuelta, o1);
-    return dentro ? CIERTO : FALSO;
+    return vn::logico(dentro);
 }

@@ -1,9 +1,9 @@
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
 // Arrays of rectangles: moving them, what holds them all, and strips lengthened and condensed.
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "geometry/rectng.h"
 #include <cmath>
-#include <memory>
 #include <span>
 
 namespace {
@@ -15,14 +15,8 @@ std::span<rectangulo_t *const> elementos(const arrPuntero *a) {
     return {reinterpret_cast<rectangulo_t *const *>(arr_GetBufferConstPuntero(a)), arr_NumElemsPuntero(a)};
 }
 
-struct destruye_rectangulos {
-    void operator()(arrPuntero *a) const { arr_DestruyeEstructurasST(&a, rectangulo_t, rec_Destruye); }
-};
-using dueno_rectangulos = std::unique_ptr<arrPuntero, destruye_rectangulos>;
-struct destruye_rectangulo {
-    void operator()(rectangulo_t *r) const { rec_Destruye(&r); }
-};
-using dueno_rectangulo = std::unique_ptr<rectangulo_t, destruye_rectangulo>;
+void destruye_rectangulos(arrPuntero **a) { arr_DestruyeEstructurasST(a, rectangulo_t, rec_Destruye); }
+using rectangulo_propio = vn::dueno<rec_Destruye>;
 
 // The limits of a rectangle along an axis.
 struct eje {
@@ -114,13 +108,13 @@ bool crece_si_es_contiguo(rectangulo_t &candidato, const rectangulo_t &otro, con
 }
 
 // The rectangle that stands for element `cual` and those that touch it, or null when one in the result holds it.
-dueno_rectangulo condensa(std::span<rectangulo_t *const> tiras, size_t cual, const arrPuntero *condensados,
-                          double tolerancia) {
+rectangulo_propio condensa(std::span<rectangulo_t *const> tiras, size_t cual, const arrPuntero *condensados,
+                           double tolerancia) {
     const rectangulo_t *const principal = tiras[cual];
     if (!AFIRMA_NO_NULO(principal)) return nullptr;
     AFIRMA(principal->calculados);
     const direccion d = direccion_de(*principal);
-    dueno_rectangulo candidato(rec_Copia(principal));
+    rectangulo_propio candidato(rec_Copia(principal));
     for (const rectangulo_t *r : elementos(condensados)) {
         if (lo_contiene(*r, *candidato)) return nullptr;
         crece_si_es_contiguo(*candidato, *r, d, tolerancia);
@@ -140,7 +134,7 @@ void rec_TraladaRectangulos(arrPuntero *rectangulos, double dx, double dy) {
 rectangulo_t *rec_Envolvente(const arrPuntero *rectangulos) {
     if (!AFIRMA_NO_NULO(rectangulos) || !AFIRMA(arr_NumElemsPunteroST(rectangulos, rectangulo_t) > 0)) return nullptr;
     const auto todos = elementos(rectangulos);
-    dueno_rectangulo envolvente(rec_Copia(todos[0]));
+    rectangulo_propio envolvente(rec_Copia(todos[0]));
     if (envolvente == nullptr) return nullptr;
     for (const rectangulo_t *rec : todos) rec_MaximizaRect(envolvente.get(), rec);
     return envolvente.release();
@@ -159,15 +153,15 @@ arrPuntero *rec_Rectangulos_contiguos_condensados(const arrPuntero *rectangulos,
     const auto tiras = elementos(rectangulos);
     const size_t num_rectangulos = tiras.size();
     if (!AFIRMA(num_rectangulos > 0)) return nullptr;
-    dueno_rectangulos dueno(arr_CreaPunteroST(0, rectangulo_t));
-    arrPuntero *const condensados = dueno.get();
+    vn::dueno<destruye_rectangulos> propios(arr_CreaPunteroST(0, rectangulo_t));
+    arrPuntero *const condensados = propios.get();
     for (size_t i = 0; i < num_rectangulos; ++i) {
-        dueno_rectangulo uno = condensa(tiras, i, condensados, tolerancia);
+        rectangulo_propio uno = condensa(tiras, i, condensados, tolerancia);
         if (uno == nullptr) continue;
         arr_AppendPunteroST(condensados, uno.get(), rectangulo_t);
         uno.release();
     }
     AFIRMA(arr_NumElemsPunteroST(condensados, rectangulo_t) <= num_rectangulos);
     AFIRMA(arr_NumElemsPunteroST(condensados, rectangulo_t) > 0);
-    return dueno.release();
+    return propios.release();
 }

@@ -26,9 +26,7 @@ double pendiente(double angulo, double angulo_cuerda) {
 
 void vnspline_trazado_tramo_curvo(double x0, double y0, double angulo0, double x1, double y1, double angulo1, double *A,
                                   double *B, double *C, double *D, double *Ux, double *Uy) {
-    if (!AFIRMA_NO_NULO(A) || !AFIRMA_NO_NULO(B) || !AFIRMA_NO_NULO(C) || !AFIRMA_NO_NULO(D) || !AFIRMA_NO_NULO(Ux) ||
-        !AFIRMA_NO_NULO(Uy))
-        return;
+    if (!EXIGE(A, B, C, D, Ux, Uy)) return;
     *A = *B = *C = *D = *Ux = *Uy = 0.;
     double coseno = x1 - x0, seno = y1 - y0;
     const double L = mt_distancia(x0, y0, x1, y1);

@@ -1,5 +1,6 @@
 #define VN_MODULO "magnitud (NUCLEOS.DLL)"
 #include "units/magnitud.h"
+#include "foundation/numeros/vector_int.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
@@ -18,9 +19,10 @@ constexpr double KSI = 703.0695802287469; // Tn/m² per ksi
 constexpr double LBFT2 = 0.0479;          // kN/m² per lb/ft²
 constexpr double KCAL = 4.1868;           // kJ per kcal
 constexpr double BTU = 3.41214163313;     // Btu/h per W
-constexpr double PI = 3.141592653589793;
 constexpr double CELSIUS_A_KELVIN = 273.15;
 constexpr double S_HORA = 3600, MIN_HORA = 60, H_DIA = 24, DIAS_MES = 30, DIAS_ANYO = 365;
+
+using vn::numeros::PI;
 
 double cuadrado(double x) { return vnstdc_pow(x, 2); }
 

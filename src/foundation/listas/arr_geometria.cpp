@@ -3,6 +3,7 @@
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/vector_int.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -61,9 +62,7 @@ void arr_AnyadirArcoElipsePunto2D(arrPunto2D *a, double xc, double yc, double se
 }
 
 void arr_GetMinimaxPunto2D(const arrPunto2D *a, double *xmin, double *ymin, double *xmax, double *ymax) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(xmin) || !AFIRMA_NO_NULO(ymin) || !AFIRMA_NO_NULO(xmax) ||
-        !AFIRMA_NO_NULO(ymax))
-        return;
+    if (!EXIGE(a, xmin, ymin, xmax, ymax)) return;
     *xmin = *ymin = *xmax = *ymax = 0.;
     if (!AFIRMA_TEXTO(arr_NumElemsPunto2D(a) > 0, "num_puntos > 0")) return;
     constexpr double INF = std::numeric_limits<double>::infinity();
@@ -81,9 +80,7 @@ void arr_GetMinimaxPunto2D(const arrPunto2D *a, double *xmin, double *ymin, doub
 void arr_GetSegmentoPunto2D(const arrPunto2D *a, uint32_t i, double *x1, double *y1, double *x2, double *y2) {
     if (!AFIRMA_NO_NULO(a)) return;
     const auto puntos = vn::listas::tramo(a);
-    if (!AFIRMA_TEXTO(i < puntos.size(), "i < num_elementos") || !AFIRMA_NO_NULO(x1) || !AFIRMA_NO_NULO(y1) ||
-        !AFIRMA_NO_NULO(x2) || !AFIRMA_NO_NULO(y2))
-        return;
+    if (!AFIRMA_TEXTO(i < puntos.size(), "i < num_elementos") || !EXIGE(x1, y1, x2, y2)) return;
     const Punto2D &p = puntos[i], &q = puntos[i + 1 < puntos.size() ? i + 1 : 0];
     *x1 = p.x;
     *y1 = p.y;
@@ -92,11 +89,11 @@ void arr_GetSegmentoPunto2D(const arrPunto2D *a, uint32_t i, double *x1, double 
 }
 
 vnbool arr_ArraysDePunto2DIguales(const arrPunto2D *a, const arrPunto2D *b, double tolerancia) {
-    if (!AFIRMA_NO_NULO(a) || !AFIRMA_NO_NULO(b)) return FALSO;
+    if (!EXIGE(a, b)) return FALSO;
     const auto p = vn::listas::tramo(a), q = vn::listas::tramo(b);
     const bool iguales =
         std::equal(p.begin(), p.end(), q.begin(), q.end(), [tolerancia](const Punto2D &u, const Punto2D &v) {
             return std::fabs(u.x - v.x) <= tolerancia && std::fabs(u.y - v.y) <= tolerancia;
         });
-    return iguales ? CIERTO : FALSO;
+    return vn::logico(iguales);
 }

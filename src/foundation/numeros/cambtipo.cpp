@@ -1,6 +1,7 @@
 #define VN_MODULO "cambtipo (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/numeros/cambtipo.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include <limits>
 #include <utility>
 
@@ -25,7 +26,7 @@ uint32_t cambtipo_double_a_ulong(double valor) {
     return valor < 0. ? 0 : static_cast<uint32_t>(valor);
 }
 
-vnbool cambtipo_se_puede_double_a_ulong(double valor) { return es_ulong(valor) ? CIERTO : FALSO; }
+vnbool cambtipo_se_puede_double_a_ulong(double valor) { return vn::logico(es_ulong(valor)); }
 
 // A row: source, target, type of the source, type of the target. The name is cambtipo_<source>_a_<target>.
 #define CONVERSIONES                                                                                                   \

@@ -17,16 +17,12 @@ constexpr double VUELTAS_PASO_A_PASO = 65536.;
 // Each axis of the cavalier projection: half the depth, at 45 degrees.
 constexpr double CABALLERA = 0.5 * 0.70710678118654752440;
 
-double direccion(double seno, double coseno) {
-    double a = std::atan2(seno, coseno);
-    if (a < 0.) a += VUELTA;
-    return a >= 0. && a < VUELTA ? a : 0.; // a hair below 0 comes up to the full turn itself
-}
-
+// What the operations on coordinates do, step by step: the difference from an origin comes before any product, so that
+// a turn about a far point keeps the digits that a matrix would lose.
 struct transformacion {
     double xo, yo, escala_x, escala_y, coseno, seno, dx, dy;
     void aplica(double *x, double *y) const {
-        if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
+        if (!EXIGE(x, y)) return;
         const double xe = (*x - xo) * escala_x, ye = (*y - yo) * escala_y;
         *x = dx + (xe * coseno - ye * seno);
         *y = dy + (xe * seno + ye * coseno);
@@ -35,55 +31,53 @@ struct transformacion {
 
 } // namespace
 
-double mt_distancia(double x1, double y1, double x2, double y2) { return modulo({x2 - x1, y2 - y1, 0.}); }
+double mt_distancia(double x1, double y1, double x2, double y2) { return modulo(Punto2D{x2 - x1, y2 - y1}); }
 
 double mt_distancia_a_recta(double x, double y, double x1, double y1, double x2, double y2) {
-    Punto3D u{x2 - x1, y2 - y1, 0.};
+    Punto2D u{x2 - x1, y2 - y1};
     if (!unitario(u)) return mt_distancia(x, y, x1, y1);
-    return std::fabs((y - y1) * u.x - (x - x1) * u.y);
+    return std::fabs(vectorial(u, {x - x1, y - y1}));
 }
 
 void f_mt_parametros_segmento(double x1, double y1, double x2, double y2, double *longitud, double *coseno,
                               double *seno) {
-    Punto3D u{x2 - x1, y2 - y1, 0.};
+    Punto2D u{x2 - x1, y2 - y1};
     const double l = modulo(u);
-    if (!unitario(u)) u = {1., 0., 0.};
+    if (!unitario(u)) u = {1., 0.};
     da(longitud, coseno, seno, {l, u.x, u.y});
 }
 
 double mt_posicion_relativa_a_segmento(double x, double y, double x1, double y1, double x2, double y2) {
-    const Punto3D d{x2 - x1, y2 - y1, 0.}, p{x - x1, y - y1, 0.};
-    const double den = escalar(d, d);
+    const Punto2D d{x2 - x1, y2 - y1}, p{x - x1, y - y1};
+    const double den = cuadrado(d);
+    // A zero is added, so that a foot at the first end is 0 and never -0.
     if (den > CUADRADO_MINIMO && den < CUADRADO_MAXIMO) [[likely]]
-        return escalar(d, p) / den;
+        return (escalar(d, p) + 0.) / den;
     const double k = escala_exacta(d);
-    const Punto3D e = k * d;
-    return k == 0. ? 0. : escalar(e, k * p) / escalar(e, e);
+    return k == 0. ? 0. : (escalar(k * d, k * p) + 0.) / cuadrado(k * d);
 }
 
 vnbool mt_pasar_a_unitario_2D(double *x, double *y) {
-    if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return FALSO;
-    Punto3D v{*x, *y, 0.};
+    if (!EXIGE(x, y)) return FALSO;
+    Punto2D v{*x, *y};
     if (!unitario(v)) return FALSO;
-    *x = v.x;
-    *y = v.y;
+    da(x, y, v);
     return CIERTO;
 }
 
-double mt_producto_vectorial_plano(double x1, double y1, double x2, double y2) { return x1 * y2 - y1 * x2; }
+double mt_producto_vectorial_plano(double x1, double y1, double x2, double y2) {
+    return vectorial(Punto2D{x1, y1}, Punto2D{x2, y2});
+}
 
 void mt_bisectriz(double x1, double y1, double x2, double y2, double *x, double *y) {
-    if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
-    // The right normal of the chord points to the middle of every counter-clockwise arc; a short chord has
-    // too few digits, and there the sum of the two serves, turned about when the arc is the long one.
-    Punto3D b{y2 - y1, x1 - x2, 0.};
-    if (x1 * x2 + y1 * y2 > 0.) {
-        const double signo = mt_producto_vectorial_plano(x1, y1, x2, y2) < 0. ? -1. : 1.;
-        b = {signo * (x1 + x2), signo * (y1 + y2), 0.};
-    }
-    if (!unitario(b)) b = {x1, y1, 0.};
-    *x = b.x;
-    *y = b.y;
+    if (!EXIGE(x, y)) return;
+    // The right normal of the chord points to the middle of every counter-clockwise arc; a short chord has too few
+    // digits, and there the sum of the two serves, turned about when the arc is the long one.
+    const Punto2D u{x1, y1}, v{x2, y2};
+    Punto2D b{y2 - y1, x1 - x2};
+    if (escalar(u, v) > 0.) b = (vectorial(u, v) < 0. ? -1. : 1.) * (u + v);
+    if (!unitario(b)) b = u;
+    da(x, y, b);
 }
 
 vnbool mt_puntos2D_iguales(double x1, double y1, double x2, double y2) {
@@ -94,9 +88,9 @@ vnbool mt_puntos2D_iguales_con_tolerancia(double x1, double y1, double x2, doubl
     return logico(SON_IGUALES_PREC(x1, x2, tolerancia) == CIERTO && SON_IGUALES_PREC(y1, y2, tolerancia) == CIERTO);
 }
 
-double mt_angulo(double x1, double y1, double x2, double y2) { return direccion(y2 - y1, x2 - x1); }
+double mt_angulo(double x1, double y1, double x2, double y2) { return angulo({x2 - x1, y2 - y1}); }
 
-double mt_angulo_a_partir_de_seno_y_coseno(double seno, double coseno) { return direccion(seno, coseno); }
+double mt_angulo_a_partir_de_seno_y_coseno(double seno, double coseno) { return angulo({coseno, seno}); }
 
 double mt_filtra_angulo_mayor_que_cero(double angulo) {
     if (!std::isfinite(angulo)) return 0.;
@@ -120,7 +114,7 @@ vnbool mt_angulo_dentro_de_rango(double angulo, double inicio, double fin) {
 }
 
 void mt_gira_xy_sentido_horario(double x, double y, double coseno, double seno, double *xg, double *yg) {
-    if (!AFIRMA_NO_NULO(xg) || !AFIRMA_NO_NULO(yg)) return;
+    if (!EXIGE(xg, yg)) return;
     *xg = x * coseno + y * seno;
     *yg = y * coseno - x * seno;
 }
@@ -147,13 +141,13 @@ void mt_transforma_coords_con_origen_y_diferentes_escalas(double x_origen, doubl
 }
 
 void mt_real_a_proyectado(double x, double y, double z, double *x_proyectado, double *y_proyectado) {
-    if (!AFIRMA_NO_NULO(x_proyectado) || !AFIRMA_NO_NULO(y_proyectado)) return;
+    if (!EXIGE(x_proyectado, y_proyectado)) return;
     *x_proyectado = x + y * CABALLERA;
     *y_proyectado = z + y * CABALLERA;
 }
 
 void mt_proyectado_a_real(double x_proyectado, double y_proyectado, double *x, double *y) {
-    if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y)) return;
+    if (!EXIGE(x, y)) return;
     *x = x_proyectado - y_proyectado; // what y adds to both of them at z = 0
     *y = y_proyectado / CABALLERA;
 }

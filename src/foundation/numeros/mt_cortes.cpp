@@ -42,7 +42,7 @@ par producto(double a, double b) {
     return {p, x.bajo * y.bajo - (((p - x.alto * y.alto) - x.bajo * y.alto) - x.alto * y.bajo)};
 }
 
-double lado_exacto(Punto3D a, Punto3D b, Punto3D p) {
+double lado_exacto(Punto2D a, Punto2D b, Punto2D p) {
     // (a - p) x (b - p) without differences.
     const std::array<par, 6> productos{producto(a.x, b.y),  producto(a.x, -p.y), producto(-p.x, b.y),
                                        producto(-a.y, b.x), producto(a.y, p.x),  producto(p.y, b.x)};
@@ -69,7 +69,7 @@ double lado_exacto(Punto3D a, Punto3D b, Punto3D p) {
 
 // Positive when `p` is to the left of a -> b, negative to the right, 0 exactly on it; twice the area of the
 // triangle. Its sign is exact; its value too, to its last digits, where `cifras` asks for it.
-double lado(Punto3D a, Punto3D b, Punto3D p, bool cifras = false) {
+double lado(Punto2D a, Punto2D b, Punto2D p, bool cifras = false) {
     constexpr double EPSILON = 0x1p-53, COTA = (3. + 16. * EPSILON) * EPSILON, SIN_PERDIDA = 0.0625;
     const double izq = (a.x - p.x) * (b.y - p.y), der = (a.y - p.y) * (b.x - p.x), det = izq - der;
     const double suma_de_ambos = std::fabs(izq) + std::fabs(der);
@@ -77,18 +77,18 @@ double lado(Punto3D a, Punto3D b, Punto3D p, bool cifras = false) {
 }
 
 // Of a point on the line of a and b.
-bool estrictamente_entre(Punto3D a, Punto3D b, Punto3D p) {
+bool estrictamente_entre(Punto2D a, Punto2D b, Punto2D p) {
     return a.x != b.x ? std::min(a.x, b.x) < p.x && p.x < std::max(a.x, b.x)
                       : std::min(a.y, b.y) < p.y && p.y < std::max(a.y, b.y);
 }
 
 struct extremos {
-    Punto3D a, b;
+    Punto2D a, b;
 };
 
-extremos de(const mt_segmento_t &s, double k = 1.) { return {{k * s.x1, k * s.y1, 0.}, {k * s.x2, k * s.y2, 0.}}; }
+extremos de(const mt_segmento_t &s, double k = 1.) { return {k * Punto2D{s.x1, s.y1}, k * Punto2D{s.x2, s.y2}}; }
 
-void corta(mt_segmento_t &s, Punto3D p) {
+void corta(mt_segmento_t &s, Punto2D p) {
     (s.numcortes == 0 ? s.x3 : s.x4) = p.x;
     (s.numcortes == 0 ? s.y3 : s.y4) = p.y;
     ++s.numcortes;
@@ -105,7 +105,7 @@ void corta_solape(mt_segmento_t &s, extremos otro) {
 }
 
 // Into the box of the segment, out of which rounding may have put it by a hair.
-Punto3D dentro(Punto3D p, const extremos &e) {
+Punto2D dentro(Punto2D p, const extremos &e) {
     return {std::clamp(p.x, std::min(e.a.x, e.b.x), std::max(e.a.x, e.b.x)),
             std::clamp(p.y, std::min(e.a.y, e.b.y), std::max(e.a.y, e.b.y))};
 }
@@ -137,36 +137,36 @@ double raiz_del_discriminante(double a, double b, double c) {
 } // namespace
 
 vnbool mt_punto_pertenece_a_segmento(double x, double y, double x1, double y1, double x2, double y2) {
-    Punto3D u{x2 - x1, y2 - y1, 0.};
-    const Punto3D p{x - x1, y - y1, 0.};
+    Punto2D u{x2 - x1, y2 - y1};
+    const Punto2D p{x - x1, y - y1};
     const double l = modulo(u);
     if (!unitario(u)) return logico(modulo(p) <= TOLERANCIA_PERTENECE);
     const double a = escalar(p, u);
     if (a <= 0.) return logico(modulo(p) <= TOLERANCIA_PERTENECE);
-    if (a >= l) return logico(modulo({x - x2, y - y2, 0.}) <= TOLERANCIA_PERTENECE);
-    return logico(std::fabs(p.y * u.x - p.x * u.y) <= TOLERANCIA_PERTENECE);
+    if (a >= l) return logico(modulo(Punto2D{x - x2, y - y2}) <= TOLERANCIA_PERTENECE);
+    return logico(std::fabs(vectorial(u, p)) <= TOLERANCIA_PERTENECE);
 }
 
 vnbool mt_existe_interseccion_entre_segmentos(double x1, double y1, double x2, double y2, double x3, double y3,
                                               double x4, double y4, double *x, double *y) {
-    Punto3D u{x2 - x1, y2 - y1, 0.}, v{x4 - x3, y4 - y3, 0.};
+    Punto2D u{x2 - x1, y2 - y1}, v{x4 - x3, y4 - y3};
     const double lu = modulo(u), lv = modulo(v);
     if (!unitario(u) || !unitario(v)) return FALSO;
-    const double seno = u.x * v.y - u.y * v.x;
+    const double seno = vectorial(u, v);
     const double mayor = std::max({std::fabs(x1), std::fabs(y1), std::fabs(x2), std::fabs(y2), std::fabs(x3),
                                    std::fabs(y3), std::fabs(x4), std::fabs(y4)});
     if (!(std::fabs(seno) > seno_de_redondeo(mayor, std::min(lu, lv)))) return FALSO;
     // Lengths from the first end of each to the crossing.
-    const Punto3D q{x3 - x1, y3 - y1, 0.};
-    const double a = (q.x * v.y - q.y * v.x) / seno, b = (q.x * u.y - q.y * u.x) / seno;
+    const Punto2D q{x3 - x1, y3 - y1};
+    const double a = vectorial(q, v) / seno, b = vectorial(q, u) / seno;
     const auto llega = [](double d, double l) { return d >= -TOLERANCIA_CRUCE && d - l <= TOLERANCIA_CRUCE; };
     if (!llega(a, lu) || !llega(b, lv)) return FALSO;
-    da(x, y, nullptr, {x1 + a * u.x, y1 + a * u.y, 0.});
+    da(x, y, Punto2D{x1, y1} + a * u);
     return CIERTO;
 }
 
 void mt_calcula_inter_segmentos(mt_segmento_t *seg1, mt_segmento_t *seg2) {
-    if (!AFIRMA_NO_NULO(seg1) || !AFIRMA_NO_NULO(seg2)) return;
+    if (!EXIGE(seg1, seg2)) return;
     seg1->numcortes = seg2->numcortes = 0;
     seg1->x3 = seg1->y3 = seg1->x4 = seg1->y4 = 0.;
     seg2->x3 = seg2->y3 = seg2->x4 = seg2->y4 = 0.;
@@ -186,20 +186,20 @@ void mt_calcula_inter_segmentos(mt_segmento_t *seg1, mt_segmento_t *seg2) {
         // Two almost parallel segments have lost most digits of these by now.
         const double inicio = lado(q.a, q.b, p.a, true), fin = lado(q.a, q.b, p.b, true), t = inicio / (inicio - fin);
         const extremos e = de(*seg1);
-        const Punto3D c = dentro(dentro(e.a + t * (e.b - e.a), e), de(*seg2));
+        const Punto2D c = dentro(dentro(relativo(e.a, e.b, t), e), de(*seg2));
         corta(*seg1, c);
         corta(*seg2, c);
         return;
     }
     // An end of one on the other. Both segments cannot be cut by ends here, for they are not on one line.
-    if (qa == 0. && estrictamente_entre(p.a, p.b, q.a)) corta(*seg1, {seg2->x1, seg2->y1, 0.});
-    else if (qb == 0. && estrictamente_entre(p.a, p.b, q.b)) corta(*seg1, {seg2->x2, seg2->y2, 0.});
-    else if (pa == 0. && estrictamente_entre(q.a, q.b, p.a)) corta(*seg2, {seg1->x1, seg1->y1, 0.});
-    else if (pb == 0. && estrictamente_entre(q.a, q.b, p.b)) corta(*seg2, {seg1->x2, seg1->y2, 0.});
+    if (qa == 0. && estrictamente_entre(p.a, p.b, q.a)) corta(*seg1, {seg2->x1, seg2->y1});
+    else if (qb == 0. && estrictamente_entre(p.a, p.b, q.b)) corta(*seg1, {seg2->x2, seg2->y2});
+    else if (pa == 0. && estrictamente_entre(q.a, q.b, p.a)) corta(*seg2, {seg1->x1, seg1->y1});
+    else if (pb == 0. && estrictamente_entre(q.a, q.b, p.b)) corta(*seg2, {seg1->x2, seg1->y2});
 }
 
 vnbool mt_raices_ecuacion_segundo_grado(double a, double b, double c, double *r1, double *r2) {
-    if (!AFIRMA_NO_NULO(r1) || !AFIRMA_NO_NULO(r2)) return FALSO;
+    if (!EXIGE(r1, r2)) return FALSO;
     double mas = 0., menos = 0.;
     if (a == 0.) {
         if (b == 0.) return FALSO;

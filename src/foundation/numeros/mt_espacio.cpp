@@ -55,13 +55,13 @@ bool de_tres_puntos(Punto3D p, Punto3D q, Punto3D r, ejes &e) {
 } // namespace
 
 double mt_distancia_3D(double x1, double y1, double z1, double x2, double y2, double z2) {
-    return modulo({x2 - x1, y2 - y1, z2 - z1});
+    return modulo(Punto3D{x2 - x1, y2 - y1, z2 - z1});
 }
 
-double mt_modulo_vector_3D(double x, double y, double z) { return modulo({x, y, z}); }
+double mt_modulo_vector_3D(double x, double y, double z) { return modulo(Punto3D{x, y, z}); }
 
 vnbool mt_pasar_a_unitario_3D(double *x, double *y, double *z) {
-    if (!AFIRMA_NO_NULO(x) || !AFIRMA_NO_NULO(y) || !AFIRMA_NO_NULO(z)) return FALSO;
+    if (!EXIGE(x, y, z)) return FALSO;
     Punto3D v{*x, *y, *z};
     if (!unitario(v)) return FALSO;
     da(x, y, z, v);
@@ -111,7 +111,7 @@ vnbool mt_existe_interseccion_recta_con_plano(double x, double y, double z, doub
     if (!(std::fabs(seno) > SENO_RECTA_PLANO)) return FALSO;
     const Punto3D p{x, y, z};
     const Punto3D corte = p + (-(escalar(n, p) + D / l) / seno) * u;
-    if (!std::isfinite(corte.x + corte.y + corte.z)) return FALSO;
+    if (!es_finito(corte)) return FALSO;
     da(xc, yc, zc, corte);
     return CIERTO;
 }

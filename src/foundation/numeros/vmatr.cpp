@@ -1,7 +1,8 @@
 #define VN_MODULO "vmatr (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/numeros/vmatr.h"
 #include "foundation/suelo/afirma_int.h"
-#include "foundation/suelo/propio_int.h"
+#include "foundation/suelo/dueno.hpp"
+#include "foundation/suelo/vornspy.h"
 #define EIGEN_NO_DEBUG // its checks end the process; every size is checked here before it gets there
 #include <algorithm>
 // It calls operator new then, which comes to the wall, where it would throw.
@@ -27,19 +28,17 @@ using vista_const = Eigen::Map<const matriz>;
 
 vista_const ve(const vmatr *m) { return {m->datos, m->filas, m->columnas}; }
 
-struct libera_matriz {
-    void operator()(vmatr *m) const {
-        if (m->datos != nullptr) vornspy_free_pp(&m->datos, sizeof(double));
-        vornspy_free_pp(&m, sizeof(vmatr));
-    }
-};
-using dueno = std::unique_ptr<vmatr, libera_matriz>;
+void libera(vmatr *m) {
+    if (m->datos != nullptr) vornspy_free_pp(&m->datos, sizeof(double));
+    vornspy_free_pp(&m, sizeof(vmatr));
+}
+using propia = vn::dueno<libera>;
 
-dueno crea(uint32_t filas, uint32_t columnas) {
+propia crea(uint32_t filas, uint32_t columnas) {
     if (!AFIRMA_TEXTO(filas > 0 && columnas > 0 && uint64_t{filas} * columnas <= MAXIMO_COEFICIENTES,
                       "filas > 0 && columnas > 0 && filas * columnas <= 134217728"))
         return nullptr;
-    dueno m(static_cast<vmatr *>(vornspy_calloc(1, sizeof(vmatr))));
+    propia m(static_cast<vmatr *>(vornspy_calloc(1, sizeof(vmatr))));
     m->filas = filas;
     m->columnas = columnas;
     m->datos = static_cast<double *>(vornspy_reserva_seguro(size_t{filas} * columnas, sizeof(double), CIERTO, VN_AQUI));
@@ -85,7 +84,7 @@ void multiplica(const vmatr *cambio, bool traspuesta, const vmatr *columnas, vma
 }
 
 void sobre_buffer(const vmatr *cambio, bool traspuesta, const vmatr *columnas, vmatr *resultado) {
-    if (!AFIRMA_NO_NULO(cambio) || !AFIRMA_NO_NULO(columnas) || !AFIRMA_NO_NULO(resultado)) return;
+    if (!EXIGE(cambio, columnas, resultado)) return;
     const uint32_t comun = traspuesta ? cambio->filas : cambio->columnas;
     const uint32_t filas = traspuesta ? cambio->columnas : cambio->filas;
     if (!AFIRMA_TEXTO(comun == columnas->filas, "num_columnas_cambio == num_filas_columnas") ||
@@ -106,7 +105,7 @@ Eigen::VectorXd escalas(const Eigen::VectorXd &maximos) {
 vmatr *vmatr_crea_matriz_nula(uint32_t filas, uint32_t columnas) { return crea(filas, columnas).release(); }
 
 vmatr *vmatr_crea_matriz_identidad(uint32_t n) {
-    dueno m = crea(n, n);
+    propia m = crea(n, n);
     if (m != nullptr)
         for (uint32_t i = 0; i < n; ++i) m->datos[size_t{i} * n + i] = 1.;
     return m.release();
@@ -114,7 +113,7 @@ vmatr *vmatr_crea_matriz_identidad(uint32_t n) {
 
 void vmatr_destruir_matriz(vmatr **m) {
     if (!AFIRMA_NO_NULO(m) || !AFIRMA_TEXTO(*m != nullptr, "(*m) != NULL")) return;
-    const dueno libre(std::exchange(*m, nullptr));
+    const propia libre(std::exchange(*m, nullptr));
 }
 
 uint32_t vmatr_num_filas_matriz(const vmatr *m) { return AFIRMA_NO_NULO(m) ? m->filas : 0; }
@@ -143,7 +142,7 @@ vmatr *vmatr_matriz_inversa(const vmatr *m) {
     a = matriz(a * columnas.asDiagonal());
     const Eigen::FullPivLU<matriz> lu(a);
     if (!AFIRMA_TEXTO(lu.isInvertible(), "es_matriz_regular == CIERTO")) return nullptr;
-    dueno r = crea(m->filas, m->columnas);
+    propia r = crea(m->filas, m->columnas);
     if (r == nullptr) return nullptr;
     // The scales of a rotation with a far origin leave its rows almost alike; a step of Newton's brings the digits
     // back.
@@ -153,10 +152,10 @@ vmatr *vmatr_matriz_inversa(const vmatr *m) {
 }
 
 vmatr *vmatr_producto_cambio_x_columnas(const vmatr *cambio, const vmatr *columnas) {
-    if (!AFIRMA_NO_NULO(cambio) || !AFIRMA_NO_NULO(columnas) ||
+    if (!EXIGE(cambio, columnas) ||
         !AFIRMA_TEXTO(cambio->columnas == columnas->filas, "num_columnas_cambio == num_filas_columnas"))
         return nullptr;
-    dueno r = crea(cambio->filas, columnas->columnas);
+    propia r = crea(cambio->filas, columnas->columnas);
     if (r != nullptr) multiplica(cambio, false, columnas, r.get());
     return r.release();
 }
