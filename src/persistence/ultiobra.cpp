@@ -9,9 +9,9 @@
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/error_interno_int.h"
 #include "foundation/suelo/propio_int.h"
+#include "foundation/texto/mensajes.hpp"
 #include "foundation/texto/unicode.h"
 #include "foundation/texto/widestr.h"
-#include "persistence/ultiobra_msg_priv.h"
 #include <algorithm>
 #include <memory>
 #include <optional>
@@ -19,6 +19,10 @@
 #include <utility>
 
 namespace {
+
+#define M(id, ...) VN_MENSAJE(msg_##id, "ultiobra.msg", id, __VA_ARGS__)
+#include "persistence/ultiobra_msg.inl"
+#undef M
 
 constexpr uint16_t VERSION_NOMBRE_OBRA = 5;
 // Version 0 was written by programs that still used the OEM code page.
@@ -266,8 +270,8 @@ vnbool ultiobra_nombre_existe_obra_reciente(const vnwchar *path_lista, const vnw
 
 vnbool ultiobra_pregunta_eliminar_obra_reciente(const vnwchar *nombre_fichero_obra) {
     if (!AFIRMA_NO_NULO(nombre_fichero_obra)) return FALSO;
-    const texto_propio motivo(textomsgu_obtener_mensaje(ultiobra_msg_160946, nombre_fichero_obra));
+    const texto_propio motivo(textomsgu_obtener_mensaje(msg_160946.u, nombre_fichero_obra));
     const texto_propio pregunta(
-        copiaforu_nousar_formatea(VNU("%s\n%s"), motivo.get(), nousar_msglocal_original_u(ultiobra_msg_160947)));
+        copiaforu_nousar_formatea(VNU("%s\n%s"), motivo.get(), nousar_msglocal_original_u(msg_160947.u)));
     return avisobas_pregunta_u(pregunta.get());
 }

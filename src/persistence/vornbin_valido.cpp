@@ -4,12 +4,16 @@
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/cad.h"
+#include "foundation/texto/mensajes.hpp"
 #include "foundation/texto/widestr.h"
 #include "persistence/vornbin_cabecera_priv.h"
-#include "persistence/vornbin_msg_priv.h"
 
 namespace vn {
 namespace {
+
+#define M(id, ...) VN_MENSAJE(msg_##id, "vornbin.msg", id, __VA_ARGS__)
+#include "persistence/vornbin_msg.inl"
+#undef M
 
 struct libera_textos {
     void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
@@ -112,7 +116,7 @@ vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, con
     const vn::propio<char> leido =
         f != nullptr ? vn::titulo_si_es_valido(f.get(), version_actual, firma, version_ascii) : nullptr;
     if (leido == nullptr) {
-        const vn::propio<vnwchar> mensaje(textomsgu_obtener_mensaje(vornbin_msg_32342, nomfich));
+        const vn::propio<vnwchar> mensaje(textomsgu_obtener_mensaje(vn::msg_32342.u, nomfich));
         vnaviso_aviso_interno_como_error_u(mensaje.get());
         return FALSO;
     }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "foundation/suelo/propio_int.h"
+#include "foundation/texto/msglocal.h"
 #include "time/vorntime.h"
+#include <array>
 
 namespace vn {
 
@@ -17,5 +19,10 @@ inline bool mes_posible(const tmtime &fecha) { return static_cast<uint32_t>(fech
 void pon_dias(tmtime &fecha);
 // The date of a count of seconds; the start of 1970 and false, reported, when there is none.
 bool pon_fecha_de(int64_t t, tmtime &fecha);
+
+// The fillers of the days' short names, from Sunday, for the wide and the ANSI reader.
+extern const std::array<vnfunc_mensaje, 7> DIAS_U, DIAS;
+// That of what is said when the system's date is wrong.
+extern const vnfunc_mensaje FECHA_MAL;
 
 } // namespace vn

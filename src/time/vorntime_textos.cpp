@@ -3,7 +3,6 @@
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
-#include "time/vorntime_msg_priv.h"
 #include "time/vorntime_priv.h"
 #include <algorithm>
 #include <ctime>
@@ -78,8 +77,8 @@ template <> struct ancho<char> {
     static constexpr auto de_hora = vnstdc_strftime;
     static constexpr const char *FECHA = "%s %2d %s %I64d  %2d:%02d";
     static constexpr const char *DIA_MES = "%d/%m/%y", *MES_DIA = "%m/%d/%y", *HORA = "%I:%M %p";
-    static const char *dia(int i) { return nousar_msglocal_original(vorntime_msg_dia[i]); }
-    static const char *mes(int i) { return nousar_msglocal_original(vorntime_msg_mes[i]); }
+    static const char *dia(int i) { return nousar_msglocal_original(DIAS[static_cast<size_t>(i)]); }
+    static const char *mes(int i) { return vorntime_obtener_nombre_mes(static_cast<uint32_t>(i)); }
     static char *copia(const char *s) { return cad_copia_cadena(s); }
 };
 template <> struct ancho<vnwchar> {
@@ -87,8 +86,8 @@ template <> struct ancho<vnwchar> {
     static constexpr auto de_hora = vnstdc_wcsftime;
     static constexpr const vnwchar *FECHA = VNU("%s %2d %s %I64d  %2d:%02d");
     static constexpr const vnwchar *DIA_MES = VNU("%d/%m/%y"), *MES_DIA = VNU("%m/%d/%y"), *HORA = VNU("%I:%M %p");
-    static const vnwchar *dia(int i) { return nousar_msglocal_original_u(vorntime_msg_dia_u[i]); }
-    static const vnwchar *mes(int i) { return nousar_msglocal_original_u(vorntime_msg_mes_u[i]); }
+    static const vnwchar *dia(int i) { return nousar_msglocal_original_u(DIAS_U[static_cast<size_t>(i)]); }
+    static const vnwchar *mes(int i) { return vorntime_obtener_nombre_mes_u(static_cast<uint32_t>(i)); }
     static vnwchar *copia(const vnwchar *s) { return widestr_copia(s); }
 };
 
@@ -100,7 +99,7 @@ template <class C> const C *fecha_en(C (&sitio)[SITIO], int64_t t) {
     const std::tm *local = hora_local_de(t);
     if (local == nullptr) {
         error_interno_liberando_mensaje_u(VNU("fecha_tm != NULL"), VN_MODULO, __LINE__,
-                                          widestr_copia(nousar_msglocal_original_u(vorntime_msg_54061)), 0);
+                                          widestr_copia(nousar_msglocal_original_u(FECHA_MAL)), 0);
         return sitio;
     }
     const auto *dia = ancho<C>::dia(local->tm_wday), *mes = ancho<C>::mes(local->tm_mon);

@@ -1,6 +1,5 @@
 #define VN_MODULO "convers (NUCLEOS.DLL)"
 #include "units/convers.h"
-#include "units/convers_msg_priv.h"
 #include "units/convers_priv.h"
 #include "units/vornconf_priv.h"
 #include "units/vornnum.h"
@@ -104,31 +103,3 @@ void convers_valores_para_vnudcuso(uint32_t tipovalor, double *factor_conversion
     *es_correcto_texto_de_unidades_despues_de_valor = !v.es_longitud_imperial();
     *texto_unidades = v.unidad;
 }
-
-// ---------------------------------------------------------------- units by name
-
-#define UNIDAD(nombre, es)                                                                                             \
-    const vnwchar *nombre(void) {                                                                                      \
-        constexpr texto_unidad TEXTO(VNU(es));                                                                         \
-        return TEXTO.local();                                                                                          \
-    }
-
-// clang-format off
-UNIDAD(convers_texto_kp_cm2, "kp/cm²")
-UNIDAD(convers_texto_MPa, "MPa")
-UNIDAD(convers_texto_W_K, "W/K")
-UNIDAD(convers_texto_W_m2K, "W/(m²·K)")
-UNIDAD(convers_texto_grado_centigrado, "°C")
-UNIDAD(convers_texto_kW, "kW")
-UNIDAD(convers_texto_kWh, "kW·h")
-UNIDAD(convers_texto_kg, "kg")
-UNIDAD(convers_texto_kg_m2, "kg/m²")
-UNIDAD(convers_texto_l, "l")
-UNIDAD(convers_texto_m, "m")
-UNIDAD(convers_texto_m2, "m²")
-UNIDAD(convers_texto_m3, "m³")
-UNIDAD(convers_texto_m3_h, "m³/h")
-UNIDAD(convers_texto_mm, "mm")
-UNIDAD(convers_texto_mm2, "mm²")
-UNIDAD(convers_texto_porcentaje, "%")
-// clang-format on

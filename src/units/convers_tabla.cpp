@@ -2,12 +2,45 @@
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/vnatexit.h"
-#include "units/convers_msg_priv.h"
+#include "foundation/texto/mensajes.hpp"
 #include "units/convers_priv.h"
 #include <array>
 
 namespace vn {
 namespace {
+
+// ---------------------------------------------------------------- the texts that some language writes otherwise
+
+#define M(id, ...) VN_MENSAJE(msg_##id, "convers.msg", id, __VA_ARGS__)
+#include "units/convers_msg.inl"
+#undef M
+
+// A unit's text: the Spanish words, and where the other languages' are.
+struct texto_unidad {
+    const vnwchar *es = nullptr;
+    vnfunc_mensaje traducido = nullptr;
+
+    consteval texto_unidad() = default;
+    consteval texto_unidad(const vnwchar *texto);
+    const vnwchar *local() const { return traducido == nullptr ? es : nousar_msglocal_original_u(traducido); }
+};
+
+constexpr struct {
+    const vnwchar *es;
+    vnfunc_mensaje mensaje;
+} TRADUCIDAS[] = {
+#define M(id, ...) {msg_##id.es(), msg_##id.u},
+#include "units/convers_msg.inl"
+#undef M
+};
+
+consteval texto_unidad::texto_unidad(const vnwchar *texto) : es(texto) {
+    for (const auto &fila : TRADUCIDAS) {
+        const vnwchar *a = fila.es, *b = texto;
+        while (*a == *b && *a != 0) ++a, ++b;
+        if (*a == *b) traducido = fila.mensaje;
+    }
+}
 
 // ---------------------------------------------------------------- the rows as they are written
 
@@ -149,3 +182,33 @@ const textos_convers *crea_textos_convers() {
 }
 
 } // namespace vn
+
+// ---------------------------------------------------------------- units by name
+
+using namespace vn;
+
+#define UNIDAD(nombre, es)                                                                                             \
+    const vnwchar *nombre(void) {                                                                                      \
+        constexpr texto_unidad TEXTO(VNU(es));                                                                         \
+        return TEXTO.local();                                                                                          \
+    }
+
+// clang-format off
+UNIDAD(convers_texto_kp_cm2, "kp/cm²")
+UNIDAD(convers_texto_MPa, "MPa")
+UNIDAD(convers_texto_W_K, "W/K")
+UNIDAD(convers_texto_W_m2K, "W/(m²·K)")
+UNIDAD(convers_texto_grado_centigrado, "°C")
+UNIDAD(convers_texto_kW, "kW")
+UNIDAD(convers_texto_kWh, "kW·h")
+UNIDAD(convers_texto_kg, "kg")
+UNIDAD(convers_texto_kg_m2, "kg/m²")
+UNIDAD(convers_texto_l, "l")
+UNIDAD(convers_texto_m, "m")
+UNIDAD(convers_texto_m2, "m²")
+UNIDAD(convers_texto_m3, "m³")
+UNIDAD(convers_texto_m3_h, "m³/h")
+UNIDAD(convers_texto_mm, "mm")
+UNIDAD(convers_texto_mm2, "mm²")
+UNIDAD(convers_texto_porcentaje, "%")
+// clang-format on

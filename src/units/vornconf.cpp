@@ -11,9 +11,8 @@
 #include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/texto/cad.h"
-#include "foundation/texto/msglocal.h"
+#include "foundation/texto/mensajes.hpp"
 #include "frame/alsalir.h"
-#include "units/vornconf_msg_priv.h"
 #include "units/vornconf_priv.h"
 #include <array>
 #include <atomic>
@@ -231,8 +230,12 @@ uint32_t del_registro(uint32_t internacional::*campo) {
 
 // ---------------------------------------------------------------- texts
 
-constexpr vnfunc_mensaje SISTEMAS[] = {vornconf_msg_53941, vornconf_msg_53942, vornconf_msg_53943};
-constexpr vnfunc_mensaje ENERGIAS[] = {vornconf_msg_53944, vornconf_msg_53945, vornconf_msg_53946};
+#define M(id, ...) VN_MENSAJE(msg_##id, "vornconf.msg", id, __VA_ARGS__)
+#include "units/vornconf_msg.inl"
+#undef M
+
+constexpr vnfunc_mensaje SISTEMAS[] = {msg_53941.a, msg_53942.a, msg_53943.a};
+constexpr vnfunc_mensaje ENERGIAS[] = {msg_53944.a, msg_53945.a, msg_53946.a};
 
 } // namespace
 
@@ -313,7 +316,7 @@ char *vornconf_texto_sistema_de_unidades(uint32_t sistema_unidades) {
                            nousar_msglocal_original(SISTEMAS[sistema_unidades - VORNCONF_SU_MKS]));
 }
 
-const char *vornconf_texto_sistema_unidades(void) { return nousar_msglocal_original(vornconf_msg_32343); }
+const char *vornconf_texto_sistema_unidades(void) { return nousar_msglocal_original(msg_32343.a); }
 
 const char *vornconf_texto_sistema_unidad_energia(uint32_t sistema_unidades_energia) {
     if (sistema_unidades_energia > VORNNORM_UNIDAD_ENERGIA_BTU) return AFIRMA_DEFECTO(), nullptr;

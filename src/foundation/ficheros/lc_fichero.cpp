@@ -6,8 +6,10 @@
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/vornspy.h"
+#include "foundation/texto/mensajes.hpp"
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <new>
 #include <utility>
 
@@ -468,3 +470,28 @@ void lc_error_escribiendo_fichero(vnfichero *f) {
 }
 
 vnerror_fichero lc_ultimo_error(const vnfichero *f) { return f != nullptr ? f->error : ultimo_error; }
+
+// ---------------------------------------------------------------- what the user is told
+
+namespace {
+
+#define M(id, ...)                                                                                                     \
+    VN_MENSAJE(msg_##id, "lc_fichero.msg", id, __VA_ARGS__)                                                            \
+    static_assert(msg_##id.orden() == VN_FICH_##id);
+#include "foundation/ficheros/lc_fichero_msg.inl"
+#undef M
+
+constexpr vnfunc_mensaje MOTIVOS[] = {
+#define M(id, ...) msg_##id.u,
+#include "foundation/ficheros/lc_fichero_msg.inl"
+#undef M
+};
+static_assert(std::size(MOTIVOS) == VN_FICH_DATOS + 1);
+
+} // namespace
+
+const vnwchar *lc_texto_error_u(vnerror_fichero error) {
+    const auto n = static_cast<uint32_t>(error);
+    if (!AFIRMA_TEXTO(n < std::size(MOTIVOS), "error <= VN_FICH_DATOS")) return VNU("");
+    return nousar_msglocal_original_u(MOTIVOS[n]);
+}

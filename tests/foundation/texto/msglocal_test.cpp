@@ -1,24 +1,19 @@
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/vnatexit.h"
+#include "foundation/texto/mensajes.hpp"
 #include "foundation/texto/msglocal.h"
-#include "foundation/texto/msglocal_int.h"
 #include "foundation/texto/unicode.h"
 #include "foundation/texto/widestr.h"
 #include "prueba.h"
 
 namespace {
 
-constexpr auto PLANOS = vn::texto::mensaje_u("prueba.msg", 1,
-                                             {
-                                                 {vn::texto::ES, VNU("<100001>%d planos de %s")},
-                                                 {vn::texto::EN, VNU("<100001>%d drawings of %s")},
-                                                 {vn::texto::CA, VNU("<100001>%d plànols de %s")},
-                                                 {vn::texto::IT, VNU("<100001>%d disegni di %s")},
-                                                 {vn::texto::PT, VNU("<100001>%d desenhos de %s")},
-                                                 {vn::texto::JA, VNU("<100001>%d 枚 %s")},
-                                                 {vn::texto::ES_AM, VNU("<100001>%d láminas de %s")},
-                                             });
-void planos(vnmensaje *m) { PLANOS.rellena(m); }
+#define M(id, ...) VN_MENSAJE(msg_##id, "prueba.msg", id, __VA_ARGS__)
+M(100001, 1, ES("%d planos de %s"), EN("%d drawings of %s"), CA("%d plànols de %s"), IT("%d disegni di %s"),
+  PT_BR("%d desenhos de %s"), JA("%d 枚 %s"), ES_AM("%d láminas de %s"))
+M(clave, ES("Clave"), EN("Clef 𝄞"))
+M(100003, 3, ES("Área"), EN("Area"), ANSI(ES("\xC1rea"), EN("Area"), RU("A2")))
+#undef M
 
 // An ANSI group: the Russian cell is "<32307>Да" coded, the Polish one is badly coded, the others have their faults.
 void ansi(vnmensaje *m) {
@@ -40,7 +35,7 @@ void vacio(vnmensaje *) {}
 
 std::string lee(int idioma) {
     msidioma_establece_idioma(idioma);
-    return vn::utf8_de(nousar_msglocal_original_u(planos));
+    return vn::utf8_de(nousar_msglocal_original_u(msg_100001.u));
 }
 
 std::string lee_ansi(int idioma) {
@@ -56,19 +51,20 @@ PRUEBA(msglocal, cada_indice_da_su_lengua_y_los_demas_la_suya_de_reserva) {
         int idioma;
         const char *texto;
     } filas[] = {
-        {0, "%d planos de %s"},    {3, "%d plànols de %s"},   {4, "%d disegni di %s"},   {5, "%d desenhos de %s"},
-        {6, "%d láminas de %s"},   {7, "%d láminas de %s"},   {24, "%d láminas de %s"},  {8, "%d drawings of %s"},
-        {39, "%d 枚 %s"},          {9, "%d planos de %s"},    {14, "%d planos de %s"},   {17, "%d planos de %s"},
-        {19, "%d planos de %s"},   {23, "%d planos de %s"},   {25, "%d drawings of %s"}, {30, "%d drawings of %s"},
-        {32, "%d drawings of %s"}, {38, "%d drawings of %s"}, {40, "%d drawings of %s"}, {13, "%d drawings of %s"},
+        {0, "%d planos de %s"},    {2, "%d desenhos de %s"},  {3, "%d plànols de %s"},   {4, "%d disegni di %s"},
+        {5, "%d desenhos de %s"},  {6, "%d láminas de %s"},   {7, "%d láminas de %s"},   {24, "%d láminas de %s"},
+        {8, "%d drawings of %s"},  {39, "%d 枚 %s"},          {9, "%d planos de %s"},    {14, "%d planos de %s"},
+        {17, "%d planos de %s"},   {19, "%d planos de %s"},   {23, "%d planos de %s"},   {25, "%d drawings of %s"},
+        {30, "%d drawings of %s"}, {32, "%d drawings of %s"}, {38, "%d drawings of %s"}, {40, "%d drawings of %s"},
+        {13, "%d drawings of %s"},
     };
     for (const auto &f : filas) EXPECT_EQ(lee(f.idioma), f.texto) << f.idioma;
-    EXPECT_EQ(vn::utf8_de(nousar_original_u(planos)), "%d planos de %s");
+    EXPECT_EQ(vn::utf8_de(nousar_original_u(msg_100001.u)), "%d planos de %s");
     msidioma_establece_idioma(8);
     EXPECT_EQ(msidioma_es_idioma_ingles(), CIERTO);
     ESPERA_INFORME("idioma >= 0 && idioma < MSGLOCAL_NUM_TEXTOS", msidioma_establece_idioma(41));
     EXPECT_EQ(msidioma_dame_idioma(), 8);
-    vnwchar *texto = textomsgu_obtener_mensaje(planos, 3, VNU("Árbol"));
+    vnwchar *texto = textomsgu_obtener_mensaje(msg_100001.u, 3, VNU("Árbol"));
     EXPECT_EQ(vn::utf8_de(texto), "3 drawings of Árbol");
     widestr_destruye(&texto);
 }
@@ -97,4 +93,52 @@ PRUEBA(msglocal, un_texto_que_se_quedo_sin_memoria_se_descodifica_otra_vez) {
     EXPECT_FALSE(vn::atrapado([] { lee_ansi(18); }, 0));
     EXPECT_EQ(lee_ansi(18), "\xC4\xE0");
     vnatexit_ejecuta();
+}
+
+PRUEBA(msglocal, una_fila_da_las_columnas_de_los_dos_lectores) {
+    const struct {
+        vnfunc_mensaje ancho, ansi;
+        uint32_t orden, ancho_id;
+        int columna;
+        const char *texto, *texto_ansi;
+    } filas[] = {
+        {msg_100001.u, msg_100001.a, 1, 8, 8, "<100001>%d drawings of %s", "<100001>%d drawings of %s"},
+        {msg_clave.u, msg_clave.a, 0, 0, 0, "Clave", "Clave"},
+        {msg_clave.u, msg_clave.a, 0, 0, 1, "Clef 𝄞", "FFFF43006c0065006600200034d81edd"},
+        {msg_100003.u, msg_100003.a, 3, 8, 4, "<100003>Área", "<100003>\xC1rea"},
+        {msg_100003.u, msg_100003.a, 3, 8, 18, "<100003>Area", "<100003>A2"},
+    };
+    for (const auto &f : filas) {
+        vnmensaje ancho{}, ansi{};
+        f.ancho(&ancho);
+        f.ansi(&ansi);
+        EXPECT_EQ(vn::utf8_de(static_cast<const vnwchar *>(ancho.textos[f.columna])), f.texto);
+        EXPECT_STREQ(static_cast<const char *>(ansi.textos[f.columna]), f.texto_ansi);
+        for (const vnmensaje &m : {ancho, ansi}) {
+            EXPECT_STREQ(m.nombre, "prueba.msg");
+            EXPECT_EQ(m.orden, f.orden);
+            EXPECT_EQ(m.ancho_id, f.ancho_id);
+        }
+    }
+}
+
+// What the compiler refuses, asked at run time.
+PRUEBA(msglocal, una_fila_que_no_vale_dice_por_que) {
+    using namespace vn::idiomas;
+    const auto falta = [](auto... partes) -> std::string {
+        try {
+            [[maybe_unused]] const vn::mensajes::fila f("prueba.msg", "1", partes...);
+            return "";
+        } catch (const char *que) {
+            return que;
+        }
+    };
+    EXPECT_EQ(falta(ES("100 %% de %s"), EN("100 %% of %s")), "");
+    EXPECT_EQ(falta(ES("a"), DE("b")), "Spanish or English is missing");
+    EXPECT_EQ(falta(ES("a"), EN("b"), ANSI(ES("a"), EN("b"))), "");
+    EXPECT_EQ(falta(ES("a"), EN("b"), ES("c")), "a language is given twice");
+    EXPECT_EQ(falta(ES("a"), EN("<1>b")), "a text writes its id");
+    EXPECT_EQ(falta(ES("%s: %d"), EN("%d: %s")), "a text has other placeholders");
+    EXPECT_EQ(falta(ES("%s"), EN("%s"), ANSI(ES("%d"), EN("%d"))), "the ANSI texts have other placeholders");
+    EXPECT_EQ(falta(ES("a\xF1o"), EN("year")), "a text is not UTF-8");
 }
