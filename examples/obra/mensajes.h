@@ -5,9 +5,9 @@
 
 namespace obra::mensaje {
 
-#define X(nombre, ...) void nombre(vnmensaje *m);
+#define M(nombre, ...) void nombre(vnmensaje *m);
 #include "mensajes.inl"
-#undef X
+#undef M
 
 // The languages that have texts of their own.
 inline constexpr int IDIOMAS[] = {0, 1, 2, 3, 4, 5, 8, 9, 13};

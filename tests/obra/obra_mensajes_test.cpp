@@ -11,11 +11,11 @@ using namespace obra;
 
 namespace {
 
-#define X(nombre, ...) {#nombre, mensaje::nombre},
+#define M(nombre, ...) {#nombre, mensaje::nombre},
 const std::pair<const char *, vnfunc_mensaje> TODOS[] = {
 #include "mensajes.inl"
 };
-#undef X
+#undef M
 
 // What every language has to write alike: options with their values, commands, numbers.
 std::multiset<std::string> palabras_fijas(const std::string &uso) {
