@@ -1,6 +1,7 @@
 // Axes out of a list of points, beside a bare pass that finds the plane's distance and the turn at each point; then
 // lists on which the search has no luck.
 #include "foundation/listas/arr.h"
+#include "foundation/numeros/vector_int.h"
 #include "geometry.h"
 #include "geometry/ejes2d.h"
 #include <chrono>
@@ -10,14 +11,13 @@ namespace bench {
 namespace {
 
 constexpr uint32_t N = 1000;
-constexpr double PI = 3.141592653589793;
 
 arrPunto3D *circulo = nullptr;
 
 void prepara() {
     circulo = arr_CreaPunto3D(0);
     for (uint32_t i = 0; i < N; ++i) {
-        const double a = 2. * PI * i / N, x = 50. * std::cos(a), y = 50. * std::sin(a);
+        const double a = vn::numeros::VUELTA * i / N, x = 50. * std::cos(a), y = 50. * std::sin(a);
         arr_AppendPunto3D(circulo, x + 3., .8 * y, .6 * y - 7.);
     }
 }

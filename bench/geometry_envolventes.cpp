@@ -1,5 +1,6 @@
 // The hull that grows point by point, over points of a square, where few are outside when they come, and of a
 // circle, where most are. What is judged is how the time grows.
+#include "foundation/numeros/vector_int.h"
 #include "geometry.h"
 #include "geometry/poligono.h"
 #include <algorithm>
@@ -26,7 +27,7 @@ puntos nube(size_t n, bool en_circulo) {
     for (punto &p : v) {
         p = {static_cast<int32_t>(a.entre(-1e6, 1e6)), static_cast<int32_t>(a.entre(-1e6, 1e6))};
         if (!en_circulo) continue;
-        const double t = a.entre(0., 6.283185307179586);
+        const double t = a.entre(0., vn::numeros::VUELTA);
         p = {static_cast<int32_t>(std::lround(1e6 * std::cos(t))),
              static_cast<int32_t>(std::lround(1e6 * std::sin(t)))};
     }

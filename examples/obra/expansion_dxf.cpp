@@ -2,6 +2,8 @@
 #include "posesion.h"
 #include <algorithm>
 #include <cmath>
+#include <nucleos/foundation/numeros/afin.hpp>
+#include <nucleos/foundation/numeros/mt.h>
 #include <nucleos/foundation/texto/unicode.h>
 
 namespace obra {
@@ -12,9 +14,26 @@ constexpr int MAXIMO_ANIDADO = 64;
 
 constexpr uint32_t SIN_CAPA = UINT32_MAX;
 
-Punto2D planta(const afin &t, vector3 p) {
-    const vector3 q = t.punto(p);
+// How much the scales of both axes may differ, and their angle from a right one, while circles are drawn as circles: of
+// the scale itself, since drawings come in every scale.
+constexpr double TOLERANCIA_DE_CIRCULOS = 1e-9;
+
+using vn::matriz4;
+
+// Where an entity lands, seen from above.
+Punto2D planta(const matriz4 &t, Punto3D p) {
+    const Punto3D q = t.punto(p);
     return {q.x, q.y};
+}
+bool conserva_circulos(const matriz4 &t) { return t.en_planta().es_semejanza(TOLERANCIA_DE_CIRCULOS); }
+
+// Axes of an object from its extrusion direction, by the arbitrary-axis rule of drawing exchange.
+matriz4 ejes_de_objeto(Punto3D n) {
+    Punto3D u, v;
+    if (vornmath_calcula_matriz_transformacion_autocad(n.x, n.y, n.z, &u.x, &u.y, &u.z, &v.x, &v.y, &v.z) != CIERTO)
+        return {};
+    mt_pasar_a_unitario_3D(&n.x, &n.y, &n.z);
+    return matriz4::de_ejes({0, 0, 0}, u, v, n);
 }
 
 // Pieces of at most 5 degrees for a bulge that is no arc any more.
@@ -69,14 +88,14 @@ class expansion {
         bytes_ += bytes;
         return true;
     }
-    bool gasta(const entidad_dxf &e, const afin &t) {
+    bool gasta(const entidad_dxf &e, const matriz4 &t) {
         constexpr uint64_t BYTES = sizeof(elipse) + sizeof(uint32_t), BYTES_VERTICE = sizeof(Punto2D) + sizeof(double);
         if (const auto *x = std::get_if<texto_dxf>(&e.que))
             return gasta(1, BYTES + sizeof(rotulo) + x->letras.size() * sizeof(vnwchar));
         const auto *p = std::get_if<poli_dxf>(&e.que);
         if (p == nullptr) return gasta(1, BYTES);
         uint64_t n = p->vertices.size();
-        for (size_t i = 0; !t.conserva_circulos() && i < p->vertices.size(); ++i)
+        for (size_t i = 0; !conserva_circulos(t) && i < p->vertices.size(); ++i)
             if (es_arco(*p, i)) n += static_cast<uint64_t>(cuerdas_de(p->curvaturas[i]));
         return gasta(n + 1, BYTES + sizeof(polilinea) + n * BYTES_VERTICE);
     }
@@ -86,12 +105,12 @@ class expansion {
     }
 
     // An entity of a block on layer 0 takes the layer of its reference, and colour 0 its colour.
-    void coloca(bloque_dxf &b, const afin &t, const entidad_dxf *referencia, int nivel) {
+    void coloca(bloque_dxf &b, const matriz4 &t, const entidad_dxf *referencia, int nivel) {
         if (!gasta(b.sin_tomar.size(), 0)) return;
         for (const auto &[clase, n] : b.sin_tomar) no_tomado(clase, n);
         b.abierto = true;
         for (const entidad_dxf &e : b.entidades) {
-            const afin total = t.por(ejes_de_objeto(e.normal));
+            const matriz4 total = t * ejes_de_objeto(e.normal);
             if (!gasta(e, total)) break;
             entidad_dxf propia{e.capa, e.color, {}, linea_dxf{}};
             if (referencia != nullptr && m_.capas[e.capa] == VNU("0")) propia.capa = referencia->capa;
@@ -102,7 +121,7 @@ class expansion {
         b.abierto = false;
     }
     // A block that is not there, inside itself or too deep is told with what is not imported.
-    void inserta(const referencia_dxf &i, const entidad_dxf &e, const afin &t, int nivel) {
+    void inserta(const referencia_dxf &i, const entidad_dxf &e, const matriz4 &t, int nivel) {
         bloque_dxf &b = m_.bloques[i.bloque];
         if (!b.definido || b.abierto || nivel >= MAXIMO_ANIDADO) {
             const dueno_ansi nombre(unicode_convierte_UNICODE_a_UTF8(m_.nombres_de_bloque[i.bloque].c_str()));
@@ -111,41 +130,42 @@ class expansion {
         }
         for (int f = 0; f < std::max(i.filas, 1) && !excedido_; ++f) {
             for (int k = 0; k < std::max(i.columnas, 1) && gasta(1, 0); ++k) {
-                const afin lugar = insercion(1, 1, 1, i.angulo, i.en)
-                                       .por(desplazamiento(k * i.paso_columnas, f * i.paso_filas, 0))
-                                       .por(insercion(i.sx, i.sy, i.sz, 0, {0, 0, 0}))
-                                       .por(desplazamiento(-b.base.x, -b.base.y, -b.base.z));
-                coloca(b, t.por(lugar), &e, nivel + 1);
+                // Its base to the origin, scaled; then its place in the array, turned, and to where it is inserted.
+                const matriz4 lugar = matriz4::traslacion(i.en) * matriz4::giro({0, 0, 1}, i.angulo) *
+                                      matriz4::traslacion({k * i.paso_columnas, f * i.paso_filas, 0}) *
+                                      matriz4::escala(i.sx, i.sy, i.sz) *
+                                      matriz4::traslacion({-b.base.x, -b.base.y, -b.base.z});
+                coloca(b, t * lugar, &e, nivel + 1);
             }
         }
     }
 
-    static void pon(capa &c, const linea_dxf &l, uint32_t color, const afin &t) {
+    static void pon(capa &c, const linea_dxf &l, uint32_t color, const matriz4 &t) {
         c.lineas.push_back({planta(t, l.a), planta(t, l.b)});
         c.color_lineas.push_back(color);
     }
-    static void pon(capa &c, const arco_dxf &a, uint32_t color, const afin &t) {
-        if (!t.conserva_circulos()) {
+    static void pon(capa &c, const arco_dxf &a, uint32_t color, const matriz4 &t) {
+        if (!conserva_circulos(t)) {
             pon(c, elipse_dxf{a.centro, {a.radio, 0, 0}, {0, a.radio, 0}, a.desde, a.hasta}, color, t);
             return;
         }
         const Punto2D centro = planta(t, a.centro);
-        const double radio = a.radio * t.escala_en_planta();
+        const double radio = a.radio * t.en_planta().escala_media();
         if (a.completo) {
             c.circulos.push_back({centro, radio});
             c.color_circulos.push_back(color);
             return;
         }
-        const vector3 u = t.vector({std::cos(a.desde), std::sin(a.desde), 0});
-        const vector3 v = t.vector({std::cos(a.hasta), std::sin(a.hasta), 0});
+        const Punto3D u = t.vector({std::cos(a.desde), std::sin(a.desde), 0});
+        const Punto3D v = t.vector({std::cos(a.hasta), std::sin(a.hasta), 0});
         double desde = std::atan2(u.y, u.x), hasta = std::atan2(v.y, v.x);
-        if (t.giro_en_planta() < 0) std::swap(desde, hasta);
+        if (t.en_planta().determinante() < 0) std::swap(desde, hasta);
         c.arcos.push_back({centro, radio, desde, hasta});
         c.color_arcos.push_back(color);
     }
     // The image of an ellipse under an affine map, back to half axes at a right angle (Rytz).
-    static void pon(capa &c, const elipse_dxf &e, uint32_t color, const afin &t) {
-        const vector3 u = t.vector(e.eje), v = t.vector(e.otro);
+    static void pon(capa &c, const elipse_dxf &e, uint32_t color, const matriz4 &t) {
+        const Punto3D u = t.vector(e.eje), v = t.vector(e.otro);
         const double giro =
             0.5 * std::atan2(2 * (u.x * v.x + u.y * v.y), u.x * u.x + u.y * u.y - v.x * v.x - v.y * v.y);
         const double cg = std::cos(giro), sg = std::sin(giro);
@@ -156,11 +176,11 @@ class expansion {
         c.elipses.push_back({planta(t, e.centro), p, signo * lq / lp, e.desde - giro, e.hasta - giro});
         c.color_elipses.push_back(color);
     }
-    static void pon(capa &c, const poli_dxf &p, uint32_t color, const afin &t) {
+    static void pon(capa &c, const poli_dxf &p, uint32_t color, const matriz4 &t) {
         polilinea nueva;
         nueva.cerrada = p.cerrada;
-        const bool con_arcos = t.conserva_circulos();
-        const double signo = t.giro_en_planta() < 0 ? -1 : 1;
+        const bool con_arcos = conserva_circulos(t);
+        const double signo = t.en_planta().determinante() < 0 ? -1 : 1;
         for (size_t i = 0; i < p.vertices.size(); ++i) {
             nueva.vertices.push_back(planta(t, p.vertices[i]));
             nueva.curvaturas.push_back(con_arcos ? signo * p.curvaturas[i] : 0);
@@ -170,9 +190,9 @@ class expansion {
         c.polilineas.push_back(std::move(nueva));
         c.color_polilineas.push_back(color);
     }
-    static void anade_cuerdas(polilinea &nueva, vector3 a, vector3 b, double curvatura, const afin &t) {
+    static void anade_cuerdas(polilinea &nueva, Punto3D a, Punto3D b, double curvatura, const matriz4 &t) {
         const double angulo = 4 * std::atan(curvatura), k = (1 - curvatura * curvatura) / (4 * curvatura);
-        const vector3 centro = {(a.x + b.x) / 2 - (b.y - a.y) * k, (a.y + b.y) / 2 + (b.x - a.x) * k, a.z};
+        const Punto3D centro = {(a.x + b.x) / 2 - (b.y - a.y) * k, (a.y + b.y) / 2 + (b.x - a.x) * k, a.z};
         const int n = cuerdas_de(curvatura);
         for (int i = 1; i < n; ++i) {
             const double g = angulo * i / n, dx = a.x - centro.x, dy = a.y - centro.y;
@@ -181,12 +201,12 @@ class expansion {
             nueva.curvaturas.push_back(0);
         }
     }
-    static void pon(capa &c, const texto_dxf &x, uint32_t color, const afin &t) {
-        const vector3 d = t.vector({std::cos(x.angulo), std::sin(x.angulo), 0});
-        c.rotulos.push_back({planta(t, x.en), x.altura * t.escala_en_planta(), std::atan2(d.y, d.x), x.letras});
+    static void pon(capa &c, const texto_dxf &x, uint32_t color, const matriz4 &t) {
+        const Punto3D d = t.vector({std::cos(x.angulo), std::sin(x.angulo), 0});
+        c.rotulos.push_back({planta(t, x.en), x.altura * t.en_planta().escala_media(), std::atan2(d.y, d.x), x.letras});
         c.color_rotulos.push_back(color);
     }
-    static void pon(capa &, const referencia_dxf &, uint32_t, const afin &) {}
+    static void pon(capa &, const referencia_dxf &, uint32_t, const matriz4 &) {}
 };
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <nucleos/foundation/numeros/vnmath.h>
 #include <nucleos/geometry/poligono.h>
 #include <nucleos/geometry/punto.h>
+#include <numbers>
 #include <numeric>
 #include <optional>
 #include <tuple>
@@ -14,7 +15,7 @@
 namespace obra {
 namespace {
 
-constexpr double VUELTA = 2 * 3.141592653589793;
+constexpr double VUELTA = 2 * std::numbers::pi;
 constexpr uint32_t LADOS_DE_VUELTA = 64;
 // Two ends are one within this, and boxes further apart than this hold nothing that meets; metres.
 constexpr double PASO_DE_EXTREMOS = 1e-5, MARGEN_DE_CAJA = 1e-4;

@@ -16,7 +16,7 @@ struct registro {
     std::string clase, texto, trozos, nombre, tipo_linea, capa, texto_empotrado;
     std::array<double, 80> valor; // of codes 10 to 79
     std::array<bool, 80> dicho;
-    vector3 normal;
+    Punto3D normal;
     double rgb;
     bool danado, empotrado; // a number that is none; an object inside the record began
 
@@ -36,7 +36,7 @@ struct registro {
         const double x = real(codigo, si_no);
         return x >= INT_MIN && x <= INT_MAX ? static_cast<int>(x) : si_no;
     }
-    vector3 punto(int codigo) const { return {real(codigo), real(codigo + 10), real(codigo + 20)}; }
+    Punto3D punto(int codigo) const { return {real(codigo), real(codigo + 10), real(codigo + 20)}; }
     bool en_papel() const { return entero(67) != 0; }
     // Colours that the palette does not have are taken for `si_no`: what is imported must be readable afterwards.
     uint32_t color(uint32_t si_no) const {
@@ -199,7 +199,7 @@ class lector {
     }
     template <class T> void pon(T que, bool en_su_plano = true) {
         destino().entidades.push_back(
-            {capa_de(r_.capa), r_.color(COLOR_DE_CAPA), en_su_plano ? r_.normal : vector3{0, 0, 1}, std::move(que)});
+            {capa_de(r_.capa), r_.color(COLOR_DE_CAPA), en_su_plano ? r_.normal : Punto3D{0, 0, 1}, std::move(que)});
     }
     // What is not taken, by its name, which is the file's.
     void cuenta(std::string clase) {
@@ -210,7 +210,7 @@ class lector {
     }
 
     void elipse() {
-        const vector3 e = r_.punto(11), n = r_.normal;
+        const Punto3D e = r_.punto(11), n = r_.normal;
         const double modulo = std::hypot(n.x, n.y, n.z), razon = r_.real(40) / (modulo > 0 ? modulo : 1);
         pon(elipse_dxf{r_.punto(10),
                        e,
@@ -240,7 +240,7 @@ class lector {
     void polilinea_ligera() {
         if (ligera_.vertices.empty()) return cuenta(r_.clase);
         ligera_.cerrada = (r_.entero(70) & 1) != 0;
-        for (vector3 &v : ligera_.vertices) v.z = r_.real(38);
+        for (Punto3D &v : ligera_.vertices) v.z = r_.real(38);
         pon(std::move(ligera_));
     }
     void abre_polilinea() {
@@ -252,7 +252,7 @@ class lector {
             return;
         }
         // A polyline in space is given in the world's axes.
-        const vector3 normal = (marcas & EN_EL_ESPACIO) == 0 ? r_.normal : vector3{0, 0, 1};
+        const Punto3D normal = (marcas & EN_EL_ESPACIO) == 0 ? r_.normal : Punto3D{0, 0, 1};
         poli_ = entidad_dxf{capa_de(r_.capa), r_.color(COLOR_DE_CAPA), normal, poli_dxf{(marcas & 1) != 0, {}, {}}};
         elevacion_ = r_.real(30);
         poli_fuera_ = r_.en_papel();
@@ -263,7 +263,7 @@ class lector {
         if (!poli_ || (r_.entero(70) & DEL_MARCO) != 0) return;
         poli_danada_ = poli_danada_ || r_.danado;
         auto &p = std::get<poli_dxf>(poli_->que);
-        const vector3 v = r_.punto(10);
+        const Punto3D v = r_.punto(10);
         p.vertices.push_back({v.x, v.y, v.z != 0 ? v.z : elevacion_});
         p.curvaturas.push_back(r_.real(42));
     }

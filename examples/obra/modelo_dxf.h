@@ -1,7 +1,6 @@
 // A DXF as it was read, before its references are expanded. Names of layers and blocks have no case.
 #pragma once
 
-#include "afin.h"
 #include "dxf.h"
 #include "grupos_dxf.h"
 #include "textos_dxf.h"
@@ -14,41 +13,41 @@ namespace obra {
 inline constexpr double GRADOS = std::numbers::pi / 180;
 
 struct linea_dxf {
-    vector3 a, b;
+    Punto3D a, b;
 };
 struct arco_dxf {
-    vector3 centro;
+    Punto3D centro;
     double radio, desde, hasta;
     bool completo;
 };
 struct elipse_dxf {
-    vector3 centro, eje, otro; // both half axes
+    Punto3D centro, eje, otro; // both half axes
     double desde, hasta;
 };
 struct poli_dxf {
     bool cerrada;
-    std::vector<vector3> vertices;
+    std::vector<Punto3D> vertices;
     std::vector<double> curvaturas;
 };
 struct texto_dxf {
-    vector3 en;
+    Punto3D en;
     double altura, angulo;
     texto letras;
 };
 struct referencia_dxf {
     uint32_t bloque;
-    vector3 en;
+    Punto3D en;
     double sx, sy, sz, angulo, paso_columnas, paso_filas;
     int columnas, filas;
 };
 struct entidad_dxf {
     uint32_t capa, color;
-    vector3 normal; // of the plane that its coordinates are told in
+    Punto3D normal; // of the plane that its coordinates are told in
     std::variant<linea_dxf, arco_dxf, elipse_dxf, poli_dxf, texto_dxf, referencia_dxf> que;
 };
 struct bloque_dxf {
     bool definido = false, abierto = false;
-    vector3 base = {0, 0, 0};
+    Punto3D base = {0, 0, 0};
     std::vector<entidad_dxf> entidades;
     std::map<std::string, uint32_t> sin_tomar; // by kind
 };

@@ -1,7 +1,7 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Points, vectors and lines from global to local and back.
 #include "foundation/listas/arr.h"
-#include "foundation/numeros/vmatr.h"
+#include "foundation/numeros/afin.hpp"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/logico_int.h"
@@ -96,18 +96,15 @@ void ejes2d_coordenada_2D_a_3D_pantalla(EJES, double x, double y, double *coord_
                                         double *coord_z_3D) {
     if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     const Punto3D w = numeros::vectorial({Ux, Uy, Uz}, {Vx, Vy, Vz});
-    const double filas[4][4] = {{Ux, Uy, Uz, Xo}, {Vx, Vy, Vz, Yo}, {w.x, w.y, w.z, Zo}, {0., 0., 0., 1.}};
-    const dueno<vmatr_destruir_matriz> directa(vmatr_crea_matriz_nula(4, 4));
+    const auto directa = matriz4{{{Ux, Uy, Uz, Xo}, {Vx, Vy, Vz, Yo}, {w.x, w.y, w.z, Zo}, {0., 0., 0., 1.}}}.a_vmatr();
     if (directa == nullptr) return;
-    for (uint32_t i = 0; i < 4; ++i)
-        for (uint32_t j = 0; j < 4; ++j) vmatr_set_coef_matriz(directa.get(), i, j, filas[i][j]);
     const dueno<vmatr_destruir_matriz> inversa(vmatr_matriz_inversa(directa.get()));
-    double p[3] = {};
-    for (uint32_t i = 0; i < 3 && inversa != nullptr; ++i) {
-        const double *c = vmatr_get_buffer_matriz(inversa.get()) + i; // by columns
-        p[i] = c[0] * x + c[4] * y + c[12];
+    Punto3D p{};
+    if (inversa != nullptr) {
+        const auto m = matriz4::de_vmatr(inversa.get());
+        p = x * m.columna(0) + y * m.columna(1) + m.columna(3);
     }
-    numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, {p[0], p[1], p[2]});
+    numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, p);
 }
 
 void ejes2d_cambia_de_un_sistema_coordenadas_a_otro(EJES_DE(1), EJES_DE(2), double x, double y, double precision,
