@@ -8,7 +8,7 @@ namespace {
 
 // ---- The stack
 
-using dueno_marca = std::unique_ptr<i_marca_t, suelta<destruye_marca>>;
+using dueno_marca = dueno<destruye_marca>;
 
 void empuja_marca(vornsave *d, const char *id, const i_marca_t &posiciones) {
     dueno_marca marca(new (vornspy_malloc(sizeof(i_marca_t))) i_marca_t(posiciones));
@@ -31,7 +31,7 @@ const i_marca_t *marca_abierta(const vornsave *d) {
 const i_marca_t *ultima_marca(const vornsave *d) {
     const uint32_t num_marcas = arr_NumElemsPunteroST(d->pila_marcas, i_marca_t);
     if (!AFIRMA(num_marcas > 0)) {
-        falla(d);
+        d->falla();
         return nullptr;
     }
     const i_marca_t *marca = marca_abierta(d);
@@ -59,7 +59,7 @@ bool saca_marca(vornsave *d, const char *id_marca, int32_t *posicion_inicial_mar
                 int64_t *posicion_inicial_marca64_opc) {
     const i_marca_t *marca = ultima_marca(d);
     if (marca == nullptr) return false;
-    if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO)) falla(d);
+    if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO)) d->falla();
     bool dada = false;
     switch (marca->clase) {
     case MARCA_32:
@@ -90,7 +90,7 @@ bool saca_marca(vornsave *d, const char *id_marca, int32_t *posicion_inicial_mar
 void saca_marca_de_seccion(vornsave *d, const char *id_marca) {
     const i_marca_t *marca = ultima_marca(d);
     if (marca == nullptr) return;
-    if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO)) falla(d);
+    if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_marca) == CIERTO)) d->falla();
     switch (marca->clase) {
     case MARCA_32:
         ES_LARGO_MAX(posicion_inicial);
@@ -112,34 +112,35 @@ void saca_marca_de_seccion(vornsave *d, const char *id_marca) {
 // ---- Positions of either width
 
 int64_t posicion(const vornsave *d, clase_marca clase) {
-    return clase == MARCA_32 ? d->fncptr_get_posicion(d->datos_destino) : d->fncptr_get_posicion64(d->datos_destino);
+    const posiciones_t &p = d->fila->posiciones;
+    return clase == MARCA_32 ? p.get(d->donde) : p.get64(d->donde);
 }
 void ve_a(const vornsave *d, clase_marca clase, int64_t donde) {
-    if (clase == MARCA_32) d->fncptr_set_posicion(d->datos_destino, static_cast<int32_t>(donde));
-    else d->fncptr_set_posicion64(d->datos_destino, donde);
+    const posiciones_t &p = d->fila->posiciones;
+    if (clase == MARCA_32) p.set(d->donde, static_cast<int32_t>(donde));
+    else p.set64(d->donde, donde);
 }
 void graba_posicion(vornsave *d, clase_marca clase, int64_t valor) {
     if (clase == MARCA_32) graba<GRABAR(long)>(d, static_cast<int32_t>(valor));
     else vornsave_graba_int64(valor, d);
 }
-bool hay_posiciones(const vornsave *vornsave_datos, clase_marca clase) {
-    return clase == MARCA_32 ? AFIRMA_NO_NULO(vornsave_datos->fncptr_get_posicion) &&
-                                   AFIRMA_NO_NULO(vornsave_datos->fncptr_set_posicion)
-                             : AFIRMA_NO_NULO(vornsave_datos->fncptr_get_posicion64) &&
-                                   AFIRMA_NO_NULO(vornsave_datos->fncptr_set_posicion64);
+bool hay_posiciones(const vornsave *d, clase_marca clase) {
+    const posiciones_t &p = d->fila->posiciones;
+    return clase == MARCA_32 ? AFIRMA_TEXTO(p.get != nullptr, "(vornsave_datos->fncptr_get_posicion) != NULL")
+                             : AFIRMA_TEXTO(p.get64 != nullptr, "(vornsave_datos->fncptr_get_posicion64) != NULL");
 }
 // The position in the widest form that there is; -1 where there is none.
 int64_t aqui(const vornsave *d) {
-    if (d->fncptr_get_posicion64 != nullptr) return posicion(d, MARCA_64);
-    return d->fncptr_get_posicion != nullptr ? posicion(d, MARCA_32) : -1;
+    const posiciones_t &p = d->fila->posiciones;
+    return p.get64 != nullptr ? p.get64(d->donde) : p.get != nullptr ? p.get(d->donde) : -1;
 }
 // Whether a stored end lies between here and the end of what is open, and of the source.
 bool fin_valido(const vornsave *d, int64_t fin) {
-    if (d->fncptr_get_posicion64 == nullptr && d->fncptr_get_posicion == nullptr) return true;
+    if (d->fila->posiciones.get == nullptr) return true;
     const int64_t desde = aqui(d);
     const i_marca_t *abierta = marca_abierta(d);
     const int64_t limite = abierta != nullptr ? fin_de(*abierta) : LARGO64_MAX;
-    return desde >= 0 && fin >= desde && fin <= limite && quedan(d, static_cast<uint64_t>(fin - desde), 1);
+    return desde >= 0 && fin >= desde && fin <= limite && d->quedan(static_cast<uint64_t>(fin - desde), 1);
 }
 // What is open and has this name was not read up to its end, or beyond: goes there, if that is known and is there.
 bool ve_al_final_de_lo_abierto(const vornsave *d, const char *id, clase_marca clase) {
@@ -150,7 +151,7 @@ bool ve_al_final_de_lo_abierto(const vornsave *d, const char *id, clase_marca cl
     // Back only to the end of a section, which has been looked at: a walk over damaged blocks must end.
     if (fin == desde || (fin < desde && !es_seccion_que_se_lee(*abierta))) return false;
     if (cad_cadenas_iguales(abierta->id_marca, id) != CIERTO) return false;
-    if (fin > desde && !quedan(d, static_cast<uint64_t>(fin - desde), 1)) return false;
+    if (fin > desde && !d->quedan(static_cast<uint64_t>(fin - desde), 1)) return false;
     ve_a(d, clase, fin);
     return true;
 }
@@ -167,19 +168,22 @@ fncptr_marca puede_marcar(const char *id, const vornsave *vornsave_datos, forma 
     if (clase == MARCA_32 ? !puede_grabar<GRABAR(long)>(vornsave_datos) : !puede_grabar<GRABAR(ulong)>(vornsave_datos))
         return nullptr;
     if (!SE_GRABA(vornsave_datos, f == SECCION || AFIRMA(*id != '\0'))) return nullptr;
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(vornsave_datos->fncptr_graba_cabecera_bloque))) return nullptr;
+    const auto graba_cabecera = vornsave_datos->fila->marcas.graba;
+    if (!SE_GRABA(vornsave_datos,
+                  AFIRMA_TEXTO(graba_cabecera != nullptr, "(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL")))
+        return nullptr;
     if (!SE_GRABA(vornsave_datos, hay_posiciones(vornsave_datos, clase))) return nullptr;
     const fncptr_marca fncptr_graba_marca =
-        f == BLOQUE ? vornsave_datos->fncptr_graba_cabecera_bloque : vornsave_datos->fncs_grabar->fncptr_graba_cadena;
+        f == BLOQUE ? graba_cabecera : vornsave_datos->fila->grabar.fncptr_graba_cadena;
     return AFIRMA_NO_NULO(fncptr_graba_marca) ? fncptr_graba_marca : nullptr;
 }
 
 void graba_inicio(const char *id, vornsave *d, forma f, clase_marca clase) {
     const fncptr_marca graba_marca = puede_marcar(id, d, f, clase);
     if (graba_marca == nullptr) return;
-    graba_marca(id, d->datos_destino);
+    graba_marca(id, d->donde);
     const int64_t hueco = posicion(d, clase);
-    if (hueco < 0) falla(d);
+    if (hueco < 0) d->falla();
     empuja_marca(d, id, marca_inicial(clase, hueco));
     graba_posicion(d, clase, 0);
 }
@@ -188,14 +192,14 @@ void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
     const fncptr_marca graba_marca = puede_marcar(id, d, f, clase);
     if (graba_marca == nullptr) return;
     const int64_t p_fin = posicion(d, clase);
-    graba_marca(id, d->datos_destino);
+    graba_marca(id, d->donde);
     const int64_t p_sig = posicion(d, clase);
     int32_t hueco = 0;
     int64_t hueco64 = 0;
     const bool dado = saca_marca(d, id, clase == MARCA_32 ? &hueco : nullptr, clase == MARCA_64 ? &hueco64 : nullptr);
     const int64_t donde = clase == MARCA_32 ? hueco : hueco64;
     if (!dado || donde < 0 || p_fin < 0 || p_sig < 0) { // beyond what 32 bits hold: reported, nothing is overwritten
-        falla(d);
+        d->falla();
         return;
     }
     ve_a(d, clase, donde);
@@ -207,14 +211,16 @@ void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
 
 bool puede_leer_bloques(const char *id, const vornsave *vornsave_datos, clase_marca clase) {
     if (!AFIRMA_NO_NULO(id) || !AFIRMA(*id != '\0')) return false;
+    const marcas_t *const m = vornsave_datos != nullptr ? &vornsave_datos->fila->marcas : nullptr;
     return clase == MARCA_32
-               ? puede_leer<LEER(long)>(vornsave_datos) && AFIRMA_NO_NULO(vornsave_datos->fncptr_se_lee_inicio_bloque)
+               ? puede_leer<LEER(long)>(vornsave_datos) &&
+                     AFIRMA_TEXTO(m->se_lee != nullptr, "(vornsave_datos->fncptr_se_lee_inicio_bloque) != NULL")
                : puede_leer<LEER(ulong)>(vornsave_datos) &&
-                     AFIRMA_NO_NULO(vornsave_datos->fncptr_se_lee_inicio_bloque64);
+                     AFIRMA_TEXTO(m->se_lee64 != nullptr, "(vornsave_datos->fncptr_se_lee_inicio_bloque64) != NULL");
 }
 vnbool se_lee_marca(const char *id, const vornsave *d, clase_marca clase) {
-    return (clase == MARCA_32 ? d->fncptr_se_lee_inicio_bloque : d->fncptr_se_lee_inicio_bloque64)(id,
-                                                                                                   d->datos_destino);
+    const marcas_t &m = d->fila->marcas;
+    return (clase == MARCA_32 ? m.se_lee : m.se_lee64)(id, d->donde);
 }
 int64_t lee_posicion(vornsave *d, clase_marca clase) {
     return clase == MARCA_32 ? lee<LEER(long)>(d) : vornsave_lee_int64(d);
@@ -230,7 +236,7 @@ void lee_final(const char *id, vornsave *d, clase_marca clase) {
     if (!puede_leer_bloques(id, d, clase)) return;
     const vnbool se_lee_final_bloque = se_lee_marca(id, d, clase);
     if (!AFIRMA(se_lee_final_bloque == CIERTO)) {
-        falla(d);
+        d->falla();
         if (ve_al_final_de_lo_abierto(d, id, clase)) se_lee_marca(id, d, clase);
     }
     int32_t largo = 0;
@@ -247,22 +253,21 @@ vnbool se_salta(const char *id, vornsave *d, clase_marca clase) {
         ve_a(d, clase, fin);
         se_lee_fin_bloque = se_lee_marca(id, d, clase);
     }
-    if (!AFIRMA(se_lee_fin_bloque == CIERTO)) falla(d);
+    if (!AFIRMA(se_lee_fin_bloque == CIERTO)) d->falla();
     return CIERTO;
 }
 
 } // namespace
 
 void vn::destruye_marca(i_marca_t **marca) {
-    if (!AFIRMA_NO_NULO(marca)) return;
-    if (!AFIRMA_NO_NULO(*marca)) return;
+    if (!EXIGE(marca, *marca)) return;
     vornstr_destruye_opcional(&(*marca)->id_marca);
     vornspy_free_pp(marca, sizeof(i_marca_t));
 }
 
 vnbool vornsave_es_posible_marcar_bloques(const vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return FALSO;
-    return vornsave_datos->fncptr_graba_cabecera_bloque != nullptr ? CIERTO : FALSO;
+    return logico(vornsave_datos->fila->marcas.graba != nullptr);
 }
 
 void vornsave_graba_inicio_bloque(const char *id, vornsave *vornsave_datos) {
@@ -311,13 +316,13 @@ vnbool vornsave_se_salta_bloque64(const char *id, vornsave *vornsave_datos) {
 
 char *vornsave_lee_seccion(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(cadena)>(vornsave_datos) || !puede_leer<LEER(long)>(vornsave_datos)) return nullptr;
-    const vigia guarda(vornsave_datos);
+    const vigia guarda(*vornsave_datos);
     dueno_cadena id(lee<LEER(cadena)>(vornsave_datos));
     if (id == nullptr || !guarda.sigue()) return cad_copia_cadena("");
     const int32_t fin = lee<LEER(long)>(vornsave_datos);
     if (!guarda.sigue()) return cad_copia_cadena("");
     if (!fin_valido(vornsave_datos, fin)) {
-        error_leyendo(vornsave_datos);
+        vornsave_datos->error_leyendo();
         return cad_copia_cadena("");
     }
     empuja_marca(vornsave_datos, id.get(), marca_final(fin));
@@ -325,11 +330,10 @@ char *vornsave_lee_seccion(vornsave *vornsave_datos) {
 }
 
 void vornsave_ir_final_seccion(const char *id_seccion, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(id_seccion)) return;
-    if (!AFIRMA_NO_NULO(vornsave_datos)) return;
+    if (!EXIGE(id_seccion, vornsave_datos)) return;
     const i_marca_t *marca = ultima_marca(vornsave_datos);
     if (marca == nullptr) return;
-    if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_seccion) == CIERTO)) falla(vornsave_datos);
+    if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_seccion) == CIERTO)) vornsave_datos->falla();
     switch (marca->clase) {
     case MARCA_32:
         if (hay_posiciones(vornsave_datos, MARCA_32)) ve_a(vornsave_datos, MARCA_32, marca->posicion_final);
@@ -350,21 +354,21 @@ void vornsave_lee_final_seccion(const char *id_seccion, vornsave *vornsave_datos
     const bool movida = se_sabe && ve_al_final_de_lo_abierto(vornsave_datos, id_seccion, MARCA_32);
     const dueno_cadena final(lee<LEER(cadena)>(vornsave_datos));
     const char *id_seccion_final = movida || final == nullptr ? "" : final.get();
-    if (!AFIRMA(cad_cadenas_iguales(id_seccion_final, id_seccion) == CIERTO)) falla(vornsave_datos);
+    if (!AFIRMA(cad_cadenas_iguales(id_seccion_final, id_seccion) == CIERTO)) vornsave_datos->falla();
     saca_marca_de_seccion(vornsave_datos, id_seccion);
 }
 
 vnbool vornsave_comprueba_marca_fichero(const char *marca, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(marca)) return FALSO;
-    if (!AFIRMA_NO_NULO(vornsave_datos)) return FALSO;
-    if (!AFIRMA_NO_NULO(vornsave_datos->fncptr_se_comprueba_marca_fichero)) return FALSO;
-    return vornsave_datos->fncptr_se_comprueba_marca_fichero(marca, vornsave_datos->datos_destino);
+    if (!EXIGE(marca, vornsave_datos)) return FALSO;
+    const auto se_comprueba = vornsave_datos->fila->cabecera.se_comprueba_marca;
+    if (!AFIRMA_TEXTO(se_comprueba != nullptr, "(vornsave_datos->fncptr_se_comprueba_marca_fichero) != NULL"))
+        return FALSO;
+    return se_comprueba(marca, vornsave_datos->donde);
 }
 
 vnbool vornsave_se_comprueba_cabecera_bin(const char *marca, vornsave *vornsave_datos) {
-    if (!AFIRMA_NO_NULO(marca)) return FALSO;
-    if (!AFIRMA_NO_NULO(vornsave_datos)) return FALSO;
-    if (!AFIRMA(vornsave_datos->tipo == BIN)) return FALSO;
+    if (!EXIGE(marca, vornsave_datos)) return FALSO;
+    if (!AFIRMA_TEXTO(vornsave_datos->fila->tipo == BIN, "vornsave_datos->tipo == BIN")) return FALSO;
     return vornsave_comprueba_marca_fichero(marca, vornsave_datos);
 }
 
@@ -372,10 +376,10 @@ void vornsave_graba_comentario(const char *comentario, vornsave *vornsave_datos)
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(comentario))) return;
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
     if (vornsave_datos->con_comentarios == CIERTO)
-        vornsave_datos->graba_comentario(comentario, vornsave_datos->datos_destino);
+        vornsave_datos->fila->lineas.graba_comentario(comentario, vornsave_datos->donde);
 }
 
 void vornsave_salta_comentario(vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
-    if (vornsave_datos->con_comentarios == CIERTO) vornsave_datos->salta_linea(vornsave_datos->datos_destino);
+    if (vornsave_datos->con_comentarios == CIERTO) vornsave_datos->fila->lineas.salta(vornsave_datos->donde);
 }

@@ -5,7 +5,6 @@
 #include "foundation/suelo/utf_int.h"
 #include "foundation/texto/unicode.h"
 #include <algorithm>
-#include <cstring>
 
 using namespace vn;
 
@@ -28,27 +27,6 @@ char *lee_cadena_de(vornsave *vornsave_datos, bool ansi) {
 }
 
 } // namespace
-
-propio<uint8_t> vn::lee_bytes(vornsave *vornsave_datos, uint32_t &tamanyo, uint32_t trozo) {
-    tamanyo = acota(vornsave_datos, tamanyo, 1);
-    const auto nuevo = [](uint32_t n) { return static_cast<uint8_t *>(vornspy_calloc(size_t(n) + 1, 1)); };
-    uint32_t caben = primer_paso(vornsave_datos, tamanyo), hechos = 0;
-    propio<uint8_t> bytes(nuevo(caben));
-    for (const vigia guarda(vornsave_datos); hechos < tamanyo;) {
-        const uint32_t n = std::min({trozo, tamanyo - hechos, std::max(caben, 1u)});
-        if (caben - hechos < n) { // the source cannot tell its size: what has come doubles the room
-            caben = static_cast<uint32_t>(std::min<uint64_t>(tamanyo, uint64_t(caben) * 2 + n));
-            propio<uint8_t> mayor(nuevo(caben));
-            std::memcpy(mayor.get(), bytes.get(), hechos);
-            bytes = std::move(mayor);
-        }
-        vornsave_datos->fncs_leer->fncptr_lee_buffer(bytes.get() + hechos, n, vornsave_datos->datos_destino);
-        hechos += n;
-        if (!guarda.sigue()) break;
-    }
-    tamanyo = caben;
-    return bytes;
-}
 
 // ---- ANSI texts
 
@@ -80,7 +58,7 @@ void vornsave_graba_cadena_campo(const char *valor, const char *campo, vornsave 
 char *vornsave_lee_cadena_campo(vornsave *vornsave_datos, const char *campo) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return nullptr;
     if (!AFIRMA_NO_NULO(campo)) return nullptr;
-    AFIRMA(vornsave_datos->ANSI == CIERTO); // fields were born after the OEM texts
+    AFIRMA(vornsave_datos->ANSI == CIERTO); // no file of the OEM times has this form
     return lee<LEER(cadena_campo)>(vornsave_datos, campo);
 }
 
@@ -134,7 +112,8 @@ void vornsave_graba_cadena_como_buffer(const char *texto, vornsave *vornsave_dat
 char *vornsave_lee_cadena_como_buffer(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(ulong)>(vornsave_datos) || !puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
     uint32_t longitud = lee<LEER(ulong)>(vornsave_datos);
-    return reinterpret_cast<char *>(lee_bytes(vornsave_datos, longitud, UINT32_MAX).release());
+    if (longitud == 0) return cad_copia_cadena(""); // no bytes were written, not even none
+    return reinterpret_cast<char *>(lee_bytes(*vornsave_datos, longitud, UINT32_MAX).release());
 }
 
 void vornsave_graba_buffer(const void *datos_buffer, uint32_t tamanyo, vornsave *vornsave_datos) {
@@ -145,12 +124,12 @@ void vornsave_graba_buffer(const void *datos_buffer, uint32_t tamanyo, vornsave 
 uint8_t *vornsave_lee_buffer(uint32_t tamanyo, vornsave *vornsave_datos) {
     if (!puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
     uint32_t leidos = tamanyo;
-    propio<uint8_t> bytes = lee_bytes(vornsave_datos, leidos, UINT32_MAX);
+    propio<uint8_t> bytes = lee_bytes(*vornsave_datos, leidos, UINT32_MAX);
     return leidos == tamanyo ? bytes.release() : nullptr; // the caller takes it for as long as was asked
 }
 
 void vornsave_salta_buffer(uint32_t tamanyo, vornsave *vornsave_datos) {
-    if (puede_leer<LEER(buffer)>(vornsave_datos)) lee_bytes(vornsave_datos, tamanyo, UINT32_MAX);
+    if (puede_leer<LEER(buffer)>(vornsave_datos)) lee_bytes(*vornsave_datos, tamanyo, UINT32_MAX);
 }
 
 void vornsave_graba_fichmem(const fichmem *fichero, vornsave *vornsave_datos) {
@@ -168,7 +147,8 @@ fichmem *vornsave_lee_fichmem(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(ulong)>(vornsave_datos) || !puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
     progreso_al_leer(vornsave_datos);
     uint32_t longitud = lee<LEER(ulong)>(vornsave_datos);
-    propio<uint8_t> bytes = lee_bytes(vornsave_datos, longitud, i_TAMANO_TROZO_FICHMEM);
+    propio<uint8_t> bytes;
+    if (longitud > 0) bytes = lee_bytes(*vornsave_datos, longitud, i_TAMANO_TROZO_FICHMEM);
     if (longitud == 0) return fichmem_crea32(nullptr, 0);
     unsigned char *datos = bytes.get();
     fichmem *fichero = fichmem_crea_original32(&datos, longitud);

@@ -54,7 +54,7 @@ void vornsave_graba_bool_con_texto(vnbool valor, vornsave *vornsave_datos, const
     if (!puede_grabar<GRABAR(bool_texto)>(vornsave_datos)) return;
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto1))) return;
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto2))) return;
-    vornsave_datos->fncs_grabar->fncptr_graba_bool_texto(vornsave_datos->datos_destino, valor, texto1, texto2);
+    graba<GRABAR(bool_texto)>(vornsave_datos, valor, texto1, texto2);
 }
 
 vnbool vornsave_lee_bool_con_texto(vornsave *vornsave_datos, const char *texto1, const char *texto2) {
@@ -152,7 +152,7 @@ int64_t vornsave_lee_time(vornsave *vornsave_datos) {
 
 void vornsave_graba_time32(int64_t valor, vornsave *vornsave_datos) {
     if (!puede_grabar<GRABAR(long)>(vornsave_datos)) return;
-    if (valor < INT32_MIN || valor > INT32_MAX) falla(vornsave_datos); // reported by the conversion
+    if (valor < INT32_MIN || valor > INT32_MAX) vornsave_datos->falla(); // reported by the conversion
     vornsave_graba_long(cambtipo_time_t_a_long(valor), vornsave_datos);
 }
 

@@ -10,14 +10,9 @@ namespace {
 
 // The position as the bar takes it; false, reported, where there is none.
 bool posicion_de_barra(const vornsave *vornsave_datos, uint32_t &valor) {
-    int64_t posicion = 0;
-    if (vornsave_datos->fncptr_get_posicion64 != nullptr) {
-        posicion = vornsave_datos->fncptr_get_posicion64(vornsave_datos->datos_destino);
-    } else {
-        if (!AFIRMA_TEXTO(vornsave_datos->fncptr_get_posicion != nullptr, "(vornsave->fncptr_get_posicion) != NULL"))
-            return false;
-        posicion = vornsave_datos->fncptr_get_posicion(vornsave_datos->datos_destino);
-    }
+    const posiciones_t &p = vornsave_datos->fila->posiciones;
+    if (!AFIRMA_TEXTO(p.get != nullptr, "(vornsave->fncptr_get_posicion) != NULL")) return false;
+    const int64_t posicion = p.get64 != nullptr ? p.get64(vornsave_datos->donde) : p.get(vornsave_datos->donde);
     if (!AFIRMA(posicion >= 0)) return false;
     valor = static_cast<uint32_t>(std::min<int64_t>(posicion, UINT32_MAX));
     return true;
@@ -55,11 +50,9 @@ void vornsave_nousar_inicia_progreso_grabacion(vornsave *vornsave_no_const, void
                                                vnfunc_prgs_valor func_prgs_valor_barra_progreso,
                                                vnfunc_prgs_fin func_prgs_fin_barra_progreso,
                                                vnfunc_prgs_refresca func_prgs_refresca) {
-    if (!AFIRMA_NO_NULO(vornsave_no_const)) return;
-    if (!AFIRMA_NO_NULO(func_prgs_inicia_barra_progreso)) return;
-    if (!AFIRMA_NO_NULO(func_prgs_valor_barra_progreso)) return;
-    if (!AFIRMA_NO_NULO(func_prgs_fin_barra_progreso)) return;
-    if (!AFIRMA_NO_NULO(func_prgs_refresca)) return;
+    if (!EXIGE(vornsave_no_const, func_prgs_inicia_barra_progreso, func_prgs_valor_barra_progreso,
+               func_prgs_fin_barra_progreso, func_prgs_refresca))
+        return;
     if (!AFIRMA(vornsave_no_const->con_progreso == FALSO)) return;
     vornsave_no_const->datos_prgs = datos_prgs;
     vornsave_no_const->func_prgs_inicia_barra_progreso = func_prgs_inicia_barra_progreso;
@@ -80,17 +73,16 @@ void vornsave_nousar_inicia_progreso_lectura(vornsave *vornsave_no_const, void *
     if (!AFIRMA_TEXTO(func_prgs_inicia_barra_progreso != nullptr,
                       "(vornsave->func_prgs_inicia_barra_progreso) != NULL"))
         return;
-    if (!AFIRMA_NO_NULO(func_prgs_valor_barra_progreso)) return;
-    if (!AFIRMA_NO_NULO(func_prgs_fin_barra_progreso)) return;
+    if (!EXIGE(func_prgs_valor_barra_progreso, func_prgs_fin_barra_progreso)) return;
     if (!AFIRMA(vornsave_no_const->con_progreso == FALSO)) return;
-    if (!AFIRMA_TEXTO(vornsave_no_const->fncptr_get_tamanyo != nullptr, "(vornsave->fncptr_get_tamanyo) != NULL"))
-        return;
+    const auto get_tamanyo = vornsave_no_const->fila->posiciones.tamanyo;
+    if (!AFIRMA_TEXTO(get_tamanyo != nullptr, "(vornsave->fncptr_get_tamanyo) != NULL")) return;
     vornsave_no_const->datos_prgs = datos_prgs;
     vornsave_no_const->func_prgs_inicia_barra_progreso = func_prgs_inicia_barra_progreso;
     vornsave_no_const->func_prgs_valor_barra_progreso = func_prgs_valor_barra_progreso;
     vornsave_no_const->func_prgs_fin_barra_progreso = func_prgs_fin_barra_progreso;
     vornsave_no_const->con_progreso = CIERTO;
-    vornsave_no_const->posicion_final_prgs = vornsave_no_const->fncptr_get_tamanyo(vornsave_no_const->datos_destino);
+    vornsave_no_const->posicion_final_prgs = get_tamanyo(vornsave_no_const->donde);
     func_prgs_inicia_barra_progreso(datos_prgs, vornsave_no_const->posicion_final_prgs);
     refresca_lectura(vornsave_no_const);
 }

@@ -6,21 +6,20 @@ using namespace vn;
 
 namespace {
 
-using dueno_punteros = std::unique_ptr<arrPuntero, suelta<arr_DestruyePunteroConTipo>>;
 void destruye_array(void *array) { arr_DestruyePunteroConTipo(static_cast<arrPuntero **>(array)); }
 void destruye_arrays(arrPuntero **arrays) { arr_DestruyeEstructurasArrayConTipo(arrays, destruye_array); }
 void destruye_xpriv(arrPunto2DXPriv **a) { arr_DestruyePunto2DXPriv(a, nullptr); }
 
-// A count of structures. One may be of no byte at all: so many are let through whatever is left.
+// A count of structures. A structure may be empty, so up to 65,536 are accepted without asking what is left.
 template <progreso PROGRESO = CON_PROGRESO> uint32_t lee_numero(vornsave *d) {
     constexpr uint32_t SIN_BYTES = 65536;
     const uint32_t n = lee<LEER(ulong), PROGRESO>(d);
-    return n <= SIN_BYTES ? n : acota(d, n, 1);
+    return n <= SIN_BYTES ? n : d->acota(n, 1);
 }
 
 // Reads the structures one by one and hands each over; what a failed reader still made is handed over too.
 template <class LEE, class RECIBE> void lee_estructuras(vornsave *d, uint32_t n, LEE lee_una, RECIBE recibe) {
-    const vigia guarda(d);
+    const vigia guarda(*d);
     for (uint32_t i = 0; i < n && guarda.sigue(); ++i) {
         void *p = lee_una();
         if (p != nullptr || guarda.sigue()) recibe(p);
@@ -30,7 +29,7 @@ template <class LEE, class RECIBE> void lee_estructuras(vornsave *d, uint32_t n,
 template <class LEE> arrPuntero *lee_punteros(vornsave *d, LEE lee_una) {
     if (!puede_leer<LEER(ulong)>(d)) return nullptr;
     const uint32_t n = lee_numero(d);
-    dueno_punteros array(arr_CreaPunteroConTipo(0));
+    dueno<arr_DestruyePunteroConTipo> array(arr_CreaPunteroConTipo(0));
     lee_estructuras(d, n, lee_una, [&](void *p) { arr_AppendPunteroConTipo(array.get(), p); });
     return array.release();
 }
@@ -40,8 +39,7 @@ template <class LEE> apunorde *lee_conjunto(vornsave *d, LEE lee_una, vnfunc_com
     if (!AFIRMA_NO_NULO(comparador)) return nullptr;
     if (!puede_leer<LEER(ulong)>(d)) return nullptr;
     const uint32_t n = lee_numero(d);
-    std::unique_ptr<apunorde, suelta<apunorde_nousar_destruye>> array(
-        apunorde_nousar_crea(comparador, dato, destructor));
+    dueno<apunorde_nousar_destruye> array(apunorde_nousar_crea(comparador, dato, destructor));
     lee_estructuras(d, n, lee_una, [&](void *p) { apunorde_nousar_inserta_original(array.get(), p, nullptr); });
     return array.release();
 }
@@ -78,7 +76,7 @@ void vornsave_nousar_salta_arr_punteros_ST(vornsave *vornsave_datos, vnfunc_salt
     if (!AFIRMA_NO_NULO(fncptr_salta_datos)) return;
     if (!puede_leer<LEER(ulong)>(vornsave_datos)) return;
     const uint32_t n = lee_numero<SIN_PROGRESO>(vornsave_datos);
-    const vigia guarda(vornsave_datos);
+    const vigia guarda(*vornsave_datos);
     for (uint32_t i = 0; i < n && guarda.sigue(); ++i) fncptr_salta_datos(vornsave_datos);
 }
 
@@ -98,8 +96,8 @@ void vornsave_graba_arr_punteros_array(const arrPuntero *array, vornsave *vornsa
 arrPuntero *vornsave_lee_arr_punteros_array(vornsave *vornsave_datos, vnfunc_lee_dato funcion) {
     if (!AFIRMA_NO_NULO(funcion)) return nullptr;
     if (!puede_leer<LEER(ulong)>(vornsave_datos)) return nullptr;
-    const uint32_t n = acota(vornsave_datos, vornsave_lee_ulong(vornsave_datos), sizeof(uint32_t), 2);
-    std::unique_ptr<arrPuntero, suelta<destruye_arrays>> arrays(arr_CreaPunteroConTipo(0));
+    const uint32_t n = vornsave_datos->acota(vornsave_lee_ulong(vornsave_datos), sizeof(uint32_t), 2);
+    dueno<destruye_arrays> arrays(arr_CreaPunteroConTipo(0));
     lee_estructuras(
         vornsave_datos, n, [=] { return vornsave_lee_arr_punteros(vornsave_datos, funcion); },
         [&](void *p) { arr_AppendPunteroConTipo(arrays.get(), p); });
@@ -151,8 +149,8 @@ void vornsave_graba_arr_puntos2DXPriv(const arrPunto2DXPriv *array, vornsave *vo
 arrPunto2DXPriv *vornsave_lee_arr_puntos2DXPriv(vornsave *vornsave_datos, vnfunc_lee_dato lee_datos) {
     if (!puede_leer<LEER(ulong)>(vornsave_datos) || !puede_leer<LEER(double)>(vornsave_datos)) return nullptr;
     if (!AFIRMA_NO_NULO(lee_datos)) return nullptr;
-    const uint32_t n = acota(vornsave_datos, vornsave_lee_ulong(vornsave_datos), sizeof(Punto2D), 4);
-    std::unique_ptr<arrPunto2DXPriv, suelta<destruye_xpriv>> array(arr_CreaPunto2DXPriv(0));
+    const uint32_t n = vornsave_datos->acota(vornsave_lee_ulong(vornsave_datos), sizeof(Punto2D), 4);
+    dueno<destruye_xpriv> array(arr_CreaPunto2DXPriv(0));
     double x = 0., y = 0.;
     lee_estructuras(
         vornsave_datos, n,

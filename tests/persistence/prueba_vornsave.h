@@ -28,7 +28,10 @@ class abierto {
         : f_(lc_fopen_u(ancho(ruta()).c_str(), ancho(std::string(modo) + (d.texto ? "t" : "b")).c_str())),
           datos_(d.texto ? vornsave_registra_txt(f_, d.comentarios ? CIERTO : FALSO) : vornsave_registra_bin(f_)) {
         f_->etiquetas_al_leer = f_->etiquetas_al_escribir = d.etiquetas;
-        if (d.sin_tamanyo) datos_->quedan = nullptr;
+        if (!d.sin_tamanyo) return;
+        sin_tamanyo_ = *datos_->fila;
+        sin_tamanyo_.quedan = nullptr;
+        datos_->fila = &sin_tamanyo_;
     }
     ~abierto() {
         // What a damaged file leaves open is not this fixture's affair.
@@ -46,6 +49,7 @@ class abierto {
   private:
     vnfichero *f_;
     vornsave *datos_;
+    destino sin_tamanyo_{};
 };
 
 // What `escribe` writes there, as bytes.

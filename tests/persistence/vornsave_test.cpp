@@ -160,7 +160,7 @@ PRUEBA(vornsave, un_guardado_sin_sentido_deja_el_fichero_de_antes) {
          [](vornsave *d) {
              vornsave_graba_inicio_bloque64("todo", d);
              vornsave_graba_inicio_seccion("larga", d);
-             vornio_fseek_i64(static_cast<vnfichero *>(d->datos_destino), int64_t(1) << 31, VN_DESDE_EL_PRINCIPIO);
+             vornio_fseek_i64(static_cast<vnfichero *>(d->donde), int64_t(1) << 31, VN_DESDE_EL_PRINCIPIO);
              vornsave_graba_fin_seccion("larga", d);
              vornsave_graba_fin_bloque64("todo", d);
          }},
