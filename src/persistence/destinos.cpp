@@ -25,9 +25,18 @@ propio<uint8_t> lee_bytes(const conducto &c, uint32_t &tamanyo, uint32_t trozo) 
     const auto nuevo = [](uint32_t n) {
         return propio<uint8_t>(static_cast<uint8_t *>(vornspy_calloc(size_t(n) + 1, 1)));
     };
-    // Where the source wants its pieces as they were written, the first one's room is taken on trust.
+    propio<uint8_t> bytes;
     uint32_t caben = libres ? c.primer_paso(tamanyo) : std::min(trozo, tamanyo), hechos = 0;
-    propio<uint8_t> bytes = nuevo(caben);
+    if (libres || c.fila->quedan != nullptr) {
+        bytes = nuevo(caben);
+    } else { // a piece is read as it was written: the room for one is taken on trust, if there is so much
+        bytes.reset(static_cast<uint8_t *>(vornspy_reserva_seguro(size_t(caben) + 1, 1, CIERTO, VN_AQUI)));
+        if (bytes == nullptr) {
+            c.error_leyendo();
+            tamanyo = 0;
+            return nuevo(0);
+        }
+    }
     if (tamanyo == 0 && (pedidos > 0 || libres)) return bytes;
     const vigia guarda(c);
     do {

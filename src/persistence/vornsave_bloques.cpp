@@ -334,15 +334,17 @@ void vornsave_ir_final_seccion(const char *id_seccion, vornsave *vornsave_datos)
     const i_marca_t *marca = ultima_marca(vornsave_datos);
     if (marca == nullptr) return;
     if (!AFIRMA(cad_cadenas_iguales(marca->id_marca, id_seccion) == CIERTO)) vornsave_datos->falla();
-    switch (marca->clase) {
-    case MARCA_32:
-        if (hay_posiciones(vornsave_datos, MARCA_32)) ve_a(vornsave_datos, MARCA_32, marca->posicion_final);
-        break;
-    case MARCA_64:
-        if (hay_posiciones(vornsave_datos, MARCA_64)) ve_a(vornsave_datos, MARCA_64, marca->posicion_final64);
-        break;
-    default: AFIRMA_DEFECTO();
+    const auto clase = static_cast<clase_marca>(marca->clase);
+    if (clase != MARCA_32 && clase != MARCA_64) {
+        AFIRMA_DEFECTO();
+        return;
     }
+    if (!hay_posiciones(vornsave_datos, clase)) return;
+    // What is no section that is being read has no end here yet: none is gone to that the source does not have.
+    const int64_t fin = clase == MARCA_32 ? marca->posicion_final : marca->posicion_final64,
+                  desde = aqui(vornsave_datos);
+    if (fin <= desde || vornsave_datos->quedan(static_cast<uint64_t>(fin - desde), 1)) ve_a(vornsave_datos, clase, fin);
+    else vornsave_datos->error_leyendo();
 }
 
 void vornsave_lee_final_seccion(const char *id_seccion, vornsave *vornsave_datos) {

@@ -165,6 +165,13 @@ PRUEBA(vornsave_bloques, los_finales_danyados_no_hacen_dar_vueltas) {
         EXPECT_EQ(vornsave_se_inicia_lectura_bloque("B", d), CIERTO);
         ESPERA_INFORME("se_lee_final_bloque == CIERTO", vornsave_lee_final_bloque("B", d));
     });
+    // A block that is being read is no section: its end is not gone to as if it were one.
+    leido(EN_BIN, bytes("B\0\6\0\0\0B\0"), [](vornsave *d) {
+        EXPECT_EQ(vornsave_se_inicia_lectura_bloque("B", d), CIERTO);
+        ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_ir_final_seccion("B", d));
+        EXPECT_EQ(vornsave_get_posicion(d), 6);
+        vornsave_lee_final_bloque("B", d);
+    });
     leido(EN_BIN, "", [](vornsave *d) {
         EXPECT_EQ(toma(ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_lee_seccion(d))), "");
     });
