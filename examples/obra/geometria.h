@@ -7,7 +7,7 @@
 
 namespace obra {
 
-using dueno_rectangulo = std::unique_ptr<rectangulo_t, suelta<rec_Destruye>>;
+using dueno_rectangulo = vn::dueno<rec_Destruye>;
 
 struct geometria_capa {
     // Circles, whole ellipses, closed polylines, and rings of lines, arcs and open polylines end to end.

@@ -1,6 +1,8 @@
 #include "plano_fichero.h"
 #include "posesion.h"
+#include <algorithm>
 #include <nucleos/foundation/suelo/trapable.h>
+#include <nucleos/persistence/registro.hpp>
 #include <nucleos/persistence/vornbin.h>
 #include <utility>
 
@@ -11,137 +13,105 @@
 namespace obra {
 namespace {
 
-// ---------------------------------------------------------------- writing
-dueno_puntos puntos_de(size_t n) { return dueno_puntos(arr_CreaPunto2D(static_cast<uint32_t>(n))); }
-dueno_doubles doubles_de(size_t n) { return dueno_doubles(arr_CreaDouble(static_cast<uint32_t>(n))); }
-
-// Arrays of the library out of what `saca(i)` gives for each index.
-template <class F> dueno_puntos puntos(size_t n, F saca) {
-    dueno_puntos a = puntos_de(n);
-    for (size_t i = 0; i < n; ++i) {
-        const Punto2D p = saca(i);
-        arr_SetPunto2D(a.get(), static_cast<uint32_t>(i), p.x, p.y);
+// ---------------------------------------------------------------- what is stored, written and read by the same words
+template <class A> void describe_colores(A &a, size_t num_entidades, colores &c) {
+    constexpr double MEDIO_COLOR = 0.5, MAXIMO_COLOR = 0x1FFFFFF; // colours are whole numbers
+    std::vector<double> valores(c.begin(), c.end());
+    a(vn::iguales{valores, MEDIO_COLOR, num_entidades, "num_valores_iguales == num_entidades"});
+    if constexpr (A::LEE) {
+        const bool son =
+            std::all_of(valores.begin(), valores.end(), [](double x) { return x >= 0 && x <= MAXIMO_COLOR; });
+        if (!a.exige(son, "color >= 0 && color <= MAXIMO_COLOR")) return;
+        c.clear();
+        for (const double x : valores) c.push_back(static_cast<uint32_t>(x));
     }
-    return a;
-}
-template <class F> dueno_doubles doubles(size_t n, F saca) {
-    dueno_doubles a = doubles_de(n);
-    for (size_t i = 0; i < n; ++i) arr_SetDouble(a.get(), static_cast<uint32_t>(i), saca(i));
-    return a;
 }
 
-void graba_colores(const colores &c, vornsave *s) {
-    const double MEDIO_COLOR = 0.5; // colours are whole numbers
-    vornsave_graba_arr_double_con_valores_iguales(doubles(c.size(), [&](size_t i) { return c[i]; }).get(), MEDIO_COLOR,
-                                                  s);
-}
-
-void graba_lineas(const capa &c, vornsave *s) {
-    vornsave_graba_arr_puntos2D(
-        puntos(2 * c.lineas.size(), [&](size_t i) { return i % 2 == 0 ? c.lineas[i / 2].a : c.lineas[i / 2].b; }).get(),
-        s);
-    graba_colores(c.color_lineas, s);
-}
-
-void graba_circulos(const capa &c, vornsave *s) {
-    vornsave_graba_arr_puntos2D(puntos(c.circulos.size(), [&](size_t i) { return c.circulos[i].centro; }).get(), s);
-    vornsave_graba_arr_double(doubles(c.circulos.size(), [&](size_t i) { return c.circulos[i].radio; }).get(), s);
-    graba_colores(c.color_circulos, s);
-}
-
-void graba_arcos(const capa &c, vornsave *s) {
-    vornsave_graba_arr_puntos2D(puntos(c.arcos.size(), [&](size_t i) { return c.arcos[i].centro; }).get(), s);
-    vornsave_graba_arr_double(doubles(3 * c.arcos.size(),
-                                      [&](size_t i) {
-                                          const arco &a = c.arcos[i / 3];
-                                          return i % 3 == 0 ? a.radio : i % 3 == 1 ? a.desde : a.hasta;
-                                      })
-                                  .get(),
-                              s);
-    graba_colores(c.color_arcos, s);
-}
-
-void graba_polilineas(const capa &c, vornsave *s) {
-    const dueno_ulongs cuantos(arr_CreaULong(0));
-    const dueno_uchars cerradas(arr_CreaUChar(0));
+// The vertices of all polylines one after another, and how many each has.
+struct vertices_seguidos {
+    std::vector<uint32_t> cuantos;
+    std::vector<uint8_t> cerradas;
     std::vector<Punto2D> vertices;
     std::vector<double> curvaturas;
-    for (const polilinea &p : c.polilineas) {
-        arr_AppendULong(cuantos.get(), static_cast<uint32_t>(p.vertices.size()));
-        arr_AppendUChar(cerradas.get(), p.cerrada ? 1 : 0);
-        vertices.insert(vertices.end(), p.vertices.begin(), p.vertices.end());
-        curvaturas.insert(curvaturas.end(), p.curvaturas.begin(), p.curvaturas.end());
+};
+vertices_seguidos de(const std::vector<polilinea> &polilineas) {
+    vertices_seguidos s;
+    for (const polilinea &p : polilineas) {
+        s.cuantos.push_back(static_cast<uint32_t>(p.vertices.size()));
+        s.cerradas.push_back(p.cerrada ? 1 : 0);
+        s.vertices.insert(s.vertices.end(), p.vertices.begin(), p.vertices.end());
+        s.curvaturas.insert(s.curvaturas.end(), p.curvaturas.begin(), p.curvaturas.end());
     }
-    vornsave_graba_arr_ulong(cuantos.get(), s);
-    vornsave_graba_arr_uchar(cerradas.get(), s);
-    vornsave_graba_arr_puntos2D(puntos(vertices.size(), [&](size_t i) { return vertices[i]; }).get(), s);
-    vornsave_graba_arr_double_con_valores_iguales(
-        doubles(curvaturas.size(), [&](size_t i) { return curvaturas[i]; }).get(), 0, s);
-    graba_colores(c.color_polilineas, s);
+    return s;
+}
+std::vector<polilinea> a_polilineas(const vn::lector &a, const vertices_seguidos &s) {
+    std::vector<polilinea> polilineas;
+    if (!a.exige(s.cerradas.size() == s.cuantos.size(), "num_cerradas == num_polilineas")) return {};
+    size_t desde = 0;
+    for (size_t i = 0; i < s.cuantos.size(); ++i) {
+        const size_t k = s.cuantos[i];
+        if (!a.exige(k <= s.vertices.size() - desde, "num_vertices_polilinea <= num_vertices")) return {};
+        const auto d = static_cast<std::ptrdiff_t>(desde), h = static_cast<std::ptrdiff_t>(desde + k);
+        polilineas.push_back({s.cerradas[i] != 0,
+                              {s.vertices.begin() + d, s.vertices.begin() + h},
+                              {s.curvaturas.begin() + d, s.curvaturas.begin() + h}});
+        desde += k;
+    }
+    a.exige(desde == s.vertices.size(), "suma_vertices == num_vertices");
+    return polilineas;
+}
+template <class A> void describe_polilineas(A &a, capa &c) {
+    vertices_seguidos s = de(c.polilineas);
+    a(s.cuantos)(s.cerradas)(s.vertices);
+    a(vn::iguales{s.curvaturas, 0, s.vertices.size(), "num_valores_iguales == num_entidades"});
+    if constexpr (A::LEE) c.polilineas = a_polilineas(a, s);
+    describe_colores(a, c.polilineas.size(), c.color_polilineas);
 }
 
-void graba_elipses(const capa &c, vornsave *s) {
-    if (c.elipses.empty()) return;
-    vornsave_graba_inicio_bloque("ELIPSES", s);
-    vornsave_graba_arr_puntos2D(
-        puntos(2 * c.elipses.size(),
-               [&](size_t i) { return i % 2 == 0 ? c.elipses[i / 2].centro : c.elipses[i / 2].eje; })
-            .get(),
-        s);
-    vornsave_graba_arr_double(doubles(3 * c.elipses.size(),
-                                      [&](size_t i) {
-                                          const elipse &e = c.elipses[i / 3];
-                                          return i % 3 == 0 ? e.razon : i % 3 == 1 ? e.desde : e.hasta;
-                                      })
-                                  .get(),
-                              s);
-    graba_colores(c.color_elipses, s);
-    vornsave_graba_fin_bloque("ELIPSES", s);
+} // namespace
+
+template <class A> void describe(A &a, capa &c) {
+    a(c.nombre)(c.tipo_linea)(c.color)(c.apagada);
+    a.elementos("num_extremos % 2 == 0", c.lineas, &linea::a, &linea::b);
+    describe_colores(a, c.lineas.size(), c.color_lineas);
+    a.elementos("", c.circulos, &circulo::centro);
+    a.columna("num_radios == num_centros", c.circulos, &circulo::radio);
+    describe_colores(a, c.circulos.size(), c.color_circulos);
+    a.elementos("", c.arcos, &arco::centro);
+    a.columna("num_datos == 3 * num_centros", c.arcos, &arco::radio, &arco::desde, &arco::hasta);
+    describe_colores(a, c.arcos.size(), c.color_arcos);
+    describe_polilineas(a, c);
+    a.bloque("ELIPSES", !c.elipses.empty(), [&] {
+        constexpr const char *SEIS_NUMEROS = "num_datos == 3 * num_elipses";
+        a.elementos(SEIS_NUMEROS, c.elipses, &elipse::centro, &elipse::eje);
+        a.columna(SEIS_NUMEROS, c.elipses, &elipse::razon, &elipse::desde, &elipse::hasta);
+        describe_colores(a, c.elipses.size(), c.color_elipses);
+    });
+    a.bloque("TEXTOS", !c.rotulos.empty(), [&] {
+        a.elementos("", c.rotulos, &rotulo::en);
+        a.columna_de_iguales("num_valores_iguales == num_entidades", c.rotulos, &rotulo::altura, 0);
+        a.columna_de_iguales("num_valores_iguales == num_entidades", c.rotulos, &rotulo::angulo, 0);
+        a.columna("num_textos == num_puntos", c.rotulos, &rotulo::letras);
+        describe_colores(a, c.rotulos.size(), c.color_rotulos);
+    });
 }
 
-void graba_rotulos(const capa &c, vornsave *s) {
-    if (c.rotulos.empty()) return;
-    vornsave_graba_inicio_bloque("TEXTOS", s);
-    vornsave_graba_arr_puntos2D(puntos(c.rotulos.size(), [&](size_t i) { return c.rotulos[i].en; }).get(), s);
-    vornsave_graba_arr_double_con_valores_iguales(
-        doubles(c.rotulos.size(), [&](size_t i) { return c.rotulos[i].altura; }).get(), 0, s);
-    vornsave_graba_arr_double_con_valores_iguales(
-        doubles(c.rotulos.size(), [&](size_t i) { return c.rotulos[i].angulo; }).get(), 0, s);
-    const dueno_cadenas_u letras(arr_CreaCADENA_u(0));
-    for (const rotulo &r : c.rotulos) arr_AppendCADENA_u(letras.get(), r.letras.c_str());
-    vornsave_graba_arr_cadenas_unicode(letras.get(), s);
-    graba_colores(c.color_rotulos, s);
-    vornsave_graba_fin_bloque("TEXTOS", s);
-}
-
-void graba_capa(const capa &c, vornsave *s) {
-    vornsave_graba_cadena_unicode(c.nombre.c_str(), s);
-    vornsave_graba_cadena_unicode(c.tipo_linea.c_str(), s);
-    vornsave_graba_ulong(c.color, s);
-    vornsave_graba_bool(c.apagada ? CIERTO : FALSO, s);
-    graba_lineas(c, s);
-    graba_circulos(c, s);
-    graba_arcos(c, s);
-    graba_polilineas(c, s);
-    graba_elipses(c, s);
-    graba_rotulos(c, s);
-}
-
-void graba_general(const plano &p, vornsave *s) {
-    vornsave_graba_cadena_unicode(p.version_dxf.c_str(), s);
-    vornsave_graba_double(p.metros_por_unidad, s);
-    const dueno_cadenas_u tipos(arr_CreaCADENA_u(0));
-    for (const texto &t : p.tipos_de_linea) arr_AppendCADENA_u(tipos.get(), t.c_str());
-    vornsave_graba_arr_cadenas_unicode(tipos.get(), s);
-    const dueno_cadenas clases(arr_CreaCADENA(0));
-    const dueno_ulongs cuantas(arr_CreaULong(0));
+// What is told of the drawing as a whole; its layers are sections of their own.
+template <class A> void describe(A &a, plano &p) {
+    std::vector<std::string> clases;
+    std::vector<uint32_t> cuantas;
     for (const auto &[clase, n] : p.sin_importar) {
-        arr_AppendCADENA(clases.get(), clase.c_str());
-        arr_AppendULong(cuantas.get(), n);
+        clases.push_back(clase);
+        cuantas.push_back(n);
     }
-    vornsave_graba_arr_cadenas(clases.get(), s);
-    vornsave_graba_arr_ulong(cuantas.get(), s);
+    a(p.version_dxf)(p.metros_por_unidad)(p.tipos_de_linea)(clases)(cuantas);
+    if constexpr (A::LEE) {
+        if (!a.exige(cuantas.size() == clases.size(), "num_cuentas == num_clases")) return;
+        for (size_t i = 0; i < clases.size(); ++i) p.sin_importar[clases[i]] = cuantas[i];
+    }
 }
+
+namespace {
 
 std::string nombre_de_seccion(size_t i) { return i == 0 ? "PLANO" : "CAPA " + std::to_string(i); }
 
@@ -158,139 +128,6 @@ void exige(bool cierto, const char *que) {
     exige_lo_leido();
 }
 
-std::vector<Punto2D> lee_puntos(vornsave *s) {
-    const dueno_puntos a(vornsave_lee_arr_puntos2D(s));
-    exige_lo_leido();
-    const Punto2D *p = arr_GetBufferConstPunto2D(a.get());
-    return {p, p + arr_NumElemsPunto2D(a.get())};
-}
-std::vector<double> vector_de(dueno_doubles a) {
-    exige_lo_leido();
-    const double *p = arr_GetBufferConstDouble(a.get());
-    return {p, p + arr_NumElemsDouble(a.get())};
-}
-std::vector<double> lee_doubles(vornsave *s) { return vector_de(dueno_doubles(vornsave_lee_arr_double(s))); }
-// As many as there must be: few bytes can stand for very many.
-std::vector<double> lee_iguales(size_t n, vornsave *s) {
-    dueno_doubles a(vornsave_lee_arr_double_con_valores_iguales(s));
-    exige_lo_leido();
-    exige(arr_NumElemsDouble(a.get()) == n, "num_valores_iguales == num_entidades");
-    return vector_de(std::move(a));
-}
-colores lee_colores(size_t n, vornsave *s) {
-    colores c;
-    for (const double x : lee_iguales(n, s)) {
-        exige(x >= 0 && x <= 0x1FFFFFF, "color >= 0 && color <= MAXIMO_COLOR");
-        c.push_back(static_cast<uint32_t>(x));
-    }
-    return c;
-}
-texto lee_texto(vornsave *s) {
-    const dueno_ancho t(vornsave_lee_cadena_unicode(s));
-    exige_lo_leido();
-    return t ? texto(t.get()) : texto();
-}
-std::vector<texto> lee_textos(vornsave *s) {
-    const dueno_cadenas_u a(vornsave_lee_arr_cadenas_unicode(s));
-    exige_lo_leido();
-    std::vector<texto> v;
-    for (uint32_t i = 0, n = arr_NumElemsCADENA_u(a.get()); i < n; ++i) v.emplace_back(arr_GetCADENA_u(a.get(), i));
-    return v;
-}
-
-void lee_lineas(capa &c, vornsave *s) {
-    const auto p = lee_puntos(s);
-    exige(p.size() % 2 == 0, "num_extremos % 2 == 0");
-    for (size_t i = 0; i < p.size(); i += 2) c.lineas.push_back({p[i], p[i + 1]});
-    c.color_lineas = lee_colores(c.lineas.size(), s);
-}
-
-void lee_circulos(capa &c, vornsave *s) {
-    const auto p = lee_puntos(s);
-    const auto r = lee_doubles(s);
-    exige(r.size() == p.size(), "num_radios == num_centros");
-    for (size_t i = 0; i < p.size(); ++i) c.circulos.push_back({p[i], r[i]});
-    c.color_circulos = lee_colores(p.size(), s);
-}
-
-void lee_arcos(capa &c, vornsave *s) {
-    const auto p = lee_puntos(s);
-    const auto d = lee_doubles(s);
-    exige(d.size() == 3 * p.size(), "num_datos == 3 * num_centros");
-    for (size_t i = 0; i < p.size(); ++i) c.arcos.push_back({p[i], d[3 * i], d[3 * i + 1], d[3 * i + 2]});
-    c.color_arcos = lee_colores(p.size(), s);
-}
-
-void lee_polilineas(capa &c, vornsave *s) {
-    const dueno_ulongs cuantos(vornsave_lee_arr_ulong(s));
-    const dueno_uchars cerradas(vornsave_lee_arr_uchar(s));
-    const auto vertices = lee_puntos(s);
-    const auto curvaturas = lee_iguales(vertices.size(), s);
-    const uint32_t n = arr_NumElemsULong(cuantos.get());
-    exige(arr_NumElemsUChar(cerradas.get()) == n, "num_cerradas == num_polilineas");
-    size_t desde = 0;
-    for (uint32_t i = 0; i < n; ++i) {
-        const size_t k = arr_GetULong(cuantos.get(), i);
-        exige(k <= vertices.size() - desde, "num_vertices_polilinea <= num_vertices");
-        const auto d = static_cast<std::ptrdiff_t>(desde), h = static_cast<std::ptrdiff_t>(desde + k);
-        c.polilineas.push_back({arr_GetUChar(cerradas.get(), i) != 0,
-                                {vertices.begin() + d, vertices.begin() + h},
-                                {curvaturas.begin() + d, curvaturas.begin() + h}});
-        desde += k;
-    }
-    exige(desde == vertices.size(), "suma_vertices == num_vertices");
-    c.color_polilineas = lee_colores(n, s);
-}
-
-void lee_elipses(capa &c, vornsave *s) {
-    if (vornsave_se_inicia_lectura_bloque("ELIPSES", s) == FALSO) return;
-    const auto p = lee_puntos(s);
-    const auto d = lee_doubles(s);
-    exige(p.size() % 2 == 0 && 2 * d.size() == 3 * p.size(), "num_datos == 3 * num_elipses");
-    for (size_t i = 0; i < p.size() / 2; ++i)
-        c.elipses.push_back({p[2 * i], p[2 * i + 1], d[3 * i], d[3 * i + 1], d[3 * i + 2]});
-    c.color_elipses = lee_colores(c.elipses.size(), s);
-    vornsave_lee_final_bloque("ELIPSES", s);
-}
-
-void lee_rotulos(capa &c, vornsave *s) {
-    if (vornsave_se_inicia_lectura_bloque("TEXTOS", s) == FALSO) return;
-    const auto p = lee_puntos(s);
-    const auto alturas = lee_iguales(p.size(), s), angulos = lee_iguales(p.size(), s);
-    const auto letras = lee_textos(s);
-    exige(letras.size() == p.size(), "num_textos == num_puntos");
-    for (size_t i = 0; i < p.size(); ++i) c.rotulos.push_back({p[i], alturas[i], angulos[i], letras[i]});
-    c.color_rotulos = lee_colores(p.size(), s);
-    vornsave_lee_final_bloque("TEXTOS", s);
-}
-
-capa lee_capa(vornsave *s) {
-    capa c;
-    c.nombre = lee_texto(s);
-    c.tipo_linea = lee_texto(s);
-    c.color = vornsave_lee_ulong(s);
-    c.apagada = vornsave_lee_bool(s) == CIERTO;
-    lee_lineas(c, s);
-    lee_circulos(c, s);
-    lee_arcos(c, s);
-    lee_polilineas(c, s);
-    lee_elipses(c, s);
-    lee_rotulos(c, s);
-    return c;
-}
-
-void lee_general(plano &p, vornsave *s) {
-    p.version_dxf = lee_texto(s);
-    p.metros_por_unidad = vornsave_lee_double(s);
-    p.tipos_de_linea = lee_textos(s);
-    const dueno_cadenas clases(vornsave_lee_arr_cadenas(s));
-    const dueno_ulongs cuantas(vornsave_lee_arr_ulong(s));
-    exige_lo_leido();
-    const uint32_t n = arr_NumElemsCADENA(clases.get());
-    exige(arr_NumElemsULong(cuantas.get()) == n, "num_cuentas == num_clases");
-    for (uint32_t i = 0; i < n; ++i) p.sin_importar[arr_GetCADENA(clases.get(), i)] = arr_GetULong(cuantas.get(), i);
-}
-
 void lee_secciones(obra_leida &o, vornsave *s) {
     const uint32_t n = vornsave_lee_ulong(s);
     for (uint32_t i = 0; i < n; ++i) {
@@ -298,10 +135,11 @@ void lee_secciones(obra_leida &o, vornsave *s) {
         const dueno_ansi id(vornsave_lee_seccion(s));
         exige_lo_leido();
         const std::string nombre = id.get();
-        if (nombre == "PLANO") lee_general(o.p, s);
-        else if (nombre.starts_with("CAPA ")) o.p.capas.push_back(lee_capa(s));
+        if (nombre == "PLANO") vn::lee_registro(o.p, s);
+        else if (nombre.starts_with("CAPA ")) vn::lee_registro(o.p.capas.emplace_back(), s);
         // A section of a later version is passed over.
         else vornsave_ir_final_seccion(nombre.c_str(), s);
+        exige_lo_leido();
         vornsave_lee_final_seccion(nombre.c_str(), s);
         exige_lo_leido();
         o.secciones.push_back({nombre, vornsave_get_posicion(s) - desde});
@@ -409,8 +247,8 @@ bool graba_obra(const texto &nombre, const plano &p, const texto &titulo, const 
         for (size_t i = 0; i <= p.capas.size(); ++i) {
             const std::string id = nombre_de_seccion(i);
             vornsave_graba_inicio_seccion(id.c_str(), s.get());
-            if (i == 0) graba_general(p, s.get());
-            else graba_capa(p.capas[i - 1], s.get());
+            if (i == 0) vn::graba_registro(p, s.get());
+            else vn::graba_registro(p.capas[i - 1], s.get());
             vornsave_graba_fin_seccion(id.c_str(), s.get());
         }
         estado.acabado = true;
