@@ -1,9 +1,10 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Axes out of points, vectors and angles; the equation of their plane.
+#include "geometry/ejes2d_construye.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/suelo/afirma_int.h"
-#include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
+#include "geometry/ejes2d_puntos.h"
 #include <cmath>
 
 using namespace vn;
@@ -58,7 +59,8 @@ double angulo_de_giro(double radianes) {
 
 // ---------------------------------------------------------------- out of points
 
-void ejes2d_ejes_con_dos_puntos(double x1, double y1, double z1, double x2, double y2, double z2, SALIDAS_EJES) {
+void ejes2d_ejes_con_dos_puntos(double x1, double y1, double z1, double x2, double y2, double z2,
+                                VN_EJES_ORIGEN_SALIDA_OPC, VN_EJES_UV_SALIDA) {
     if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     marco m{{x1, y1, z1}, {}, {}};
     if (mt_vector_director_de_dos_puntos_3D(x1, y1, z1, x2, y2, z2, &m.u.x, &m.u.y, &m.u.z) != CIERTO)
@@ -68,12 +70,12 @@ void ejes2d_ejes_con_dos_puntos(double x1, double y1, double z1, double x2, doub
 }
 
 void ejes2d_ejes_con_tres_puntos(double x1, double y1, double z1, double x2, double y2, double z2, double x3, double y3,
-                                 double z3, SALIDAS_EJES) {
+                                 double z3, VN_EJES_SALIDA_OPC) {
     A_SALIDAS(marco_de_tres_puntos({x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3}));
 }
 
 void ejes2d_ejes_de_una_cara(double x1, double y1, double z1, double x2, double y2, double z2, double x3, double y3,
-                             double z3, double x4, double y4, double z4, SALIDAS_EJES) {
+                             double z3, double x4, double y4, double z4, VN_EJES_SALIDA_OPC) {
     const Punto3D p1{x1, y1, z1}, p2{x2, y2, z2}, p3{x3, y3, z3}, p4{x4, y4, z4};
     marco m = marco_de_tres_puntos(p1, p2, p4);
     const double prod_escalar_pto_esta_en_plano = numeros::escalar(p3 - p1, numeros::vectorial(m.u, m.v));
@@ -85,7 +87,7 @@ void ejes2d_ejes_de_una_cara(double x1, double y1, double z1, double x2, double 
 
 // ---------------------------------------------------------------- out of a plane or a vector
 
-void ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(double A, double B, double C, SALIDAS_UV) {
+void ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(double A, double B, double C, VN_EJES_UV_SALIDA) {
     if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     const Punto3D v{0., 0., 1.};
     Punto3D u = numeros::vectorial(v, {A, B, C});
@@ -95,7 +97,8 @@ void ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(double A, doubl
     vn::numeros::da(Vx, Vy, Vz, v);
 }
 
-void ejes2d_ejes_para_proyectar_en_vertical_sobre_plano_ABCD(double A, double B, double C, double D, SALIDAS_EJES) {
+void ejes2d_ejes_para_proyectar_en_vertical_sobre_plano_ABCD(double A, double B, double C, double D,
+                                                             VN_EJES_SALIDA_OPC) {
     const Punto3D n{A, B, C};
     comprueba_unitario(n);
     marco m{-D * n, {}, {0., 0., 1.}};
@@ -108,17 +111,17 @@ void ejes2d_ejes_para_proyectar_en_vertical_sobre_plano_ABCD(double A, double B,
     A_SALIDAS(m);
 }
 
-void ejes2d_ejes_horizontales_dado_Ux_Uy(double x, double y, SALIDAS_UV) {
+void ejes2d_ejes_horizontales_dado_Ux_Uy(double x, double y, VN_EJES_UV_SALIDA) {
     if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     vn::numeros::da(Ux, Uy, Uz, {x, y, 0.});
     vn::numeros::da(Vx, Vy, Vz, {-y, x, 0.});
 }
 
-void ejes2d_ejes_horizontales_dado_angulo_rad(double angulo_rad, SALIDAS_UV) {
+void ejes2d_ejes_horizontales_dado_angulo_rad(double angulo_rad, VN_EJES_UV_SALIDA) {
     ejes2d_ejes_horizontales_dado_Ux_Uy(std::cos(angulo_rad), std::sin(angulo_rad), Ux, Uy, Uz, Vx, Vy, Vz);
 }
 
-void ejes2d_ejes_horizontales_a_partir_de_normal_del_plano(double Wx, double Wy, double Wz, SALIDAS_UV) {
+void ejes2d_ejes_horizontales_a_partir_de_normal_del_plano(double Wx, double Wy, double Wz, VN_EJES_UV_SALIDA_OPC) {
     const Punto3D w{Wx, Wy, Wz};
     comprueba_unitario(w);
     const Punto3D u = horizontal_de(w);
@@ -126,7 +129,8 @@ void ejes2d_ejes_horizontales_a_partir_de_normal_del_plano(double Wx, double Wy,
     vn::numeros::da(Vx, Vy, Vz, numeros::vectorial(w, u));
 }
 
-void ejes2d_ejes_horizontales_a_partir_de_ecuacion_del_plano(double A, double B, double C, double D, SALIDAS_EJES) {
+void ejes2d_ejes_horizontales_a_partir_de_ecuacion_del_plano(double A, double B, double C, double D,
+                                                             VN_EJES_SALIDA_OPC) {
     ejes2d_ejes_horizontales_a_partir_de_normal_del_plano(A, B, C, Ux, Uy, Uz, Vx, Vy, Vz);
     vn::numeros::da(Xo, Yo, Zo, -D * Punto3D{A, B, C});
 }
@@ -138,7 +142,7 @@ void ejes2d_eje_V_horizontal_a_partir_del_vector_U(double Ux, double Uy, double 
 
 // ---------------------------------------------------------------- angles of turn
 
-void ejes2d_ejes_de_angulos_giro_3d(double giro_x, double giro_y, double giro_z, SALIDAS_UV) {
+void ejes2d_ejes_de_angulos_giro_3d(double giro_x, double giro_y, double giro_z, VN_EJES_UV_SALIDA) {
     if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     const double x = -giro_x * numeros::PI / 180.0, y = -giro_y * numeros::PI / 180.0,
                  z = -giro_z * numeros::PI / 180.0;
@@ -149,7 +153,7 @@ void ejes2d_ejes_de_angulos_giro_3d(double giro_x, double giro_y, double giro_z,
     vn::numeros::da(Vx, Vy, Vz, {cx * sz + sx * (sy * cz), cx * cz - sx * (sy * sz), -(sx * cy)});
 }
 
-void ejes2d_angulos_giro_3d_de_ejes(UV, double *giro_x, double *giro_y, double *giro_z) {
+void ejes2d_angulos_giro_3d_de_ejes(VN_EJES_UV, double *giro_x, double *giro_y, double *giro_z) {
     if (!EXIGE(giro_x, giro_y, giro_z)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});
     Punto3D g;
@@ -161,15 +165,15 @@ void ejes2d_angulos_giro_3d_de_ejes(UV, double *giro_x, double *giro_y, double *
 
 // ---------------------------------------------------------------- equation of the plane
 
-void ejes2d_vector_director_plano(UV, double *Wx, double *Wy, double *Wz) {
+void ejes2d_vector_director_plano(VN_EJES_UV, double *Wx, double *Wy, double *Wz) {
     if (EXIGE(Wx, Wy, Wz)) vn::numeros::da(Wx, Wy, Wz, normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz}));
 }
 
-void ejes2d_ecuacion_del_plano(EJES, double *A, double *B, double *C, double *D) {
+void ejes2d_ecuacion_del_plano(VN_EJES, double *A, double *B, double *C, double *D) {
     if (EXIGE(A, B, C)) da(A, B, C, D, ecuacion_de(MARCO));
 }
 
-void ejes2d_ecuacion_del_plano_desplazado_en_z_local(EJES, double desplazamiento_z_local, double *A, double *B,
+void ejes2d_ecuacion_del_plano_desplazado_en_z_local(VN_EJES, double desplazamiento_z_local, double *A, double *B,
                                                      double *C, double *D) {
     if (!EXIGE(A, B, C)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});
@@ -191,13 +195,14 @@ void ejes2d_ecuacion_del_plano_dado_tres_puntos(double x1, double y1, double z1,
     if (EXIGE(A, B, C)) da(A, B, C, D, ecuacion_de(marco_de_tres_puntos({x1, y1, z1}, {x2, y2, z2}, {x3, y3, z3})));
 }
 
-double ejes2d_distancia_con_signo_punto_a_plano(EJES, double x, double y, double z) {
+double ejes2d_distancia_con_signo_punto_a_plano(VN_EJES, double x, double y, double z) {
     return ecuacion_de(MARCO).distancia({x, y, z});
 }
 
 // ---------------------------------------------------------------- the origin moved
 
-void ejes2d_posiciona_ejes_en_origen_cero_global_proyectado_sobre_el_plano(double *Xo, double *Yo, double *Zo, UV) {
+void ejes2d_posiciona_ejes_en_origen_cero_global_proyectado_sobre_el_plano(double *Xo, double *Yo, double *Zo,
+                                                                           VN_EJES_UV) {
     if (!EXIGE(Xo, Yo, Zo)) return;
     const ecuacion e = ecuacion_de({{*Xo, *Yo, *Zo}, {Ux, Uy, Uz}, {Vx, Vy, Vz}});
     Punto3D o;
@@ -209,12 +214,12 @@ void ejes2d_posiciona_ejes_en_origen_cero_global_proyectado_sobre_el_plano(doubl
     vn::numeros::da(Xo, Yo, Zo, o);
 }
 
-void ejes2d_desplaza_ejes(double *Xo, double *Yo, double *Zo, UV, double desplazamiento) {
+void ejes2d_desplaza_ejes(double *Xo, double *Yo, double *Zo, VN_EJES_UV, double desplazamiento) {
     if (!EXIGE(Xo, Yo, Zo)) return;
     ejes2d_desplaza_ejes_ex(*Xo, *Yo, *Zo, Ux, Uy, Uz, Vx, Vy, Vz, desplazamiento, Xo, Yo, Zo);
 }
 
-void ejes2d_desplaza_ejes_ex(EJES, double desplazamiento, double *Xo_desplazado, double *Yo_desplazado,
+void ejes2d_desplaza_ejes_ex(VN_EJES, double desplazamiento, double *Xo_desplazado, double *Yo_desplazado,
                              double *Zo_desplazado) {
     if (!EXIGE(Xo_desplazado, Yo_desplazado, Zo_desplazado)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});

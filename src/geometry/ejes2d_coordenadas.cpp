@@ -1,11 +1,11 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Points, vectors and lines from global to local and back.
+#include "geometry/ejes2d_coordenadas.h"
 #include "foundation/listas/arr.h"
 #include "foundation/numeros/afin.hpp"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/logico_int.h"
-#include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <cmath>
 
@@ -33,11 +33,12 @@ Punto2D vn::a_local_en_plano(const marco &m, Punto3D w, Punto3D p, double precis
 
 // ---------------------------------------------------------------- points
 
-void ejes2d_coordenada_2D_a_3D(EJES, double x, double y, double *coord_x_3D, double *coord_y_3D, double *coord_z_3D) {
+void ejes2d_coordenada_2D_a_3D(VN_EJES, double x, double y, double *coord_x_3D, double *coord_y_3D,
+                               double *coord_z_3D) {
     if (EXIGE(coord_x_3D, coord_y_3D)) numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(Punto2D{x, y}));
 }
 
-void ejes2d_coordenada_2D_a_3D_punto_poligono(EJES, const arrPunto2D *puntos, uint32_t indice, double *coord_x_3D,
+void ejes2d_coordenada_2D_a_3D_punto_poligono(VN_EJES, const arrPunto2D *puntos, uint32_t indice, double *coord_x_3D,
                                               double *coord_y_3D, double *coord_z_3D) {
     if (!EXIGE(puntos, coord_x_3D, coord_y_3D)) return;
     const bool hay = AFIRMA_TEXTO(indice < arr_NumElemsPunto2D(puntos), "indice < num_puntos");
@@ -45,13 +46,13 @@ void ejes2d_coordenada_2D_a_3D_punto_poligono(EJES, const arrPunto2D *puntos, ui
                 hay ? MARCO.a_global(arr_GetBufferConstPunto2D(puntos)[indice]) : Punto3D{});
 }
 
-void ejes2d_coordenadas_3D_a_2D(EJES, double x, double y, double z, double precision, double *coord_x_2D,
+void ejes2d_coordenadas_3D_a_2D(VN_EJES, double x, double y, double z, double precision, double *coord_x_2D,
                                 double *coord_y_2D) {
     if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     numeros::da(coord_x_2D, coord_y_2D, a_local_en_plano(MARCO, normal_de(MARCO), {x, y, z}, precision));
 }
 
-void ejes2d_coordenadas_3D_a_2D_fuera_de_precision(EJES, double x, double y, double z, double precision,
+void ejes2d_coordenadas_3D_a_2D_fuera_de_precision(VN_EJES, double x, double y, double z, double precision,
                                                    double *coord_x_2D, double *coord_y_2D, vnbool *fuera_de_precision) {
     if (fuera_de_precision != nullptr) *fuera_de_precision = FALSO;
     if (!EXIGE(coord_x_2D, coord_y_2D)) return;
@@ -61,23 +62,24 @@ void ejes2d_coordenadas_3D_a_2D_fuera_de_precision(EJES, double x, double y, dou
     if (fuera_de_precision != nullptr) *fuera_de_precision = logico(!dentro);
 }
 
-void ejes2d_coordenadas_3D_proyectado_a_2D(EJES, double x, double y, double z, double *coord_x_2D, double *coord_y_2D) {
+void ejes2d_coordenadas_3D_proyectado_a_2D(VN_EJES, double x, double y, double z, double *coord_x_2D,
+                                           double *coord_y_2D) {
     if (EXIGE(coord_x_2D, coord_y_2D)) numeros::da(coord_x_2D, coord_y_2D, MARCO.a_local({x, y, z}));
 }
 
-void ejes2d_coordenadas_3D_proyectado_a_3D(EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
-                                           double *coord_z_3D) {
+void ejes2d_coordenadas_3D_proyectado_a_3D(VN_EJES, double x, double y, double z, double *coord_x_3D,
+                                           double *coord_y_3D, double *coord_z_3D) {
     if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(MARCO.a_local({x, y, z})));
 }
 
-void ejes2d_coordenada_3D_local_a_global(EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
+void ejes2d_coordenada_3D_local_a_global(VN_EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
                                          double *coord_z_3D) {
     if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, MARCO.a_global(Punto3D{x, y, z}, normal_de(MARCO)));
 }
 
-void ejes2d_cambio_sistema_coordenadas(EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
+void ejes2d_cambio_sistema_coordenadas(VN_EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
                                        double *coord_z_3D) {
     if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     const marco m = MARCO;
@@ -85,14 +87,15 @@ void ejes2d_cambio_sistema_coordenadas(EJES, double x, double y, double z, doubl
                 m.vector_a_local(Punto3D{x, y, z} - m.o, numeros::vectorial(m.u, m.v)));
 }
 
-void ejes2d_transforma_de_3D_a_2D_pantalla(EJES, double x, double y, double z, double *coord_x_2D, double *coord_y_2D) {
+void ejes2d_transforma_de_3D_a_2D_pantalla(VN_EJES, double x, double y, double z, double *coord_x_2D,
+                                           double *coord_y_2D) {
     static_cast<void>(Zo);
     if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     const Punto2D p = MARCO_UV.vector_a_local({x, y, z});
     numeros::da(coord_x_2D, coord_y_2D, {p.x + Xo, p.y + Yo});
 }
 
-void ejes2d_coordenada_2D_a_3D_pantalla(EJES, double x, double y, double *coord_x_3D, double *coord_y_3D,
+void ejes2d_coordenada_2D_a_3D_pantalla(VN_EJES, double x, double y, double *coord_x_3D, double *coord_y_3D,
                                         double *coord_z_3D) {
     if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     const Punto3D w = numeros::vectorial({Ux, Uy, Uz}, {Vx, Vy, Vz});
@@ -107,7 +110,7 @@ void ejes2d_coordenada_2D_a_3D_pantalla(EJES, double x, double y, double *coord_
     numeros::da(coord_x_3D, coord_y_3D, coord_z_3D, p);
 }
 
-void ejes2d_cambia_de_un_sistema_coordenadas_a_otro(EJES_DE(1), EJES_DE(2), double x, double y, double precision,
+void ejes2d_cambia_de_un_sistema_coordenadas_a_otro(VN_EJES_DE(1), VN_EJES_DE(2), double x, double y, double precision,
                                                     double *coord_x_2D, double *coord_y_2D) {
     if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     const marco m = MARCO_DE(2);
@@ -115,7 +118,7 @@ void ejes2d_cambia_de_un_sistema_coordenadas_a_otro(EJES_DE(1), EJES_DE(2), doub
                 a_local_en_plano(m, normal_de(m), MARCO_DE(1).a_global(Punto2D{x, y}), precision));
 }
 
-void ejes2d_cambia_de_un_sistema_coordenadas_a_otro_proyectando(EJES_DE(1), EJES_DE(2), double x, double y,
+void ejes2d_cambia_de_un_sistema_coordenadas_a_otro_proyectando(VN_EJES_DE(1), VN_EJES_DE(2), double x, double y,
                                                                 double *coord_x_2D, double *coord_y_2D) {
     if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     numeros::da(coord_x_2D, coord_y_2D, MARCO_DE(2).a_local(MARCO_DE(1).a_global(Punto2D{x, y})));
@@ -123,45 +126,47 @@ void ejes2d_cambia_de_un_sistema_coordenadas_a_otro_proyectando(EJES_DE(1), EJES
 
 // ---------------------------------------------------------------- vectors
 
-void ejes2d_vector_2D_a_3D(UV, double vx, double vy, double *vx_3D, double *vy_3D, double *vz_3D) {
+void ejes2d_vector_2D_a_3D(VN_EJES_UV, double vx, double vy, double *vx_3D, double *vy_3D, double *vz_3D) {
     if (EXIGE(vx_3D, vy_3D, vz_3D)) numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_global({vx, vy}));
 }
 
-void ejes2d_vector_3D_a_2D(UV, double vx, double vy, double vz, double *vx_2D, double *vy_2D) {
+void ejes2d_vector_3D_a_2D(VN_EJES_UV, double vx, double vy, double vz, double *vx_2D, double *vy_2D) {
     ejes2d_vector_3D_a_2D_con_precision(Ux, Uy, Uz, Vx, Vy, Vz, vx, vy, vz, PRECISION_VECTOR_EN_PLANO, vx_2D, vy_2D);
 }
 
-void ejes2d_vector_3D_a_2D_con_precision(UV, double vx, double vy, double vz, double precision, double *vx_2D,
+void ejes2d_vector_3D_a_2D_con_precision(VN_EJES_UV, double vx, double vy, double vz, double precision, double *vx_2D,
                                          double *vy_2D) {
     if (!EXIGE(vx_2D, vy_2D)) return;
     comprueba_en_plano(vx, vy, vz, normal_de(MARCO_UV), precision);
     numeros::da(vx_2D, vy_2D, MARCO_UV.vector_a_local({vx, vy, vz}));
 }
 
-void ejes2d_vector_3D_proyectado_a_2D(UV, double vx, double vy, double vz, double *vx_2D, double *vy_2D) {
+void ejes2d_vector_3D_proyectado_a_2D(VN_EJES_UV, double vx, double vy, double vz, double *vx_2D, double *vy_2D) {
     if (EXIGE(vx_2D, vy_2D)) numeros::da(vx_2D, vy_2D, MARCO_UV.vector_a_local({vx, vy, vz}));
 }
 
-void ejes2d_vector_3D_proyectado_a_3D(UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D,
+void ejes2d_vector_3D_proyectado_a_3D(VN_EJES_UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D,
                                       double *vz_3D) {
     if (!EXIGE(vx_3D, vy_3D, vz_3D)) return;
     numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_global(MARCO_UV.vector_a_local({vx, vy, vz})));
 }
 
-void ejes2d_vector_3D_local_a_global(UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D, double *vz_3D) {
+void ejes2d_vector_3D_local_a_global(VN_EJES_UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D,
+                                     double *vz_3D) {
     if (!EXIGE(vx_3D, vy_3D, vz_3D)) return;
     const marco m = MARCO_UV;
     numeros::da(vx_3D, vy_3D, vz_3D, vx * m.u + vy * m.v + vz * normal_de(m));
 }
 
-void ejes2d_vector_3D_global_a_local(UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D, double *vz_3D) {
+void ejes2d_vector_3D_global_a_local(VN_EJES_UV, double vx, double vy, double vz, double *vx_3D, double *vy_3D,
+                                     double *vz_3D) {
     if (!EXIGE(vx_3D, vy_3D, vz_3D)) return;
     numeros::da(vx_3D, vy_3D, vz_3D, MARCO_UV.vector_a_local({vx, vy, vz}, normal_de(MARCO_UV)));
 }
 
 // ---------------------------------------------------------------- lines
 
-void ejes2d_recta_3D_a_2D(EJES, double Xo_recta_3D, double Yo_recta_3D, double Zo_recta_3D, double Ux_recta_3D,
+void ejes2d_recta_3D_a_2D(VN_EJES, double Xo_recta_3D, double Yo_recta_3D, double Zo_recta_3D, double Ux_recta_3D,
                           double Uy_recta_3D, double Uz_recta_3D, double precision, double *Xo_recta_2D,
                           double *Yo_recta_2D, double *Ux_recta_2D, double *Uy_recta_2D) {
     if (!EXIGE(Xo_recta_2D, Yo_recta_2D, Ux_recta_2D, Uy_recta_2D)) return;

@@ -1,9 +1,9 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Whole polylines from global to local and back.
+#include "geometry/ejes2d_polilineas.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/dueno.hpp"
-#include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
 #include <cmath>
@@ -50,41 +50,41 @@ auto global_a_local(const marco &m) {
 
 } // namespace
 
-arrPunto3D *ejes2d_polilinea2D_a_3D(EJES, const arrPunto2D *polilinea) {
+arrPunto3D *ejes2d_polilinea2D_a_3D(VN_EJES, const arrPunto2D *polilinea) {
     if (!AFIRMA_NO_NULO(polilinea)) return nullptr;
     return nueva<Punto3D>(listas::tramo(polilinea), [m = MARCO](Punto2D p) { return m.a_global(p); });
 }
 
-arrPunto2D *ejes2d_polilinea3D_a_2D(EJES, const arrPunto3D *polilinea, double precision) {
+arrPunto2D *ejes2d_polilinea3D_a_2D(VN_EJES, const arrPunto3D *polilinea, double precision) {
     if (!AFIRMA_NO_NULO(polilinea)) return nullptr;
     return nueva<Punto2D>(listas::tramo(polilinea), [m = MARCO, w = normal_de(MARCO), precision](Punto3D p) {
         return a_local_en_plano(m, w, p, precision);
     });
 }
 
-arrPunto2D *ejes2d_polilinea3D_proyectada_a_2D(EJES, const arrPunto3D *polilinea) {
+arrPunto2D *ejes2d_polilinea3D_proyectada_a_2D(VN_EJES, const arrPunto3D *polilinea) {
     if (!AFIRMA_NO_NULO(polilinea)) return nullptr;
     return nueva<Punto2D>(listas::tramo(polilinea), [m = MARCO](Punto3D p) { return m.a_local(p); });
 }
 
-void ejes2d_transforma_polilinea3D(EJES, arrPunto3D *polilinea) {
+void ejes2d_transforma_polilinea3D(VN_EJES, arrPunto3D *polilinea) {
     if (AFIRMA_NO_NULO(polilinea)) en_su_sitio(polilinea, local_a_global(MARCO));
 }
 
-arrPunto3D *ejes2d_polilinea3D_transformada(EJES, const arrPunto3D *polilinea) {
+arrPunto3D *ejes2d_polilinea3D_transformada(VN_EJES, const arrPunto3D *polilinea) {
     return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(listas::tramo(polilinea), local_a_global(MARCO)) : nullptr;
 }
 
-void ejes2d_polilinea3D_transforma_a_locales(EJES, arrPunto3D *polilinea) {
+void ejes2d_polilinea3D_transforma_a_locales(VN_EJES, arrPunto3D *polilinea) {
     if (AFIRMA_NO_NULO(polilinea)) en_su_sitio(polilinea, global_a_local(MARCO));
 }
 
-arrPunto3D *ejes2d_polilinea3D_transformada_a_locales(EJES, const arrPunto3D *polilinea) {
+arrPunto3D *ejes2d_polilinea3D_transformada_a_locales(VN_EJES, const arrPunto3D *polilinea) {
     return AFIRMA_NO_NULO(polilinea) ? nueva<Punto3D>(listas::tramo(polilinea), global_a_local(MARCO)) : nullptr;
 }
 
-arrPunto2D *ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(const arrPunto2D *puntos, EJES_DE(_origen),
-                                                                        EJES_DE(_destino), double precision,
+arrPunto2D *ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(const arrPunto2D *puntos, VN_EJES_DE(_origen),
+                                                                        VN_EJES_DE(_destino), double precision,
                                                                         vnbool *fuera_de_precision) {
     if (fuera_de_precision != nullptr) *fuera_de_precision = FALSO;
     if (!AFIRMA_NO_NULO(puntos)) return nullptr;

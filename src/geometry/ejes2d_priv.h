@@ -3,25 +3,19 @@
 
 #include "foundation/numeros/vector_int.h"
 
-// The parameters of a frame in a definition, plain or with a suffix, and the frame that they are.
-#define EJES_DE(s)                                                                                                     \
-    double Xo##s, double Yo##s, double Zo##s, double Ux##s, double Uy##s, double Uz##s, double Vx##s, double Vy##s,    \
-        double Vz##s
-#define UV_DE(s) double Ux##s, double Uy##s, double Uz##s, double Vx##s, double Vy##s, double Vz##s
-#define EJES double Xo, double Yo, double Zo, UV
-#define UV double Ux, double Uy, double Uz, double Vx, double Vy, double Vz
-#define SALIDAS_UV double *Ux, double *Uy, double *Uz, double *Vx, double *Vy, double *Vz
-#define SALIDAS_EJES double *Xo, double *Yo, double *Zo, SALIDAS_UV
+// The frame that the parameters of VN_EJES and VN_EJES_DE are, and the names of the nine.
 #define MARCO_DE(s)                                                                                                    \
     vn::marco {                                                                                                        \
         {Xo##s, Yo##s, Zo##s}, {Ux##s, Uy##s, Uz##s}, { Vx##s, Vy##s, Vz##s }                                          \
     }
-#define MARCO                                                                                                          \
-    vn::marco {                                                                                                        \
-        {Xo, Yo, Zo}, {Ux, Uy, Uz}, { Vx, Vy, Vz }                                                                     \
-    }
-#define A_SALIDAS(m)                                                                                                   \
-    (vn::numeros::da(Xo, Yo, Zo, (m).o), vn::numeros::da(Ux, Uy, Uz, (m).u), vn::numeros::da(Vx, Vy, Vz, (m).v))
+#define MARCO MARCO_DE()
+#define LOS_EJES Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz
+// Into outputs of those names: each that is not null. Whether all of them are there.
+#define A_SALIDAS_DE(s, marco)                                                                                         \
+    (vn::numeros::da(Xo##s, Yo##s, Zo##s, (marco).o), vn::numeros::da(Ux##s, Uy##s, Uz##s, (marco).u),                 \
+     vn::numeros::da(Vx##s, Vy##s, Vz##s, (marco).v))
+#define A_SALIDAS(marco) A_SALIDAS_DE(, marco)
+#define EXIGE_EJES_DE(s) (EXIGE(Xo##s, Yo##s, Zo##s) && EXIGE(Ux##s, Uy##s, Uz##s, Vx##s, Vy##s, Vz##s))
 
 namespace vn {
 

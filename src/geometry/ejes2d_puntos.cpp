@@ -1,10 +1,10 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
 // Axes out of a list of points.
+#include "geometry/ejes2d_puntos.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/logico_int.h"
-#include "geometry/ejes2d.h"
 #include "geometry/ejes2d_priv.h"
 #include <algorithm>
 #include <cfloat>
@@ -256,7 +256,7 @@ bool forman_ejes(puntos_t p, tolerancias prec, bool comprueba_no_forma_eje, marc
     return false;
 }
 
-vnbool forman_ejes(const arrPunto3D *puntos, tolerancias prec, vnbool comprueba_no_forma_eje, SALIDAS_EJES,
+vnbool forman_ejes(const arrPunto3D *puntos, tolerancias prec, vnbool comprueba_no_forma_eje, VN_EJES_SALIDA_OPC,
                    uint32_t *ind_punto_no_forma_eje) {
     if (ind_punto_no_forma_eje != nullptr) *ind_punto_no_forma_eje = SIN_PUNTO;
     if (!AFIRMA_NO_NULO(puntos) || !AFIRMA_LOGICO(comprueba_no_forma_eje)) return FALSO;
@@ -269,52 +269,52 @@ vnbool forman_ejes(const arrPunto3D *puntos, tolerancias prec, vnbool comprueba_
     return CIERTO;
 }
 
-void crea_a_partir_de_puntos(const arrPunto3D *puntos, tolerancias prec, SALIDAS_EJES) {
+void crea_a_partir_de_puntos(const arrPunto3D *puntos, tolerancias prec, VN_EJES_SALIDA_OPC) {
     A_SALIDAS(marco{});
     if (!AFIRMA_NO_NULO(puntos)) return;
-    const vnbool forman_ejes = ::forman_ejes(puntos, prec, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz, nullptr);
+    const vnbool forman_ejes = ::forman_ejes(puntos, prec, CIERTO, LOS_EJES, nullptr);
     AFIRMA(forman_ejes == CIERTO);
 }
 
 } // namespace
 
-vnbool ejes2d_punto3D_forman_ejes(const arrPunto3D *puntos, SALIDAS_EJES) {
-    return forman_ejes(puntos, {}, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz, nullptr);
+vnbool ejes2d_punto3D_forman_ejes(const arrPunto3D *puntos, VN_EJES_SALIDA_OPC) {
+    return forman_ejes(puntos, {}, CIERTO, LOS_EJES, nullptr);
 }
 
-vnbool ejes2d_punto3D_forman_ejes_con_precision(const arrPunto3D *puntos, double precision_plano, SALIDAS_EJES) {
-    return forman_ejes(puntos, {.plano = precision_plano}, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz, nullptr);
+vnbool ejes2d_punto3D_forman_ejes_con_precision(const arrPunto3D *puntos, double precision_plano, VN_EJES_SALIDA_OPC) {
+    return forman_ejes(puntos, {.plano = precision_plano}, CIERTO, LOS_EJES, nullptr);
 }
 
-vnbool ejes2d_punto3D_forman_ejes_con_ind_punto_no_forma_eje(const arrPunto3D *puntos, SALIDAS_EJES,
+vnbool ejes2d_punto3D_forman_ejes_con_ind_punto_no_forma_eje(const arrPunto3D *puntos, VN_EJES_SALIDA_OPC,
                                                              uint32_t *ind_punto_no_forma_eje) {
-    return forman_ejes(puntos, {}, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz, ind_punto_no_forma_eje);
+    return forman_ejes(puntos, {}, CIERTO, LOS_EJES, ind_punto_no_forma_eje);
 }
 
 vnbool ejes2d_punto3D_forman_ejes_con_precision_ex(const arrPunto3D *puntos, double precision_puntos,
-                                                   double precision_plano, SALIDAS_EJES,
+                                                   double precision_plano, VN_EJES_SALIDA_OPC,
                                                    uint32_t *ind_punto_no_forma_eje) {
-    return forman_ejes(puntos, {precision_puntos, precision_plano}, CIERTO, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz,
-                       ind_punto_no_forma_eje);
+    return forman_ejes(puntos, {precision_puntos, precision_plano}, CIERTO, LOS_EJES, ind_punto_no_forma_eje);
 }
 
 vnbool ejes2d_punto3D_forman_ejes_con_precision_ex2(const arrPunto3D *puntos, double precision_puntos,
-                                                    double precision_plano, vnbool comprueba_no_forma_eje, SALIDAS_EJES,
-                                                    uint32_t *ind_punto_no_forma_eje) {
+                                                    double precision_plano, vnbool comprueba_no_forma_eje,
+                                                    VN_EJES_SALIDA_OPC, uint32_t *ind_punto_no_forma_eje) {
     return forman_ejes(puntos, {precision_puntos, precision_plano}, comprueba_no_forma_eje, Xo, Yo, Zo, Ux, Uy, Uz, Vx,
                        Vy, Vz, ind_punto_no_forma_eje);
 }
 
-void ejes2d_crea_a_partir_de_puntos3D(const arrPunto3D *puntos, SALIDAS_EJES) {
-    crea_a_partir_de_puntos(puntos, {}, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz);
+void ejes2d_crea_a_partir_de_puntos3D(const arrPunto3D *puntos, VN_EJES_SALIDA_OPC) {
+    crea_a_partir_de_puntos(puntos, {}, LOS_EJES);
 }
 
-void ejes2d_crea_a_partir_de_puntos3D_con_precision(const arrPunto3D *puntos, double precision_plano, SALIDAS_EJES) {
-    crea_a_partir_de_puntos(puntos, {.plano = precision_plano}, Xo, Yo, Zo, Ux, Uy, Uz, Vx, Vy, Vz);
+void ejes2d_crea_a_partir_de_puntos3D_con_precision(const arrPunto3D *puntos, double precision_plano,
+                                                    VN_EJES_SALIDA_OPC) {
+    crea_a_partir_de_puntos(puntos, {.plano = precision_plano}, LOS_EJES);
 }
 
 vnbool ejes2d_punto3D_forman_ejes_solo_mirando_3_puntos_no_lineales(const arrPunto3D *puntos, double precision,
-                                                                    SALIDAS_EJES) {
+                                                                    VN_EJES_SALIDA_OPC) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
     terna t;
     marco m;

@@ -1,11 +1,11 @@
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
 // The part of a segment inside a rectangle: the exact algorithm and the tolerant one before it.
+#include "geometry/rectng_recorte.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vector_int.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/logico_int.h"
-#include "geometry/rectng.h"
 #include <cmath>
 
 namespace {

@@ -1,8 +1,8 @@
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
 // Arrays of rectangles: moving them, what holds them all, and strips lengthened and condensed.
+#include "geometry/rectng_tiras.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/dueno.hpp"
-#include "geometry/rectng.h"
 #include <cmath>
 #include <span>
 

@@ -1,9 +1,10 @@
 #define VN_MODULO "ejes2d (NUCLEOS.DLL)"
-#include "geometry/ejes2d.h"
+#include "geometry/ejes2d_registro.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/vornspy.h"
+#include "geometry/ejes2d_construye.h"
 #include "geometry/ejes2d_priv.h"
 #include <cmath>
 
@@ -69,7 +70,7 @@ Punto3D vn::normal_de(Punto3D u, Punto3D v) {
 
 // ---------------------------------------------------------------- records
 
-ejes2d *ejes2d_crea(EJES) { return nuevo_de(MARCO); }
+ejes2d *ejes2d_crea(VN_EJES) { return nuevo_de(MARCO); }
 ejes2d *ejes2d_copia(const ejes2d *e) { return AFIRMA_TEXTO(e != nullptr, "(ejes2d) != NULL") ? nuevo(*e) : nullptr; }
 void ejes2d_destruye(ejes2d **e) {
     if (AFIRMA_TEXTO(e != nullptr, "(ejes2d) != NULL") && AFIRMA_TEXTO(*e != nullptr, "(*ejes2d) != NULL"))
@@ -85,7 +86,7 @@ void ejes2d_destruye_planoABCD(planoABCD **p) {
         vornspy_free_pp(p, sizeof **p);
 }
 
-ejes2d *ejes2d_local_a_global(EJES, const ejes2d *ejes_resp_sr_base) {
+ejes2d *ejes2d_local_a_global(VN_EJES, const ejes2d *ejes_resp_sr_base) {
     return AFIRMA_NO_NULO(ejes_resp_sr_base) ? nuevo_de(a_global(MARCO, marco_de(*ejes_resp_sr_base))) : nullptr;
 }
 
@@ -99,55 +100,44 @@ ejes2d *ejes2d_global_a_ejes2d_local(const ejes2d *ejes_sr_base_resp_sr_global, 
     return nuevo_de(a_local(marco_de(*ejes_sr_base_resp_sr_global), marco_de(*ejes_sr_resp_sr_global)));
 }
 
-void ejes2d_ejes_locales_a_globales(EJES, EJES_DE(_local), double *Xo_global, double *Yo_global, double *Zo_global,
-                                    double *Ux_global, double *Uy_global, double *Uz_global, double *Vx_global,
-                                    double *Vy_global, double *Vz_global) {
-    if (!EXIGE(Xo_global, Yo_global, Zo_global) || !EXIGE(Ux_global, Uy_global, Uz_global) ||
-        !EXIGE(Vx_global, Vy_global, Vz_global))
-        return;
+void ejes2d_ejes_locales_a_globales(VN_EJES, VN_EJES_DE(_local), VN_EJES_SALIDA_DE(_global)) {
+    if (!EXIGE_EJES_DE(_global)) return;
     const marco m = a_global(MARCO, MARCO_DE(_local));
-    numeros::da(Xo_global, Yo_global, Zo_global, m.o);
-    numeros::da(Ux_global, Uy_global, Uz_global, m.u);
-    numeros::da(Vx_global, Vy_global, Vz_global, m.v);
+    A_SALIDAS_DE(_global, m);
 }
 
-void ejes2d_ejes_globales_a_locales(EJES, EJES_DE(_global), double *Xo_local, double *Yo_local, double *Zo_local,
-                                    double *Ux_local, double *Uy_local, double *Uz_local, double *Vx_local,
-                                    double *Vy_local, double *Vz_local) {
-    if (!EXIGE(Xo_local, Yo_local, Zo_local) || !EXIGE(Ux_local, Uy_local, Uz_local) ||
-        !EXIGE(Vx_local, Vy_local, Vz_local))
-        return;
+void ejes2d_ejes_globales_a_locales(VN_EJES, VN_EJES_DE(_global), VN_EJES_SALIDA_DE(_local)) {
+    if (!EXIGE_EJES_DE(_local)) return;
     const marco m = a_local(MARCO, MARCO_DE(_global));
-    numeros::da(Xo_local, Yo_local, Zo_local, m.o);
-    numeros::da(Ux_local, Uy_local, Uz_local, m.u);
-    numeros::da(Vx_local, Vy_local, Vz_local, m.v);
+    A_SALIDAS_DE(_local, m);
 }
 
 // ---------------------------------------------------------------- comparisons
 
-vnbool ejes2d_es_identidad(EJES, double precision) {
+vnbool ejes2d_es_identidad(VN_EJES, double precision) {
     return logico(iguales(MARCO, marco{{}, {1., 0., 0.}, {0., 1., 0.}}, precision));
 }
 
-vnbool ejes2d_iguales(EJES_DE(1), EJES_DE(2), double precision) {
+vnbool ejes2d_iguales(VN_EJES_DE(1), VN_EJES_DE(2), double precision) {
     return logico(iguales(MARCO_DE(1), MARCO_DE(2), precision));
 }
 
-vnbool ejes2d_son_ejes_iguales(UV_DE(1), UV_DE(2)) {
+vnbool ejes2d_son_ejes_iguales(VN_EJES_UV_DE(1), VN_EJES_UV_DE(2)) {
     return logico(iguales(Punto3D{Ux1, Uy1, Uz1}, {Ux2, Uy2, Uz2}, PRECISION_EJES_IGUALES) &&
                   iguales(Punto3D{Vx1, Vy1, Vz1}, {Vx2, Vy2, Vz2}, PRECISION_EJES_IGUALES));
 }
 
-vnbool ejes2d_son_paralelos(UV_DE(1), UV_DE(2), double precision) {
+vnbool ejes2d_son_paralelos(VN_EJES_UV_DE(1), VN_EJES_UV_DE(2), double precision) {
     return logico(paralelos({{}, {Ux1, Uy1, Uz1}, {Vx1, Vy1, Vz1}}, {{}, {Ux2, Uy2, Uz2}, {Vx2, Vy2, Vz2}}, precision));
 }
 
-vnbool ejes2d_son_ejes_orientados_en_la_misma_direccion(UV_DE(1), UV_DE(2), double precision) {
+vnbool ejes2d_son_ejes_orientados_en_la_misma_direccion(VN_EJES_UV_DE(1), VN_EJES_UV_DE(2), double precision) {
     return logico(numeros::escalar(normal_de({Ux1, Uy1, Uz1}, {Vx1, Vy1, Vz1}),
                                    normal_de({Ux2, Uy2, Uz2}, {Vx2, Vy2, Vz2})) > precision);
 }
 
-vnbool ejes2d_son_ejes_coincidentes(EJES_DE(1), EJES_DE(2), double precision_paralelos, double precision_distancia) {
+vnbool ejes2d_son_ejes_coincidentes(VN_EJES_DE(1), VN_EJES_DE(2), double precision_paralelos,
+                                    double precision_distancia) {
     return logico(paralelos(MARCO_DE(1), MARCO_DE(2), precision_paralelos) &&
                   std::fabs(ejes2d_distancia_con_signo_punto_a_plano(Xo1, Yo1, Zo1, Ux1, Uy1, Uz1, Vx1, Vy1, Vz1, Xo2,
                                                                      Yo2, Zo2)) < precision_distancia);
@@ -171,7 +161,7 @@ void ejes2d_gira_ejes_sobre_V(double *Ux, double *Uy, double *Uz, double Vx, dou
     numeros::da(Ux, Uy, Uz, giro(grados)(u, normal_de(u, {Vx, Vy, Vz})));
 }
 
-void ejes2d_gira_ejes_sobre_W(SALIDAS_UV, double grados) {
+void ejes2d_gira_ejes_sobre_W(double *Ux, double *Uy, double *Uz, double *Vx, double *Vy, double *Vz, double grados) {
     if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     const Punto3D u{*Ux, *Uy, *Uz}, v{*Vx, *Vy, *Vz};
     const giro g(grados);

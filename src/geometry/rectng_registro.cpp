@@ -1,9 +1,10 @@
 #define VN_MODULO "rectng (NUCLEOS.DLL)"
-#include "geometry/rectng.h"
+#include "geometry/rectng_registro.h"
 #include "foundation/numeros/vector_int.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/logico_int.h"
+#include "foundation/suelo/vornspy.h"
 #include <cfloat>
 #include <cmath>
 #include <iterator>
