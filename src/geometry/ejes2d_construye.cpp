@@ -11,6 +11,7 @@ using namespace vn;
 
 namespace {
 
+// A plane by its unit normal: what is left of its equation at a point is the distance.
 struct ecuacion {
     Punto3D n;
     double d;
@@ -63,6 +64,7 @@ void ejes2d_ejes_con_dos_puntos(double x1, double y1, double z1, double x2, doub
                                 VN_EJES_ORIGEN_SALIDA_OPC, VN_EJES_UV_SALIDA) {
     if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     marco m{{x1, y1, z1}, {}, {}};
+    // Two points that are one have no direction; the global x axis serves.
     if (mt_vector_director_de_dos_puntos_3D(x1, y1, z1, x2, y2, z2, &m.u.x, &m.u.y, &m.u.z) != CIERTO)
         m.u = {1., 0., 0.};
     mt_calcular_ejes_segun_vector_x_local(m.u.x, m.u.y, m.u.z, &m.v.x, &m.v.y, &m.v.z, nullptr, nullptr, nullptr);
@@ -77,6 +79,7 @@ void ejes2d_ejes_con_tres_puntos(double x1, double y1, double z1, double x2, dou
 void ejes2d_ejes_de_una_cara(double x1, double y1, double z1, double x2, double y2, double z2, double x3, double y3,
                              double z3, double x4, double y4, double z4, VN_EJES_SALIDA_OPC) {
     const Punto3D p1{x1, y1, z1}, p2{x2, y2, z2}, p3{x3, y3, z3}, p4{x4, y4, z4};
+    // The corners beside the first one tell the axes; the opposite one is only checked.
     marco m = marco_de_tres_puntos(p1, p2, p4);
     const double prod_escalar_pto_esta_en_plano = numeros::escalar(p3 - p1, numeros::vectorial(m.u, m.v));
     AFIRMA_TEXTO(std::fabs(prod_escalar_pto_esta_en_plano) < i_PRECISION_PUNTO_PERTENECE_PLANO,
@@ -90,6 +93,7 @@ void ejes2d_ejes_de_una_cara(double x1, double y1, double z1, double x2, double 
 void ejes2d_ejes_con_V_vertical_usando_referencia_ecuacion_plano(double A, double B, double C, VN_EJES_UV_SALIDA) {
     if (!EXIGE(Ux, Uy, Uz, Vx, Vy, Vz)) return;
     const Punto3D v{0., 0., 1.};
+    // A horizontal plane has no such U: it is reported, and gives its zeros.
     Punto3D u = numeros::vectorial(v, {A, B, C});
     const vnbool es_plano_vertical = mt_pasar_a_unitario_3D(&u.x, &u.y, &u.z);
     AFIRMA(es_plano_vertical == CIERTO);
@@ -101,7 +105,10 @@ void ejes2d_ejes_para_proyectar_en_vertical_sobre_plano_ABCD(double A, double B,
                                                              VN_EJES_SALIDA_OPC) {
     const Punto3D n{A, B, C};
     comprueba_unitario(n);
+    // The foot of the global origin, and V for a plane that stands upright.
     marco m{-D * n, {}, {0., 0., 1.}};
+    // The vertical over (1, 0) meets the parallel plane through the origin at the direction that looks like x from
+    // above.
     if (mt_existe_interseccion_recta_con_plano(1., 0., 0., 0., 0., 1., A, B, C, 0., &m.u.x, &m.u.y, &m.u.z) == CIERTO) {
         mt_pasar_a_unitario_3D(&m.u.x, &m.u.y, &m.u.z);
         m.v = numeros::vectorial(n, m.u);
@@ -157,6 +164,8 @@ void ejes2d_angulos_giro_3d_de_ejes(VN_EJES_UV, double *giro_x, double *giro_y, 
     if (!EXIGE(giro_x, giro_y, giro_z)) return;
     const Punto3D w = normal_de({Ux, Uy, Uz}, {Vx, Vy, Vz});
     Punto3D g;
+    // Where U is vertical, turns about x and z are one turn: all of it is told as one about x. Beyond 1 by rounding
+    // the arc sine has no value either.
     if (Uz >= 1.) g = {std::atan2(Vx, Vy), numeros::PI / 2., 0.};
     else if (Uz <= -1.) g = {-std::atan2(Vx, Vy), -numeros::PI / 2., 0.};
     else g = {std::atan2(-Vz, w.z), std::asin(Uz), std::atan2(-Uy, Ux)};
@@ -185,6 +194,7 @@ void ejes2d_ecuacion_del_plano_a_partir_de_puntos3D(const arrPunto3D *puntos, do
     if (!EXIGE(puntos, A, B, C)) return;
     marco m{};
     ejes2d_crea_a_partir_de_puntos3D(puntos, &m.o.x, &m.o.y, &m.o.z, &m.u.x, &m.u.y, &m.u.z, &m.v.x, &m.v.y, &m.v.z);
+    // After its report the search leaves zeros, whose normal would be reported once more.
     const bool hay = m.u.x != 0. || m.u.y != 0. || m.u.z != 0.;
     da(A, B, C, D, hay ? ecuacion_de(m) : ecuacion{});
 }
@@ -206,9 +216,11 @@ void ejes2d_posiciona_ejes_en_origen_cero_global_proyectado_sobre_el_plano(doubl
     if (!EXIGE(Xo, Yo, Zo)) return;
     const ecuacion e = ecuacion_de({{*Xo, *Yo, *Zo}, {Ux, Uy, Uz}, {Vx, Vy, Vz}});
     Punto3D o;
+    // Along its own normal a line always meets the plane.
     const vnbool existe = mt_existe_interseccion_recta_con_plano(0., 0., 0., e.n.x, e.n.y, e.n.z, e.n.x, e.n.y, e.n.z,
                                                                  e.d, &o.x, &o.y, &o.z);
     if (!AFIRMA(existe == CIERTO)) return;
+    // A foot that is the global origin but for rounding is that origin.
     for (double *c : {&o.x, &o.y, &o.z})
         if (std::fabs(*c) < PRECISION_ORIGEN_CERO) *c = 0.;
     vn::numeros::da(Xo, Yo, Zo, o);

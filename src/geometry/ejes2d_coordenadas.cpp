@@ -18,6 +18,7 @@ using namespace vn;
 
 namespace {
 
+// The text of the report names the components of the normal, whatever they are called here.
 void comprueba_en_plano(double x, double y, double z, Punto3D w, double precision) {
     AFIRMA_TEXTO(std::fabs(x * w.x + y * w.y + z * w.z) < precision,
                  "vnstdc_fabs(x * Wx + y * Wy + z * Wz) < precision");
@@ -41,6 +42,7 @@ void ejes2d_coordenada_2D_a_3D(VN_EJES, double x, double y, double *coord_x_3D, 
 void ejes2d_coordenada_2D_a_3D_punto_poligono(VN_EJES, const arrPunto2D *puntos, uint32_t indice, double *coord_x_3D,
                                               double *coord_y_3D, double *coord_z_3D) {
     if (!EXIGE(puntos, coord_x_3D, coord_y_3D)) return;
+    // A bad index gives zeros and not what the outputs had, which may be nothing.
     const bool hay = AFIRMA_TEXTO(indice < arr_NumElemsPunto2D(puntos), "indice < num_puntos");
     numeros::da(coord_x_3D, coord_y_3D, coord_z_3D,
                 hay ? MARCO.a_global(arr_GetBufferConstPunto2D(puntos)[indice]) : Punto3D{});
@@ -58,6 +60,7 @@ void ejes2d_coordenadas_3D_a_2D_fuera_de_precision(VN_EJES, double x, double y, 
     if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     const Punto3D d = Punto3D{x, y, z} - Punto3D{Xo, Yo, Zo};
     numeros::da(coord_x_2D, coord_y_2D, MARCO.vector_a_local(d));
+    // Written so that what is no number is outside.
     const bool dentro = std::fabs(numeros::escalar(d, normal_de(MARCO))) < precision;
     if (fuera_de_precision != nullptr) *fuera_de_precision = logico(!dentro);
 }
@@ -82,6 +85,7 @@ void ejes2d_coordenada_3D_local_a_global(VN_EJES, double x, double y, double z, 
 void ejes2d_cambio_sistema_coordenadas(VN_EJES, double x, double y, double z, double *coord_x_3D, double *coord_y_3D,
                                        double *coord_z_3D) {
     if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
+    // The third axis is the product as it comes: a frame that is not orthonormal gives its own figures, unreported.
     const marco m = MARCO;
     numeros::da(coord_x_3D, coord_y_3D, coord_z_3D,
                 m.vector_a_local(Punto3D{x, y, z} - m.o, numeros::vectorial(m.u, m.v)));
@@ -89,6 +93,7 @@ void ejes2d_cambio_sistema_coordenadas(VN_EJES, double x, double y, double z, do
 
 void ejes2d_transforma_de_3D_a_2D_pantalla(VN_EJES, double x, double y, double z, double *coord_x_2D,
                                            double *coord_y_2D) {
+    // The screen has no depth; the parameter is there for the signature of a whole frame.
     static_cast<void>(Zo);
     if (!EXIGE(coord_x_2D, coord_y_2D)) return;
     const Punto2D p = MARCO_UV.vector_a_local({x, y, z});
@@ -99,9 +104,11 @@ void ejes2d_coordenada_2D_a_3D_pantalla(VN_EJES, double x, double y, double *coo
                                         double *coord_z_3D) {
     if (!EXIGE(coord_x_3D, coord_y_3D, coord_z_3D)) return;
     const Punto3D w = numeros::vectorial({Ux, Uy, Uz}, {Vx, Vy, Vz});
+    // By the inverse of the matrix and not by its transpose: the frame of a screen may have scales.
     const auto directa = matriz4{{{Ux, Uy, Uz, Xo}, {Vx, Vy, Vz, Yo}, {w.x, w.y, w.z, Zo}, {0., 0., 0., 1.}}}.a_vmatr();
     if (directa == nullptr) return;
     const dueno<vmatr_destruir_matriz> inversa(vmatr_matriz_inversa(directa.get()));
+    // A matrix without inverse has been reported, and gives zeros.
     Punto3D p{};
     if (inversa != nullptr) {
         const auto m = matriz4::de_vmatr(inversa.get());

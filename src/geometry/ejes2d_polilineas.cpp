@@ -37,13 +37,16 @@ template <class T, class Origen, class F> typename familia<T>::array *nueva(std:
     return a.release();
 }
 
+// The same for points that stay in their array.
 template <class F> void en_su_sitio(arrPunto3D *polilinea, F &&f) {
     for (Punto3D &p : listas::tramo(polilinea)) p = f(p);
 }
 
+// The normal is found, and checked, once for all points; a frame that is not orthonormal is reported once.
 auto local_a_global(const marco &m) {
     return [m, w = normal_de(m)](Punto3D p) { return m.a_global(p, w); };
 }
+// The third coordinate is along the product as it comes, as in the coordinates of one point.
 auto global_a_local(const marco &m) {
     return [m, w = numeros::vectorial(m.u, m.v)](Punto3D p) { return m.vector_a_local(p - m.o, w); };
 }
@@ -90,6 +93,7 @@ arrPunto2D *ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(const ar
     if (!AFIRMA_NO_NULO(puntos)) return nullptr;
     const marco origen = MARCO_DE(_origen), destino = MARCO_DE(_destino);
     const Punto3D w = normal_de(destino);
+    // Seen from behind, a contour runs the other way round.
     const bool mismo_sentido = numeros::escalar(normal_de(origen), w) > MARGEN_MISMA_ORIENTACION;
     arrPunto2D *resultado = nueva<Punto2D>(listas::tramo(puntos), [&](Punto2D p) {
         const Punto3D d = origen.a_global(p) - destino.o;

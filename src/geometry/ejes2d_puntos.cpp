@@ -21,8 +21,7 @@ namespace {
 using puntos_t = std::span<const Punto3D>;
 
 constexpr uint32_t SIN_PUNTO = 0xFFFFFFFF;
-// Points of the smallest block that the search steps over at once where none of them can be what it looks for, and how
-// many blocks make one of the next size.
+// Branching of the tree of blocks: points per leaf, blocks per node.
 constexpr uint32_t RAMAS = 16;
 // What rounding may add to a distance to a line, in the largest coordinate of all that take part.
 constexpr double REDONDEO = 64. * DBL_EPSILON;

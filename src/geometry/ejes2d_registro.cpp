@@ -23,6 +23,7 @@ ejes2d *nuevo_de(const marco &m) {
     return nuevo(ejes2d{m.o.x, m.o.y, m.o.z, m.u.x, m.u.y, m.u.z, m.v.x, m.v.y, m.v.z});
 }
 
+// By axis, not by distance, and at the precision itself too.
 bool iguales(Punto3D a, Punto3D b, double precision) {
     return std::fabs(a.x - b.x) <= precision && std::fabs(a.y - b.y) <= precision && std::fabs(a.z - b.z) <= precision;
 }
@@ -30,10 +31,12 @@ bool iguales(const marco &a, const marco &b, double precision) {
     return iguales(a.o, b.o, precision) && iguales(a.u, b.u, precision) && iguales(a.v, b.v, precision);
 }
 
+// Planes may look the same way or opposite ones: the cosine of their normals is 1 or -1.
 bool paralelos(const marco &a, const marco &b, double precision) {
     return std::fabs(std::fabs(numeros::escalar(normal_de(a), normal_de(b))) - 1.) < precision;
 }
 
+// The vectors of a frame have no place: they go by the base without its origin.
 marco a_global(const marco &base, const marco &local) {
     const Punto3D w = normal_de(base);
     const marco direcciones{{}, base.u, base.v};
@@ -41,6 +44,7 @@ marco a_global(const marco &base, const marco &local) {
 }
 marco a_local(const marco &base, const marco &global) {
     const Punto3D w = normal_de(base);
+    // Two normals, which differ where the base is not orthonormal.
     // The origin goes by the cross product as it comes, the vectors by the unit normal.
     return {base.vector_a_local(global.o - base.o, numeros::vectorial(base.u, base.v)),
             base.vector_a_local(global.u, w), base.vector_a_local(global.v, w)};
@@ -56,12 +60,14 @@ struct giro {
 
 } // namespace
 
+// The expression that is reported compares the square of the length, so the limit is twice that of the length.
 bool vn::comprueba_unitario(Punto3D u) {
     return AFIRMA_TEXTO(std::fabs(std::fabs(u.x * u.x + u.y * u.y + u.z * u.z) - 1.) < .00001,
                         "ABS(ABS(Ux * Ux + Uy * Uy + Uz * Uz) - 1.) < .00001");
 }
 
 Punto3D vn::normal_de(Punto3D u, Punto3D v) {
+    // Axes that span no plane keep the zero of their product, which the check reports.
     Punto3D w = numeros::vectorial(u, v);
     mt_pasar_a_unitario_3D(&w.x, &w.y, &w.z);
     comprueba_unitario(w);
@@ -166,5 +172,6 @@ void ejes2d_gira_ejes_sobre_W(double *Ux, double *Uy, double *Uz, double *Vx, do
     const Punto3D u{*Ux, *Uy, *Uz}, v{*Vx, *Vy, *Vz};
     const giro g(grados);
     numeros::da(Ux, Uy, Uz, g(u, v));
+    // V turns toward -U as U turns toward V.
     numeros::da(Vx, Vy, Vz, g(v, -u));
 }

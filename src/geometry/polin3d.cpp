@@ -67,7 +67,9 @@ double vn::angulo_entre(Punto3D u1, Punto3D u2) {
 bool vn::hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool mantiene_extremos, acuerdo &a) {
     a.puntos.clear();
     a.hay_centro = false;
+    // Directions from the corner: their angle is that between the segments, a half turn when they go straight on.
     const Punto3D u1 = direccion(p2, p1), u2 = direccion(p2, p3);
+    // A bar does not bend within its own thickness.
     if (!(distancia(p2, p1) > b.diametro / 2.0) || !(distancia(p2, p3) > b.diametro / 2.0)) return false;
     double angulo_segmentos = angulo_entre(u1, u2);
     if (!(angulo_segmentos > ANGULO_SIN_ACUERDO) || !(std::fabs(angulo_segmentos - numeros::PI) > ANGULO_SIN_ACUERDO))
@@ -75,16 +77,20 @@ bool vn::hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool ma
 
     Punto3D u, v, w;
     if (!ejes_de_tres(p2, p1, p3, u, v, w)) return false;
+    // The fillet turns to the side of the third point.
     if (numeros::escalar(v, u2) < 0.) angulo_segmentos = -angulo_segmentos;
     if (!AFIRMA(angulo_segmentos > -numeros::PI) || !AFIRMA(angulo_segmentos < numeros::PI)) return false;
     const double num_grados_dibujo_doblado = b.num_grados_dibujo_doblado;
     if (!AFIRMA(num_grados_dibujo_doblado > 0.)) return false;
 
+    // The arc turns by what the segments miss of the half turn; its centre is on the bisector, as far from both of
+    // them as the radius.
     const double barrido = std::copysign(numeros::PI - std::fabs(angulo_segmentos), angulo_segmentos);
     a.centro = p2 + (b.radio_eje / std::tan(std::fabs(angulo_segmentos) * 0.5)) * u + b.radio_eje * v;
     if (!numeros::es_finito(a.centro)) return false;
     a.hay_centro = true;
 
+    // Whole steps, none longer than was asked for.
     const double pasos = std::ceil(std::fabs(barrido) / (num_grados_dibujo_doblado * numeros::RADIANES_POR_GRADO));
     if (!AFIRMA_TEXTO(pasos + 1. > 1., "num_puntos > 1") ||
         !AFIRMA_TEXTO(pasos <= MAXIMO_PASOS, "num_puntos <= MAXIMO_PUNTOS"))
@@ -115,6 +121,7 @@ arrPunto3D *Pln3D_puntos_arco(double x_centro, double y_centro, double z_centro,
     const Punto3D centro{x_centro, y_centro, z_centro};
     const Punto3D a = direccion(centro, {x_ini, y_ini, z_ini}), b = direccion(centro, {x_fin, y_fin, z_fin});
     const Punto3D w = numeros::vectorial({Ux, Uy, Uz}, {Vx, Vy, Vz});
+    // The ends tell the plane of the arc, unless it is a half circle; then the axes that are given do.
     double angulo = angulo_entre(a, b);
     Punto3D w1 = w;
     if (std::fabs(angulo - numeros::PI) >= MARGEN_MEDIA_VUELTA) {
@@ -123,6 +130,7 @@ arrPunto3D *Pln3D_puntos_arco(double x_centro, double y_centro, double z_centro,
         AFIRMA_TEXTO(std::fabs(std::fabs(numeros::escalar(w, w1)) - 1.) < MARGEN_MISMO_PLANO_ARCO,
                      "vnstdc_fabs(vnstdc_fabs(mt_producto_escalar(Wx, Wy, Wz, Wx1, Wy1, Wz1)) - 1.) < .000001");
     }
+    // Square to the first radius, toward where the arc goes; the complementary arc runs the other way.
     const Punto3D perpendicular = -numeros::vectorial(a, w1);
     if (arco_complementario == CIERTO) angulo -= 2. * numeros::PI;
     const double radio = diametro / 2., paso = angulo / (num_puntos_arco - 1);
@@ -150,6 +158,7 @@ vnbool Pln3D_poligono_plano_es_convexo(const arrPunto3D *puntos) {
     if (!AFIRMA_NO_NULO(puntos)) return FALSO;
     const std::span<const Punto3D> p = listas::tramo(puntos);
     if (!AFIRMA_TEXTO(p.size() >= 3, "num_puntos >= 3")) return FALSO;
+    // The first corner that turns tells the normal; every other one must turn the same way about it.
     bool ya_se_tiene_W_con_que_comparar = false;
     Punto3D w{}, llega{};
     // One edge more than there are: the last one turns into the first.
@@ -179,6 +188,7 @@ void Pln3D_GetVerticeMasProximo(const arrPunto3D *puntos, double x, double y, do
                                 double *y_vertice, double *z_vertice) {
     if (!EXIGE(puntos, x_vertice, y_vertice, z_vertice)) return;
     const std::span<const Punto3D> p = listas::tramo(puntos);
+    // What is no number is no nearer than anything.
     size_t mas_proximo = p.size();
     double minima = std::numeric_limits<double>::infinity();
     for (size_t i = 0; i < p.size(); ++i) {

@@ -99,10 +99,12 @@ class cadena {
     bool quiebra(Punto3D a, Punto3D b, Punto3D c, bool es_el_ultimo) {
         const Punto3D entra = direccion(a, b), sale = direccion(b, c);
         if (std::fabs(std::fabs(numeros::escalar(entra, sale)) - 1.) < MARGEN_RECTO) return emite(b);
+        // The way that the path turns: from the corner toward its inside.
         const Punto3D pm = b + (sale - entra);
         // From c, not from b, on purpose.
         orienta(c, pm, a);
         if (!emite(b)) return false;
+        // What follows is the end of the bar, whose section is square to the last segment.
         if (es_el_ultimo) orienta(b + sale, pm, b);
         return true;
     }

@@ -46,6 +46,7 @@ void pto3dord_destruye(pto3dord **puntos_ordenados) {
 void pto3dord_append_punto_si_no_esta_repetido(pto3dord *puntos_ordenados, double x, double y, double z) {
     if (!AFIRMA_NO_NULO(puntos_ordenados)) return;
     const Punto3D punto = en_la_rejilla(x, y, z);
+    // Asked for before it is made: most points of a mesh are repeated.
     if (apunorde_existe_elemento(puntos_ordenados->puntos, &punto, Punto3D, nullptr) == CIERTO) return;
     auto *nuevo = static_cast<Punto3D *>(vornspy_malloc(sizeof(Punto3D)));
     *nuevo = punto;
@@ -54,6 +55,7 @@ void pto3dord_append_punto_si_no_esta_repetido(pto3dord *puntos_ordenados, doubl
 
 uint32_t pto3dord_ind_punto(const pto3dord *puntos_ordenados, double x, double y, double z) {
     if (!AFIRMA_NO_NULO(puntos_ordenados)) return 0;
+    // By the grid that it was stored with: a point is looked for where its cell is, not where it lies itself.
     const Punto3D punto = en_la_rejilla(x, y, z);
     uint32_t indice = 0;
     const vnbool existe = apunorde_existe_elemento(puntos_ordenados->puntos, &punto, Punto3D, &indice);

@@ -58,6 +58,7 @@ double posicion(const Punto2D &p, const Punto2D &s1, const Punto2D &s2, bool adm
 
 double distancia2_a_segmento(const Punto2D &p, const Punto2D &s1, const Punto2D &s2) {
     if (s1.x == s2.x && s1.y == s2.y) return cuadrado(p - s1);
+    // By its unit direction and not by the parameter, so that the tolerance is a length on a segment of any length.
     double longitud = 0., coseno = 0., seno = 0.;
     f_mt_parametros_segmento(s1.x, s1.y, s2.x, s2.y, &longitud, &coseno, &seno);
     const Punto2D d = p - s1;
@@ -128,6 +129,7 @@ double parametro_cruzado(const pieza &a, const pieza &b) { return vectorial(a.p 
 
 // Inline in each of its three callers: the pieces are then registers.
 [[gnu::always_inline]] inline Punto2D *corte(const pieza &a, const pieza &b) {
+    // Both pieces as lines: one parameter on each, and the crossing from that of the first.
     const double den = parametro_cruzado(a, b);
     if (!(std::fabs(den) > LIMITE_PARALELISMO)) return corte_de_paralelas(a, b);
     const double t = vectorial(b.q - a.q, b.q - b.p) / den;
@@ -255,6 +257,8 @@ vnbool p_seg_corta_dentro_rect(const Punto2D *a, const Punto2D *b, const Punto2D
     const double y1 = std::min(c->y, d->y), y2 = std::max(c->y, d->y);
     const auto en_la_caja = [=](const Punto2D &p) { return x1 <= p.x && p.x <= x2 && y1 <= p.y && p.y <= y2; };
     if (en_la_caja(*a) && en_la_caja(*b)) return CIERTO;
+    // What does not lie in the box is cut to its width from each side in turn; if nothing remains between its lower
+    // and upper side, there is no crossing.
     if (solo_enteros == CIERTO) return FALSO;
 
     // From left to right.

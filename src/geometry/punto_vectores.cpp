@@ -40,6 +40,7 @@ bool mueve_de_posicion(Punto2D &p, uint32_t posicion, double ancho, double alto,
     if (posicion == 0) posicion = POSICION_CENTRO;
     if (otra_posicion == 0) otra_posicion = POSICION_CENTRO;
     if (!AFIRMA(posicion > 0 && posicion < 10 && otra_posicion > 0 && otra_posicion < 10)) return false;
+    // By way of the centre, so that nine anchors need nine rows and not eighty-one.
     const Punto2D al_centro = hasta_el_centro(posicion, ancho, alto, coseno, seno);
     const Punto2D del_centro = hasta_el_centro(otra_posicion, ancho, alto, coseno, seno);
     p = p + al_centro - del_centro;
@@ -82,6 +83,7 @@ Punto2D *p_punto_relativo_a_dos(const Punto2D *p, const Punto2D *q, double t) {
 
 Punto2D *p_porcion(const Punto2D *p, const Punto2D *q, double por) {
     if (!AFIRMA(p && q)) return nullptr;
+    // Reported, and made all the same.
     AFIRMA(por >= 0. && por <= 1.);
     return nuevo(relativo(*p, *q, por));
 }
@@ -121,6 +123,7 @@ void p_gira2(const Punto2D *p, Punto2D *q, double seno, double coseno) {
 
 void p_gira_alrededor_punto_sentido_horario(double cx, double cy, double angulo, double *x, double *y) {
     if (!EXIGE(x, y)) return;
+    // Neither a turn that is only rounding, nor one by what is no angle, moves the point.
     if (std::fabs(angulo) < GIRO_MINIMO || !std::isfinite(angulo)) return;
     double xg = 0., yg = 0.;
     mt_gira_xy_sentido_horario(*x - cx, *y - cy, vnstdc_cos(angulo), vnstdc_sin(angulo), &xg, &yg);
@@ -162,6 +165,7 @@ double p_filtra_angulo(double a) { return mt_filtra_angulo_mayor_que_cero(a); }
 
 double p_angulo(const Punto2D *p, const Punto2D *q) {
     if (!AFIRMA(p && q) || (p->x == q->x && p->y == q->y)) return 0.;
+    // What is just below the x axis is on it: it would be almost a full turn.
     const double a = vnstdc_atan2(q->y - p->y, q->x - p->x);
     if (std::fabs(a) < ANGULO_NULO || std::isnan(a)) return 0.;
     return a < 0. ? a + VUELTA : a;
@@ -174,6 +178,7 @@ double p_angulo_recta(const Punto2D *p, const Punto2D *q) {
 
 vnbool p_entre_angulos(double a1, double a, double a2) {
     if (!std::isfinite(a1) || !std::isfinite(a) || !std::isfinite(a2)) return FALSO;
+    // All three within one turn from the first.
     const double desde = p_filtra_angulo(a1);
     double cual = p_filtra_angulo(a), hasta = p_filtra_angulo(a2);
     if (hasta < desde) hasta += VUELTA;

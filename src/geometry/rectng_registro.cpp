@@ -55,6 +55,7 @@ bool se_solapan(const rectangulo_t &a, const rectangulo_t &b) {
            mayor_igual(a.xmax, b.xmin) && menor_igual(a.ymin, b.ymax) && mayor_igual(a.ymax, b.ymin);
 }
 
+// By boxes: a segment that passes by a corner counts.
 bool solapa_con_limites(const rectangulo_t &r, double x1, double y1, double x2, double y2) {
     if (std::isnan(x1) || std::isnan(y1) || std::isnan(x2) || std::isnan(y2)) return false;
     return !(x1 < r.xmin && x2 < r.xmin) && !(x1 > r.xmax && x2 > r.xmax) && !(y1 < r.ymin && y2 < r.ymin) &&
@@ -79,6 +80,7 @@ rectangulo_t *rec_CreaDefinido(double ox, double oy, double ex, double ey) {
     return nuevo({ox, oy, ex, ey, CIERTO});
 }
 
+// A square is a strip of either direction, with a margin for sides that were computed.
 rectangulo_t *rec_CreaHorizontal(double ox, double oy, double ex, double ey) {
     AFIRMA_TEXTO(ex - ox + MARGEN_DIRECCION > ey - oy, "ex - ox + 0.0001 > ey - oy");
     return rec_CreaDefinido(ox, oy, ex, ey);
@@ -164,6 +166,7 @@ void rec_MaximizaY(rectangulo_t *rec, double y) {
 void rec_MaximizaRect(rectangulo_t *rec1, const rectangulo_t *rec2) {
     if (!EXIGE(rec1, rec2)) return;
     if (!AFIRMA(rec2->calculados)) return;
+    // Two opposite corners hold all of it.
     maximiza_punto(*rec1, rec2->xmin, rec2->ymin);
     maximiza_punto(*rec1, rec2->xmax, rec2->ymax);
 }
@@ -189,6 +192,7 @@ void rec_RecortaRect(rectangulo_t *rec1, const rectangulo_t *rec2) {
     if (rec2->ymin > rec1->ymin) rec1->ymin = rec2->ymin;
     if (rec2->xmax < rec1->xmax) rec1->xmax = rec2->xmax;
     if (rec2->ymax < rec1->ymax) rec1->ymax = rec2->ymax;
+    // The tolerance of the test lets pass what is hardly apart; its limits come out inverted.
     AFIRMA(rec1->xmin <= rec1->xmax && rec1->ymin <= rec1->ymax);
 }
 
@@ -209,6 +213,7 @@ vnbool rec_ClipPunto_ConPrecision(const rectangulo_t *rec, double x, double y, d
 
 vnbool rectng_punto_esta_en_borde_con_precision(const rectangulo_t *rec, double x, double y, double precision) {
     if (!AFIRMA_NO_NULO(rec) || !en_el_ensanchado(*rec, x, y, precision)) return FALSO;
+    // Not within the border: neither outside of it nor well inside.
     const bool dentro = x - precision > rec->xmin && x + precision < rec->xmax && y - precision > rec->ymin &&
                         y + precision < rec->ymax;
     return logico(!dentro);
@@ -250,6 +255,7 @@ vnbool rec_RectanguloVertical(const rectangulo_t *rec) {
 
 vnbool rec_RectanguloCentradoOrigen(const rectangulo_t *rec, double tolerancia) {
     if (!AFIRMA_NO_NULO(rec)) return FALSO;
+    // ES_CERO_PREC would report a negative one again, for each coordinate.
     const double t = AFIRMA(tolerancia >= 0.) ? tolerancia : 0.;
     double x = 0., y = 0.;
     rec_Centro(rec, &x, &y);
@@ -293,6 +299,7 @@ partes reparte(int lado, double ancho, double cdg) {
 uint32_t rectng_calculaPosicionMasCercana(double x, double y, double tolerancia) {
     const int columna = lado(x, tolerancia), fila = lado(y, tolerancia);
     uint32_t posicion = 0;
+    // Every pair of column and row has its position, so that the search ends.
     while (LUGARES[posicion].columna != columna || LUGARES[posicion].fila != fila) ++posicion;
     return posicion;
 }
@@ -310,6 +317,7 @@ void rectng_AnchosDesdePuntoFijo(double ancho_y, double ancho_z, double coord_y_
                                  uint32_t posicion, double *ancho_y_inicial, double *ancho_z_inicial,
                                  double *ancho_y_final, double *ancho_z_final) {
     if (!EXIGE(ancho_y_inicial, ancho_z_inicial, ancho_y_final, ancho_z_final)) return;
+    // Zeros first: what follows may report and leave.
     *ancho_y_inicial = *ancho_z_inicial = *ancho_y_final = *ancho_z_final = 0.;
     AFIRMA_TEXTO(std::fabs(coord_y_cdg) < MARGEN_CDG * ancho_y, "vnstdc_fabs(coord_y_cdg) < 0.50001 * ancho_y");
     AFIRMA_TEXTO(std::fabs(coord_z_cdg) < MARGEN_CDG * ancho_z, "vnstdc_fabs(coord_z_cdg) < 0.50001 * ancho_z");

@@ -68,6 +68,7 @@ void alarga_hasta_los_otros(std::span<rectangulo_t *const> tiras, size_t cual, d
         if (!(otro->*d.ancho.min - tolerancia <= principal->*d.ancho.max &&
               principal->*d.ancho.min <= otro->*d.ancho.max + tolerancia))
             continue;
+        // What stands before the end stops it at its near side; what the strip already overlaps, at its far one.
         limita(incremento_final,
                holgura(otro->*d.largo.min - principal->*d.largo.max, otro->*d.largo.max - principal->*d.largo.max));
         limita(incremento_inicial,
@@ -115,6 +116,7 @@ rectangulo_propio condensa(std::span<rectangulo_t *const> tiras, size_t cual, co
     AFIRMA(principal->calculados);
     const direccion d = direccion_de(*principal);
     rectangulo_propio candidato(rec_Copia(principal));
+    // What has come before, which may hold this one, or touch it; then what is still to come.
     for (const rectangulo_t *r : elementos(condensados)) {
         if (lo_contiene(*r, *candidato)) return nullptr;
         crece_si_es_contiguo(*candidato, *r, d, tolerancia);
@@ -158,6 +160,7 @@ arrPuntero *rec_Rectangulos_contiguos_condensados(const arrPuntero *rectangulos,
     for (size_t i = 0; i < num_rectangulos; ++i) {
         rectangulo_propio uno = condensa(tiras, i, condensados, tolerancia);
         if (uno == nullptr) continue;
+        // Owned by both for a moment: the array that cannot grow must not lose it.
         arr_AppendPunteroST(condensados, uno.get(), rectangulo_t);
         uno.release();
     }

@@ -24,6 +24,7 @@ struct ejes {
 bool de_normal(Punto3D n, ejes &e) {
     if (!unitario(n)) return false;
     const bool cerca_de_z = std::fabs(n.x) < CASI_VERTICAL && std::fabs(n.y) < CASI_VERTICAL;
+    // Whichever of both axes is far from the normal: their product is then long enough to tell a direction.
     Punto3D x = vectorial(cerca_de_z ? EJE_Y : EJE_Z, n);
     unitario(x);
     e = {x, vectorial(n, x), n};
@@ -34,6 +35,7 @@ bool de_normal(Punto3D n, ejes &e) {
 bool de_eje_x(Punto3D x, ejes &e) {
     ejes de_ella;
     if (!de_normal(x, de_ella)) return false;
+    // The rule tells X and Y of a normal; with the vector in its place they are Y and Z.
     e = {de_ella.z, de_ella.x, de_ella.y};
     return true;
 }
@@ -41,11 +43,13 @@ bool de_eje_x(Punto3D x, ejes &e) {
 bool de_tres_puntos(Punto3D p, Punto3D q, Punto3D r, ejes &e) {
     Punto3D u = q - p, v = r - p;
     const double mayor = std::max({mayor_coordenada(p), mayor_coordenada(q), mayor_coordenada(r)});
+    // Found while the differences still have their lengths.
     const double seno_minimo = seno_de_redondeo(mayor, std::min(modulo(u), modulo(v)));
     if (!unitario(u) || !unitario(v)) return false;
     Punto3D z = vectorial(u, v);
     if (!(modulo(z) > seno_minimo)) return false;
     unitario(z);
+    // Made unit once more: the product of unit vectors is so to rounding only.
     Punto3D y = vectorial(z, u);
     unitario(y);
     e = {u, y, z};
@@ -107,6 +111,8 @@ vnbool mt_existe_interseccion_recta_con_plano(double x, double y, double z, doub
     Punto3D u{dx, dy, dz}, n{A, B, C};
     const double l = modulo(n);
     if (!unitario(u) || !unitario(n)) return FALSO;
+    // The distance to the plane along its normal, D brought to a unit normal, over the sine is the way along the
+    // line.
     const double seno = escalar(u, n);
     if (!(std::fabs(seno) > SENO_RECTA_PLANO)) return FALSO;
     const Punto3D p{x, y, z};

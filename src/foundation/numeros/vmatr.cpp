@@ -34,6 +34,7 @@ void libera(vmatr *m) {
 }
 using propia = vn::dueno<libera>;
 
+// The record before its block: one that cannot be had leaves nothing behind.
 propia crea(uint32_t filas, uint32_t columnas) {
     if (!AFIRMA_TEXTO(filas > 0 && columnas > 0 && uint64_t{filas} * columnas <= MAXIMO_COEFICIENTES,
                       "filas > 0 && columnas > 0 && filas * columnas <= 134217728"))
@@ -133,6 +134,7 @@ double *vmatr_get_buffer_matriz(vmatr *m) { return AFIRMA_NO_NULO(m) ? m->datos 
 
 vmatr *vmatr_matriz_inversa(const vmatr *m) {
     if (!AFIRMA_NO_NULO(m) || !AFIRMA_TEXTO(m->filas == m->columnas, "num_filas == num_columnas")) return nullptr;
+    // Pivots are chosen by comparisons, which mean nothing among values that are not finite.
     if (!AFIRMA_TEXTO(ve(m).allFinite(), "es_matriz_regular == CIERTO")) return nullptr;
     // Rows and columns of one size first, so that what counts as zero is the same in all. The inverse of R M
     // C is C^-1 M^-1 R^-1.

@@ -90,6 +90,7 @@ vnbool defmath_es_numero_valido(double x) { return logico(std::isfinite(x)); }
 
 int vornmath_compara_doubles(double a, double b, double tolerancia) {
     const double t = tolerancia_buena(tolerancia);
+    // What is no number comes after all numbers, so that an order exists.
     if (std::isnan(a) || std::isnan(b)) return static_cast<int>(std::isnan(a)) - static_cast<int>(std::isnan(b));
     if (iguales(a, b, t)) return 0;
     return a < b ? -1 : 1;
@@ -110,6 +111,7 @@ double prec_redondea_decimales_por_exceso(double x, double paso) {
 }
 
 double prec_redondea_numero_decimales(double x, uint32_t decimales) {
+    // Decimal digits and not a product with a power of ten, whose rounding would turn halves over.
     if (x == 0.) return 0.;
     if (!std::isfinite(x)) return x;
     constexpr int CIFRAS = 17;
