@@ -1,7 +1,7 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
+#include "time/vorntime_nombres.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/mensajes.hpp"
-#include "time/vorntime.h"
 #include "time/vorntime_priv.h"
 #include <tuple>
 #include <utility>

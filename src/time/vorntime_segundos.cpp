@@ -1,4 +1,5 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
+#include "time/vorntime_segundos.h"
 #include "foundation/numeros/cambtipo.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/calendario_int.h"

@@ -1,4 +1,5 @@
 #define VN_MODULO "vorntime (NUCLEOS.DLL)"
+#include "time/vorntime_textos.h"
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/cad.h"

@@ -1,4 +1,5 @@
 #define VN_MODULO "convers (NUCLEOS.DLL)"
+#include "units/convers_redondeo.h"
 #include "units/convers_priv.h"
 #include "units/vornconf.h"
 #include "units/vornnum.h"

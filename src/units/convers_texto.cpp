@@ -1,4 +1,5 @@
 #define VN_MODULO "convers (NUCLEOS.DLL)"
+#include "units/convers_texto.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"

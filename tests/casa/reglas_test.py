@@ -106,7 +106,7 @@ def main():
         estado, salida = ejecuta("fuentes.py", arbol)
         compara(salida, estado, [(ruta + ":", que) for ruta, _, que in TEXTOS], fallos)
     with tempfile.TemporaryDirectory() as arbol:
-        escribe(arbol, "cabeceras_publicas.txt", "foundation/algo.h\n")
+        escribe(arbol, "cabeceras_publicas.txt", "foundation/algo.h\nfoundation/ancha.h\nfoundation/justa.h\n")
         escribe(arbol, "cabeceras_publicas_cxx.txt", "")
         with open(os.path.join(construido, "cabeceras_publicas.txt"), encoding="utf-8") as f:
             assert "foundation/suelo/anotaciones.h" in f.read().split()
@@ -114,11 +114,13 @@ def main():
             escribe(arbol, "src/foundation/suelo/anotaciones.h", f.read())
         escribe(arbol, "src/foundation/algo.h", '#include "suelo/anotaciones.h"\n' +
                 "\n\n".join(d for d, _ in DECLARACIONES) + "\n")
+        for nombre, cuantas in (("ancha", 41), ("justa", 40)):
+            escribe(arbol, f"src/foundation/{nombre}.h", "/** x */\n" + "".join(f"void {nombre}{i}(int a);\n" for i in range(cuantas)))
         escribe(arbol, "src/exports/foundation.txt", "fantasma\nlistada\n")
         escribe(arbol, "src/exports/nucleos.txt", "")
         esperados = [(d.split("(")[0].split()[-1] if que is None else "algo.h", que) for d, que in DECLARACIONES]
         estado, salida = ejecuta("contratos.py", arbol, arbol, "--adelantadas")
-        compara(salida, estado, esperados + [("fantasma", "is declared in no public header")], fallos)
+        compara(salida, estado, esperados + [("fantasma", "is declared in no public header"), ("ancha.h", "41 operations"), ("justa.h", None)], fallos)
         estado, salida = ejecuta("contratos.py", arbol, arbol)
         if "seguida: declared, not in src/exports/foundation.txt" not in salida:
             fallos.append("an operation that is declared and not listed goes unseen")

@@ -1,5 +1,5 @@
 #define VN_MODULO "lc_fichero (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/ficheros/lc_fichero.h"
+#include "foundation/ficheros/lc_fichero_posicion.h"
 #include "foundation/ficheros/lc_fichero_int.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/logico_int.h"

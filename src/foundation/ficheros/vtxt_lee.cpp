@@ -1,6 +1,6 @@
 #define VN_MODULO "vtxt (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/ficheros/vtxt_lee.h"
 #include "foundation/ficheros/lc_fichero.h"
-#include "foundation/ficheros/vtxt.h"
 #include "foundation/ficheros/vtxt_int.h"
 #include "foundation/listas/arreglo_int.h"
 #include "foundation/suelo/afirma_int.h"

@@ -1,11 +1,11 @@
 #define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/listas/arr.h"
+#include "foundation/listas/arr_cadena.h"
 #include "foundation/listas/arreglo_int.h"
 #include "foundation/suelo/logico_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 
-// The operations of both widths, one expansion each; arr.h spells their names.
+// The operations of both widths, one expansion each; arr_cadena.h spells their names.
 
 struct arrCADENA : vn::listas::arreglo<char *> {};
 struct arrCADENA_u : vn::listas::arreglo<vnwchar *> {};

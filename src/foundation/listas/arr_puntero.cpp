@@ -1,5 +1,5 @@
 #define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/listas/arr.h"
+#include "foundation/listas/arr_puntero.h"
 #include "foundation/listas/arreglo_int.h"
 #include "foundation/suelo/logico_int.h"
 

@@ -1,10 +1,10 @@
 #define VN_MODULO "arr (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/listas/arr.h"
+#include "foundation/listas/arr_punto.h"
 #include "foundation/listas/arreglo_int.h"
 #include "foundation/suelo/logico_int.h"
 #include <cmath>
 
-// The operations that the families of points share, one expansion a family; arr.h spells their names.
+// The operations that the families of points share, one expansion a family; arr_punto.h spells their names.
 #define COMUN(S)                                                                                                       \
     struct arr##S : vn::listas::arreglo<S> {};                                                                         \
     arr##S *arr_Crea##S(uint32_t n) { return vn::listas::crea<arr##S>(n); }                                            \

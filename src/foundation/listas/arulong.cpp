@@ -1,5 +1,5 @@
 #define VN_MODULO "arulong (NUCLEOS_FOUNDATION.DLL)"
-#include "foundation/listas/arr.h"
+#include "foundation/listas/arulong.h"
 #include "foundation/listas/arreglo_int.h"
 
 // Names: arulong_crea arulong_destruye arulong_append arulong_get arulong_numelems arulong_get_buffer_const, and the

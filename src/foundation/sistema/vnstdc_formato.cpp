@@ -1,7 +1,7 @@
 #define VN_MODULO "vnstdc (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/sistema/vnstdc_formato.h"
 #include "foundation/ficheros/lc_fichero.h"
 #include "foundation/platform/consola.h"
-#include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/texto/formato_int.h"

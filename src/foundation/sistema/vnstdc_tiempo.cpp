@@ -1,7 +1,7 @@
 #define VN_MODULO "vnstdc (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/sistema/vnstdc_tiempo.h"
 #include "foundation/platform/hora.h"
 #include "foundation/platform/variables.h"
-#include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/calendario_int.h"
 #include "foundation/suelo/eterno_int.h"

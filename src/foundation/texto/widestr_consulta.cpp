@@ -1,9 +1,9 @@
 #define VN_MODULO "widestr (NUCLEOS_FOUNDATION.DLL)"
+#include "foundation/texto/widestr_consulta.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/cadena_int.h"
 #include "foundation/texto/numero_int.h"
 #include "foundation/texto/texto_priv.h"
-#include "foundation/texto/widestr.h"
 #include <algorithm>
 
 // Questions about wide texts, and new texts that are parts of others.
