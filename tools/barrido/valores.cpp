@@ -35,13 +35,22 @@ void pon_texto(parametro &p, calidad c, const std::string &s) {
     pon_puntero(p, guarda('"' + s.substr(0, 12) + '"'), c, guarda(s));
 }
 
-void pon_texto_u(parametro &p, calidad c, const std::u16string &s) {
+void pon_texto(parametro &p, calidad c, const std::u16string &s) {
     std::string corto;
     for (const char16_t x : s.substr(0, 12)) corto += x < 128 ? static_cast<char>(x) : '?';
     pon_puntero(p, guarda("u\"" + corto + '"'), c, guarda_u(s));
 }
 
 constexpr size_t LARGO = 5000;
+
+// Texts of one width: the first is good, the others and a long one are for the operation to judge.
+template <class T> parametro de_textos(const char *nombre, unsigned opciones, std::initializer_list<T> valores) {
+    parametro p{nombre};
+    for (const T &s : valores) pon_texto(p, &s == valores.begin() ? calidad::buena : calidad::libre, s);
+    pon_texto(p, calidad::libre, T(LARGO, 'x'));
+    pon_nulo(p, opciones);
+    return p;
+}
 
 } // namespace
 
@@ -120,55 +129,23 @@ parametro enumerado(const char *nombre, std::vector<int64_t> buenos) {
 }
 
 parametro texto(const char *nombre, unsigned opciones) {
-    parametro p{nombre};
-    const calidad c = calidad::libre;
-    pon_texto(p, calidad::buena, "a");
-    pon_texto(p, c, "");
-    pon_texto(p, c, "12.5 %s%n");
-    pon_texto(p, c, "\xF1\x80\xE9 \\n\n");
-    pon_texto(p, c, std::string(LARGO, 'x'));
-    pon_nulo(p, opciones);
-    return p;
+    return de_textos<std::string>(nombre, opciones, {"a", "", "12.5 %s%n", "\xF1\x80\xE9 \\n\n"});
 }
 
+// A pair, and half of one, among them.
 parametro texto_u(const char *nombre, unsigned opciones) {
-    parametro p{nombre};
-    const calidad c = calidad::libre;
-    pon_texto_u(p, calidad::buena, u"a");
-    pon_texto_u(p, c, u"");
-    pon_texto_u(p, c, u"12.5 %s%n");
-    pon_texto_u(p, c, u"\u00F1\u20AC\U0001F3D7 \xD800 \n"); // a pair, and half of one
-    pon_texto_u(p, c, std::u16string(LARGO, u'x'));
-    pon_nulo(p, opciones);
-    return p;
+    return de_textos<std::u16string>(nombre, opciones, {u"a", u"", u"12.5 %s%n", u"\u00F1\u20AC\U0001F3D7 \xD800 \n"});
 }
 
 parametro nombre_fichero(const char *nombre, unsigned opciones) {
-    parametro p{nombre};
-    const calidad c = calidad::libre;
-    pon_texto(p, calidad::buena, "entrada.bin");
-    pon_texto(p, c, "");
-    pon_texto(p, c, "no_esta.txt");
-    pon_texto(p, c, "proyecto.bin");
-    pon_texto(p, c, "carpeta");
-    pon_texto(p, c, "no\\hay/a%s\xF1.txt");
-    pon_texto(p, c, std::string(LARGO, 'x'));
-    pon_nulo(p, opciones);
-    return p;
+    return de_textos<std::string>(nombre, opciones,
+                                  {"entrada.bin", "", "no_esta.txt", "proyecto.bin", "carpeta", "no\\hay/a%s\xF1.txt"});
 }
 
 parametro nombre_fichero_u(const char *nombre, unsigned opciones) {
-    parametro p{nombre};
-    const calidad c = calidad::libre;
-    pon_texto_u(p, calidad::buena, u"entrada.bin");
-    pon_texto_u(p, c, u"");
-    pon_texto_u(p, c, u"no_esta.txt");
-    pon_texto_u(p, c, u"proyecto.bin");
-    pon_texto_u(p, c, u"carpeta");
-    pon_texto_u(p, c, u"no\\hay/a%s\U0001F3D7\xDC00.txt");
-    pon_texto_u(p, c, std::u16string(LARGO, u'x'));
-    pon_nulo(p, opciones);
-    return p;
+    return de_textos<std::u16string>(
+        nombre, opciones,
+        {u"entrada.bin", u"", u"no_esta.txt", u"proyecto.bin", u"carpeta", u"no\\hay/a%s\U0001F3D7\xDC00.txt"});
 }
 
 parametro textos(const char *nombre, std::vector<const char *> valores) {
@@ -180,7 +157,7 @@ parametro textos(const char *nombre, std::vector<const char *> valores) {
 
 parametro textos_u(const char *nombre, std::vector<std::u16string> valores) {
     parametro p{nombre};
-    for (const auto &s : valores) pon_texto_u(p, calidad::libre, s);
+    for (const auto &s : valores) pon_texto(p, calidad::libre, s);
     pon_nulo(p, EXIGE);
     return p;
 }

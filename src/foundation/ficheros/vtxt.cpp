@@ -115,19 +115,13 @@ void vtxt_escr_fin_linea(vnfichero *f) {
 
 void vtxt_printf(vnfichero *f, const char *formato, ...) {
     if (!EXIGE(f, formato)) return;
-    va_list args;
-    va_start(args, formato);
-    const vn::propio<char> texto(vn::texto::formatea_nuevo(formato, args, VN_AQUI));
-    va_end(args);
+    CON_ARGUMENTOS(args, formato, const vn::propio<char> texto(vn::texto::formatea_nuevo(formato, args, VN_AQUI)));
     if (texto != nullptr) escribe(texto.get(), f);
 }
 
 void vtxt_printf_u(vnfichero *f, const vnwchar *formato, ...) {
     if (!EXIGE(f, formato)) return;
-    va_list args;
-    va_start(args, formato);
-    const vn::propio<vnwchar> texto(vn::texto::formatea_nuevo(formato, args, VN_AQUI));
-    va_end(args);
+    CON_ARGUMENTOS(args, formato, const vn::propio<vnwchar> texto(vn::texto::formatea_nuevo(formato, args, VN_AQUI)));
     if (texto != nullptr) escribe_en_utf8(texto.get(), f);
 }
 

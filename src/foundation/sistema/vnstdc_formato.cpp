@@ -266,37 +266,26 @@ template <class C, class F> int escanea(F &fuente, const C *formato, void *const
 
 int vnstdc_sprintf(char *destino, const char *formato, ...) {
     if (!EXIGE(destino, formato)) return 0;
-    va_list args;
-    va_start(args, formato);
-    const size_t longitud = vn::texto::formatea_en(destino, INT_MAX, formato, args);
-    va_end(args);
+    CON_ARGUMENTOS(args, formato, const size_t longitud = vn::texto::formatea_en(destino, INT_MAX, formato, args));
     return static_cast<int>(longitud);
 }
 
 int vnstdc__snprintf(char *destino, size_t n, const char *formato, ...) {
     if (!EXIGE(destino, formato)) return 0;
-    va_list args;
-    va_start(args, formato);
-    const int longitud = formatea_n(destino, n, formato, args);
-    va_end(args);
+    CON_ARGUMENTOS(args, formato, const int longitud = formatea_n(destino, n, formato, args));
     return longitud;
 }
 
 int vnstdc__snwprintf(vnwchar *destino, size_t n, const vnwchar *formato, ...) {
     if (!EXIGE(destino, formato)) return 0;
-    va_list args;
-    va_start(args, formato);
-    const int longitud = formatea_n(destino, n, formato, args);
-    va_end(args);
+    CON_ARGUMENTOS(args, formato, const int longitud = formatea_n(destino, n, formato, args));
     return longitud;
 }
 
 int vnstdc_wprintf(const vnwchar *formato, ...) {
     if (!AFIRMA_NO_NULO(formato)) return 0;
-    va_list args;
-    va_start(args, formato);
-    const vn::propio<vnwchar> texto(vn::texto::formatea_nuevo(formato, args, VN_MODULO, __LINE__));
-    va_end(args);
+    CON_ARGUMENTOS(args, formato,
+                   const vn::propio<vnwchar> texto(vn::texto::formatea_nuevo(formato, args, VN_MODULO, __LINE__)));
     const vn::propio<char> utf8(unicode_convierte_UNICODE_a_UTF8(texto.get()));
     vn::plat::escribe_salida(utf8.get(), std::strlen(utf8.get()));
     return static_cast<int>(std::char_traits<vnwchar>::length(texto.get()));

@@ -47,10 +47,7 @@ char *cad_copia_cadena_opcional(const char *s) { return s != nullptr ? copia(s) 
 
 char *nousar_formatea(const char *formato, ...) {
     if (!AFIRMA_NO_NULO(formato)) return nullptr;
-    va_list args;
-    va_start(args, formato);
-    char *s = formatea_nuevo(formato, args, VN_AQUI);
-    va_end(args);
+    CON_ARGUMENTOS(args, formato, char *s = formatea_nuevo(formato, args, VN_AQUI));
     return s;
 }
 

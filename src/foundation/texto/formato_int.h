@@ -7,6 +7,13 @@
 #include <cstdarg>
 #include <cstddef>
 
+// A step of a variadic operation on its arguments, which follow `ultimo`: CON_ARGUMENTOS(args, formato, use of args).
+#define CON_ARGUMENTOS(args, ultimo, ...)                                                                              \
+    va_list args;                                                                                                      \
+    va_start(args, ultimo);                                                                                            \
+    __VA_ARGS__;                                                                                                       \
+    va_end(args)
+
 namespace vn::texto {
 
 // Writes at most `sitio` units at `destino`, terminator included (there is one whenever `sitio` is not 0), and returns

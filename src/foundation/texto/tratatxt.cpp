@@ -32,6 +32,17 @@ void pon_marca(std::string &r, char c) {
         if (m.escapada == c) (r += ALMOHADILLA) += m.letra;
 }
 
+// A copy where the characters of one byte that `protege(i)` names, asked in order about all, are written as marks.
+template <class F> char *protegido(std::string_view s, F protege) {
+    std::string r;
+    recorre(s, [&](size_t i, size_t n) {
+        const bool marca = protege(i);
+        if (n == 1 && marca) pon_marca(r, s[i]);
+        else r.append(s, i, n);
+    });
+    return nuevo(r);
+}
+
 bool corta(char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; }
 
 constexpr std::string_view COLORES[] = {"rojo",    "amarillo", "verde", "cian",      "azul",
@@ -42,16 +53,12 @@ constexpr std::string_view COLORES[] = {"rojo",    "amarillo", "verde", "cian", 
 char *tratatxt_recupera_espacio_y_salto_linea(const char *texto) {
     if (!AFIRMA_NO_NULO(texto)) return nullptr;
     const std::string_view s(texto);
-    std::string r;
-    recorre(s, [&](size_t i, size_t n) {
+    return protegido(s, [s](size_t i) {
         const char c = s[i];
         const bool blanco_que_se_perderia =
             c == ' ' && (i == 0 || i + 1 == s.size() || corta(s[i - 1]) || corta(s[i + 1]));
-        if (n == 1 && (c == ALMOHADILLA || (corta(c) && c != ' ') || blanco_que_se_perderia)) pon_marca(r, c);
-        else if (n == 1 && c == '[' && i == 0) pon_marca(r, c);
-        else r.append(s, i, n);
+        return c == ALMOHADILLA || (corta(c) && c != ' ') || blanco_que_se_perderia || (c == '[' && i == 0);
     });
-    return nuevo(r);
 }
 
 char *tratatxt_convierte_espacio_y_salto_linea(const char *texto) {
@@ -83,16 +90,13 @@ char *tratatxt_convierte_espacio_y_salto_linea(const char *texto) {
 char *tratatxt_prepara_almohadilla_espacios_y_salto_linea(const char *linea) {
     if (!AFIRMA_NO_NULO(linea)) return nullptr;
     const std::string_view s(linea);
-    std::string r;
     bool al_principio = true;
-    recorre(s, [&](size_t i, size_t n) {
+    return protegido(s, [s, &al_principio](size_t i) {
         const char c = s[i];
-        const bool protege = n == 1 && (c == '\n' || c == '\r' || (al_principio && corta(c)) || (i == 0 && c == '['));
+        const bool marca = c == '\n' || c == '\r' || (al_principio && corta(c)) || (i == 0 && c == '[');
         al_principio = al_principio && corta(c);
-        if (protege) pon_marca(r, c);
-        else r.append(s, i, n);
+        return marca;
     });
-    return nuevo(r);
 }
 
 char *tratatxt_traducir_codigos_color(const char *texto) {

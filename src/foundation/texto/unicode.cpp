@@ -46,6 +46,21 @@ char *de_pagina(const pagina &p, const vnwchar *s, vnbool *perdida, bool sin_ace
     return r;
 }
 
+// What a text becomes, which goes then: by the pointer of its owner, left null, or taken over, so that it goes even if
+// there is no memory for the other.
+template <class D, class O> D *en_lugar_de(O **s, D *(*convierte)(const O *)) {
+    propio<D> r(convierte(*s));
+    texto::destruye(s);
+    return r.release();
+}
+template <class D, class O> D *en_lugar_de_tomado(O *s, D *(*convierte)(const O *)) {
+    propio<O> origen(s);
+    propio<D> r(convierte(s));
+    s = origen.release();
+    texto::destruye(&s);
+    return r.release();
+}
+
 } // namespace
 
 uint32_t unicode_pagina_ANSI_idioma(uint32_t idioma) {
@@ -112,35 +127,21 @@ vnwchar *utunicode_ANSI_a_UNICODE(const char *s) { return unicode_convierte_ANSI
 char *utunicode_UNICODE_a_ANSI(const vnwchar *s) { return unicode_UNICODE_a_ANSI(s); }
 
 vnwchar *utunicode_ANSI_a_UNICODE_destruyendo(char **s) {
-    if (!EXIGE(s, *s)) return nullptr;
-    propio<vnwchar> r(ancho_de(pagina_activa(), *s));
-    texto::destruye(s);
-    return r.release();
+    return EXIGE(s, *s) ? en_lugar_de(s, utunicode_ANSI_a_UNICODE) : nullptr;
 }
 
 char *utunicode_UNICODE_a_ANSI_destruyendo(vnwchar **s) {
-    if (!EXIGE(s, *s)) return nullptr;
-    propio<char> r(de_pagina(pagina_activa(), *s, nullptr));
-    texto::destruye(s);
-    return r.release();
+    return EXIGE(s, *s) ? en_lugar_de(s, utunicode_UNICODE_a_ANSI) : nullptr;
 }
 
 vnwchar *utunicode_ANSI_a_UNICODE_destruyendo_p(char *s) {
     if (!AFIRMA_NO_NULO(s)) return nullptr;
-    propio<char> origen(s); // taken over: freed even if there is no memory for the other
-    propio<vnwchar> r(utunicode_ANSI_a_UNICODE(s));
-    s = origen.release();
-    texto::destruye(&s);
-    return r.release();
+    return en_lugar_de_tomado(s, utunicode_ANSI_a_UNICODE);
 }
 
 char *utunicode_UNICODE_a_ANSI_destruyendo_p(vnwchar *s) {
     if (!AFIRMA_NO_NULO(s)) return nullptr;
-    propio<vnwchar> origen(s); // taken over: freed even if there is no memory for the other
-    propio<char> r(utunicode_UNICODE_a_ANSI(s));
-    s = origen.release();
-    texto::destruye(&s);
-    return r.release();
+    return en_lugar_de_tomado(s, utunicode_UNICODE_a_ANSI);
 }
 
 void utunicode_destruye_UNICODE(vnwchar **s) {

@@ -64,10 +64,7 @@ void widestr_nousar_destruyeListaCadenas(uint32_t n, vnwchar ***lista, const cha
 
 vnwchar *copiaforu_nousar_formatea(const vnwchar *formato, ...) {
     if (!AFIRMA_NO_NULO(formato)) return nullptr;
-    va_list args;
-    va_start(args, formato);
-    vnwchar *s = formatea_nuevo(formato, args, VN_AQUI);
-    va_end(args);
+    CON_ARGUMENTOS(args, formato, vnwchar *s = formatea_nuevo(formato, args, VN_AQUI));
     return s;
 }
 
