@@ -91,9 +91,7 @@ std::vector<std::string> fuzz::semillas() {
         // Older forms: form 2 with the lists at once, form 0 without marks.
         std::string("\x02\x01\x08\x00VORN-9-a\x02\x00\x00\x00\x00\x01\x00\x00\x00\x05\x00\x00\x00\x01\x00\x00\x00x\x00",
                     31),
-        std::string("\x02\x01\x08\x00WENK-9-b\x00\x00\x03\x00\x05\x00"
-                    "FIRMA\x01\x00T",
-                    26)};
+        std::string("\x02\x01\x08\x00WENK-9-b\x00\x00\x03\x00\x05\000FIRMA\x01\x00T", 26)};
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {

@@ -33,8 +33,7 @@ void lee() {
 } // namespace
 
 std::vector<std::string> fuzz::semillas() {
-    return {"5 ; version\n1\n2 ; n\nn\xC3\xB1\xC3\xB3.obr\n\x10"
-            "D800.obr\n",
+    return {"5 ; version\n1\n2 ; n\nn\xC3\xB1\xC3\xB3.obr\n\020D800.obr\n",
             lo_que_graba([] {
                 guarda({VNU("mem/a.obr"), VNU("mem/\u00f1\u4e2d.obr"), VNU("[x]mem/b.obr")}, true);
             }),

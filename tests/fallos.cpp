@@ -220,9 +220,9 @@ class conductor {
     }
 
   private:
-    fs::path carpeta() const { return fs::path(u8(Prueba::directorio())) / "guardado"; }
+    fs::path carpeta() const { return fs::path(u8(Prueba::directorio())) / manera_.carpeta; }
     static std::u8string u8(const std::string &s) { return {s.begin(), s.end()}; }
-    std::string fichero() const { return Prueba::directorio() + "/guardado/" + manera_.fichero; }
+    std::string fichero() const { return Prueba::directorio() + "/" + manera_.carpeta + "/" + manera_.fichero; }
     std::string copia() const { return fichero() + ".bak"; }
     void limpia() const {
         for (const auto &e : fs::directory_iterator(carpeta())) fs::remove(e);

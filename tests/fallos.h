@@ -67,7 +67,8 @@ struct registra_guardado {
 
 // How a save differs from one that reports its failures and keeps a safety copy.
 struct manera_de_guardar {
-    const char *fichero = "obra"; // its own name for the file, in the directory "guardado" of the test's
+    const char *carpeta = "guardado"; // in the test's directory
+    const char *fichero = "obra";     // its own name for the file, in that
     bool con_copia = true;
     bool informa = true;
     bool muere = true; // killed at each of its operations too: not needed where another of these does the same saving

@@ -9,7 +9,6 @@
 #include <atomic>
 #include <deque>
 #include <span>
-#include <thread>
 
 namespace vn {
 
@@ -27,13 +26,10 @@ inline int usa_por_primera_vez(std::span<const uso> usos, size_t desde) {
         const size_t cual = (desde + k) % usos.size();
         // They start together by turning, not by std::barrier, which loses a wake-up now and then on Windows.
         std::atomic<int> llegadas{0}, bien{0};
-        std::vector<std::thread> hebras;
-        for (int h = 0; h < HEBRAS; ++h)
-            hebras.emplace_back([&, h] {
-                for (++llegadas; llegadas < HEBRAS;) std::this_thread::yield();
-                bien += usos[cual].de_hebra(h);
-            });
-        for (auto &h : hebras) h.join();
+        en_hebras(HEBRAS, [&](int h) {
+            for (++llegadas; llegadas < HEBRAS;) std::this_thread::yield();
+            bien += usos[cual].de_hebra(h);
+        });
         if (bien != HEBRAS || !usos[cual].despues() || error_interno_numero_de_informes() != 0)
             return static_cast<int>(1 + cual);
     }

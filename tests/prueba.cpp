@@ -1,7 +1,10 @@
 #include "prueba.h"
+#include "foundation/sistema/fichconf.h"
+#include "foundation/sistema/vnregional.h"
 #include "foundation/suelo/operaciones_fichero.h"
 #include "foundation/suelo/vnatexit.h"
 #include "foundation/texto/msglocal.h"
+#include "foundation/texto/unicode.h"
 #include "plataforma/proceso.h"
 #include <algorithm>
 #include <atomic>
@@ -197,7 +200,8 @@ void Prueba::SetUp() {
     sin_disco.vuelca = [](vnid_fichero) { return VN_FICH_BIEN; };
     sin_disco.vuelca_directorio = [](const vnwchar *) { return VN_FICH_BIEN; };
     operaciones_fichero_instala(&sin_disco);
-    msidioma_establece_idioma(0); // Spanish, whatever the user's language
+    msidioma_establece_idioma(0); // whatever the user's
+    unicode_establece_pagina_ANSI(1252);
     error_interno_instala_receptor(anota_informe, nullptr);
     avisos_instala_receptor(anota_aviso, nullptr);
     responde(FALSO);
@@ -208,6 +212,8 @@ void Prueba::SetUp() {
 
 void Prueba::TearDown() {
     operaciones_fichero_instala(nullptr);
+    fichconf_establece_directorio_base(nullptr);
+    vnregional_establece(nullptr);
     for (const auto &i : toma_informes())
         ADD_FAILURE() << "unexpected report: " << i.modulo << ", " << i.linea << ": " << i.expresion << " "
                       << i.detalle;

@@ -1,5 +1,6 @@
 // The fixture of every test: reports and warnings are recorded; a test fails when it ends with one that it did not
-// expect, or with a block of the tracked heap that it did not free.
+// expect, or with a block of the tracked heap that it did not free. The shared settings of the process are put back for
+// each: Spanish, its code page, the user's region and directory, the system's file operations.
 #pragma once
 
 #include "foundation/sistema/avisos.h"
@@ -9,9 +10,11 @@
 #include <cstdint>
 #include <functional>
 #include <gtest/gtest.h>
+#include <limits>
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
 namespace vn {
@@ -41,6 +44,27 @@ class Prueba : public ::testing::Test {
   private:
     uint64_t bloques_al_empezar_ = 0;
 };
+
+constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN(), INF = std::numeric_limits<double>::infinity();
+
+// Runs when it goes: what puts back what a test has changed.
+template <class F> class [[nodiscard]] al_final {
+  public:
+    explicit al_final(F f) : f_(std::move(f)) {}
+    ~al_final() { f_(); }
+    al_final(const al_final &) = delete;
+    al_final &operator=(const al_final &) = delete;
+
+  private:
+    F f_;
+};
+
+// Runs f(0) to f(n - 1), each in a thread of its own, to their ends.
+template <class F> void en_hebras(int n, F f) {
+    std::vector<std::thread> hebras;
+    for (int i = 0; i < n; ++i) hebras.emplace_back(f, i);
+    for (std::thread &h : hebras) h.join();
+}
 
 std::string utf8_de(const vnwchar *texto);
 std::u16string u16_de(const vnwchar *texto);

@@ -1,7 +1,8 @@
-// Wide results of the library as UTF-8 text, and paths as a test writes them.
+// Lists of texts as one text and back, and paths as a test writes them.
 #pragma once
 
 #include "foundation/listas/arr.h"
+#include "foundation/suelo/dueno.hpp"
 #include "prueba.h"
 #include <algorithm>
 #include <filesystem>
@@ -16,6 +17,21 @@ inline std::string toma(arrCADENA_u *a) {
     for (uint32_t i = 0; i < arr_NumElemsCADENA_u(a); ++i) r += (i > 0 ? "|" : "") + utf8_de(arr_GetCADENA_u(a, i));
     arr_DestruyeCADENA_u(&a);
     return r;
+}
+inline std::string toma(arrCADENA *a) {
+    std::string r;
+    for (uint32_t i = 0; i < arr_NumElemsCADENA(a); ++i) {
+        const char *s = arr_GetCADENA(a, i);
+        r += (i > 0 ? "|" : "") + std::string(s != nullptr ? s : "~");
+    }
+    arr_DestruyeCADENA(&a);
+    return r;
+}
+using textos = dueno<arr_DestruyeCADENA_u>;
+inline textos textos_de(std::initializer_list<const char *> utf8) {
+    textos a(arr_CreaCADENA_u(0));
+    for (const char *t : utf8) arr_AppendCADENA_u(a.get(), ancho(t).c_str());
+    return a;
 }
 // The path with the platform's separators.
 inline std::string propia(std::string ruta) {

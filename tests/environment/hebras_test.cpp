@@ -93,23 +93,17 @@ PRUEBA(hebras, cada_familia_a_la_vez_mientras_cambia_lo_comun) {
             vnregional_establece(REGIONES[i % 3]);
         }
     });
-    std::vector<std::thread> hebras;
-    for (int h = 0; h < 6; ++h)
-        hebras.emplace_back([&, h] {
-            for (int vuelta = 0; vuelta < 60; ++vuelta) {
-                const int nada = 0;
-                mal += !guarda_y_lee(h, vuelta);
-                mal += !valores();
-                mal += !textos(vuelta);
-                mal += trapable_ejecuta_funcion_segura(const int, informa, &nada, nullptr) != FALSO;
-            }
-        });
-    for (auto &h : hebras) h.join();
+    vn::en_hebras(6, [&](int h) {
+        for (int vuelta = 0; vuelta < 60; ++vuelta) {
+            const int nada = 0;
+            mal += !guarda_y_lee(h, vuelta);
+            mal += !valores();
+            mal += !textos(vuelta);
+            mal += trapable_ejecuta_funcion_segura(const int, informa, &nada, nullptr) != FALSO;
+        }
+    });
     basta = true;
     cambia.join();
     EXPECT_EQ(mal, 0);
-    unicode_establece_pagina_ANSI(1252);
-    vnregional_establece(nullptr);
     vornconf_Internacional_set_sistema_unidades(VORNCONF_SU_MKS);
-    fichconf_establece_directorio_base(nullptr);
 }

@@ -55,7 +55,6 @@ PRUEBA(ultfichsel, lo_registrado_se_guarda_y_sigue_a_la_obra_que_se_mueve) {
     EXPECT_EQ(ultimo(lista, "n\xF1", "E:\\Nueva"), "D:\\日\\x.ifc");
     EXPECT_EQ(ultimo(lista, "PLANO", ""), "-");
     ultfichsel_destruye(&lista);
-    fichconf_establece_directorio_base(nullptr);
 }
 
 PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
@@ -86,24 +85,21 @@ PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
     lista = ESPERA_INFORME("version <= i_VERSION_FICHERO", lee());
     EXPECT_EQ(numero(lista), 0u);
     ultfichsel_destruye(&lista);
-    fichconf_establece_directorio_base(nullptr);
 }
 
 GUARDADO(ultimos_ficheros) {
-    fichconf_establece_directorio_base(vn::ancho(fichero.substr(0, fichero.rfind("/guardado/"))).c_str());
-    fichconf_registra_nombre_distribuidor_no_vorn(VNU("guardado"));
+    fichconf_establece_directorio_base(vn::ancho(fichero.substr(0, fichero.rfind("/VORN/"))).c_str());
     arrPuntero *lista = lee();
     const std::string nombre(7000, static_cast<char>('0' + edicion));
     registra(lista, "k", "", nombre.c_str());
     ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(lista);
     ultfichsel_destruye(&lista);
-    fichconf_registra_nombre_distribuidor_no_vorn(VNU("VORN"));
-    fichconf_establece_directorio_base(nullptr);
     return vn::existe(fichero) &&
            vn::lee_fichero(fichero).find(nombre.substr(0, 1) + '\0' + nombre.substr(0, 1)) != std::string::npos;
 }
 
 PRUEBA(ultfichsel, cada_fallo_al_grabarlos) {
-    vn::comprueba_guardado("ultimos_ficheros",
-                           {.fichero = "pnlselfic.cfg", .informa = false, .muere = false, .dice = false});
+    vn::comprueba_guardado(
+        "ultimos_ficheros",
+        {.carpeta = "VORN", .fichero = "pnlselfic.cfg", .informa = false, .muere = false, .dice = false});
 }

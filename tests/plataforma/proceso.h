@@ -35,6 +35,13 @@ class proceso {
     std::optional<int> resultado_;
 };
 
+// Starts n children; `args` gives the arguments of each by its number.
+template <class F> std::vector<proceso> procesos(int n, const std::string &hijo, F args) {
+    std::vector<proceso> todos;
+    for (int i = 0; i < n; ++i) todos.emplace_back(hijo, args(i));
+    return todos;
+}
+
 // Sets a variable of the environment, for this process and the children to come; an empty value takes it away.
 void pon_variable(const char *nombre, const std::string &valor);
 // Makes the calling process one of a user who has no name; false where that cannot be.

@@ -5,7 +5,7 @@
 
 using namespace vn;
 
-PRUEBA(fichmem, contents_come_and_go) {
+PRUEBA(fichmem, los_contenidos_van_y_vuelven) {
     const auto nombre = ancho(directorio() + "/memoria");
     for (const std::string &contenido : {std::string(), std::string("uno\0dos", 7), std::string(300000, 'm')}) {
         fichmem *m =
@@ -26,7 +26,7 @@ PRUEBA(fichmem, contents_come_and_go) {
     }
 }
 
-PRUEBA(fichmem, ownership_and_failures) {
+PRUEBA(fichmem, de_quien_es_y_fallos) {
     auto *bloque = static_cast<unsigned char *>(vornspy_calloc(4, 1));
     unsigned char *mio = bloque;
     fichmem *m = fichmem_crea_original32(&mio, 4);
@@ -47,7 +47,7 @@ PRUEBA(fichmem, ownership_and_failures) {
 }
 
 // Files of the system's, small and large, that say that they have no bytes; and one that cannot be read.
-PRUEBA(fichmem, what_has_no_size_is_read_to_its_end) {
+PRUEBA(fichmem, lo_que_no_dice_su_tamanyo_se_lee_hasta_el_final) {
     for (const char *nombre : {"/proc/filesystems", "/proc/kallsyms"}) {
         std::ifstream f(nombre, std::ios::binary);
         const std::string todo{std::istreambuf_iterator<char>(f), {}};

@@ -59,20 +59,17 @@ const vnoperaciones_fichero CON_TRAMPA = {
 };
 
 // The table above, from here to the end of the test.
-struct con_trampa {
-    con_trampa() { operaciones_fichero_instala(&CON_TRAMPA); }
-    ~con_trampa() {
-        operaciones_fichero_instala(nullptr);
-        trampa = {};
-    }
-};
+void pon_trampa() {
+    trampa = {};
+    operaciones_fichero_instala(&CON_TRAMPA);
+}
 
 } // namespace
 
 // Whatever the mixture of sizes, directions and jumps, the file is what the same steps make of a text in memory.
-PRUEBA(lc_fichero, random_steps_agree_with_a_model) {
+PRUEBA(lc_fichero, pasos_al_azar_como_un_modelo) {
     for (const bool por_trozos : {false, true}) {
-        const con_trampa puesta;
+        pon_trampa();
         if (por_trozos) trampa.maximo = 1000;
         std::mt19937 azar(7);
         std::string modelo;
@@ -112,7 +109,7 @@ PRUEBA(lc_fichero, random_steps_agree_with_a_model) {
     }
 }
 
-PRUEBA(lc_fichero, modes) {
+PRUEBA(lc_fichero, los_modos) {
     const struct {
         const char *modo, *al_abrir,
             *despues; // the file's content once "XY" is written after opening, null: not opened
@@ -143,7 +140,7 @@ PRUEBA(lc_fichero, modes) {
 }
 
 // Two appending streams take turns: each write goes behind what the other has written.
-PRUEBA(lc_fichero, appending_goes_to_the_end_that_is_there) {
+PRUEBA(lc_fichero, se_anade_donde_acaba_ahora) {
     flujo a = abre("junto", "ab"), b = abre("junto", "a+b");
     for (int i = 0; i < 3; ++i) {
         pon(a, "a");
@@ -160,7 +157,7 @@ PRUEBA(lc_fichero, appending_goes_to_the_end_that_is_there) {
 }
 
 // What a text stream reads is what it wrote, on every platform, and its positions can be gone back to.
-PRUEBA(lc_fichero, text_lines) {
+PRUEBA(lc_fichero, las_lineas_de_texto) {
     std::string texto = "uno\ndos\n\n\x1A tres\r\r\n";
     while (texto.size() < 200000) texto += std::string(texto.size() % 131, 'x') + "\n";
     pon(abre("texto", "wt"), texto);
@@ -184,7 +181,7 @@ PRUEBA(lc_fichero, text_lines) {
     EXPECT_EQ(toma(abre("texto", "r"), 99), "a\rb\r");
 }
 
-PRUEBA(lc_fichero, a_short_read_is_reported_and_filled) {
+PRUEBA(lc_fichero, una_lectura_corta_se_informa_y_se_rellena) {
     graba_fichero(ruta("corto"), "12345");
     flujo f = abre("corto", "rb");
     char b[8];
@@ -208,8 +205,8 @@ PRUEBA(lc_fichero, a_short_read_is_reported_and_filled) {
 }
 
 // The first failure to write is reported, once; nothing is taken after it; the close tells the truth.
-PRUEBA(lc_fichero, failures_to_write) {
-    const con_trampa puesta;
+PRUEBA(lc_fichero, los_fallos_al_escribir) {
+    pon_trampa();
     const std::string bloque(100000, 'z');
     for (const size_t n : {size_t{1}, size_t{60000}, bloque.size()}) {
         flujo f = abre("lleno", "wb");
@@ -242,8 +239,8 @@ PRUEBA(lc_fichero, failures_to_write) {
                 operaciones_fichero_del_sistema()->vuelca_directorio(VNU("/proc/self/stat")) != VN_FICH_BIEN);
 }
 
-PRUEBA(lc_fichero, interruptions_and_holders_are_waited_for_within_bounds) {
-    const con_trampa puesta;
+PRUEBA(lc_fichero, se_espera_con_limite) {
+    pon_trampa();
     const std::string diez(10, 'i');
     trampa = {VN_FICH_INTERRUMPIDA, 900, 0, 3};
     flujo f = abre("paciencia", "w+b");
@@ -278,7 +275,7 @@ PRUEBA(lc_fichero, interruptions_and_holders_are_waited_for_within_bounds) {
     }
 }
 
-PRUEBA(lc_fichero, positions_and_sizes_beyond_32_bits) {
+PRUEBA(lc_fichero, posiciones_de_mas_de_32_bits) {
     flujo f = abre("grande", "w+b");
     const int64_t lejos = (int64_t{1} << 32) + 5;
     EXPECT_EQ(vornio_fseek_i64(f.get(), lejos, VN_DESDE_EL_PRINCIPIO), CIERTO);
@@ -301,7 +298,7 @@ PRUEBA(lc_fichero, positions_and_sizes_beyond_32_bits) {
 }
 
 // A count from a file is believed only as far as there are bytes for it.
-PRUEBA(lc_fichero, counts_against_what_is_left) {
+PRUEBA(lc_fichero, las_cuentas_ante_lo_que_queda) {
     graba_fichero(ruta("cuenta"), std::string(100, 'c'));
     flujo f = abre("cuenta", "rb"), crece = abre("cuenta", "ab");
     EXPECT_EQ(toma(f, 20).size(), 20u);
@@ -330,7 +327,7 @@ HIJO(lc_fichero_retiene) {
     muere();
 }
 
-PRUEBA(lc_fichero, only_writer_and_zones_between_programs) {
+PRUEBA(lc_fichero, un_solo_escritor_y_zonas_entre_programas) {
     graba_fichero(ruta("zona"), std::string(100, 'z'));
     const auto escritor = [](const char *modo) {
         return f_lc_fopen_modo_escritura_u(nombre("zona").c_str(), ancho(modo).c_str(), FALSO, VN_AQUI);
@@ -360,7 +357,7 @@ PRUEBA(lc_fichero, only_writer_and_zones_between_programs) {
 }
 
 // Locks belong to the stream: the closing of another one drops none, and what is read under a lock is read anew.
-PRUEBA(lc_fichero, zones_of_two_streams) {
+PRUEBA(lc_fichero, zonas_de_dos_flujos) {
     graba_fichero(ruta("dos"), std::string(50, '0'));
     flujo a = abre("dos", "r+b"), b = abre("dos", "r+b");
     EXPECT_EQ(toma(b, 1), "0");
@@ -381,7 +378,7 @@ PRUEBA(lc_fichero, zones_of_two_streams) {
     EXPECT_EQ(lc_bloquea_zona_fichero(b.get(), 20, 1, VN_ZONA_EXCLUSIVA), FALSO);
 }
 
-PRUEBA(lc_fichero, wide_lines) {
+PRUEBA(lc_fichero, las_lineas_anchas) {
     const auto texto = ancho("uno\n\ndos largo\u0D15\n\u0A0D");
     std::string bytes;
     for (const vnwchar c : texto) (bytes += static_cast<char>(c & 0xFF)) += static_cast<char>(c >> 8);
@@ -398,12 +395,12 @@ PRUEBA(lc_fichero, wide_lines) {
 }
 
 // A close that fails inside a trap marks it, and the stream is gone all the same.
-PRUEBA(lc_fichero, a_failure_inside_a_trap_marks_it) {
+PRUEBA(lc_fichero, un_fallo_dentro_de_una_trampa_la_marca) {
     graba_fichero(ruta("trampa"), "12");
     flujo f = abre("trampa", "rb");
     uint64_t v;
     EXPECT_FALSE(atrapado([&] { vnfichero_toma(f.get(), &v, sizeof v, VN_AQUI); }));
-    const con_trampa puesta;
+    pon_trampa();
     vnfichero *g = lc_fopen_u(nombre("otro").c_str(), VNU("wb"));
     lc_fwrite("x", 1, 1, g);
     trampa = {VN_FICH_ES, 1, 0, SIZE_MAX};
@@ -411,7 +408,7 @@ PRUEBA(lc_fichero, a_failure_inside_a_trap_marks_it) {
 }
 
 // The ANSI names and modes of all modules, with a letter that is another byte in each encoding.
-PRUEBA(lc_fichero, ansi_names_and_old_text) {
+PRUEBA(lc_fichero, nombres_ansi_y_textos_viejos) {
     const std::string corto = directorio() + "/a\xF1o", ancho_utf8 = directorio() + "/a\u00F1o";
     vnfichero *f = lc_fopen(corto.c_str(), "wb");
     ASSERT_NE(f, nullptr);

@@ -94,41 +94,24 @@ PRUEBA(vdir, las_rutas_se_componen) {
 PRUEBA(vdir, que_rutas_son_validas) {
     const std::string parte(255, 'p');
     const struct {
-        std::string ruta;
         bool valida, absoluta;
+        std::vector<std::string> rutas;
     } filas[] = {
-        {"C:\\obras\\x.obr", true, true},
-        {"\\\\serv\\comun", true, true},
-        {"\\\\?\\C:\\x", true, true},
-        {"/x", true, true},
-        {"x", true, false},
-        {"C:x", true, false},
-        {"..\\x", true, false},
-        {parte, true, false},
-        {"", false, false},
-        {"a|b", false, false},
-        {"ab:c", false, false},
-        {"C:\\a?", false, false},
-        {"\"x\"", false, false},
-        {"a\tb", false, false},
-        {"a\\*", false, false},
-        {parte + "p", false, false},
-        {"Con\\x", false, false},
-        {"obra\\NUL.txt", false, false},
-        {"C:\\lpt9 .dat.bak", false, false},
-        {"COM\u00B9", false, false},
-        {"conout$", false, false},
-        {"x.\\y", false, false},
-        {"y ", false, false},
-        {"com0\\com\\com10\\console.txt", true, false},
+        {true, true, {"C:\\obras\\x.obr", "\\\\serv\\comun", "\\\\?\\C:\\x", "/x"}},
+        {true, false, {"x", "C:x", "..\\x", parte, "com0\\com\\com10\\console.txt"}},
+        {false,
+         false,
+         {"", "a|b", "ab:c", "C:\\a?", "\"x\"", "a\tb", "a\\*", parte + "p", "Con\\x", "obra\\NUL.txt",
+          "C:\\lpt9 .dat.bak", "COM\u00B9", "conout$", "x.\\y", "y "}},
     };
-    for (const auto &f : filas) {
-        SCOPED_TRACE(f.ruta);
-        const auto ruta = ancho(f.ruta);
-        EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_CUALQUIERA), f.valida);
-        EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_ABSOLUTO), f.valida && f.absoluta);
-        EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_RELATIVO), f.valida && !f.absoluta);
-    }
+    for (const auto &f : filas)
+        for (const std::string &r : f.rutas) {
+            SCOPED_TRACE(r);
+            const auto ruta = ancho(r);
+            EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_CUALQUIERA), f.valida);
+            EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_ABSOLUTO), f.valida && f.absoluta);
+            EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_RELATIVO), f.valida && !f.absoluta);
+        }
     vnwchar *nombre = nullptr;
     EXPECT_EQ(vdir_splitpath_con_comprobacion_UNICODE(VNU("a|b"), nullptr, nullptr, &nombre, nullptr), FALSO);
     EXPECT_EQ(nombre, nullptr);

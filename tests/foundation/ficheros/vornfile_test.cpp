@@ -69,17 +69,17 @@ GUARDADO(fichero_de_memoria) {
     return bien;
 }
 
-PRUEBA(vornfile, every_boundary_of_a_copy) {
+PRUEBA(vornfile, cada_fallo_de_una_copia) {
     comprueba_guardado("copia_segura", {.con_copia = false, .informa = false, .muere = false});
 }
-PRUEBA(vornfile, every_boundary_of_a_memory_file) {
+PRUEBA(vornfile, cada_fallo_de_un_fichero_de_memoria) {
     comprueba_guardado("fichero_de_memoria", {.con_copia = false, .muere = false});
 }
-PRUEBA(vornfile, every_boundary_of_a_save_that_commits_at_close) { comprueba_guardado("definitivo_al_cerrar"); }
-PRUEBA(vornfile, every_boundary_of_a_save_that_commits_a_temporary) { comprueba_guardado("hacer_definitivo"); }
+PRUEBA(vornfile, cada_fallo_de_lo_que_es_definitivo_al_cerrar) { comprueba_guardado("definitivo_al_cerrar"); }
+PRUEBA(vornfile, cada_fallo_al_hacer_definitivo_un_temporal) { comprueba_guardado("hacer_definitivo"); }
 
 // Patience has a bound: a holder that never lets go makes the save fail, told once, with the old content in place.
-PRUEBA(vornfile, refusals_that_stay) {
+PRUEBA(vornfile, negativas_que_no_pasan) {
     const auto n = nombre("obra");
     ASSERT_TRUE(guardado_definitivo_al_cerrar(ruta("obra"), 0));
     static int veces;
@@ -111,7 +111,7 @@ PRUEBA(vornfile, refusals_that_stay) {
     EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", guardado_definitivo_al_cerrar(ruta("no/obra"), 1)), false);
 }
 
-PRUEBA(vornfile, copies_and_appends) {
+PRUEBA(vornfile, copias_y_anadidos) {
     graba_fichero(ruta("origen"), contenido(5));
     EXPECT_EQ(vf_copyfile_seguro_u(nombre("origen").c_str(), nombre("copia").c_str()), CIERTO);
     EXPECT_EQ(vf_copyfile_seguro_u(nombre("no").c_str(), nombre("copia").c_str()), FALSO);
@@ -151,7 +151,7 @@ bool enlaza(const char *a, const char *nombre_corto) {
 } // namespace
 
 // A link is followed to the file that it leads to, there or not, and stays a link.
-PRUEBA(vornfile, links_are_saved_through) {
+PRUEBA(vornfile, un_enlace_se_guarda_en_lo_suyo) {
     fs::create_directory(ruta("lejos"));
     graba_fichero(ruta("lejos/obra"), "vieja");
     if (!enlaza("lejos/obra", "obra") || !enlaza("obra", "doble") || !enlaza("lejos/nueva", "colgado"))
@@ -166,7 +166,7 @@ PRUEBA(vornfile, links_are_saved_through) {
 }
 
 // Whatever stands under the temporary's name goes, and what it leads to is not touched; but not a directory.
-PRUEBA(vornfile, what_is_planted_under_the_temporary_s_name) {
+PRUEBA(vornfile, lo_que_hay_en_el_sitio_del_temporal) {
     const std::string temporal = ruta("obra_TM$"), victima = ruta("victima");
     for (const int planta : {0, 1, 2, 3}) {
         SCOPED_TRACE(planta);
@@ -202,7 +202,7 @@ PRUEBA(vornfile, what_is_planted_under_the_temporary_s_name) {
 }
 
 // Rights, group, notes, access list, attributes: as they were, by every road, in the safety copy too.
-PRUEBA(vornfile, the_new_file_is_what_the_old_one_was) {
+PRUEBA(vornfile, el_nuevo_es_lo_que_era_el_viejo) {
     fs::create_directory(ruta("d"));
     const std::string obra = ruta("d/obra");
     constexpr funcion_guarda CAMINOS[] = {guardado_definitivo_al_cerrar, guardado_hacer_definitivo,
@@ -234,7 +234,7 @@ PRUEBA(vornfile, the_new_file_is_what_the_old_one_was) {
 }
 
 // Names as long as a directory takes, two of them that differ at their end, and a working directory that changes.
-PRUEBA(vornfile, long_and_relative_names) {
+PRUEBA(vornfile, nombres_largos_y_relativos) {
     for (const char fin : {'a', 'b'})
         for (const size_t largo : {250, 251, 252, 255}) {
             const std::string obra = ruta((std::string(largo - 3, 'x') + (EN_WINDOWS ? "nn" : "ñ") + fin).c_str());
@@ -260,7 +260,7 @@ PRUEBA(vornfile, long_and_relative_names) {
 }
 
 // The close and the giving up take a stream that was opened for them, by its name; any other is closed, nothing else.
-PRUEBA(vornfile, streams_that_are_not_the_save_s_own) {
+PRUEBA(vornfile, flujos_que_no_son_del_guardado) {
     graba_fichero(ruta("x"), "x");
     graba_fichero(ruta("y"), "y");
     const auto n = nombre("x"), otro = nombre("y");
@@ -286,7 +286,7 @@ PRUEBA(vornfile, streams_that_are_not_the_save_s_own) {
 }
 
 // The second saver is told why, in the report too; the temporary that somebody has taken away is missed.
-PRUEBA(vornfile, the_reason_is_told) {
+PRUEBA(vornfile, se_dice_el_motivo) {
     const auto n = nombre("obra");
     vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
     EXPECT_EQ(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str()), nullptr);
@@ -342,7 +342,7 @@ HIJO(guarda_con_limite) {
     return existe(args.at(0) + "_TM$") ? 2 : 0;
 }
 
-PRUEBA(vornfile, closed_standard_streams_and_a_limit_of_size) {
+PRUEBA(vornfile, sin_los_tres_flujos_y_con_limite_de_tamanyo) {
     EXPECT_EQ(proceso("guarda_sin_los_tres", {ruta("obra")}).espera(60000), 0);
     graba_fichero(ruta("obra"), "vieja");
     EXPECT_EQ(proceso("guarda_con_limite", {ruta("obra")}).espera(60000), 0);
@@ -373,7 +373,7 @@ HIJO(guarda_como_usuario) {
     return !guarda("ilegible/obra") ? 7 : 0;
 }
 
-PRUEBA(vornfile, other_users_files) {
+PRUEBA(vornfile, ficheros_de_otros_usuarios) {
     fs::create_directory(ruta("ilegible"));
     fs::create_directory(ruta("pegado"));
     fs::permissions(directorio(), static_cast<fs::perms>(0777));
@@ -397,7 +397,7 @@ HIJO(guarda_sin_parar) {
 }
 
 // Programs that save one file, some of them killed at any moment: the file and its copy are always whole.
-PRUEBA(vornfile, programs_that_save_one_file) {
+PRUEBA(vornfile, programas_que_guardan_un_fichero) {
     const auto entero = [](const std::string &s) {
         const size_t n = s.find('\n') + 1;
         return s.size() == n * 20000 && std::equal(s.begin() + static_cast<ptrdiff_t>(n), s.end(), s.begin());

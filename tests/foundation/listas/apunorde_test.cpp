@@ -1,10 +1,9 @@
 #define VN_MODULO "apunorde_test"
 #include "foundation/listas/apunorde.h"
-#include "prueba.h"
+#include "propiedades.h"
 #include <algorithm>
+#include <atomic>
 #include <cmath>
-#include <thread>
-#include <vector>
 
 namespace {
 
@@ -87,10 +86,9 @@ PRUEBA(apunorde, mezclando_operaciones_es_un_vector_ordenado) {
     double tolerancia = 0;
     apunorde *a = apunorde_crea(nudo, double, compara, &tolerancia, destruye);
     std::vector<double> modelo;
-    uint32_t azar = 12345;
-    const auto siguiente = [&azar](uint32_t n) { return (azar = azar * 1664525u + 1013904223u) / 65536u % n; };
+    vn::azar z(12345);
     for (int paso = 0; paso < 20000; ++paso) {
-        const double x = siguiente(3000);
+        const double x = z.entero(3000);
         const auto sitio = std::ranges::lower_bound(modelo, x);
         const bool esta = sitio != modelo.end() && *sitio == x;
         const auto indice = static_cast<uint32_t>(sitio - modelo.begin());
@@ -101,28 +99,25 @@ PRUEBA(apunorde, mezclando_operaciones_es_un_vector_ordenado) {
             apunorde_inserta_original(a, nuevo(x), nudo, &pos);
             ASSERT_EQ(pos, indice);
             modelo.insert(sitio, x);
-        } else if (siguiente(8) == 0) {
+        } else if (z.entero(8) == 0) {
             nudo *n = apunorde_quita(a, indice, nudo);
             ASSERT_EQ(n->x, x);
             destruye(&n);
             modelo.erase(sitio);
         }
         ASSERT_EQ(apunorde_numelems(a, nudo), modelo.size());
-        if (siguiente(4) == 0 && !modelo.empty()) {
-            const uint32_t i = siguiente(static_cast<uint32_t>(modelo.size()));
+        if (z.entero(4) == 0 && !modelo.empty()) {
+            const uint32_t i = z.entero(static_cast<uint32_t>(modelo.size()));
             ASSERT_EQ(apunorde_get(a, i, nudo)->x, modelo[i]);
         }
     }
     // Two that only ask change nothing for each other, what came out of order and stands apart included.
     apunorde_inserta_original(a, nuevo(modelo[0] - 1), nudo, nullptr);
     modelo.insert(modelo.begin(), modelo[0] - 1);
-    const auto lee = [&](int *distintos) {
-        for (uint32_t i = 0; i < modelo.size(); ++i) *distintos += apunorde_get(a, i, nudo)->x != modelo[i];
-    };
-    int distintos[2] = {};
-    std::thread otra(lee, &distintos[0]);
-    lee(&distintos[1]);
-    otra.join();
-    EXPECT_EQ(distintos[0] + distintos[1], 0);
+    std::atomic<int> distintos{0};
+    vn::en_hebras(2, [&](int) {
+        for (uint32_t i = 0; i < modelo.size(); ++i) distintos += apunorde_get(a, i, nudo)->x != modelo[i];
+    });
+    EXPECT_EQ(distintos, 0);
     apunorde_destruye(&a, nudo);
 }

@@ -1,20 +1,14 @@
 #include "foundation/listas/arr_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "propiedades.h"
 #include "prueba.h"
-#include <limits>
-#include <memory>
 
-using vn::cerca;
+using vn::cerca, vn::INF, vn::NAN_;
 
 namespace {
 
-constexpr double PI = 3.141592653589793, NAN_ = std::numeric_limits<double>::quiet_NaN(),
-                 INF = std::numeric_limits<double>::infinity();
-
-struct destruye {
-    void operator()(arrPunto2D *a) const { arr_DestruyePunto2D(&a); }
-};
-using puntos = std::unique_ptr<arrPunto2D, destruye>;
+constexpr double PI = 3.141592653589793;
+using puntos = vn::dueno<arr_DestruyePunto2D>;
 
 puntos con(std::initializer_list<Punto2D> dados) {
     puntos a(arr_CreaPunto2D(0));

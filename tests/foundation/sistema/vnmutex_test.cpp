@@ -19,11 +19,9 @@ using reloj = std::chrono::steady_clock;
 double segundos_desde(reloj::time_point t) { return std::chrono::duration<double>(reloj::now() - t).count(); }
 
 // The wait of this process, for as long as it lives.
-struct con_plazo {
-    explicit con_plazo(uint32_t ms) : antes(vnmutex_establece_plazo(ms)) {}
-    ~con_plazo() { vnmutex_establece_plazo(antes); }
-    uint32_t antes;
-};
+auto con_plazo(uint32_t ms) {
+    return vn::al_final([antes = vnmutex_establece_plazo(ms)] { vnmutex_establece_plazo(antes); });
+}
 
 // Whether another thread can enter now.
 bool entra_otra_hebra(vnmutex *m) {
@@ -52,7 +50,7 @@ uint64_t lee_cuenta(const std::string &fichero) {
 } // namespace
 
 PRUEBA(vnmutex, el_mismo_nombre_es_el_mismo_cerrojo) {
-    const con_plazo corto(30);
+    const auto corto = con_plazo(30);
     vnmutex *a = vnmutex_crea("uno"), *b = vnmutex_crea_u(VNU("uno")), *otro = vnmutex_crea("Uno");
     const std::string largo(3000, 'x');
     vnmutex *l1 = vnmutex_crea((largo + "1").c_str()), *l2 = vnmutex_crea((largo + "2").c_str());
@@ -76,7 +74,7 @@ PRUEBA(vnmutex, el_mismo_nombre_es_el_mismo_cerrojo) {
 }
 
 PRUEBA(vnmutex, salir_y_destruir_a_destiempo) {
-    const con_plazo corto(30);
+    const auto corto = con_plazo(30);
     vnmutex *a = vnmutex_crea("dos"), *b = vnmutex_crea("dos");
     ESPERA_INFORME("dentro", vnmutex_sal(a));
     vnmutex_entra(a);
@@ -129,17 +127,14 @@ PRUEBA(vnmutex, cuatro_hebras_y_cuatro_programas_entran_por_igual) {
     const nombre_propio nombre;
     int veces[4] = {};
     vnmutex *m = nullptr;
-    std::vector<std::thread> hebras;
-    for (int &v : veces)
-        hebras.emplace_back([&] { v = entra_a_menudo(&m, nombre.c_str(), std::chrono::milliseconds(1000)); });
-    for (auto &h : hebras) h.join();
+    vn::en_hebras(4, [&](int i) { veces[i] = entra_a_menudo(&m, nombre.c_str(), std::chrono::milliseconds(1000)); });
     espera_equidad(veces);
     vnmutex_destruye(&m);
 
-    std::vector<vn::proceso> hijos;
     const auto fichero = [&](int i) { return directorio() + "/veces" + std::to_string(i); };
-    for (int i = 0; i < 4; ++i)
-        hijos.emplace_back("entra_a_menudo", std::vector<std::string>{nombre, directorio() + "/ya", fichero(i)});
+    auto hijos = vn::procesos(4, "entra_a_menudo", [&](int i) {
+        return std::vector<std::string>{nombre, directorio() + "/ya", fichero(i)};
+    });
     vn::graba_fichero(directorio() + "/ya", "");
     for (int i = 0; i < 4; ++i) {
         EXPECT_EQ(hijos[static_cast<size_t>(i)].espera(30000), 0);
@@ -173,13 +168,10 @@ PRUEBA(vnmutex, varios_programas_cuentan_y_algunos_mueren_dentro) {
     constexpr int PROGRAMAS = 4, VECES = 60;
     int muertos = 0;
     uint64_t esperado = 0;
-    std::vector<vn::proceso> hijos;
-    for (int i = 0; i < PROGRAMAS; ++i) {
-        const bool muere = i % 2 == 1;
-        hijos.emplace_back("cuenta_bajo_mutex",
-                           std::vector<std::string>{nombre, cuenta, directorio() + "/hecho" + std::to_string(i),
-                                                    std::to_string(VECES), muere ? std::to_string(7 * i) : "-1"});
-    }
+    auto hijos = vn::procesos(PROGRAMAS, "cuenta_bajo_mutex", [&](int i) {
+        return std::vector<std::string>{nombre, cuenta, directorio() + "/hecho" + std::to_string(i),
+                                        std::to_string(VECES), i % 2 == 1 ? std::to_string(7 * i) : "-1"};
+    });
     for (int i = 0; i < PROGRAMAS; ++i) {
         const auto r = hijos[static_cast<size_t>(i)].espera(60000);
         EXPECT_EQ(r, i % 2 == 1 ? vn::proceso::MUERTO : 0);
@@ -209,7 +201,7 @@ PRUEBA(vnmutex, el_plazo_pasa_y_la_muerte_del_que_esta_dentro_lo_libera) {
     vn::proceso hijo("entra_y_espera", {nombre, directorio() + "/dentro"});
     ASSERT_TRUE(vn::espera_fichero(directorio() + "/dentro"));
     {
-        const con_plazo corto(200);
+        const auto corto = con_plazo(200);
         const auto antes = reloj::now();
         EXPECT_EQ(vnmutex_entra(m), FALSO);
         EXPECT_GE(segundos_desde(antes), 0.19);
@@ -234,7 +226,7 @@ PRUEBA(vnmutex, el_plazo_pasa_y_la_muerte_del_que_esta_dentro_lo_libera) {
 
 // Whether another program can enter now; 2: it cannot, or else its result.
 HIJO(intenta_entrar) {
-    const con_plazo corto(100);
+    const auto corto = con_plazo(100);
     vnmutex *m = vnmutex_crea_entre_aplicaciones(args.at(0).c_str());
     const int r = vnmutex_entra(m) == CIERTO ? 0 : 2;
     vnmutex_destruye_saliendo(&m);
@@ -246,7 +238,7 @@ static int intenta_otro(const std::string &nombre) {
 
 // What a child of a process that is inside may not do: enter, leave for its parent, or take the lock away when it ends.
 static int hijo_del_que_esta_dentro(void *datos) {
-    const con_plazo corto(100);
+    const auto corto = con_plazo(100);
     auto **m = static_cast<vnmutex **>(datos);
     if (vnmutex_entra(*m) != FALSO) return 3;
     const uint64_t informes = error_interno_numero_de_informes();
@@ -297,7 +289,7 @@ PRUEBA(vnmutex, un_proceso_bifurcado_no_tiene_lo_de_su_padre) {
 
     vn::proceso padre("muere_dentro_con_un_hijo", {nombre, directorio() + "/muere"});
     EXPECT_TRUE(vn::espera_fichero(directorio() + "/muere"));
-    const con_plazo corto(2000);
+    const auto corto = con_plazo(2000);
     EXPECT_EQ(vnmutex_entra(m), CIERTO);
     vnmutex_sal(m);
     vnmutex_destruye(&m);
@@ -325,7 +317,7 @@ PRUEBA(vnmutex, lo_que_ocupa_el_sitio_del_cerrojo_no_se_toca) {
         const nombre_propio nombre;
         const std::string fichero = vn::fichero_de_cerrojo(nombre);
         if (fichero.empty()) return; // there the lock is no file
-        const con_plazo corto(100);
+        const auto corto = con_plazo(100);
         ocupa(fichero);
         vnmutex *m = vnmutex_crea_entre_aplicaciones(nombre.c_str());
         EXPECT_EQ(vnmutex_entra(m), CIERTO);

@@ -20,10 +20,6 @@ std::string clave_propia() {
     const std::string &d = vn::Prueba::directorio();
     return CLAVE + "\\" + d.substr(d.find_last_of('/') + 1);
 }
-struct base_del_usuario {
-    ~base_del_usuario() { fichconf_establece_directorio_base(nullptr); }
-};
-
 bool pon(const std::string &clave, const std::string &valor, const std::basic_string<vnwchar> &texto) {
     return vornreg_establece_cadena_u(RAIZ, ancho(clave).c_str(), ancho(valor).c_str(), texto.c_str()) == CIERTO;
 }
@@ -54,7 +50,6 @@ std::string textos(const std::string &clave) {
 } // namespace
 
 PRUEBA(vornreg, lo_que_se_pone_se_lee) {
-    const base_del_usuario al_salir;
     const std::string clave = clave_propia();
     vnwchar sola[] = {VNU('a'), 0xD800, VNU('b'), 0};
     const std::basic_string<vnwchar> valores[] = {VNU(""),
@@ -82,7 +77,6 @@ PRUEBA(vornreg, lo_que_se_pone_se_lee) {
 }
 
 PRUEBA(vornreg, claves_y_nombres_en_cualquier_caja) {
-    const base_del_usuario al_salir;
     const std::string clave = clave_propia();
     EXPECT_EQ(subclaves(clave), "(none)");
     EXPECT_TRUE(quita(clave + "\\no", "x")); // nothing is made for it
@@ -114,7 +108,6 @@ PRUEBA(vornreg, claves_y_nombres_en_cualquier_caja) {
 // What somebody wrote by hand, with a mark in front and another system's line ends.
 PRUEBA(vornreg, un_fichero_escrito_a_mano) {
     if (vn::EN_WINDOWS) return;
-    const base_del_usuario al_salir;
     const std::string clave = clave_propia(), raiz(1, static_cast<char>('0' + RAIZ)),
                       fichero = directorio() + "/VORN/registro.txt";
     std::filesystem::create_directories(directorio() + "/VORN");
@@ -131,7 +124,6 @@ PRUEBA(vornreg, un_fichero_escrito_a_mano) {
 
 // A file too large to be one, and a directory in its place: an answer that is true, whatever it is.
 PRUEBA(vornreg, sobre_un_fichero_cualquiera) {
-    const base_del_usuario al_salir;
     const std::string clave = clave_propia(), vorn = directorio() + "/VORN", fichero = vorn + "/registro.txt";
     std::filesystem::create_directories(vorn);
     vn::graba_fichero(fichero, std::string(17 << 20, 'x'));
@@ -154,12 +146,11 @@ HIJO(anota_en_el_registro) {
 }
 
 PRUEBA(vornreg, varios_programas_a_la_vez) {
-    const base_del_usuario al_salir;
     const std::string clave = clave_propia();
     constexpr int PROGRAMAS = 5;
-    std::vector<vn::proceso> hijos;
-    for (int i = 0; i < PROGRAMAS; ++i)
-        hijos.emplace_back("anota_en_el_registro", std::vector<std::string>{directorio(), clave, std::to_string(i)});
+    auto hijos = vn::procesos(PROGRAMAS, "anota_en_el_registro", [&](int i) {
+        return std::vector{directorio(), clave, std::to_string(i)};
+    });
     for (auto &h : hijos) EXPECT_EQ(h.espera(60000), 0);
     for (int i = 0; i < PROGRAMAS; ++i)
         for (int k = 0; k < 8; ++k)
@@ -168,17 +159,13 @@ PRUEBA(vornreg, varios_programas_a_la_vez) {
 
 // Where the registry is a file: one value, which each edition replaces.
 GUARDADO(registro) {
-    const std::string carpeta = fichero.substr(0, fichero.rfind("/guardado/"));
+    const std::string carpeta = fichero.substr(0, fichero.rfind("/VORN/"));
     vn::pon_variable("XDG_RUNTIME_DIR", carpeta);
     fichconf_establece_directorio_base(ancho(carpeta).c_str());
-    fichconf_registra_nombre_distribuidor_no_vorn(VNU("guardado"));
-    const bool puesto = pon("k", "v", std::basic_string<vnwchar>(70000, static_cast<vnwchar>('0' + edicion)));
-    fichconf_registra_nombre_distribuidor_no_vorn(VNU("VORN"));
-    fichconf_establece_directorio_base(nullptr);
-    return puesto;
+    return pon("k", "v", std::basic_string<vnwchar>(70000, static_cast<vnwchar>('0' + edicion)));
 }
 
 PRUEBA(vornreg, cada_fallo_al_grabarlo) {
     if (vn::EN_WINDOWS) GTEST_SKIP() << "the registry of Windows is no file";
-    vn::comprueba_guardado("registro", {.fichero = "registro.txt", .informa = false});
+    vn::comprueba_guardado("registro", {.carpeta = "VORN", .fichero = "registro.txt", .informa = false});
 }

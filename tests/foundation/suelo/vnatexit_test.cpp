@@ -3,7 +3,6 @@
 #include "prueba.h"
 #include <atomic>
 #include <cstdlib>
-#include <thread>
 
 namespace {
 
@@ -58,15 +57,12 @@ PRUEBA(vnatexit, lo_que_se_anade_cuando_ya_ha_corrido_corre_tambien) {
 
 PRUEBA(vnatexit, muchas_hebras_registran_y_ejecutan_a_la_vez) {
     veces = 0;
-    std::vector<std::thread> hebras;
-    for (int h = 0; h < 4; ++h)
-        hebras.emplace_back([h] {
-            for (int i = 0; i < 500; ++i) {
-                atexit_anade(cuenta, nullptr);
-                if (h == 0 && i % 50 == 0) vnatexit_ejecuta();
-            }
-        });
-    for (auto &h : hebras) h.join();
+    vn::en_hebras(4, [](int h) {
+        for (int i = 0; i < 500; ++i) {
+            atexit_anade(cuenta, nullptr);
+            if (h == 0 && i % 50 == 0) vnatexit_ejecuta();
+        }
+    });
     vnatexit_ejecuta();
     EXPECT_EQ(veces, 2000);
 }

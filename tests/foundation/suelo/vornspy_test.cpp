@@ -3,7 +3,6 @@
 #include "plataforma/proceso.h"
 #include "prueba.h"
 #include <cstring>
-#include <thread>
 
 PRUEBA(vornspy, un_bloque_esta_vivo_hasta_que_se_libera) {
     char *p = static_cast<char *>(vornspy_calloc(3, 5));
@@ -45,7 +44,7 @@ PRUEBA(vornspy, los_bloques_vivos_dicen_quien_los_pidio) {
 }
 
 PRUEBA(vornspy, varias_hebras_a_la_vez) {
-    auto trabaja = [] {
+    vn::en_hebras(2, [](int) {
         void *p[64] = {};
         for (unsigned i = 0; i < 20000; ++i) {
             void *&q = p[i * 7 % 64];
@@ -54,10 +53,7 @@ PRUEBA(vornspy, varias_hebras_a_la_vez) {
         }
         for (void *&q : p)
             if (q != nullptr) vornspy_free_pp(&q, 1);
-    };
-    std::thread a(trabaja), b(trabaja);
-    a.join();
-    b.join();
+    });
 }
 
 // A size that nobody has is exhausted memory, never a smaller block.

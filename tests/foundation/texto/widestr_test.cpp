@@ -2,7 +2,7 @@
 #include "foundation/texto/cad.h"
 #include "foundation/texto/unicode.h"
 #include "foundation/texto/widestr.h"
-#include "prueba.h"
+#include "propiedades.h"
 
 using namespace vn;
 
@@ -130,19 +130,16 @@ PRUEBA(widestr, cambios) {
 
 // The letters of the languages that the programs speak, alike on every platform.
 PRUEBA(widestr, mapas_de_letras_iguales_en_todas_partes) {
-    uint64_t h = 0xCBF29CE484222325;
-    const auto digiere = [&h](const std::string &s) {
-        for (const char c : s) h = (h ^ static_cast<unsigned char>(c)) * 0x100000001B3;
-    };
+    huella h;
     std::basic_string<vnwchar> todas;
     for (unsigned u = 0x20; u < 0x530; ++u)
         if (u < 0x250 || u >= 0x370) todas += static_cast<vnwchar>(u);
     for (unsigned u = 0x1E00; u < 0x1F00; ++u) todas += static_cast<vnwchar>(u);
     const std::string utf8 = utf8_de(todas.c_str());
-    digiere(tras(utf8.c_str(), [](vnwchar *s) { widestr_convertir_a_mayusculas(s); }));
-    digiere(tras(utf8.c_str(), [](vnwchar *s) { widestr_convertir_a_minusculas(s); }));
-    digiere(tras(utf8.c_str(), [](vnwchar *s) { widestr_convertir_cadena_sin_acentos(s); }));
-    EXPECT_EQ(h, 9815241886362381049u);
+    h << tras(utf8.c_str(), [](vnwchar *s) { widestr_convertir_a_mayusculas(s); });
+    h << tras(utf8.c_str(), [](vnwchar *s) { widestr_convertir_a_minusculas(s); });
+    h << tras(utf8.c_str(), [](vnwchar *s) { widestr_convertir_cadena_sin_acentos(s); });
+    EXPECT_EQ(h(), 9815241886362381049u);
 }
 
 // Each allocation of each of these fails in its turn: no text is left half changed.
