@@ -1,10 +1,7 @@
 #include "fallos.h"
-#include "foundation/listas/arr.h"
 #include "foundation/texto/msglocal.h"
-#include "foundation/texto/widestr.h"
 #include "persistence/ultiobra.h"
-#include "prueba.h"
-#include <algorithm>
+#include "texto_ancho.h"
 #include <array>
 
 namespace {
@@ -14,26 +11,10 @@ std::basic_string<vnwchar> lista() { return vn::ancho(fichero()); }
 
 void guarda(const char *nombre) { ultiobra_guarda_nombre_ultima_obra_u(vn::ancho(nombre).c_str(), lista().c_str()); }
 
-std::string junta(arrCADENA_u *a) {
-    std::string texto;
-    for (uint32_t i = 0; i < arr_NumElemsCADENA_u(a); ++i) texto += vn::utf8_de(arr_GetCADENA_u(a, i)) + "|";
-    arr_DestruyeCADENA_u(&a);
-    return texto;
-}
-
-arrCADENA_u *extensiones(std::initializer_list<const vnwchar *> textos) {
-    arrCADENA_u *a = arr_CreaCADENA_u(0);
-    for (const vnwchar *t : textos) arr_AppendCADENA_u(a, t);
-    return a;
-}
-
-std::string obras() { return junta(ultiobra_lee_ultimas_obras_u(lista().c_str(), nullptr)); }
+std::string obras() { return vn::toma(ultiobra_lee_ultimas_obras_u(lista().c_str(), nullptr)); }
 
 std::string ultima_finalizada() {
-    vnwchar *nombre = ultiobra_lee_nombre_ultima_obra_finalizada_u(lista().c_str(), nullptr);
-    const std::string texto = nombre == nullptr ? "-" : vn::utf8_de(nombre);
-    widestr_destruye_opcional(&nombre);
-    return texto;
+    return vn::toma(ultiobra_lee_nombre_ultima_obra_finalizada_u(lista().c_str(), nullptr));
 }
 
 vnbool existe_la_b(const vnwchar *nombre) { return nombre[0] == VNU('b') ? CIERTO : FALSO; }
@@ -44,33 +25,33 @@ PRUEBA(ultiobra, el_ultimo_va_delante_una_vez_y_los_viejos_se_pierden) {
     guarda("a.obr");
     guarda("Ñandú 日.obr");
     guarda("A.OBR");
-    EXPECT_EQ(obras(), "A.OBR|Ñandú 日.obr|");
+    EXPECT_EQ(obras(), "A.OBR|Ñandú 日.obr");
     EXPECT_EQ(vn::lee_fichero(fichero()).substr(0, 14), "5 ; version\n0\n");
     for (int i = 0; i < 33; ++i) guarda(("obra" + std::to_string(i) + ".obr").c_str());
     const std::string todas = obras();
-    EXPECT_EQ(std::count(todas.begin(), todas.end(), '|'), 32);
+    EXPECT_EQ(std::count(todas.begin(), todas.end(), '|'), 31);
     EXPECT_EQ(todas.substr(0, 11), "obra32.obr|");
-    EXPECT_EQ(todas.substr(todas.size() - 11), "|obra1.obr|");
+    EXPECT_EQ(todas.substr(todas.size() - 10), "|obra1.obr");
 }
 
 PRUEBA(ultiobra, la_marca_de_obra_cerrada_y_la_de_ninguna_abierta) {
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, lista().c_str());
     EXPECT_FALSE(vn::existe(fichero()));
     guarda("a.obr");
-    EXPECT_EQ(ultima_finalizada(), "-");
+    EXPECT_EQ(ultima_finalizada(), "(null)");
     ultiobra_finaliza_ultima_obra_u(lista().c_str());
     EXPECT_EQ(ultima_finalizada(), "a.obr");
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, lista().c_str());
     for (int i = 0; i < 40; ++i) ultiobra_guarda_nombre_ultima_obra_u(nullptr, lista().c_str()); // openings that failed
     EXPECT_NE(vn::lee_fichero(fichero()).find("\n2 ;"), std::string::npos);
-    EXPECT_EQ(obras(), "a.obr|");
+    EXPECT_EQ(obras(), "a.obr");
     guarda("b.obr"); // takes the place of the mark
     EXPECT_NE(vn::lee_fichero(fichero()).find("\n2 ;"), std::string::npos);
-    EXPECT_EQ(obras(), "b.obr|a.obr|");
+    EXPECT_EQ(obras(), "b.obr|a.obr");
     // Closed, but with nothing that passes.
     vn::graba_fichero(fichero(), "5 ; version\n1\n1 ; n\nno<valida\n");
     EXPECT_EQ(obras(), "");
-    EXPECT_EQ(ultima_finalizada(), "-");
+    EXPECT_EQ(ultima_finalizada(), "(null)");
     ultiobra_guarda_nombre_ultima_obra_u(VNU("x"), nullptr);
 }
 
@@ -78,13 +59,13 @@ PRUEBA(ultiobra, cada_version_se_lee_y_lo_danyado_se_borra_sin_ruido) {
     const struct {
         const char *contenido, *obras, *finalizada;
     } filas[] = {
-        {"0 ; version\nn\xA4o.obr\n", "nño.obr|", "nño.obr"}, // OEM code page
-        {"1 ; version\nn\xF1o.obr\n", "nño.obr|", "nño.obr"},
-        {"2 ; version\n2 ; n\na.obr\nb.obr\n", "a.obr|b.obr|", "a.obr"},
-        {"3 ; version\r\n0\r\n1 ; n\r\nn\xF1o.obr\r\n", "nño.obr|", "-"},
-        {"5 ; version\n1\n1 ; n\nn\xC3\xB1o.obr\n", "nño.obr|", "nño.obr"},
-        {"5\n; version\n1\n2\n; n\n;a.obr\n;b.obr\n", ";a.obr|;b.obr|", ";a.obr"}, // comments on lines of their own
-        {"5 ; version\n1\n1 ; n\n;a.obr\n", ";a.obr|", ";a.obr"},
+        {"0 ; version\nn\xA4o.obr\n", "nño.obr", "nño.obr"}, // OEM code page
+        {"1 ; version\nn\xF1o.obr\n", "nño.obr", "nño.obr"},
+        {"2 ; version\n2 ; n\na.obr\nb.obr\n", "a.obr|b.obr", "a.obr"},
+        {"3 ; version\r\n0\r\n1 ; n\r\nn\xF1o.obr\r\n", "nño.obr", "(null)"},
+        {"5 ; version\n1\n1 ; n\nn\xC3\xB1o.obr\n", "nño.obr", "nño.obr"},
+        {"5\n; version\n1\n2\n; n\n;a.obr\n;b.obr\n", ";a.obr|;b.obr", ";a.obr"}, // comments on lines of their own
+        {"5 ; version\n1\n1 ; n\n;a.obr\n", ";a.obr", ";a.obr"},
         {"5 ; version\n1\n4000000000 ; n\na.obr\n", "", nullptr},
         {"5 ; version\n1\n0 ; n\n", "", nullptr},
         {"", "", nullptr},
@@ -110,22 +91,22 @@ PRUEBA(ultiobra, cada_version_se_lee_y_lo_danyado_se_borra_sin_ruido) {
 PRUEBA(ultiobra, el_filtro_mira_la_ruta_detras_de_los_corchetes) {
     vn::graba_fichero(fichero(),
                       "5 ; version\n1\n8 ; n\n[red]a.obr\n[b.obr\n\n[]\nc.OBR\nd.txt\ncarpeta\\\nmal*.obr\n");
-    EXPECT_EQ(obras(), "[red]a.obr|[b.obr|c.OBR|d.txt|carpeta\\|");
-    arrCADENA_u *ext = extensiones({VNU("obr"), VNU("xyz")});
-    EXPECT_EQ(junta(ultiobra_lee_ultimas_obras_u(lista().c_str(), ext)), "[red]a.obr|[b.obr|c.OBR|");
-    arr_DestruyeCADENA_u(&ext);
+    EXPECT_EQ(obras(), "[red]a.obr|[b.obr|c.OBR|d.txt|carpeta\\");
+    const vn::textos ext = vn::textos_de({"obr", "xyz"});
+    EXPECT_EQ(vn::toma(ultiobra_lee_ultimas_obras_u(lista().c_str(), ext.get())), "[red]a.obr|[b.obr|c.OBR");
 }
 
 PRUEBA(ultiobra, la_obra_que_falta_se_quita_si_el_usuario_quiere) {
     for (const char *nombre : {"c.txt", "b.obr", "a.obr"}) guarda(nombre);
     msidioma_establece_idioma(8);
-    arrCADENA_u *ext = extensiones({VNU("obr")});
+    const vn::textos ext = vn::textos_de({"obr"});
     vnwchar *nombre = nullptr;
     vnbool eliminada = CIERTO;
-    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 1, ext, existe_la_b, &nombre, &eliminada), CIERTO);
-    EXPECT_EQ(vn::utf8_de(nombre), "b.obr");
+    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 1, ext.get(), existe_la_b, &nombre, &eliminada),
+              CIERTO);
+    EXPECT_EQ(vn::toma(nombre), "b.obr");
+    nombre = nullptr;
     EXPECT_EQ(eliminada, FALSO);
-    widestr_destruye(&nombre);
 
     vn::Prueba::responde(FALSO);
     EXPECT_EQ(ultiobra_nombre_existe_obra_reciente(lista().c_str(), VNU("a.obr"), existe_la_b, &nombre, &eliminada),
@@ -138,12 +119,13 @@ PRUEBA(ultiobra, la_obra_que_falta_se_quita_si_el_usuario_quiere) {
               "accessed.\nDo you want to delete this entry from the list?");
 
     vn::Prueba::responde(CIERTO);
-    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 0, ext, existe_la_b, nullptr, &eliminada), FALSO);
+    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 0, ext.get(), existe_la_b, nullptr, &eliminada),
+              FALSO);
     EXPECT_EQ(eliminada, CIERTO);
     EXPECT_EQ(vn::Prueba::toma_avisos().size(), 1u);
-    EXPECT_EQ(obras(), "b.obr|c.txt|"); // what the filter hid is still there
-    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 9, ext, existe_la_b, nullptr, nullptr), FALSO);
-    arr_DestruyeCADENA_u(&ext);
+    EXPECT_EQ(obras(), "b.obr|c.txt"); // what the filter hid is still there
+    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 9, ext.get(), existe_la_b, nullptr, nullptr),
+              FALSO);
 }
 
 // The same work in another case takes the place of itself. What fails is told to nobody, and loses nothing.

@@ -2,10 +2,9 @@
 #include "foundation/listas/arr.h"
 #include "foundation/sistema/version.h"
 #include "foundation/sistema/vnstdc.h"
-#include "foundation/texto/unicode.h"
 #include "persistence/ultiobra.h"
 #include "persistence/vornbin.h"
-#include "prueba.h"
+#include "texto_ancho.h"
 
 namespace {
 
@@ -45,13 +44,6 @@ struct archivo {
     ancho_t ruta_u;
 };
 
-std::string toma(arrCADENA_u *a) {
-    std::string s;
-    for (uint32_t i = 0; i < arr_NumElemsCADENA_u(a); ++i) s += vn::utf8_de(arr_GetCADENA_u(a, i)) + ";";
-    arr_DestruyeCADENA_u(&a);
-    return s;
-}
-
 std::string campos(const archivo &a) {
     arrCADENA_u *nombres = nullptr, *valores = nullptr;
     const vnbool hay = vornbin_lee_campos_cabecera_u(a.u(), &nombres, &valores);
@@ -70,24 +62,14 @@ vnbool guarda(const archivo &a, char dato = 'D') {
 
 const std::string PROLOGO = "\0\3\0"s + texto("FIRMA") + texto("T\xEDtulo");
 
-// The identity of the program and the code page while a test runs.
-class identidad {
-  public:
-    identidad() {
-        version_establece_u(VNU("9.1"), VNU("9"), 'a');
-        unicode_establece_pagina_ANSI(1252);
-    }
-    ~identidad() {
+// The identity of the program while a test runs.
+auto identidad() {
+    version_establece_u(VNU("9.1"), VNU("9"), 'a');
+    return vn::al_final([] {
         version_establece_u(VNU("1.0"), VNU("1"), 'a');
-        unicode_establece_pagina_ANSI(pagina_);
         vornbin_establece_directorio_ejemplos_u(nullptr);
-    }
-    identidad(const identidad &) = delete;
-    identidad &operator=(const identidad &) = delete;
-
-  private:
-    uint32_t pagina_ = unicode_pagina_ANSI();
-};
+    });
+}
 
 struct apertura {
     std::string resultado; // "open", "closed"
@@ -113,7 +95,7 @@ apertura abre_completo(const archivo &a, uint16_t version_actual, vnbool *superi
 } // namespace
 
 PRUEBA(vornbin_cabecera, las_cuatro_formas_de_fichero_al_byte) {
-    const identidad i;
+    const auto i = identidad();
     const archivo a;
     const auto cierra = [&](vnfichero *f) {
         bin_graba_char('D', f);
@@ -210,7 +192,7 @@ PRUEBA(vornbin_cabecera, que_identificaciones_y_formas_se_aceptan) {
 }
 
 PRUEBA(vornbin_cabecera, los_campos_y_la_lista_reservada_pasan_de_un_guardado_a_otro) {
-    const identidad i;
+    const auto i = identidad();
     const archivo a;
     EXPECT_EQ(guarda(a), CIERTO);
     EXPECT_EQ(campos(a), "=");
@@ -219,50 +201,33 @@ PRUEBA(vornbin_cabecera, los_campos_y_la_lista_reservada_pasan_de_un_guardado_a_
         EXPECT_EQ(guarda(a), CIERTO);
         EXPECT_EQ(guarda(a), CIERTO);
         EXPECT_EQ(a.lee(), ID + "\1" + MARCA + LISTAS + PROLOGO + "D");
-        EXPECT_EQ(campos(a), "obra;=puente;");
+        EXPECT_EQ(campos(a), "obra=puente");
     }
     // A host gives fields: one in its place, one at the end, twice the same the last one.
-    const auto da = [&](std::initializer_list<const vnwchar *> nombres,
-                        std::initializer_list<const vnwchar *> valores) {
-        arrCADENA_u *n = arr_CreaCADENA_u(0), *v = arr_CreaCADENA_u(0);
-        for (auto t : nombres) arr_AppendCADENA_u(n, t);
-        for (auto t : valores) arr_AppendCADENA_u(v, t);
+    const auto da = [&](const vn::textos &nombres, const vn::textos &valores) {
         vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(
-            a.u(), 3, "FIRMA", VNU("Título"), n, v, nullptr);
-        arr_DestruyeCADENA_u(&n);
-        arr_DestruyeCADENA_u(&v);
-        return f;
+            a.u(), 3, "FIRMA", VNU("Título"), nombres.get(), valores.get(), nullptr);
+        return f != nullptr && vornbin_cierra_fichero_abierto_para_escritura_u(f, a.u(), nullptr) == CIERTO;
     };
-    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(
-                  da({VNU("obra"), VNU("autor")}, {VNU("túnel largo"), VNU("")}), a.u(), nullptr),
-              CIERTO);
-    EXPECT_EQ(campos(a), "obra;autor;=túnel largo;;");
-    EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(da({VNU("obra"), VNU("obra")}, {VNU(""), VNU("fin")}),
-                                                              a.u(), nullptr),
-              CIERTO);
-    EXPECT_EQ(campos(a), "obra;autor;=fin;;");
+    EXPECT_TRUE(da(vn::textos_de({"obra", "autor"}), vn::textos_de({"túnel largo", ""})));
+    EXPECT_EQ(campos(a), "obra|autor=túnel largo|");
+    EXPECT_TRUE(da(vn::textos_de({"obra", "obra"}), vn::textos_de({"", "fin"})));
+    EXPECT_EQ(campos(a), "obra|autor=fin|");
     EXPECT_NE(a.lee().find(numero(2) + numero(7) + texto_u("x") + numero(9) + texto_u("") + PROLOGO),
               std::string::npos);
-    EXPECT_EQ(ESPERA_INFORME("arr_NumElemsCADENA_u(nombres) == arr_NumElemsCADENA_u(valores)", da({VNU("obra")}, {})),
-              nullptr);
+    EXPECT_FALSE(ESPERA_INFORME("arr_NumElemsCADENA_u(nombres) == arr_NumElemsCADENA_u(valores)",
+                                da(vn::textos_de({"obra"}), vn::textos_de({}))));
     // Many, over many.
-    arrCADENA_u *n = arr_CreaCADENA_u(0), *v = arr_CreaCADENA_u(0);
-    for (int32_t k = 0; k < 20000; ++k) arr_AppendCADENA_u(n, vn::ancho("campo " + std::to_string(k)).c_str());
-    arr_ConcatenaCADENA_u(v, n);
-    vornbin_cierra_fichero_abierto_para_escritura_u(
-        vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "F", VNU(""), n, v, nullptr),
-        a.u(), nullptr);
-    for (uint32_t k = 0; k < 300; ++k) arr_SetCADENA_u(n, k, vn::ancho("nuevo " + std::to_string(k)).c_str());
-    vornbin_cierra_fichero_abierto_para_escritura_u(
-        vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(a.u(), 3, "F", VNU(""), n, v, nullptr),
-        a.u(), nullptr);
-    arr_DestruyeCADENA_u(&n);
-    arr_DestruyeCADENA_u(&v);
-    EXPECT_EQ(vornbin_lee_campos_cabecera_u(a.u(), &n, &v), CIERTO);
-    EXPECT_EQ(arr_NumElemsCADENA_u(n), 20302u);
-    EXPECT_EQ(vn::utf8_de(arr_GetCADENA_u(n, 20301)) + vn::utf8_de(arr_GetCADENA_u(v, 20301)), "nuevo 299campo 299");
-    arr_DestruyeCADENA_u(&n);
-    arr_DestruyeCADENA_u(&v);
+    const vn::textos n = vn::textos_de({}), v = vn::textos_de({});
+    for (int32_t k = 0; k < 20000; ++k) arr_AppendCADENA_u(n.get(), vn::ancho("campo " + std::to_string(k)).c_str());
+    arr_ConcatenaCADENA_u(v.get(), n.get());
+    EXPECT_TRUE(da(n, v));
+    for (uint32_t k = 0; k < 300; ++k) arr_SetCADENA_u(n.get(), k, vn::ancho("nuevo " + std::to_string(k)).c_str());
+    EXPECT_TRUE(da(n, v));
+    const std::string todos = campos(a);
+    EXPECT_EQ(std::count(todos.begin(), todos.end(), '|'), 2 * 20301);
+    EXPECT_TRUE(todos.find("|nuevo 299=túnel") == std::string::npos &&
+                todos.find("|nuevo 299=fin") != std::string::npos && todos.ends_with("|campo 299"));
     // A form of later programs cannot be kept, which is said.
     a.graba(ID + "\3" + PROLOGO);
     EXPECT_EQ(ESPERA_INFORME("fichero_valido == CIERTO", guarda(a)), CIERTO);
@@ -274,7 +239,7 @@ PRUEBA(vornbin_cabecera, los_campos_y_la_lista_reservada_pasan_de_un_guardado_a_
 }
 
 PRUEBA(vornbin_cabecera, la_lectura_estricta_se_niega_con_el_nombre_del_fichero) {
-    const identidad i;
+    const auto i = identidad();
     const archivo a;
     guarda(a);
     vnbool superior = 7;
@@ -304,29 +269,41 @@ PRUEBA(vornbin_cabecera, la_lectura_estricta_se_niega_con_el_nombre_del_fichero)
     EXPECT_EQ(r.resultado, "closed");
 }
 
-PRUEBA(vornbin_cabecera, el_prologo_solo_se_lee_de_forma_estricta_y_tolerante) {
+// Each file, strictly, tolerantly, and by the two tests of whether it can be read: one warns the user.
+PRUEBA(vornbin_cabecera, un_fichero_que_no_se_puede_leer_se_dice) {
+    const auto i = identidad();
     const archivo a;
+    constexpr const char *NUEVA = "*version <= version_actual", *FIRMA = "cad_cadenas_iguales(buf, firma)",
+                         *LECTURA = "lc_error_leyendo_fichero";
     const struct {
         const char *que;
         std::string bytes;
-        const char *informe_estricto, *informe_tolerante;
+        const char *estricto = nullptr, *tolerante = nullptr; // reports of the openings of a prologue
+        bool solo_prologo = true;
     } filas[] = {
-        {"good", "\0\3\0"s + texto("FIRMA") + texto("t") + "D", nullptr, nullptr},
-        {"newer", "\0\4\0"s + texto("FIRMA") + texto("t"), "*version <= version_actual", nullptr},
-        {"another signature", "\0\3\0"s + texto("FIRMB") + texto("t"), "cad_cadenas_iguales(buf, firma)", nullptr},
-        {"cut in the version", "\0\3"s, "lc_error_leyendo_fichero", "lc_error_leyendo_fichero"},
-        {"cut in the title", "\0\3\0"s + texto("FIRMA") + "\5\0t"s, "lc_error_leyendo_fichero",
-         "lc_error_leyendo_fichero"},
+        {"prologue only", PROLOGO + "D"},
+        {"header", ID + "\1" + MARCA + LISTAS + PROLOGO + "D", nullptr, nullptr, false},
+        {"newer", "\0\4\0"s + PROLOGO.substr(3), NUEVA},
+        {"newer behind a header", ID + "\1" + MARCA + LISTAS + "\0\4\0"s + PROLOGO.substr(3), NUEVA, nullptr, false},
+        {"another signature of that length", "\0\3\0"s + texto("FIRMO") + texto("t"), FIRMA},
+        {"longer signature", "\0\3\0"s + texto("FIRMA2") + texto("t"), FIRMA},
+        {"debug byte of 2", "\2" + PROLOGO.substr(1), LECTURA, LECTURA, false},
+        {"form 3", ID + "\3" + PROLOGO, LECTURA, LECTURA, false},
+        {"cut in the version", "\0\3"s, LECTURA, LECTURA},
+        {"cut in the title", PROLOGO.substr(0, PROLOGO.size() - 1), LECTURA, LECTURA},
+        {"one byte less than the least", PROLOGO.substr(0, 11), LECTURA, LECTURA, false},
+        {"nothing behind the header", ID + "\1", LECTURA, LECTURA, false},
     };
-    for (const auto &fila : filas)
+    for (const auto &fila : filas) {
+        SCOPED_TRACE(fila.que);
+        a.graba(fila.bytes);
+        const bool bien = fila.estricto == nullptr;
         for (const bool tolerante : {false, true}) {
-            SCOPED_TRACE(fila.que);
-            a.graba(fila.bytes);
+            if (!fila.solo_prologo) break;
             uint16_t version = 7;
             char *titulo = nullptr;
             vnfichero *f = nullptr;
-            const bool bien = fila.informe_estricto == nullptr;
-            con_informe(tolerante ? fila.informe_tolerante : fila.informe_estricto, [&] {
+            con_informe(tolerante ? fila.tolerante : fila.estricto, [&] {
                 if (tolerante)
                     EXPECT_EQ(vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(
                                   a.u(), 3, "FIRMA", nullptr, 0, &f, &version, &titulo),
@@ -336,64 +313,34 @@ PRUEBA(vornbin_cabecera, el_prologo_solo_se_lee_de_forma_estricta_y_tolerante) {
                                                                                           &version, &titulo, 0);
             });
             EXPECT_TRUE(!tolerante || version == (bien ? 3 : 65535));
-            EXPECT_EQ(toma(titulo), bien ? "t" : "(null)");
+            EXPECT_EQ(toma(titulo), bien ? "T\xEDtulo" : "(null)");
             ASSERT_EQ(f != nullptr, bien);
             if (f == nullptr) continue;
             EXPECT_EQ(bin_lee_char(f), 'D');
             vornbin_cierra_fichero_abierto_para_lectura_u(f, a.u(), nullptr);
         }
-}
-
-PRUEBA(vornbin_cabecera, un_fichero_que_no_se_puede_leer_se_dice_al_usuario) {
-    const identidad i;
-    const archivo a;
-    const std::string bueno = ID + "\1" + MARCA + LISTAS + PROLOGO + "D";
-    const struct {
-        const char *que;
-        std::string bytes;
-        uint16_t version_actual;
-        bool valido;
-    } filas[] = {
-        {"full", bueno, 3, true},
-        {"prologue only", PROLOGO, 3, true},
-        {"newer", bueno, 2, false},
-        {"another signature of that length", "\0\3\0"s + texto("FIRMO") + texto("t"), 3, false},
-        {"longer signature", "\0\3\0"s + texto("FIRMA2") + texto("t"), 3, false},
-        {"debug byte of 2", "\2" + PROLOGO.substr(1), 3, false},
-        {"form 3", ID + "\3" + PROLOGO, 3, false},
-        {"title cut", PROLOGO.substr(0, PROLOGO.size() - 1), 3, false},
-        {"one byte less than the least", PROLOGO.substr(0, 11), 3, false},
-        {"nothing behind the header", ID + "\1", 3, false},
-    };
-    for (const auto &fila : filas) {
-        a.graba(fila.bytes);
         char titulo[8] = "-------";
-        EXPECT_EQ(bin_fichero_valido_u(a.u(), fila.version_actual, "FIRMA", 7, titulo, 0), fila.valido) << fila.que;
-        EXPECT_EQ(titulo, fila.valido ? "T\xEDtulo"s : "-------"s) << fila.que;
+        EXPECT_EQ(bin_fichero_valido_u(a.u(), 3, "FIRMA", 7, titulo, 0), bien);
+        EXPECT_EQ(titulo, bien ? "T\xEDtulo"s : "-------"s);
         const auto avisos = vn::Prueba::toma_avisos();
-        EXPECT_EQ(avisos.size(), fila.valido ? 0u : 1u) << fila.que;
-        if (!avisos.empty()) {
-            EXPECT_NE(avisos[0].find(a.ruta), std::string::npos) << avisos[0];
-        }
+        ASSERT_EQ(avisos.size(), bien ? 0u : 1u);
+        EXPECT_TRUE(bien || avisos[0].find(a.ruta) != std::string::npos);
         // The same test on a stream says nothing and leaves it at the data.
         char *nuevo = nullptr;
         vnfichero *f = f_lc_fopen_u(a.u(), VNU("rb"), "prueba", 1);
-        EXPECT_EQ(bin_fichero_valido(f, fila.version_actual, "FIRMA", &nuevo, 0), fila.valido) << fila.que;
-        EXPECT_EQ(toma(nuevo), fila.valido ? "T\xEDtulo" : "(null)") << fila.que;
-        if (fila.valido) {
-            EXPECT_EQ(lc_bytes_restantes(f), static_cast<int64_t>(fila.bytes.size() - fila.bytes.rfind("tulo") - 4))
-                << fila.que;
-        }
+        EXPECT_EQ(bin_fichero_valido(f, 3, "FIRMA", &nuevo, 0), bien);
+        EXPECT_EQ(toma(nuevo), bien ? "T\xEDtulo" : "(null)");
+        EXPECT_TRUE(!bien || lc_bytes_restantes(f) == 1);
         lc_fclose(f);
     }
-    a.graba(bueno);
+    a.graba(PROLOGO);
     char corto[4] = "...";
     EXPECT_EQ(bin_fichero_valido_u(a.u(), 3, "FIRMA", 3, corto, 0), CIERTO);
     EXPECT_EQ(std::string(corto), "T\xEDt");
 }
 
 PRUEBA(vornbin_cabecera, la_forma_de_depuracion_marca_la_version_y_los_datos_pero_no_los_textos) {
-    const identidad i;
+    const auto i = identidad();
     const archivo a;
     vnstdc_putenv("GRABARCONDEBUG=1");
     EXPECT_EQ(guarda(a), CIERTO);
@@ -434,7 +381,7 @@ PRUEBA(vornbin_cabecera, la_forma_de_depuracion_marca_la_version_y_los_datos_per
 }
 
 PRUEBA(vornbin_cabecera, un_ejemplo_sigue_siendo_ejemplo_y_un_fichero_se_hace_ejemplo) {
-    const identidad i;
+    const auto i = identidad();
     const archivo a;
     const std::string directorio = vn::Prueba::directorio(), ejemplo = "\2\1" + texto("WENK-9-a");
     std::string mayusculas = directorio;
@@ -495,23 +442,23 @@ PRUEBA(vornbin_cabecera, la_herramienta_de_soporte_ve_la_cabecera) {
 }
 
 PRUEBA(vornbin_cabecera, los_ultimos_trabajos_se_enteran) {
-    const identidad i;
+    const auto i = identidad();
     const archivo a, lista("obras.txt");
     const auto trabajos = [&] { return toma(ultiobra_lee_ultimas_obras_u(lista.u(), nullptr)); };
     vnfichero *f = vornbin_abre_fichero_para_escritura_u(a.u(), lista.u());
     EXPECT_EQ(trabajos(), "");
     EXPECT_EQ(vornbin_cierra_fichero_abierto_para_escritura_u(f, a.u(), lista.u()), CIERTO);
-    EXPECT_EQ(trabajos(), a.ruta + ";");
+    EXPECT_EQ(trabajos(), a.ruta);
     f = vornbin_abre_fichero_para_lectura_unicode(a.u(), nullptr);
     vornbin_cierra_fichero_abierto_para_lectura_u(f, a.u(), lista.u());
-    EXPECT_EQ(trabajos(), a.ruta + ";");
+    EXPECT_EQ(trabajos(), a.ruta);
     f = vornbin_abre_fichero_para_escritura_sin_cabecera(a.ansi(), nullptr);
     vornbin_cierra_fichero_abierto_para_escritura(f, a.ansi(), lista.ansi());
-    EXPECT_EQ(trabajos(), a.ruta + ";");
+    EXPECT_EQ(trabajos(), a.ruta);
 }
 
 PRUEBA(vornbin_cabecera, lo_que_se_abandona_o_falla_deja_el_fichero_de_antes) {
-    const identidad i;
+    const auto i = identidad();
     const archivo a;
     guarda(a, '1');
     const std::string antes = a.lee();

@@ -34,8 +34,7 @@ PRUEBA(vornsave_bloques, bytes_de_un_bloque_y_de_una_seccion) {
                           vornsave_graba_uchar(9, d);
                           vornsave_graba_fin_bloque64("A", d);
                       }),
-              bytes("A\0\0\0\0\0\xb\0\0\0\x9"
-                    "A\0"));
+              bytes("A\0\0\0\0\0\xb\0\0\0\011A\0"));
     EXPECT_EQ(grabado(EN_BIN,
                       [](vornsave *d) {
                           vornsave_graba_inicio_seccion("AB", d);

@@ -11,19 +11,14 @@ using catalogo::hasta;
 
 namespace {
 
-arrCADENA *crea_textos(const std::vector<const char *> &v) {
-    arrCADENA *a = arr_CreaCADENA(0);
-    for (const char *s : v) arr_AppendCADENA(a, s);
+using textos = catalogo::cadenas;
+textos crea_textos(const std::vector<const char *> &v) {
+    textos a(arr_CreaCADENA(0));
+    for (const char *s : v) arr_AppendCADENA(a.get(), s);
     return a;
 }
-// The texts of an array, which is destroyed, joined by a bar; "~" for null.
-std::string junta(arrCADENA *a) {
-    std::string t;
-    for (uint32_t i = 0; i < arr_NumElemsCADENA(a); ++i)
-        t += (i > 0 ? "|" : "") + catalogo::o_nulo(arr_GetCADENA(a, i));
-    arr_DestruyeCADENA(&a);
-    return t;
-}
+// The texts of an array, which is destroyed, each with its bar.
+std::string junta(arrCADENA *a) { return catalogo::de(textos(a)); }
 std::string junta(arrDouble *a) {
     std::string t;
     for (uint32_t i = 0; i < arr_NumElemsDouble(a); ++i) t += std::to_string(std::lround(arr_GetDouble(a, i))) + " ";
@@ -172,11 +167,9 @@ PRUEBA(vornsave_colecciones, bytes_y_lineas) {
     EXPECT_EQ(lineas, "2\n1 2\n3 4\n");
     // A null text where it has no form is reported, and what follows stays in step.
     const std::string datos = grabado(EN_BIN, [&](vornsave *d) {
-        arrCADENA *a = crea_textos({"uno", nullptr, ""});
-        ESPERA_INFORME("(texto) != NULL", vornsave_graba_arr_cadenas(a, d));
-        junta(a);
+        ESPERA_INFORME("(texto) != NULL", vornsave_graba_arr_cadenas(crea_textos({"uno", nullptr, ""}).get(), d));
     });
-    leido(EN_BIN, datos, [](vornsave *d) { EXPECT_EQ(junta(vornsave_lee_arr_cadenas(d)), "uno||"); });
+    leido(EN_BIN, datos, [](vornsave *d) { EXPECT_EQ(junta(vornsave_lee_arr_cadenas(d)), "uno|||"); });
     leido(EN_TXT, "0\n",
           [](vornsave *d) { EXPECT_EQ(ESPERA_INFORME("", vornsave_lee_arr_cadenas_unicode(d)), nullptr); });
 }
@@ -201,7 +194,7 @@ PRUEBA(vornsave_colecciones, grupos_de_valores_iguales) {
     leido(EN_BIN, le(3u) + "\1" + le(2u) + bytes("\1\0x\1") + le(9u) + bytes("\1\0x"), [](vornsave *d) {
         EXPECT_EQ(junta(ESPERA_INFORME("arr_NumElemsCADENA(array) == num_elems_a_leer",
                                        vornsave_lee_arr_cadenas_con_valores_iguales(d))),
-                  "x|x");
+                  "x|x|");
     });
 }
 
@@ -227,36 +220,27 @@ PRUEBA(vornsave_colecciones, una_cuenta_falsa_no_reserva_memoria) {
 
 // What a line of text cannot hold goes otherwise; what an array's line cannot, stops the save, and not the reading.
 PRUEBA(vornsave_colecciones, los_textos_como_lineas) {
-    const char raro[] = "a\r\nb\n\x10"
-                        "000A\x10";
+    const char raro[] = "a\r\nb\n\020000A\x10";
     const std::string datos = grabado(EN_TXT, [&](vornsave *d) {
         vornsave_graba_cadena(raro, d);
-        arrCADENA *a = crea_textos({raro, ""});
-        vornsave_graba_arr_cadenas(a, d);
-        junta(a);
+        vornsave_graba_arr_cadenas(crea_textos({raro, ""}).get(), d);
     });
     EXPECT_EQ(std::count(datos.begin(), datos.end(), '\n'), 4);
     leido(EN_TXT, datos, [&](vornsave *d) {
         EXPECT_EQ(toma(vornsave_lee_cadena(d)), raro);
-        EXPECT_EQ(junta(vornsave_lee_arr_cadenas(d)), std::string(raro) + "|");
+        EXPECT_EQ(junta(vornsave_lee_arr_cadenas(d)), std::string(raro) + "||");
     });
     // As it was written before there was the escape.
-    leido(EN_TXT,
-          "viejo \x10 y \x10"
-          "00ZZ\n",
-          [](vornsave *d) {
-              EXPECT_EQ(toma(vornsave_lee_cadena(d)), "viejo \x10 y \x10"
-                                                      "00ZZ");
-          });
+    leido(EN_TXT, "viejo \x10 y \02000ZZ\n",
+          [](vornsave *d) { EXPECT_EQ(toma(vornsave_lee_cadena(d)), "viejo \x10 y \02000ZZ"); });
     const std::string cabe(255, 'x'), largo(300, 'y');
     const abierto a(EN_TXT, "w+");
-    arrCADENA *textos = crea_textos({cabe.c_str(), largo.c_str(), "fin"});
-    ESPERA_INFORME("longitud < TAMANYO_LINEA", vornsave_graba_arr_cadenas(textos, a));
+    ESPERA_INFORME("longitud < TAMANYO_LINEA",
+                   vornsave_graba_arr_cadenas(crea_textos({cabe.c_str(), largo.c_str(), "fin"}).get(), a));
     EXPECT_EQ(lc_ha_fallado(a.fichero()), CIERTO);
-    junta(textos);
     vornio_fseek_i64(a.fichero(), 0, VN_DESDE_EL_PRINCIPIO);
     EXPECT_EQ(junta(ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_lee_arr_cadenas(a))),
-              cabe + "|" + largo.substr(0, 255) + "|fin");
+              cabe + "|" + largo.substr(0, 255) + "|fin|");
 }
 
 // A block of the promised size, or none.
