@@ -9,27 +9,24 @@
 #include <cfloat>
 #include <chrono>
 #include <cmath>
-#include <limits>
 #include <map>
 #include <set>
 #include <thread>
 
 namespace {
 
-constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN();
-constexpr double INF = std::numeric_limits<double>::infinity();
+using vn::INF, vn::NAN_;
 
+void pon_sistema(uint32_t sistema, uint32_t energia) {
+    vornconf_Internacional_set_sistema_unidades(sistema);
+    vornconf_Internacional_set_sistema_unidades_energia(energia);
+}
 // The system of units while it lives.
-struct en_sistema {
-    uint32_t sistema = vornconf_Internacional_sistema_unidades();
-    uint32_t energia = vornconf_Internacional_sistema_unidades_energia();
-    explicit en_sistema(uint32_t s, uint32_t e = VORNNORM_UNIDAD_ENERGIA_JULIO) { pon(s, e); }
-    ~en_sistema() { pon(sistema, energia); }
-    static void pon(uint32_t s, uint32_t e) {
-        vornconf_Internacional_set_sistema_unidades(s);
-        vornconf_Internacional_set_sistema_unidades_energia(e);
-    }
-};
+auto en_sistema(uint32_t sistema, uint32_t energia = VORNNORM_UNIDAD_ENERGIA_JULIO) {
+    const uint32_t s = vornconf_Internacional_sistema_unidades(), e = vornconf_Internacional_sistema_unidades_energia();
+    pon_sistema(sistema, energia);
+    return vn::al_final([=] { pon_sistema(s, e); });
+}
 constexpr uint32_t MKS = VORNCONF_SU_MKS, SI = VORNCONF_SU_INTERNACIONAL, IMPERIAL = VORNCONF_SU_IMPERIAL;
 
 // ---------------------------------------------------------------- what a unit is, out of its text
@@ -37,83 +34,22 @@ constexpr uint32_t MKS = VORNCONF_SU_MKS, SI = VORNCONF_SU_INTERNACIONAL, IMPERI
 // Each word of a unit text in SI units, by the definitions; a kilogram and a pound are weights here, of 9.81 m/s².
 double palabra_en_si(const std::u16string &palabra) {
     constexpr double G = 9.81, LB = 0.45359237 * G, IN = 0.0254, FT = 0.3048;
+    // clang-format off
     static const std::map<std::u16string, double> PALABRAS = {
-        {u"m", 1},
-        {u"cm", 0.01},
-        {u"mm", 0.001},
-        {u"dm", 0.1},
-        {u"km", 1000},
-        {u"in", IN},
-        {u"ft", FT},
-        {u"yd", 3 * FT},
-        {u"N", 1},
-        {u"kN", 1000},
-        {u"kg", G},
-        {u"kp", G},
-        {u"t", 1000 * G},
-        {u"Tn", 1000 * G},
-        {u"Mp", 1000 * G},
-        {u"mTn", 1000 * G},
-        {u"lb", LB},
-        {u"lbs", LB},
-        {u"psi", LB / (IN * IN)},
-        {u"psf", LB / (FT * FT)},
-        {u"pcf", LB / (FT * FT * FT)},
-        {u"Pa", 1},
-        {u"kPa", 1e3},
-        {u"MPa", 1e6},
-        {u"GPa", 1e9},
-        {u"bar", 1e5},
-        {u"mbar", 100},
-        {u"m.c.a.", 1000 * G},
-        {u"mm.c.a.", G},
-        {u"s", 1},
-        {u"min", 60},
-        {u"h", 3600},
-        {u"l", 0.001},
-        {u"CFM", FT * FT * FT / 60},
-        {u"gpm", 0.003785411784 / 60},
-        {u"J", 1},
-        {u"Jul", 1},
-        {u"MJ", 1e6},
-        {u"W", 1},
-        {u"kW", 1000},
-        {u"Wh", 3600},
-        {u"kWh", 3.6e6},
-        {u"cal", 4.1868},
-        {u"kcal", 4186.8},
-        {u"Btu", 1055.05585262},
-        {u"K", 1},
-        {u"mK", 1},
-        {u"°C", 1},
-        {u"°F", 5. / 9},
-        {u"rad", 1},
-        {u"mRad", 0.001},
-        {u"grados", 3.14159265358979324 / 180},
-        {u"%", 0.01},
-        {u"%%", 0.01},
-        {u"x10-6", 1e-6},
-        {u"A", 1},
-        {u"kA", 1000},
-        {u"mA", 0.001},
-        {u"V", 1},
-        {u"VA", 1},
-        {u"kVA", 1000},
-        {u"MVA", 1e6},
-        {u"Ohm", 1},
-        {u"mOhm", 0.001},
-        {u"dB", 1},
-        {u"dBA", 1},
-        {u"oct", 1},
-        {u"dBµV", 1},
-        {u"dBW", 1},
-        {u"tanto", 1},
-        {u"por", 1},
-        {u"uno", 1},
-        {u"cien", 0.01},
-        {u"Grados", 1},
-        {u"Centigrados", 1},
+        {u"m", 1}, {u"cm", 0.01}, {u"mm", 0.001}, {u"dm", 0.1}, {u"km", 1000}, {u"in", IN}, {u"ft", FT},
+        {u"yd", 3 * FT}, {u"N", 1}, {u"kN", 1000}, {u"kg", G}, {u"kp", G}, {u"t", 1000 * G}, {u"Tn", 1000 * G},
+        {u"Mp", 1000 * G}, {u"mTn", 1000 * G}, {u"lb", LB}, {u"lbs", LB}, {u"psi", LB / (IN * IN)},
+        {u"psf", LB / (FT * FT)}, {u"pcf", LB / (FT * FT * FT)}, {u"Pa", 1}, {u"kPa", 1e3}, {u"MPa", 1e6},
+        {u"GPa", 1e9}, {u"bar", 1e5}, {u"mbar", 100}, {u"m.c.a.", 1000 * G}, {u"mm.c.a.", G}, {u"s", 1}, {u"min", 60},
+        {u"h", 3600}, {u"l", 0.001}, {u"CFM", FT * FT * FT / 60}, {u"gpm", 0.003785411784 / 60}, {u"J", 1},
+        {u"Jul", 1}, {u"MJ", 1e6}, {u"W", 1}, {u"kW", 1000}, {u"Wh", 3600}, {u"kWh", 3.6e6}, {u"cal", 4.1868},
+        {u"kcal", 4186.8}, {u"Btu", 1055.05585262}, {u"K", 1}, {u"mK", 1}, {u"°C", 1}, {u"°F", 5. / 9}, {u"rad", 1},
+        {u"mRad", 0.001}, {u"grados", 3.14159265358979324 / 180}, {u"%", 0.01}, {u"%%", 0.01}, {u"x10-6", 1e-6},
+        {u"A", 1}, {u"kA", 1000}, {u"mA", 0.001}, {u"V", 1}, {u"VA", 1}, {u"kVA", 1000}, {u"MVA", 1e6}, {u"Ohm", 1},
+        {u"mOhm", 0.001}, {u"dB", 1}, {u"dBA", 1}, {u"oct", 1}, {u"dBµV", 1}, {u"dBW", 1}, {u"tanto", 1}, {u"por", 1},
+        {u"uno", 1}, {u"cien", 0.01}, {u"Grados", 1}, {u"Centigrados", 1},
     };
+    // clang-format on
     const auto p = PALABRAS.find(palabra);
     if (p != PALABRAS.end()) return p->second;
     const std::u16string menos = palabra.substr(0, palabra.size() - 1);
@@ -205,7 +141,7 @@ PRUEBA(convers, cada_fila_convierte_lo_que_dicen_sus_unidades) {
     ASSERT_EQ(std::size(FILAS), 145u);
     for (const uint32_t sistema : {MKS, SI, IMPERIAL})
         for (uint32_t energia = 0; energia < 3; ++energia) {
-            const en_sistema puesto(sistema, energia);
+            const auto puesto = en_sistema(sistema, energia);
             for (const auto &f : FILAS) {
                 SCOPED_TRACE(testing::Message()
                              << "type " << f.tipo << " in system " << sistema << ", energy " << energia);
@@ -236,13 +172,13 @@ PRUEBA(convers, cada_fila_convierte_lo_que_dicen_sus_unidades) {
 PRUEBA(convers, lo_que_se_dice_de_tipos_sueltos) {
     const auto muestra = [](uint32_t tipo, double x) { return cnv_convierte(CNV_A_MOSTRADO, tipo, x); };
     {
-        const en_sistema puesto(SI, VORNNORM_UNIDAD_ENERGIA_KCAL);
+        const auto puesto = en_sistema(SI, VORNNORM_UNIDAD_ENERGIA_KCAL);
         EXPECT_EQ(muestra(110, 2000.), 2000. * (0.001 * (1000 * 0.859845227859)));
         EXPECT_EQ(vn::utf8_de(cnv_strextunids(110)) + "|" + vn::utf8_de(cnv_strextunids(113)), "kcal/h|kcal/(h·m²·K)");
         EXPECT_EQ(convers_formato_entrada(13), 0);
         EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds(0.01, 13), 0u);
     }
-    const en_sistema puesto(IMPERIAL);
+    const auto puesto = en_sistema(IMPERIAL);
     EXPECT_EQ(muestra(16, 100.), 212.);
     EXPECT_EQ(cnv_convierte(CNV_A_INTERNO, 16, 212.), 100.);
     EXPECT_EQ(muestra(107, 100.), 180.);
@@ -265,7 +201,7 @@ PRUEBA(convers, lo_que_se_dice_de_tipos_sueltos) {
 }
 
 PRUEBA(convers, la_precision_es_la_potencia_de_diez_mas_proxima) {
-    const en_sistema puesto(MKS);
+    const auto puesto = en_sistema(MKS);
     constexpr double RAIZ = 3.1622776601683795; // of ten, and just above
     const struct {
         double prec, esperada;
@@ -322,7 +258,7 @@ PRUEBA(convers, el_paso_de_redondeo_cambia_justo_en_sus_limites) {
         {90000, 10000, 100000}, {9000, 1000, 10000}, {900, 500, 1000}, {450, 100, 500}, {90, 50, 100},
         {45, 10, 50},           {9, 5, 10},          {4.5, 1, 5},      {0.9, 0.75, 1},
     };
-    const en_sistema metrico(MKS);
+    const auto metrico = en_sistema(MKS);
     for (const auto &f : filas) {
         EXPECT_EQ(paso(f.limite, CNV_METROS), f.debajo) << f.limite;
         EXPECT_EQ(paso(std::nextafter(f.limite, 1e9), CNV_METROS), f.encima) << f.limite;
@@ -331,7 +267,7 @@ PRUEBA(convers, el_paso_de_redondeo_cambia_justo_en_sus_limites) {
          {std::pair{0.3, 0.25}, {0.04, 0.025}, {0.24, 0.225}, {0.0025, 0.0025}, {0.6, 0.5}, {2.2e-4, 2e-4}})
         EXPECT_NEAR(paso(p, CNV_METROS), esperado, 1e-15) << p;
     // Feet and inches: by 6 and its tens where the others go by 5.
-    const en_sistema imperial(IMPERIAL);
+    const auto imperial = en_sistema(IMPERIAL);
     const auto pulgadas = [](double prec, uint32_t tipo) {
         return convers_valor_redondeado_por_exceso(1e-5, prec * 0.0254, tipo) / 0.0254;
     };
@@ -342,7 +278,7 @@ PRUEBA(convers, el_paso_de_redondeo_cambia_justo_en_sus_limites) {
 }
 
 PRUEBA(convers, el_redondeo_va_hacia_donde_dice_su_nombre) {
-    const en_sistema puesto(MKS);
+    const auto puesto = en_sistema(MKS);
     const auto cerca = convers_valor_redondeado_al_mas_cercano;
     const auto abajo = convers_valor_redondeado_por_defecto;
     const auto arriba = convers_valor_redondeado_por_exceso;
@@ -385,13 +321,13 @@ PRUEBA(convers, el_valor_adaptado_es_redondo_en_la_unidad_que_se_ve) {
         {IMPERIAL, 33, 1.2345, 1.2345},
     };
     for (const auto &f : filas) {
-        const en_sistema puesto(f.sistema);
+        const auto puesto = en_sistema(f.sistema);
         const double valor = cnv_convierte(CNV_A_INTERNO, f.tipo, f.mostrado);
         EXPECT_NEAR(cnv_convierte(CNV_A_MOSTRADO, f.tipo, convers_valor_adaptado_a_unidades(valor, f.tipo)), f.esperado,
                     f.esperado * 1e-14)
             << "type " << f.tipo << ", " << f.mostrado;
     }
-    const en_sistema puesto(IMPERIAL);
+    const auto puesto = en_sistema(IMPERIAL);
     for (const double x : {2e12, 1e12, -1e12, INF, NAN_, 0.}) {
         const double y = convers_valor_adaptado_a_unidades(x, 1);
         EXPECT_TRUE(std::isnan(x) ? std::isnan(y) : y == x) << x;
@@ -404,7 +340,7 @@ PRUEBA(convers, el_valor_adaptado_es_redondo_en_la_unidad_que_se_ve) {
 // ---------------------------------------------------------------- texts
 
 PRUEBA(convers, cada_texto_tiene_su_formato_en_los_dos_anchos) {
-    const en_sistema puesto(SI);
+    const auto puesto = en_sistema(SI);
     const double kN = 1234.56789 / 9.81; // a force
     const struct {
         char *(*texto)(double, uint32_t);
@@ -446,7 +382,7 @@ PRUEBA(convers, cada_texto_tiene_su_formato_en_los_dos_anchos) {
 }
 
 PRUEBA(convers, la_forma_general_pone_y_quita_cabecera_unidad_y_ceros) {
-    const en_sistema puesto(MKS);
+    const auto puesto = en_sistema(MKS);
     const vnwchar *const L = VNU("L");
     EXPECT_EQ(toma(convers_texto_ex(L, 1.5, 70, 3, CIERTO, CIERTO)), "L: 1.5 m");
     EXPECT_EQ(toma(convers_texto_ex(L, 1.5, 70, 3, FALSO, CIERTO)), "L: 1.500 m");
@@ -463,7 +399,7 @@ PRUEBA(convers, la_forma_general_pone_y_quita_cabecera_unidad_y_ceros) {
 
 // Whatever the member, an imperial length is feet and inches: no decimals, no unit.
 PRUEBA(convers, una_longitud_imperial_va_en_pies_y_pulgadas) {
-    const en_sistema puesto(IMPERIAL);
+    const auto puesto = en_sistema(IMPERIAL);
     const double m = 5 * 0.3048 + 3.5 * 0.0254;
     const std::string texto = "5'-3 1/2\"";
     EXPECT_EQ(toma(convers_texto(m, 18)), texto);
@@ -494,7 +430,7 @@ PRUEBA(convers, una_longitud_imperial_va_en_pies_y_pulgadas) {
 
 PRUEBA(convers, una_conversion_no_reserva_memoria_y_un_texto_un_bloque) {
     for (const uint32_t sistema : {MKS, SI, IMPERIAL}) {
-        const en_sistema puesto(sistema);
+        const auto puesto = en_sistema(sistema);
         cnv_strextunids(0);
         for (uint32_t t = 0; t <= CNV_NO_CONVERSION; ++t) {
             SCOPED_TRACE(t);
@@ -510,7 +446,7 @@ PRUEBA(convers, una_conversion_no_reserva_memoria_y_un_texto_un_bloque) {
 // ---------------------------------------------------------------- the table's life
 
 PRUEBA(convers, los_textos_son_del_idioma_del_primer_uso) {
-    const en_sistema puesto(MKS);
+    const auto puesto = en_sistema(MKS);
     const struct {
         int idioma;
         const char *tension, *grados, *agua, *fuerza;
@@ -544,7 +480,7 @@ PRUEBA(convers, los_textos_son_del_idioma_del_primer_uso) {
 
 // A text is of one moment: what is changed meanwhile by another thread never mixes two systems.
 PRUEBA(convers, un_texto_es_de_un_momento) {
-    const en_sistema antes(MKS);
+    const auto antes = en_sistema(MKS);
     std::atomic<bool> basta{false};
     std::thread otra([&] {
         while (!basta)
@@ -570,7 +506,7 @@ PRUEBA(convers, sin_memoria_para_los_textos_no_hay_texto) {
 }
 
 HIJO(convers_uso_residual) {
-    const en_sistema puesto(IMPERIAL);
+    const auto puesto = en_sistema(IMPERIAL);
     if (convers_es_longitud_en_sistema_imperial(13) != CIERTO) return 1;
     convers_set_es_uso_residual_en_programas_con_unidades_configurables();
     if (convers_es_longitud_en_sistema_imperial(13) != FALSO || convers_formato_entrada(116) != 0) return 2;

@@ -94,11 +94,7 @@ constexpr vn::uso USOS[] = {
      [] { return todos_son(mensajes, mensaje()); }},
     {"language", [](int h) { return (idiomas[static_cast<size_t>(h)] = msidioma_dame_idioma()) >= 0; },
      [] { return todos_son(idiomas, msidioma_dame_idioma()); }},
-    {"code page",
-     [](int h) {
-         return (paginas[static_cast<size_t>(h)] = en_mayusculas()) == "\xD1"
-                                                                       "AND\xDA";
-     },
+    {"code page", [](int h) { return (paginas[static_cast<size_t>(h)] = en_mayusculas()) == "\321AND\xDA"; },
      [] { return todos_son(paginas, en_mayusculas()); }},
     {"region", [](int h) { return !(regiones[static_cast<size_t>(h)] = region()).empty(); },
      [] { return todos_son(regiones, region()); }},
