@@ -167,10 +167,7 @@ PRUEBA(obra_dxf, los_nombres_no_tienen_caja_y_lo_que_no_se_toma_se_cuenta) {
 PRUEBA(obra_dxf, lo_que_no_es_un_dxf_se_rechaza_y_lo_que_le_pasa_a_uno_se_dice) {
     plano p;
     noticias_dxf n;
-    for (const char *malo : {"", "hola\n",
-                             "\x7f"
-                             "ELF\x01\x02\x03",
-                             "0\n", "0\nLINE\n"})
+    for (const char *malo : {"", "hola\n", "\177ELF\x01\x02\x03", "0\n", "0\nLINE\n"})
         EXPECT_EQ(lee(malo, p, n), lectura_dxf::no_es_dxf) << malo;
     EXPECT_EQ(lee(std::string(200000, 0), p, n), lectura_dxf::no_es_dxf); // as a device that has no end
     EXPECT_EQ(lee("AutoCAD Binary DXF\r\n\x1A", p, n), lectura_dxf::es_binario);

@@ -16,12 +16,6 @@ namespace {
 
 constexpr double PI = std::numbers::pi;
 
-// The region is set while it lives.
-struct region {
-    explicit region(const char *cual) { vnregional_establece(cual); }
-    ~region() { vnregional_establece(nullptr); }
-};
-
 } // namespace
 
 PRUEBA(obra_medidas, longitudes_y_areas_conocidas) {
@@ -70,12 +64,12 @@ PRUEBA(obra_medidas, un_valor_en_cada_sistema_y_region) {
         {VORNCONF_SU_IMPERIAL, "de-DE", "4050'-5 1/32\"", "1.063.102,26 ft²"},
     };
     for (const auto &f : filas) {
-        const region r(f.region);
+        vnregional_establece(f.region);
         vornconf_Internacional_set_sistema_unidades(f.sistema);
         EXPECT_EQ(longitud(1234.5678), f.longitud);
         EXPECT_EQ(area(98765.432), f.area);
     }
-    const region r("es-ES");
+    vnregional_establece("es-ES");
     vornconf_Internacional_set_sistema_unidades(VORNCONF_SU_MKS);
     std::string s;
     for (const double x : {0.0042, -0.01, 0., 1e-17, -2e-6, HUGE_VAL}) s += area(x) + " ";
@@ -117,7 +111,7 @@ PRUEBA(obra_medidas, las_opciones_valen_para_esta_vez) {
                       dicho = "[Internacional]\nSistema de Unidades=2\n";
     vn::graba_fichero(fichero, dicho);
     vornconf_par_lee_internacional(nullptr);
-    const region r("en-GB");
+    vnregional_establece("en-GB");
     obra_leida o;
     o.p.metros_por_unidad = 0.3048;
     o.p.capas.resize(1);
@@ -139,5 +133,4 @@ PRUEBA(obra_medidas, las_opciones_valen_para_esta_vez) {
                          "Contornos, cruces y arcos:\n  : contornos cerrados: 1, cruces: 0\n"
                          "  Total: contornos cerrados: 1, cruces: 0\n");
     EXPECT_EQ(vn::lee_fichero(fichero), dicho);
-    fichconf_establece_directorio_base(nullptr);
 }

@@ -2,7 +2,6 @@
 #include "informe.h"
 #include "mensajes.h"
 #include "prueba.h"
-#include <cctype>
 #include <nucleos/units/vornconf.h>
 #include <set>
 #include <sstream>
@@ -19,12 +18,12 @@ const std::pair<const char *, vnfunc_mensaje> TODOS[] = {
 
 // What every language has to write alike: options with their values, commands, numbers.
 std::multiset<std::string> palabras_fijas(const std::string &uso) {
-    static const std::set<std::string> FIJAS = {"importa",    "informa",         "[--sistema", "mks|si|imperial]",
-                                                "[--energia", "julio|kcal|btu]", "[--idioma",  "N]"};
     std::multiset<std::string> fijas;
     std::istringstream s(uso);
     for (std::string p; s >> p;)
-        if (FIJAS.contains(p) || isdigit(static_cast<unsigned char>(p[0])) != 0) fijas.insert(p);
+        if (p == "importa" || p == "informa" ||
+            (p.find_first_of("[]|0123456789") != std::string::npos && p.find('=') == std::string::npos))
+            fijas.insert(p);
     return fijas;
 }
 

@@ -2,39 +2,25 @@
 #include "dxf.h"
 #include "geometria.h"
 #include "informe.h"
-#include "prueba.h"
+#include "propiedades.h"
 #include <cmath>
-#include <fstream>
 #include <map>
 #include <set>
 #include <sstream>
 
 using namespace obra;
 
-namespace {
-
-const std::string PLANOS = vn::dato("A_dxf/");
-
-} // namespace
-
 // Counts, length of the lines and extents of real drawings, as an independent reader found them.
 PRUEBA(obra_planos, los_planos_reales_dan_las_cuentas_y_las_medidas_de_otro_lector) {
-    std::ifstream tabla(PLANOS + "expected.tsv");
-    ASSERT_TRUE(tabla.good());
-    std::string fila;
-    std::getline(tabla, fila);
     int comparados = 0;
-    while (std::getline(tabla, fila)) {
-        std::istringstream s(fila);
-        std::vector<std::string> col;
-        for (std::string x; std::getline(s, x, '\t');) col.push_back(x);
+    for (const auto &col : vn::tabla("A_dxf/expected.tsv")) {
         // Those with references count what is in them too; the oracle does not expand them.
         const bool comparable =
             col[6].find("INSERT") == std::string::npos && col[6].find("SPLINE") == std::string::npos;
         SCOPED_TRACE(col[0]);
         plano p;
         noticias_dxf noticias;
-        ASSERT_EQ(lee_dxf(vn::ancho(PLANOS + col[0]), p, noticias), lectura_dxf::bien);
+        ASSERT_EQ(lee_dxf(vn::ancho(vn::dato("A_dxf/" + col[0])), p, noticias), lectura_dxf::bien);
         EXPECT_TRUE(!noticias.sin_final && !noticias.unidad_ignorada);
         EXPECT_EQ(utf8(p.version_dxf), col[1]);
         // What is not taken is told, each kind; a reference may bring more of it.

@@ -1,6 +1,7 @@
 #define VN_MODULO "sysdata_test"
 #include "foundation/sistema/vnregional.h"
 #include "foundation/suelo/operaciones_fichero.h"
+#include "foundation/texto/unicode.h"
 #include "plataforma/proceso.h"
 #include "prueba.h"
 #include "time/sysdata.h"
@@ -11,11 +12,6 @@
 using vn::toma;
 
 namespace {
-
-struct en_region {
-    explicit en_region(const char *nombre) { EXPECT_EQ(vnregional_establece(nombre), CIERTO) << nombre; }
-    ~en_region() { vnregional_establece(nullptr); }
-};
 
 struct fila {
     const char *region;
@@ -47,23 +43,15 @@ constexpr fila FILAS[] = {
      "-1,234,567.90"},
 };
 
-// ANSI text of the page 1252 as UTF-8.
-std::string ansi(char *texto) {
-    std::string u;
-    for (const char c : toma(texto)) {
-        const auto b = static_cast<unsigned char>(c);
-        if (b < 0x80) u += c;
-        else (u += static_cast<char>(0xC0 | b >> 6)) += static_cast<char>(0x80 | (b & 63));
-    }
-    return u;
-}
+// ANSI text as UTF-8.
+std::string ansi(char *texto) { return toma(unicode_convierte_ANSI_a_UNICODE(toma(texto).c_str())); }
 
 } // namespace
 
 PRUEBA(sysdata, cada_region_con_lo_suyo) {
     for (const fila &f : FILAS) {
         SCOPED_TRACE(f.region);
-        const en_region r(f.region);
+        ASSERT_EQ(vnregional_establece(f.region), CIERTO);
         const struct {
             char *(*a)(void);
             vnwchar *(*u)(void);
@@ -94,27 +82,23 @@ PRUEBA(sysdata, cada_region_con_lo_suyo) {
 }
 
 PRUEBA(sysdata, fechas_y_horas_en_sus_limites) {
-    const en_region r("es-ES");
+    ASSERT_EQ(vnregional_establece("es-ES"), CIERTO);
     EXPECT_EQ(toma(sysdata_fecha(31, 12, 1900, 1, "d", FALSO)), "");
     EXPECT_EQ(toma(sysdata_fecha_u(31, 12, -5, 1, nullptr, FALSO)), "");
     EXPECT_EQ(toma(sysdata_fecha(1, 1, 1901, 2, "dddd d-M-yyyy", FALSO)), "martes 1-1-1901");
     EXPECT_EQ(toma(sysdata_fecha(1, 1, 1901, 2, "", FALSO)), "");
-    EXPECT_EQ(ansi(sysdata_fecha(24, 12, 2022, 0,
-                                 "dddd 'd\xED"
-                                 "a' d",
-                                 FALSO)),
-              "sábado día 24");
+    EXPECT_EQ(ansi(sysdata_fecha(24, 12, 2022, 0, "dddd 'd\355a' d", FALSO)), "sábado día 24");
     EXPECT_EQ(toma(ESPERA_INFORME("tamanyo_cadena != 0", sysdata_fecha(30, 2, 2024, 0, nullptr, FALSO))), "");
     EXPECT_EQ(toma(ESPERA_INFORME("tamanyo_cadena != 0", sysdata_hora_u(0, 0, 24, FALSO))), "");
     std::set<std::string> dias;
     for (uint32_t i = 0; i < 7; ++i) dias.insert(toma(sysdata_nombre_dia_abreviado(i)));
     EXPECT_EQ(dias.size(), 7u);
-    const en_region ingles("en-US");
+    ASSERT_EQ(vnregional_establece("en-US"), CIERTO);
     EXPECT_EQ(toma(sysdata_nombre_dia_abreviado(0)) + toma(sysdata_nombre_dia_abreviado(3)), "SunWed");
 }
 
 PRUEBA(sysdata, numeros_que_no_caben_o_no_lo_son_salen_llanos) {
-    const en_region r("en-US");
+    ASSERT_EQ(vnregional_establece("en-US"), CIERTO);
     const struct {
         double valor;
         int32_t decimales;
