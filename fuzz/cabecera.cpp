@@ -9,17 +9,16 @@
 
 namespace {
 
-const std::basic_string<vnwchar> NOMBRE(fuzz::FICHERO, fuzz::FICHERO + std::char_traits<char>::length(fuzz::FICHERO));
 constexpr const char *FIRMA = "FIRMA";
 constexpr uint16_t VERSION = 3;
 
 void con_campos(std::initializer_list<const vnwchar *> nombres, const char *firma, const vnwchar *titulo) {
     arrCADENA_u *n = arr_CreaCADENA_u(0), *v = arr_CreaCADENA_u(0);
     for (const vnwchar *x : nombres) arr_AppendCADENA_u(n, x), arr_AppendCADENA_u(v, VNU("valor \u00f1"));
-    vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(NOMBRE.c_str(), VERSION,
+    vnfichero *f = vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(fuzz::NOMBRE.c_str(), VERSION,
                                                                                           firma, titulo, n, v, nullptr);
     bin_graba_long(7, f);
-    fuzz::exige(vornbin_cierra_fichero_abierto_para_escritura_u(f, NOMBRE.c_str(), nullptr) == CIERTO,
+    fuzz::exige(vornbin_cierra_fichero_abierto_para_escritura_u(f, fuzz::NOMBRE.c_str(), nullptr) == CIERTO,
                 "a seed is saved");
     arr_DestruyeCADENA_u(&n);
     arr_DestruyeCADENA_u(&v);
@@ -35,7 +34,7 @@ void lee_abierto() {
     vnwchar *titulo = nullptr;
     vnbool ejemplo = FALSO, superior = FALSO;
     vnfichero *f = vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(
-        NOMBRE.c_str(), VERSION, FIRMA, nullptr, &version, &titulo, 1, &ejemplo, &superior);
+        fuzz::NOMBRE.c_str(), VERSION, FIRMA, nullptr, &version, &titulo, 1, &ejemplo, &superior);
     widestr_destruye_opcional(&titulo);
     if (f != nullptr) lc_fclose_seguro(f);
 }
@@ -43,19 +42,19 @@ void lee_abierto() {
 void lee_sin_trampa() {
     char *version = nullptr, *revision = nullptr, *titulo = nullptr;
     vnbool ejemplo = FALSO;
-    vornbin_hay_cabecera_en_fichero_u(NOMBRE.c_str(), &version, &revision, &ejemplo);
+    vornbin_hay_cabecera_en_fichero_u(fuzz::NOMBRE.c_str(), &version, &revision, &ejemplo);
     destruye(version, revision);
     vornbin_es_fichero_vorn_valido(fuzz::FICHERO);
     char corto[8];
-    bin_fichero_valido_u(NOMBRE.c_str(), VERSION, FIRMA, sizeof corto, corto, 1);
+    bin_fichero_valido_u(fuzz::NOMBRE.c_str(), VERSION, FIRMA, sizeof corto, corto, 1);
     vnfichero *f = nullptr;
     uint16_t v = 0;
-    if (vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(NOMBRE.c_str(), VERSION, FIRMA, nullptr, 1,
-                                                                             &f, &v, &titulo) == CIERTO)
+    if (vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(fuzz::NOMBRE.c_str(), VERSION, FIRMA,
+                                                                             nullptr, 1, &f, &v, &titulo) == CIERTO)
         lc_fclose_seguro(f);
     vornstr_destruye_opcional(&titulo);
     arrCADENA_u *nombres = nullptr, *valores = nullptr;
-    vornbin_lee_campos_cabecera_u(NOMBRE.c_str(), &nombres, &valores);
+    vornbin_lee_campos_cabecera_u(fuzz::NOMBRE.c_str(), &nombres, &valores);
     const uint32_t cuantos = arr_NumElemsCADENA_u(nombres);
     fuzz::exige(cuantos == arr_NumElemsCADENA_u(valores), "as many values as names");
     arr_DestruyeCADENA_u(&nombres);
@@ -66,14 +65,15 @@ void lee_sin_trampa() {
     destruye(version, revision);
     widestr_destruye_opcional(&contenido);
     // Saved over, the fields that were read are carried over.
-    vnfichero *g = vornbin_abre_fichero_para_escritura_u(NOMBRE.c_str(), nullptr);
+    vnfichero *g = vornbin_abre_fichero_para_escritura_u(fuzz::NOMBRE.c_str(), nullptr);
     if (g == nullptr) return;
-    fuzz::exige(vornbin_cierra_fichero_abierto_para_escritura_u(g, NOMBRE.c_str(), nullptr) == CIERTO, "saved over");
-    vornbin_lee_campos_cabecera_u(NOMBRE.c_str(), &nombres, &valores);
+    fuzz::exige(vornbin_cierra_fichero_abierto_para_escritura_u(g, fuzz::NOMBRE.c_str(), nullptr) == CIERTO,
+                "saved over");
+    vornbin_lee_campos_cabecera_u(fuzz::NOMBRE.c_str(), &nombres, &valores);
     fuzz::exige(arr_NumElemsCADENA_u(nombres) == cuantos, "the fields are carried over");
     arr_DestruyeCADENA_u(&nombres);
     arr_DestruyeCADENA_u(&valores);
-    vornbin_marca_fichero_ejemplo_u(NOMBRE.c_str());
+    vornbin_marca_fichero_ejemplo_u(fuzz::NOMBRE.c_str());
 }
 
 } // namespace
@@ -85,8 +85,8 @@ std::vector<std::string> fuzz::semillas() {
         }),
         lo_que_graba([] { con_campos({}, "OTRA", VNU("")); }), lo_que_graba([] {
             vnfichero *f = vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(
-                NOMBRE.c_str(), VERSION, FIRMA, VNU("t"), nullptr);
-            vornbin_cierra_fichero_abierto_para_escritura_u(f, NOMBRE.c_str(), nullptr);
+                fuzz::NOMBRE.c_str(), VERSION, FIRMA, VNU("t"), nullptr);
+            vornbin_cierra_fichero_abierto_para_escritura_u(f, fuzz::NOMBRE.c_str(), nullptr);
         }),
         // Older forms: form 2 with the lists at once, form 0 without marks.
         std::string("\x02\x01\x08\x00VORN-9-a\x02\x00\x00\x00\x00\x01\x00\x00\x00\x05\x00\x00\x00\x01\x00\x00\x00x\x00",

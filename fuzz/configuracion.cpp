@@ -5,7 +5,6 @@
 
 namespace {
 
-const std::basic_string<vnwchar> NOMBRE(fuzz::FICHERO, fuzz::FICHERO + std::strlen(fuzz::FICHERO));
 // Section and key.
 constexpr const char *SITIOS[][2] = {
     {"Internacional", "Norma"}, {"Internacional", "Sistema de Unidades"}, {"", "="}, {"]", ""}};
@@ -13,8 +12,8 @@ constexpr const char *SITIOS[][2] = {
 void lee() {
     for (const auto &[seccion, clave] : SITIOS) {
         // The same twice, and the default only where nothing was found.
-        const int32_t a = ini_lee_int(NOMBRE.c_str(), seccion, clave, -1),
-                      b = ini_lee_int(NOMBRE.c_str(), seccion, clave, 5);
+        const int32_t a = ini_lee_int(fuzz::NOMBRE.c_str(), seccion, clave, -1),
+                      b = ini_lee_int(fuzz::NOMBRE.c_str(), seccion, clave, 5);
         fuzz::exige(a == b || (a == -1 && b == 5), "a number or the default");
     }
     fuzz::exige(fuzz::informes() == 0, "no report");

@@ -2,6 +2,7 @@
 // mutations of every seed (mutaciones.cpp).
 #pragma once
 
+#include "foundation/suelo/tipos.h"
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -17,6 +18,7 @@ std::vector<std::string> semillas();
 
 // The name of the one file that a target reads, and its siblings, in the memory file system.
 inline constexpr const char *FICHERO = "mem/entrada";
+inline const std::basic_string<vnwchar> NOMBRE = VNU("mem/entrada");
 // Runs `lee` with the bytes as the content of FICHERO in a file system of memory. Reports are not shown. What it leaves
 // on the tracked heap, or asks of it beyond `maximo` bytes in all, ends the program.
 void con_fichero(const uint8_t *datos, size_t n, uint64_t maximo, const std::function<void()> &lee);

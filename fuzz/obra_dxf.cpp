@@ -6,13 +6,11 @@
 
 namespace {
 
-const obra::texto NOMBRE(fuzz::FICHERO, fuzz::FICHERO + std::strlen(fuzz::FICHERO));
-
 void lee() {
     obra::plano p;
     obra::noticias_dxf n;
     const uint64_t antes = fuzz::pedido_al_monton();
-    const bool bien = obra::lee_dxf(NOMBRE, p, n) == obra::lectura_dxf::bien;
+    const bool bien = obra::lee_dxf(fuzz::NOMBRE, p, n) == obra::lectura_dxf::bien;
     // Vectors grow by doubling, and a drawing is there twice.
     fuzz::exige(fuzz::pedido_al_monton() - antes <= 4 * obra::maximo_de_memoria(n.bytes),
                 "memory in proportion to the file");

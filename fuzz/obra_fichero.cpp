@@ -6,7 +6,6 @@
 
 namespace {
 
-const obra::texto NOMBRE(fuzz::FICHERO, fuzz::FICHERO + std::strlen(fuzz::FICHERO));
 // The library may make one run-coded array before it is known that it is too long; the host copies none that is.
 constexpr uint64_t cota_de_biblioteca(size_t n) { return (uint64_t{7} << 28) + 64 * n; }
 constexpr uint64_t cota_de_obra(size_t n) { return (uint64_t{1} << 20) + 64 * n; }
@@ -34,7 +33,7 @@ obra::plano plano() {
 std::vector<std::string> fuzz::semillas() {
     return {fuzz::lo_que_graba([] {
         const obra::campos_t campos = {{obra::texto(1, 'a'), obra::texto(1, 'b')}};
-        fuzz::exige(obra::graba_obra(NOMBRE, plano(), obra::texto(1, 'T'), campos), "a seed is saved");
+        fuzz::exige(obra::graba_obra(fuzz::NOMBRE, plano(), obra::texto(1, 'T'), campos), "a seed is saved");
     })};
 }
 
@@ -45,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *datos, size_t n) {
         obra::obra_leida o;
         std::string motivo;
         const uint64_t antes = fuzz::pedido_al_monton();
-        const obra::lectura_obra r = obra::lee_obra(NOMBRE, o, motivo);
+        const obra::lectura_obra r = obra::lee_obra(fuzz::NOMBRE, o, motivo);
         fuzz::exige(fuzz::pedido_al_monton() - antes <= cota_de_obra(n), "memory in proportion to the file");
         fuzz::exige((r == obra::lectura_obra::no_es_obra) == !motivo.empty(), "a refusal says which check failed");
         fuzz::exige((r == obra::lectura_obra::bien) == !o.secciones.empty(), "whole or nothing");

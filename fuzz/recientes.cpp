@@ -6,22 +6,20 @@
 
 namespace {
 
-const std::basic_string<vnwchar> NOMBRE(fuzz::FICHERO, fuzz::FICHERO + std::char_traits<char>::length(fuzz::FICHERO));
-
 void guarda(std::initializer_list<const vnwchar *> obras, bool finaliza) {
-    for (const vnwchar *o : obras) ultiobra_guarda_nombre_ultima_obra_u(o, NOMBRE.c_str());
-    if (finaliza) ultiobra_finaliza_ultima_obra_u(NOMBRE.c_str());
+    for (const vnwchar *o : obras) ultiobra_guarda_nombre_ultima_obra_u(o, fuzz::NOMBRE.c_str());
+    if (finaliza) ultiobra_finaliza_ultima_obra_u(fuzz::NOMBRE.c_str());
 }
 
 void lee() {
-    arrCADENA_u *lista = ultiobra_lee_ultimas_obras_u(NOMBRE.c_str(), nullptr);
+    arrCADENA_u *lista = ultiobra_lee_ultimas_obras_u(fuzz::NOMBRE.c_str(), nullptr);
     const uint32_t n = arr_NumElemsCADENA_u(lista);
     fuzz::exige(n < 100000, "a list within reason");
     arr_DestruyeCADENA_u(&lista);
-    vnwchar *ultima = ultiobra_lee_nombre_ultima_obra_finalizada_u(NOMBRE.c_str(), nullptr);
+    vnwchar *ultima = ultiobra_lee_nombre_ultima_obra_finalizada_u(fuzz::NOMBRE.c_str(), nullptr);
     widestr_destruye_opcional(&ultima);
-    ultiobra_guarda_nombre_ultima_obra_u(VNU("mem/nueva.obr"), NOMBRE.c_str());
-    lista = ultiobra_lee_ultimas_obras_u(NOMBRE.c_str(), nullptr);
+    ultiobra_guarda_nombre_ultima_obra_u(VNU("mem/nueva.obr"), fuzz::NOMBRE.c_str());
+    lista = ultiobra_lee_ultimas_obras_u(fuzz::NOMBRE.c_str(), nullptr);
     const uint32_t despues = arr_NumElemsCADENA_u(lista);
     fuzz::exige(despues >= 1 && despues <= 32, "between one and 32 works after a save");
     arr_DestruyeCADENA_u(&lista);

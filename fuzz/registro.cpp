@@ -12,8 +12,6 @@ namespace {
 
 using ancho = std::basic_string<vnwchar>;
 
-const ancho NOMBRE(fuzz::FICHERO, fuzz::FICHERO + std::strlen(fuzz::FICHERO));
-
 ancho lee_valor(const vnwchar *clave, const vnwchar *valor) {
     vnwchar *t = nullptr;
     if (vornreg_lee_cadena_u(VORNREG_USUARIO, clave, valor, &t) != CIERTO) return VNU("(none)");
@@ -48,7 +46,7 @@ uint32_t recorre(const ancho &clave, int hondo) {
 void lee(bool escribe) {
     fichconf_establece_directorio_base(VNU("mem"));
     vnwchar *ruta = fichconf_dame_ruta_fichero_en_directorio_configuracion(VNU("registro.txt"));
-    vf_copyfile_seguro_u(NOMBRE.c_str(), ruta);
+    vf_copyfile_seguro_u(fuzz::NOMBRE.c_str(), ruta);
     const uint32_t antes = recorre(VNU(""), 2);
     const vnwchar *texto = VNU("=[\\\n\u00F1;]");
     if (escribe) {
