@@ -1,5 +1,6 @@
 #include "foundation/sistema/fichconf.h"
 #include "foundation/sistema/vnmutex.h"
+#include "foundation/sistema/vnregional.h"
 #include "foundation/suelo/vnatexit.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/msglocal.h"
@@ -41,8 +42,10 @@ bool cuenta_bajo_mutex(int) {
 de_cada_una<int> idiomas;
 de_cada_una<std::string> textos, mensajes, paginas, regiones;
 std::string region() {
-    return vn::toma(sysdata_separador_decimal()) + vn::toma(sysdata_nombre_dia(3)) +
-           vn::toma(sysdata_fecha(2, 3, 2024, 0, nullptr, CIERTO));
+    vnwchar decimal = 0, millares = 0;
+    vnregional_separadores(&decimal, &millares);
+    return std::to_string(decimal) + std::to_string(millares) + vn::toma(sysdata_separador_decimal()) +
+           vn::toma(sysdata_nombre_dia(3)) + vn::toma(sysdata_fecha(2, 3, 2024, 0, nullptr, CIERTO));
 }
 std::string mensaje() { return vornconf_texto_sistema_unidad_energia(2); }
 std::string en_mayusculas() {

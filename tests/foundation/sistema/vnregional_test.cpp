@@ -4,7 +4,6 @@
 #include "plataforma/regional.h"
 #include "texto_ancho.h"
 #include <array>
-#include <atomic>
 #include <chrono>
 #include <thread>
 
@@ -134,25 +133,6 @@ PRUEBA(vnregional, los_numeros) {
     for (const char *no : {"", "-", ".", "1e5", "nan", "1.2.3", "+1", " 1"}) EXPECT_EQ(numero(no), "(null)") << no;
     EXPECT_EQ(numero("1234", 9), "1,234.00");
     EXPECT_EQ(numero("1234", 8), "(null)");
-}
-
-// Eight threads that ask at once, before anybody has.
-HIJO(primera_region) {
-    std::atomic<int> listos{0}, distintos{0};
-    vn::en_hebras(8, [&](int i) {
-        vnwchar d = 0, m = 0;
-        for (++listos; listos < 8;) {
-        }
-        const std::string dato = i % 2 != 0 ? decimal() : "";
-        vnregional_separadores(&d, &m);
-        if (d != VNU(',') || m != VNU('.') || (!dato.empty() && dato != ",")) ++distintos;
-    });
-    return distintos;
-}
-
-PRUEBA(vnregional, la_primera_vez_desde_varios_hilos) {
-    const vn::region_del_usuario aleman("de-DE", "de-DE");
-    for (int i = 0; i < 8; ++i) EXPECT_EQ(vn::proceso("primera_region", {}).espera(60000), 0);
 }
 
 PRUEBA(vnregional, la_del_usuario_se_sigue_aunque_cambie) {
