@@ -1,4 +1,6 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
+#include "persistence/vornbin_fichero.h"
+
 #include "foundation/listas/arr.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/texto/cad.h"

@@ -1,7 +1,8 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
-#include "persistence/vornsave_priv.h"
+#include "persistence/vornsave_arr.h"
 
 #include "persistence/valores_priv.h"
+#include "persistence/vornsave_priv.h"
 
 // Arrays of numbers, truth values and points.
 using namespace vn;

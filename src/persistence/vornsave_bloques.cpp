@@ -1,4 +1,6 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
+#include "persistence/vornsave_bloques.h"
+
 #include "persistence/vornsave_priv.h"
 
 // Blocks and sections, the stack of open ones, marks of files and comments.

@@ -1,9 +1,10 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
-#include "persistence/vornsave_priv.h"
+#include "persistence/vornsave_cadenas.h"
 
 #include "foundation/ficheros/fichmem.h"
 #include "foundation/suelo/utf_int.h"
 #include "foundation/texto/unicode.h"
+#include "persistence/vornsave_priv.h"
 #include <algorithm>
 
 using namespace vn;

@@ -1,9 +1,10 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
-#include "persistence/vornsave_priv.h"
+#include "persistence/vornsave_escalares.h"
 
 #include "foundation/numeros/cambtipo.h"
 #include "foundation/numeros/punto.h"
 #include "foundation/numeros/vnmath.h"
+#include "persistence/vornsave_priv.h"
 
 using namespace vn;
 

@@ -1,8 +1,9 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
-#include "persistence/vornsave_priv.h"
+#include "persistence/vornsave_iguales.h"
 
 #include "foundation/numeros/vnmath.h"
 #include "persistence/grupos_priv.h"
+#include "persistence/vornsave_priv.h"
 
 // Arrays in groups of equal values.
 using namespace vn;

@@ -1,4 +1,6 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
+#include "persistence/vornsave_opcional.h"
+
 #include "persistence/vornsave_priv.h"
 
 // A truth value and, if it is CIERTO, the plain form.

@@ -1,6 +1,7 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
-#include "persistence/vornsave_priv.h"
+#include "persistence/vornsave_progreso.h"
 
+#include "persistence/vornsave_priv.h"
 #include <algorithm>
 
 // Progress: a host's bar over the position in the destination.

@@ -1,4 +1,6 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
+#include "persistence/vornsave_punteros.h"
+
 #include "persistence/vornsave_priv.h"
 
 // Arrays and ordered sets of structures, by the caller's functions.

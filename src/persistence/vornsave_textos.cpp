@@ -1,7 +1,8 @@
 #define VN_MODULO "vornsave (NUCLEOS.DLL)"
-#include "persistence/vornsave_priv.h"
+#include "persistence/vornsave_textos.h"
 
 #include "foundation/texto/unicode.h"
+#include "persistence/vornsave_priv.h"
 
 // Arrays and ordered sets of texts.
 using namespace vn;
