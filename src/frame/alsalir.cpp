@@ -127,7 +127,7 @@ void alsalir_nousar_destruye_cadena_u(vnwchar **cadena, const char *modulo, uint
 }
 
 void alsalir_nousar_destruye_dato(void *dato, vnfunc_destruye funcDestruyeDato, const char *modulo, uint32_t linea) {
-    if (!AFIRMA_NO_NULO(dato) || !AFIRMA_NO_NULO(funcDestruyeDato)) return;
+    if (!EXIGE(dato, funcDestruyeDato)) return;
     const dentro guardado(&mutex_dato, VNU("ALSALIR_ID_MUTEX_DATO"), modulo, linea);
     nousar_atexit_anade(limpia_dato, vornspy_parametro(2, 8, dato, 8, funcDestruyeDato), modulo, linea);
 }

@@ -1,5 +1,6 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/texto/widestr.h"
 #include "persistence/vornbin_cabecera_priv.h"
 #include <algorithm>
@@ -80,13 +81,13 @@ vnbool vornbin_marca_fichero_ejemplo_u(const vnwchar *nomfich) {
     vn::fichero f = vn::abre_para_leer(nomfich);
     if (f == nullptr) return FALSO;
     vn::cabecera c = vn::lee_cabecera(f.get());
-    const vnbool hay_cabecera = c.hay ? CIERTO : FALSO;
+    const vnbool hay_cabecera = vn::logico(c.hay);
     if (!AFIRMA(hay_cabecera == CIERTO)) return FALSO;
     if (c.truncada) {
         lc_error_leyendo_fichero(f.get());
         return FALSO;
     }
-    if (c.con_listas) return vn::marca_con_listas(std::move(f), &c, nomfich) ? CIERTO : FALSO;
+    if (c.con_listas) return vn::logico(vn::marca_con_listas(std::move(f), &c, nomfich));
     f.reset();
-    return vn::marca_en_su_sitio(nomfich) ? CIERTO : FALSO;
+    return vn::logico(vn::marca_en_su_sitio(nomfich));
 }

@@ -3,6 +3,7 @@
 
 #include "foundation/listas/arr.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/unicode.h"
 #include "persistence/ultiobra.h"
@@ -34,6 +35,7 @@ bool lee_listas_existentes(const vnwchar *nomfich, listas_cabecera *listas) {
 
 ficheros::temporal abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra, const arrCADENA_u *nombres,
                                      const arrCADENA_u *valores) {
+    // Until the save is in its place no work counts as the open one.
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
     // Held before the lists are read: no other saver puts fields there in between.
     ficheros::temporal f = abre_temporal(nomfich);
@@ -45,6 +47,7 @@ ficheros::temporal abre_con_cabecera(const vnwchar *nomfich, const vnwchar *obra
 }
 
 void graba_prologo(vnfichero *f, uint16_t version, const char *firma, const vnwchar *titulo) {
+    // The title is stored in the code page: what does not come back from it is told, and saved all the same.
     const propio<char> titulo_ansi(unicode_UNICODE_a_ANSI(titulo));
     const propio<vnwchar> titulo_leido(unicode_convierte_ANSI_a_UNICODE(titulo_ansi.get()));
     AFIRMA_TEXTO(vista_u(titulo_leido.get()) == titulo, "vornbin: el titulo no cabe en la pagina de codigos");
@@ -79,7 +82,7 @@ bool mira_si_es_ejemplo(const vnwchar *nomfich, bool *es_ejemplo) {
 
 // The mask of a sample over that of what was just written, if it has a header. False, reported, if it cannot be told.
 bool hace_ejemplo(vnfichero *f) {
-    if (lc_fflush(f) == FALSO) return false;
+    if (lc_fflush(f) == FALSO) return false; // it is read back through a stream of its own
     const fichero escrito(f_lc_fopen_u(lc_nombre_fichero(f), VNU("rb"), VN_AQUI));
     if (escrito == nullptr) return false;
     const bool hay = lee_cabecera(escrito.get()).hay;
@@ -116,7 +119,7 @@ fichero abre_tras_cabecera(const vnwchar *nomfich, cabecera *c) {
         f.reset();
         return f;
     }
-    const vnbool valido = c->valida ? CIERTO : FALSO;
+    const vnbool valido = vn::logico(c->valida);
     if (!AFIRMA(valido == CIERTO)) f.reset();
     return f;
 }
@@ -136,15 +139,15 @@ vnfichero *vornbin_abre_fichero_para_escritura_u(const vnwchar *nomfich, const v
 vnfichero *vornbin_abre_fichero_para_escritura_con_version_y_descripcion_u(const vnwchar *nomfich, uint16_t version,
                                                                            const char *firma, const vnwchar *titulo,
                                                                            const vnwchar *obra) {
-    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(titulo)) return nullptr;
+    if (!EXIGE(nomfich, firma, titulo)) return nullptr;
     return vn::abre_con_cabecera_y_prologo(nomfich, version, firma, titulo, nullptr, nullptr, obra);
 }
 
 vnfichero *vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_u(
     const vnwchar *nomfich, uint16_t version, const char *firma, const vnwchar *titulo, const arrCADENA_u *nombres,
     const arrCADENA_u *valores, const vnwchar *obra) {
-    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(titulo) || !AFIRMA_NO_NULO(nombres) ||
-        !AFIRMA_NO_NULO(valores) || !AFIRMA(arr_NumElemsCADENA_u(nombres) == arr_NumElemsCADENA_u(valores)))
+    if (!EXIGE(nomfich, firma, titulo, nombres, valores) ||
+        !AFIRMA(arr_NumElemsCADENA_u(nombres) == arr_NumElemsCADENA_u(valores)))
         return nullptr;
     return vn::abre_con_cabecera_y_prologo(nomfich, version, firma, titulo, nombres, valores, obra);
 }
@@ -152,7 +155,7 @@ vnfichero *vornbin_abre_fichero_para_escritura_con_version_descripcion_y_campos_
 vnfichero *vornbin_abre_fichero_para_escritura_sin_cabecera_version_programa_u(const vnwchar *nomfich, uint16_t version,
                                                                                const char *firma, const vnwchar *titulo,
                                                                                const vnwchar *obra) {
-    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(titulo)) return nullptr;
+    if (!EXIGE(nomfich, firma, titulo)) return nullptr;
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
     vn::ficheros::temporal f = vn::abre_temporal(nomfich);
     if (f != nullptr) vn::graba_prologo(f.get(), version, firma, titulo);
@@ -173,6 +176,7 @@ vnbool vornbin_cierra_fichero_abierto_para_escritura_u(vnfichero *f, const vnwch
     if (!AFIRMA_NO_NULO(f)) return FALSO;
     vn::fichero abierto(f);
     if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
+    // The list of works hears of it only once the file is in its place.
     const vnbool grabado = vn::cierra_y_reemplaza(vn::ficheros::temporal(abierto.release()), nomfich);
     if (grabado == CIERTO) ultiobra_guarda_nombre_ultima_obra_u(nomfich, obra);
     return grabado;
@@ -221,14 +225,14 @@ vnfichero *vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(const v
                                                                          const vnwchar *obra, uint16_t *version,
                                                                          vnwchar **titulo, uint16_t version_ascii,
                                                                          vnbool *es_ejemplo, vnbool *version_superior) {
-    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(version) || !AFIRMA_NO_NULO(titulo))
-        return nullptr;
+    if (!EXIGE(nomfich, firma, version, titulo)) return nullptr;
     *version = 0;
     *titulo = nullptr;
     vn::inicia(es_ejemplo, FALSO);
     vn::inicia(version_superior, FALSO);
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
 
+    // The header, then the prologue: debug byte, version, signature, title.
     vn::cabecera c;
     vn::fichero f = vn::abre_tras_cabecera(nomfich, &c);
     if (f == nullptr) return nullptr;
@@ -281,8 +285,7 @@ vnfichero *vornbin_abre_fichero_para_lectura_sin_cabecera_version_programa_u(con
                                                                              uint16_t version_actual, const char *firma,
                                                                              const vnwchar *obra, uint16_t *version,
                                                                              char **titulo, uint16_t version_ascii) {
-    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(version) || !AFIRMA_NO_NULO(titulo))
-        return nullptr;
+    if (!EXIGE(nomfich, firma, version, titulo)) return nullptr;
     *version = 0;
     *titulo = nullptr;
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
@@ -306,9 +309,7 @@ vnbool vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(cons
                                                                             const vnwchar *obra, uint16_t version_ascii,
                                                                             vnfichero **f, uint16_t *version,
                                                                             char **titulo) {
-    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma) || !AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(version) ||
-        !AFIRMA_NO_NULO(titulo))
-        return FALSO;
+    if (!EXIGE(nomfich, firma, f, version, titulo)) return FALSO;
     *f = nullptr;
     *version = UINT16_MAX;
     *titulo = nullptr;

@@ -2,17 +2,14 @@
 #pragma once
 
 #include "foundation/ficheros/lc_fichero_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/propio_int.h"
 #include "persistence/vornbin.h"
-#include <memory>
 
 namespace vn {
 
-// The owner of a stream.
-struct cierra_fichero {
-    void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
-};
-using fichero = std::unique_ptr<vnfichero, cierra_fichero>;
+// Closes the stream on every way out, without a report of its own.
+using fichero = dueno<lc_fclose_seguro>;
 
 // Writes the debug byte that begins a prologue; if GRABARCONDEBUG is defined, what the stream is given from then on has
 // tags, whatever other files are open.

@@ -145,14 +145,14 @@ char bin_lee_char_ansi_ascii(vnfichero *f, uint16_t version, uint16_t version_as
 }
 
 void bin_lee_buffer(void *destino, uint32_t tamanyo, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(f)) return;
+    if (!EXIGE(destino, f)) return;
     f_lc_fread(destino, 1, tamanyo, f, VN_AQUI);
 }
 
 void bin_lee_buffer_uchar(uint8_t *destino, uint32_t tamanyo, vnfichero *f) { bin_lee_buffer(destino, tamanyo, f); }
 
 void bin_lee_buffer_u(vnwchar *destino, uint32_t tamanyo, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(f)) return;
+    if (!EXIGE(destino, f)) return;
     f_lc_fread(destino, sizeof *destino, tamanyo, f, VN_AQUI);
 }
 
@@ -162,7 +162,7 @@ void bin_lee_buffer_ascii(char *destino, uint32_t tamanyo, vnfichero *f) {
 
 void bin_lee_buffer_ansi_ascii(char *destino, uint32_t tamanyo, vnfichero *f, uint16_t version,
                                uint16_t version_ascii) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(f)) return;
+    if (!EXIGE(destino, f)) return;
     f_lc_fread_ansi_ascii(destino, 1, tamanyo, f, version, version_ascii, VN_AQUI);
 }
 
@@ -181,7 +181,7 @@ Punto2D *bin_lee_punto_float(vnfichero *f) {
 }
 
 void bin_lee_punto2D(Punto2D *destino, vnfichero *f) {
-    if (!AFIRMA_NO_NULO(destino) || !AFIRMA_NO_NULO(f)) return;
+    if (!EXIGE(destino, f)) return;
     if (f->etiquetas_al_leer) {
         char etiqueta = 0;
         vnfichero_toma(f, &etiqueta, 1, VN_AQUI);
@@ -208,7 +208,7 @@ double *bin_lee_double_posible_null(vnfichero *f) {
 }
 
 double bin_lee_double_con_posible_error(vnfichero *f, vnbool *es_incorrecto, vnbool *es_denormal) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(es_incorrecto) || !AFIRMA_NO_NULO(es_denormal)) return 0;
+    if (!EXIGE(f, es_incorrecto, es_denormal)) return 0;
     double dato = bin_lee_double(f);
     vncopro_filtra_double_con_posible_error(&dato, es_incorrecto, es_denormal);
     return dato;
@@ -218,14 +218,14 @@ double *bin_lee_double_posible_null_con_posible_error(vnfichero *f, vnbool *es_i
     if (!AFIRMA_NO_NULO(f)) return nullptr;
     vn::propio<double> dato(lee_double_posible_null(f));
     // The outputs are looked at after the read: the stream stands behind the value even where one is missing.
-    if (!AFIRMA_NO_NULO(es_incorrecto) || !AFIRMA_NO_NULO(es_denormal)) return dato.release();
+    if (!EXIGE(es_incorrecto, es_denormal)) return dato.release();
     *es_incorrecto = *es_denormal = FALSO;
     if (dato != nullptr) vncopro_filtra_double_con_posible_error(dato.get(), es_incorrecto, es_denormal);
     return dato.release();
 }
 
 Punto2D *bin_lee_punto_con_posible_error(vnfichero *f, vnbool *es_incorrecto, vnbool *es_denormal) {
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(es_incorrecto) || !AFIRMA_NO_NULO(es_denormal)) return nullptr;
+    if (!EXIGE(f, es_incorrecto, es_denormal)) return nullptr;
     vnbool x_incorrecto = FALSO, x_denormal = FALSO;
     const double x = bin_lee_double_con_posible_error(f, &x_incorrecto, &x_denormal);
     const double y = bin_lee_double_con_posible_error(f, es_incorrecto, es_denormal);

@@ -3,6 +3,7 @@
 #include "foundation/sistema/avisos.h"
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/mensajes.hpp"
 #include "foundation/texto/widestr.h"
@@ -85,7 +86,7 @@ vnbool vornbin_hay_cabecera_en_fichero_u(const vnwchar *nomfich, char **version_
     vn::fichero f;
     vn::cabecera c;
     if (!vn::abre_y_lee_cabecera(nomfich, &f, &c)) return FALSO;
-    const vnbool fichero_valido = c.valida ? CIERTO : FALSO;
+    const vnbool fichero_valido = vn::logico(c.valida);
     if (!AFIRMA(fichero_valido == CIERTO) || !c.hay) return FALSO;
     vn::da_textos(c, version_texto, revision_texto);
     if (es_ejemplo != nullptr) *es_ejemplo = c.es_ejemplo;
@@ -102,7 +103,7 @@ vnbool vornbin_es_fichero_vorn_valido(const char *nomfich) {
 vnbool bin_fichero_valido(vnfichero *f, uint16_t version_actual, const char *firma, char **titulo,
                           uint16_t version_ascii) {
     if (titulo != nullptr) *titulo = nullptr;
-    if (!AFIRMA_NO_NULO(f) || !AFIRMA_NO_NULO(firma)) return FALSO;
+    if (!EXIGE(f, firma)) return FALSO;
     vn::propio<char> leido = vn::titulo_si_es_valido(f, version_actual, firma, version_ascii);
     if (leido == nullptr) return FALSO;
     if (titulo != nullptr) *titulo = leido.release();
@@ -111,7 +112,7 @@ vnbool bin_fichero_valido(vnfichero *f, uint16_t version_actual, const char *fir
 
 vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, const char *firma, uint32_t tamanyo_titulo,
                             char *titulo, uint16_t version_ascii) {
-    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(firma)) return FALSO;
+    if (!EXIGE(nomfich, firma)) return FALSO;
     const vn::fichero f = vn::abre_para_leer(nomfich);
     const vn::propio<char> leido =
         f != nullptr ? vn::titulo_si_es_valido(f.get(), version_actual, firma, version_ascii) : nullptr;
@@ -126,9 +127,7 @@ vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, con
 
 vnbool vornbin_lee_datos_cabecera_debug_soporte(const char *nomfich, char **version_texto, char **revision_texto,
                                                 vnbool *es_ejemplo, vnwchar **contenido) {
-    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(version_texto) || !AFIRMA_NO_NULO(revision_texto) ||
-        !AFIRMA_NO_NULO(es_ejemplo) || !AFIRMA_NO_NULO(contenido))
-        return FALSO;
+    if (!EXIGE(nomfich, version_texto, revision_texto, es_ejemplo, contenido)) return FALSO;
     *version_texto = *revision_texto = nullptr;
     *es_ejemplo = FALSO;
     *contenido = nullptr;
@@ -151,7 +150,7 @@ vnbool vornbin_lee_datos_cabecera_debug_soporte(const char *nomfich, char **vers
 }
 
 vnbool vornbin_lee_campos_cabecera_u(const vnwchar *nomfich, arrCADENA_u **nombres, arrCADENA_u **valores) {
-    if (!AFIRMA_NO_NULO(nomfich) || !AFIRMA_NO_NULO(nombres) || !AFIRMA_NO_NULO(valores)) return FALSO;
+    if (!EXIGE(nomfich, nombres, valores)) return FALSO;
     *nombres = *valores = nullptr;
     vn::textos leidos_nombres(arr_CreaCADENA_u(0)), leidos_valores(arr_CreaCADENA_u(0));
     const vn::fichero f = vn::abre_para_leer(nomfich);

@@ -54,6 +54,7 @@ vornsave *vn::registra(const destino &fila, void *donde, vnbool con_comentarios,
     dueno_cadena version(cad_copia_cadena_opcional(version_programa)),
         parche(cad_copia_cadena_opcional(parche_programa));
     dueno<destruye_marcas> marcas(arr_CreaPunteroST(0, i_marca_t));
+    // Nothing fails from here on: the object takes over what was made for it.
     auto *nuevo = new (vornspy_malloc(sizeof(vornsave))) vornsave{};
     nuevo->fila = &fila;
     nuevo->donde = donde;
@@ -108,6 +109,7 @@ vornsave *vornsave_fichmem_para_lectura(const fichmem *fichero) {
 
 fichmem *vornsave_cierra_fichmem_para_escritura(vornsave **vornsave_datos) {
     if (!es_de_memoria(vornsave_datos, ESCRITURA)) return nullptr;
+    // The close takes the datum: the object is left without one, and goes like any other.
     fichmem *escrito = (*vornsave_datos)->fila->memoria.cierra_escritura(&(*vornsave_datos)->donde);
     vornsave_libera(vornsave_datos);
     return escrito;
@@ -160,7 +162,7 @@ const char *vornsave_dame_parche_programa(const vornsave *vornsave_datos) {
 
 void vornsave_set_tipo_status_lectura(vornsave *vornsave_datos, uint32_t tipo, const vnwchar *texto) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
-    vnwchar *copia = widestr_copia_opcional(texto);
+    vnwchar *copia = widestr_copia_opcional(texto); // first: the text may be the object's own
     widestr_destruye_opcional(&vornsave_datos->texto_status_lectura);
     vornsave_datos->texto_status_lectura = copia;
     vornsave_datos->tipo_status_lectura = tipo;

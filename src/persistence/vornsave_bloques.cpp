@@ -141,6 +141,7 @@ bool fin_valido(const vornsave *d, int64_t fin) {
     if (d->fila->posiciones.get == nullptr) return true;
     const int64_t desde = aqui(d);
     const i_marca_t *abierta = marca_abierta(d);
+    // What lies in something else ends with it at the latest; outside of all only the source is the limit.
     const int64_t limite = abierta != nullptr ? fin_de(*abierta) : LARGO64_MAX;
     return desde >= 0 && fin >= desde && fin <= limite && d->quedan(static_cast<uint64_t>(fin - desde), 1);
 }
@@ -183,6 +184,7 @@ fncptr_marca puede_marcar(const char *id, const vornsave *vornsave_datos, forma 
 void graba_inicio(const char *id, vornsave *d, forma f, clase_marca clase) {
     const fncptr_marca graba_marca = puede_marcar(id, d, f, clase);
     if (graba_marca == nullptr) return;
+    // The name, and behind it room for the end, which is not known yet.
     graba_marca(id, d->donde);
     const int64_t hueco = posicion(d, clase);
     if (hueco < 0) d->falla();
@@ -193,6 +195,7 @@ void graba_inicio(const char *id, vornsave *d, forma f, clase_marca clase) {
 void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
     const fncptr_marca graba_marca = puede_marcar(id, d, f, clase);
     if (graba_marca == nullptr) return;
+    // The end is where the closing name begins; what follows begins behind that.
     const int64_t p_fin = posicion(d, clase);
     graba_marca(id, d->donde);
     const int64_t p_sig = posicion(d, clase);
@@ -204,6 +207,7 @@ void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
         d->falla();
         return;
     }
+    // Back to the room that was left, and on again.
     ve_a(d, clase, donde);
     graba_posicion(d, clase, p_fin);
     ve_a(d, clase, p_sig);
@@ -236,6 +240,7 @@ vnbool se_inicia_lectura(const char *id, vornsave *d, clase_marca clase) {
 
 void lee_final(const char *id, vornsave *d, clase_marca clase) {
     if (!puede_leer_bloques(id, d, clase)) return;
+    // Where the name is not there, the body was not read to its end: the stored end leads to it.
     const vnbool se_lee_final_bloque = se_lee_marca(id, d, clase);
     if (!AFIRMA(se_lee_final_bloque == CIERTO)) {
         d->falla();
@@ -272,49 +277,24 @@ vnbool vornsave_es_posible_marcar_bloques(const vornsave *vornsave_datos) {
     return logico(vornsave_datos->fila->marcas.graba != nullptr);
 }
 
-void vornsave_graba_inicio_bloque(const char *id, vornsave *vornsave_datos) {
-    graba_inicio(id, vornsave_datos, BLOQUE, MARCA_32);
-}
+// A row: operation, what it does, form, class of the mark.
+#define GRABA_MARCA(nombre, graba, forma, clase)                                                                       \
+    void nombre(const char *id, vornsave *vornsave_datos) { graba(id, vornsave_datos, forma, clase); }
+GRABA_MARCA(vornsave_graba_inicio_bloque, graba_inicio, BLOQUE, MARCA_32)
+GRABA_MARCA(vornsave_graba_fin_bloque, graba_fin, BLOQUE, MARCA_32)
+GRABA_MARCA(vornsave_graba_inicio_bloque64, graba_inicio, BLOQUE, MARCA_64)
+GRABA_MARCA(vornsave_graba_fin_bloque64, graba_fin, BLOQUE, MARCA_64)
+GRABA_MARCA(vornsave_graba_inicio_seccion, graba_inicio, SECCION, MARCA_32)
+GRABA_MARCA(vornsave_graba_fin_seccion, graba_fin, SECCION, MARCA_32)
 
-void vornsave_graba_fin_bloque(const char *id, vornsave *vornsave_datos) {
-    graba_fin(id, vornsave_datos, BLOQUE, MARCA_32);
-}
-
-void vornsave_graba_inicio_bloque64(const char *id, vornsave *vornsave_datos) {
-    graba_inicio(id, vornsave_datos, BLOQUE, MARCA_64);
-}
-
-void vornsave_graba_fin_bloque64(const char *id, vornsave *vornsave_datos) {
-    graba_fin(id, vornsave_datos, BLOQUE, MARCA_64);
-}
-
-void vornsave_graba_inicio_seccion(const char *id, vornsave *vornsave_datos) {
-    graba_inicio(id, vornsave_datos, SECCION, MARCA_32);
-}
-
-void vornsave_graba_fin_seccion(const char *id, vornsave *vornsave_datos) {
-    graba_fin(id, vornsave_datos, SECCION, MARCA_32);
-}
-
-vnbool vornsave_se_inicia_lectura_bloque(const char *id, vornsave *vornsave_datos) {
-    return se_inicia_lectura(id, vornsave_datos, MARCA_32);
-}
-
-vnbool vornsave_se_inicia_lectura_bloque64(const char *id, vornsave *vornsave_datos) {
-    return se_inicia_lectura(id, vornsave_datos, MARCA_64);
-}
-
-void vornsave_lee_final_bloque(const char *id, vornsave *vornsave_datos) { lee_final(id, vornsave_datos, MARCA_32); }
-
-void vornsave_lee_final_bloque64(const char *id, vornsave *vornsave_datos) { lee_final(id, vornsave_datos, MARCA_64); }
-
-vnbool vornsave_se_salta_bloque(const char *id, vornsave *vornsave_datos) {
-    return se_salta(id, vornsave_datos, MARCA_32);
-}
-
-vnbool vornsave_se_salta_bloque64(const char *id, vornsave *vornsave_datos) {
-    return se_salta(id, vornsave_datos, MARCA_64);
-}
+#define LEE_MARCA(tipo, nombre, lee, clase)                                                                            \
+    tipo nombre(const char *id, vornsave *vornsave_datos) { return lee(id, vornsave_datos, clase); }
+LEE_MARCA(vnbool, vornsave_se_inicia_lectura_bloque, se_inicia_lectura, MARCA_32)
+LEE_MARCA(vnbool, vornsave_se_inicia_lectura_bloque64, se_inicia_lectura, MARCA_64)
+LEE_MARCA(void, vornsave_lee_final_bloque, lee_final, MARCA_32)
+LEE_MARCA(void, vornsave_lee_final_bloque64, lee_final, MARCA_64)
+LEE_MARCA(vnbool, vornsave_se_salta_bloque, se_salta, MARCA_32)
+LEE_MARCA(vnbool, vornsave_se_salta_bloque64, se_salta, MARCA_64)
 
 char *vornsave_lee_seccion(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(cadena)>(vornsave_datos) || !puede_leer<LEER(long)>(vornsave_datos)) return nullptr;

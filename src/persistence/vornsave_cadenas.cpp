@@ -57,8 +57,7 @@ void vornsave_graba_cadena_campo(const char *valor, const char *campo, vornsave 
 }
 
 char *vornsave_lee_cadena_campo(vornsave *vornsave_datos, const char *campo) {
-    if (!AFIRMA_NO_NULO(vornsave_datos)) return nullptr;
-    if (!AFIRMA_NO_NULO(campo)) return nullptr;
+    if (!EXIGE(vornsave_datos, campo)) return nullptr;
     AFIRMA(vornsave_datos->ANSI == CIERTO); // no file of the OEM times has this form
     return lee<LEER(cadena_campo)>(vornsave_datos, campo);
 }

@@ -59,9 +59,7 @@ void vornsave_graba_bool_con_texto(vnbool valor, vornsave *vornsave_datos, const
 }
 
 vnbool vornsave_lee_bool_con_texto(vornsave *vornsave_datos, const char *texto1, const char *texto2) {
-    if (!AFIRMA_NO_NULO(vornsave_datos)) return FALSO;
-    if (!AFIRMA_NO_NULO(texto1)) return FALSO;
-    if (!AFIRMA_NO_NULO(texto2)) return FALSO;
+    if (!EXIGE(vornsave_datos, texto1, texto2)) return FALSO;
     return lee<LEER(bool_texto)>(vornsave_datos, texto1, texto2);
 }
 
@@ -87,9 +85,7 @@ void vornsave_graba_double_con_precision(double valor, double paso, vornsave *vo
 
 double vornsave_lee_double_con_posible_error_en_binario(vornsave *vornsave_datos, vnbool *es_incorrecto,
                                                         vnbool *es_denormal) {
-    if (!AFIRMA_NO_NULO(vornsave_datos)) return 0.;
-    if (!AFIRMA_NO_NULO(es_incorrecto)) return 0.;
-    if (!AFIRMA_NO_NULO(es_denormal)) return 0.;
+    if (!EXIGE(vornsave_datos, es_incorrecto, es_denormal)) return 0.;
     *es_incorrecto = *es_denormal = FALSO;
     return lee<LEER(double_con_posible_error)>(vornsave_datos, es_incorrecto, es_denormal);
 }

@@ -10,7 +10,7 @@ namespace {
 
 bool graba_presencia(bool esta, vornsave *vornsave_datos) {
     if (!puede_grabar<GRABAR(bool)>(vornsave_datos)) return false;
-    graba<GRABAR(bool)>(vornsave_datos, esta ? CIERTO : FALSO);
+    graba<GRABAR(bool)>(vornsave_datos, logico(esta));
     return esta;
 }
 bool lee_presencia(vornsave *vornsave_datos) { return lee<LEER(bool)>(vornsave_datos) == CIERTO; }
@@ -128,8 +128,7 @@ void vornsave_nousar_salta_arr_punteros_opcionalST(vornsave *vornsave_datos, vnf
 apunorde *vornsave_nousar_lee_apunorde_opcional(vornsave *vornsave_datos, vnfunc_lee_dato funcion,
                                                 vnfunc_compara_con_dato comparador, void *dato,
                                                 vnfunc_destruye destructor) {
-    if (!AFIRMA_NO_NULO(funcion)) return nullptr;
-    if (!AFIRMA_NO_NULO(comparador)) return nullptr;
+    if (!EXIGE(funcion, comparador)) return nullptr;
     return lee_presencia(vornsave_datos)
                ? vornsave_nousar_lee_apunorde(vornsave_datos, funcion, comparador, dato, destructor)
                : nullptr;

@@ -17,6 +17,7 @@ struct i_marca_t {
     int32_t posicion_inicial, posicion_final;
     int64_t posicion_inicial64, posicion_final64;
 };
+// An end, or a beginning, that is not known: no position is so far.
 inline constexpr int32_t LARGO_MAX = INT32_MAX;
 inline constexpr int64_t LARGO64_MAX = INT64_MAX;
 

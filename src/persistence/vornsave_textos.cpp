@@ -124,7 +124,7 @@ template <class O> void graba_conjunto(const typename O::conjunto *array, bool c
 template <class O> typename O::conjunto *lee_conjunto(vornsave *d, vnfunc_lee_texto funcion) {
     if (!puede_leer<LEER(bool)>(d) || !puede_leer<LEER(ulong_y_salta)>(d)) return nullptr;
     if (funcion == nullptr && !puede_leer<O::texto::LEE>(d)) return nullptr;
-    const vnbool distingue = lee<LEER(bool)>(d) == CIERTO ? CIERTO : FALSO;
+    const vnbool distingue = lee<LEER(bool)>(d) == logico(CIERTO);
     dueno<O::destruye> array(O::crea(distingue));
     const uint32_t n = d->acota(lee<LEER(ulong_y_salta)>(d), funcion != nullptr ? 1 : O::texto::BYTES);
     const vigia guarda(*d, funcion == nullptr && por_lineas<typename O::texto>(*d));
