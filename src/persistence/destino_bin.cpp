@@ -38,6 +38,7 @@ uint32_t tamanyo_fichero(vnfichero *f) { return cambtipo_double_a_ulong(lc_taman
 void set_posicion(vnfichero *f, int32_t posicion) { lc_fseek(f, posicion, VN_DESDE_EL_PRINCIPIO); }
 void set_posicion64(vnfichero *f, int64_t posicion) { vornio_fseek_i64(f, posicion, VN_DESDE_EL_PRINCIPIO); }
 void graba_cabecera_bloque(const char *id, vnfichero *f) {
+    // The terminator goes too: it tells a name from a longer one that begins alike.
     const char *p = id;
     do bin_graba_char(*p, f);
     while (*p++ != '\0');
@@ -47,7 +48,7 @@ template <auto COMPRUEBA> vnbool se_lee_inicio_bloque(const char *id, vnfichero 
     if (COMPRUEBA(id, f) != CIERTO) return FALSO;
     const char fin_cadena = bin_lee_char(f);
     if (AFIRMA(fin_cadena == '\0')) return CIERTO;
-    set_posicion64(f, posicion);
+    set_posicion64(f, posicion); // a longer name: nothing was read
     return FALSO;
 }
 

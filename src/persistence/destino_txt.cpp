@@ -66,6 +66,7 @@ char *lee_cadena_de_linea(vnfichero *f) { return quita_escapes(vtxt_lee_cadena(f
 // A text of an array: a line of up to 255 characters.
 constexpr size_t TAMANYO_LINEA = 256;
 void graba_linea(const char *s, vnfichero *f) {
+    // The reader has a line of so many bytes, escapes included: what does not fit is told while it can be mended.
     const size_t longitud = escapa(s).size();
     if (!AFIRMA(longitud < TAMANYO_LINEA)) ficheros::marca_fallo_escritura(f);
     graba_cadena_en_linea(s, f);

@@ -39,6 +39,7 @@ propio<uint8_t> lee_bytes(const conducto &c, uint32_t &tamanyo, uint32_t trozo) 
     }
     if (tamanyo == 0 && (pedidos > 0 || libres)) return bytes;
     const vigia guarda(c);
+    // Piece by piece: where they are free, none is larger than the room that there is.
     do {
         const uint32_t n = std::min({trozo, tamanyo - hechos, libres ? std::max(caben, 1u) : UINT32_MAX});
         if (caben - hechos < n) { // the source cannot tell its size: what has come doubles the room

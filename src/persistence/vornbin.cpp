@@ -23,6 +23,7 @@ bool bin_lee_modo_debug(vnfichero *f) {
 
 template <class T> void graba_despacio(T dato, char etiqueta, vnfichero *f) {
     if (!AFIRMA_NO_NULO(f)) return;
+    // Tag, check, bytes: each is written whatever the one before it said.
     if (f->etiquetas_al_escribir) vnfichero_pon(f, &etiqueta, 1, VN_AQUI);
     if constexpr (std::is_same_v<T, double>)
         AFIRMA_TEXTO(es_numero_valido(dato), "defmath_es_numero_valido(dato) == CIERTO");
@@ -34,6 +35,7 @@ template <class T> T lee_despacio(char etiqueta, vnfichero *f) {
     if (f->etiquetas_al_leer) {
         char leida = 0;
         vnfichero_toma(f, &leida, 1, VN_AQUI);
+        // A wrong letter is reported and the value read all the same: one tag may be damaged alone.
         if (leida != etiqueta) lc_error_leyendo_fichero(f);
     }
     T dato{};

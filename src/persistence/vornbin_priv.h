@@ -30,8 +30,8 @@ bool bin_lee_modo_debug(vnfichero *f);
     X(uint64_t, 'u', ulong64, bin_graba_ulong64, bin_lee_ulong64)                                                      \
     X(float, 'f', float, bin_graba_float, bin_lee_float)
 
-// Null streams, tags, the ends of the buffer: off the fast path, a call in tail position that takes values, so that on
-// it nothing is saved and the value stays in its register.
+// Null streams, tags and the ends of the buffer. Both take values, not addresses, and are called last, so that the fast
+// path saves no register.
 template <class T> void graba_despacio(T dato, char etiqueta, vnfichero *f);
 template <class T> T lee_despacio(char etiqueta, vnfichero *f);
 

@@ -21,6 +21,7 @@ template <class T> T toma_longitud(vnfichero *f) {
 
 // New text of `n` units, empty when that many are not left.
 template <class C> vn::propio<C> lee_texto(uint64_t n, vnfichero *f) {
+    // A length is believed as far as the file has bytes for it: nothing is allocated for what is not there.
     if (lc_quedan(f, n, sizeof(C)) == FALSO) {
         lc_error_leyendo_fichero(f);
         n = 0;
@@ -62,6 +63,7 @@ bool lee_no_es_null(vnfichero *f) {
 void bin_graba_cadena(const char *buf, vnfichero *f) {
     if (!hay_dato(AFIRMA_NO_NULO(buf), f) || !AFIRMA_NO_NULO(f)) return;
     const size_t l = strlen(buf);
+    // A longer one goes cut, with the length that stands before it: the stream stays in step, the save fails.
     hay_dato(AFIRMA(l <= USHRT_MAX), f);
     const auto longitud = static_cast<uint16_t>(l);
     vnfichero_pon(f, &longitud, sizeof longitud, VN_AQUI);
@@ -102,6 +104,7 @@ void bin_graba_punto(const Punto2D *pto, vnfichero *f) {
 
 void bin_graba_punto2D(const Punto2D *pto, vnfichero *f) {
     if (!hay_dato(AFIRMA_NO_NULO(pto), f) || !AFIRMA_NO_NULO(f)) return;
+    // One tag for both numbers, which go as they are, a number that is none too.
     if (f->etiquetas_al_escribir) vnfichero_pon(f, "p", 1, VN_AQUI);
     vnfichero_pon(f, pto, sizeof *pto, VN_AQUI);
 }

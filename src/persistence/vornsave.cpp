@@ -129,6 +129,7 @@ void vornsave_libera(vornsave **vornsave_datos) {
     *vornsave_datos = nullptr;
     // What a writer left open has no end: a file with it cannot be read.
     if (arr_NumElemsPunteroST(objeto->pila_marcas, i_marca_t) > 0) objeto->falla();
+    // A host that said how far it read is not told that it left something open.
     switch (objeto->tipo_status_lectura) {
     case 0:
         AFIRMA_TEXTO_CLASE(arr_NumElemsPunteroST(objeto->pila_marcas, i_marca_t) == 0,

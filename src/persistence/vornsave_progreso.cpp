@@ -15,6 +15,7 @@ bool posicion_de_barra(const vornsave *vornsave_datos, uint32_t &valor) {
     if (!AFIRMA_TEXTO(p.get != nullptr, "(vornsave->fncptr_get_posicion) != NULL")) return false;
     const int64_t posicion = p.get64 != nullptr ? p.get64(vornsave_datos->donde) : p.get(vornsave_datos->donde);
     if (!AFIRMA(posicion >= 0)) return false;
+    // A bar counts in 32 bits: it stands still at the end of what it can show.
     valor = static_cast<uint32_t>(std::min<int64_t>(posicion, UINT32_MAX));
     return true;
 }

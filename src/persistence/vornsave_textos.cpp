@@ -79,6 +79,7 @@ void vornsave_salta_arr_cadena_unicode(vornsave *vornsave_datos) {
 
 namespace {
 
+// What the sets of the two widths differ in.
 struct orden {
     using texto = ansi;
     using conjunto = acadorde;
@@ -109,6 +110,7 @@ template <class O> void graba_conjunto(const typename O::conjunto *array, bool c
         return;
     if (!puede_grabar<GRABAR(bool)>(d) || !puede_grabar<GRABAR(ulong_y_salta)>(d)) return;
     if (!con_funcion && !puede_grabar<O::texto::GRABA>(d)) return;
+    // The flag first: a reader must know the order before the texts come.
     graba<GRABAR(bool)>(d, O::distingue(array));
     const uint32_t n = O::numelems(array);
     graba<GRABAR(ulong_y_salta)>(d, n);
@@ -124,7 +126,8 @@ template <class O> void graba_conjunto(const typename O::conjunto *array, bool c
 template <class O> typename O::conjunto *lee_conjunto(vornsave *d, vnfunc_lee_texto funcion) {
     if (!puede_leer<LEER(bool)>(d) || !puede_leer<LEER(ulong_y_salta)>(d)) return nullptr;
     if (funcion == nullptr && !puede_leer<O::texto::LEE>(d)) return nullptr;
-    const vnbool distingue = lee<LEER(bool)>(d) == logico(CIERTO);
+    const vnbool distingue = logico(lee<LEER(bool)>(d) == CIERTO);
+    // A set that was stored in another order, by a damaged file, is put in order as its texts come.
     dueno<O::destruye> array(O::crea(distingue));
     const uint32_t n = d->acota(lee<LEER(ulong_y_salta)>(d), funcion != nullptr ? 1 : O::texto::BYTES);
     const vigia guarda(*d, funcion == nullptr && por_lineas<typename O::texto>(*d));
