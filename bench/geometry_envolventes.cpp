@@ -1,8 +1,8 @@
 // The hull that grows point by point, over points of a square, where few are outside when they come, and of a
 // circle, where most are. What is judged is how the time grows.
+#include "../tests/geometry/envolvente.h"
 #include "foundation/numeros/vector_int.h"
 #include "geometry.h"
-#include "geometry/poligono.h"
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -16,10 +16,10 @@ namespace bench {
 
 namespace {
 
-struct punto {
-    int32_t x, y;
-};
-using puntos = std::vector<punto>;
+using envolvente::punto;
+using puntos = envolvente::puntos_t;
+
+size_t cadena(const puntos &v) { return envolvente::cadena<int64_t>(v).size(); }
 
 puntos nube(size_t n, bool en_circulo) {
     azar a(6);
@@ -34,33 +34,7 @@ puntos nube(size_t n, bool en_circulo) {
     return v;
 }
 
-int64_t cruz(const punto &o, const punto &a, const punto &b) {
-    return int64_t{a.x - o.x} * (b.y - o.y) - int64_t{a.y - o.y} * (b.x - o.x);
-}
-
-size_t cadena(puntos p) {
-    const auto menor = [](const punto &a, const punto &b) { return a.x < b.x || (a.x == b.x && a.y < b.y); };
-    std::sort(p.begin(), p.end(), menor);
-    puntos h;
-    for (int lado = 0; lado < 2; ++lado, std::reverse(p.begin(), p.end())) {
-        const size_t base = h.size();
-        for (const punto &q : p) {
-            while (h.size() >= base + 2 && cruz(h[h.size() - 2], h.back(), q) <= 0) h.pop_back();
-            h.push_back(q);
-        }
-        h.pop_back();
-    }
-    return h.size();
-}
-
-size_t crece(const puntos &v) {
-    poligono_t pol;
-    poligono_crea_pol(&pol);
-    for (const punto &p : v) poligono_anade_punto_a_poligono_convexo(&pol, p.x, p.y);
-    const auto n = static_cast<size_t>(pol.numVertices);
-    poligono_destruye_pol(&pol);
-    return n;
-}
+size_t crece(const puntos &v) { return static_cast<size_t>(envolvente::poligono(v).numVertices); }
 
 // Nanoseconds that the polygon takes to grow over all points, the best of the passes.
 double tarda(const puntos &v, int pasadas) {

@@ -2,10 +2,9 @@
 #pragma once
 
 #include "foundation/listas/arr.h"
-#include "foundation/suelo/tipos.h"
+#include "foundation/suelo/dueno.hpp"
 #include "propiedades.h"
 #include <cmath>
-#include <memory>
 #include <vector>
 
 namespace espacio {
@@ -51,19 +50,14 @@ inline marco marco_al_azar(vn::azar &a, double lado, const vn::lugar &l = {}) {
 
 // Arrays of the family that free themselves.
 struct puntos {
-    arrPunto3D *a;
+    vn::dueno<arr_DestruyePunto3D> a;
     explicit puntos(const std::vector<vec> &p) : a(arr_CreaPunto3D(0)) {
-        for (const vec &q : p) arr_AppendPunto3D(a, q.x, q.y, q.z);
+        for (const vec &q : p) arr_AppendPunto3D(a.get(), q.x, q.y, q.z);
     }
     explicit puntos(arrPunto3D *propio) : a(propio) {}
-    ~puntos() {
-        if (a != nullptr) arr_DestruyePunto3D(&a);
-    }
-    puntos(const puntos &) = delete;
-    puntos &operator=(const puntos &) = delete;
-    operator arrPunto3D *() const { return a; }
-    uint32_t size() const { return a == nullptr ? 0 : arr_NumElemsPunto3D(a); }
-    vec operator[](uint32_t i) const { return arr_GetBufferConstPunto3D(a)[i]; }
+    operator arrPunto3D *() const { return a.get(); }
+    uint32_t size() const { return a == nullptr ? 0 : arr_NumElemsPunto3D(a.get()); }
+    vec operator[](uint32_t i) const { return arr_GetBufferConstPunto3D(a.get())[i]; }
 };
 
 } // namespace espacio

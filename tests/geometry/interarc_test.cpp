@@ -1,10 +1,10 @@
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
+#include "foundation/suelo/dueno.hpp"
 #include "geometry/interarc.h"
 #include "propiedades.h"
 #include "prueba.h"
 #include <limits>
-#include <memory>
 
 using vn::azar;
 using vn::cerca;
@@ -14,10 +14,6 @@ namespace {
 constexpr double VUELTA = 6.283185307179586, INF = std::numeric_limits<double>::infinity();
 constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN();
 constexpr int CASOS = 20000;
-
-struct destruye {
-    void operator()(arrPunto2D *a) const { arr_DestruyePunto2D(&a); }
-};
 
 // The points that an operation appends, which answers whether there are any.
 class cortes {
@@ -31,7 +27,7 @@ class cortes {
     std::span<const Punto2D> todos() const { return vn::listas::tramo(static_cast<const arrPunto2D *>(puntos_.get())); }
 
   private:
-    std::unique_ptr<arrPunto2D, destruye> puntos_;
+    vn::dueno<arr_DestruyePunto2D> puntos_;
 };
 
 cortes con_circulo(double x1, double y1, double x2, double y2, double xc, double yc, double r) {

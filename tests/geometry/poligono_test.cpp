@@ -3,33 +3,14 @@
 #include "propiedades.h"
 #include "prueba.h"
 
-using namespace envolvente;
+using envolvente::poligono, envolvente::punto, envolvente::puntos_t;
 using vn::azar;
 
 namespace {
 
 __extension__ using largo = __int128;
-
-largo cruz(const punto &o, const punto &a, const punto &b) {
-    return largo(int64_t{a.x} - o.x) * (int64_t{b.y} - o.y) - largo(int64_t{a.y} - o.y) * (int64_t{b.x} - o.x);
-}
-
-// Monotone chain: the hull without points on its sides, counter-clockwise from the lowest.
-puntos_t cadena(puntos_t p) {
-    std::sort(p.begin(), p.end());
-    p.erase(std::unique(p.begin(), p.end()), p.end());
-    if (p.size() < 3) return p;
-    puntos_t h;
-    for (int lado = 0; lado < 2; ++lado, std::reverse(p.begin(), p.end())) {
-        const size_t base = h.size();
-        for (const punto &q : p) {
-            while (h.size() >= base + 2 && cruz(h[h.size() - 2], h.back(), q) <= 0) h.pop_back();
-            h.push_back(q);
-        }
-        h.pop_back();
-    }
-    return h;
-}
+constexpr auto cruz = envolvente::cruz<largo>;
+constexpr auto cadena = envolvente::cadena<largo>;
 
 // Whether every corner of a convex outline bends by more than a ten-thousandth of a radian: those that bend less may
 // go.

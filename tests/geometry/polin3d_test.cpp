@@ -15,19 +15,16 @@ constexpr double PI = 3.141592653589793, INF = std::numeric_limits<double>::infi
 double tras(double x) { return std::nextafter(x, INF); }
 
 // A fillet, or none: no points and `hay` false.
-struct acuerdo {
+struct acuerdo : puntos {
     vnbool hay = 7;
-    arrPunto3D *a = nullptr;
     vec centro{7, 7, 7};
-    acuerdo(vec p1, vec p2, vec p3, double diametro, double radio, double grados = 10., vnbool mantiene = FALSO) {
+    acuerdo(vec p1, vec p2, vec p3, double diametro, double radio, double grados = 10., vnbool mantiene = FALSO)
+        : puntos(nullptr) {
+        arrPunto3D *nuevos = nullptr;
         hay = Pln3D_se_genera_puntos_acuerdo_entre_tres_puntos(XYZ(p1), XYZ(p2), XYZ(p3), diametro, radio, grados,
-                                                               mantiene, &a, A_XYZ(centro));
+                                                               mantiene, &nuevos, A_XYZ(centro));
+        a.reset(nuevos);
     }
-    ~acuerdo() {
-        if (a != nullptr) arr_DestruyePunto3D(&a);
-    }
-    uint32_t size() const { return a == nullptr ? 0 : arr_NumElemsPunto3D(a); }
-    vec operator[](uint32_t i) const { return arr_GetBufferConstPunto3D(a)[i]; }
     vec ultimo() const { return (*this)[size() - 1]; }
 };
 
@@ -312,6 +309,12 @@ PRUEBA(polin3d, las_secciones_de_las_esquinas_sin_acuerdo) {
         EXPECT_LT(m.w().x, 0.);
     }
     EXPECT_TRUE(ejes2d_son_ejes_iguales(UV_(s[2]), UV_(s[1])));
+    // A corner is one from a cosine of 0.0001 from 1 on: at an angle of 0.01414.
+    for (const double g : {.01414, .01415}) {
+        const vec q = p[2] + vec{2 * std::cos(PI / 3 + g), 2 * std::sin(PI / 3 + g), 0};
+        const auto t = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({p[0], p[1], p[2], q}), FALSO));
+        EXPECT_EQ(ejes2d_son_ejes_iguales(UV_(t[2]), UV_(t[1])) == CIERTO, g == .01414) << g;
+    }
     EXPECT_LT(largo(corto[2].w() - vec{0, 1, 0}), 1e-12);
     // Where the told axes do not exist, since the path runs along U or the three points are on a line: square to it all
     // the same.

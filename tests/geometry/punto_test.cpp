@@ -52,6 +52,7 @@ PRUEBA(punto, cada_tolerancia_tiene_su_limite_y_su_sentido) {
     const double semirecta = frontera(1., 0., [](double x) { return 1e6 * x / 1e12 >= 1e-08; });
     const double base_corta = frontera(0., 1., [](double d) { return 5 * d < EPS; });
     const double sin_direccion = frontera(0., 1., [](double x) { return x * x <= 1e-10; });
+    // clang-format off
     // The condition holds at `ultimo` and not one step further, towards `hacia`.
     const struct {
         const char *que;
@@ -59,104 +60,60 @@ PRUEBA(punto, cada_tolerancia_tiene_su_limite_y_su_sentido) {
         std::function<bool(double)> vale;
     } filas[] = {
         {"two points differ from p_EPS on", EPS, 0,
-         [](double d) {
-             return !con<p_igual>({d, 0}, {0, 0}) && !con<p_igual>({7, 0}, {7, -d});
-         }},
+         [](double d) { return !con<p_igual>({d, 0}, {0, 0}) && !con<p_igual>({7, 0}, {7, -d}); }},
         {"a point lies on a segment to p_EPS", EPS, 1,
-         [](double d) {
-             return con<p_contenido>({5, d}, {0, 0}, {10, 0});
-         }},
+         [](double d) { return con<p_contenido>({5, d}, {0, 0}, {10, 0}); }},
         {"an end is the segment within p_EPS by axis", std::nextafter(EPS, 0), 1,
-         [](double d) {
-             return con<p_contenido>({-d, d}, {0, 0}, {10, 0});
-         }},
+         [](double d) { return con<p_contenido>({-d, d}, {0, 0}, {10, 0}); }},
         {"a point lies on a line to p_EPS", EPS, 1,
-         [](double d) {
-             return con<p_contenido_recta>({99, -d}, {0, 0}, {10, 0});
-         }},
+         [](double d) { return con<p_contenido_recta>({99, -d}, {0, 0}, {10, 0}); }},
         {"a half-line begins at 1e-8 of its base", semirecta, 0,
-         [](double x) {
-             return con<p_contenido_semirecta>({x, 0}, {0, 0}, {1e6, 0});
-         }},
+         [](double x) { return con<p_contenido_semirecta>({x, 0}, {0, 0}, {1e6, 0}); }},
         {"a normal meets from -p_EPS, closed", -EPS, -1,
-         [](double t) {
-             return con<p_normal_corta>({t, 7}, {0, 0}, {1, 0});
-         }},
+         [](double t) { return con<p_normal_corta>({t, 7}, {0, 0}, {1, 0}); }},
         {"a normal meets to 1 + p_EPS, closed", 1 + EPS, 2,
-         [](double t) {
-             return con<p_normal_corta>({t, 7}, {0, 0}, {1, 0});
-         }},
+         [](double t) { return con<p_normal_corta>({t, 7}, {0, 0}, {1, 0}); }},
         {"its foot is open below", std::nextafter(-EPS, 0), -1,
-         [](double t) {
-             return toma(con<p_corte_normal>({t, 7}, {0, 0}, {1, 0})).has_value();
-         }},
+         [](double t) { return toma(con<p_corte_normal>({t, 7}, {0, 0}, {1, 0})).has_value(); }},
         {"its foot is open above", std::nextafter(1 + EPS, 0), 2,
-         [](double t) {
-             return toma(con<p_corte_normal>({t, 7}, {0, 0}, {1, 0})).has_value();
-         }},
+         [](double t) { return toma(con<p_corte_normal>({t, 7}, {0, 0}, {1, 0})).has_value(); }},
         {"the right side reaches p_EPS to the left", std::nextafter(EPS, 0), 1,
-         [](double d) {
-             return con<p_lado_recta>({0, d}, {0, 0}, {1, 0});
-         }},
+         [](double d) { return con<p_lado_recta>({0, d}, {0, 0}, {1, 0}); }},
         {"and half of that for twice the base", std::nextafter(EPS, 0) / 2, 1,
-         [](double d) {
-             return con<p_lado_recta>({0, d}, {0, 0}, {2, 0});
-         }},
+         [](double d) { return con<p_lado_recta>({0, d}, {0, 0}, {2, 0}); }},
         {"which a short base is made as long as", base_corta, 1,
-         [](double d) {
-             return con<p_lado_recta>({0, d}, {0, 0}, {.5, 0});
-         }},
+         [](double d) { return con<p_lado_recta>({0, d}, {0, 0}, {.5, 0}); }},
         {"on the line to 1e-6", 1e-6, 1,
          [](double d) {
              const Punto2D p = {4, d}, o = {1, 0};
              return p_lado_punto_respecto_a_recta(&p, &o, 1, 0) == 0;
          }},
         {"boxes touch to p_EPS", -EPS, -1,
-         [](double d) {
-             return con<p_minimax>({-1, 0}, {d, 1}, {0, 0}, {1, 1});
-         }},
+         [](double d) { return con<p_minimax>({-1, 0}, {d, 1}, {0, 0}, {1, 1}); }},
         {"upwards too", -EPS, -1,
-         [](double d) {
-             return con<p_minimax>({0, 0}, {1, 1}, {0, -1}, {1, d});
-         }},
+         [](double d) { return con<p_minimax>({0, 0}, {1, 1}, {0, -1}, {1, d}); }},
         {"any corners of them", -EPS, -1, [](double d) { return p_se_solapan_rectangulos(d, 0, -1, 1, 1, 0, 0, 1); }},
         {"parallel to a cross product of 1e-8", 1e-08, 1,
-         [](double h) {
-             return !cruce({1, 0}, {0, 0}, {.5, 0}, {.5, h});
-         }},
+         [](double h) { return !cruce({1, 0}, {0, 0}, {.5, 0}, {.5, h}); }},
         {"parallel, by the question", 1e-08, 1,
-         [](double h) {
-             return con<p_son_segmentos_paralelos>({1, 0}, {0, 0}, {3, 0}, {3, h});
-         }},
+         [](double h) { return con<p_son_segmentos_paralelos>({1, 0}, {0, 0}, {3, 0}, {3, h}); }},
         {"a crossing before the first piece, by its parameter", parametro_bajo, 1,
-         [](double d) {
-             return cruce({1e9, 0}, {0, 0}, {-d, -1}, {-d, 1}).has_value();
-         }},
+         [](double d) { return cruce({1e9, 0}, {0, 0}, {-d, -1}, {-d, 1}).has_value(); }},
         {"a crossing after the first piece", parametro_alto, 2e9,
-         [](double x) {
-             return cruce({1e9, 0}, {0, 0}, {x, -1}, {x, 1}).has_value();
-         }},
+         [](double x) { return cruce({1e9, 0}, {0, 0}, {x, -1}, {x, 1}).has_value(); }},
         {"a crossing before the second piece", parametro_bajo, 1,
-         [](double d) {
-             return cruce({-d, -1}, {-d, 1}, {1e9, 0}, {0, 0}).has_value();
-         }},
+         [](double d) { return cruce({-d, -1}, {-d, 1}, {1e9, 0}, {0, 0}).has_value(); }},
         {"a crossing after the second piece", parametro_alto, 2e9,
-         [](double x) {
-             return cruce({x, -1}, {x, 1}, {1e9, 0}, {0, 0}).has_value();
-         }},
+         [](double x) { return cruce({x, -1}, {x, 1}, {1e9, 0}, {0, 0}).has_value(); }},
         {"a crossing beyond an end is that end within p_EPS", std::nextafter(EPS, 0), 1,
-         [](double d) {
-             return cruce({1, 0}, {0, 0}, {-d, -1}, {-d, 1}).has_value();
-         }},
+         [](double d) { return cruce({1, 0}, {0, 0}, {-d, -1}, {-d, 1}).has_value(); }},
         {"no direction to a squared length of 1e-10", sin_direccion, 1,
          [](double l) {
              const Punto2D p = {9, 9}, a = {0, 0}, b = {l, 0};
              return posicion_relativa_al_segmento(&p, &a, &b, CIERTO) == -1e+100;
          }},
         {"a direction is the x axis below 1e-8", std::nextafter(1e-08, 0), 1,
-         [](double a) {
-             return con<p_angulo>({0, 0}, {1, a}) == 0;
-         }},
+         [](double a) { return con<p_angulo>({0, 0}, {1, a}) == 0; }},
         {"a turn is none below 1e-7", std::nextafter(1e-07, 0), 1,
          [](double a) {
              double x = 1, y = 0;
@@ -164,10 +121,9 @@ PRUEBA(punto, cada_tolerancia_tiene_su_limite_y_su_sentido) {
              return y == 0;
          }},
         {"vertical below a width of 1e-6: no clip in y", std::nextafter(1e-06, 0), 1,
-         [](double w) {
-             return mete({-w, .5}, {0, 4}, {0, 0}, {1, 1});
-         }},
+         [](double w) { return mete({-w, .5}, {0, 4}, {0, 0}, {1, 1}); }},
     };
+    // clang-format on
     for (const auto &f : filas) {
         EXPECT_TRUE(f.vale(f.ultimo)) << f.que;
         EXPECT_FALSE(f.vale(std::nextafter(f.ultimo, f.hacia))) << f.que;

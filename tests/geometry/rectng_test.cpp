@@ -1,4 +1,5 @@
 #include "exacto.h"
+#include "foundation/suelo/dueno.hpp"
 #include "geometry/rectng.h"
 #include "prueba.h"
 #include <algorithm>
@@ -7,18 +8,14 @@
 #include <cmath>
 #include <functional>
 #include <limits>
-#include <memory>
 
 namespace {
 
 constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN(), INF = std::numeric_limits<double>::infinity();
 
-struct destruye {
-    void operator()(rectangulo_t *r) const { rec_Destruye(&r); }
-    void operator()(arrPuntero *a) const { arr_DestruyeEstructurasST(&a, rectangulo_t, rec_Destruye); }
-};
-using rectangulo = std::unique_ptr<rectangulo_t, destruye>;
-using rectangulos = std::unique_ptr<arrPuntero, destruye>;
+void destruye(arrPuntero **a) { arr_DestruyeEstructurasST(a, rectangulo_t, rec_Destruye); }
+using rectangulo = vn::dueno<rec_Destruye>;
+using rectangulos = vn::dueno<destruye>;
 using limites = std::array<double, 4>;
 
 rectangulo_t de(const limites &l) { return {l[0], l[1], l[2], l[3], CIERTO}; }
@@ -118,6 +115,7 @@ PRUEBA(rectng, cada_tolerancia_tiene_su_limite_y_su_sentido) {
     rectangulo_t otro;
     const auto tmp = [&otro](double ox, double oy, double ex, double ey) { return &(otro = {ox, oy, ex, ey, CIERTO}); };
     const auto callado = [] { return vn::Prueba::toma_informes().empty(); };
+    // clang-format off
     const struct {
         const char *que;
         double ultimo, hacia;
@@ -148,9 +146,7 @@ PRUEBA(rectng, cada_tolerancia_tiene_su_limite_y_su_sentido) {
         {"a vertical one wider by as much", std::nextafter(1 + .0001, 0), 2,
          [&](double ancho) { return rectangulo(rec_CreaVertical(0, 0, ancho, 1)) && callado(); }},
         {"a room of 1e-7 is none", 1e-7, 1,
-         [](double hueco) {
-             return alargadas({{-9, 0, 0, 1}, {hueco, 0, 9, 1}}, .5)[0][2] == 0;
-         }},
+         [](double hueco) { return alargadas({{-9, 0, 0, 1}, {hueco, 0, 9, 1}}, .5)[0][2] == 0; }},
         {"a centre of gravity within 0.50001 of the width, excluded", std::nextafter(.50001, 0), 1,
          [&](double cdg) {
              double v[4];
@@ -158,14 +154,11 @@ PRUEBA(rectng, cada_tolerancia_tiene_su_limite_y_su_sentido) {
              return callado();
          }},
         {"the old clip's point inside to 1e-6", 10 + 1e-6, 11,
-         [&](double x) {
-             return antiguo(r, {5, 5, x, 5}).extremos[2] == x;
-         }},
+         [&](double x) { return antiguo(r, {5, 5, x, 5}).extremos[2] == x; }},
         {"the old clip's line along a side to 1e-6", -1e-6, -1,
-         [&](double x) {
-             return antiguo(r, {x, -5, x, 15}).dentro;
-         }},
+         [&](double x) { return antiguo(r, {x, -5, x, 15}).dentro; }},
     };
+    // clang-format on
     for (const auto &f : filas) {
         EXPECT_TRUE(f.vale(f.ultimo)) << f.que;
         EXPECT_FALSE(f.vale(std::nextafter(f.ultimo, f.hacia))) << f.que;

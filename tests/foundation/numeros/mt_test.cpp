@@ -225,6 +225,7 @@ PRUEBA(mt, los_cortes_de_segmentos_dicen_cual_queda_partido) {
                  {seg(0, 0, 1e308, 0), seg(5e307, -1, 5e307, 1e308), "(5e+307,0);(5e+307,0);"},
                  {seg(0, 0, NAN_, 0), seg(0, 1, 1, -1), ";;"},
                  {seg(0, 0, INF, 0), seg(0, 1, 1, -1), ";;"},
+                 {seg(1, 0, NAN_, 5), seg(0, 0, 4, 0), ";;"}, // though its first end lies on the other
                  // Half a unit beside the line, at the far ends of 32 bits.
                  {seg(MIN, MIN, MAX, MAX - 1.), seg(0., 0., -5., 5.), ";;"},
                  {seg(MIN, MIN, MAX, MAX - 1.), seg(0., 0., 5., -5.), "(0.25,-0.25);(0.25,-0.25);"}};

@@ -1,17 +1,14 @@
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vmatr.h"
+#include "foundation/suelo/dueno.hpp"
 #include "propiedades.h"
 #include "prueba.h"
 #include <array>
 #include <limits>
-#include <memory>
 
 namespace {
 
-struct destruye {
-    void operator()(vmatr *m) const { vmatr_destruir_matriz(&m); }
-};
-using matriz = std::unique_ptr<vmatr, destruye>;
+using matriz = vn::dueno<vmatr_destruir_matriz>;
 
 template <class F> matriz hecha(uint32_t filas, uint32_t columnas, F &&f) {
     matriz m(vmatr_crea_matriz_nula(filas, columnas));
