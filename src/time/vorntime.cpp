@@ -17,6 +17,7 @@ using namespace vn;
 namespace {
 
 // Reports each field out of its range.
+// The names of the parameter and its fields are those of the reports.
 bool comprueba(const struct tmtime *tmtime) {
     if (!AFIRMA_NO_NULO(tmtime)) return false;
     bool bien = AFIRMA(tmtime->tm_sec >= 0 && tmtime->tm_sec <= 59);
@@ -37,6 +38,7 @@ constexpr int32_t tmtime::*CAMPOS[] = {&tmtime::tm_sec,  &tmtime::tm_min,  &tmti
 constexpr int32_t tmtime::*ORDEN[] = {&tmtime::tm_year, &tmtime::tm_mon, &tmtime::tm_mday,
                                       &tmtime::tm_hour, &tmtime::tm_min, &tmtime::tm_sec};
 
+// False, with the start of 1970, where the platform cannot tell the time.
 bool lee_hora_local(tmtime &fecha) {
     fecha = INICIO_1970;
     const int64_t t = vnstdc__time64(nullptr);
@@ -115,6 +117,7 @@ void vorntime_obtener_dia_mes_anyo(const tmtime *fecha, int32_t *dia, int32_t *m
 }
 
 void vtm_graba_hora_y_fecha(const tmtime *fecha, vornsave *vornsave_datos) {
+    // What follows in the file keeps its place: a bad record goes as a good one.
     const tmtime &que = comprueba(fecha) ? *fecha : INICIO_1970;
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
     for (const auto campo : CAMPOS) vornsave_graba_short(static_cast<int16_t>(que.*campo), vornsave_datos);
@@ -123,6 +126,7 @@ void vtm_graba_hora_y_fecha(const tmtime *fecha, vornsave *vornsave_datos) {
 tmtime *vtm_lee_hora_y_fecha(vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return nullptr;
     tmtime_propio fecha = nuevo_tmtime(INICIO_1970);
+    // All fields are taken before any is judged, for the same reason.
     for (const auto campo : CAMPOS) (*fecha).*campo = vornsave_lee_short(vornsave_datos);
     if (!comprueba(fecha.get())) *fecha = INICIO_1970;
     return fecha.release();

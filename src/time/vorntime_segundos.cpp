@@ -17,6 +17,7 @@ static_assert((dias_hasta_anyo(int64_t{INT32_MAX} + 1901)) * SEGUNDOS_DIA - 1 ==
 // 1972 one before there has been any, since the division goes toward zero.
 constexpr int64_t dias_de_enero(int64_t anyo) { return (anyo - 1970) * 365 + (anyo - 1973) / 4 + 1; }
 
+// Day 3 was a Sunday. The remainder goes toward zero, so that those of earlier days are below it.
 constexpr int16_t dia_de_la_semana(int64_t dias) { return static_cast<int16_t>((dias - 3) % 7); }
 
 } // namespace
@@ -28,6 +29,7 @@ bool pon_fecha_de(int64_t t, tmtime &fecha) {
         fecha = INICIO_1970;
         return false;
     }
+    // The way back by the true calendar, which knows neither of the two features.
     const int64_t dias = t / SEGUNDOS_DIA;
     const auto resto = static_cast<int32_t>(t - dias * SEGUNDOS_DIA);
     const dia_del_calendario d = dia_de(dias);
@@ -47,6 +49,7 @@ bool pon_fecha_de(int64_t t, tmtime &fecha) {
 
 int64_t vtm_convierte_fecha_a_time_t(const tmtime *fecha) {
     if (!AFIRMA_NO_NULO(fecha)) return 0;
+    // The month is an index below; the other fields are mere factors.
     if (!mes_posible(*fecha)) [[unlikely]] {
         AFIRMA_DEFECTO();
         return 0;
@@ -100,6 +103,7 @@ uint32_t vorntime_dia_juliano_1_365_de_dia_y_mes(uint32_t numero_dia_1_31, uint3
     const bool dia_posible = AFIRMA(numero_dia_1_31 >= 1) && AFIRMA(numero_dia_1_31 <= 31);
     const bool mes_posible = AFIRMA(numero_mes_1_12 >= 1) && AFIRMA(numero_mes_1_12 <= 12);
     if (!dia_posible || !mes_posible) return 0;
+    // The year has 365 days here: 29 February is refused.
     const auto &antes = DIAS_ANTES[0];
     const auto num_dias_mes = static_cast<uint32_t>(antes[numero_mes_1_12] - antes[numero_mes_1_12 - 1]);
     if (!AFIRMA(numero_dia_1_31 <= num_dias_mes)) return 0;

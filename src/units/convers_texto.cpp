@@ -18,6 +18,7 @@ template <class C> C *texto_imperial(double valor, const vista_convers &v, const
         return nullptr;
     texto_numero<C> t;
     if (!pon_longitud(t, v.a_mostrado(valor), v.formato, v.denominador())) return nullptr;
+    // Only the wide family has headings.
     if constexpr (std::is_same_v<C, vnwchar>)
         if (cabecera != nullptr)
             return copiaforu_formatea(VNU("%s: %.*s"), cabecera, static_cast<int>(t.largo()), t.letras());
@@ -30,6 +31,7 @@ C *texto_del_valor(double valor, uint32_t tipovalor, F formatea, const C *cabece
     const vista_convers v(tipovalor);
     if (!v.es_tipo) return nullptr;
     if (v.es_longitud_imperial()) return texto_imperial<C>(valor, v, cabecera);
+    // The arguments that `formatea` takes tell the two kinds apart.
     if constexpr (std::is_invocable_v<F, double>) return formatea(v.a_mostrado(valor));
     else return formatea(v.a_mostrado(valor), v.unidad);
 }
@@ -41,6 +43,7 @@ template <class F> vnwchar *texto_con_cabecera(const vnwchar *cabecera, double v
 // A number of decimals as the formats take it; beyond a million they show a million.
 int precision_de_formato(uint32_t n_decimales) { return static_cast<int>(std::min<uint32_t>(n_decimales, INT32_MAX)); }
 
+// Rounded first, so that "%g" has no further decimals to show.
 double con_decimales(double mostrado, uint32_t decimales) {
     return prec_redondea_numero_decimales(mostrado, decimales);
 }

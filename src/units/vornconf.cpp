@@ -61,6 +61,7 @@ constexpr fila FILAS[] = {
     {idiomas(40), {12, 7, 9, 4, 1, 1, 0}},
 };
 
+// So that no language is forgotten, nor stands in two rows.
 consteval bool cada_idioma_una_vez() {
     uint64_t vistos = 0;
     for (const fila &f : FILAS) {
@@ -107,6 +108,7 @@ void destruye_el_mutex(vnmutex **mutex) {
 class turno {
   public:
     turno() : dentro_(vnmutex_entra_creando_entre_aplicaciones_si_es_necesario(&el_mutex, "vornconf") == CIERTO) {
+        // Registered anew after the exit registry has run: the program may go on.
         if (!esta_en_la_salida.exchange(true)) alsalir_destruye_dato(vnmutex, &el_mutex, destruye_el_mutex);
     }
     ~turno() {
@@ -144,6 +146,7 @@ internacional lee_fichero() {
     for (size_t i = 0; i < std::size(CLAVES); ++i) r.*CLAVES[i].campo = static_cast<uint32_t>(valores[i]);
     const internacional defecto = por_defecto(static_cast<uint32_t>(msidioma_dame_idioma()));
     for (const clave &c : CLAVES)
+        // Zero is the absence of a code in the file: then the language decides.
         if (r.*c.campo == 0) r.*c.campo = defecto.*c.campo;
     AFIRMA_TEXTO(r.hormigon != NORMA_H_ERROR, "hormigon != NORMA_H_ERROR");
     AFIRMA_TEXTO(r.conformados != NORMA_C_ERROR, "conformados != NORMA_C_ERROR");

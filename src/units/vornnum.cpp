@@ -37,8 +37,7 @@ constexpr fila_automatica AUTOMATICA[] = {
     {1e1, 12, false}, {1, 13, false},  {1e-14, 15, false}, {0, 15, true},
 };
 
-// From so much on, at most so many decimals of the fixed form, so that a number never has more than 10^15 units of the
-// last.
+// The decimals that the fixed form may have, by the size of the number: its digits fit in 15.
 struct tope_por_tamanyo {
     double desde;
     uint32_t decimales;
@@ -131,6 +130,7 @@ template <class C> void pon_numero(texto_numero<C> &t, double valor, const aspec
         if (quitar_ceros) {
             const auto *f =
                 std::find_if(std::begin(AUTOMATICA), std::end(AUTOMATICA), [v](const auto &r) { return v >= r.desde; });
+            // Zero has one decimal, which goes as a zero; the last row is for what is tiny.
             decimales = v == 0 ? 1 : f->decimales;
             cientifica |= v != 0 && f->cientifica;
         } else if (v != 0 && !cientifica && fuera_de_cotas(v, decimales)) {
@@ -142,6 +142,7 @@ template <class C> void pon_numero(texto_numero<C> &t, double valor, const aspec
         if (cientifica) pon_cientifico(t, v, decimales, a.sep_decimales);
         else {
             decimal r = redondea(v, static_cast<uint32_t>(decimales));
+            // Automatic decimals leave no zeros at the end.
             for (; quitar_ceros && r.decimales > 0 && r.n % 10 == 0; r.n /= 10) --r.decimales;
             t.pon_decimal(r.n, r.decimales, a.sep_millares, a.sep_decimales);
         }
@@ -173,6 +174,7 @@ C *double_a_string(double valor, C sep_millares, C sep_decimales, vnbool cientif
 template <class C> C *todos_los_decimales(double valor) {
     texto_numero<C> t;
     pon_numero<C>(t, valor, {0, '.', false, AUTOMATICOS});
+    // A real number is told from a whole one by its point.
     if (t.decimales() == 0) t.pon_detras('.');
     return texto_nuevo(t);
 }
@@ -191,6 +193,7 @@ template <class C> aspecto<C> de_la_region(int32_t decimales, bool con_millares)
     vnregional_separadores(&decimal, &millares);
     const C d = separador<C>(decimal != 0 ? decimal : VNU('.'), '.'),
             m = con_millares ? separador<C>(millares, 0) : C{0};
+    // Where both come out as one sign there are no groups.
     return {m == d ? C{0} : m, d, false, decimales};
 }
 
@@ -206,6 +209,7 @@ constexpr std::string_view CIFRA_ROMANA[] = {"", "a", "aa", "aaa", "ab", "b", "b
 
 template <class C> void pon_cifra_romana(texto_numero<C> &t, int32_t cifra, std::string_view letras) {
     const std::string_view &p = CIFRA_ROMANA[cifra];
+    // The text is written from its end to its beginning.
     for (auto c = p.rbegin(); c != p.rend(); ++c) t.pon(static_cast<C>(letras[static_cast<size_t>(*c - 'a')]));
 }
 

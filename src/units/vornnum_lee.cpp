@@ -57,10 +57,12 @@ template <class C> struct real {
     void mete(uint32_t cifra, bool entera) {
         if (caben > 0) {
             mantisa = mantisa * 10 + cifra;
-            caben -= mantisa != 0;
+            caben -= mantisa != 0; // zeros before the first digit take no room
+            // A digit after the point is worth a tenth of the one before.
             exponente -= !entera;
         } else {
             recortada |= cifra != 0;
+            // A whole digit that did not fit still makes the number ten times larger.
             exponente += entera;
         }
     }
@@ -73,6 +75,7 @@ template <class C> bool explora(const C *p, const separadores s, real<C> &r) {
     bool hay = false;
     for (;; ++p) {
         const uint32_t c = unidad(*p);
+        // A separator of thousands may stand anywhere among the whole digits; alone it is the number 0.
         if (c != s.millares) {
             if (c - '0' > 9) break;
             r.mete(c - '0', true);
@@ -89,6 +92,7 @@ template <class C> bool explora(const C *p, const separadores s, real<C> &r) {
         bool negativo;
         int64_t e = 0;
         for (p = tras_signo(p + 1, negativo); es_cifra(*p); ++p)
+            // No text is long enough for digits to outweigh such an exponent.
             e = std::min(e * 10 + (unidad(*p) - '0'), MAX_EXPONENTE);
         r.exponente += negativo ? -e : e;
     }
@@ -108,9 +112,11 @@ template <class C> double valor_exacto(const real<C> &r, const separadores s) {
         bool quedan = false;
         for (const C *p = r.cifras; *p != 'e' && *p != 'E' && *p != 0; ++p) {
             if (unidad(*p) == s.millares || !es_cifra(*p) || (n == 2 && *p == '0')) continue;
+            // Leading zeros and separators are passed over above; what is left is the number's own digits.
             if (n < DISTINGUEN) t[n++] = static_cast<char>(*p);
             else quedan |= *p != '0';
         }
+        // Something beyond: enough to tell a number from the middle between two doubles.
         if (quedan) t[n++] = '1';
     }
     t[n++] = 'e';
@@ -147,12 +153,14 @@ template <class C> class lector_de_pies {
         if (!negativo) toma('+');
         double pies = 0, n = 0;
         bool bien = numero(n);
+        // Feet, and inches behind them, if there are any, after a hyphen or without one.
         if (bien && toma('\'')) {
             pies = n;
             toma('-');
             if (!acaba()) bien = numero(n) && lee_pulgadas(n);
         } else bien = bien && lee_pulgadas(n);
         if (!bien || !acaba()) return false;
+        // Without a fraction, or with one over zero, there is nothing to add.
         if (denominador_ != 0) pulgadas_ += numerador_ / denominador_;
         pies_leidos = pies + pulgadas_ / 12;
         if (negativo) pies_leidos = -pies_leidos;
@@ -183,6 +191,7 @@ template <class C> class lector_de_pies {
             pulgadas_ = n;
             return true;
         }
+        // "3/8": the number began the fraction. "5 3/8": it was the inches before it.
         if (toma('/')) numerador_ = n;
         else {
             pulgadas_ = n;
@@ -200,10 +209,12 @@ template <class C> class lector_de_pies {
 // ---------------------------------------------------------------- both
 
 template <class C> bool lee(const C *cadena, const separadores s, int32_t formato, double &v) {
+    // An empty text leaves the value as it is.
     if (*cadena == 0) return true;
     real<C> r;
     if (explora(cadena, s, r)) v = valor_de(r, s);
     else if (formato == VORNNUM_FORMATO_NUMERO || !lector_de_pies<C>(cadena).lee(v)) return false;
+    // The reader gives feet; the other formats count inches.
     else if (formato != VORNNUM_FORMATO_PIES) v *= 12;
     return defmath_es_numero_valido(v) == CIERTO;
 }

@@ -20,6 +20,7 @@ propio vacio() {
     return m;
 }
 
+// The length is kept in 32 bits; the room has one byte more, by which the end is met.
 constexpr size_t PRIMER_SITIO = 64 * 1024, SITIO_MAXIMO = size_t{UINT32_MAX} + 1;
 
 // Room for so many bytes, the first `n` of which are there; false if there is none.
@@ -45,6 +46,7 @@ bool lee_hasta_el_final(fichmem &m, vnfichero *f) {
             return f_lc_ferror(f) == FALSO;
         }
         if (sitio == SITIO_MAXIMO) break;
+        // Doubled, so that the copies stay in proportion to what is read.
         sitio = std::max(std::min(2 * sitio, SITIO_MAXIMO), PRIMER_SITIO);
     }
     return false;
@@ -53,6 +55,7 @@ bool lee_hasta_el_final(fichmem &m, vnfichero *f) {
 } // namespace
 
 fichmem *fichmem_crea32(const void *datos, uint32_t longitud) {
+    // Bytes that are not there make an empty file, which the caller can go on with.
     if (!AFIRMA(datos != nullptr || longitud == 0)) longitud = 0;
     propio m = vacio();
     if (longitud == 0) return m.release();
@@ -82,6 +85,7 @@ fichmem *fichmem_copia(const fichmem *m) { return AFIRMA_NO_NULO(m) ? fichmem_cr
 
 char *fichmem_copia_contenido_como_cadena(const fichmem *m) {
     if (!AFIRMA_NO_NULO(m)) return nullptr;
+    // The text ends at the first zero, if there is one.
     const void *fin = m->longitud == 0 ? nullptr : std::memchr(m->datos, 0, m->longitud);
     const size_t n =
         fin == nullptr ? m->longitud : static_cast<size_t>(static_cast<const unsigned char *>(fin) - m->datos);

@@ -42,9 +42,11 @@ bool analiza(const vnwchar *modo, modo_de_apertura &m) {
 
 size_t longitud(const vnwchar *texto) { return std::char_traits<vnwchar>::length(texto); }
 
+// A stream with no file yet. Text is translated only where lines of the platform have a CR.
 flujo crea(const vnwchar *nombre, const modo_de_apertura &m, const char *modulo, uint32_t linea) {
     const size_t n = longitud(nombre) + 1;
     // The record, then the buffer, then the name, in one block.
+    // Rounded up, so that the buffer is aligned as the block is.
     constexpr size_t REGISTRO = (sizeof(vnfichero) + 63) / 64 * 64;
     auto *bloque = static_cast<unsigned char *>(
         vornspy_nousar_malloc(REGISTRO + TAMANYO_BUFFER + n * sizeof(vnwchar), modulo, linea));
@@ -68,6 +70,7 @@ vnfichero *abre(const vnwchar *nombre, const modo_de_apertura &m, const pacienci
     vnerror_fichero e = con_paciencia(p, [&] { return operaciones().abre(nombre, m.como, &f->id); });
     if (e == VN_FICH_BIEN) {
         vnestado_fichero estado;
+        // A pipe or a device has no size and no position to move to.
         e = operaciones().estado_abierto(f->id, &estado);
         f->con_posicion = estado.es_normal == CIERTO;
         f->tamanyo = static_cast<int64_t>(estado.tamanyo);
@@ -102,9 +105,11 @@ void vacia_del_todo(vnfichero &f) {
 bool cierra(vnfichero &f, bool a_disco) {
     vacia_del_todo(f);
     vnerror_fichero e = VN_FICH_BIEN;
+    // What has failed already is not worth the wait for the disk.
     if (!f.fallo_escritura && a_disco) e = operaciones().vuelca(f.id);
     if (f.id != VN_FICHERO_NINGUNO) {
         const vnerror_fichero al_cerrar = operaciones().cierra(std::exchange(f.id, VN_FICHERO_NINGUNO));
+        // Of a stream that only reads, a close that fails loses nothing.
         if (e == VN_FICH_BIEN && f.escribe) e = al_cerrar;
     }
     if (e != VN_FICH_BIEN) f.fallo_escritura = true;
@@ -113,6 +118,7 @@ bool cierra(vnfichero &f, bool a_disco) {
     return !f.fallo_escritura;
 }
 
+// Hands bytes to the system at the position of the buffer, or at the end of a file that is appended to.
 bool escribe_en(vnfichero &f, const unsigned char *p, size_t n) {
     if (const vnerror_fichero e = escribe_todo(f.id, f.anade ? -1 : f.base, p, n); e != VN_FICH_BIEN) {
         anota_error(f, e);
@@ -123,15 +129,18 @@ bool escribe_en(vnfichero &f, const unsigned char *p, size_t n) {
     return true;
 }
 
+// Opens the window for writing; what was read ahead is dropped, and the position is the program's again.
 bool prepara_escritura(vnfichero &f) {
     if (!f.escribe || f.fallo_escritura) return false;
     if (f.estado == vnfichero::ESCRIBIENDO) return true;
     situa(f, f.anade ? tamanyo_actual(f) : posicion(f));
     f.estado = vnfichero::ESCRIBIENDO;
+    // Translated text must pass through here to be looked at, so its window stays shut.
     f.v.fin_escritura = f.traduce ? f.buffer : f.buffer + TAMANYO_BUFFER;
     return true;
 }
 
+// Bytes into the buffer, which is emptied when it is full.
 bool escribe_tal_cual(vnfichero &f, const unsigned char *p, size_t n) {
     const auto cabe = [&] { return static_cast<size_t>(f.buffer + TAMANYO_BUFFER - f.v.pos); };
     if (n >= TAMANYO_BUFFER) {
@@ -154,6 +163,7 @@ bool escribe_tal_cual(vnfichero &f, const unsigned char *p, size_t n) {
     return true;
 }
 
+// Text whose line feeds become CR LF.
 bool escribe_lineas(vnfichero &f, const unsigned char *p, size_t n) {
     while (n > 0) {
         const auto *fin_linea = static_cast<const unsigned char *>(std::memchr(p, '\n', n));
@@ -193,6 +203,7 @@ bool rellena(vnfichero &f) {
     situa(f, posicion(f));
     f.estado = vnfichero::LEYENDO;
     const bool hay = anade_al_buffer(f, f.lectura_siguiente);
+    // Who reads on gets more at a time: little is read in vain after a jump, and few calls are made in a row.
     f.lectura_siguiente = std::min<uint32_t>(f.lectura_siguiente * 2, TAMANYO_BUFFER);
     abre_ventana_de_lectura(f);
     return hay;
@@ -200,6 +211,7 @@ bool rellena(vnfichero &f) {
 
 // The window of text that is translated ends before a CR: drops it if a line feed follows, else lets it through.
 void pasa_retorno(vnfichero &f) {
+    // The CR is the last byte of the buffer: what follows it is fetched behind it.
     if (f.fin - f.v.pos == 1) {
         situa(f, posicion(f));
         f.estado = vnfichero::LEYENDO;
@@ -208,6 +220,7 @@ void pasa_retorno(vnfichero &f) {
         // At the end of the file the CR stands alone, and the end has not been read yet.
         if (!anade_al_buffer(f, TAMANYO_BUFFER - 1)) f.al_final = false;
     }
+    // CR LF: the window begins at the LF, which is all that the program sees.
     const bool fin_de_linea = f.fin - f.v.pos > 1 && f.v.pos[1] == '\n';
     if (fin_de_linea) {
         ++f.v.pos;
@@ -219,6 +232,7 @@ void pasa_retorno(vnfichero &f) {
     --f.v.pos;
 }
 
+// A block as large as the buffer goes straight into the caller's room.
 size_t lee_directamente(vnfichero &f, unsigned char *p, size_t n) {
     situa(f, posicion(f));
     f.estado = vnfichero::LEYENDO;
@@ -235,6 +249,7 @@ size_t lee_directamente(vnfichero &f, unsigned char *p, size_t n) {
 
 // Up to `n` bytes; fewer only at the end of the file or after an error.
 size_t lee(vnfichero &f, void *destino, size_t n) {
+    // What was written goes out first: the file is read as the program left it.
     if (f.estado == vnfichero::ESCRIBIENDO && !vacia(f)) f.fallo_lectura = true;
     if (!f.lee) f.fallo_lectura = true;
     if (!f.lee || f.estado == vnfichero::ESCRIBIENDO) return 0;
@@ -248,6 +263,7 @@ size_t lee(vnfichero &f, void *destino, size_t n) {
         p += k;
         falta -= k;
         if (falta == 0) break;
+        // The window has ended before the buffer: a CR stands there.
         if (f.estado == vnfichero::LEYENDO && f.v.pos < f.fin) {
             pasa_retorno(f);
         } else if (falta >= TAMANYO_BUFFER && !f.traduce) {
@@ -286,12 +302,14 @@ void situa(vnfichero &f, int64_t nueva_posicion) {
 void abre_ventana_de_lectura(vnfichero &f) {
     f.v.fin_lectura = f.fin;
     if (!f.traduce || f.v.pos >= f.fin) return;
+    // The window of translated text ends before the first CR, so that the fast road needs no look at bytes.
     const void *retorno = std::memchr(f.v.pos, '\r', static_cast<size_t>(f.fin - f.v.pos));
     if (retorno != nullptr) f.v.fin_lectura = static_cast<const unsigned char *>(retorno);
 }
 
 bool vacia(vnfichero &f) {
     if (f.estado != vnfichero::ESCRIBIENDO) return !f.fallo_escritura;
+    // The position stays where it is, be the write a failure or not.
     const int64_t despues = posicion(f);
     const auto n = static_cast<size_t>(ocupado(f));
     if (n > 0 && !f.fallo_escritura) escribe_en(f, f.buffer, n);
@@ -301,6 +319,7 @@ bool vacia(vnfichero &f) {
 
 void informa_escritura(vnfichero &f, const char *modulo, uint32_t linea) {
     f.fallo_escritura = true;
+    // A stream tells its failure to write once, however often it is written to.
     if (std::exchange(f.informado, true)) return;
     informa_con_motivo(VNU("lc_error_escribiendo_fichero"), modulo, linea, f.nombre,
                        anota_error(motivo_de_escritura(f)));
@@ -378,6 +397,7 @@ vnfichero *f_lc_fopen_un_solo_intento_u(const vnwchar *nombre, const vnwchar *mo
 
 vnfichero *f_lc_fopen_modo_escritura_u(const vnwchar *nombre, const vnwchar *modo, vnbool informa, const char *modulo,
                                        uint32_t linea) {
+    // A truth value that is none is told, and counts as FALSO.
     const bool logico = AFIRMA_LOGICO(informa);
     return abre_con(nombre, modo, UNA_VEZ, logico && informa == CIERTO, modulo, linea, VN_ABRE_EXCLUSIVO);
 }
@@ -408,6 +428,7 @@ size_t f_lc_fread(void *destino, size_t tamanyo, size_t numero, vnfichero *f, co
     if (bytes == 0) return numero;
     const size_t k = lee(*f, destino, bytes);
     if (k == bytes) return numero;
+    // A caller that ignores the result finds zeros, not what the room held.
     std::memset(static_cast<unsigned char *>(destino) + k, 0, bytes - k);
     informa_lectura(*f, modulo, linea);
     return k / tamanyo;

@@ -9,6 +9,7 @@ namespace vn::ficheros {
 
 int64_t tamanyo_actual(vnfichero &f) {
     vnestado_fichero estado;
+    // Asked anew: another stream may have changed the file. What waits in the buffer counts as written.
     if (operaciones().estado_abierto(f.id, &estado) == VN_FICH_BIEN) f.tamanyo = static_cast<int64_t>(estado.tamanyo);
     if (f.estado == vnfichero::ESCRIBIENDO) f.tamanyo = std::max(f.tamanyo, f.base + ocupado(f));
     return f.tamanyo;
@@ -17,8 +18,10 @@ int64_t tamanyo_actual(vnfichero &f) {
 namespace {
 
 bool mueve(vnfichero &f, int64_t destino) {
+    // Inside the buffer only the window moves. What is appended goes to the end, wherever the position is.
     if (f.estado != vnfichero::NADA && destino >= f.base && destino <= f.base + ocupado(f) &&
         !(f.anade && f.estado == vnfichero::ESCRIBIENDO)) {
+        // What was written so far stays in the buffer when the position goes back.
         f.fin = f.buffer + ocupado(f);
         f.v.pos = f.buffer + (destino - f.base);
         if (f.estado == vnfichero::LEYENDO) abre_ventana_de_lectura(f);
@@ -26,6 +29,7 @@ bool mueve(vnfichero &f, int64_t destino) {
     }
     if (!f.con_posicion || !vacia_informando(f)) return false;
     situa(f, destino);
+    // After a jump a few values are read more often than a whole buffer.
     f.lectura_siguiente = PRIMERA_LECTURA;
     return true;
 }
@@ -35,6 +39,7 @@ bool mueve_desde(vnfichero &f, int64_t posicion_pedida, int origen) {
                           : origen == VN_DESDE_LA_POSICION ? posicion(f)
                                                            : tamanyo_actual(f);
     int64_t destino = 0;
+    // Before the start, or beyond what 64 bits count: refused, and nothing has moved.
     if (__builtin_add_overflow(desde, posicion_pedida, &destino) || destino < 0) return false;
     if (!mueve(f, destino)) return false;
     f.al_final = false;
@@ -83,6 +88,7 @@ uint32_t vdir_longitud_fichero_puntero(vnfichero *f) {
 
 int64_t lc_bytes_restantes(vnfichero *f) {
     if (!AFIRMA_NO_NULO(f)) return 0;
+    // A pipe does not tell its size: only what has been read already is sure.
     if (!f->con_posicion) return f->estado == vnfichero::LEYENDO ? f->fin - f->v.pos : 0;
     return std::max<int64_t>(tamanyo_actual(*f) - posicion(*f), 0);
 }
@@ -91,6 +97,7 @@ vnbool lc_quedan(vnfichero *f, uint64_t numero, uint64_t tamanyo) {
     uint64_t bytes = 0;
     if (!AFIRMA_NO_NULO(f) || __builtin_mul_overflow(numero, tamanyo, &bytes) || bytes > INT64_MAX) return FALSO;
     const auto necesita = static_cast<int64_t>(bytes);
+    // The usual answer, out of the buffer.
     if (f->estado == vnfichero::LEYENDO && necesita <= f->fin - f->v.pos) return CIERTO;
     // What only reads asks the system again only when the size that was seen would not do.
     if (!f->escribe && f->con_posicion && necesita <= f->tamanyo - posicion(*f)) return CIERTO;
@@ -110,6 +117,7 @@ vnbool lc_vuelca_a_disco(vnfichero *f) {
 
 vnbool lc_trunca(vnfichero *f, int64_t tamanyo) {
     if (!AFIRMA_NO_NULO(f) || !AFIRMA(tamanyo >= 0) || !vacia_informando(*f)) return FALSO;
+    // What waited is written; what was read ahead is dropped after the cut, since it may be gone.
     if (!f->escribe || operaciones().trunca(f->id, tamanyo) != VN_FICH_BIEN) return FALSO;
     situa(*f, posicion(*f));
     f->tamanyo = tamanyo;
@@ -121,6 +129,7 @@ const vnwchar *lc_nombre_fichero(const vnfichero *f) { return AFIRMA_NO_NULO(f) 
 vnbool lc_bloquea_zona_fichero(vnfichero *f, int64_t inicio, uint32_t tamanyo, uint32_t modo) {
     if (!AFIRMA_NO_NULO(f) || !AFIRMA(inicio >= 0) || !AFIRMA(tamanyo > 0)) return FALSO;
     if (!AFIRMA((modo & ~(VN_ZONA_COMPARTIDA | VN_ZONA_ESPERA)) == 0)) return FALSO;
+    // The end of the zone must be a position too. What waits to be written belongs before the lock.
     if (inicio > INT64_MAX - tamanyo || !vacia_informando(*f)) return FALSO;
     const vnerror_fichero e =
         con_paciencia(UNA_VEZ, [&] { return operaciones().bloquea(f->id, inicio, tamanyo, modo); });

@@ -24,6 +24,7 @@ bool acaba_en(vista_ancha t, vista_ancha final) {
                       [](vnwchar a, vnwchar b) { return minuscula(a) == minuscula(b); });
 }
 
+// Index of the separator that ends the part at `i`, or of the end.
 size_t fin_de_parte(vista_ancha r, size_t i) {
     while (i < r.size() && !es_separador(r[i])) ++i;
     return i;
@@ -39,12 +40,14 @@ size_t longitud_de_unidad(vista_ancha r) {
     if (es_unidad_de_letra(r)) return 2;
     if (!es_de_red(r)) return 0;
     size_t i = 2;
+    // The prefix of paths without a limit: a letter, "UNC\" before a server, or a volume that has a name.
     if ((r[2] == VNU('?') || r[2] == VNU('.')) && r.size() > 3 && es_separador(r[3])) {
         if (es_unidad_de_letra(r.substr(4))) return 6;
         const size_t j = fin_de_parte(r, 4);
         if (!acaba_en(r.substr(4, j - 4), VNU("unc")) || j - 4 != 3) return j;
         i = std::min(j + 1, r.size());
     }
+    // The server, and the share behind it.
     i = fin_de_parte(r, i);
     return i < r.size() ? fin_de_parte(r, i + 1) : i;
 }
@@ -60,9 +63,11 @@ constexpr const vnwchar *RESERVADOS[] = {VNU("con"),  VNU("prn"),  VNU("aux"),  
                                          VNU("comX"), VNU("lptX"), VNU("conin$"), VNU("conout$")};
 
 bool es_reservado(vista_ancha parte) {
+    // Windows looks at what stands before the first full stop, without blanks at its end.
     vista_ancha nombre = parte.substr(0, parte.find(VNU('.')));
     while (!nombre.empty() && nombre.back() == VNU(' ')) nombre.remove_suffix(1);
     const auto casan = [](vnwchar c, vnwchar r) {
+        // The superscript digits 1 to 3 count as digits there too.
         if (r == VNU('X')) return (c >= VNU('1') && c <= VNU('9')) || c == 0xB9 || c == 0xB2 || c == 0xB3;
         return minuscula(c) == r;
     };
@@ -78,6 +83,7 @@ bool puede_ser_nombre(vista_ancha parte) {
 }
 
 bool es_valida(vista_ancha ruta, bool (*vale)(vista_ancha parte)) {
+    // The "?" of the prefix and the colon of a letter would not be valid in a part.
     const bool sin_limite = ruta.size() > 3 && es_de_red(ruta) && ruta[2] == VNU('?') && es_separador(ruta[3]);
     if (sin_limite) ruta.remove_prefix(4);
     if (es_unidad_de_letra(ruta)) ruta.remove_prefix(2);
@@ -92,6 +98,7 @@ bool es_valida(vista_ancha ruta, bool (*vale)(vista_ancha parte)) {
 
 bool es_absoluta(vista_ancha ruta) {
     const vista_ancha unidad = descompone(ruta).unidad;
+    // A server's share is a root by itself; a letter needs a separator behind it.
     return unidad.size() > 2 || (ruta.size() > unidad.size() && es_separador(ruta[unidad.size()]));
 }
 
@@ -106,11 +113,14 @@ partes descompone(vista_ancha ruta) {
     p.unidad = ruta.substr(0, longitud_de_unidad(ruta));
     const vista_ancha resto = ruta.substr(p.unidad.size());
     size_t i = resto.size();
+    // The last part begins after the last separator.
     while (i > 0 && !es_separador(resto[i - 1])) --i;
     const vista_ancha ultima = resto.substr(i);
+    // The directory ends without separators, but for that of a root.
     while (i > 1 && es_separador(resto[i - 1])) --i;
     p.directorio = resto.substr(0, i);
     const size_t punto = ultima.rfind(VNU('.'));
+    // A full stop at the beginning (".profile") or at the end makes no extension.
     const bool hay = punto != vista_ancha::npos && punto > 0 && punto + 1 < ultima.size();
     p.nombre = hay ? ultima.substr(0, punto) : ultima;
     p.extension = hay ? ultima.substr(punto + 1) : ultima.substr(ultima.size());
@@ -125,18 +135,21 @@ cadena_ancha con_separadores_propios(vista_ancha ruta) {
 
 cadena_ancha une(vista_ancha a, vista_ancha b) {
     if (a.empty() || b.empty()) return con_separadores_propios(a.empty() ? b : a);
+    // One separator between both, whatever they brought.
     while (!a.empty() && es_separador(a.back())) a.remove_suffix(1);
     while (!b.empty() && es_separador(b.front())) b.remove_prefix(1);
     return con_separadores_propios(cadena_ancha(a) + plat::SEPARADOR + cadena_ancha(b));
 }
 
 vista_ancha sin_separador_final(vista_ancha ruta) {
+    // "C:\" without its separator would be the current directory of that unit.
     const size_t raiz = descompone(ruta).unidad.size() + 1;
     while (ruta.size() > raiz && es_separador(ruta.back())) ruta.remove_suffix(1);
     return ruta;
 }
 
 bool casa_con(vista_ancha mascara, vista_ancha nombre) {
+    // On Windows this mask has always meant every file, with a full stop or without.
     if (mascara == vista_ancha(VNU("*.*"))) return true;
     // At a mismatch the last star takes one character more.
     size_t m = 0, n = 0, estrella = vista_ancha::npos, desde = 0;
@@ -155,6 +168,7 @@ bool casa_con(vista_ancha mascara, vista_ancha nombre) {
             n = desde += ancho_de_caracter(nombre, desde);
         } else return false;
     }
+    // Stars at the end match nothing as well.
     while (m < mascara.size() && mascara[m] == VNU('*')) ++m;
     return m == mascara.size();
 }
@@ -167,6 +181,7 @@ vnwchar *nuevo(vista_ancha t) {
 
 char *nuevo_ansi(const cadena_ancha &t) { return unicode_UNICODE_a_ANSI(t.c_str()); }
 
+// Null where the code page cannot hold the text: a name with "?" in it would be another file.
 char *nuevo_ansi_fiel(const cadena_ancha &t) {
     propio<char> s(nuevo_ansi(t));
     return s != nullptr && de_ansi(s.get()) == t ? s.release() : nullptr;
@@ -209,6 +224,7 @@ vnwchar *vdir_makepath_UNICODE(const vnwchar *unidad, const vnwchar *directorio,
 
 vnbool vdir_splitpath_con_comprobacion_UNICODE(const vnwchar *ruta, vnwchar **unidad, vnwchar **directorio,
                                                vnwchar **nombre, vnwchar **extension) {
+    // Cleared first, so that no caller reads a stale text after FALSO.
     for (vnwchar **salida : {unidad, directorio, nombre, extension})
         if (salida != nullptr) *salida = nullptr;
     if (!AFIRMA_NO_NULO(ruta) || !es_valida(ruta, [](vista_ancha) { return true; })) return FALSO;

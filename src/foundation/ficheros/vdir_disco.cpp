@@ -22,6 +22,7 @@ bool longitud(const vnwchar *nombre, uint64_t &tamanyo) {
     return hay;
 }
 
+// A link that leads nowhere has no state, but its name is taken.
 bool hay_algo(const cadena_ancha &ruta) {
     vnestado_fichero e{};
     return estado(ruta, e) || plat::es_enlace(ruta);
@@ -39,6 +40,7 @@ bool renombra(const cadena_ancha &origen, const cadena_ancha &destino) {
     switch (tabla().enlaza(origen.c_str(), destino.c_str())) {
     case VN_FICH_BIEN:
         if (tabla().borra(origen.c_str()) == VN_FICH_BIEN) return true;
+        // The old name stays, so the second one goes again.
         tabla().borra(destino.c_str());
         return false;
     case VN_FICH_NO_EXISTE: return false;
@@ -67,11 +69,13 @@ bool borra_contenido(const cadena_ancha &raiz) {
     std::vector<std::vector<cadena_ancha>> faltan(1); // the directories that are left, by depth
     bool todo = quita_ficheros(d, faltan.back());
     for (;;) {
+        // Down into the next directory, which is emptied of files at once.
         if (!faltan.back().empty() && d.entra(faltan.back().back())) {
             faltan.emplace_back();
             todo = quita_ficheros(d, faltan.back()) && todo;
             continue;
         }
+        // Nothing is left here: up again, where this directory itself is next to go.
         if (faltan.back().empty()) {
             faltan.pop_back();
             if (faltan.empty()) return todo;
@@ -86,7 +90,9 @@ bool borra_contenido(const cadena_ancha &raiz) {
 bool borra_arbol(const cadena_ancha &ruta, bool tambien_la_raiz) {
     const cadena_ancha raiz(sin_separador_final(ruta));
     const vista_ancha ultima = descompone(raiz).nombre;
+    // A root, and the names that change with the place, are never emptied.
     if (ultima.empty() || ultima == vista_ancha(VNU(".")) || ultima == vista_ancha(VNU(".."))) return false;
+    // A link goes itself; what it leads to is not ours.
     if (plat::es_enlace(raiz)) return tambien_la_raiz && plat::borra_directorio(raiz);
     if (!hay_algo(raiz)) return true;
     return borra_contenido(raiz) && (!tambien_la_raiz || plat::borra_directorio(raiz));

@@ -16,6 +16,7 @@ namespace {
 // Letters and digits that no other call, in no other program, will hit upon.
 cadena_ancha nombre_nuevo() {
     static std::atomic<uint32_t> serie{0};
+    // The serial number tells two calls apart even where the source of chance is poor.
     std::random_device azar;
     uint64_t n = static_cast<uint64_t>(azar()) << 32 | (azar() + ++serie);
     cadena_ancha t = VNU("vn");
@@ -27,11 +28,13 @@ cadena_ancha nombre_nuevo() {
 
 bool crea_fichero_unico(const cadena_ancha &directorio, vista_ancha extension, cadena_ancha &ruta) {
     const vnoperaciones_fichero &t = *operaciones_fichero_actuales();
+    // A name that is taken is no failure: another one is tried, but not for ever.
     for (int intentos = 0; intentos < 100; ++intentos) {
         cadena_ancha nombre = nombre_nuevo();
         if (!extension.empty() && extension.front() != VNU('.')) nombre += VNU('.');
         ruta = une(directorio, nombre += extension);
         vnid_fichero id = VN_FICHERO_NINGUNO;
+        // Created, not looked for first: between a look and the creation somebody else might take the name.
         switch (t.abre(ruta.c_str(), VN_ABRE_ESCRITURA | VN_ABRE_CREA | VN_ABRE_NUEVO, &id)) {
         case VN_FICH_BIEN: return t.cierra(id) == VN_FICH_BIEN;
         case VN_FICH_YA_EXISTE:
@@ -68,6 +71,7 @@ bool es_programa(const cadena_ancha &ruta) { return existe_fichero(ruta) && plat
 bool busca_ejecutable(const cadena_ancha &nombre, cadena_ancha &hallado) {
     const partes p = descompone(nombre);
     if (p.nombre.empty()) return false;
+    // A name with a directory is not looked for in the search path.
     const bool con_ruta = !p.hasta_directorio().empty();
     const auto terminaciones = plat::terminaciones_de_programas();
     for (const cadena_ancha &d :
@@ -106,6 +110,7 @@ char *vorndir_creaFicheroTemporalConExt(const char *ext) {
     cadena_ancha ruta;
     if (!fichero_temporal(de_ansi(ext), ruta)) return nullptr;
     char *s = nuevo_ansi_fiel(ruta);
+    // A file whose name the caller cannot be told would stay for ever.
     if (s == nullptr) borra_fichero(ruta);
     AFIRMA_DE_FICHERO(s != nullptr, ruta.c_str());
     return s;
@@ -143,6 +148,7 @@ vnbool vorndir_lista_de_fichero(const char *patron, arrCADENA **lista) {
     const bool leido = ficheros_de(de_ansi(patron), rutas);
     *lista = arr_CreaCADENA(0);
     for (const cadena_ancha &r : rutas)
+        // Names that the code page cannot hold are left out: they would lead to other files.
         if (const propio<char> s(nuevo_ansi_fiel(r)); s != nullptr) arr_AppendCADENA(*lista, s.get());
     return logico(leido);
 }
@@ -155,15 +161,18 @@ vnbool vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(const vn
     if (!EXIGE(ruta, mascara, ficheros, directorios)) return FALSO;
     std::vector<cadena_ancha> todos_los_ficheros, todos_los_directorios, por_visitar{ruta};
     bool leido = true;
+    // The list grows while it is gone through, level by level, so that no depth fills the stack.
     for (size_t i = 0; i < por_visitar.size(); ++i) {
         std::vector<cadena_ancha> nombres;
         const bool este = nombres_en(por_visitar[i], mascara, clase::ficheros, nombres);
+        // Only the directory that was asked for must be readable.
         if (i == 0) leido = este;
         for (const cadena_ancha &n : nombres) todos_los_ficheros.push_back(une(por_visitar[i], n));
         nombres.clear();
         nombres_en(por_visitar[i], VNU("*"), clase::directorios, nombres);
         for (const cadena_ancha &n : nombres) {
             todos_los_directorios.push_back(une(por_visitar[i], n));
+            // A link may lead back up: it is listed, not entered.
             if (!plat::es_enlace(todos_los_directorios.back())) por_visitar.push_back(todos_los_directorios.back());
         }
     }

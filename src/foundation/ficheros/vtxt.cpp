@@ -21,6 +21,7 @@ void escribe(std::string_view s, vnfichero *f) {
 template <class T> void escribe_numero(T v, char despues, vnfichero *f) {
     char texto[40];
     char *fin = texto;
+    // A char is the number of its code, whether the platform's is signed or not.
     if constexpr (std::is_same_v<T, char>) fin = std::to_chars(texto, texto + 39, static_cast<unsigned char>(v)).ptr;
     else fin = std::to_chars(texto, texto + 39, v).ptr;
     if constexpr (std::is_same_v<T, double>) {
@@ -37,10 +38,12 @@ void escribe_en_utf8(const vnwchar *s, vnfichero *f) {
 
 // The text with each unit that a line of UTF-8 cannot hold as its escape.
 vn::propio<vnwchar> escapa(std::basic_string_view<vnwchar> s) {
+    // An escape takes five units, and nothing takes more.
     vn::propio<vnwchar> t(static_cast<vnwchar *>(vornspy_malloc((5 * s.size() + 1) * sizeof(vnwchar))));
     vnwchar *p = t.get();
     for (size_t i = 0; i < s.size(); ++i) {
         const vnwchar c = s[i];
+        // A whole pair goes out as one character of UTF-8.
         if (vn::es_alto(c) && i + 1 < s.size() && vn::es_bajo(s[i + 1])) {
             *p++ = c;
             *p++ = s[++i];
@@ -101,6 +104,7 @@ void vtxt_escr_comentario_y_salta(const char *comentario, vnfichero *f) {
     if (!EXIGE(comentario, f)) return;
     escribe("; ", f);
     std::string_view resto = comentario;
+    // A comment is one line, since what reads it passes over one.
     for (size_t n; (n = resto.find_first_of("\r\n")) != resto.npos; resto.remove_prefix(n + 1)) {
         escribe(resto.substr(0, n), f);
         escribe(" ", f);

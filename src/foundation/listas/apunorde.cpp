@@ -63,6 +63,7 @@ void *apunorde_nousar_get(const apunorde *a, uint32_t i) {
 
 void *apunorde_nousar_quita(apunorde *a, uint32_t i) {
     if (!vn::listas::hay_ordenado(a, i)) return nullptr;
+    // The tail of late elements is merged in first: only the settled block can lose one.
     vn::listas::asienta(a);
     return vn::listas::saca(a, i);
 }

@@ -77,6 +77,7 @@ void arr_BorrarPuntero(arrPuntero *a, uint32_t i) { vn::listas::borra(a, i); }
 
 void arr_BorrarEstructuraConTipo(arrPuntero *a, uint32_t i, vnfunc_destruye destructor) {
     if (!vn::listas::hay(a, i) || !AFIRMA_NO_NULO(destructor)) return;
+    // Out of the array first: the destructor may look at it.
     void *p = vn::listas::saca(a, i);
     if (p != nullptr) destructor(&p);
 }
@@ -97,6 +98,7 @@ vnbool arr_ExisteUnicaEstructuraConTipo(const arrPuntero *a, const void *dato, v
     if (!EXIGE(a, comparador)) return FALSO;
     uint32_t primera;
     if (existe(a, dato, comparador, 0, &primera) == FALSO) return FALSO;
+    // Looked for behind the first; its index is not asked for.
     static_cast<void>(AFIRMA_TEXTO(existe(a, dato, comparador, primera + 1, nullptr) == FALSO, "num_encontrados <= 1"));
     if (pos != nullptr) *pos = primera;
     return CIERTO;
@@ -111,6 +113,7 @@ uint32_t arr_BuscarUnicaEstructuraConTipo(const arrPuntero *a, const void *dato,
 vnbool arr_BuscarEstructuraDicotomicamenteConTipo(const arrPuntero *a, const void *dato, vnfunc_compara comparador,
                                                   uint32_t *pos) {
     if (!EXIGE(a, comparador)) return FALSO;
+    // The first that is not before the datum: of several equals the first one.
     const uint32_t i = vn::listas::primero_que_no(a, [=](const void *e) { return comparador(dato, e) > 0; });
     if (pos != nullptr) *pos = i;
     return vn::logico(i < a->num && comparador(dato, a->datos[i]) == 0);
@@ -118,6 +121,7 @@ vnbool arr_BuscarEstructuraDicotomicamenteConTipo(const arrPuntero *a, const voi
 
 uint32_t arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(arrPuntero *a, void *p, vnfunc_compara comparador) {
     if (!EXIGE(a, comparador)) return VN_ARR_NO_ESTA;
+    // Behind its equals, so that equals keep the order in which they came.
     const uint32_t i = vn::listas::primero_que_no(a, [=](const void *e) { return comparador(p, e) >= 0; });
     return vn::listas::inserta(a, i, p) ? i : VN_ARR_NO_ESTA;
 }
@@ -131,6 +135,7 @@ void arr_QSortPunteroConTipo(arrPuntero *a, vnfunc_compara comparador) {
     if (ida == nullptr || vuelta == nullptr) return;
     void **de = ida.get(), **hacia = vuelta.get();
     std::copy_n(a->datos, n, de);
+    // Lengths in 64 bits: twice a run may be more than 2^32.
     for (uint64_t largo = 1; largo < n; largo *= 2) {
         for (uint64_t i = 0; i < n; i += 2 * largo)
             mezcla(de, hacia, static_cast<uint32_t>(i), static_cast<uint32_t>(std::min<uint64_t>(i + largo, n)),

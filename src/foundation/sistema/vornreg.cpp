@@ -28,6 +28,7 @@ cadena_ancha limpia(vn::vista_ancha clave) {
 arrCADENA_u *subclaves(uint32_t raiz, const cadena_ancha &clave) {
     std::vector<cadena_ancha> nombres;
     if (!vn::plat::subclaves_de_registro(raiz, limpia(clave), nombres)) return nullptr;
+    // The system lists them in an order of its own.
     std::sort(nombres.begin(), nombres.end());
     return vn::ficheros::nueva_lista(nombres);
 }
@@ -80,6 +81,7 @@ vnbool vornreg_existe_clave_u(uint32_t raiz, const vnwchar *clave) {
 
 vnbool vornreg_lee_valores_cadena_clave_ex_u(uint32_t raiz, const vnwchar *clave, uint32_t vista, arrCADENA_u **nombres,
                                              arrCADENA_u **textos) {
+    // Cleared first, whatever the checks say.
     if (nombres != nullptr) *nombres = nullptr;
     if (textos != nullptr) *textos = nullptr;
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA(vista <= ULTIMA_VISTA) ||
@@ -88,6 +90,7 @@ vnbool vornreg_lee_valores_cadena_clave_ex_u(uint32_t raiz, const vnwchar *clave
     std::vector<std::pair<cadena_ancha, cadena_ancha>> pares;
     if (!vn::plat::textos_de_registro(raiz, limpia(clave), vista, pares)) return FALSO;
     std::sort(pares.begin(), pares.end());
+    // Both are handed over at the end, when neither can fail any more.
     lista_propia n(arr_CreaCADENA_u(0)), t(arr_CreaCADENA_u(0));
     for (const auto &[nombre, contenido] : pares) {
         arr_AppendCADENA_u(n.get(), nombre.c_str());

@@ -120,9 +120,11 @@ void escribe_linea_de_error(const vnwchar *texto) {
 }
 
 void entrega(const vninforme &informe) {
+    // The error of the system survives a report: the caller may still ask for it.
     const plat::guarda_error guarda;
     numero_de_informes.fetch_add(1, std::memory_order_relaxed);
     if (trampa *t = trampa_interior; t != nullptr) {
+        // A trap keeps the first report: the others are mostly its consequences.
         if (!t->marcada) linea_de_informe(informe, t->linea, sizeof t->linea);
         t->marcada = true;
         return;
@@ -153,6 +155,7 @@ void error_interno_msg_u(const vnwchar *expresion, const char *modulo, uint32_t 
 
 void error_interno_liberando_mensaje_u(const vnwchar *expresion, const char *modulo, uint32_t linea, vnwchar *detalle,
                                        uint16_t clase) {
+    // Freed also where the receiver throws.
     const vn::propio<vnwchar> suyo(detalle);
     error_interno_msg_u(expresion, modulo, linea, detalle, clase);
 }

@@ -45,9 +45,11 @@ vnerror_fichero escribe_todo(vnid_fichero id, int64_t posicion, const void *orig
         size_t k = 0;
         const vnerror_fichero e = con_paciencia(UNA_VEZ, [&] { return operaciones().escribe(id, posicion, p, n, &k); });
         if (e != VN_FICH_BIEN) return e;
+        // An installed table may answer anything: no progress would never end, too much would run off the block.
         if (k == 0 || k > n) return VN_FICH_ES;
         p += k;
         n -= k;
+        // Below zero: at the end of the file, which moves by itself.
         if (posicion >= 0) posicion += static_cast<int64_t>(k);
     }
     return VN_FICH_BIEN;
@@ -62,6 +64,7 @@ vnerror_fichero lee_todo(vnid_fichero id, int64_t posicion, void *destino, size_
             return operaciones().lee(id, posicion + static_cast<int64_t>(*leidos), p + *leidos, n - *leidos, &k);
         });
         if (e != VN_FICH_BIEN) return e;
+        // The end of the file; an answer that cannot be ends the reading too.
         if (k == 0 || k > n - *leidos) return VN_FICH_BIEN;
         *leidos += k;
     }
@@ -69,12 +72,14 @@ vnerror_fichero lee_todo(vnid_fichero id, int64_t posicion, void *destino, size_
 }
 
 vnerror_fichero copia_contenido(const vnwchar *origen, vnid_fichero destino) {
+    // Few calls, and no file too large for the memory.
     constexpr size_t TROZO = 256 * 1024;
     const auto trozo = std::make_unique_for_overwrite<unsigned char[]>(TROZO);
     vnid_fichero de = VN_FICHERO_NINGUNO;
     vnerror_fichero e = con_paciencia(UN_SEGUNDO, [&] { return operaciones().abre(origen, VN_ABRE_LECTURA, &de); });
     if (e != VN_FICH_BIEN) return e;
     size_t k = TROZO;
+    // A piece that is not full is the last one.
     for (int64_t posicion = 0; e == VN_FICH_BIEN && k == TROZO; posicion += static_cast<int64_t>(k)) {
         e = lee_todo(de, posicion, trozo.get(), TROZO, &k);
         if (e == VN_FICH_BIEN) e = escribe_todo(destino, posicion, trozo.get(), k);
@@ -89,6 +94,7 @@ const vnoperaciones_fichero *operaciones_fichero_del_sistema(void) { return &vn:
 const vnoperaciones_fichero *operaciones_fichero_actuales(void) { return &las_actuales; }
 
 void operaciones_fichero_instala(const vnoperaciones_fichero *tabla) {
+    // Entries that the host leaves null stay the system's.
     vnoperaciones_fichero nueva = vn::plat::operaciones_de_fichero;
     if (tabla != nullptr)
         con_cada_entrada(nueva, *tabla, [](auto &mia, auto suya) {

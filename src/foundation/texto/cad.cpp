@@ -5,12 +5,15 @@
 #include "foundation/texto/numero_int.h"
 #include "foundation/texto/texto_priv.h"
 
+// ANSI texts: the same templates as the wide ones (texto_priv.h), in steps of whole characters of the active page.
+
 using namespace vn;
 using namespace vn::texto;
 using texto::NO_ESTA;
 
 namespace {
 
+// What a wrong length may take of the memory at most.
 constexpr uint32_t MAX_TEXTO = 1u << 30;
 #define AQUI (texto::quien{VN_AQUI})
 
@@ -123,6 +126,7 @@ vnbool cad_es_subcadena_final(const char *s, const char *t) {
 
 char *cad_subcadena_inicial(const char *s, uint32_t n) {
     if (!AFIRMA_NO_NULO(s)) return nullptr;
+    // No further than `n`: a longer text need not be measured.
     const std::string_view v(s, strnlen(s, n));
     const texto::juego<char> j;
     if (j.de_uno_en_uno()) return copia(v);
@@ -202,8 +206,10 @@ void cad_convertir_cadena_ascii_ansi(char *s) {
     const pagina &ansi = pagina_activa(), *oem = pagina_de(PAGINA_OEM);
     for (; *s != 0; ++s) {
         const auto b = static_cast<unsigned char>(*s);
+        // ASCII is the same in every page.
         if (b < 0x80 || oem == nullptr) continue;
         const uint16_t c = ansi.codigo(oem->unidad[b]);
+        // A character that the ANSI page lacks, or writes in two bytes, has no room here.
         *s = c == 0 || c > 0xFF ? '?' : static_cast<char>(c);
     }
 }
@@ -211,6 +217,7 @@ void cad_convertir_cadena_ascii_ansi(char *s) {
 void cad_convertir_ansi_cadena(char *s, int modo) {
     if (!AFIRMA_NO_NULO(s) || !AFIRMA(modo >= 0 && modo <= 3)) return;
     texto::cambia(s, [modo](const auto &j, char c) {
+        // Bit 1 takes accents off, bit 0 makes capitals.
         if (modo & 2) c = j.sin_acento(c);
         return modo & 1 ? j.mayuscula(c) : c;
     });

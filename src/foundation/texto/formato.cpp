@@ -18,6 +18,7 @@ constexpr int MAX_ANCHO = 1'000'000;
 constexpr int MAX_PRECISION_EXACTA = 1100;
 constexpr size_t SITIO_CIFRAS = 309 + 1 + MAX_PRECISION_EXACTA + 8;
 
+// In a record, so that a reference to it is the same on every platform: a va_list may be an array.
 struct argumentos {
     va_list v;
 };
@@ -57,6 +58,7 @@ struct conversion {
 };
 
 template <class C> int lee_ancho(const C *&p, argumentos &a) {
+    // Cut at a million either way: the width of an outside format must not fill the memory.
     if (*p == '*') {
         ++p;
         return std::clamp(va_arg(a.v, int), -MAX_ANCHO, MAX_ANCHO);
@@ -86,6 +88,7 @@ template <class C> void lee_tamanyo(const C *&p, conversion &c) {
         c.doble_largo = true;
         ++p;
         break;
+    // The size prefix of Windows: I32, I64, and I alone for the size of a pointer.
     case 'I': {
         const bool de32 = p[1] == '3' && p[2] == '2', de64 = p[1] == '6' && p[2] == '4';
         c.bytes = de32 ? 4 : de64 ? 8 : sizeof(void *);
@@ -114,10 +117,12 @@ template <class C> conversion lee_conversion(const C *&p, argumentos &a) {
         else break;
     }
     c.ancho = lee_ancho(p, a);
+    // A negative width that came as an argument aligns to the left.
     if (c.ancho < 0) {
         c.izquierda = true;
         c.ancho = -c.ancho;
     }
+    // A negative precision is none.
     if (*p == '.') c.precision = std::max(-1, lee_ancho(++p, a));
     lee_tamanyo(p, c);
     c.letra = *p > 0 && *p < 0x80 ? static_cast<char>(*p) : '\0';
@@ -134,6 +139,7 @@ struct partes {
 template <class C> void pon_numero(salida<C> &s, const conversion &c, partes n, bool rellena_con_ceros) {
     const size_t largo = n.prefijo.size() + n.ceros_delante + n.cuerpo.size() + n.ceros_detras + n.cola.size();
     const size_t ancho = static_cast<size_t>(c.ancho), relleno = ancho > largo ? ancho - largo : 0;
+    // Zeros stand between the sign and the figures, blanks before both.
     const bool con_ceros = rellena_con_ceros && c.ceros && !c.izquierda;
     if (!c.izquierda && !con_ceros) s.rellena(' ', relleno);
     s.pon(n.prefijo.data(), n.prefijo.size());
@@ -155,6 +161,7 @@ void a_mayusculas(char *p, const char *fin) {
 
 template <class C> void pon_entero(salida<C> &s, const conversion &c, argumentos &a) {
     const bool con_signo = c.letra == 'd' || c.letra == 'i';
+    // What is shorter than 32 bits was widened by the call, and is cut again below.
     uint64_t v = c.bytes == 8 ? va_arg(a.v, uint64_t) : va_arg(a.v, uint32_t);
     bool negativo = false;
     if (con_signo) {
@@ -163,6 +170,7 @@ template <class C> void pon_entero(salida<C> &s, const conversion &c, argumentos
                           : c.bytes == 4 ? static_cast<int32_t>(v)
                                          : static_cast<int64_t>(v);
         negativo = w < 0;
+        // In unsigned arithmetic, where the lowest number has a magnitude.
         v = negativo ? 0 - static_cast<uint64_t>(w) : static_cast<uint64_t>(w);
     } else if (c.bytes < 4) v &= c.bytes == 1 ? 0xFFu : 0xFFFFu;
     char cifras[24];
@@ -170,11 +178,13 @@ template <class C> void pon_entero(salida<C> &s, const conversion &c, argumentos
     char *fin = std::to_chars(cifras, cifras + sizeof cifras, v, base).ptr;
     if (c.letra == 'X') a_mayusculas(cifras, fin);
     partes n;
+    // Zero with the precision 0 has no figures.
     n.cuerpo = v == 0 && c.precision == 0 ? std::string_view() : std::string_view(cifras, fin);
     if (con_signo) n.prefijo = signo(c, negativo);
     else if (c.alterna && base == 16 && v != 0) n.prefijo = c.letra == 'x' ? "0x" : "0X";
     if (c.precision > static_cast<int>(n.cuerpo.size()))
         n.ceros_delante = static_cast<size_t>(c.precision) - n.cuerpo.size();
+    // The "#" of octal asks for one leading zero, which a precision may have given already.
     if (c.alterna && base == 8 && n.ceros_delante == 0 && !n.cuerpo.starts_with('0')) n.ceros_delante = 1;
     pon_numero(s, c, n, c.precision < 0);
 }
@@ -204,6 +214,7 @@ template <class C> void pon_real(salida<C> &s, const conversion &c, argumentos &
     const bool mayusculas = c.letra < 'a';
     const char letra = static_cast<char>(c.letra | 0x20);
     partes n;
+    // Not-a-number has no sign here, whatever its bits; neither is ever filled with zeros.
     if (!std::isfinite(x)) {
         n.prefijo = std::isnan(x) ? "" : signo(c, x < 0);
         n.cuerpo = std::isnan(x) ? (mayusculas ? "NAN" : "nan") : mayusculas ? "INF" : "inf";
@@ -213,6 +224,7 @@ template <class C> void pon_real(salida<C> &s, const conversion &c, argumentos &
     const double v = std::fabs(x);
     const std::string_view sg = signo(c, std::signbit(x));
     n.prefijo = sg;
+    // Figures: the exact ones by std::to_chars, up to the last that a double can have; zeros do for the rest.
     int pedida = c.precision < 0 ? 6 : c.precision;
     std::chars_format forma = letra == 'f' ? std::chars_format::fixed : std::chars_format::scientific;
     char *fin;
@@ -227,6 +239,7 @@ template <class C> void pon_real(salida<C> &s, const conversion &c, argumentos &
                          : std::to_chars(cifras, cifras + sizeof cifras, v, std::chars_format::hex,
                                          std::min(pedida, MAX_PRECISION_EXACTA))
                                .ptr;
+        // std::to_chars has the rule of %g: it chooses the form and takes the zeros at the end away.
     } else if (letra == 'g' && !c.alterna) {
         fin = std::to_chars(cifras, cifras + sizeof cifras, v, std::chars_format::general,
                             std::min(pedida, MAX_PRECISION_EXACTA))
@@ -234,6 +247,7 @@ template <class C> void pon_real(salida<C> &s, const conversion &c, argumentos &
         pedida = -1;
     } else {
         if (letra == 'g') { // with '#' its zeros stay
+            // The same rule by hand: fixed while the exponent of the rounded number is from -4 to below the figures.
             const int figuras = std::max(1, pedida), e = exponente(v, std::min(figuras, MAX_PRECISION_EXACTA));
             const bool fija = e >= -4 && e < figuras;
             forma = fija ? std::chars_format::fixed : std::chars_format::scientific;
@@ -241,7 +255,9 @@ template <class C> void pon_real(salida<C> &s, const conversion &c, argumentos &
         }
         fin = std::to_chars(cifras, cifras + sizeof cifras - 1, v, forma, std::min(pedida, MAX_PRECISION_EXACTA)).ptr;
     }
+    // The exponent is apart, so that the zeros beyond the exact figures come before it.
     char *corte = std::find(cifras, fin, letra == 'a' ? 'p' : 'e');
+    // "#" asks for a period even with nothing behind it.
     if (c.alterna && std::find(cifras, corte, '.') == corte) {
         std::copy_backward(corte, fin, fin + 1);
         *corte++ = '.';
@@ -274,6 +290,7 @@ template <class C, class D> void pon_texto(salida<C> &s, const conversion &c, co
                 return a_pagina(pagina_activa(), v, destino, perdida);
             }
         };
+        // Measured first, then converted in place.
         convertido.resize(convierte(nullptr));
         convierte(convertido.data());
         pon_ajustado(s, c, convertido.data(), convertido.size());
@@ -285,6 +302,7 @@ template <class C, class D> void pon_cadena(salida<C> &s, const conversion &c, c
     const size_t tope = c.precision < 0 ? SIZE_MAX : static_cast<size_t>(c.precision);
     if (texto == nullptr) return pon_ajustado(s, c, NULO.data(), std::min(NULO.size(), tope));
     size_t n = 0;
+    // With a precision the text need not end in a zero: nothing is read beyond.
     while (n < tope && texto[n] != 0) ++n;
     pon_texto(s, c, texto, n);
 }
@@ -323,6 +341,7 @@ template <class C> bool pon_conversion(salida<C> &s, const conversion &c, argume
 template <class C> size_t compone(C *destino, size_t sitio, const C *formato, va_list args, bool informa_de_faltas) {
     salida<C> s(destino, sitio);
     argumentos a;
+    // A copy, since a text that does not fit is composed twice.
     va_copy(a.v, args);
     for (const C *p = formato; *p != 0;) {
         const C *q = p;
@@ -332,6 +351,7 @@ template <class C> size_t compone(C *destino, size_t sitio, const C *formato, va
         p = q + 1;
         const conversion c = lee_conversion(p, a);
         if (pon_conversion(s, c, a)) continue;
+        // An unknown conversion is told once, and stands in the text as it was written.
         if (informa_de_faltas) (void)AFIRMA_DEFECTO();
         s.pon(q, static_cast<size_t>(p - q));
     }
@@ -346,6 +366,7 @@ template <class C> size_t formatea_en(C *destino, size_t sitio, const C *formato
 }
 
 template <class C> C *formatea_nuevo(const C *formato, va_list args, const char *modulo, uint32_t linea) {
+    // Most texts fit here and are composed once; a longer one has now been measured.
     C corto[512];
     const size_t n = compone(corto, std::size(corto), formato, args, true);
     C *s = static_cast<C *>(vornspy_nousar_malloc((n + 1) * sizeof(C), modulo, linea));

@@ -31,6 +31,7 @@ template <class C> size_t palabra(const C *s, size_t n, const char *minusculas) 
 
 // Whether a number whose value no double can hold is too large, and not too small: the place of its first digit tells.
 template <class C> bool es_enorme(const C *s, const C *fin) {
+    // Digits before the period, and zeros between it and the first digit that counts: the place of that digit.
     int64_t enteras = 0, ceros = 0;
     bool hay = false, punto = false;
     const C *p = s;
@@ -46,6 +47,7 @@ template <class C> bool es_enorme(const C *s, const C *fin) {
     if (p != fin) {
         const bool negativo = *++p == '-';
         for (p += negativo || *p == '+'; p != fin; ++p)
+            // No text is long enough to bring such an exponent back, so its further digits change nothing.
             exponente = exponente > 1'000'000'000'000 ? exponente : exponente * 10 + (*p - '0');
         if (negativo) exponente = -exponente;
     }
@@ -68,11 +70,13 @@ template <class C> leido<double> lee_double(const C *s, size_t n) {
         if (const size_t m = palabra(s + inicio, n - inicio, p))
             return acaba(*p == 'n' ? std::numeric_limits<double>::quiet_NaN() : HUGE_VAL, inicio + m, false);
 
+    // The extent of the number: digits with at most one period, one digit at least.
     size_t i = inicio, cifras = 0;
     for (; i < n && es_digito(s[i]); ++i) ++cifras;
     if (i < n && s[i] == '.')
         for (++i; i < n && es_digito(s[i]); ++i) ++cifras;
     if (cifras == 0) return r;
+    // An exponent belongs to it only if it has a digit: of "2e+" the number is 2.
     if (i < n && (s[i] == 'e' || s[i] == 'E')) {
         size_t e = i + 1;
         if (e < n && (s[e] == '+' || s[e] == '-')) ++e;
@@ -81,6 +85,7 @@ template <class C> leido<double> lee_double(const C *s, size_t n) {
             i = e;
         }
     }
+    // std::from_chars knows no locale; of a number out of range it does not say at which end.
     double valor = 0;
     const auto convierte = [&](const char *a) {
         const std::from_chars_result f = std::from_chars(a, a + (i - inicio), valor);
@@ -94,6 +99,7 @@ template <class C> leido<double> lee_double(const C *s, size_t n) {
         const bool desborda = convierte(s + inicio);
         return acaba(valor, i, desborda);
     } else {
+        // Wide units of a number are ASCII, so they are narrowed; a number of usual length needs no heap.
         char corto[64];
         std::string largo;
         char *a = corto;
@@ -118,15 +124,18 @@ template <class T, class C> leido<T> lee_entero(const C *s, size_t n, int base) 
         const auto m = c | 0x20;
         return m >= 'a' && m <= 'z' ? static_cast<unsigned>(m - 'a' + 10) : 99;
     };
+    // "0x" is a prefix only before a digit: of "0xg" the number is 0.
     if ((base == 0 || base == 16) && i < n && s[i] == '0' && i + 1 < n && (s[i + 1] | 0x20) == 'x' &&
         cifra(i + 2) < 16) {
         base = 16;
         i += 2;
     }
+    // Without a base a leading zero asks for octal, as in the C language.
     if (base == 0) base = cifra(i) == 0 ? 8 : 10;
     const auto b = static_cast<unsigned>(base);
     if (cifra(i) >= b) return r;
     uint64_t valor = 0;
+    // After an overflow digits are still passed over: `consumido` counts all of the number.
     for (; cifra(i) < b; ++i) {
         const unsigned c = cifra(i);
         if (valor > (UINT64_MAX - c) / b) r.desborda = true;
@@ -134,6 +143,7 @@ template <class T, class C> leido<T> lee_entero(const C *s, size_t n, int base) 
     }
     r.consumido = i;
     using limites = std::numeric_limits<T>;
+    // The greatest magnitude of the type on this side of zero; an unsigned type has none below.
     const uint64_t tope = !negativo             ? static_cast<uint64_t>(limites::max())
                           : std::is_signed_v<T> ? static_cast<uint64_t>(limites::max()) + 1
                                                 : 0;

@@ -85,12 +85,13 @@ constexpr size_t NO_ESTA = std::string_view::npos;
 // Where `t` begins in `s` at or after `desde`; `desde` is the beginning of a character.
 template <class C> size_t busca(vista<C> s, vista<C> t, size_t desde, bool plegando) {
     const juego<C> j;
+    // Where every unit is a character, a match of units is a match.
     if (!plegando && j.de_uno_en_uno()) return s.find(t, desde);
     const C *const fin = s.data() + s.size();
     for (size_t i = desde; i + t.size() <= s.size(); i += j.paso(s.data() + i, fin)) {
         const vista<C> trozo = s.substr(i, t.size());
         if (plegando ? iguales_plegando(j, trozo, t) : trozo == t) return i;
-        if (i == s.size()) break;
+        if (i == s.size()) break; // only an empty `t` is looked for here, where there is no character to step over
     }
     return NO_ESTA;
 }
@@ -100,6 +101,7 @@ template <class C> bool termina(vista<C> s, vista<C> t) {
     if (!s.ends_with(t)) return false;
     const juego<C> j;
     if (j.de_uno_en_uno() || t.empty()) return true;
+    // From the beginning on: from the end a second byte cannot be told from a first one.
     const C *p = s.data();
     while (p < s.data() + s.size() - t.size()) p += j.paso(p, s.data() + s.size());
     return p == s.data() + s.size() - t.size();
@@ -125,6 +127,7 @@ template <class C> bool esta_dentro(vista<C> s, const C *p) {
 // Makes `*s` longer by `t`, at its beginning or end. `t` may lie in `*s`.
 template <class C> void alarga(C **s, vista<C> t, bool delante, quien q) {
     const size_t n = std::char_traits<C>::length(*s);
+    // A part of the text itself moves with it.
     const bool dentro = esta_dentro(vista<C>(*s, n), t.data());
     const size_t desde = dentro ? static_cast<size_t>(t.data() - *s) : 0;
     auto *mayor = static_cast<C *>(vornspy_nousar_realloc(*s, (n + t.size() + 1) * sizeof(C), q.modulo, q.linea));
@@ -170,6 +173,7 @@ template <class C> vnbool suprime_inicial(C *s, vista<C> t, bool plegando) {
 template <class C> void reemplaza(C **s, vista<C> a, vista<C> b, quien q) {
     if (a.empty()) return;
     const vista<C> v(*s);
+    // Counted first, so that the new text is made once and in its size.
     size_t veces = 0;
     for (size_t i = busca(v, a, 0, false); i != NO_ESTA; i = busca(v, a, i + a.size(), false)) ++veces;
     if (veces == 0) return;

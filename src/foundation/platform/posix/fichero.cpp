@@ -86,6 +86,7 @@ vnerror_fichero prepara(int d, const std::string &ruta, uint32_t como) {
     struct stat s;
     if (::fstat(d, &s) != 0) return ultimo_error();
     if (S_ISDIR(s.st_mode)) return VN_FICH_ES_DIRECTORIO;
+    // Pipes and devices: from here on they wait, as their readers expect; nobody saves into one.
     if (!S_ISREG(s.st_mode)) {
         if ((como & VN_ABRE_PROPIO) != 0) return VN_FICH_NO_ADMITIDO;
         return resultado(::fcntl(d, F_SETFL, ::fcntl(d, F_GETFL) & ~O_NONBLOCK));
@@ -131,6 +132,7 @@ vnerror_fichero transferido(ssize_t k, size_t *hechos) {
 vnerror_fichero lee(vnid_fichero id, int64_t posicion, void *destino, size_t n, size_t *leidos) {
     n = std::min(n, MAXIMO_DE_UNA_VEZ);
     ssize_t k = ::pread(fd(id), destino, n, posicion);
+    // A pipe has no positions: it is read as it comes.
     if (k < 0 && errno == ESPIPE) k = ::read(fd(id), destino, n);
     return transferido(k, leidos);
 }
@@ -139,6 +141,7 @@ vnerror_fichero escribe(vnid_fichero id, int64_t posicion, const void *origen, s
     n = std::min(n, MAXIMO_DE_UNA_VEZ);
     const sin_senyales guarda;
     ssize_t k = posicion < 0 ? ::write(fd(id), origen, n) : ::pwrite(fd(id), origen, n, posicion);
+    // As in reading.
     if (k < 0 && posicion >= 0 && errno == ESPIPE) k = ::write(fd(id), origen, n);
     return transferido(k, escritos);
 }
@@ -188,12 +191,14 @@ vnerror_fichero cierra(vnid_fichero id) {
 void libera_texto(char *p) { std::free(p); }
 
 vnerror_fichero resuelve(const vnwchar *nombre, vnwchar *real, size_t maximo) {
+    // As many as the system itself follows; a ring of links ends here.
     constexpr int MAXIMO_ENLACES = 40;
     std::string ruta = bytes(nombre);
     for (int i = 0; i < MAXIMO_ENLACES; ++i) {
         const auto [directorio, fichero] = parte(ruta);
         char enlace[PATH_MAX];
         const ssize_t n = ::readlink(ruta.c_str(), enlace, sizeof enlace);
+        // No link any more: the directory is made absolute; the file itself need not be there yet.
         if (n < 0) {
             const dueno<libera_texto> d(::realpath(directorio.empty() ? "." : directorio.c_str(), nullptr));
             if (d == nullptr) return ultimo_error();
@@ -235,6 +240,7 @@ vnerror_fichero retira(const vnwchar *nombre) {
     int d = -1;
     if (S_ISREG(s.st_mode)) {
         short tipo = F_WRLCK;
+        // A writer holds a shared lock, which an exclusive one meets; a shared one meets that of a sole writer.
         if ((d = aparta(::open(ruta.c_str(), MODO | O_RDWR))) < 0) {
             d = aparta(::open(ruta.c_str(), MODO | O_RDONLY));
             tipo = F_RDLCK;
