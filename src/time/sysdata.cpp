@@ -19,6 +19,7 @@ constexpr uint32_t DIAS[] = {48, 42, 43, 44, 45, 46, 47};
 constexpr uint32_t DIAS_ABREVIADOS[] = {55, 49, 50, 51, 52, 53, 54};
 constexpr const char *CLAVE_MI_PC = "\\CLSID\\{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
 
+// Takes the wide text over.
 char *a_ansi(vnwchar *texto) { return texto != nullptr ? utunicode_UNICODE_a_ANSI_destruyendo_p(texto) : nullptr; }
 
 vnwchar *dato_u(uint32_t numero) {
@@ -39,6 +40,7 @@ vnwchar *fecha_u(int32_t dia, int32_t mes, int32_t anyo, const vnwchar *modelo, 
 }
 
 vnwchar *en_mayusculas(vnwchar *texto, uint32_t maximo) {
+    // Cut before it is turned into capitals, which keep its length.
     const vn::propio<vnwchar> entero(texto);
     vnwchar *corto = widestr_subcadena_inicial(entero.get(), maximo);
     widestr_convertir_a_mayusculas(corto);
@@ -105,6 +107,7 @@ char *sysdata_hora(int32_t segundo, int32_t minuto, int32_t hora, vnbool con_seg
 vnwchar *sysdata_formateaNumero_u(double valor, int32_t decimales) {
     vn::propio<vnwchar> texto(copiaforu_nousar_formatea(VNU("%.*f"), decimales, valor));
     vnwchar *regional = vnregional_numero_u(texto.get(), MAXIMO_NUMERO);
+    // A number that the region cannot format comes as it is.
     return regional != nullptr ? regional : texto.release();
 }
 

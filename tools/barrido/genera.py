@@ -44,6 +44,88 @@ def indice_de(f, nombre):
     return next(i for i, p in enumerate(f.parametros) if p.nombre == nombre)
 
 
+class Puntero:
+    """A parameter that is a pointer, no call-back, as the rows of PUNTEROS look at it."""
+    def __init__(self, generador, f, p, n):
+        self.generador, self.f, self.p, self.n = generador, f, p, n
+        self.a = p.tipo.get_canonical().get_pointee()
+        self.apuntado = p.tipo.get_pointee() if p.tipo.kind == TypeKind.POINTER else self.a
+        self.t = base(self.apuntado)
+        self.fijo = self.apuntado.is_const_qualified()
+        self.o = generador.opciones(p)
+        self.sale = p.tiene("salida", "salida_opcional")
+        self.es_texto = self.t in TEXTOS
+        self.es_vacio = self.a.kind == TypeKind.VOID
+        self.es_registro = self.a.kind == TypeKind.RECORD
+        self.es_doble = self.a.kind == TypeKind.POINTER and not es_funcion(self.apuntado)
+        self.dentro = self.apuntado.get_pointee() if self.es_doble else None
+
+    def bufer(self, tamanyo, cuantos):
+        return f"bufer({self.n}, {tamanyo}, {cuantos}, -1, {self.o})"
+
+    def medido(self):
+        cuanto = self.p.anotaciones["longitud"][0]
+        medida = "1" if self.es_vacio else f"sizeof({self.t})"
+        o = self.o + (" | LLENO" if self.fijo and self.es_texto else "")
+        if any(q.nombre == cuanto for q in self.f.parametros):
+            return f"bufer({self.n}, {medida}, 1, {indice_de(self.f, cuanto)}, {o})"
+        return f"bufer({self.n}, {medida}, {cuanto}, -1, {o})"
+
+    def hueco(self):
+        if self.sale:
+            o = "HUECO_VACIO" + (" | OPCIONAL" if self.p.tiene("salida_opcional") else "")
+        elif self.p.tiene("opcional_doble"):
+            o = "OPCIONAL | HUECO_OPCIONAL"
+        else:
+            o = "HUECO_OPCIONAL" if self.p.tiene("opcional") else "EXIGE"
+        return f"hueco({self.n}, {self.generador.fabrica(base(self.dentro), self.f)}, {o})"
+
+    def objeto(self):
+        return f"objeto({self.n}, {self.generador.fabrica(self.t, self.f)}, {self.o})"
+
+    def registro(self, valor):
+        return f"registro_de({self.n}, {valor}, {self.o})"
+
+    def es_de_valores(self):
+        """A record whose definition is seen, and zeros of which are a good value."""
+        if not self.a.get_declaration().get_definition():
+            return False
+        return self.sale or not any(c.type.get_canonical().kind == TypeKind.POINTER for c in self.a.get_fields())
+
+    def sin_fila(self):
+        if not self.es_registro:
+            raise SinFila(f"no kind for {self.p.escrito}")
+        que = "good value of the record" if self.a.get_declaration().get_definition() else "factory for"
+        raise SinFila(f"no {que} {self.t}")
+
+
+# What a pointer is, and the kind that it is given: the first row that holds.
+PUNTEROS = [
+    (lambda x: x.p.tiene("dato"), lambda x: f"dato_ajeno({x.n})"),
+    (lambda x: x.t in tablas.SIN_OBJETOS, lambda x: f"direccion_fija({x.n}, {x.o})"),
+    (lambda x: x.p.tiene("longitud"), Puntero.medido),
+    (lambda x: x.p.tiene("formato"), lambda x: f"formato{'_u' if x.t == 'vnwchar' else ''}({x.n})"),
+    # The address of an owner's pointer, or of room for a pointer that is borrowed.
+    (lambda x: x.es_doble and (x.dentro.is_const_qualified() or base(x.dentro) == "void" and x.sale),
+     lambda x: x.bufer("sizeof(void *)", 1)),
+    (lambda x: x.es_doble, Puntero.hueco),
+    (lambda x: x.es_texto and x.fijo, lambda x: f"{TEXTOS[x.t]}({x.n}, {x.o})"),
+    (lambda x: (x.es_texto or x.es_vacio) and x.p.tiene("consume"), Puntero.objeto),
+    (lambda x: x.es_texto and x.sale, lambda x: x.bufer(f"sizeof({x.t})", f"65536 / sizeof({x.t})")),
+    (lambda x: x.es_texto, lambda x: f"texto_cambiable<{x.t}>({x.n}, {x.o})"),
+    (lambda x: x.a.kind in ENTEROS or x.a.kind in (TypeKind.DOUBLE, TypeKind.FLOAT, TypeKind.ENUM),
+     lambda x: x.bufer(f"sizeof({x.t})", 1)),
+    (lambda x: x.es_vacio and x.sale, lambda x: x.bufer(1, 4096)),
+    (lambda x: x.es_vacio, lambda x: f"direccion_fija({x.n}, {x.o})"),
+    (lambda x: x.es_registro and tablas.REGISTROS.get(x.t),
+     lambda x: x.registro(tablas.REGISTROS[x.t].format(i=indice_de(x.f, x.p.nombre)))),
+    (lambda x: x.es_registro and x.t != "Punto2D" and fila_de_manejo(x.t, x.f.nombre),
+     lambda x: x.generador.con_otro(x.t, x.f, x.objeto())),
+    (lambda x: x.es_registro and x.es_de_valores(), lambda x: x.registro(x.apuntado.spelling.replace("const ", "") + "{}")),
+    (lambda x: True, Puntero.sin_fila),
+]
+
+
 class Generador:
     def __init__(self, funciones):
         self.funciones = funciones
@@ -104,72 +186,8 @@ class Generador:
 
     def puntero(self, f, p, n):
         """A parameter that is a pointer, no call-back."""
-        o = self.opciones(p)
-        a = p.tipo.get_canonical().get_pointee()
-        apuntado = p.tipo.get_pointee() if p.tipo.kind == TypeKind.POINTER else a
-        t = base(apuntado)
-        fijo = apuntado.is_const_qualified()
-        if p.tiene("dato"):
-            return f"dato_ajeno({n})"
-        if t in tablas.SIN_OBJETOS:
-            return f"direccion_fija({n}, {o})"
-        if p.tiene("longitud"):
-            cuanto = p.anotaciones["longitud"][0]
-            es_parametro = any(q.nombre == cuanto for q in f.parametros)
-            medida = "1" if a.kind == TypeKind.VOID else f"sizeof({t})"
-            if fijo and t in TEXTOS:
-                o += " | LLENO"
-            return f"bufer({n}, {medida}, {'1' if es_parametro else cuanto}, {indice_de(f, cuanto) if es_parametro else -1}, {o})"
-        if p.tiene("formato"):
-            return f"formato{'_u' if t == 'vnwchar' else ''}({n})"
-        if a.kind == TypeKind.POINTER and not es_funcion(apuntado):  # address of an owner's pointer
-            dentro = apuntado.get_pointee()
-            de = base(dentro)
-            if p.tiene("salida", "salida_opcional"):
-                o = "HUECO_VACIO" + (" | OPCIONAL" if p.tiene("salida_opcional") else "")
-            elif p.tiene("opcional_doble"):
-                o = "OPCIONAL | HUECO_OPCIONAL"
-            elif p.tiene("opcional"):
-                o = "HUECO_OPCIONAL"
-            else:
-                o = "EXIGE"
-            if dentro.is_const_qualified():  # what comes out is borrowed
-                return f"bufer({n}, sizeof(void *), 1, -1, {self.opciones(p)})"
-            if de == "void":
-                return f"bufer({n}, sizeof(void *), 1, -1, {self.opciones(p)})" if p.tiene("salida", "salida_opcional") \
-                    else f"hueco({n}, {self.fabrica(de, f)}, {o})"
-            return f"hueco({n}, {self.fabrica(de, f)}, {o})"
-        if t in TEXTOS:
-            if fijo:
-                return f"{TEXTOS[t]}({n}, {o})"
-            if p.tiene("consume"):
-                return f"objeto({n}, {self.fabrica(t, f)}, {o})"
-            if p.tiene("salida", "salida_opcional"):
-                return f"bufer({n}, sizeof({t}), 65536 / sizeof({t}), -1, {o})"
-            return f"texto_cambiable<{t}>({n}, {o})"
-        if a.kind in ENTEROS or a.kind in (TypeKind.DOUBLE, TypeKind.FLOAT, TypeKind.ENUM):
-            return f"bufer({n}, sizeof({t}), 1, -1, {o})"
-        if a.kind == TypeKind.VOID:
-            if p.tiene("consume"):
-                return f"objeto({n}, {self.fabrica(t, f)}, {o})"
-            if p.tiene("salida", "salida_opcional"):
-                return f"bufer({n}, 1, 4096, -1, {o})"
-            return f"direccion_fija({n}, {o})"
-        if a.kind == TypeKind.RECORD:
-            declaracion = a.get_declaration()
-            if t in tablas.REGISTROS and tablas.REGISTROS[t]:
-                return f"registro_de({n}, {tablas.REGISTROS[t].format(i=indice_de(f, p.nombre))}, {o})"
-            if fila_de_manejo(t, f.nombre) and t not in ("Punto2D",):
-                return self.con_otro(t, f, f"objeto({n}, {self.fabrica(t, f)}, {o})")
-            if declaracion.is_definition() or declaracion.get_definition():
-                campos = list(a.get_fields())
-                if p.tiene("salida", "salida_opcional") or not any(
-                        c.type.get_canonical().kind == TypeKind.POINTER for c in campos):
-                    escrito = apuntado.spelling.replace("const ", "")
-                    return f"registro_de({n}, {escrito}{{}}, {o})"
-                raise SinFila(f"no good value of the record {t}")
-            raise SinFila(f"no factory for {t}")
-        raise SinFila(f"no kind for {p.escrito}")
+        x = Puntero(self, f, p, n)
+        return next(tipo for es, tipo in PUNTEROS if es(x))(x)
 
     def parametro(self, f, p):
         n = f'"{p.nombre}"'

@@ -24,6 +24,7 @@ std::string contenido(const vnwchar *fichero) {
     size_t leidos = 0;
     const vnerror_fichero e = vn::lee_todo(id, 0, datos.data(), datos.size(), &leidos);
     op.cierra(id);
+    // It may have become shorter since it was asked.
     datos.resize(e == VN_FICH_BIEN ? leidos : 0);
     return datos;
 }
@@ -61,6 +62,7 @@ bool busca(std::string_view datos, std::string_view seccion, std::string_view cl
         datos.remove_prefix(fin == std::string_view::npos ? datos.size() : fin + 1);
         std::string_view nombre;
         if (es_seccion(linea, nombre)) {
+            // Only the first section of a name counts.
             if (dentro) return false;
             dentro = iguales(nombre, seccion);
         } else if (dentro && !linea.empty() && linea[0] != ';') {

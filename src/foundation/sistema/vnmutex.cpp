@@ -116,6 +116,7 @@ std::shared_ptr<nucleo> nucleo_de(const std::string &nombre, ambito donde) {
     const std::string sencillo = nombre_sencillo(nombre);
     const std::lock_guard guarda(r.cerrojo);
     std::weak_ptr<nucleo> &w = r.por_nombre[static_cast<char>(donde) + sencillo];
+    // One lock to a name, as long as some handle uses it.
     if (auto hay = w.lock()) return hay;
     auto nuevo = std::make_shared<nucleo>(donde == ambito::maquina ? &sencillo : nullptr);
     w = nuevo;
@@ -150,6 +151,7 @@ void libera(vnmutex **m) {
     {
         const std::lock_guard guarda(r.cerrojo);
         (*m)->~vnmutex();
+        // Names that nobody uses any more go with their last handle.
         std::erase_if(r.por_nombre, [](const auto &par) { return par.second.expired(); });
     }
     vornspy_free_pp(m, 1);
@@ -159,6 +161,7 @@ void libera(vnmutex **m) {
 bool espera_turno(nucleo &n, std::unique_lock<std::mutex> &guarda, reloj::time_point fin) {
     const auto yo = std::this_thread::get_id();
     if (n.veces > 0 || !n.cola.empty()) {
+        // In turn, so that nobody waits for ever behind those that enter again and again.
         const auto mio = n.cola.insert(n.cola.end(), yo);
         const bool bien = n.libre.wait_until(guarda, fin, [&] { return n.veces == 0 && mio == n.cola.begin(); });
         n.cola.erase(mio);
@@ -175,6 +178,7 @@ bool espera_turno(nucleo &n, std::unique_lock<std::mutex> &guarda, reloj::time_p
 // The lock between programs, after that of the threads. The caller has let go of n.cerrojo.
 bool entra_entre_programas(vn::plat::cerrojo &c, reloj::time_point fin) {
     const bool decia = c.es_de_un_usuario();
+    // What is left of the wait, which counts from the entry on.
     const auto queda = std::chrono::ceil<std::chrono::milliseconds>(fin - reloj::now()).count();
     const auto como = c.entra(queda > 0 ? static_cast<uint32_t>(queda) : 0);
     if (como == vn::plat::cerrojo::toma::no) return false;
@@ -193,6 +197,7 @@ bool entra(vnmutex &m) {
     } else {
         if (!espera_turno(n, guarda, fin)) return false;
         if (n.entre_programas) {
+            // Other threads of this program wait in the queue meanwhile, and need its guard for that.
             guarda.unlock();
             const bool bien = entra_entre_programas(*n.entre_programas, fin);
             guarda.lock();
@@ -210,6 +215,7 @@ bool entra(vnmutex &m) {
 // Leaves `veces` times; the caller holds n.cerrojo.
 void sal(vnmutex &m, uint32_t veces) {
     nucleo &n = *m.suyo;
+    // The count of this handle and that of the lock: others of the same name may still be inside.
     m.veces() -= veces;
     n.veces -= veces;
     if (n.veces > 0) return;

@@ -88,12 +88,14 @@ template <class C> conversion lee_conversion(const C *&p) {
         c.guarda = false;
         ++p;
     }
+    // A width from outside is cut, so that its digits do not overflow.
     if (es_cifra(*p)) {
         c.con_ancho = true;
         for (c.ancho = 0; es_cifra(*p); ++p)
             c.ancho = std::min<size_t>(c.ancho * 10 + static_cast<size_t>(*p - '0'), 1u << 30);
     }
     for (;; ++p) {
+        // "l" alone is a double among real numbers and 32 bits among whole ones; "ll" is 64.
         if (*p == 'h') c.bytes /= 2;
         else if (*p == 'l') (c.doble ? c.bytes = 8 : 0), c.doble = true;
         else if (*p == 'L') c.bytes = 8, c.doble = true;
@@ -108,6 +110,7 @@ template <class C> conversion lee_conversion(const C *&p) {
 // Characters of a number as long as they can belong to one.
 template <class F> class recogida {
   public:
+    // No number needs more characters than this.
     recogida(F &fuente, size_t ancho) : fuente_(fuente), quedan_(std::min<size_t>(ancho, 512)) {}
     template <class P> bool una(P &&vale) {
         const int c = fuente_.mira();

@@ -53,6 +53,7 @@ size_t ancho_a_utf8(vista_ancha s, char *destino) {
 
 size_t a_ancho(const pagina &pag, std::string_view s, vnwchar *destino) {
     if (pag.utf8) return utf8_a_ancho(s, destino);
+    // A page of single bytes is one look-up to each, as most texts are.
     if (!pag.doble) {
         if (destino != nullptr)
             for (size_t i = 0; i < s.size(); ++i)
@@ -62,6 +63,7 @@ size_t a_ancho(const pagina &pag, std::string_view s, vnwchar *destino) {
     pluma<vnwchar> p{destino};
     for (size_t i = 0; i < s.size();) {
         const unsigned a = static_cast<unsigned char>(s[i++]);
+        // A first byte at the very end of the text has nothing to pair with.
         if (!pag.lider[a] || i == s.size()) {
             p.pon(pag.unidad[a]);
             continue;
@@ -80,6 +82,7 @@ size_t a_pagina(const pagina &pag, vista_ancha s, char *destino, bool &perdida, 
         const size_t antes = i;
         const uint32_t c = siguiente(s, i);
         if (pag.utf8) {
+            // A replacement character that stood in the text is no loss.
             perdida |= c == REEMPLAZO && s[antes] != static_cast<vnwchar>(REEMPLAZO);
             pon_utf8(p, c);
             continue;
@@ -91,9 +94,11 @@ size_t a_pagina(const pagina &pag, vista_ancha s, char *destino, bool &perdida, 
         uint16_t codigo = c < 0x10000 ? pag.codigo(static_cast<char16_t>(c)) : uint16_t{0};
         if (codigo == 0) {
             perdida = true;
+            // The letter without its accents is still readable; a question mark is not.
             if (sin_acentos && c < 0x10000) codigo = pag.codigo(mapas().sin_acento[c]);
             if (codigo == 0) codigo = '?';
         }
+        // Codes above 255 are pairs, the first byte above.
         if (codigo > 0xFF) p.pon(codigo >> 8u);
         p.pon(codigo & 0xFFu);
     }

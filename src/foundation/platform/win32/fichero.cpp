@@ -61,6 +61,7 @@ vnerror_fichero error_de(DWORD del_sistema) {
 vnerror_fichero resultado(BOOL r) { return r ? VN_FICH_BIEN : error_de(GetLastError()); }
 HANDLE handle(vnid_fichero id) { return reinterpret_cast<HANDLE>(id); }
 
+// Every transfer names its position, so that streams do not move one another.
 OVERLAPPED en(int64_t posicion) {
     OVERLAPPED o = {};
     o.Offset = static_cast<DWORD>(posicion);
@@ -81,6 +82,7 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     // One's own may be renamed by its handle, and given rights.
     const DWORD acceso = ((como & VN_ABRE_LECTURA) != 0 ? GENERIC_READ : 0) |
                          ((como & VN_ABRE_ESCRITURA) != 0 ? GENERIC_WRITE : 0) | (propio ? DELETE | WRITE_DAC : 0);
+    // Readers are always let in; other writers neither to one's own nor beside a sole one.
     const DWORD otros = propio                            ? FILE_SHARE_READ
                         : (como & VN_ABRE_EXCLUSIVO) != 0 ? TODOS & ~static_cast<DWORD>(FILE_SHARE_WRITE)
                                                           : TODOS;
@@ -125,6 +127,7 @@ vnerror_fichero lee(vnid_fichero id, int64_t posicion, void *destino, size_t n, 
     *leidos = bien ? k : 0;
     if (bien) return VN_FICH_BIEN;
     const DWORD error = GetLastError();
+    // The end of a file, and the closed end of a pipe, are no errors.
     return error == ERROR_HANDLE_EOF || error == ERROR_BROKEN_PIPE ? VN_FICH_BIEN : error_de(error);
 }
 
@@ -141,6 +144,7 @@ vnerror_fichero vuelca(vnid_fichero id) { return resultado(FlushFileBuffers(hand
 
 vnerror_fichero estado_abierto(vnid_fichero id, vnestado_fichero *estado) {
     *estado = {};
+    // Pipes and devices have no size.
     if (GetFileType(handle(id)) != FILE_TYPE_DISK) return VN_FICH_BIEN;
     LARGE_INTEGER n;
     if (!GetFileSizeEx(handle(id), &n)) return resultado(FALSE);
@@ -178,6 +182,7 @@ vnerror_fichero cierra(vnid_fichero id) { return resultado(CloseHandle(handle(id
 vnerror_fichero resuelve(const vnwchar *nombre, wchar_t *real, size_t maximo) {
     const auto cabe = [maximo](DWORD n) { return n > 0 && n < maximo; };
     if (!cabe(GetFullPathNameW(nombre, static_cast<DWORD>(maximo), real, nullptr))) return VN_FICH_NO_EXISTE;
+    // Only a link needs its file opened to be resolved.
     const std::wstring ruta = ruta_del_sistema(real);
     const DWORD atributos = GetFileAttributesW(ruta.c_str());
     if (atributos == INVALID_FILE_ATTRIBUTES || (atributos & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return VN_FICH_BIEN;
@@ -233,6 +238,7 @@ vnerror_fichero renombra_abierto(vnid_fichero id, const vnwchar *, const vnwchar
     constexpr DWORD REEMPLAZA = 1, CON_LECTORES = 2;
     const std::wstring final = ruta_del_sistema(nuevo);
     const size_t bytes = final.size() * sizeof(wchar_t);
+    // The record ends in the name, with its zero.
     const size_t todo = offsetof(FILE_RENAME_INFO, FileName) + bytes + sizeof(wchar_t);
     const auto memoria = std::make_unique<unsigned char[]>(std::max(todo, sizeof(FILE_RENAME_INFO)));
     auto *datos = reinterpret_cast<FILE_RENAME_INFO *>(memoria.get());
@@ -268,10 +274,12 @@ vnerror_fichero copia_permisos(const vnwchar *origen, vnid_fichero destino) {
     FILE_BASIC_INFO datos{};
     datos.FileAttributes =
         FILE_ATTRIBUTE_NORMAL | (atributos & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE));
+    // "Normal" is said alone or not at all.
     if (datos.FileAttributes != FILE_ATTRIBUTE_NORMAL)
         datos.FileAttributes &= ~static_cast<DWORD>(FILE_ATTRIBUTE_NORMAL);
     if (!SetFileInformationByHandle(handle(destino), FileBasicInfo, &datos, sizeof datos)) return resultado(FALSE);
     DWORD n = 0;
+    // Asked for its size first.
     GetFileSecurityW(de.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &n);
     const auto lista = std::make_unique<unsigned char[]>(n + 1);
     SECURITY_DESCRIPTOR_CONTROL control = 0;
