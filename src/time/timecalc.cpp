@@ -19,6 +19,7 @@ int32_t dias_entre(int32_t anyo_ini, int32_t anyo_fin, int32_t dia_del_anyo) {
 
 int64_t segundos_de(const momento &m) {
     const auto &[dia, mes, anyo, hora, minuto, segundo] = m;
+    // The years that 32 bits can count in full.
     if (!AFIRMA(anyo >= 1970 && anyo < 2038) || !AFIRMA(mes >= 1 && mes <= 12)) return 0;
     const int32_t dias_mes = dias_del_mes(static_cast<uint32_t>(mes - 1), anyo);
     if (!AFIRMA(dia >= 1 && dia <= dias_mes)) return 0;
@@ -34,6 +35,7 @@ constexpr int64_t ULTIMO_SEGUNDO = 253402300799;
 void descompone(int64_t t, int32_t *dia, int32_t *mes, int32_t *anyo, int32_t *hora, int32_t *minuto,
                 int32_t *segundo) {
     if (!EXIGE(dia, mes, anyo)) return;
+    // After the report the results are those of the first second.
     if (!AFIRMA(t >= 0 && t <= ULTIMO_SEGUNDO)) t = 0;
     const dia_del_calendario d = dia_de(t / SEGUNDOS_DIA);
     const auto resto = static_cast<int32_t>(t % SEGUNDOS_DIA);
@@ -49,6 +51,7 @@ void descompone(int64_t t, int32_t *dia, int32_t *mes, int32_t *anyo, int32_t *h
 // the minute, 5 of the pair of seconds. FALSO outside the years that fit.
 vnbool a_fecha_DOS(const vnFILETIME &filetime, uint16_t &fecha, uint16_t &hora) {
     constexpr uint64_t PASOS_POR_SEGUNDO = 10000000, DE_1601_A_1970 = 11644473600;
+    // A file time counts steps of 100 ns from 1601.
     const uint64_t segundos = (uint64_t{filetime.dwHighDateTime} << 32 | filetime.dwLowDateTime) / PASOS_POR_SEGUNDO;
     if (segundos < DE_1601_A_1970) return FALSO;
     const auto t = static_cast<int64_t>(segundos - DE_1601_A_1970);
@@ -63,6 +66,7 @@ vnbool a_fecha_DOS(const vnFILETIME &filetime, uint16_t &fecha, uint16_t &hora) 
 int64_t segundos_de_FILETIME(const vnFILETIME *filetime) {
     if (!AFIRMA_NO_NULO(filetime)) return 0;
     uint16_t fecha = 0, hora = 0;
+    // Through the DOS form, which knows even seconds alone.
     const vnbool convertido = a_fecha_DOS(*filetime, fecha, hora);
     if (!AFIRMA(convertido == CIERTO)) return 0;
     return segundos_de({fecha & 31, fecha >> 5 & 15, (fecha >> 9) + 1980, hora >> 11, hora >> 5 & 63, (hora & 31) * 2});

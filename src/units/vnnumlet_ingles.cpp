@@ -29,7 +29,9 @@ class escritor {
     explicit escritor(std::string *t) : t_(t) {}
 
     void escribe(const importe &x, const moneda &m) {
+        // No "minus zero".
         if (x.negativo && (!x.es_entero_cero() || x.fraccion != 0)) pon(t_, PALABRAS[MINUS]);
+        // In the short scale 10^12 is a thousand billions: "two thousand three billion".
         grupo(x.billones, THOUSAND);
         grupo(x.miles_de_millones, BILLION);
         if (x.billones != 0 && x.miles_de_millones == 0) pon(t_, PALABRAS[BILLION]);
@@ -59,6 +61,7 @@ class escritor {
             pon(t_, PALABRAS[UNIDAD + c]);
             pon(t_, PALABRAS[HUNDRED]);
         }
+        // "One hundred and one", "one thousand and one".
         if (resto > 0 && (c > 0 || hay_grupo_)) pon(t_, "and ");
         if (resto > 20) {
             pon(t_, PALABRAS[DECENA + resto / 10]);

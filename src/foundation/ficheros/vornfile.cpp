@@ -15,6 +15,7 @@ vnbool informado(vnerror_fichero e, const vnwchar *destino) {
     return FALSO;
 }
 
+// The temporary stands beside its file: a separator in its name would put it elsewhere.
 bool es_sufijo(const vnwchar *texto) {
     return *texto != 0 && cadena_ancha(texto).find_first_of(VNU("/\\")) == cadena_ancha::npos;
 }
@@ -36,6 +37,7 @@ vnbool vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(cons
                                                                             const vnwchar *temporal) {
     if (!EXIGE(destino, temporal)) return FALSO;
     vnerror_fichero e = VN_FICH_BIEN;
+    // A temporary that cannot take the file's place does not stay beside it.
     if (const auto g = guardado::adopta(destino, temporal, &e)) e = g->confirma();
     else operaciones().retira(temporal);
     return informado(e, destino);
@@ -59,6 +61,7 @@ vnbool vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(vnficher
     if (!AFIRMA_TEXTO(f->guardado != nullptr, "abierto para hacerse definitivo al cerrar")) return FALSO;
     if (!AFIRMA_TEXTO(f->guardado->es_de(nombre), "nombre con el que se ha abierto")) return FALSO;
     const auto g = toma_guardado(*f);
+    // One report to a failure, whoever was first to tell it.
     const bool ya_informado = f->informado;
     if (!f->fallo_escritura) return informado(g->confirma(), nombre);
     g->abandona();

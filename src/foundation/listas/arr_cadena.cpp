@@ -48,6 +48,7 @@ template <class A> A *copia_textos(const A *a) {
 
 // Puts a text that the array now owns in the place of element `i`.
 template <class A> void reemplaza(A *a, uint32_t i, caracter<A> *s) {
+    // The text may be the one that is there already.
     if (a->datos[i] != s) libera(a->datos[i]);
     a->datos[i] = s;
 }
@@ -58,6 +59,7 @@ template <class C> vn::propio<C> toma_texto(C **s) {
 }
 
 template <class A> void inserta_copia(A *a, uint32_t i, const caracter<A> *s) {
+    // Copied before the array grows: `s` may be one of its texts.
     vn::propio<caracter<A>> c(vn::listas::copia_texto(s));
     if (vn::listas::inserta(a, i, c.get())) static_cast<void>(c.release());
 }
@@ -65,6 +67,7 @@ template <class A> void inserta_copia(A *a, uint32_t i, const caracter<A> *s) {
 template <class A> bool textos_iguales(const A *a, const A *b) {
     using C = caracter<A>;
     if (!EXIGE(a, b)) return false;
+    // Null is the same as null alone.
     return a->num == b->num && std::equal(a->datos, a->datos + a->num, b->datos, [](const C *s, const C *t) {
                return s == nullptr || t == nullptr ? s == t : std::basic_string_view<C>(s) == t;
            });

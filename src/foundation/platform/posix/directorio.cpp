@@ -36,16 +36,19 @@ bool lee_ficha(int en, const char *nombre, ficha &f) {
     f = {};
     if (::fstatat(en, nombre, &s, AT_SYMLINK_NOFOLLOW) != 0) return false;
     f.es_enlace = S_ISLNK(s.st_mode);
+    // The data are those of what a link leads to; that it is a link is kept beside them.
     const bool lleva = !f.es_enlace || ::fstatat(en, nombre, &s, 0) == 0;
     if (f.es_enlace) f.atributos |= VNLONGPATH_FILE_ATTRIBUTE_REPARSE_POINT;
     if (!lleva) return false;
     f.es_directorio = S_ISDIR(s.st_mode);
     f.tamanyo = S_ISREG(s.st_mode) ? static_cast<uint64_t>(s.st_size) : 0;
     f.fecha = s.st_mtim.tv_sec;
+    // The last part of the name, which may have separators behind it.
     const char *ultima = nombre;
     for (const char *p = nombre; *p != 0; ++p)
         if (*p == '/' && p[1] != 0 && p[1] != '/') ultima = p + 1;
     if (f.es_directorio) f.atributos |= VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY;
+    // Hidden by its full stop, but for "." and "..".
     if (ultima[0] == '.' && ultima[1] != 0 && ultima[1] != '/' && std::string_view(ultima) != "..")
         f.atributos |= VNLONGPATH_FILE_ATTRIBUTE_HIDDEN;
     if (::faccessat(en, nombre, W_OK, AT_EACCESS) != 0) f.atributos |= VNLONGPATH_FILE_ATTRIBUTE_READONLY;
@@ -59,6 +62,7 @@ bool lee_entrada(DIR *lista, bool con_datos, ficha &f) {
         const std::string_view nombre = e->d_name;
         if (nombre == "." || nombre == "..") continue;
         f = {};
+        // The kind is mostly in the entry itself: it is asked for only where it is not.
         if (con_datos || e->d_type == DT_LNK || e->d_type == DT_UNKNOWN) lee_ficha(::dirfd(lista), e->d_name, f);
         else f.es_directorio = e->d_type == DT_DIR;
         f.nombre = ruta_ancha(nombre);
@@ -78,10 +82,12 @@ cadena_ancha sin_separador_final(cadena_ancha t) {
 }
 
 std::optional<cadena_ancha> casa() {
+    // A relative directory would change with the current one, so it does not count.
     if (auto v = variable("HOME"); v && v->front() == SEPARADOR) return v;
     std::array<char, 16384> sitio{};
     struct passwd p {
     }, *hay = nullptr;
+    // Without the variable (a service): the user's entry in the system's list.
     if (::getpwuid_r(::geteuid(), &p, sitio.data(), sitio.size(), &hay) != 0 || hay == nullptr) return std::nullopt;
     return ruta_ancha(p.pw_dir);
 }
@@ -164,6 +170,7 @@ bool descenso::sal() {
     struct stat s {};
     lista_abierta arriba = abre_en(::dirfd(interior_->actual.get()), "..", 0);
     if (arriba == nullptr || ::fstat(::dirfd(arriba.get()), &s) != 0) return false;
+    // Somebody has moved the directory meanwhile: what lies above now is not ours to empty.
     if (interior_->de_arriba.back() != std::pair(s.st_dev, s.st_ino)) return false;
     interior_->de_arriba.pop_back();
     interior_->actual = std::move(arriba);
@@ -180,12 +187,14 @@ bool crea_directorios(const cadena_ancha &ruta) {
     const std::string b = ruta_del_sistema(ruta);
     descriptor en(AT_FDCWD);
     for (size_t i = 0, fin = 0; i < b.size(); i = fin) {
+        // Part by part from the directory before, so that a path longer than the system's limit is made too.
         fin = std::min(b.find_first_not_of('/', std::min(b.find('/', i), b.size())), b.size());
         const std::string parte = b.substr(i, fin - i);
         const auto abre = [&] {
             return descriptor(::openat(en.numero(), parte.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
         };
         descriptor d = abre();
+        // Another program may make it at the same moment, which is as good.
         if (d.numero() < 0 && errno == ENOENT && (::mkdirat(en.numero(), parte.c_str(), 0777) == 0 || errno == EEXIST))
             d = abre();
         if (d.numero() < 0) return false;
