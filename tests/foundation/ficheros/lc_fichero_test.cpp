@@ -2,7 +2,7 @@
 #include "foundation/ficheros/lc_fichero.h"
 #include "foundation/ficheros/vornfile.h"
 #include "plataforma/proceso.h"
-#include "prueba.h"
+#include "texto_ancho.h"
 #include <algorithm>
 #include <cstring>
 #include <memory>
@@ -32,8 +32,6 @@ std::string toma(const flujo &f, size_t n) {
 }
 
 void pon(const flujo &f, std::string_view s) { EXPECT_EQ(lc_fwrite(s.data(), 1, s.size(), f.get()), s.size()); }
-
-constexpr bool EN_WINDOWS = sizeof(wchar_t) == sizeof(vnwchar);
 
 // What the wrapped operations do next, and how often they were called.
 struct {

@@ -4,16 +4,13 @@
 #include "foundation/listas/arr.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/punto.h"
+#include "foundation/texto/cad.h"
 #include "prueba.h"
 #include <algorithm>
 #include <cstring>
 #include <limits>
 
 namespace {
-
-char *nuevo(const char *s) {
-    return static_cast<char *>(std::memcpy(vornspy_malloc(std::strlen(s) + 1), s, std::strlen(s) + 1));
-}
 
 struct viga {
     int clave, orden;
@@ -113,13 +110,13 @@ PRUEBA(arr, las_cadenas_son_del_array) {
     arr_SetCADENA(a, 0, texto);
     texto[0] = 'x';
     EXPECT_STREQ(arr_GetCADENA(a, 0), "uno");
-    char *dos = nuevo("dos"), *tres = nuevo("tres");
+    char *dos = cad_copia_cadena("dos"), *tres = cad_copia_cadena("tres");
     const char *el_mismo = dos;
     arr_SetCADENAOriginal(a, 0, &dos);
     EXPECT_EQ(dos, nullptr);
     EXPECT_EQ(arr_GetCADENA(a, 0), el_mismo);
     for (const bool al_final : {false, true}) { // refused, it is not the caller's any more
-        char *rechazado = nuevo("x");
+        char *rechazado = cad_copia_cadena("x");
         if (al_final) ESPERA_INFORME("(a) != NULL", arr_AppendCADENAOriginal(nullptr, &rechazado));
         else ESPERA_INFORME("i < num_elementos", arr_SetCADENAOriginal(a, 2, &rechazado));
         EXPECT_EQ(rechazado, nullptr);
@@ -307,7 +304,7 @@ PRUEBA(arr, sin_memoria_no_se_pierde_nada) {
             arr_DestruyeCADENA(&d);
         },
         [](caso *c) {
-            char *s = nuevo("dos");
+            char *s = cad_copia_cadena("dos");
             arr_AppendCADENAOriginal(c->textos, &s);
         },
         [](caso *c) { arr_QSortPunteroST(c->vigas, viga, compara); },
