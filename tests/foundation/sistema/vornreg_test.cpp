@@ -126,10 +126,13 @@ PRUEBA(vornreg, un_fichero_escrito_a_mano) {
 PRUEBA(vornreg, sobre_un_fichero_cualquiera) {
     const std::string clave = clave_propia(), vorn = directorio() + "/VORN", fichero = vorn + "/registro.txt";
     std::filesystem::create_directories(vorn);
-    vn::graba_fichero(fichero, std::string(17 << 20, 'x'));
+    const std::string contenido =
+        "[" + std::to_string(RAIZ) + "\\" + clave + "]\ngrande=1\n;" + std::string(17 << 20, 'x');
+    vn::graba_fichero(fichero, contenido);
+    EXPECT_EQ(lee(clave, "grande"), VNU("(none)")); // not looked into
     bool puesto = pon(clave, "x", VNU("y"));
     EXPECT_EQ(puesto, lee(clave, "x") == VNU("y"));
-    EXPECT_EQ(vn::lee_fichero(fichero).size(), size_t{17} << 20); // what cannot be read is not lost
+    EXPECT_EQ(vn::lee_fichero(fichero).size(), contenido.size()); // what cannot be read is not lost
     std::filesystem::remove(fichero);
     std::filesystem::create_directory(fichero);
     puesto = pon(clave, "x", VNU("z"));
