@@ -8,6 +8,7 @@
 
 namespace {
 
+// Levels whose text is kept, and the units of each with its zero: fixed room, so that a report allocates nothing.
 constexpr uint32_t NIVELES = 16;
 constexpr size_t UNIDADES = 160;
 using vista = std::basic_string_view<vnwchar>;
@@ -15,6 +16,7 @@ constexpr vista UNION = VNU(" > ");
 
 thread_local uint32_t nivel = 0;
 thread_local vnwchar textos[NIVELES][UNIDADES];
+// The descriptions joined, with room for all of them and what stands between two.
 thread_local vnwchar todo[NIVELES * (UNIDADES + 3)];
 
 // What is kept of a text: not half of a surrogate pair.
@@ -33,6 +35,7 @@ uint32_t &nivel_de_contexto() { return nivel; }
 
 void contexto_dentroDeContexto_u(const vnwchar *texto) {
     if (!AFIRMA_NO_NULO(texto)) return;
+    // Deeper levels are only counted, so that each way out still matches its way in.
     if (nivel < NIVELES) {
         const vista t = recortada(texto);
         *std::copy(t.begin(), t.end(), textos[nivel]) = 0;
@@ -49,9 +52,11 @@ void contexto_fueraDeContexto_u(const vnwchar *texto) {
         return;
     }
     const vista t = recortada(texto);
+    // The innermost level of that text: levels above it that nobody left are left with it.
     uint32_t donde = nivel;
     while (donde > 0 && vista(textos[donde - 1]) != t) --donde;
     const bool es_el_ultimo = donde == nivel;
+    // A text that was never entered leaves nothing.
     if (donde > 0) nivel = donde - 1;
     AFIRMA(es_el_ultimo);
 }

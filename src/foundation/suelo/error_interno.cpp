@@ -17,11 +17,13 @@ namespace {
 constinit vn::par_atomico<vnreceptor_informes> el_receptor;
 std::atomic<uint64_t> numero_de_informes{0};
 thread_local vn::trampa *trampa_interior = nullptr;
+// True while this thread runs the receiver.
 thread_local bool informando = false;
 
 // Appends to a fixed line; what does not fit is cut at a character's boundary.
 class linea_fija {
   public:
+    // Two bytes are set aside for the end of the line and the zero.
     linea_fija(char *texto, size_t maximo) : texto_(texto), maximo_(maximo - 2) {}
 
     void pon(const char *s) {
@@ -32,6 +34,7 @@ class linea_fija {
         if (s == nullptr) return;
         const std::basic_string_view<vnwchar> v(s);
         for (size_t i = 0; i < v.size();) {
+            // Half of a surrogate pair has no form in UTF-8.
             const uint32_t c = vn::lee_utf16(v, i);
             pon_punto_de_codigo(vn::es_alto(c) || vn::es_bajo(c) ? vn::REEMPLAZO : c);
         }
@@ -50,6 +53,7 @@ class linea_fija {
   private:
     void pon_punto_de_codigo(uint32_t c) {
         char u[4];
+        // A report is one line, so control characters become blanks.
         const size_t k = vn::escribe_utf8(c < 0x20 ? ' ' : c, u);
         if (n_ + k > maximo_) return;
         std::memcpy(texto_ + n_, u, k);
@@ -62,7 +66,7 @@ class linea_fija {
 };
 
 void entrega_al_receptor(const vninforme &informe) {
-    // However the receiver leaves: one that throws or jumps must not silence its thread.
+    // The mark is taken off by a destructor: a receiver that throws must not silence its thread.
     struct turno {
         turno() { informando = true; }
         ~turno() { informando = false; }
@@ -88,6 +92,7 @@ size_t linea_de_informe(const vninforme &informe, char *linea, size_t maximo) {
     l.pon(", ");
     l.pon_numero(informe.linea);
     l.pon(": ");
+    // The failed expression in the width that it has; a selection without such a case has none.
     if (informe.expresion_u != nullptr) l.pon_u(informe.expresion_u);
     else l.pon(informe.expresion != nullptr ? informe.expresion : "default");
     if (informe.detalle_u != nullptr) {
@@ -104,6 +109,7 @@ size_t linea_de_informe(const vninforme &informe, char *linea, size_t maximo) {
         l.pon_numero(informe.punto->y);
         l.pon(")");
     }
+    // What the thread was about, if the host has said so.
     if (vn::nivel_de_contexto() > 0) {
         l.pon(" [");
         l.pon_u(contexto_actual_u());
@@ -155,7 +161,7 @@ void error_interno_msg_u(const vnwchar *expresion, const char *modulo, uint32_t 
 
 void error_interno_liberando_mensaje_u(const vnwchar *expresion, const char *modulo, uint32_t linea, vnwchar *detalle,
                                        uint16_t clase) {
-    // Freed also where the receiver throws.
+    // The detail is owned here, so that it is freed also where the receiver throws.
     const vn::propio<vnwchar> suyo(detalle);
     error_interno_msg_u(expresion, modulo, linea, detalle, clase);
 }

@@ -6,6 +6,7 @@
 
 namespace {
 
+// The table in force: the platform's until a host installs another.
 vnoperaciones_fichero las_actuales = vn::plat::operaciones_de_fichero;
 
 // The entries of a table, for what is done to each.
@@ -41,6 +42,7 @@ const vnoperaciones_fichero &operaciones() { return las_actuales; }
 
 vnerror_fichero escribe_todo(vnid_fichero id, int64_t posicion, const void *origen, size_t n) {
     const auto *p = static_cast<const unsigned char *>(origen);
+    // A write may be partial: the rest goes in another call.
     while (n > 0) {
         size_t k = 0;
         const vnerror_fichero e = con_paciencia(UNA_VEZ, [&] { return operaciones().escribe(id, posicion, p, n, &k); });
@@ -49,7 +51,7 @@ vnerror_fichero escribe_todo(vnid_fichero id, int64_t posicion, const void *orig
         if (k == 0 || k > n) return VN_FICH_ES;
         p += k;
         n -= k;
-        // Below zero: at the end of the file, which moves by itself.
+        // A position below zero is the end of the file, which moves by itself.
         if (posicion >= 0) posicion += static_cast<int64_t>(k);
     }
     return VN_FICH_BIEN;
@@ -64,7 +66,7 @@ vnerror_fichero lee_todo(vnid_fichero id, int64_t posicion, void *destino, size_
             return operaciones().lee(id, posicion + static_cast<int64_t>(*leidos), p + *leidos, n - *leidos, &k);
         });
         if (e != VN_FICH_BIEN) return e;
-        // The end of the file; an answer that cannot be ends the reading too.
+        // No bytes are the end of the file; an impossible count from an installed table ends the reading too.
         if (k == 0 || k > n - *leidos) return VN_FICH_BIEN;
         *leidos += k;
     }
@@ -72,7 +74,7 @@ vnerror_fichero lee_todo(vnid_fichero id, int64_t posicion, void *destino, size_
 }
 
 vnerror_fichero copia_contenido(const vnwchar *origen, vnid_fichero destino) {
-    // Few calls, and no file too large for the memory.
+    // Large pieces need few calls, and a bounded piece lets a file of any size through.
     constexpr size_t TROZO = 256 * 1024;
     const auto trozo = std::make_unique_for_overwrite<unsigned char[]>(TROZO);
     vnid_fichero de = VN_FICHERO_NINGUNO;

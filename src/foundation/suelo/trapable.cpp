@@ -9,6 +9,7 @@
 
 namespace {
 
+// The first report of the last trap that failed, which outlives the trap itself.
 thread_local char ultimo_fallo[vn::MAXIMO_LINEA_INFORME] = "";
 
 // The innermost trap of this thread over the call inside it.
@@ -18,9 +19,10 @@ class trampa_propia {
         esta_.exterior = vn::trampa_abierta();
         vn::trampa_abierta() = &esta_;
     }
-    // Also when an exception of the host's passes through.
+    // A destructor closes the trap, so that an exception of the host's closes it too.
     ~trampa_propia() {
         vn::trampa_abierta() = esta_.exterior;
+        // Contexts that the call entered and did not leave end with it; those that it left stay left.
         vn::nivel_de_contexto() = std::min(vn::nivel_de_contexto(), contextos_);
         if (esta_.marcada) std::strcpy(ultimo_fallo, esta_.linea);
     }
@@ -32,6 +34,7 @@ class trampa_propia {
     uint32_t contextos_;
 };
 
+// True when nothing was reported during the call.
 bool ejecuta(vnfunc_trapable funcion, void *datos) {
     const trampa_propia abierta;
     funcion(datos);

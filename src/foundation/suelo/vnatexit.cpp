@@ -10,6 +10,7 @@
 
 namespace {
 
+// The list is a stack: each entry leads to the one that was registered before it.
 struct entrada {
     vnfunc_atexit funcion;
     vnparametros *parametros;
@@ -17,6 +18,7 @@ struct entrada {
 };
 
 constinit std::atomic<entrada *> la_ultima{nullptr};
+// True while the C library is to call al_final() at the end.
 constinit std::atomic<bool> registrada{false};
 
 // Puts a chain, from its newest to its oldest entry, on top of the list.
@@ -33,6 +35,7 @@ class tomadas {
     // The newest entry of all, the ones added meanwhile before the ones taken earlier; null at the end.
     entrada *toma() {
         if (entrada *nuevas = la_ultima.exchange(nullptr, std::memory_order_acquire)) {
+            // The oldest of the new ones is linked to what is left of the earlier ones.
             entrada *vieja = nuevas;
             while (vieja->anterior != nullptr) vieja = vieja->anterior;
             vieja->anterior = primera_;
@@ -56,9 +59,10 @@ void al_final() {
 } // namespace
 
 void nousar_atexit_anade(vnfunc_atexit funcion, vnparametros *parametros, const char *modulo, uint32_t linea) {
-    vn::propio<vnparametros> suyos(parametros); // whatever happens from here on
+    vn::propio<vnparametros> suyos(parametros); // taken over, so freed on a failed check too
     if (!AFIRMA_NO_NULO(funcion)) return;
     if (!registrada.exchange(true)) {
+        // The call at the end needs this library's own code.
         vn::plat::fija_en_memoria(&registrada);
         std::atexit(al_final);
     }
@@ -74,6 +78,7 @@ void vnatexit_ejecuta(void) {
     tomadas lista;
     while (entrada *e = lista.toma()) {
         e->funcion(e->parametros);
+        // The function has only borrowed its pack.
         if (e->parametros != nullptr) vornspy_destruye_parametros(&e->parametros);
         vornspy_free_pp(&e, sizeof(entrada));
     }

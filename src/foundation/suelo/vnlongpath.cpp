@@ -7,6 +7,7 @@
 void *vnlongpath_CreateFileW(const vnwchar *nombre, uint32_t acceso, uint32_t comparticion, void *seguridad,
                              uint32_t disposicion, uint32_t atributos, void *plantilla) {
     if (!AFIRMA_NO_NULO(nombre)) return VNLONGPATH_INVALID_HANDLE;
+    // The platforms index rows by the disposition, so no other number gets through.
     if (!AFIRMA(disposicion >= VNLONGPATH_CREATE_NEW && disposicion <= VNLONGPATH_TRUNCATE_EXISTING))
         return VNLONGPATH_INVALID_HANDLE;
     return vn::plat::abre_fichero(nombre, acceso, comparticion, seguridad, disposicion, atributos, plantilla);

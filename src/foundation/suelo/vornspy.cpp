@@ -28,6 +28,7 @@ struct cabeza {
 };
 static_assert(sizeof(cabeza) == 16, "blocks keep the platform's alignment");
 
+// Half of what the head can hold is refused already: no machine has it, and adding the head to less cannot overflow.
 constexpr unsigned BITS_TAMANYO = 44;
 constexpr uint64_t MAXIMO_TAMANYO = uint64_t{1} << (BITS_TAMANYO - 1);
 
@@ -50,6 +51,7 @@ constinit std::atomic<bool> fugas_al_salir{false};
 
 // The place in the table of an address's leaf, or the empty one where it belongs; null when the table is full.
 std::atomic<hoja_de_bits *> *sitio_de(uintptr_t numero, hoja_de_bits *&hoja) {
+    // A multiplicative hash says where to begin; a place that another leaf has is passed over for the next.
     constexpr size_t MASCARA = std::size(hojas) - 1;
     size_t i = static_cast<size_t>((uint64_t{numero} * 0x9E3779B97F4A7C15u) >> (64 - BITS_TABLA));
     for (size_t k = 0; k <= MASCARA; ++k, i = (i + 1) & MASCARA) {
@@ -60,11 +62,13 @@ std::atomic<hoja_de_bits *> *sitio_de(uintptr_t numero, hoja_de_bits *&hoja) {
     return nullptr;
 }
 
+// The leaf of an address; null where no block has ever lived in its range.
 hoja_de_bits *hoja_de(uintptr_t direccion) {
     hoja_de_bits *hoja = nullptr;
     return sitio_de(direccion >> BITS_HOJA, hoja) != nullptr ? hoja : nullptr;
 }
 
+// The leaf of an address, made if it is missing; null when the memory or the table has no room for it.
 hoja_de_bits *hoja_creada(uintptr_t direccion) {
     const uintptr_t numero = direccion >> BITS_HOJA;
     hoja_de_bits *hoja = nullptr, *nueva = nullptr;
@@ -72,6 +76,7 @@ hoja_de_bits *hoja_creada(uintptr_t direccion) {
     for (; sitio != nullptr && hoja == nullptr; sitio = sitio_de(numero, hoja)) {
         if (nueva == nullptr) nueva = static_cast<hoja_de_bits *>(std::calloc(1, sizeof(hoja_de_bits)));
         if (nueva == nullptr) return nullptr;
+        // A lost exchange looks again: the winner's leaf may be this one or one of another number.
         nueva->numero = numero;
         if (sitio->compare_exchange_strong(hoja, nueva, std::memory_order_acq_rel)) return nueva;
     }
@@ -79,6 +84,7 @@ hoja_de_bits *hoja_creada(uintptr_t direccion) {
     return sitio != nullptr ? hoja : nullptr;
 }
 
+// One grain in the map: its word and its bit there.
 struct bit {
     palabra &en;
     uint64_t mascara;
@@ -92,12 +98,14 @@ bit bit_de(hoja_de_bits *hoja, uintptr_t direccion) {
     return {hoja->bits[grano >> 6], uint64_t{1} << (grano & 63)};
 }
 
+// Marks a block as alive; false when there is no room to note it.
 bool apunta(const void *p) {
     const auto direccion = reinterpret_cast<uintptr_t>(p);
     hoja_de_bits *hoja = hoja_creada(direccion);
     if (hoja == nullptr) return false;
     const bit b = bit_de(hoja, direccion);
     b.en.fetch_or(b.mascara, std::memory_order_relaxed);
+    // The summary is only ever set, so a look mostly saves the write.
     const size_t grupo = grano_de(direccion) >> 12;
     palabra &resumen = hoja->resumen[grupo >> 6];
     const uint64_t mascara = uint64_t{1} << (grupo & 63);
@@ -124,7 +132,7 @@ bool esta_vivo(const void *p) {
     return (b.en.load(std::memory_order_relaxed) & b.mascara) != 0;
 }
 
-// What no machine has is not asked for.
+// False for a size that no machine has, and where the installed question forbids it.
 bool permitido(size_t tamanyo) {
     if (tamanyo > MAXIMO_TAMANYO) [[unlikely]]
         return false;
@@ -132,6 +140,7 @@ bool permitido(size_t tamanyo) {
     return permiso.funcion == nullptr || permiso.funcion(tamanyo, permiso.datos) == CIERTO;
 }
 
+// A product that overflows becomes a size that permitido() refuses.
 size_t producto(size_t num, size_t tamanyo) {
     size_t total = 0;
     return __builtin_mul_overflow(num, tamanyo, &total) ? SIZE_MAX : total;
@@ -149,7 +158,9 @@ constinit std::atomic<const nombre *> nombres{nullptr};
 constexpr unsigned BITS_VISTOS = 12;
 constinit std::atomic<const char *> vistos[size_t{1} << BITS_VISTOS] = {}; // by the caller's address; its text decides
 
+// The kept copy of a module's text, made at its first block; null when there is no memory for it.
 [[gnu::cold, gnu::noinline]] const char *apunta_nombre(const char *modulo) {
+    // Names are few and never leave the chain, so it is walked without a lock.
     const nombre *primero = nombres.load(std::memory_order_acquire);
     for (const nombre *n = primero; n != nullptr; n = n->siguiente)
         if (std::strcmp(n->texto(), modulo) == 0) return n->texto();
@@ -165,6 +176,7 @@ constinit std::atomic<const char *> vistos[size_t{1} << BITS_VISTOS] = {}; // by
     return nuevo->texto();
 }
 
+// The kept copy of a module's text, found without a walk for the callers seen before.
 const char *propio_nombre(const char *modulo) {
     if (modulo == nullptr) return nullptr;
     std::atomic<const char *> &visto =
@@ -220,6 +232,7 @@ template <class F> void por_cada_bit(const palabra &en, size_t primero, F &&func
         funcion(primero + static_cast<size_t>(__builtin_ctzll(bits)));
 }
 
+// Calls funcion(block, size, module, line) for each live block.
 template <class F> void por_cada_vivo(F &&funcion) {
     const auto di = [&](size_t grano) {
         auto *p = reinterpret_cast<void *>(grano << BITS_GRANO);
@@ -259,6 +272,7 @@ void *vornspy_nousar_realloc(void *p, size_t tamanyo, const char *modulo, uint32
     // Out of the map first: once the platform has moved the block, another thread may be given its old place.
     tacha(p);
     auto *c = static_cast<cabeza *>(std::realloc(cabeza_de(p), tamanyo + sizeof(cabeza)));
+    // The platform has kept the old block: it is alive again.
     if (c == nullptr) {
         apunta(p);
         sin_memoria(modulo, linea);
@@ -267,6 +281,7 @@ void *vornspy_nousar_realloc(void *p, size_t tamanyo, const char *modulo, uint32
 }
 
 void *vornspy_reserva_seguro(size_t num, size_t tamanyo, vnbool a_cero, const char *modulo, uint32_t linea) {
+    // After a report, zeros are the safer of the two.
     if (!AFIRMA_LOGICO(a_cero)) a_cero = CIERTO;
     const size_t total = producto(num, tamanyo);
     return a_cero == CIERTO ? reserva_a_cero(total, modulo, linea) : reserva(total, modulo, linea);
@@ -314,6 +329,7 @@ struct vnparametros {
 vnparametros *vornspy_parametro(int n, ...) {
     if (!AFIRMA(n >= 1 && n <= 16)) n = 0;
     vn::propio<vnparametros> pack(static_cast<vnparametros *>(vornspy_calloc(1, sizeof(vnparametros))));
+    // The count follows each value, so that a wrong size ends the pack before it.
     va_list args;
     va_start(args, n);
     for (int i = 0; i < n; ++i) {
@@ -368,6 +384,7 @@ uint64_t vornspy_informa_de_fugas(void) {
     struct cuenta {
         uint64_t bloques = 0, bytes = 0;
     };
+    // One sum per place that asked: a loop that leaks is one line of the account.
     std::map<std::pair<const char *, uint32_t>, cuenta> por_sitio;
     uint64_t total = 0;
     por_cada_vivo([&](const void *, size_t tamanyo, const char *modulo, uint32_t linea) {
@@ -382,6 +399,7 @@ uint64_t vornspy_informa_de_fugas(void) {
             std::snprintf(texto, sizeof texto, "%s, %u: %llu bloques sin liberar, %llu bytes\n",
                           sitio.first != nullptr ? sitio.first : "?", sitio.second,
                           static_cast<unsigned long long>(c.bloques), static_cast<unsigned long long>(c.bytes));
+        // A line that did not fit is written as far as it went.
         if (n > 0) vn::plat::escribe_error(texto, std::min(static_cast<size_t>(n), sizeof texto - 1));
     }
     return total;
@@ -392,6 +410,7 @@ void vornspy_informa_de_fugas_al_salir(vnbool activo) {
     static std::atomic<bool> registrado{false};
     fugas_al_salir = activo == CIERTO;
     if (activo == CIERTO && !registrado.exchange(true)) {
+        // The call at the end needs this library's own code.
         vn::plat::fija_en_memoria(&fugas_al_salir);
         std::atexit([] {
             // Whichever of the two was registered first, the list runs before its blocks are counted.
