@@ -12,13 +12,16 @@ namespace {
 
 constinit vn::par_atomico<vnreceptor_avisos> el_receptor;
 
+// Gives a notice to the first that can show it: the host's receiver, a box over its window, the error stream.
 vnbool da(vntipo_aviso tipo, const vnwchar *texto) {
     if (const auto receptor = el_receptor.dame(); receptor.funcion != nullptr)
         return receptor.funcion(tipo, texto, receptor.datos);
+    // A notice for developers opens no box in front of a user.
     if (void *ventana = lastwin_win_GetWinMain(); ventana != nullptr && tipo != VN_AVISO_DESARROLLO) {
         const vn::plat::respuesta r = vn::plat::muestra_cuadro(ventana, texto, tipo == VN_AVISO_PREGUNTA);
         if (r != vn::plat::respuesta::nadie) return vn::logico(r == vn::plat::respuesta::si);
     }
+    // Nobody was there to answer, and silence is a no.
     vn::escribe_linea_de_error(texto);
     return FALSO;
 }
@@ -36,6 +39,7 @@ void vnaviso_aviso_interno_como_error_u(const vnwchar *texto) {
 
 vnbool avisobas_pregunta_u(const vnwchar *texto) {
     if (!AFIRMA_NO_NULO(texto)) return FALSO;
+    // A receiver may answer any number: CIERTO alone is a yes.
     return vn::logico(da(VN_AVISO_PREGUNTA, texto) == CIERTO);
 }
 

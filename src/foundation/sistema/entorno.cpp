@@ -10,9 +10,11 @@ using vn::logico;
 
 namespace {
 
+// a * b / c to the nearest whole number; -1 for a division by zero or a result beyond 32 bits.
 int32_t por_entre(int32_t a, int32_t b, int32_t c) {
     if (c == 0) return -1;
     const int64_t producto = int64_t{a} * b, divisor = c;
+    // The signs apart, so that halves go away from zero on both sides of it.
     const int64_t cociente = (std::abs(producto) + std::abs(divisor) / 2) / std::abs(divisor);
     const int64_t resultado = (producto < 0) != (divisor < 0) ? -cociente : cociente;
     return resultado == static_cast<int32_t>(resultado) ? static_cast<int32_t>(resultado) : -1;

@@ -12,6 +12,7 @@ using vn::vista_ancha;
 
 namespace {
 
+// What the host has chosen: the name of its directory, and where that lies if not where the system says.
 struct elegido {
     std::mutex cerrojo;
     cadena_ancha distribuidor = VNU("VORN");
@@ -28,6 +29,7 @@ cadena_ancha directorio() {
     return base ? vn::ficheros::une(*base, e.distribuidor) : cadena_ancha();
 }
 
+// The path as a new text; null where there is no directory.
 vnwchar *ruta_en(const cadena_ancha &dir, const vnwchar *nombre) {
     return dir.empty() ? nullptr : vn::ficheros::nuevo(vn::ficheros::une(dir, nombre));
 }
@@ -37,6 +39,7 @@ cadena_ancha directorio_estructa() {
     return d.empty() ? d : vn::ficheros::une(d, ESTRUCTA);
 }
 
+// True for a plain name, which cannot lead out of the directory that it is joined to.
 bool es_una_parte(const vnwchar *nombre) {
     const vista_ancha n = nombre;
     return n != vista_ancha(VNU(".")) && n != vista_ancha(VNU("..")) &&

@@ -3,6 +3,7 @@
 #include <atomic>
 
 namespace {
+// The main window of the host's program, borrowed; null until it has one.
 constinit std::atomic<void *> la_ventana{nullptr};
 } // namespace
 

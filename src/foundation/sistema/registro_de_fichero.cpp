@@ -22,6 +22,7 @@
 namespace vn::plat {
 namespace {
 
+// Bytes of the file: a larger one is not read, and none larger is written.
 constexpr uint64_t MAXIMO = 16 * 1024 * 1024;
 
 // Without regard to case, in the order of the upper-case letters.
@@ -37,12 +38,13 @@ struct sin_caja {
 using valores = std::map<cadena_ancha, cadena_ancha, sin_caja>;
 using claves = std::map<cadena_ancha, valores, sin_caja>;
 
+// A key as the file names it: the number of its root, then the key if there is one.
 cadena_ancha con_raiz(uint32_t raiz, const cadena_ancha &clave) {
     cadena_ancha t(1, static_cast<vnwchar>(u'0' + raiz));
     return clave.empty() ? t : (t + u'\\') + clave;
 }
 
-// What the machine itself says.
+// A value that the machine itself answers where the file has none.
 struct fila {
     uint32_t raiz;
     const vnwchar *clave, *valor;
@@ -54,6 +56,7 @@ constexpr fila PROPIAS[] = {
 
 // ---------------------------------------------------------------- the text of the file
 
+// Controls and halves of surrogate pairs; in a name also what ends it or begins a key or a comment.
 bool se_escapa(uint32_t c, bool nombre) {
     return c < 32 || c == 127 || (c >= 0xD800 && c < 0xE000) || (nombre && (c == u'=' || c == u'[' || c == u';'));
 }
@@ -78,6 +81,7 @@ cadena_ancha lee(std::string_view s, bool escapes) {
     for (size_t i = 0; i < s.size();) {
         uint32_t c = 0;
         if (!lee_utf8(s, i, c)) c = REEMPLAZO;
+        // Two backslashes are one; one before up to four hexadecimal digits is the unit of that number.
         if (escapes && c == u'\\' && i < s.size()) {
             c = 0;
             if (s[i] == '\\') c = static_cast<unsigned char>(s[i++]);
@@ -88,6 +92,7 @@ cadena_ancha lee(std::string_view s, bool escapes) {
         }
         if (c == 0) continue; // no text holds it
         vnwchar par[2];
+        // A half goes in alone: two escaped halves make their pair again.
         if (c >= 0xD800 && c < 0xE000) t += static_cast<vnwchar>(c);
         else t.append(par, escribe_utf16(c, par));
     }
@@ -110,12 +115,14 @@ std::string_view toma_linea(std::string_view &s, std::string_view &linea) {
     return tal_cual;
 }
 
+// A line that names a key. Its backslashes separate, so nothing in it is escaped.
 bool es_cabecera(std::string_view linea, cadena_ancha &clave) {
     if (!linea.starts_with('[') || !linea.ends_with(']')) return false;
     clave = lee(linea.substr(1, linea.size() - 2), false);
     return true;
 }
 
+// A line that gives a name its text; a comment with an equals sign is none.
 bool es_asignacion(std::string_view linea, cadena_ancha &nombre, std::string_view &contenido) {
     const size_t igual = linea.find('=');
     if (igual == std::string_view::npos || linea[0] == ';') return false;
@@ -134,6 +141,7 @@ claves interpreta(std::string_view s) {
         std::string_view linea, contenido;
         cadena_ancha t;
         toma_linea(s, linea);
+        // What lies under a key that cannot be is left out.
         if (es_cabecera(linea, t)) actual = es_camino(t) ? &todas[t] : nullptr;
         else if (actual != nullptr && es_asignacion(linea, t, contenido)) (*actual)[t] = lee(contenido, true);
     }
@@ -150,6 +158,7 @@ std::string con_valor(std::string_view s, const cadena_ancha &clave, const caden
         escribe(linea_nueva, contenido, false);
         linea_nueva += '\n';
     }
+    // The new line is written once: over the old one, below its key, or below a key of its own at the end.
     const auto pon = [&] { nuevo += std::exchange(linea_nueva, {}); };
     if (s.starts_with(MARCA_DE_ORDEN)) s.remove_prefix(MARCA_DE_ORDEN.size());
     for (bool en_la_clave = false; !s.empty();) {
@@ -166,6 +175,7 @@ std::string con_valor(std::string_view s, const cadena_ancha &clave, const caden
         if (!tal_cual.ends_with('\n')) nuevo += '\n';
         if (cabecera && en_la_clave && !esta) pon();
     }
+    // A line that is still to be written has no key in the file.
     if (linea_nueva.empty()) return nuevo;
     nuevo += '[';
     for (size_t i = 0; i < clave.size();) {
@@ -196,6 +206,7 @@ bool carga(const vnwchar *ruta, std::string &datos) {
     size_t leidos = 0;
     const bool bien = lee_todo(id, 0, datos.data(), datos.size(), &leidos) == VN_FICH_BIEN;
     operaciones().cierra(id);
+    // The file may have shrunk since it was asked for its size.
     datos.resize(bien ? leidos : 0);
     return bien;
 }
@@ -224,6 +235,7 @@ void graba(grabacion *g) {
     g->hecha = vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), g->ruta) == CIERTO;
 }
 
+// The turn of this program: a file is read and written again as one step among all programs.
 class entre_programas {
   public:
     entre_programas()
@@ -235,13 +247,14 @@ class entre_programas {
     bool dentro_;
 };
 
+// A key that the file can name: its line has no escapes.
 bool es_clave(const cadena_ancha &clave) {
     for (size_t i = 0; i < clave.size();)
         if (const uint32_t c = lee_utf16(clave, i); se_escapa(c, false)) return false;
     return es_camino(clave);
 }
 
-// Whether `otra` lies under `clave`.
+// True when `otra` lies under `clave`.
 bool esta_debajo(const cadena_ancha &clave, const cadena_ancha &otra) {
     return otra.size() > clave.size() && otra[clave.size()] == u'\\' &&
            sin_caja().iguales(otra.substr(0, clave.size()), clave);
@@ -261,12 +274,14 @@ bool lee_registro(uint32_t raiz, const cadena_ancha &clave, const cadena_ancha &
 
 bool subclaves_de_registro(uint32_t raiz, const cadena_ancha &clave, std::vector<cadena_ancha> &nombres) {
     const cadena_ancha entera = con_raiz(raiz, clave);
+    // The roots are always there.
     bool hay = clave.empty();
     std::map<cadena_ancha, bool, sin_caja> vistos;
     for (const auto &[otra, suyos] : todas_las_claves()) {
         const bool debajo = esta_debajo(entera, otra);
         hay = hay || debajo || sin_caja().iguales(otra, entera);
         if (debajo)
+            // Only the next part of the name: a deeper key stands for those on the way to it.
             vistos.emplace(otra.substr(entera.size() + 1, otra.find(u'\\', entera.size() + 1) - entera.size() - 1),
                            true);
     }
@@ -286,6 +301,7 @@ bool textos_de_registro(uint32_t raiz, const cadena_ancha &clave, uint32_t,
         textos.assign(c->second.begin(), c->second.end());
         return true;
     }
+    // A key without texts is there if others lie under it.
     return hay_clave_de_registro(raiz, clave);
 }
 
@@ -299,6 +315,7 @@ bool escribe_registro(uint32_t raiz, const cadena_ancha &clave, const cadena_anc
     const claves todas = interpreta(datos);
     const auto suya = todas.find(entera);
     const bool esta = suya != todas.end() && suya->second.contains(valor);
+    // What is not there need not be taken away, and the file stays untouched.
     if (contenido == nullptr && !esta) return true;
     grabacion g{ruta.get(), con_valor(datos, entera, valor, contenido, esta), false};
     return g.datos.size() <= MAXIMO && trapable_ejecuta_funcion_segura(grabacion, graba, &g, nullptr) == CIERTO &&

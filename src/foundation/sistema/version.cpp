@@ -42,8 +42,10 @@ void version_establece_u(const vnwchar *version_aplicacion, const vnwchar *versi
     if (!EXIGE(version_aplicacion, version_mayor)) return;
     texto_doble aplicacion(version_aplicacion), mayor(version_mayor);
     if (!AFIRMA(mayor.ansi.find('-') == std::string::npos) || !AFIRMA(mayor.ansi.size() <= LIMITE_MAYOR)) return;
+    // The revision is one visible character, and not the dash that separates it in files.
     const auto codigo = static_cast<unsigned char>(revision);
     if (!AFIRMA(codigo > ' ' && codigo != 127 && revision != '-')) return;
+    // Nothing changes before every check has passed.
     identidad &i = la_identidad();
     i.aplicacion = std::move(aplicacion);
     i.mayor = std::move(mayor);

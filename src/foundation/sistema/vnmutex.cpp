@@ -45,6 +45,7 @@ struct nucleo {
 
 // By kind and name, those that a handle uses.
 struct registro {
+    // `cerrojo` guards the names, `creacion` the making of a handle that several threads share.
     std::mutex cerrojo, creacion;
     std::map<std::string, std::weak_ptr<nucleo>> por_nombre;
     std::vector<std::shared_ptr<nucleo>> al_bifurcarse; // those whose guard is held while the process splits
@@ -62,6 +63,7 @@ void registro::para() {
     registro &r = el_registro();
     r.creacion.lock();
     r.cerrojo.lock();
+    // Each core is kept while its guard is held; a name without one has no guard to hold.
     for (const auto &par : r.por_nombre)
         if (auto n = par.second.lock()) r.al_bifurcarse.push_back(std::move(n));
     for (const auto &n : r.al_bifurcarse) n->cerrojo.lock();
@@ -69,13 +71,13 @@ void registro::para() {
 
 void registro::sigue() {
     registro &r = el_registro();
-    const auto parados = std::exchange(r.al_bifurcarse, {}); // may be the last of one: it goes after its guard
+    const auto parados = std::exchange(r.al_bifurcarse, {}); // what only this owns goes after its guard is free
     for (const auto &n : parados) n->cerrojo.unlock();
     r.cerrojo.unlock();
     r.creacion.unlock();
 }
 
-// The child has entered none, and nobody waits in it; between programs it is one more.
+// In the child no thread is inside a lock or waits for one; to the locks between programs it is one program more.
 void registro::sigue_en_el_hijo() {
     ++generacion;
     for (const auto &n : el_registro().al_bifurcarse) {
@@ -109,6 +111,7 @@ std::string nombre_sencillo(const std::string &nombre) {
     return r;
 }
 
+// The kind begins the key in the registry: one name is a lock of this program and another of the machine.
 enum class ambito : char { programa = 'a', maquina = 'm' };
 
 std::shared_ptr<nucleo> nucleo_de(const std::string &nombre, ambito donde) {
@@ -131,6 +134,7 @@ struct vnmutex {
     uint32_t cuando = 0;
 
     uint32_t &veces() {
+        // What the parent had entered through this handle does not count in a child.
         if (const uint32_t ahora = generacion; cuando != ahora) {
             cuando = ahora;
             veces_dentro = 0;
@@ -150,6 +154,7 @@ void libera(vnmutex **m) {
     registro &r = el_registro();
     {
         const std::lock_guard guarda(r.cerrojo);
+        // The handle's own reference goes first, so that its name counts as unused.
         (*m)->~vnmutex();
         // Names that nobody uses any more go with their last handle.
         std::erase_if(r.por_nombre, [](const auto &par) { return par.second.expired(); });
@@ -177,6 +182,7 @@ bool espera_turno(nucleo &n, std::unique_lock<std::mutex> &guarda, reloj::time_p
 
 // The lock between programs, after that of the threads. The caller has let go of n.cerrojo.
 bool entra_entre_programas(vn::plat::cerrojo &c, reloj::time_point fin) {
+    // The warning is given when the lock becomes one of this user alone, not at each entry.
     const bool decia = c.es_de_un_usuario();
     // What is left of the wait, which counts from the entry on.
     const auto queda = std::chrono::ceil<std::chrono::milliseconds>(fin - reloj::now()).count();
@@ -192,6 +198,7 @@ bool entra(vnmutex &m) {
     nucleo &n = *m.suyo;
     const auto fin = reloj::now() + std::chrono::milliseconds(el_plazo);
     std::unique_lock guarda(n.cerrojo);
+    // A thread that is inside enters once more without waiting.
     if (n.veces > 0 && n.dueno == std::this_thread::get_id()) {
         ++n.veces;
     } else {
@@ -202,6 +209,7 @@ bool entra(vnmutex &m) {
             const bool bien = entra_entre_programas(*n.entre_programas, fin);
             guarda.lock();
             if (!bien) {
+                // The other programs kept the lock: the turn goes to the next thread.
                 n.veces = 0;
                 n.libre.notify_all();
                 return false;
@@ -263,6 +271,7 @@ void vnmutex_sal(vnmutex *m) {
         dentro = es_mio(*m);
         if (dentro) sal(*m, 1);
     }
+    // The report comes when the guard is free again: the receiver is the host's code.
     AFIRMA(dentro);
 }
 
@@ -270,6 +279,7 @@ vnbool vnmutex_entra_creando_entre_aplicaciones_si_es_necesario(vnmutex **m, con
     if (!EXIGE(m, nombre) || !AFIRMA(nombre[0] != 0)) return FALSO;
     vnmutex *el_mutex = nullptr;
     {
+        // Threads that come together make one handle; they wait for the lock itself without this guard.
         const std::lock_guard guarda(el_registro().creacion);
         if (*m == nullptr) *m = vnmutex_crea_entre_aplicaciones(nombre);
         el_mutex = *m;

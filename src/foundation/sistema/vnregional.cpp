@@ -20,6 +20,7 @@ namespace {
 
 // ---------------------------------------------------------------- the settings in force
 
+// How long the settings are taken for current before the system is asked again.
 constexpr uint64_t VALE_MILISEGUNDOS = 500;
 
 struct vigente {
@@ -28,12 +29,12 @@ struct vigente {
     std::string origen;
 };
 
-// What number text asks, and until when it holds: read without the lock. A reader may see the one before the change of
+// The separators, and until when they hold, are read without the lock. A reader may see the one before the change of
 // the other, which is then another reading of the same moment.
 constinit std::atomic<uint32_t> separadores{0};
 constinit std::atomic<uint64_t> caduca{0};
 
-// One character of the ANSI pages for the narrow blanks and the sign that newer tables have; a plain blank in a time.
+// Newer tables have narrow blanks and a minus sign that no ANSI page has: `blanco` and the hyphen take their place.
 void llano(cadena_ancha &t, vnwchar blanco) {
     for (vnwchar &c : t) {
         if (c == 0x202F || c == 0x2009 || (c == 0xA0 && blanco == VNU(' '))) c = blanco;
@@ -47,6 +48,7 @@ void allana(region &r) {
           &region::separador_horas, &region::fecha_corta, &region::fecha_larga, &region::signo_menos,
           &region::antes_de_mediodia, &region::despues_de_mediodia, &region::era})
         llano(r.*t, 0xA0);
+    // A time has plain blanks between its fields; elsewhere the blank does not break a line.
     llano(r.hora, VNU(' '));
 }
 
@@ -67,8 +69,10 @@ std::shared_ptr<const region> la_region() {
     const uint64_t ahora = vn::plat::milisegundos_de_la_maquina();
     if (v.suya != nullptr && ahora < caduca) return v.suya;
     std::string origen = vn::plat::origen_de_la_region();
+    // A changed origin means a changed environment; a system that tells no origin is read anew each time.
     if (v.suya == nullptr || origen.empty() || origen != v.origen) {
         auto r = std::make_shared<region>();
+        // Settings that cannot be read leave the ones in force; the first ones are taken as they come.
         if (vn::plat::lee_region(nullptr, *r) || v.suya == nullptr) pon(v, std::move(r), std::move(origen));
     }
     caduca = ahora + VALE_MILISEGUNDOS;
@@ -168,12 +172,14 @@ cadena_ancha pinta_hora(const region &r, const momento &m, bool con_segundos) {
     bool sin_segundos = false;
     const auto campo = [&](vnwchar c, size_t n) {
         if (c == VNU('s') && !con_segundos) {
+            // Back to the end of the field before: the separator in between goes too.
             t.resize(ultimo);
             sin_segundos = true;
             return;
         }
         if (std::exchange(sin_segundos, false)) t += blancos;
         const cadena_ancha &mitad = m.hora < 12 ? r.antes_de_mediodia : r.despues_de_mediodia;
+        // Of twelve hours, midnight and noon are 12.
         const int32_t valor = c == VNU('H')   ? m.hora
                               : c == VNU('h') ? (m.hora + 11) % 12 + 1
                               : c == VNU('m') ? m.minuto
@@ -192,6 +198,7 @@ cadena_ancha pinta_hora(const region &r, const momento &m, bool con_segundos) {
     return t;
 }
 
+// From 1601, where the calendar of the system begins, to the last year of four digits.
 bool es_fecha(int32_t dia, int32_t mes, int32_t anyo) {
     return anyo >= 1601 && anyo <= 9999 && mes >= 1 && mes <= 12 && dia >= 1 &&
            dia <= vn::dias_del_mes(static_cast<uint32_t>(mes - 1), anyo);
@@ -220,6 +227,7 @@ struct numero {
             for (const vnwchar c : t)
                 if (!es_cifra(c)) return false;
         entera.erase(0, entera.find_first_not_of(VNU('0'))); // all of it, of zeros
+        // Neither nothing nor a point alone is a number.
         return s.size() > (punto == vista_ancha::npos ? 0u : 1u);
     }
 
@@ -228,6 +236,7 @@ struct numero {
         const bool sube = decimal.size() > cifras && decimal[cifras] >= VNU('5');
         decimal.resize(cifras, VNU('0'));
         if (!sube) return;
+        // The carry runs through the nines from the last decimal on; past the first digit it becomes a new one.
         for (cadena_ancha *t : {&decimal, &entera})
             for (size_t i = t->size(); i-- > 0; (*t)[i] = VNU('0'))
                 if ((*t)[i] != VNU('9')) {
@@ -237,6 +246,7 @@ struct numero {
         entera.insert(entera.begin(), VNU('1'));
     }
 
+    // The whole part with its separators. `grupos` has the sizes from the right, a semicolon between two.
     cadena_ancha agrupada(vista_ancha grupos, const cadena_ancha &separador) const {
         cadena_ancha t = entera;
         size_t en = t.size(), cuantas = 0;
@@ -264,10 +274,12 @@ uint32_t cifra(const cadena_ancha &t) {
 
 cadena_ancha pinta_numero(const region &r, const numero &n) {
     cadena_ancha t = n.agrupada(r.agrupacion, r.separador_millares);
+    // A number below one begins with zero if the region wants it, and if there would be nothing else.
     if (t.empty() && (r.cero_inicial != VNU("0") || n.decimal.empty())) t = VNU("0");
     if (!n.decimal.empty()) (t += r.separador_decimal) += n.decimal;
     if (!n.negativo) return t;
     cadena_ancha con_signo;
+    // A region without a form, or with an unknown one, has the sign before the number.
     const uint32_t forma = r.forma_negativa.empty() ? 1 : cifra(r.forma_negativa);
     for (const vnwchar c : vista_ancha(FORMAS_NEGATIVAS[forma < 5 ? forma : 1])) {
         if (c == VNU('n')) con_signo += t;
@@ -287,6 +299,7 @@ vnwchar *vnregional_dato_u(uint32_t numero) {
 
 void vnregional_separadores(vnwchar *decimal, vnwchar *millares) {
     if (!EXIGE(decimal, millares)) return;
+    // The lock is taken only when the time of the settings is over.
     if (vn::plat::milisegundos_de_la_maquina() >= caduca.load(std::memory_order_acquire)) la_region();
     const uint32_t los_dos = separadores.load(std::memory_order_relaxed);
     *decimal = static_cast<vnwchar>(los_dos >> 16);
@@ -306,6 +319,7 @@ vnwchar *vnregional_hora_u(int32_t hora, int32_t minuto, int32_t segundo, vnbool
     if (!AFIRMA_LOGICO(con_segundos)) return nullptr;
     if (hora < 0 || hora > 23 || minuto < 0 || minuto > 59 || segundo < 0 || segundo > 59) return nullptr;
     const auto r = la_region();
+    // The date is any one: a time's picture has no field of it.
     return vn::ficheros::nuevo(pinta_hora(*r, {1, 2, 1980, 5, hora, minuto, segundo}, con_segundos == CIERTO));
 }
 
@@ -324,6 +338,7 @@ vnbool vnregional_establece(const char *nombre) {
     auto r = std::make_shared<region>();
     if (nombre != nullptr && !vn::plat::lee_region(nombre, *r)) return FALSO;
     const std::lock_guard guarda(v.cerrojo);
+    // A region by its name holds until the next call; the system's is read again at its next use.
     if (nombre != nullptr) pon(v, std::move(r), "");
     else v.suya = nullptr;
     caduca = nombre != nullptr ? UINT64_MAX : 0;

@@ -25,6 +25,7 @@ template <class C> C *copia_n(C *destino, const C *origen, size_t n) {
     const C *fin = rasgos<C>::find(origen, n, C{0});
     const size_t longitud = fin == nullptr ? n : static_cast<size_t>(fin - origen);
     rasgos<C>::move(destino, origen, longitud);
+    // What is left of the room becomes zeros; a text that fills it has no end.
     std::fill(destino + longitud, destino + n, C{0});
     return destino;
 }
@@ -44,6 +45,7 @@ template <class C> C *busca_alguno(const C *s, const C *caracteres) {
 
 void *vnstdc_memcpy(void *destino, const void *origen, size_t n) {
     if (!EXIGE(destino, origen)) return destino;
+    // Ranges that overlap arrive whole.
     return std::memmove(destino, origen, n);
 }
 
@@ -113,9 +115,11 @@ double vnstdc_wcstod(const vnwchar *s, vnwchar **fin) {
     return numero.valor;
 }
 
+// Only ASCII counts, whatever the locale.
 int vnstdc_isalpha(int c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 int vnstdc_isdigit(int c) { return c >= '0' && c <= '9'; }
 
+// The smallest number has no positive counterpart in 32 bits, and stays.
 int32_t vnstdc_labs(int32_t x) { return x == INT32_MIN ? x : std::abs(x); }
 double vnstdc_fabs(double x) { return std::fabs(x); }
 double vnstdc_sin(double x) { return std::sin(x); }

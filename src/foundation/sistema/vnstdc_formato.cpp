@@ -57,6 +57,7 @@ class fuente_flujo {
     fuente_flujo &operator=(const fuente_flujo &) = delete;
     int mira() const { return siguiente_; }
     void avanza() {
+        // The place before the unit, where the stream goes back to.
         antes_ = vornio_ftell_i64(f_);
         siguiente_ = vnfichero_toma_byte(f_);
     }
@@ -102,6 +103,7 @@ template <class C> conversion lee_conversion(const C *&p) {
         else if (*p == 'I' && p[1] == '6' && p[2] == '4') c.bytes = 8, p += 2;
         else break;
     }
+    // A character beyond ASCII is a conversion that nobody knows.
     c.letra = *p < 0x80 ? static_cast<char>(*p) : '?';
     if (*p != 0) ++p;
     return c;
@@ -138,6 +140,7 @@ template <class F> std::string recoge_entero(F &fuente, const conversion &c, int
     recogida<F> r(fuente, c.ancho);
     r.una(ES_SIGNO);
     base = c.letra == 'x' || c.letra == 'X' ? 16 : c.letra == 'o' ? 8 : c.letra == 'i' ? 0 : 10;
+    // 0x may begin what %x and %i read; for %i a zero without it means base 8.
     if ((base == 16 || base == 0) && r.una([](int k) { return k == '0'; }) &&
         r.una([](int k) { return k == 'x' || k == 'X'; }))
         base = 16;
@@ -164,7 +167,7 @@ template <class F> std::string recoge_real(F &fuente, const conversion &c) {
 
 template <class T> void pon(void *sitio, T valor) { std::memcpy(sitio, &valor, sizeof valor); }
 
-// Whether the text is a number, whole; one beyond the room for it is none.
+// Stores the number that the whole text is; false if it is none, or one beyond the room for it.
 template <class T> bool pon_entero(const std::string &texto, int base, int bytes, void *sitio) {
     const vn::texto::leido<T> numero = vn::texto::lee_entero<T>(texto.c_str(), base);
     if (numero.consumido != texto.size() || texto.empty() || numero.desborda) return false;
@@ -230,18 +233,23 @@ bool conversion_admitida(const conversion &c) {
     if (!AFIRMA_TEXTO(std::string_view("diuxXofegEGsc").find(c.letra) != std::string_view::npos && c.letra != 0,
                       "conversion de formato conocida"))
         return false;
+    // A third h halves the room to nothing.
     if (!AFIRMA_TEXTO(c.bytes >= 1, "conversion de formato conocida")) return false;
+    // A stored text without a width could run past the caller's room.
     return AFIRMA_TEXTO(c.letra != 's' || c.con_ancho || !c.guarda, "una cadena se lee con su anchura");
 }
 
+// Runs the format over the source. The number of values stored, or -1 if the source ended before the first.
 template <class C, class F> int escanea(F &fuente, const C *formato, void *const *sitios, int numero_sitios) {
     int leidos = 0;
     for (const C *p = formato; *p != 0;) {
+        // A blank of the format takes all that follow in the source, none too.
         if (es_blanco(*p)) {
             while (es_blanco(fuente.mira())) fuente.avanza();
             ++p;
             continue;
         }
+        // A character that stands for itself; of two percent signs one is left.
         if (*p != '%' || p[1] == '%') {
             if (*p == '%') ++p;
             if (fuente.mira() < 0) return leidos == 0 ? -1 : leidos;
@@ -256,6 +264,7 @@ template <class C, class F> int escanea(F &fuente, const C *formato, void *const
         if (!conversion_admitida(c)) return leidos;
         if (!AFIRMA_TEXTO(!c.guarda || leidos < numero_sitios, "el formato tiene tantas conversiones como datos"))
             return leidos;
+        // All conversions but that of single characters pass over blanks first.
         if (c.letra != 'c')
             while (es_blanco(fuente.mira())) fuente.avanza();
         if (fuente.mira() < 0) return leidos == 0 ? -1 : leidos;
@@ -291,6 +300,7 @@ int vnstdc_wprintf(const vnwchar *formato, ...) {
                    const vn::propio<vnwchar> texto(vn::texto::formatea_nuevo(formato, args, VN_MODULO, __LINE__)));
     const vn::propio<char> utf8(unicode_convierte_UNICODE_a_UTF8(texto.get()));
     vn::plat::escribe_salida(utf8.get(), std::strlen(utf8.get()));
+    // The units of the text are counted, not the bytes that went out.
     return static_cast<int>(std::char_traits<vnwchar>::length(texto.get()));
 }
 

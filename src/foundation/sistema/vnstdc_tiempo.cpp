@@ -25,6 +25,7 @@ constexpr std::string_view DIAS[] = {"Sunday", "Monday", "Tuesday", "Wednesday",
 constexpr std::string_view MESES[] = {"January", "February", "March",     "April",   "May",      "June",
                                       "July",    "August",   "September", "October", "November", "December"};
 
+// At most so many letters of a name; a question mark for a number that has none.
 template <size_t N> std::string_view nombre_de(const std::string_view (&nombres)[N], int i, size_t maximo) {
     return i >= 0 && i < static_cast<int>(N) ? nombres[i].substr(0, maximo) : std::string_view("?");
 }
@@ -32,6 +33,7 @@ template <size_t N> std::string_view nombre_de(const std::string_view (&nombres)
 std::string numero(int64_t n, size_t ancho, char relleno = '0') {
     const std::string cifras = std::to_string(std::abs(n));
     std::string texto = n < 0 ? "-" : "";
+    // The sign is not counted in the width.
     texto.append(cifras.size() < ancho ? ancho - cifras.size() : 0, relleno);
     return texto + cifras;
 }
@@ -49,18 +51,22 @@ semana_iso semana_iso_de(const std::tm &t) {
         return primer_dia == 3 || (primer_dia == 2 && vn::es_bisiesto(anyo)) ? 53 : 52;
     };
     const int64_t anyo = int64_t{t.tm_year} + 1900;
+    // The day of the week of 1 January, from Monday.
     const int primer_dia = ((dia - t.tm_yday) % 7 + 7) % 7;
     const int s = semana(t.tm_yday);
+    // Days before the first week belong to the last one of the year before.
     if (s < 1) {
         const int dias = vn::es_bisiesto(anyo - 1) ? 366 : 365;
         return {anyo - 1, semanas(anyo - 1, ((primer_dia - dias) % 7 + 7) % 7)};
     }
+    // Days after the last week belong to the first one of the next year.
     return s > semanas(anyo, primer_dia) ? semana_iso{anyo + 1, 1} : semana_iso{anyo, s};
 }
 
 // Seconds since 1970 of a clock on the wall, as if it showed UTC.
 int64_t como_utc(const std::tm &t) {
     using namespace std::chrono;
+    // Only the month goes through the calendar: days and hours may lie outside their ranges.
     const auto mes = sys_days(year(t.tm_year + 1900) / (t.tm_mon + 1) / 1);
     return (mes.time_since_epoch().count() + t.tm_mday - 1) * int64_t{86400} + t.tm_hour * int64_t{3600} +
            t.tm_min * int64_t{60} + t.tm_sec;
@@ -78,6 +84,7 @@ int64_t minutos_sobre_utc(const std::tm &t) {
     for (const int64_t cuando : {pared - DIA, pared + DIA}) {
         if (!vn::plat::hora_local(cuando, local)) continue;
         const int64_t adelanto = como_utc(local) - cuando;
+        // The offset of that day is the one of `t` if it leads back to the same clock.
         const bool vuelve = vn::plat::hora_local(pared - adelanto, local) && como_utc(local) == pared;
         if (!hay || (vuelve && (local.tm_isdst > 0) == (t.tm_isdst > 0))) elegido = adelanto;
         hay = hay || vuelve;
@@ -155,11 +162,13 @@ std::tm acotada(std::tm t) {
 template <class C> size_t escribe_fecha(C *destino, size_t n, const C *formato, const std::tm &sin_acotar) {
     const std::tm t = acotada(sin_acotar);
     size_t longitud = 0;
+    // What no longer fits is counted too, so that the end knows of it.
     const auto pon = [&](C c) {
         if (longitud < n) destino[longitud] = c;
         ++longitud;
     };
     for (const C *p = formato; *p != 0 && longitud < n; ++p) {
+        // A percent sign at the end, or before a character beyond ASCII, stands for itself.
         if (*p != '%' || p[1] == 0 || p[1] >= 0x80 || p[1] < 0) {
             pon(*p);
             continue;
@@ -168,6 +177,7 @@ template <class C> size_t escribe_fecha(C *destino, size_t n, const C *formato, 
         if ((p[1] == 'E' || p[1] == 'O') && p[2] > 0 && p[2] < 0x80) ++p;
         for (const char c : campo(static_cast<char>(*++p), t)) pon(static_cast<C>(c));
     }
+    // A text that does not fit with its end is none at all.
     if (longitud >= n) {
         if (n > 0) destino[0] = 0;
         return 0;
@@ -192,6 +202,7 @@ template <class C> C *presta(const texto_u &nombre, texto_de<C> valor) {
     auto &p = vn::eterno<prestados>();
     const std::lock_guard dentro(p.cerrojo);
     std::list<texto_de<C>> &suyos = p.de[nombre];
+    // A value lent before keeps its place in memory and only moves to the front.
     const auto igual = std::find(suyos.begin(), suyos.end(), valor);
     if (igual != suyos.end()) suyos.splice(suyos.begin(), suyos, igual);
     else suyos.push_front(std::move(valor));
@@ -206,6 +217,7 @@ bool nombre_posible(const vnwchar *nombre) {
 
 int asigna(const vnwchar *asignacion) {
     const texto_u a(asignacion);
+    // The first equals sign ends the name; those of the value stay in it.
     const size_t igual = a.find(VNU('='));
     if (igual == 0 || igual == a.npos) return -1;
     return vn::plat::establece_variable(a.substr(0, igual).c_str(), a.c_str() + igual + 1) ? 0 : -1;
@@ -231,6 +243,7 @@ int64_t vnstdc__time64(int64_t *t) {
 }
 
 struct tm *vnstdc__localtime64(const int64_t *t) {
+    // The record is the thread's own and lives until its next call.
     thread_local std::tm local;
     if (!AFIRMA_NO_NULO(t)) return nullptr;
     return vn::plat::hora_local(*t, local) ? &local : nullptr;

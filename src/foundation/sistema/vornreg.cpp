@@ -13,6 +13,7 @@ using vn::cadena_ancha;
 
 namespace {
 
+// The last number of each kind; the platform has its rows by them.
 constexpr uint32_t ULTIMA_RAIZ = VORNREG_USUARIOS, ULTIMA_VISTA = VORNREG_VISTA_64;
 
 using lista_propia = vn::dueno<arr_DestruyeCADENA_u>;
@@ -68,6 +69,7 @@ vnbool vornreg_dame_subclaves(uint32_t raiz, const char *clave, arrCADENA **list
     if (!AFIRMA_NO_NULO(lista)) return FALSO;
     *lista = nullptr;
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave)) return FALSO;
+    // Sorted as wide text and converted then: both widths have one order.
     const lista_propia ancha(subclaves(raiz, vn::ficheros::de_ansi(clave)));
     if (ancha == nullptr) return FALSO;
     *lista = utunicode_cadenas_UNICODE_a_ANSI(ancha.get());
@@ -81,7 +83,7 @@ vnbool vornreg_existe_clave_u(uint32_t raiz, const vnwchar *clave) {
 
 vnbool vornreg_lee_valores_cadena_clave_ex_u(uint32_t raiz, const vnwchar *clave, uint32_t vista, arrCADENA_u **nombres,
                                              arrCADENA_u **textos) {
-    // Cleared first, whatever the checks say.
+    // Both are cleared first, so that a failed check leaves no stale list behind.
     if (nombres != nullptr) *nombres = nullptr;
     if (textos != nullptr) *textos = nullptr;
     if (!AFIRMA(raiz <= ULTIMA_RAIZ) || !AFIRMA_NO_NULO(clave) || !AFIRMA(vista <= ULTIMA_VISTA) ||
@@ -89,6 +91,7 @@ vnbool vornreg_lee_valores_cadena_clave_ex_u(uint32_t raiz, const vnwchar *clave
         return FALSO;
     std::vector<std::pair<cadena_ancha, cadena_ancha>> pares;
     if (!vn::plat::textos_de_registro(raiz, limpia(clave), vista, pares)) return FALSO;
+    // By name, as the system has an order of its own here too.
     std::sort(pares.begin(), pares.end());
     // Both are handed over at the end, when neither can fail any more.
     lista_propia n(arr_CreaCADENA_u(0)), t(arr_CreaCADENA_u(0));
