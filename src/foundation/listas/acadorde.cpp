@@ -12,7 +12,7 @@ namespace {
 
 template <class C> struct entrada {
     C *texto;
-    C *clave; // the text itself, or owned
+    C *clave; // the text itself, or a copy in upper case that is the entry's own
 };
 
 } // namespace
@@ -61,6 +61,7 @@ template <class A> void destruye(A **a) {
     const auto propio = vn::listas::toma_ordenado(a);
     for (uint32_t i = 0; propio != nullptr && i < propio->num; ++i) {
         auto &e = propio->datos[i];
+        // Where case is told apart the key is the text itself, and goes with it.
         if (e.clave != e.texto) vornspy_free_pp(&e.clave, 1);
         vornspy_free_pp(&e.texto, 1);
     }
@@ -71,9 +72,11 @@ template <class A> vnbool inserta(A *a, const typename A::caracter *s) {
     clave_de<A> clave(a, s);
     const auto sitio = busca_texto(a, clave);
     if (sitio.elemento != nullptr) return FALSO;
+    // Copied only once it is known to be new.
     vn::propio<typename A::caracter> texto(vn::listas::copia_texto(s));
     auto *con_clave = clave.plegada != nullptr ? clave.plegada.get() : texto.get();
     if (!vn::listas::inserta_en(a, sitio, {texto.get(), con_clave})) return FALSO;
+    // From here on both are the set's.
     static_cast<void>(texto.release());
     static_cast<void>(clave.plegada.release());
     return CIERTO;

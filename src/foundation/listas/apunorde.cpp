@@ -11,6 +11,7 @@ struct apunorde : vn::listas::ordenado<void *> {
 
 namespace {
 
+// A set without a destructor leaves its elements to the host.
 void destruye_elemento(const apunorde *a, void *p) {
     if (a->destructor != nullptr && p != nullptr) a->destructor(&p);
 }
@@ -19,10 +20,12 @@ auto busca_elemento(const apunorde *a, const void *p) {
     return vn::listas::busca(a, [=](const void *e) { return a->comparador(p, e, a->dato); });
 }
 
+// By the caller's comparer, which must agree with the order of the set.
 auto busca_clave(const apunorde *a, const void *clave, vnfunc_compara comparador) {
     return vn::listas::busca(a, [=](const void *e) { return comparador(clave, e); });
 }
 
+// True when the element is there; `pos` is where it is or would be.
 vnbool responde(const vn::listas::sitio_ordenado<void *> &sitio, uint32_t *pos) {
     if (pos != nullptr) *pos = sitio.pos;
     return vn::logico(sitio.elemento != nullptr);

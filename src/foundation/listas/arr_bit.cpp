@@ -10,6 +10,7 @@ struct arrBIT : vn::listas::arreglo<uint8_t> {
 
 namespace {
 
+// Rounded up without a sum that the largest counts would overflow.
 constexpr uint32_t bytes_de(uint32_t bits) { return bits / 8 + (bits % 8 != 0); }
 
 bool hay_bit(const arrBIT *a, uint32_t i) {
@@ -50,6 +51,7 @@ void arr_SetBIT(arrBIT *a, uint32_t i, vnbool v) {
 void arr_AppendBIT(arrBIT *a, vnbool v) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_LOGICO(v)) return;
     if (!AFIRMA_TEXTO(a->bits < vn::listas::MAXIMO, "num_elementos < ULONG_MAX")) return;
+    // A new byte only when the last one is full.
     if (a->bits % 8 == 0 && !vn::listas::anade(a, uint8_t{0})) return;
     arr_SetBIT(a, a->bits++, v);
 }
@@ -58,6 +60,7 @@ void arr_AumentaTamanyoBIT(arrBIT *a, uint32_t n) {
     if (!AFIRMA_NO_NULO(a) || !AFIRMA_TEXTO(n >= a->bits, "n >= num_elementos")) return;
     const uint32_t mas = bytes_de(n) - a->num;
     if (!vn::listas::asegura(a, mas)) return;
+    // The rest of the last byte is 0 already: only new ones have to be cleared.
     if (mas > 0) std::memset(a->datos + a->num, 0, mas);
     a->num += mas;
     a->bits = n;

@@ -21,6 +21,7 @@ void libera(auto *&s) {
     if (s != nullptr) vornspy_free_pp(&s, sizeof(*s));
 }
 
+// Frees the texts from number `n` on and leaves an array of that length.
 template <class A> void libera_desde(A *a, uint32_t n) {
     for (uint32_t i = n; i < a->num; ++i) libera(a->datos[i]);
     a->num = n;
@@ -34,6 +35,7 @@ template <class A> void destruye(A **a) {
 template <class A> bool anade_copias(A *a, const A *b, uint32_t n) {
     if (!vn::listas::asegura(a, n)) return false;
     for (uint32_t i = 0; i < n; ++i) {
+        // The count follows each copy, so that an array that is left halfway owns all it has.
         a->datos[a->num] = vn::listas::copia_texto(b->datos[i]);
         ++a->num;
     }
@@ -67,7 +69,7 @@ template <class A> void inserta_copia(A *a, uint32_t i, const caracter<A> *s) {
 template <class A> bool textos_iguales(const A *a, const A *b) {
     using C = caracter<A>;
     if (!EXIGE(a, b)) return false;
-    // Null is the same as null alone.
+    // A null text is equal to another null one and to nothing else.
     return a->num == b->num && std::equal(a->datos, a->datos + a->num, b->datos, [](const C *s, const C *t) {
                return s == nullptr || t == nullptr ? s == t : std::basic_string_view<C>(s) == t;
            });

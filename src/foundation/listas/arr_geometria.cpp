@@ -16,7 +16,7 @@ constexpr double TOLERANCIA_PASOS = 1e-6;
 
 bool hay_puntos(uint32_t n) { return AFIRMA_TEXTO(n >= 3 && n <= 1000000, "num_puntos >= 3 && num_puntos <= 1000000"); }
 
-// A circle is one of equal half axes, turned by nothing.
+// A circle is an ellipse of equal half axes that is not turned.
 struct elipse {
     double xc, yc, a, b, coseno, seno;
     Punto2D en(double angulo) const {
@@ -35,6 +35,7 @@ template <class F> void anade(arrPunto2D *a, uint32_t n, F &&f) {
 
 void arco(arrPunto2D *a, const elipse &e, double inicial, double final, uint32_t num_puntos) {
     const double dado = final - inicial;
+    // An arc with a value that is no number has no points.
     if (!std::isfinite(e.xc + e.yc + e.a + e.b + e.coseno + inicial + dado)) return;
     // More than a turn is a turn, either way.
     const double barrido = std::clamp(dado, -VUELTA, VUELTA);
@@ -69,7 +70,7 @@ void arr_GetMinimaxPunto2D(const arrPunto2D *a, double *xmin, double *ymin, doub
     *xmin = *ymin = *xmax = *ymax = 0.;
     if (!AFIRMA_TEXTO(arr_NumElemsPunto2D(a) > 0, "num_puntos > 0")) return;
     constexpr double INF = std::numeric_limits<double>::infinity();
-    // Comparisons that what is no number fails: it takes no part.
+    // What is no number fails every comparison, and so takes no part.
     double x1 = INF, y1 = INF, x2 = -INF, y2 = -INF;
     for (const Punto2D &p : vn::listas::tramo(a)) {
         x1 = p.x < x1 ? p.x : x1;
@@ -77,6 +78,7 @@ void arr_GetMinimaxPunto2D(const arrPunto2D *a, double *xmin, double *ymin, doub
         y1 = p.y < y1 ? p.y : y1;
         y2 = p.y > y2 ? p.y : y2;
     }
+    // An axis without a single number keeps its zeros.
     if (x1 <= x2) *xmin = x1, *xmax = x2;
     if (y1 <= y2) *ymin = y1, *ymax = y2;
 }
@@ -85,7 +87,7 @@ void arr_GetSegmentoPunto2D(const arrPunto2D *a, uint32_t i, double *x1, double 
     if (!AFIRMA_NO_NULO(a)) return;
     const auto puntos = vn::listas::tramo(a);
     if (!AFIRMA_TEXTO(i < puntos.size(), "i < num_elementos") || !EXIGE(x1, y1, x2, y2)) return;
-    // The last one closes the polygon.
+    // The last segment closes the polygon.
     const Punto2D &p = puntos[i], &q = puntos[i + 1 < puntos.size() ? i + 1 : 0];
     *x1 = p.x;
     *y1 = p.y;

@@ -15,7 +15,7 @@ void destruye(arrPuntero **a, vnfunc_destruye destructor) {
         if (propio->datos[i] != nullptr) destructor(&propio->datos[i]);
 }
 
-// A copier that takes nothing hands the pointer on.
+// Without a copier, and for a null element, the pointer itself is appended.
 bool anade_copias(arrPuntero *a, const arrPuntero *b, vnfunc_copia copiador) {
     const uint32_t n = b->num; // before `a` grows: both may be one
     if (!vn::listas::asegura(a, n)) return false;
@@ -153,6 +153,7 @@ void arr_RecorreEstructuraSimpleConTipo(const arrPuntero *a, vnfunc_recorre func
 vnbool arr_SonIgualesPunteroConTipo(const arrPuntero *a, const arrPuntero *b, vnfunc_compara comparador) {
     if (!EXIGE(a, b) || a->num != b->num) return FALSO;
     const bool todos = std::equal(a->datos, a->datos + a->num, b->datos, [comparador](const void *p, const void *q) {
+        // Without a comparer, and where an element is null, the pointers themselves decide.
         return comparador == nullptr || p == nullptr || q == nullptr ? p == q : comparador(p, q) == 0;
     });
     return vn::logico(todos);

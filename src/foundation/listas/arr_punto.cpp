@@ -31,6 +31,7 @@ bool cerca(double a, double b, double tolerancia) { return std::fabs(a - b) <= t
 
 void arr_DestruyePunto2DXPriv(arrPunto2DXPriv **a, vnfunc_destruye destructor) {
     const auto propio = vn::listas::toma(a);
+    // Without a destructor, what the points lead to stays the host's.
     if (propio == nullptr || destructor == nullptr) return;
     for (uint32_t i = 0; i < propio->num; ++i)
         if (propio->datos[i].priv != nullptr) destructor(&propio->datos[i].priv);

@@ -11,6 +11,7 @@ namespace {
 template <class A> constexpr bool ES_LOGICO = false;
 template <> constexpr bool ES_LOGICO<arrBOOL> = true;
 
+// Only truth values are checked; any other number is a good element.
 template <class A> bool vale(typename A::elemento v) {
     if constexpr (ES_LOGICO<A>) return AFIRMA_LOGICO(v);
     else return true;

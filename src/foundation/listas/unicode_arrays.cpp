@@ -15,6 +15,7 @@ template <class F> arrCADENA_u *ancha(const arrCADENA *a, F convierte) {
     const char *const *textos = arr_GetBufferConstCADENA(a);
     for (uint32_t i = 0, n = arr_NumElemsCADENA(a); i < n; ++i) {
         vnwchar *s = textos[i] != nullptr ? convierte(textos[i]) : nullptr;
+        // The array takes the new text over instead of copying it.
         arr_SetCADENAOriginal_u(r.get(), i, &s);
     }
     return r.release();
@@ -39,6 +40,7 @@ arrCADENA *unicode_array_salida_ANSI_tratando_error(const arrCADENA_u *a, vnbool
     arrCADENA *r = estrecha(a, [&](const vnwchar *s) {
         vnbool este = FALSO;
         char *t = unicode_a_salida_ANSI_tratando_error(s, &este);
+        // One text with characters that the page lacks marks the whole array.
         if (este == CIERTO) alguno = CIERTO;
         return t;
     });
