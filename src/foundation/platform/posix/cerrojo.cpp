@@ -38,6 +38,7 @@ std::string directorio_propio() {
     const auto base = base_de_configuracion();
     if (!base || !crea_directorios(*base)) return {};
     const std::string d = ruta_del_sistema(*base) + "/nucleos-lock";
+    // Made if it is missing; that it is this user's alone is looked at in either case.
     ::mkdir(d.c_str(), 0700);
     struct stat s {};
     const bool es_solo_mio =
@@ -89,7 +90,7 @@ constexpr int SITIOS = 8;
 
 bool anota(int fd, char c) { return ::pwrite(fd, &c, 1, 0) == 1; }
 
-// Belongs to the open file, not to the process: closing another opening of it does not drop it.
+// The lock of a byte belongs to the open file, not to the process: closing another opening does not drop it.
 bool bloquea(int fd, int orden, short modo, int desde, int cuantos, struct flock *como) {
     struct flock z {};
     z.l_type = modo;
@@ -109,9 +110,11 @@ bool espera_alguien(int fd) {
 
 // Takes the lock, in turn; false when the time passes or the system refuses.
 bool espera_turno(int fd, reloj::time_point fin) {
+    // Nobody waits and the lock is free: no place in the queue is needed.
     if (!espera_alguien(fd) && ocupa(fd, 0)) return true;
     int sitio = SITIOS + 1; // none yet
     for (reloj::duration pausa = 50us;;) {
+        // One place on: the one behind is given up only now, so that nobody gets past.
         if (ocupa(fd, sitio - 1)) {
             if (sitio <= SITIOS) deja(fd, sitio);
             if (--sitio == 0) return true;
@@ -124,6 +127,7 @@ bool espera_turno(int fd, reloj::time_point fin) {
             return false;
         }
         std::this_thread::sleep_for(std::min<reloj::duration>(pausa, fin - ahora));
+        // Those in front look more often than those far behind.
         pausa = std::min<reloj::duration>(pausa * 2, sitio * 1ms);
     }
 }
@@ -131,6 +135,7 @@ bool espera_turno(int fd, reloj::time_point fin) {
 } // namespace
 
 bool cerrojo::abre() {
+    // The lock of the whole machine if it can be had, else one among this user's programs.
     id_ = abre_en(directorio_comun(), nombre_);
     es_de_un_usuario_ = id_ < 0;
     if (id_ < 0) id_ = abre_en(directorio_propio(), nombre_);
@@ -145,6 +150,7 @@ cerrojo::toma cerrojo::entra(uint32_t milisegundos) {
         if (!espera_turno(fd, fin)) return toma::no;
         struct stat s {};
         if (::fstat(fd, &s) == 0 && s.st_nlink > 0) {
+            // A mark that was left there tells of a program that ended inside.
             char antes = LIBRE;
             const bool abandonado = ::pread(fd, &antes, 1, 0) == 1 && antes == DENTRO;
             anota(fd, DENTRO);

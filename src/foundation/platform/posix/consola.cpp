@@ -7,6 +7,7 @@ namespace vn::plat {
 namespace {
 void escribe(int salida, const char *utf8, size_t n) {
     const sin_senyales guarda;
+    // The system may take a part at a time; a stream that fails is given up in silence.
     while (n > 0) {
         const ssize_t k = ::write(salida, utf8, n);
         if (k < 0 && errno == EINTR) continue;

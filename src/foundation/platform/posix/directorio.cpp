@@ -26,6 +26,7 @@ using lista_abierta = dueno<cierra_directorio>;
 lista_abierta abre_en(int en, const char *nombre, int ademas) {
     descriptor d(::openat(en, nombre, O_RDONLY | O_DIRECTORY | O_CLOEXEC | ademas));
     lista_abierta lista(d.numero() >= 0 ? ::fdopendir(d.numero()) : nullptr);
+    // The list closes the descriptor from here on.
     if (lista != nullptr) d.suelta();
     return lista;
 }
@@ -131,6 +132,7 @@ bool recorrido::siguiente(ficha &f) {
     if (!abierto()) return false;
     errno = 0;
     if (lee_entrada(interior_->lista.get(), interior_->con_datos, f)) return true;
+    // A failed reading closes the walk, so that abierto() tells it from the end.
     if (errno != 0) interior_->lista.reset();
     return false;
 }
@@ -180,6 +182,7 @@ bool descenso::sal() {
 bool descenso::borra(const cadena_ancha &nombre) {
     const int en = ::dirfd(interior_->actual.get());
     const std::string b = ruta_del_sistema(nombre);
+    // Removed without asking what it is: that could change before the removal.
     return ::unlinkat(en, b.c_str(), 0) == 0 || (errno == EISDIR && ::unlinkat(en, b.c_str(), AT_REMOVEDIR) == 0);
 }
 
@@ -205,6 +208,7 @@ bool crea_directorios(const cadena_ancha &ruta) {
 
 bool borra_directorio(const cadena_ancha &ruta) {
     const ruta_en r(sin_separador_final(ruta));
+    // A link goes as a name, without what it leads to.
     return ::unlinkat(r.directorio(), r.nombre(), es_enlace(ruta) ? 0 : AT_REMOVEDIR) == 0;
 }
 
@@ -239,6 +243,7 @@ std::vector<cadena_ancha> directorios_de_programas() {
     std::vector<cadena_ancha> r;
     const cadena_ancha todos = variable("PATH").value_or(cadena_ancha(VNU("/usr/local/bin:/usr/bin:/bin"))) + VNU(':');
     for (size_t i = 0, j = 0; (j = todos.find(VNU(':'), i)) != cadena_ancha::npos; i = j + 1)
+        // An empty part of the list is the current directory.
         r.push_back(j > i ? todos.substr(i, j - i) : cadena_ancha(VNU(".")));
     return r;
 }

@@ -21,6 +21,7 @@ extern const bool lineas_con_retorno = false;
 
 namespace {
 
+// One call of the system moves less than 2 GiB.
 constexpr size_t MAXIMO_DE_UNA_VEZ = size_t{1} << 30;
 
 constexpr struct {
@@ -54,6 +55,7 @@ std::pair<std::string, std::string> parte(const std::string &ruta) {
     return {ruta.substr(0, inicio), ruta.substr(inicio)};
 }
 
+// Locks belong to the open file (F_OFD_*): closing another opening of it drops none.
 vnerror_fichero zona(int d, int orden, short tipo, int64_t inicio, int64_t tamanyo) {
     struct flock z = {};
     z.l_type = tipo;
@@ -74,6 +76,7 @@ vnerror_fichero entra_como_escritor(int d, uint32_t como) {
     return e == VN_FICH_COMPARTIDO || (unico && (como & VN_ABRE_PROPIO) == 0) ? e : VN_FICH_BIEN;
 }
 
+// VN_FICH_BIEN while the name is that of the open file.
 vnerror_fichero lleva_a(const std::string &ruta, int d) {
     struct stat s, t;
     if (::fstat(d, &s) != 0 || ::lstat(ruta.c_str(), &t) != 0) return ultimo_error();
@@ -141,7 +144,7 @@ vnerror_fichero escribe(vnid_fichero id, int64_t posicion, const void *origen, s
     n = std::min(n, MAXIMO_DE_UNA_VEZ);
     const sin_senyales guarda;
     ssize_t k = posicion < 0 ? ::write(fd(id), origen, n) : ::pwrite(fd(id), origen, n, posicion);
-    // As in reading.
+    // A pipe takes no positions here either.
     if (k < 0 && posicion >= 0 && errno == ESPIPE) k = ::write(fd(id), origen, n);
     return transferido(k, escritos);
 }
@@ -174,6 +177,7 @@ vnerror_fichero estado(const vnwchar *nombre, vnestado_fichero *e) {
 }
 
 vnerror_fichero bloquea(vnid_fichero id, int64_t inicio, int64_t tamanyo, uint32_t modo) {
+    // A zone that would reach the byte of the writers is refused.
     if (inicio > BYTE_DE_ESCRITORES - tamanyo) return VN_FICH_NO_ADMITIDO;
     return zona(fd(id), (modo & VN_ZONA_ESPERA) != 0 ? F_OFD_SETLKW : F_OFD_SETLK,
                 static_cast<short>((modo & VN_ZONA_COMPARTIDA) != 0 ? F_RDLCK : F_WRLCK), inicio, tamanyo);
@@ -285,7 +289,7 @@ vnerror_fichero copia_permisos(const vnwchar *origen, vnid_fichero destino) {
 vnerror_fichero vuelca_directorio(const vnwchar *nombre) {
     const std::string ruta = parte(bytes(nombre)).first;
     const int d = aparta(::open(ruta.empty() ? "." : ruta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    // A directory in which one may write and not look.
+    // A directory that may be written and not read cannot be flushed.
     if (d < 0) return errno == EACCES ? VN_FICH_NO_ADMITIDO : ultimo_error();
     const vnerror_fichero e = resultado(::fsync(d));
     ::close(d);
@@ -294,6 +298,7 @@ vnerror_fichero vuelca_directorio(const vnwchar *nombre) {
 
 void espera(uint32_t milisegundos) {
     timespec t{milisegundos / 1000, static_cast<long>(milisegundos % 1000) * 1000000};
+    // An interrupted wait goes on with what is left of it.
     while (::nanosleep(&t, &t) != 0 && errno == EINTR) {
     }
 }
@@ -308,6 +313,7 @@ size_t mide_nombre(std::basic_string_view<vnwchar> nombre) { return ruta_del_sis
 bool se_puede_reemplazar(const vnwchar *nombre) {
     const std::string ruta = bytes(nombre), directorio = parte(ruta).first;
     struct stat s, d;
+    // What cannot be looked at is left to the rename itself.
     if (::lstat(ruta.c_str(), &s) != 0 || ::stat(directorio.empty() ? "." : directorio.c_str(), &d) != 0) return true;
     const uid_t yo = ::geteuid();
     return (d.st_mode & S_ISVTX) == 0 || yo == 0 || s.st_uid == yo || d.st_uid == yo;

@@ -9,6 +9,7 @@
 namespace vn::plat {
 namespace {
 
+// Wide text of UTF-8; bytes that are none become the replacement character.
 std::basic_string<vnwchar> ancho(std::string_view utf8) {
     std::basic_string<vnwchar> u;
     for (size_t i = 0; i < utf8.size();) {
@@ -25,6 +26,7 @@ std::basic_string<vnwchar> nombre_de_la_maquina() {
     std::array<char, 256> nombre{};
     if (::gethostname(nombre.data(), nombre.size() - 1) != 0) return {};
     const std::string_view n = nombre.data();
+    // The machine alone, without the domain behind its name.
     return ancho(n.substr(0, n.find('.')));
 }
 
@@ -40,6 +42,7 @@ bool nombre_del_usuario(std::basic_string<vnwchar> &nombre) {
 
 uint64_t milisegundos_de_la_maquina() {
     struct timespec t {};
+    // The coarse clock is the cheapest, and its steps of some milliseconds are fine enough here.
     ::clock_gettime(CLOCK_MONOTONIC_COARSE, &t);
     return static_cast<uint64_t>(t.tv_sec) * 1000 + static_cast<uint64_t>(t.tv_nsec) / 1000000;
 }

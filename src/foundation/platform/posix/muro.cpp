@@ -7,6 +7,7 @@ extern "C" {
 void *__wrap__Znwm(size_t n);
 void *__wrap__Znam(size_t n);
 
+// The forms that answer null are not wrapped; their null ends in exige().
 void *__wrap__Znwm(size_t n) { return exige(::operator new(n, std::nothrow)); }
 void *__wrap__Znam(size_t n) { return exige(::operator new[](n, std::nothrow)); }
 

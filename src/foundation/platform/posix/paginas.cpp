@@ -16,6 +16,7 @@ decodificador::decodificador(uint32_t pagina) : pagina_(pagina) {
         UErrorCode error = U_ZERO_ERROR;
         UConverter *c = ucnv_open(nombre, &error);
         if (U_FAILURE(error)) continue;
+        // Bytes that are no character fail instead of becoming a replacement.
         ucnv_setToUCallBack(c, UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &error);
         propio_ = c;
         bytes_ = static_cast<unsigned>(ucnv_getMaxCharSize(c));
@@ -31,6 +32,7 @@ bool decodificador::unidad(const unsigned char *bytes, int n, char16_t &u) {
     UErrorCode error = U_ZERO_ERROR;
     char16_t salida[4];
     auto *c = static_cast<UConverter *>(propio_);
+    // Each question begins without the state of the one before.
     ucnv_reset(c);
     const int32_t hay = ucnv_toUChars(c, salida, 4, reinterpret_cast<const char *>(bytes), n, &error);
     if (U_FAILURE(error) || hay != 1 || salida[0] == 0xFFFD) return false;
@@ -40,6 +42,7 @@ bool decodificador::unidad(const unsigned char *bytes, int n, char16_t &u) {
 }
 
 void mapas_de_caja(char16_t *mayusculas, char16_t *minusculas) {
+    // Halves of surrogate pairs have no case and stay as they are.
     for (uint32_t c = 0; c < NUM_UNIDADES; ++c) {
         const auto u = static_cast<UChar32>(c);
         mayusculas[c] = U_IS_SURROGATE(u) ? static_cast<char16_t>(c) : static_cast<char16_t>(u_toupper(u));

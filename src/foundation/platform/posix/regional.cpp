@@ -30,18 +30,21 @@ std::string del_entorno(const char *categoria) {
 std::string canonico(const std::string &nombre) {
     if (nombre.empty() || nombre.size() > 100) return "";
     const std::string_view sin_juego = std::string_view(nombre).substr(0, nombre.find('.'));
+    // An environment without a region reads as English of the United States.
     if (sin_juego == "C" || sin_juego == "POSIX") return "en_US";
     char sitio[ULOC_FULLNAME_CAPACITY];
     UErrorCode error = U_ZERO_ERROR;
     const int32_t n = uloc_canonicalize(nombre.c_str(), sitio, sizeof sitio, &error);
     if (U_FAILURE(error) || n <= 0 || error == U_STRING_NOT_TERMINATED_WARNING) return "";
     const std::unique_ptr<UResourceBundle, cierra<ures_close>> tabla(ures_open(nullptr, sitio, &error));
+    // Data of the default region mean that the tables do not know the language.
     return U_FAILURE(error) || error == U_USING_DEFAULT_WARNING ? "" : sitio;
 }
 
 // Runs a call of the tables that fills room and says how much it needs.
 template <class F> cadena_ancha con_sitio(F llama) {
     cadena_ancha t(64, 0);
+    // The second time with the room that the first one asked for.
     for (int vez = 0; vez < 2; ++vez) {
         UErrorCode error = U_ZERO_ERROR;
         const int32_t n = llama(t.data(), static_cast<int32_t>(t.size()), &error);
@@ -92,7 +95,7 @@ cadena_ancha patron_de(const UDateFormat *f) {
     return con_sitio([&](vnwchar *p, int32_t n, UErrorCode *e) { return udat_toPattern(f, 0, p, n, e); });
 }
 
-// Quoting is the same in both; a year has four digits, as in a short date of Windows.
+// The picture of a pattern: quoting is the same in both, and a year has four digits, as in a short date of Windows.
 cadena_ancha modelo_de(const cadena_ancha &patron) {
     cadena_ancha modelo;
     for (size_t i = 0; i < patron.size();) {
@@ -131,6 +134,7 @@ cadena_ancha separador_de(vista modelo) {
     return s;
 }
 
+// The system's number of an order: 0 begins with the month, 1 with the day, 2 with the year.
 vnwchar orden_de(vista modelo) {
     const size_t d = modelo.find(u'd'), m = modelo.find(u'M'), y = modelo.find(u'y');
     return y < d && y < m ? u'2' : d < m ? u'1' : u'0';
@@ -199,6 +203,7 @@ bool lee_numeros(const std::string &nombre, region &r) {
     r.signo_menos = simbolo(UNUM_MINUS_SIGN_SYMBOL);
     // The tables do not have it; this is what Windows has for the regions of the family.
     r.separador_campos = r.separador_decimal == u"," ? u";" : u",";
+    // Sizes of groups from the right, the last one again and again: "3;0", or "3;2;0".
     r.agrupacion.clear();
     for (const auto que : {UNUM_GROUPING_SIZE, UNUM_SECONDARY_GROUPING_SIZE})
         if (const int32_t n = unum_getAttribute(f.get(), que); n > 0 && n < 10)
@@ -219,6 +224,7 @@ bool lee_region(const char *nombre, region &r) {
         const std::string suyo = canonico(nombre);
         return !suyo.empty() && lee_numeros(suyo, r) && lee_fechas(suyo, r);
     }
+    // Numbers and dates each follow their own variable, as users mix them.
     const auto o_ingles = [](const std::string &n) { return n.empty() ? std::string("en_US") : n; };
     return lee_numeros(o_ingles(canonico(del_entorno("LC_NUMERIC"))), r) &&
            lee_fechas(o_ingles(canonico(del_entorno("LC_TIME"))), r);

@@ -6,6 +6,7 @@
 namespace vn::plat {
 namespace {
 
+// No more is asked for than others are given: a mutex made by another user opens too.
 constexpr DWORD DERECHOS = SYNCHRONIZE | MUTEX_MODIFY_STATE;
 // Every user of the machine may wait for it and free it, whoever made it, elevated or not.
 constexpr const wchar_t *PERMISOS = L"D:(A;;0x001F0001;;;OW)(A;;0x00100001;;;AU)";
@@ -42,6 +43,7 @@ void cerrojo::olvida() {
     id_ = -1;
 }
 
+// No process of this system splits.
 void al_bifurcarse(void (*)(), void (*)(), void (*)()) {}
 
 } // namespace vn::plat

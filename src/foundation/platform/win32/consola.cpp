@@ -7,6 +7,7 @@ namespace vn::plat {
 namespace {
 void escribe(DWORD cual, const char *utf8, size_t n) {
     const HANDLE salida = GetStdHandle(cual);
+    // A program with windows alone may have no stream.
     if (salida == nullptr || salida == INVALID_HANDLE_VALUE) return;
     DWORD escritos = 0;
     WriteFile(salida, utf8, static_cast<DWORD>(n), &escritos, nullptr);

@@ -44,6 +44,7 @@ template <class T> void copia(const T &d, ficha &f) {
     f.fecha = segundos(d.ftLastWriteTime);
 }
 
+// The data of what a link leads to, told as a link; false if it leads nowhere.
 bool sigue_enlace(const cadena_ancha &ruta, ficha &f) {
     const handle h = abre(ruta, FILE_READ_ATTRIBUTES);
     BY_HANDLE_FILE_INFORMATION d{};
@@ -90,6 +91,7 @@ void quita_proteccion(const cadena_ancha &del_sistema) {
     CloseHandle(h);
 }
 
+// True when a directory can be made there, which is tried out: attributes and rights alone do not tell.
 bool se_crea_en(const cadena_ancha &raiz) {
     const cadena_ancha prueba = raiz + L"\\~nucleos" + std::to_wstring(GetCurrentProcessId());
     return CreateDirectoryW(prueba.c_str(), nullptr) && RemoveDirectoryW(prueba.c_str());
@@ -144,6 +146,7 @@ void cierra(HANDLE &busqueda) {
 struct recorrido::interior {
     cadena_ancha directorio;
     HANDLE busqueda;
+    // The record that is read ahead, while `pendiente` says that there is one.
     WIN32_FIND_DATAW dato;
     bool pendiente;
 };
@@ -172,6 +175,7 @@ bool recorrido::siguiente(ficha &f) {
         f = {};
         copia(d, f);
         if (lleva_a_otro(d)) {
+            // The entry knows whether it is a directory's link, also where its target is gone.
             const bool es_directorio = f.es_directorio;
             f.es_enlace = true;
             sigue_enlace(i.directorio + cadena_ancha(nombre), f);
@@ -195,6 +199,7 @@ struct descenso::interior {
 
     cadena_ancha ruta_de(const cadena_ancha &nombre) const { return ruta_del_sistema(ruta + L'\\' + nombre); }
     bool sujeta() {
+        // Opened as itself, so that a link is seen and not followed.
         handle h(CreateFileW(ruta_del_sistema(ruta).c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE,
                              nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT,
                              nullptr));
@@ -240,6 +245,7 @@ bool descenso::sal() {
 bool descenso::borra(const cadena_ancha &nombre) {
     const cadena_ancha r = interior_->ruta_de(nombre);
     quita_proteccion(r);
+    // The one removes files, the other directories.
     return DeleteFileW(r.c_str()) || RemoveDirectoryW(r.c_str());
 }
 
@@ -282,6 +288,7 @@ cadena_ancha ruta_del_programa() {
 }
 
 std::optional<cadena_ancha> base_de_configuracion() {
+    // The variable first, which a user may set; without it (a service) the system is asked.
     if (auto v = variable("APPDATA")) return sin_separador_final(*v);
     std::wstring sitio(MAX_PATH, L'\0');
     if (FAILED(SHGetFolderPathW(nullptr, CSIDL_APPDATA | CSIDL_FLAG_CREATE, nullptr, SHGFP_TYPE_CURRENT, sitio.data())))
@@ -291,6 +298,7 @@ std::optional<cadena_ancha> base_de_configuracion() {
 
 cadena_ancha unidad_escribible() {
     const cadena_ancha programa = ruta_del_programa();
+    // The drive of the program if it can be written, else that of the system.
     if (programa.size() > 2 && programa[1] == L':' && se_crea_en(programa.substr(0, 2))) return programa.substr(0, 2);
     const cadena_ancha sistema = con_sitio([](LPWSTR p, DWORD k) { return GetWindowsDirectoryW(p, k); });
     return sistema.size() > 1 && sistema[1] == L':' ? sistema.substr(0, 2) : cadena_ancha(L"C:");
@@ -298,6 +306,7 @@ cadena_ancha unidad_escribible() {
 
 namespace {
 
+// The parts between semicolons, without quotation marks; empty ones are left out.
 std::vector<cadena_ancha> separados(const cadena_ancha &todos) {
     std::vector<cadena_ancha> r;
     const cadena_ancha t = todos + L";";

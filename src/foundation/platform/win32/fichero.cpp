@@ -12,6 +12,7 @@ extern const bool lineas_con_retorno = true;
 
 namespace {
 
+// The counts of the system's calls have 32 bits.
 constexpr size_t MAXIMO_DE_UNA_VEZ = size_t{1} << 30;
 constexpr DWORD TODOS = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
@@ -98,6 +99,7 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     if (h == INVALID_HANDLE_VALUE && propio && GetLastError() == ERROR_ACCESS_DENIED)
         h = intenta(acceso & ~static_cast<DWORD>(WRITE_DAC));
     if (h == INVALID_HANDLE_VALUE) {
+        // The system refuses a directory as if by rights.
         const DWORD error = GetLastError();
         const DWORD atributos =
             error == ERROR_ACCESS_DENIED ? GetFileAttributesW(ruta.c_str()) : INVALID_FILE_ATTRIBUTES;
@@ -108,6 +110,7 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     const vnid_fichero nuevo = reinterpret_cast<vnid_fichero>(h);
     BY_HANDLE_FILE_INFORMATION datos;
     vnerror_fichero e = VN_FICH_BIEN;
+    // One's own is no link that somebody put in its place.
     if (propio &&
         (!GetFileInformationByHandle(h, &datos) || (datos.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0))
         e = VN_FICH_NO_ADMITIDO;
@@ -226,6 +229,7 @@ vnerror_fichero es_su_nombre(vnid_fichero id, const vnwchar *nombre) {
     const vnerror_fichero e = resultado(bien);
     CloseHandle(h);
     if (e != VN_FICH_BIEN) return e;
+    // Two openings are of one file when its volume and its index are the same.
     return a.dwVolumeSerialNumber == b.dwVolumeSerialNumber && a.nFileIndexHigh == b.nFileIndexHigh &&
                    a.nFileIndexLow == b.nFileIndexLow
                ? VN_FICH_BIEN
@@ -248,6 +252,7 @@ vnerror_fichero renombra_abierto(vnid_fichero id, const vnwchar *, const vnwchar
         *reinterpret_cast<DWORD *>(datos) = banderas; // in the place of ReplaceIfExists
         return SetFileInformationByHandle(handle(id), clase, datos, static_cast<DWORD>(todo)) != 0;
     };
+    // Systems and file systems that lack the first way take the second.
     return hace(RENOMBRA_CON_LECTORES, REEMPLAZA | CON_LECTORES) || hace(FileRenameInfo, REEMPLAZA)
                ? VN_FICH_BIEN
                : error_al_renombrar(GetLastError(), final);
@@ -307,13 +312,14 @@ void espera(uint32_t milisegundos) { Sleep(milisegundos); }
 } // namespace
 
 bool mismo_camino(const std::wstring &a, const std::wstring &b) {
+    // As the system compares names: without case, and by no language's rules.
     return CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(), static_cast<int>(b.size()), TRUE) ==
            CSTR_EQUAL;
 }
 
 size_t mide_nombre(std::wstring_view nombre) { return nombre.size(); }
 
-// The rename says so, before anything is lost.
+// The rename itself is refused where rights forbid it, before anything is lost.
 bool se_puede_reemplazar(const vnwchar *) { return true; }
 
 extern const vnoperaciones_fichero operaciones_de_fichero = {

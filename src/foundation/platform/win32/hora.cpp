@@ -13,6 +13,7 @@ constexpr int64_t DESDE_1601 = 11644473600;
 constexpr int64_t PRIMERO_DE_LA_BIBLIOTECA = 0, ULTIMO_DE_LA_BIBLIOTECA = 32535215999;
 constexpr int64_t ULTIMO_DEL_SISTEMA = 253402300799; // the year 9999
 
+// Steps of 100 ns since 1601.
 int64_t pasos(const FILETIME &t) {
     return static_cast<int64_t>(static_cast<uint64_t>(t.dwHighDateTime) << 32 | t.dwLowDateTime);
 }

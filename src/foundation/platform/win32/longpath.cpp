@@ -4,6 +4,7 @@
 
 namespace vn::plat {
 
+// The public numbers go to the system as they are.
 static_assert(VNLONGPATH_GENERIC_READ == GENERIC_READ && VNLONGPATH_GENERIC_WRITE == GENERIC_WRITE);
 static_assert(VNLONGPATH_CREATE_NEW == CREATE_NEW && VNLONGPATH_TRUNCATE_EXISTING == TRUNCATE_EXISTING);
 static_assert(VNLONGPATH_FILE_ATTRIBUTE_READONLY == FILE_ATTRIBUTE_READONLY &&
@@ -15,7 +16,7 @@ static_assert(VNLONGPATH_FILE_FLAG_BACKUP_SEMANTICS == FILE_FLAG_BACKUP_SEMANTIC
 
 void *abre_fichero(const cadena_ancha &nombre, uint32_t acceso, uint32_t comparticion, void *seguridad,
                    uint32_t disposicion, uint32_t atributos, void *plantilla) {
-    // As documented; not every system sees to it.
+    // The documented rule, which not every system enforces.
     if (disposicion == TRUNCATE_EXISTING && (acceso & (GENERIC_WRITE | GENERIC_ALL | FILE_WRITE_DATA)) == 0) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return VNLONGPATH_INVALID_HANDLE;

@@ -61,6 +61,7 @@ bool lee_dias(const lector &lee, LCTYPE lunes, std::array<std::wstring, 7> &dias
 
 } // namespace
 
+// Nothing tells of a change, so the settings are read again each time.
 std::string origen_de_la_region() { return {}; }
 
 bool lee_region(const char *nombre, region &r) {
@@ -70,6 +71,7 @@ bool lee_region(const char *nombre, region &r) {
         if (ancho.empty() || !IsValidLocaleName(ancho.c_str())) return false;
     }
     const wchar_t *el_nombre = ancho.empty() ? LOCALE_NAME_USER_DEFAULT : ancho.c_str();
+    // A region by name is read without what this user has changed in it.
     const lector lee(el_nombre, ancho.empty() ? 0 : LOCALE_NOUSEROVERRIDE);
     for (const fila &f : DATOS)
         if (!lee(f.numero, r.*f.campo)) return false;
@@ -78,6 +80,7 @@ bool lee_region(const char *nombre, region &r) {
         return false;
     r.dias_en_fecha = r.dias;
     r.dias_abreviados_en_fecha = r.dias_abreviados;
+    // The form of a month beside its day; a language without one has its plain name.
     for (LCTYPE i = 0; i < 12; ++i)
         if (!lee((LOCALE_SMONTHNAME1 + i) | LOCALE_RETURN_GENITIVE_NAMES, r.meses_en_fecha[i]) ||
             r.meses_en_fecha[i].empty())

@@ -28,8 +28,10 @@ bool lee(HKEY h, const wchar_t *valor, cadena_ancha &contenido) {
     for (DWORD bytes = 256;;) {
         contenido.resize(bytes / sizeof(wchar_t));
         const LSTATUS e = RegGetValueW(h, nullptr, valor, RRF_RT_REG_SZ, nullptr, contenido.data(), &bytes);
+        // The call has said how much room it needs.
         if (e == ERROR_MORE_DATA) continue;
         if (e != ERROR_SUCCESS) return false;
+        // The text ends at its first zero.
         contenido.resize(wcsnlen(contenido.data(), bytes / sizeof(wchar_t)));
         return true;
     }
@@ -45,6 +47,7 @@ bool lee_registro(uint32_t raiz, const cadena_ancha &clave, const cadena_ancha &
 bool subclaves_de_registro(uint32_t raiz, const cadena_ancha &clave, std::vector<cadena_ancha> &nombres) {
     const clave_abierta h = abre(raiz, clave, KEY_ENUMERATE_SUB_KEYS);
     if (h == nullptr) return false;
+    // The name of a key has at most 255 units.
     wchar_t nombre[256];
     for (DWORD i = 0, n = 256;
          RegEnumKeyExW(h.get(), i, nombre, &n, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS; ++i, n = 256)
@@ -66,6 +69,7 @@ bool textos_de_registro(uint32_t raiz, const cadena_ancha &clave, uint32_t que_v
         if (RegEnumValueW(h.get(), i, nombre.data(), &n, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
             return true;
         cadena_ancha contenido;
+        // Values that are no texts are left out.
         if (lee(h.get(), nombre.c_str(), contenido)) textos.emplace_back(nombre.substr(0, n), contenido);
     }
 }
@@ -73,6 +77,7 @@ bool textos_de_registro(uint32_t raiz, const cadena_ancha &clave, uint32_t que_v
 bool escribe_registro(uint32_t raiz, const cadena_ancha &clave, const cadena_ancha &valor, const vnwchar *contenido) {
     if (contenido == nullptr) {
         const clave_abierta h = abre(raiz, clave, KEY_SET_VALUE);
+        // Where the key is not there the value is gone already.
         if (h == nullptr) return !hay_clave_de_registro(raiz, clave);
         const LSTATUS e = RegDeleteValueW(h.get(), valor.c_str());
         return e == ERROR_SUCCESS || e == ERROR_FILE_NOT_FOUND;
@@ -82,6 +87,7 @@ bool escribe_registro(uint32_t raiz, const cadena_ancha &clave, const cadena_anc
         ERROR_SUCCESS)
         return false;
     const clave_abierta h(nueva);
+    // The zero at the end is stored too.
     const auto bytes = static_cast<DWORD>((wcslen(contenido) + 1) * sizeof(wchar_t));
     return RegSetValueExW(h.get(), valor.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE *>(contenido), bytes) ==
            ERROR_SUCCESS;

@@ -12,7 +12,9 @@ std::wstring ruta_del_sistema(std::wstring_view ruta) {
     if (n <= LIMITE_CLASICO) return tal_cual;
     std::wstring completa(n, L'\0');
     completa.resize(GetFullPathNameW(tal_cual.c_str(), n, completa.data(), nullptr));
+    // A device keeps its name.
     if (completa.starts_with(LR"(\\.\)")) return tal_cual;
+    // The prefix lifts the limit of length; a share of the network has its own form of it.
     if (completa.starts_with(LR"(\\)")) return LR"(\\?\UNC\)" + completa.substr(2);
     return LR"(\\?\)" + completa;
 }

@@ -6,6 +6,7 @@ namespace vn::plat {
 
 bool variable_definida(const char *nombre) {
     SetLastError(ERROR_SUCCESS);
+    // An empty variable answers 0 too: the error tells it from one that is missing.
     return GetEnvironmentVariableA(nombre, nullptr, 0) != 0 || GetLastError() == ERROR_SUCCESS;
 }
 
@@ -32,6 +33,7 @@ bool lee_variable(const vnwchar *nombre, std::basic_string<vnwchar> &valor) {
 }
 
 bool establece_variable(const vnwchar *nombre, const vnwchar *valor) {
+    // Through the C library, whose own copy must agree with the system's.
     const std::wstring asignacion = std::wstring(nombre) + L'=' + valor;
     return _wputenv(asignacion.c_str()) == 0;
 }
