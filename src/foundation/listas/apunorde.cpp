@@ -16,6 +16,7 @@ void destruye_elemento(const apunorde *a, void *p) {
     if (a->destructor != nullptr && p != nullptr) a->destructor(&p);
 }
 
+// By the set's own comparer, with the datum that it was made with.
 auto busca_elemento(const apunorde *a, const void *p) {
     return vn::listas::busca(a, [=](const void *e) { return a->comparador(p, e, a->dato); });
 }

@@ -42,6 +42,7 @@ template <class A> bool anade_copias(A *a, const A *b, uint32_t n) {
     return true;
 }
 
+// A new array with its own copy of each text.
 template <class A> A *copia_textos(const A *a) {
     if (!AFIRMA_NO_NULO(a)) return nullptr;
     vn::dueno<destruye<A>> b(vn::listas::crea<A>(0));

@@ -34,6 +34,7 @@ bool nombre_del_usuario(std::basic_string<vnwchar> &nombre) {
     std::array<char, 16384> sitio{};
     struct passwd p {
     }, *hay = nullptr;
+    // The user whose rights the program has, not the variable that a shell sets.
     if (::getpwuid_r(::geteuid(), &p, sitio.data(), sitio.size(), &hay) != 0 || hay == nullptr || *p.pw_name == 0)
         return false;
     nombre = ancho(p.pw_name);

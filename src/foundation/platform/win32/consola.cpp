@@ -25,6 +25,7 @@ guarda_error::~guarda_error() {
 
 void fija_en_memoria(const void *direccion) {
     HMODULE modulo = nullptr;
+    // Pinned: the module then stays until the process ends, however often it is freed.
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
                        static_cast<LPCWSTR>(direccion), &modulo);
 }

@@ -258,6 +258,7 @@ bool crea_directorios(const cadena_ancha &ruta) {
         if (nombre == cadena_ancha::npos || nombre == 0) return false;
         fin = entera.find_last_not_of(L"\\/", nombre) + 1;
     }
+    // Nothing of a path that had a name could be made; without one there was nothing to make.
     if (fin == 0) return entera.empty();
     while (fin < entera.size()) {
         fin = std::min(entera.find_first_of(L"\\/", entera.find_first_not_of(L"\\/", fin)), entera.size());

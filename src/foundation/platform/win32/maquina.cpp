@@ -14,6 +14,7 @@ std::basic_string<vnwchar> nombre_de_la_maquina() {
 bool nombre_del_usuario(std::basic_string<vnwchar> &nombre) {
     wchar_t sitio[UNLEN + 1];
     DWORD n = UNLEN + 1; // with the zero
+    // A name of no units is none.
     if (!GetUserNameW(sitio, &n) || n < 2) return false;
     nombre.assign(sitio, n - 1);
     return true;

@@ -4,6 +4,7 @@
 namespace vn::plat {
 namespace {
 
+// An item of the system's and the setting that it becomes; all are texts, numbers too.
 struct fila {
     LCTYPE numero;
     std::wstring region::*campo;
