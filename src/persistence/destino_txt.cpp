@@ -44,6 +44,7 @@ std::string escapa(const char *s) {
     return t;
 }
 char *quita_escapes(char *s) {
+    // In place, from the first escape on: without its escapes a text only becomes shorter.
     char *d = std::strchr(s, ficheros::ESCAPE_DE_UNIDAD);
     for (const char *p = d; p != nullptr && (*d = *p) != '\0'; ++p, ++d) {
         if (*p != ficheros::ESCAPE_DE_UNIDAD) continue;
@@ -72,6 +73,7 @@ void graba_linea(const char *s, vnfichero *f) {
     graba_cadena_en_linea(s, f);
 }
 char *lee_linea(vnfichero *f) {
+    // A line that has no room is reported and read to its end.
     char linea[TAMANYO_LINEA];
     vtxt_lee_string(f, linea, sizeof linea);
     return cad_copia_cadena(quita_escapes(linea));

@@ -79,6 +79,7 @@ void lee_fichero(lectura *l) {
     const uint16_t version = l->version = vtxt_lee_ushrt(f);
     salta_comentario(f);
     if (!AFIRMA(version <= VERSION_NOMBRE_OBRA)) return;
+    // The first forms hold one name, and no mark of an orderly close.
     if (version < 2) {
         char *nombre = vtxt_lee_cadena_ansi_ascii(f, version, ULTIMA_VERSION_ASCII);
         anade(o, texto_propio(utunicode_ANSI_a_UNICODE_destruyendo_p(nombre)));
@@ -90,6 +91,7 @@ void lee_fichero(lectura *l) {
     const uint32_t numFicheros = vtxt_lee_ulong(f);
     salta_comentario(f);
     if (!AFIRMA(numFicheros > 0)) return;
+    // Names beyond those that are kept are not read.
     for (uint32_t i = 0; i < std::min(numFicheros, MAXIMO_OBRAS); ++i)
         anade(o, texto_propio(version < 5 ? vtxt_lee_cadena_ansi_a_unicode(f) : vtxt_lee_cadena_unicode(f)));
     l->leidas = std::move(o);
@@ -100,6 +102,7 @@ void lee_fichero(lectura *l) {
 std::optional<obras> lee_si_se_puede(const vnwchar *path_lista) {
     uint64_t tamanyo = 0;
     if (path_lista == nullptr || vdir_existe_fichero_UNICODE(path_lista) != CIERTO) return obras();
+    // An empty file holds no list: it goes without a report.
     if (vdir_longitud_fichero_seguro_u(path_lista, &tamanyo) == CIERTO && tamanyo == 0) {
         vdir_borra_fichero_con_comprobacion_UNICODE(path_lista);
         return obras();
@@ -108,6 +111,7 @@ std::optional<obras> lee_si_se_puede(const vnwchar *path_lista) {
     if (f == nullptr) return std::nullopt;
     lectura l{f.get(), 0, {}};
     const vnbool bien = trapable_ejecuta_funcion_segura(lectura, lee_fichero, &l, nullptr);
+    // A fault of the disk says nothing about the list.
     if (lc_ultimo_error(f.get()) != VN_FICH_BIEN) return std::nullopt;
     f.reset();
     if (bien == CIERTO) return std::move(l.leidas);
@@ -141,6 +145,7 @@ void escribe_fichero(escritura *e) {
     vtxt_escr_ulong(num, f.get());
     vtxt_escr_string("; n\xFAmero de ficheros", f.get());
     for (uint32_t i = 0; i < num; ++i) vtxt_escr_cadena_unicode(arr_GetCADENA_u(lista, i), f.get());
+    // What was not written whole does not take the place of the old list.
     if (vn::atrapado()) return;
     vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), e->path);
 }
@@ -163,6 +168,7 @@ bool pasa(const vnwchar *entrada, const arrCADENA_u *extensiones) {
     const std::basic_string_view<vnwchar> ruta(ruta_de(entrada));
     if (ruta.empty() || vdir_es_path_valido_UNICODE(ruta.data(), 0) != CIERTO) return false;
     if (extensiones == nullptr) return true;
+    // A directory has no extension to compare.
     if (ruta.back() == VNU('\\')) return false;
     const texto_propio extension(vdir_extension_fichero_UNICODE(ruta.data()));
     return arr_ExisteMayMinCADENA_u(extensiones, extension.get(), nullptr) == CIERTO;
@@ -170,6 +176,7 @@ bool pasa(const vnwchar *entrada, const arrCADENA_u *extensiones) {
 
 obras lee_filtrada(const vnwchar *path_lista, const arrCADENA_u *extensiones) {
     obras o = lee(path_lista);
+    // From the end, so that a deletion moves no index that is still to come.
     for (uint32_t i = arr_NumElemsCADENA_u(o.lista.get()); i-- > 0;)
         if (!pasa(arr_GetCADENA_u(o.lista.get(), i), extensiones)) arr_BorrarCADENA_u(o.lista.get(), i);
     if (arr_NumElemsCADENA_u(o.lista.get()) == 0) o.finalizada = FALSO;

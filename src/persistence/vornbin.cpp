@@ -8,6 +8,7 @@
 
 namespace vn {
 
+// The byte that tells a reader whether each value has a tag before it; the environment asks for tags.
 void bin_graba_modo_debug(vnfichero *f) {
     f->etiquetas_al_escribir = vnstdc_getenv("GRABARCONDEBUG") != nullptr;
     const uint8_t modo = f->etiquetas_al_escribir ? 1 : 0;
@@ -16,6 +17,7 @@ void bin_graba_modo_debug(vnfichero *f) {
 
 bool bin_lee_modo_debug(vnfichero *f) {
     uint8_t modo = 0;
+    // Only 0 and 1 are ever written: any other value tells that this is no such file.
     if (f_lc_fread_sin_error(&modo, 1, 1, f) != 1 || modo > 1) return false;
     f->etiquetas_al_leer = modo == 1;
     return true;
@@ -65,12 +67,14 @@ X(double, 'd', double, bin_graba_double, bin_lee_double)
 #undef X
 
 void bin_graba_bool(vnbool valor, vnfichero *f) {
+    // The byte goes out all the same, so that what follows keeps its place; the save fails.
     if (!AFIRMA_LOGICO(valor)) vn::ficheros::marca_fallo_escritura(f);
     bin_graba_byte(static_cast<uint8_t>(valor), f);
 }
 
 vnbool bin_lee_bool(vnfichero *f) {
     const uint8_t valor = bin_lee_byte(f);
+    // A damaged truth value is reported and handed over as it was read.
     if (valor > 1) [[unlikely]]
         lc_error_leyendo_fichero(f);
     return valor;
@@ -88,6 +92,7 @@ char bin_lee_SN(vnfichero *f) {
     return dato;
 }
 
+// A value is passed over by reading it, so that its tag is looked at too.
 #define SALTOS(X)                                                                                                      \
     X(bin_salta_bool, bin_lee_bool)                                                                                    \
     X(bin_salta_byte, bin_lee_byte)                                                                                    \
@@ -153,6 +158,7 @@ template <class T, class F> void por_trozos(T *datos, uint32_t n, uint32_t trozo
 }
 
 template <class T> void graba_bloque(void (*graba)(T, vnfichero *), const T *datos, uint32_t n, vnfichero *f) {
+    // Tags lie between the values, which then cannot go at once.
     if (f->etiquetas_al_escribir) std::for_each_n(datos, n, [=](T dato) { graba(dato, f); });
     else f_lc_fwrite(datos, sizeof(T), n, f, VN_AQUI);
 }
@@ -190,6 +196,7 @@ template <class T> void lee_bloque(T (*lee)(vnfichero *), T *datos, uint32_t n, 
 
 void bin_graba_bloque_bool(const vnbool *datos, uint32_t n, vnfichero *f) {
     por_trozos(datos, n, TROZO_LOGICOS, [=](const vnbool *d, uint32_t k) {
+        // One by one where tags are due or a value is none: each is then reported as a single one is.
         if (f->etiquetas_al_escribir || std::any_of(d, d + k, [](vnbool v) { return v > 1; })) {
             std::for_each_n(d, k, [=](vnbool v) { bin_graba_bool(v, f); });
             return;
@@ -205,6 +212,7 @@ void bin_lee_bloque_bool(vnbool *datos, uint32_t n, vnfichero *f) {
         uint8_t bytes[TROZO_LOGICOS];
         bin_lee_bloque_byte(bytes, k, f);
         std::copy_n(bytes, k, d);
+        // One report to a piece, however many of its values are none.
         if (std::any_of(bytes, bytes + k, [](uint8_t b) { return b > 1; })) lc_error_leyendo_fichero(f);
     });
 }

@@ -12,6 +12,8 @@
 namespace vn {
 namespace {
 
+// The bytes that begin a header, those that announce its lists, and the forms: in the second one lists follow
+// unannounced.
 constexpr uint8_t COMIENZO[2] = {2, 1};
 constexpr uint8_t MARCA_LISTAS[2] = {0xFD, 0xFE};
 constexpr uint16_t LIMITE_IDENTIFICACION = 200;
@@ -24,6 +26,7 @@ bool es_letra(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 // "MASK-version-revision": exactly three pieces, a known mask, and a revision of one character or beginning with a
 // letter.
 bool interpreta_identificacion(std::string_view texto, cabecera &c) {
+    // A zero may end the text before its stored length does.
     texto = texto.substr(0, texto.find('\0'));
     if (std::count(texto.begin(), texto.end(), '-') != 2) return false;
     const size_t primero = texto.find('-'), segundo = texto.rfind('-');
@@ -42,6 +45,7 @@ bool lee_identificacion(vnfichero *f, cabecera &c) {
         if (!lee_exacto(f, &comienzo, 1) || comienzo != esperado) return false;
     uint16_t longitud = 0;
     char texto[LIMITE_IDENTIFICACION];
+    // A length beyond the room is that of no header: nothing is read for it.
     return lee_exacto(f, &longitud, sizeof longitud) && longitud < LIMITE_IDENTIFICACION &&
            lee_exacto(f, texto, longitud) && interpreta_identificacion({texto, longitud}, c);
 }
@@ -52,6 +56,7 @@ bool hay_listas(vnfichero *f, uint8_t forma) {
     const int64_t pos = vornio_ftell_i64(f);
     uint8_t marca[sizeof MARCA_LISTAS];
     if (lee_exacto(f, marca, sizeof marca) && std::equal(marca, marca + sizeof marca, MARCA_LISTAS)) return true;
+    // No mark: these bytes belong to what follows the header.
     vornio_fseek_i64(f, pos, VN_DESDE_EL_PRINCIPIO);
     return false;
 }
@@ -75,11 +80,13 @@ const char i_MASCARA_VORN[] = "VORN";
 const char i_MASCARA_EJEMPLO_VORN[] = "WENK";
 
 void listas_cabecera::vacia() {
+    // Two lists without elements: a count of zero each.
     bytes_.assign(2 * TAM_NUMERO, 0);
     fin_campos_ = TAM_NUMERO;
 }
 
 bool listas_cabecera::anexa(vnfichero *f, size_t n) {
+    // No room is made for bytes that the file does not have.
     if (lc_quedan(f, n, 1) == FALSO) return false;
     bytes_.resize(bytes_.size() + n);
     return lee_exacto(f, bytes_.data() + bytes_.size() - n, n);
@@ -102,10 +109,13 @@ bool listas_cabecera::lee(vnfichero *f) {
     bytes_.clear();
     uint32_t n = 0;
     bool bien = anexa_numero(f, MINIMO_ELEMENTO, &n);
+    // The fields: a name and a value each.
     for (; bien && n != 0; --n) bien = anexa_texto(f) && anexa_texto(f);
     fin_campos_ = bytes_.size();
     bien = bien && anexa_numero(f, MINIMO_ELEMENTO, &n);
+    // The second list: a number and a text each.
     for (; bien && n != 0; --n) bien = anexa(f, TAM_NUMERO) && anexa_texto(f);
+    // Lists that are cut short are not kept by halves.
     if (!bien) vacia();
     return bien;
 }
@@ -141,6 +151,7 @@ void listas_cabecera::pon_campos(const arrCADENA_u *nombres, const arrCADENA_u *
         if (k == nuevos.size()) nuevos.push_back({nombre, {}});
         nuevos[k].valor = vista(arr_GetCADENA_u(valores, i));
     }
+    // The list of fields is made anew, with room before it for the count, which is known at the end.
     std::vector<unsigned char> bytes(TAM_NUMERO);
     const auto pon_bytes = [&bytes](const void *p, size_t n) {
         bytes.insert(bytes.end(), static_cast<const unsigned char *>(p), static_cast<const unsigned char *>(p) + n);
@@ -166,6 +177,7 @@ void listas_cabecera::pon_campos(const arrCADENA_u *nombres, const arrCADENA_u *
         ++total;
     }
     memcpy(bytes.data(), &total, sizeof total);
+    // The second list goes behind, as it was.
     const size_t fin = bytes.size();
     pon_bytes(bytes_.data() + fin_campos_, bytes_.size() - fin_campos_);
     bytes_ = std::move(bytes);
@@ -173,6 +185,7 @@ void listas_cabecera::pon_campos(const arrCADENA_u *nombres, const arrCADENA_u *
 }
 
 void listas_cabecera::blanquea() {
+    // Blanks take the room of the text, so that no byte of the file moves.
     const auto blanquea_texto = [this](size_t &pos) {
         const texto_u blancos(texto_en(pos).size(), ' ');
         const size_t n = blancos.size() * sizeof(vnwchar);
@@ -180,6 +193,7 @@ void listas_cabecera::blanquea() {
     };
     size_t pos = TAM_NUMERO;
     while (pos != fin_campos_) blanquea_texto(pos);
+    // Of the second list the numbers become zero.
     for (pos += TAM_NUMERO; pos != bytes_.size();) {
         memset(bytes_.data() + pos, 0, TAM_NUMERO);
         pos += TAM_NUMERO;
@@ -197,11 +211,13 @@ cabecera lee_cabecera(vnfichero *f) {
     cabecera c;
     const int64_t comienzo = vornio_ftell_i64(f);
     if (!lee_identificacion(f, c)) {
+        // No header: the stream is given back as it came.
         vornio_fseek_i64(f, comienzo, VN_DESDE_EL_PRINCIPIO);
         return c;
     }
     c.hay = true;
     c.truncada = !lee_exacto(f, &c.forma, 1);
+    // A form beyond the known ones is of a later program: whole, and not valid here.
     c.valida = !c.truncada && c.forma <= FORMA_LISTAS_SEGUIDAS;
     if (c.valida && hay_listas(f, c.forma)) {
         c.con_listas = c.valida = c.listas.lee(f);
@@ -215,6 +231,7 @@ void graba_cabecera(vnfichero *f, const listas_cabecera &listas) {
         nousar_formatea("%s-%s-%c", i_MASCARA_VORN, version_versionMayor(), version_revision()));
     const std::string_view texto = identificacion.get();
     cabecera leida;
+    // The reader's own rule is asked first: an identification that it would refuse fails the save.
     if (!AFIRMA(texto.size() < LIMITE_IDENTIFICACION && interpreta_identificacion(texto, leida)))
         ficheros::marca_fallo_escritura(f);
     graba_identificacion(f, identificacion.get());
@@ -231,6 +248,7 @@ void graba_mascara_de_ejemplo(vnfichero *f) {
     // clang-format off
     if (!AFIRMA(vnstdc_strlen(i_MASCARA_EJEMPLO_VORN) == vnstdc_strlen(i_MASCARA_VORN))) return;
     // clang-format on
+    // The mask begins the identification, behind the first bytes and the length of the text.
     vornio_fseek_i64(f, sizeof COMIENZO + sizeof(uint16_t), VN_DESDE_EL_PRINCIPIO);
     graba_bytes(f, i_MASCARA_EJEMPLO_VORN, LONGITUD_MASCARA);
 }

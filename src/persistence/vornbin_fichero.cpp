@@ -22,6 +22,7 @@ bool lee_listas_existentes(const vnwchar *nomfich, listas_cabecera *listas) {
     vnestado_fichero estado{};
     const vnerror_fichero error = operaciones_fichero_actuales()->estado(nomfich, &estado);
     if (error == VN_FICH_NO_EXISTE || (error == VN_FICH_BIEN && estado.es_directorio == CIERTO)) return true;
+    // Another program may hold it for a moment: it is tried for longer than a plain opening.
     const fichero f(f_lc_fopen_en_varios_intentos_u(nomfich, VNU("rb"), VN_AQUI));
     if (f == nullptr) return false;
     const cabecera c = lee_cabecera(f.get());
@@ -96,6 +97,7 @@ bool hace_ejemplo(vnfichero *f) {
 
 vnbool cierra_y_reemplaza(ficheros::temporal f, const vnwchar *nomfich) {
     bool es_ejemplo = false;
+    // A save that has failed already needs no mask: its close tells it, and the old file stays.
     if (lc_ha_fallado(f.get()) == FALSO &&
         (!mira_si_es_ejemplo(nomfich, &es_ejemplo) || (es_ejemplo && !hace_ejemplo(f.get()))))
         return FALSO;
@@ -174,6 +176,7 @@ vnfichero *vornbin_abre_basico_fichero_para_escritura(const char *nomfich) {
 
 vnbool vornbin_cierra_fichero_abierto_para_escritura_u(vnfichero *f, const vnwchar *nomfich, const vnwchar *obra) {
     if (!AFIRMA_NO_NULO(f)) return FALSO;
+    // Owned from here on: the stream is closed even where the name is missing.
     vn::fichero abierto(f);
     if (!AFIRMA_NO_NULO(nomfich)) return FALSO;
     // The list of works hears of it only once the file is in its place.
@@ -240,11 +243,13 @@ vnfichero *vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(const v
     vn::bin_lee_modo_debug(f.get());
     *version = bin_lee_ushort(f.get());
     if (lc_ha_fallado(f.get()) == CIERTO) return nullptr;
+    // Who asks for it is told of a later version and reads on; who does not is refused.
     if (*version > version_actual && version_superior != nullptr) *version_superior = CIERTO;
     else if (!AFIRMA(*version <= version_actual)) return nullptr;
 
     const vn::propio<char> buf = vn::lee_texto_del_prologo(f.get(), *version, version_ascii);
     if (buf == nullptr) return nullptr;
+    // A signature that differs is that of another kind of file.
     if (cad_cadenas_iguales(buf.get(), firma) == FALSO) {
         error_interno_msg_u(VNU("cad_cadenas_iguales(buf, firma)"), VN_AQUI, nomfich, 0);
         return nullptr;
@@ -319,6 +324,7 @@ vnbool vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(cons
     if (vn::abre_tras_prologo(nomfich, version_actual, firma, version_ascii, &abierto, &version_leida, &titulo_leido) !=
         vn::resultado::bien)
         return FALSO;
+    // Only now does no work count as open: an attempt that failed leaves the list as it was.
     ultiobra_guarda_nombre_ultima_obra_u(nullptr, obra);
     *version = version_leida;
     *titulo = titulo_leido.release();

@@ -160,6 +160,7 @@ void bin_lee_buffer_u(vnwchar *destino, uint32_t tamanyo, vnfichero *f) {
 }
 
 void bin_lee_buffer_ascii(char *destino, uint32_t tamanyo, vnfichero *f) {
+    // A version that is not above its limit always means the OEM page.
     bin_lee_buffer_ansi_ascii(destino, tamanyo, f, 0, 0);
 }
 
@@ -171,6 +172,7 @@ void bin_lee_buffer_ansi_ascii(char *destino, uint32_t tamanyo, vnfichero *f, ui
 
 Punto2D *bin_lee_punto(vnfichero *f) {
     if (!AFIRMA_NO_NULO(f)) return nullptr;
+    // One statement each: within a call the order of the arguments would be the compiler's.
     const double x = bin_lee_double(f);
     const double y = bin_lee_double(f);
     return creapunto(x, y);
@@ -188,6 +190,7 @@ void bin_lee_punto2D(Punto2D *destino, vnfichero *f) {
     if (f->etiquetas_al_leer) {
         char etiqueta = 0;
         vnfichero_toma(f, &etiqueta, 1, VN_AQUI);
+        // A wrong tag is reported and the point read all the same, as with a scalar.
         if (etiqueta != 'p') lc_error_leyendo_fichero(f);
     }
     vnfichero_toma(f, destino, sizeof *destino, VN_AQUI);
@@ -232,6 +235,7 @@ Punto2D *bin_lee_punto_con_posible_error(vnfichero *f, vnbool *es_incorrecto, vn
     vnbool x_incorrecto = FALSO, x_denormal = FALSO;
     const double x = bin_lee_double_con_posible_error(f, &x_incorrecto, &x_denormal);
     const double y = bin_lee_double_con_posible_error(f, es_incorrecto, es_denormal);
+    // A fault of one coordinate is a fault of the point.
     *es_incorrecto |= x_incorrecto;
     *es_denormal |= x_denormal;
     return creapunto(x, y);
@@ -242,6 +246,7 @@ float bin_lee_float_con_posible_error(vnfichero *f) {
     const float dato = bin_lee_float(f);
     const double dato_temporal = dato;
     AFIRMA_TEXTO(std::fabs(dato_temporal) <= FLT_MAX, "vnstdc_fabs(dato_temporal) <= FLT_MAX");
+    // Below the least normal float the caller is given a zero.
     if (std::fabs(dato_temporal) < 1.1754943508222875e-38) {
         vncopro_inicializa_coprocesador_activando_excepciones_coma_flotante();
         return 0;

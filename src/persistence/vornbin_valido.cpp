@@ -48,8 +48,10 @@ propio<char> titulo_si_es_valido(vnfichero *f, uint16_t version_actual, const ch
     if (lc_tamanyo_fichero_i64(f) < n + MINIMO) return nullptr;
     if (!lee_cabecera(f).valida || !bin_lee_modo_debug(f) || lc_quedan(f, sizeof(uint16_t), 1) == FALSO) return nullptr;
     const uint16_t version = bin_lee_ushort(f);
+    // The file of a later program is none that can be read.
     if (version > version_actual) return nullptr;
     uint16_t longitud_firma = 0, longitud_titulo = 0;
+    // A signature of another length is not even read.
     if (!lee_longitud(f, &longitud_firma) || longitud_firma != n) return nullptr;
     const propio<char> leida = lee_texto(f, longitud_firma, version, version_ascii);
     if (leida == nullptr || cad_cadenas_iguales(leida.get(), firma) == FALSO) return nullptr;
@@ -60,11 +62,13 @@ propio<char> titulo_si_es_valido(vnfichero *f, uint16_t version_actual, const ch
 bool comprueba_marca(const char *id, vnfichero *f) {
     const size_t n = strlen(id);
     auto *v = reinterpret_cast<vnfichero_ventana *>(f);
+    // The whole mark lies in the window of the stream: compared there.
     if (v->fin_lectura - v->pos >= static_cast<ptrdiff_t>(n)) {
         if (memcmp(v->pos, id, n) != 0) return false;
         v->pos += n;
         return true;
     }
+    // At the edge of the window: byte by byte, and back to where it began if the mark is another.
     const int64_t pos = vornio_ftell_i64(f);
     for (; *id != 0; ++id) {
         if (vnfichero_toma_byte(f) == static_cast<unsigned char>(*id)) continue;
@@ -116,6 +120,7 @@ vnbool bin_fichero_valido_u(const vnwchar *nomfich, uint16_t version_actual, con
     const vn::fichero f = vn::abre_para_leer(nomfich);
     const vn::propio<char> leido =
         f != nullptr ? vn::titulo_si_es_valido(f.get(), version_actual, firma, version_ascii) : nullptr;
+    // One message to the user for all the reasons.
     if (leido == nullptr) {
         const vn::propio<vnwchar> mensaje(textomsgu_obtener_mensaje(vn::msg_32342.u, nomfich));
         vnaviso_aviso_interno_como_error_u(mensaje.get());
@@ -134,6 +139,7 @@ vnbool vornbin_lee_datos_cabecera_debug_soporte(const char *nomfich, char **vers
     vn::cabecera c;
     if (const vn::fichero f = vn::abre_para_leer(vn::ancho_opcional(nomfich).get()); f != nullptr)
         c = vn::lee_cabecera(f.get());
+    // The reason goes where the fields would have gone.
     if (!c.hay || !c.valida) {
         *contenido = widestr_copia(!c.hay ? VNU("ERROR - No hay cabecera") : VNU("ERROR - El fichero no es válido"));
         return FALSO;
@@ -152,6 +158,7 @@ vnbool vornbin_lee_datos_cabecera_debug_soporte(const char *nomfich, char **vers
 vnbool vornbin_lee_campos_cabecera_u(const vnwchar *nomfich, arrCADENA_u **nombres, arrCADENA_u **valores) {
     if (!EXIGE(nomfich, nombres, valores)) return FALSO;
     *nombres = *valores = nullptr;
+    // The caller is given two arrays even where there is nothing to put in them.
     vn::textos leidos_nombres(arr_CreaCADENA_u(0)), leidos_valores(arr_CreaCADENA_u(0));
     const vn::fichero f = vn::abre_para_leer(nomfich);
     const vn::cabecera c = f != nullptr ? vn::lee_cabecera(f.get()) : vn::cabecera{};

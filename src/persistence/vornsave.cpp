@@ -32,7 +32,7 @@ vornsave *registra_de_tipo(uint32_t tipo, void *donde) {
     return fila != nullptr ? registra(*fila, donde) : nullptr;
 }
 
-// Whether an object is of memory, and goes the way that its close is for.
+// True for an object over memory that was opened in the direction of this close; else false, reported.
 bool es_de_memoria(vornsave **vornsave_datos, sentido va) {
     if (!EXIGE(vornsave_datos, *vornsave_datos)) return false;
     if (!AFIRMA_TEXTO((*vornsave_datos)->fila->tipo == FICHMEM, "(*vornsave_datos)->tipo == FICHMEM")) return false;

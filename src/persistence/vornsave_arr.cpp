@@ -11,6 +11,7 @@ namespace {
 
 template <auto ENTRADA, auto ABIERTA, auto BLOQUE, progreso PROGRESO, class T>
 void graba_arr(const T *valores, uint32_t n, vornsave *d) {
+    // All entries are asked for before the count goes: what was announced must come.
     if (!puede_grabar<GRABAR(ulong_y_salta)>(d) || !puede_grabar<ABIERTA>(d) || !puede_grabar<ENTRADA>(d)) return;
     if constexpr (PROGRESO == CON_PROGRESO) progreso_al_grabar(d);
     graba_valores<ENTRADA, ABIERTA, BLOQUE>(*d, valores, n);
@@ -64,6 +65,7 @@ void vornsave_graba_arr_bool(const arrBOOL *array, vornsave *vornsave_datos) {
         graba_arr<GRABAR(bool), GRABAR(bool), nullptr, SIN_PROGRESO>(valores, n, vornsave_datos);
         return;
     }
+    // Looked at first: the numbers that they go as would pass unseen.
     for (uint32_t i = 0; i < n; ++i) {
         const vnbool elem = valores[i];
         if (!AFIRMA(elem == CIERTO || elem == FALSO)) vornsave_datos->falla();
@@ -80,6 +82,7 @@ arrBOOL *vornsave_lee_arr_bool(vornsave *vornsave_datos) {
     const vnbool *valores = array != nullptr ? arr_GetBufferConstBOOL(array.get()) : nullptr;
     for (uint32_t i = 0, n = valores != nullptr ? arr_NumElemsBOOL(array.get()) : 0; i < n; ++i) {
         const vnbool elem = valores[i];
+        // Reported, and left in its place: the array keeps its length.
         if (!AFIRMA(elem == 1 || elem == 0)) vornsave_datos->falla();
     }
     return array.release();
@@ -95,6 +98,7 @@ arrDouble *vornsave_lee_arr_double_con_posible_error(vornsave *vornsave_datos, v
     familia<arrDouble>::dueno array(arr_CreaDouble(0));
     const vigia guarda(*vornsave_datos);
     for (uint32_t i = 0; i < n && guarda.sigue(); ++i) {
+        // Flags of its own to each element; the caller's gather what any of them had.
         vnbool incorrecto = FALSO, denormal = FALSO;
         arr_AppendDouble(array.get(), lee<ENTRADA>(vornsave_datos, &incorrecto, &denormal));
         if (incorrecto == CIERTO) *es_incorrecto = CIERTO;

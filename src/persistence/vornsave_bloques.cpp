@@ -19,6 +19,8 @@ void empuja_marca(vornsave *d, const char *id, const i_marca_t &posiciones) {
     arr_AppendPunteroST(d->pila_marcas, marca.get(), i_marca_t);
     static_cast<void>(marca.release());
 }
+// A mark fills the two positions of its class and leaves those of the other at zero. The end of a block is open, the
+// start of a section that is read likewise.
 constexpr i_marca_t marca_inicial(clase_marca clase, int64_t posicion) {
     return clase == MARCA_32 ? i_marca_t{nullptr, clase, static_cast<int32_t>(posicion), LARGO_MAX, 0, 0}
                              : i_marca_t{nullptr, clase, 0, 0, posicion, LARGO64_MAX};
@@ -145,7 +147,8 @@ bool fin_valido(const vornsave *d, int64_t fin) {
     const int64_t limite = abierta != nullptr ? fin_de(*abierta) : LARGO64_MAX;
     return desde >= 0 && fin >= desde && fin <= limite && d->quedan(static_cast<uint64_t>(fin - desde), 1);
 }
-// What is open and has this name was not read up to its end, or beyond: goes there, if that is known and is there.
+// Goes to the end of what is open and has this name, if reading stopped before that end or beyond it; false where the
+// end is not known or the source does not have it.
 bool ve_al_final_de_lo_abierto(const vornsave *d, const char *id, clase_marca clase) {
     const i_marca_t *abierta = marca_abierta(d);
     const int64_t desde = aqui(d);
@@ -234,6 +237,7 @@ int64_t lee_posicion(vornsave *d, clase_marca clase) {
 
 vnbool se_inicia_lectura(const char *id, vornsave *d, clase_marca clase) {
     if (!puede_leer_bloques(id, d, clase) || se_lee_marca(id, d, clase) != CIERTO) return FALSO;
+    // What is kept is the stored end, in the place of a start: a reader needs no other.
     empuja_marca(d, id, marca_inicial(clase, lee_posicion(d, clase)));
     return CIERTO;
 }
@@ -300,6 +304,7 @@ char *vornsave_lee_seccion(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(cadena)>(vornsave_datos) || !puede_leer<LEER(long)>(vornsave_datos)) return nullptr;
     const vigia guarda(*vornsave_datos);
     dueno_cadena id(lee<LEER(cadena)>(vornsave_datos));
+    // After a failure the name is empty: the caller has a text to free and nothing to look for.
     if (id == nullptr || !guarda.sigue()) return cad_copia_cadena("");
     const int32_t fin = lee<LEER(long)>(vornsave_datos);
     if (!guarda.sigue()) return cad_copia_cadena("");

@@ -89,6 +89,7 @@ vnwchar *vornsave_lee_cadena_ANSI_a_unicode(vornsave *vornsave_datos) {
 void vornsave_graba_cadena_UTF8(const vnwchar *texto, vornsave *vornsave_datos) {
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto))) return;
     if (!puede_grabar<GRABAR(cadena)>(vornsave_datos)) return;
+    // Reported, and saved all the same with what the conversion makes of it.
     AFIRMA_TEXTO(esta_bien_formado(texto), "vornsave: el texto tiene medios caracteres");
     const dueno_cadena utf8(unicode_convierte_UNICODE_a_UTF8(texto));
     vornsave_graba_cadena(utf8.get(), vornsave_datos);
@@ -137,6 +138,7 @@ void vornsave_graba_fichmem(const fichmem *fichero, vornsave *vornsave_datos) {
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(buffer)>(vornsave_datos)) return;
     graba<GRABAR(ulong)>(vornsave_datos, fichero->longitud);
     uint32_t n = 0;
+    // In pieces of the size in which the reader takes them.
     for (uint32_t hechos = 0; hechos < fichero->longitud; hechos += n) {
         n = std::min(i_TAMANO_TROZO_FICHMEM, fichero->longitud - hechos);
         graba<GRABAR(buffer)>(vornsave_datos, static_cast<const void *>(fichero->datos + hechos), n);
@@ -150,6 +152,7 @@ fichmem *vornsave_lee_fichmem(vornsave *vornsave_datos) {
     propio<uint8_t> bytes;
     if (longitud > 0) bytes = lee_bytes(*vornsave_datos, longitud, i_TAMANO_TROZO_FICHMEM);
     if (longitud == 0) return fichmem_crea32(nullptr, 0);
+    // The bytes become those of the file without a copy.
     unsigned char *datos = bytes.get();
     fichmem *fichero = fichmem_crea_original32(&datos, longitud);
     static_cast<void>(bytes.release());

@@ -16,6 +16,7 @@ using namespace vn;
 #define SALTA(nombre, entrada, progreso)                                                                               \
     void nombre(vornsave *vornsave_datos) { lee<LEER(entrada), progreso>(vornsave_datos); }
 
+// Values of one byte leave the bar alone.
 GRABA(vornsave_graba_bool, vnbool, bool, SIN_PROGRESO)
 GRABA(vornsave_graba_char, char, char, SIN_PROGRESO)
 GRABA(vornsave_graba_uchar, uint8_t, uchar, SIN_PROGRESO)
@@ -43,6 +44,7 @@ SALTA(vornsave_salta_bool, bool, SIN_PROGRESO)
 SALTA(vornsave_salta_uchar, uchar, SIN_PROGRESO)
 SALTA(vornsave_salta_short, short, CON_PROGRESO)
 SALTA(vornsave_salta_ushort, ushort, CON_PROGRESO)
+// An enumeration is stored as an unsigned short.
 SALTA(vornsave_salta_enum, ushort, CON_PROGRESO)
 SALTA(vornsave_salta_long, long, CON_PROGRESO)
 SALTA(vornsave_salta_ulong, ulong, CON_PROGRESO)
@@ -65,6 +67,7 @@ vnbool vornsave_lee_bool_con_texto(vornsave *vornsave_datos, const char *texto1,
 
 char vornsave_lee_char(vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return 0;
+    // A file of the OEM times has its characters in another page.
     return vornsave_datos->ANSI == CIERTO ? lee<LEER(char)>(vornsave_datos) : lee<LEER(char_ASCII)>(vornsave_datos);
 }
 
@@ -72,6 +75,7 @@ char vornsave_lee_char_ansi_ascii(vornsave *vornsave_datos, uint32_t version, ui
     return version > version_ascii ? lee<LEER(char)>(vornsave_datos) : lee<LEER(char_ASCII)>(vornsave_datos);
 }
 
+// A wide unit goes as the number that it is.
 void vornsave_graba_wchar(vnwchar valor, vornsave *vornsave_datos) {
     graba<GRABAR(ushort)>(vornsave_datos, static_cast<uint16_t>(valor));
 }
@@ -99,6 +103,7 @@ void vornsave_graba_punto(const Punto2D *pto, vornsave *vornsave_datos) {
 
 Punto2D *vornsave_lee_punto(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(double)>(vornsave_datos)) return nullptr;
+    // One statement each: within a call the order of the arguments would be the compiler's.
     const double x = lee<LEER(double)>(vornsave_datos);
     const double y = lee<LEER(double)>(vornsave_datos);
     return creapunto(x, y);
@@ -121,6 +126,7 @@ void vornsave_graba_uint64(uint64_t valor, vornsave *vornsave_datos) {
 
 uint64_t vornsave_lee_uint64(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(ulong)>(vornsave_datos)) return 0;
+    // The upper half in a statement of its own, so that it is read first.
     const uint64_t alta = lee<LEER(ulong)>(vornsave_datos);
     return alta << 32 | lee<LEER(ulong)>(vornsave_datos);
 }
@@ -137,6 +143,7 @@ EN_MITADES(vornsave_graba_size64, vornsave_lee_size64, uint64_t)
 
 int64_t vornsave_nousar_lee_fecha_de_64(vornsave *vornsave_datos) {
     if (!puede_leer<LEER(long)>(vornsave_datos)) return 0;
+    // Of the two halves only the lower one counts.
     lee<LEER(long)>(vornsave_datos);
     return lee<LEER(long)>(vornsave_datos);
 }

@@ -19,11 +19,13 @@ void graba_cadenas(const arrCADENA *array, vornsave *d, bool con_null) {
     if (!SE_GRABA(d, AFIRMA_NO_NULO(array))) return;
     if (!puede_grabar_grupos(d) || !puede_grabar<GRABAR(cadena)>(d)) return;
     const auto textos = arr_GetBufferConstCADENA(array);
+    // Null is equal to null alone.
     const auto iguales = [](const char *a, const char *b) {
         return a == nullptr || b == nullptr ? a == b : std::strcmp(a, b) == 0;
     };
     graba_grupos(*d, textos, arr_NumElemsCADENA(array), iguales, [=](uint32_t i) {
         const char *texto = textos[i];
+        // Where null has no form, a null text is reported and goes as an empty one.
         if (con_null) graba_texto<ansi>(*d, texto, true);
         else d->graba<GRABAR(cadena)>(hay_texto(*d, texto) ? texto : "");
     });
@@ -32,6 +34,7 @@ void graba_cadenas(const arrCADENA *array, vornsave *d, bool con_null) {
 arrCADENA *lee_cadenas(vornsave *vornsave_datos, bool con_null) {
     if (!puede_leer_grupos(vornsave_datos) || !puede_leer<LEER(cadena)>(vornsave_datos)) return nullptr;
     AFIRMA(vornsave_datos->ANSI == CIERTO); // no file of the OEM times has this form
+    // Not bounded by what is left: few bytes may stand for many values, and the budget of the groups holds them.
     const uint32_t num_elems_a_leer = lee<LEER(ulong_y_salta)>(vornsave_datos);
     dueno<arr_DestruyeCADENA> leidos(arr_CreaCADENA(0));
     arrCADENA *const array = leidos.get();
@@ -42,6 +45,7 @@ arrCADENA *lee_cadenas(vornsave *vornsave_datos, bool con_null) {
                             : dueno_cadena(vornsave_datos->lee<LEER(cadena)>());
         },
         [=](const dueno_cadena &texto) { arr_AppendCADENA(array, texto.get()); });
+    // Groups that ended before their total: reported, and what there is handed over.
     if (!AFIRMA(arr_NumElemsCADENA(array) == num_elems_a_leer)) vornsave_datos->falla();
     return leidos.release();
 }

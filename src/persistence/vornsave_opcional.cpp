@@ -8,11 +8,13 @@ using namespace vn;
 
 namespace {
 
+// Writes whether there is a value; true if its plain form is to follow.
 bool graba_presencia(bool esta, vornsave *vornsave_datos) {
     if (!puede_grabar<GRABAR(bool)>(vornsave_datos)) return false;
     graba<GRABAR(bool)>(vornsave_datos, logico(esta));
     return esta;
 }
+// Only CIERTO announces a value: after a damaged flag none is read.
 bool lee_presencia(vornsave *vornsave_datos) { return lee<LEER(bool)>(vornsave_datos) == CIERTO; }
 
 } // namespace
@@ -76,6 +78,7 @@ GRABA_OPCIONAL_CON(vornsave_graba_arr_punteros_array_opcional, vornsave_graba_ar
 GRABA_OPCIONAL_CON(vornsave_nousar_graba_arr_punteros_opcional, vornsave_graba_arr_punteros, const arrPuntero *)
 GRABA_OPCIONAL_CON(vornsave_nousar_graba_apunorde_opcional, vornsave_nousar_graba_apunorde, const apunorde *)
 
+// The function is asked for before the flag goes: what was announced must come.
 void vornsave_graba_estructura_opcional2(const void *dato, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
     if (graba_presencia(dato != nullptr, vornsave_datos)) funcion(dato, vornsave_datos);

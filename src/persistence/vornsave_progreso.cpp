@@ -35,6 +35,7 @@ void olvida_progreso(vornsave *vornsave_datos) {
 void vn::refresca_grabacion(vornsave *vornsave_datos) {
     uint32_t posicion = 0;
     if (!posicion_de_barra(vornsave_datos, posicion)) return;
+    // Beyond the end that the host foretold the bar does not move, it is only kept alive.
     if (posicion < vornsave_datos->posicion_final_prgs)
         vornsave_datos->func_prgs_valor_barra_progreso(vornsave_datos->datos_prgs, posicion);
     else if (vornsave_datos->func_prgs_refresca != nullptr) // a bar for reading has none
@@ -55,6 +56,7 @@ void vornsave_nousar_inicia_progreso_grabacion(vornsave *vornsave_no_const, void
     if (!EXIGE(vornsave_no_const, func_prgs_inicia_barra_progreso, func_prgs_valor_barra_progreso,
                func_prgs_fin_barra_progreso, func_prgs_refresca))
         return;
+    // One bar at a time.
     if (!AFIRMA(vornsave_no_const->con_progreso == FALSO)) return;
     vornsave_no_const->datos_prgs = datos_prgs;
     vornsave_no_const->func_prgs_inicia_barra_progreso = func_prgs_inicia_barra_progreso;
@@ -84,6 +86,7 @@ void vornsave_nousar_inicia_progreso_lectura(vornsave *vornsave_no_const, void *
     vornsave_no_const->func_prgs_valor_barra_progreso = func_prgs_valor_barra_progreso;
     vornsave_no_const->func_prgs_fin_barra_progreso = func_prgs_fin_barra_progreso;
     vornsave_no_const->con_progreso = CIERTO;
+    // The end of a reader is known: the size of the source.
     vornsave_no_const->posicion_final_prgs = get_tamanyo(vornsave_no_const->donde);
     func_prgs_inicia_barra_progreso(datos_prgs, vornsave_no_const->posicion_final_prgs);
     refresca_lectura(vornsave_no_const);

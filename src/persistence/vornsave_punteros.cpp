@@ -41,6 +41,7 @@ template <class LEE> apunorde *lee_conjunto(vornsave *d, LEE lee_una, vnfunc_com
     if (!AFIRMA_NO_NULO(comparador)) return nullptr;
     if (!puede_leer<LEER(ulong)>(d)) return nullptr;
     const uint32_t n = lee_numero(d);
+    // The caller's comparison puts them in order as they come.
     dueno<apunorde_nousar_destruye> array(apunorde_nousar_crea(comparador, dato, destructor));
     lee_estructuras(d, n, lee_una, [&](void *p) { apunorde_nousar_inserta_original(array.get(), p, nullptr); });
     return array.release();
@@ -51,6 +52,7 @@ template <class LEE> apunorde *lee_conjunto(vornsave *d, LEE lee_una, vnfunc_com
 void vornsave_graba_arr_punteros(const arrPuntero *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos)) return;
+    // All is asked for before the count goes: what was announced must come.
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
     const uint32_t n = arr_NumElemsPuntero(array);
     vornsave_graba_ulong(n, vornsave_datos);
@@ -78,6 +80,7 @@ void vornsave_nousar_salta_arr_punteros_ST(vornsave *vornsave_datos, vnfunc_salt
     if (!AFIRMA_NO_NULO(fncptr_salta_datos)) return;
     if (!puede_leer<LEER(ulong)>(vornsave_datos)) return;
     const uint32_t n = lee_numero<SIN_PROGRESO>(vornsave_datos);
+    // A count that is damaged ends at the first failure of what is read.
     const vigia guarda(*vornsave_datos);
     for (uint32_t i = 0; i < n && guarda.sigue(); ++i) fncptr_salta_datos(vornsave_datos);
 }
@@ -98,6 +101,7 @@ void vornsave_graba_arr_punteros_array(const arrPuntero *array, vornsave *vornsa
 arrPuntero *vornsave_lee_arr_punteros_array(vornsave *vornsave_datos, vnfunc_lee_dato funcion) {
     if (!AFIRMA_NO_NULO(funcion)) return nullptr;
     if (!puede_leer<LEER(ulong)>(vornsave_datos)) return nullptr;
+    // An array takes its own count at least: four bytes, or in text a digit and its end.
     const uint32_t n = vornsave_datos->acota(vornsave_lee_ulong(vornsave_datos), sizeof(uint32_t), 2);
     dueno<destruye_arrays> arrays(arr_CreaPunteroConTipo(0));
     lee_estructuras(
@@ -153,6 +157,7 @@ arrPunto2DXPriv *vornsave_lee_arr_puntos2DXPriv(vornsave *vornsave_datos, vnfunc
     if (!AFIRMA_NO_NULO(lee_datos)) return nullptr;
     const uint32_t n = vornsave_datos->acota(vornsave_lee_ulong(vornsave_datos), sizeof(Punto2D), 4);
     dueno<destruye_xpriv> array(arr_CreaPunto2DXPriv(0));
+    // The coordinates wait here until the private value of their point has come.
     double x = 0., y = 0.;
     lee_estructuras(
         vornsave_datos, n,

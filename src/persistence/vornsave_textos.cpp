@@ -18,6 +18,7 @@ template <class W> typename W::arr *lee_arr(vornsave *d, bool con_null, bool de_
     if (!puede_leer<LEER(ulong_y_salta)>(d) || !puede_leer<W::LEE>(d)) return nullptr;
     return lee_textos<W>(*d, con_null, de_ascii);
 }
+// Files of the OEM times: their texts are converted as they are read.
 bool lee_ascii(const vornsave *d) { return d != nullptr && d->ANSI == FALSO; }
 
 } // namespace
@@ -126,6 +127,7 @@ template <class O> void graba_conjunto(const typename O::conjunto *array, bool c
 template <class O> typename O::conjunto *lee_conjunto(vornsave *d, vnfunc_lee_texto funcion) {
     if (!puede_leer<LEER(bool)>(d) || !puede_leer<LEER(ulong_y_salta)>(d)) return nullptr;
     if (funcion == nullptr && !puede_leer<O::texto::LEE>(d)) return nullptr;
+    // A flag that is damaged counts as FALSO.
     const vnbool distingue = logico(lee<LEER(bool)>(d) == CIERTO);
     // A set that was stored in another order, by a damaged file, is put in order as its texts come.
     dueno<O::destruye> array(O::crea(distingue));
