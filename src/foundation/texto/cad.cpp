@@ -61,6 +61,7 @@ void cad_concatena(char **s, const char *t) {
 
 void cad_concatena_caracter(char **s, char c) {
     if (!EXIGE(s, *s)) return;
+    // A zero would end the text where it ends already.
     if (c != 0) texto::alarga(s, std::string_view(&c, 1), false, AQUI);
 }
 
@@ -138,6 +139,7 @@ char *cad_subcadena_inicial(const char *s, uint32_t n) {
 
 char *cad_subcadena_anterior(const char *s, const char *t) {
     if (!EXIGE(s, t)) return nullptr;
+    // A text without `t` is given whole: NO_ESTA cuts nothing off.
     return copia(std::string_view(s).substr(0, texto::busca<char>(s, t, 0, false)));
 }
 

@@ -111,6 +111,7 @@ char16_t base_de(char16_t c) {
     const size_t n = plat::descompone(c, d, 16);
     if (n < 2) return c;
     for (size_t i = 1; i < n; ++i)
+        // Only accents may follow the letter: what is composed otherwise stays as it is.
         if (d[i] < 0x300 || d[i] > 0x36F) return c;
     return d[0];
 }
@@ -154,6 +155,7 @@ const pagina &pagina_activa() {
     const pagina *p = activa.load(std::memory_order_acquire);
     if (p == nullptr) [[unlikely]] {
         const pagina *nueva = pagina_de(plat::pagina_ansi_del_sistema());
+        // Where the page of the system cannot be made, 1252 takes its place.
         if (nueva == nullptr) nueva = pagina_de(1252);
         if (activa.compare_exchange_strong(p, nueva, std::memory_order_acq_rel)) p = nueva;
     }

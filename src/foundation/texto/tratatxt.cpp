@@ -10,6 +10,7 @@ namespace {
 
 constexpr char ALMOHADILLA = '#', CALDERON = '\xB6';
 
+// A mark is '#' and a letter, in the place of a character that a line would lose.
 struct marca {
     char escapada, letra;
 };
@@ -55,6 +56,7 @@ char *tratatxt_recupera_espacio_y_salto_linea(const char *texto) {
     const std::string_view s(texto);
     return protegido(s, [s](size_t i) {
         const char c = s[i];
+        // A single blank between words stays as it is; any other would be lost.
         const bool blanco_que_se_perderia =
             c == ' ' && (i == 0 || i + 1 == s.size() || corta(s[i - 1]) || corta(s[i + 1]));
         return c == ALMOHADILLA || (corta(c) && c != ' ') || blanco_que_se_perderia || (c == '[' && i == 0);
@@ -68,6 +70,7 @@ char *tratatxt_convierte_espacio_y_salto_linea(const char *texto) {
     bool tras_almohadilla = false;
     recorre(s, [&](size_t i, size_t n) {
         const char c = s[i];
+        // A '#' waits for the letter that says what it stands for.
         if (!tras_almohadilla && n == 1 && c == ALMOHADILLA) {
             tras_almohadilla = true;
             return;
@@ -79,6 +82,7 @@ char *tratatxt_convierte_espacio_y_salto_linea(const char *texto) {
                     r += m.escapada;
                     return;
                 }
+            // The letter is none of a mark: the '#' was the text's own.
             r += ALMOHADILLA;
         }
         r.append(s, i, n);
@@ -90,6 +94,7 @@ char *tratatxt_convierte_espacio_y_salto_linea(const char *texto) {
 char *tratatxt_prepara_almohadilla_espacios_y_salto_linea(const char *linea) {
     if (!AFIRMA_NO_NULO(linea)) return nullptr;
     const std::string_view s(linea);
+    // Blanks are marked at the beginning alone, line ends everywhere.
     bool al_principio = true;
     return protegido(s, [s, &al_principio](size_t i) {
         const char c = s[i];
@@ -105,6 +110,7 @@ char *tratatxt_traducir_codigos_color(const char *texto) {
     std::string r;
     size_t hasta = 0; // what comes before stands in the result
     recorre(s, [&](size_t i, size_t n) {
+        // The sign, a name and a semicolon: the digit of the colour takes the name's place.
         if (n != 1 || s[i] != CALDERON || i < hasta) return;
         const size_t fin = s.find(';', i);
         if (fin == std::string_view::npos) return;

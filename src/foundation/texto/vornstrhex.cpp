@@ -12,6 +12,7 @@ char *vornstrhex_nousar_buffer_a_cadena_hexadecimal(const void *datos, uint32_t 
     char *s = static_cast<char *>(vornspy_malloc(size_t{tamanyo} * 2 + 1)), *p = s;
     const auto *b = static_cast<const unsigned char *>(datos);
     for (uint32_t i = 0; i < tamanyo; ++i) {
+        // Small letters here; the single characters below have capitals.
         *p++ = "0123456789abcdef"[b[i] >> 4];
         *p++ = "0123456789abcdef"[b[i] & 15];
     }
@@ -23,7 +24,9 @@ unsigned char *vornstrhex_nousar_cadena_hex_a_buffer(const char *texto, uint32_t
     if (!EXIGE(texto, tamanyo)) return nullptr;
     *tamanyo = 0;
     const size_t n = std::strlen(texto);
+    // Two digits make a byte.
     if (n % 2 != 0 || n / 2 > UINT32_MAX) return nullptr;
+    // All the digits are looked at before anything is made.
     for (size_t i = 0; i < n; ++i)
         if (cifra_hexadecimal(static_cast<unsigned char>(texto[i])) > 15) return nullptr;
     auto *b = static_cast<unsigned char *>(vornspy_malloc(n / 2));
@@ -36,12 +39,14 @@ unsigned char *vornstrhex_nousar_cadena_hex_a_buffer(const char *texto, uint32_t
 
 unsigned char *vornstrhex_nousar_cadena_hexadecimal_a_buffer(const char *texto, uint32_t *tamanyo) {
     if (!EXIGE(texto, tamanyo)) return nullptr;
+    // The same bytes, but a text that is none of digits is reported.
     unsigned char *buffer = vornstrhex_nousar_cadena_hex_a_buffer(texto, tamanyo);
     (void)AFIRMA_NO_NULO(buffer);
     return buffer;
 }
 
 vnbool vornstrhex_codifica_caracter_u(vnwchar c, vnwchar *alto, vnwchar *bajo) {
+    // A unit beyond a byte has no two digits, which is an answer and no error.
     if (!EXIGE(alto, bajo) || c > 0xFF) return FALSO;
     *alto = VNU("0123456789ABCDEF")[c >> 4];
     *bajo = VNU("0123456789ABCDEF")[c & 15];

@@ -10,6 +10,7 @@
 using namespace vn;
 using namespace vn::texto;
 
+// What a wrong length may take at most, in units.
 static constexpr uint32_t MAX_TEXTO = 1u << 30;
 
 vnwchar *widestr_nousar_creacadena(uint32_t n, const char *modulo, uint32_t linea) {
@@ -18,6 +19,7 @@ vnwchar *widestr_nousar_creacadena(uint32_t n, const char *modulo, uint32_t line
 }
 
 vnwchar *widestr_nousar_creacadena_con_caracter(uint32_t n, vnwchar c, const char *modulo, uint32_t linea) {
+    // A text of zeros would be an empty one.
     if (!AFIRMA(n <= MAX_TEXTO) || !AFIRMA(c != 0)) return nullptr;
     vnwchar *s = texto::nuevo<vnwchar>(n, QUIEN);
     std::char_traits<vnwchar>::assign(s, n, c);
@@ -79,6 +81,7 @@ void widestr_nousar_cad_concatena(vnwchar **s, const vnwchar *t, const char *mod
 
 void widestr_nousar_concatena_caracter(vnwchar **s, vnwchar c, const char *modulo, uint32_t linea) {
     if (!EXIGE_DE(modulo, linea, s, *s)) return;
+    // A zero would end the text where it ends already.
     if (c != 0) texto::alarga(s, vista_ancha(&c, 1), false, QUIEN);
 }
 
@@ -133,6 +136,7 @@ void widestr_nousar_convertir_a_minusculas(vnwchar *s, const char *modulo, uint3
 
 void widestr_nousar_convertir_cadena_sin_acentos(vnwchar *s, const char *modulo, uint32_t linea) {
     if (!EXIGE_DE(modulo, linea, s)) return;
+    // In place: without its loose accents a text only becomes shorter.
     vnwchar *donde = s;
     for (; *s != 0; ++s)
         if (!es_acento_suelto(*s)) *donde++ = sin_acento(*s);

@@ -49,6 +49,7 @@ int widestr_nousar_cadenas_compara_lexico_graficamente(const vnwchar *a, const v
     for (const vnwchar *p = a, *q = b;;) {
         const uint32_t x = letra(p), y = letra(q);
         if (x != y) return x < y ? -1 : 1;
+        // Alike but for case and accents: the units themselves decide, so that only equal texts count as equal.
         if (x == 0) return texto::compara<vnwchar>(a, b);
     }
 }
@@ -64,6 +65,7 @@ vnbool widestr_nousar_es_cadena_en_blanco(const vnwchar *s, const char *modulo, 
 }
 
 vnbool widestr_nousar_hay_texto(const vnwchar *s, const char *, uint32_t) {
+    // Null is no text, and asking about it no error.
     return s != nullptr && !texto::sin_blancos_delante<vnwchar>(s).empty();
 }
 
@@ -95,6 +97,7 @@ vnbool widestr_nousar_es_subcadena_final(const vnwchar *s, const vnwchar *t, con
 
 vnwchar *widestr_nousar_strchr(const vnwchar *s, vnwchar c, const char *modulo, uint32_t linea) {
     if (!EXIGE_DE(modulo, linea, s)) return nullptr;
+    // The closing zero can be searched for too.
     const vnwchar *p = std::char_traits<vnwchar>::find(s, vista_ancha(s).size() + 1, c);
     return const_cast<vnwchar *>(p);
 }
@@ -102,6 +105,7 @@ vnwchar *widestr_nousar_strchr(const vnwchar *s, vnwchar c, const char *modulo, 
 vnwchar *widestr_nousar_subcadena(const vnwchar *s, uint32_t inicio, uint32_t n, const char *modulo, uint32_t linea) {
     if (!EXIGE_DE(modulo, linea, s)) return nullptr;
     const vista_ancha v(s);
+    // A start beyond the end gives an empty text.
     return texto::copia(v.substr(std::min<size_t>(inicio, v.size()), n), QUIEN);
 }
 
@@ -118,6 +122,7 @@ vnwchar *widestr_nousar_subcadena_final(const vnwchar *s, uint32_t n, const char
 
 vnwchar *widestr_nousar_subcadena_anterior(const vnwchar *s, const vnwchar *t, const char *modulo, uint32_t linea) {
     if (!EXIGE_DE(modulo, linea, s, t)) return nullptr;
+    // A text without `t` is given whole: NO_ESTA cuts nothing off.
     return texto::copia(vista_ancha(s).substr(0, texto::busca<vnwchar>(s, t, 0, false)), QUIEN);
 }
 
@@ -130,6 +135,7 @@ vnwchar *widestr_nousar_subcadena_anterior_may_o_min(const vnwchar *s, const vnw
 vnwchar *widestr_nousar_subcadena_posterior(const vnwchar *s, const vnwchar *t, const char *modulo, uint32_t linea) {
     if (!EXIGE_DE(modulo, linea, s, t)) return nullptr;
     const vista_ancha v(s), buscado(t);
+    // In a text without `t` nothing lies behind it.
     const size_t i = texto::busca(v, buscado, 0, false);
     return texto::copia(i == NO_ESTA ? vista_ancha() : v.substr(i + buscado.size()), QUIEN);
 }
@@ -139,6 +145,7 @@ vnwchar *widestr_nousar_extrae_token(const vnwchar *s, const vnwchar *separadore
     if (!EXIGE_DE(modulo, linea, s, separadores) || !AFIRMA(numero > 0)) return nullptr;
     const vista_ancha v(s), cortes(separadores);
     size_t i = 0, fin = 0;
+    // Tokens count from one, and a run of separators is one cut.
     for (uint32_t k = 0; k < numero; ++k) {
         i = v.find_first_not_of(cortes, fin);
         if (i == NO_ESTA) return nullptr;
@@ -164,6 +171,7 @@ uint32_t widestr_nousar_lista_de_subcadenas_un_separador(const vnwchar *s, vnwch
 
 uint32_t widestr_nousar_numero_de_subcadenas(const vnwchar *s, vnwchar separador, const char *modulo, uint32_t linea) {
     if (!EXIGE_DE(modulo, linea, s)) return 0;
+    // Cut as the lists are, and only counted.
     return texto::trocea<vnwchar>(
         s, [separador](vnwchar c) { return c == separador; }, [](vista_ancha) {});
 }
