@@ -10,6 +10,7 @@
 #include <iterator>
 #include <new>
 
+// A walk over one directory, and the mask that its names must match.
 struct dirwin {
     explicit dirwin(vn::ficheros::partes p)
         : mascara(p.nombre_con_extension()), recorrido(vn::cadena_ancha(p.hasta_directorio()), true) {}
@@ -19,6 +20,7 @@ struct dirwin {
 
 dirwin *dirwin_crea_UNICODE(const vnwchar *patron) {
     if (!AFIRMA_NO_NULO(patron)) return nullptr;
+    // The room is owned until the record in it is made: memory may run out on the way.
     vn::propio<void> sitio(vornspy_malloc(sizeof(dirwin)));
     auto *d = new (sitio.get()) dirwin(vn::ficheros::descompone(patron));
     static_cast<void>(sitio.release());
@@ -29,6 +31,7 @@ vnbool dirwin_findnextfile_UNICODE(dirwin *d, dirwin_dato *dato) {
     if (dato != nullptr) *dato = {};
     if (!EXIGE(d, dato)) return FALSO;
     for (vn::plat::ficha f; d->recorrido.siguiente(f);) {
+        // A name that has no room in the record is passed over, like one that the mask leaves out.
         if (f.nombre.size() >= std::size(dato->nombre) || !vn::ficheros::casa_con(d->mascara, f.nombre)) continue;
         std::copy(f.nombre.begin(), f.nombre.end(), dato->nombre);
         dato->atributos = f.atributos | (f.es_directorio ? VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY : 0);

@@ -69,6 +69,7 @@ fichmem *fichmem_crea_original32(unsigned char **datos, uint32_t longitud) {
     if (!AFIRMA_NO_NULO(datos)) return nullptr;
     if (!AFIRMA(*datos != nullptr || longitud == 0)) longitud = 0;
     propio m = vacio();
+    // The caller's pointer is emptied, so that the bytes have one owner.
     m->datos = std::exchange(*datos, nullptr);
     m->longitud = longitud;
     return m.release();

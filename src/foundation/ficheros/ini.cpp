@@ -9,6 +9,7 @@
 
 namespace {
 
+// A configuration file is small: a larger one is something else.
 constexpr uint64_t MAXIMO = 1024 * 1024;
 
 // The whole of a plain file of a reasonable size; empty for anything else.
@@ -94,6 +95,7 @@ void ini_lee_varios_int(const vnwchar *fichero, const char *seccion, const char 
     const std::string datos = contenido(fichero);
     std::string_view quedan = claves;
     for (uint32_t i = 0; i < cuantas; ++i) {
+        // The keys come in one text, a line each.
         const size_t fin = std::min(quedan.find('\n'), quedan.size());
         valores[i] = entero_de(datos, seccion, quedan.substr(0, fin), 0);
         quedan.remove_prefix(std::min(fin + 1, quedan.size()));

@@ -49,6 +49,7 @@ void timefich_convertir_fecha(int64_t fecha_UTC, vnbool hora_local, timefich_fec
     if (!AFIRMA(fecha_UTC >= PRIMER_SEGUNDO && fecha_UTC <= ULTIMO_SEGUNDO) || !AFIRMA_LOGICO(hora_local)) return;
     if (!AFIRMA_NO_NULO(fecha)) return;
     std::tm t{};
+    // Where the platform cannot tell the local time, the date is that of UTC.
     if (hora_local == CIERTO && vn::plat::hora_local(fecha_UTC, t))
         *fecha = {t.tm_year + 1900, t.tm_mon + 1,          t.tm_mday, t.tm_hour, t.tm_min, t.tm_sec, t.tm_wday,
                   t.tm_yday,        t.tm_isdst > 0 ? 1 : 0};

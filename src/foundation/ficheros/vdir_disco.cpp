@@ -150,6 +150,7 @@ vnbool vdir_se_puede_escribir_UNICODE(const vnwchar *ruta) {
 
 vnbool vdir_se_puede_escribir_en_directorio_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta)) return FALSO;
+    // Tried with a file: rights alone do not tell of a full or protected disk.
     cadena_ancha prueba;
     return logico(crea_fichero_unico(ruta, VNU("tmp"), prueba) && borra_fichero(prueba));
 }

@@ -13,6 +13,7 @@ bool nombres_en(const cadena_ancha &directorio, vista_ancha mascara, clase que, 
     plat::recorrido r(directorio, false);
     for (plat::ficha f; r.siguiente(f);)
         if (f.es_directorio == (que == clase::directorios) && casa_con(mascara, f.nombre)) nombres.push_back(f.nombre);
+    // Each system gives them in an order of its own; sorted, they are the same everywhere.
     std::sort(nombres.begin(), nombres.end());
     return r.abierto();
 }
@@ -36,6 +37,7 @@ vnbool lista(const vnwchar *ruta, const vnwchar *mascara, clase que, arrCADENA_u
     if (!EXIGE(ruta, mascara)) return FALSO;
     std::vector<cadena_ancha> nombres;
     const bool leido = nombres_en(ruta, mascara, que, nombres);
+    // The caller is given a list even of a directory that cannot be read.
     *salida = nueva_lista(nombres);
     return logico(leido);
 }

@@ -68,6 +68,7 @@ template <class T> bool analiza(const palabra &p, T &valor) {
         valor = r.valor;
         return p.n > 0 && r.consumido == p.n && !r.desborda;
     } else {
+        // A char is written as the number of its code, and small numbers are read as wide ones and bounded.
         using codigo = std::conditional_t<std::is_same_v<T, char>, unsigned char, T>;
         int32_t ancho = 0;
         if (!analiza(p, ancho) || ancho < std::numeric_limits<codigo>::min() ||
@@ -82,6 +83,7 @@ template <class T> T lee_numero(vnfichero *f, bool salta) {
     if (!AFIRMA_NO_NULO(f)) return 0;
     T valor = 0;
     const bool bien = analiza(toma_palabra(f), valor);
+    // The line goes after a failure too: what follows stays in step.
     if (salta) pasa_linea(f);
     if (bien) return valor;
     lc_error_leyendo_fichero(f);
@@ -230,6 +232,7 @@ void vtxt_lee_string(vnfichero *f, char *buffer, uint32_t maximo) {
     int c = toma(f);
     bool bien = c >= 0;
     for (; c >= 0 && c != '\n'; c = toma(f)) {
+        // What has no room, and a zero, is dropped; the line is read to its end.
         if (n + 1 < maximo && c != 0) buffer[n++] = static_cast<char>(c);
         else bien = false;
     }
@@ -271,6 +274,7 @@ vnwchar *vtxt_lee_linea_utf8_a_unicode(vnfichero *f, uint32_t maximo) {
         const int tomado = toma(f);
         if (tomado < 0 || tomado == '\n') break;
         t.anade(static_cast<char>(tomado));
+        // A line that fills the room exactly takes its end along.
         if (cabe == 1 && mira(f) == '\n') toma(f);
     }
     return unicode_convierte_UTF8_a_UNICODE(t.cierra().get());
