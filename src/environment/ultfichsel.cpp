@@ -76,6 +76,7 @@ registro *lee_registro(lectura *l, vornsave *v) {
     const uint8_t version = l->version = vornsave_lee_uchar(v);
     if (!AFIRMA(version <= i_VERSION_FICHERO)) return nullptr;
     r->clave = vornsave_lee_cadena(v);
+    // Version 1 brought the root, version 2 a wide name, version 3 a wide root.
     if (version == 0) r->raiz = widestr_copia(VNU(""));
     else r->raiz = version < 3 ? vornsave_lee_cadena_ANSI_a_unicode(v) : vornsave_lee_cadena_unicode(v);
     r->nombre_fichero = version < 2 ? vornsave_lee_cadena_ANSI_a_unicode(v) : vornsave_lee_cadena_unicode(v);
@@ -100,9 +101,11 @@ void escribe_fichero(escritura *e) {
     vn::ficheros::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(e->ruta));
     if (f == nullptr) return;
     {
+        // Closed before the file: what it finds wrong at its end must still fail the save.
         const protocolo_propio v(vornsave_registra_bin(f.get()));
         vornsave_graba_arr_punterosST(e->lista, v.get(), registro, graba_registro);
     }
+    // What was not written whole does not take the place of the old file.
     if (vn::atrapado()) return;
     vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), e->ruta);
 }
@@ -116,11 +119,13 @@ texto_propio ruta_del_fichero() {
 arrPuntero *ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados(void) {
     const texto_propio ruta = ruta_del_fichero();
     lectura l{};
+    // Nothing was chosen yet: an empty list, and no report.
     if (ruta == nullptr || vdir_existe_fichero_UNICODE(ruta.get()) != CIERTO) return l.lista.release();
     const vn::dueno<lc_fclose_seguro> f(f_lc_fopen_seguro_u(ruta.get(), VNU("rb"), VN_AQUI));
     if (f == nullptr) return l.lista.release();
     l.fichero = f.get();
     if (trapable_ejecuta_funcion_segura(lectura, lee_fichero, &l, nullptr) == CIERTO) return l.lista.release();
+    // Of a damaged file no record is kept.
     l.lista.reset(arr_CreaPunteroST(0, registro));
     // The trap kept the report to itself; a file of a newer program is worth telling.
     const uint8_t version = l.version;

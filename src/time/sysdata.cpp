@@ -74,6 +74,7 @@ int32_t sysdata_orden_fecha(void) {
     const vn::propio<char> cadena(dato(VNREGIONAL_ORDEN_FECHA));
     if (cad_cadenas_iguales(cadena.get(), "0") == CIERTO) return 0;
     if (cad_cadenas_iguales(cadena.get(), "1") == CIERTO) return 1;
+    // Any other text is reported and counts as this one.
     AFIRMA_TEXTO(cad_cadenas_iguales(cadena.get(), "2") == CIERTO, "cad_cadenas_iguales(cadena, \"2\") == CIERTO");
     return 2;
 }
@@ -81,6 +82,7 @@ int32_t sysdata_orden_fecha(void) {
 int32_t sysdata_modo_horario(void) {
     const vn::propio<char> cadena(dato(VNREGIONAL_MODO_HORARIO));
     if (cad_cadenas_iguales(cadena.get(), "0") == CIERTO) return 0;
+    // Any other text is reported and counts as this one.
     AFIRMA_TEXTO(cad_cadenas_iguales(cadena.get(), "1") == CIERTO, "cad_cadenas_iguales(cadena, \"1\") == CIERTO");
     return 1;
 }
@@ -127,6 +129,7 @@ char *sysdata_nombre_maquina(void) { return a_ansi(sysdata_nombre_maquina_u()); 
 
 vnwchar *sysdata_nombre_usuario_actual_u(void) {
     vn::propio<vnwchar> nombre(machine_nombre_usuario_u());
+    // A user without a name, or with too long a one, has a common name.
     if (nombre == nullptr || widestr_longitud(nombre.get()) > MAXIMO_USUARIO) return widestr_copia(VNU("USUARIO"));
     return en_mayusculas(nombre.release(), MAXIMO_USUARIO);
 }

@@ -60,8 +60,10 @@ std::optional<tmtime> lee(const vnwchar *cadena) {
     if (!entre(mes, 1, 12)) return std::nullopt;
     auto anyo = entero(p.siguiente());
     if (!anyo) return std::nullopt;
+    // A year of two digits is of this century below 70, of the last one from 70 on.
     if (*anyo >= 1900) *anyo -= 1900;
     else if (*anyo < 70) *anyo += 100;
+    // No date later than the year 2100 is accepted.
     if (*anyo > 200 || *dia > dias_del_mes(static_cast<uint32_t>(*mes - 1), *anyo + 1900)) return std::nullopt;
     // In the order of the text.
     const int32_t hora = entero(p.siguiente()).value_or(0);

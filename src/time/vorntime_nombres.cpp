@@ -29,6 +29,7 @@ template <class C, uint32_t PRIMERO, size_t N> consteval std::array<vnfunc_mensa
     (std::make_index_sequence<N>());
 }
 
+// By the ordinals of the messages: months, short months, initials of the days; the days themselves are shared.
 constexpr auto MESES_U = nombres<vnwchar, 1, 12>();
 constexpr auto MESES = nombres<char, 1, 12>();
 constexpr auto MESES_ABREVIADOS_U = nombres<vnwchar, 13, 12>();

@@ -10,6 +10,7 @@ namespace {
 
 using ansi_propio = propio<char>;
 
+// Over 64 bits: the fields of a record may be any numbers.
 int32_t anyo_entero(const tmtime &f) { return static_cast<int32_t>(int64_t{f.tm_year} + 1900); }
 int32_t mes_desde_1(const tmtime &f) { return static_cast<int32_t>(int64_t{f.tm_mon} + 1); }
 
@@ -30,6 +31,7 @@ char *fecha_y_hora(const char *cabecera, const tmtime *fecha_tm, vnbool con_segu
 char *vtm_formatea_fecha_ddmmaa_con_separador_sistema(const tmtime *fecha) {
     if (!AFIRMA_TEXTO(fecha != nullptr, "(fecha_tm) != NULL")) return nullptr;
     const ansi_propio separador(sysdata_separador_fechas());
+    // The last two digits of the year, of one before 1900 too.
     return cad_formatea("%02d%s%02d%s%02d", fecha->tm_mday, separador.get(), mes_desde_1(*fecha), separador.get(),
                         (fecha->tm_year % 100 + 100) % 100);
 }
@@ -58,6 +60,7 @@ char *vtm_formatea_fecha_y_hora_sin_segundos(const char *cabecera, const tmtime 
 
 char *vorntime_dame_cadena_formato_fecha(vnbool con_hora) {
     if (!AFIRMA_LOGICO(con_hora)) return nullptr;
+    // The letters of a date model, between the separators of the region.
     const ansi_propio fechas(sysdata_separador_fechas());
     if (con_hora == FALSO) return cad_formatea("dd%sMM%syyyy", fechas.get(), fechas.get());
     const ansi_propio horas(sysdata_separador_horas());

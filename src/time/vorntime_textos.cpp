@@ -19,6 +19,7 @@ namespace {
 template <class C> class renglon {
   public:
     renglon &numero(int64_t n, int cifras) {
+        // The sign takes the place of one digit.
         if (n < 0) {
             letra('-');
             n = -n;
@@ -55,6 +56,7 @@ template <class C> class renglon {
         const size_t copiados = antes + n_;
         if (!AFIRMA(copiados > 0)) return nullptr;
         auto *texto = static_cast<C *>(vornspy_malloc((copiados + 1) * sizeof(C)));
+        // The heading and a blank, the numbers, the closing zero.
         if (antes > 0) *std::copy_n(cabecera, antes - 1, texto) = ' ';
         *std::copy_n(texto_, n_, texto + antes) = 0;
         return texto;
@@ -106,6 +108,7 @@ template <class C> const C *fecha_en(C (&sitio)[SITIO], int64_t t) {
     const auto *dia = ancho<C>::dia(local->tm_wday), *mes = ancho<C>::mes(local->tm_mon);
     const int copiados = ancho<C>::formatea(sitio, SITIO - 1, ancho<C>::FECHA, dia, local->tm_mday, mes,
                                             int64_t{local->tm_year} + 1900, local->tm_hour, local->tm_min);
+    // A text that fills the room brings no zero of its own.
     sitio[SITIO - 1] = 0;
     if (!AFIRMA(copiados > 0)) sitio[0] = 0;
     return sitio;
@@ -122,6 +125,7 @@ template <class C> void para_listados(C **fecha_texto, C **hora_texto) {
         const size_t copiados = ancho<C>::de_hora(texto, SITIO, formato, hoy);
         if (AFIRMA(copiados > 0)) *destino = ancho<C>::copia(texto);
     };
+    // In English the month goes before the day.
     escribe(fecha_texto, msidioma_es_idioma_ingles() == CIERTO ? ancho<C>::MES_DIA : ancho<C>::DIA_MES);
     escribe(hora_texto, ancho<C>::HORA);
 }

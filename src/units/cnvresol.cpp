@@ -5,11 +5,13 @@
 
 namespace {
 
+// A dmm is a tenth of a millimetre, a point 1/72 of an inch, a twip a twentieth of a point.
 constexpr int DMM_POR_PULGADA = 254;
 constexpr int PUNTOS_POR_PULGADA = 72;
 constexpr int MEDIOS_PUNTOS_POR_PULGADA = 144;
 constexpr int SIN_RESULTADO = -1; // of vornwin_MulDiv too
 
+// A millimetre is ten dmm; false where ten times the resolution has no room.
 bool por_diez(int ppp, int &producto) { return !__builtin_mul_overflow(ppp, 10, &producto); }
 
 } // namespace

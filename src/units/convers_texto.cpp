@@ -152,6 +152,7 @@ vnwchar *convers_texto_ex(const vnwchar *cabecera, double valor, uint32_t tipova
     const vista_convers vista(tipovalor);
     if (!vista.es_tipo || !AFIRMA(decimales < 256)) return nullptr;
     if (!AFIRMA_LOGICO(es_maximo) || !AFIRMA_LOGICO(con_unidades)) return nullptr;
+    // Feet and inches have fractions of their own: neither decimals nor unit apply.
     if (vista.es_longitud_imperial()) return texto_imperial(valor, vista, cabecera);
     const double v = con_decimales(vista.a_mostrado(valor), decimales);
     // What is absent is an empty text: heading, its separator, blank, unit.

@@ -23,6 +23,7 @@ vn::propio<vnwchar> texto_de(double valor, int32_t decimales) {
 } // namespace
 
 vnwchar *monedas_precio_Ptas_euros(double pesetas) {
+    // To the nearest cent.
     const double euros = FLOOR(pesetas / PESETAS_POR_EURO * 100. + 0.5) / 100.;
     const vn::propio<vnwchar> en_euros = texto_de(euros, 2), en_pesetas = texto_de(pesetas, 0);
     return copiaforu_nousar_formatea(VNU("%s(%s) %s(%s)"), en_euros.get(), nousar_msglocal_original_u(msg_124346.u),

@@ -10,6 +10,7 @@ namespace {
 
 } // namespace
 
+// The same in every language and region.
 const vnwchar *unidades_separador_decimales_u(void) { return VNU(","); }
 const vnwchar *unidades_separador_millares_u(void) { return VNU("."); }
 

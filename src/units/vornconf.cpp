@@ -29,6 +29,7 @@ namespace {
 
 constexpr int NUM_INDICES = MSGLOCAL_NUM_TEXTOS;
 
+// A bit to each language.
 template <class... N> consteval uint64_t idiomas(N... indices) { return (... | (uint64_t{1} << indices)); }
 
 struct fila {
@@ -170,6 +171,7 @@ void escribe_fichero(const internacional &r) {
     vn::ficheros::temporal f(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(ruta.get()));
     if (f == nullptr) return;
     vtxt_escr_string("[Internacional]", f.get());
+    // For whoever looks into the file: the language itself is kept elsewhere.
     escribe_linea("Idioma", vornconf_Internacional_idioma(), f.get());
     for (const clave &c : CLAVES) escribe_linea(c.nombre, r.*c.campo, f.get());
     vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f.release(), ruta.get());
@@ -212,6 +214,7 @@ internacional carga() {
 
 [[gnu::cold, gnu::noinline]] void primera_carga() {
     const auto cerrado = cierra_el_registro();
+    // Another thread may have loaded it while this one waited.
     if (!registro_cargado.load(std::memory_order_relaxed)) carga();
 }
 
@@ -267,6 +270,7 @@ void vornconf_Internacional_set_sistema_unidades_energia(uint32_t sistema_unidad
 }
 
 uint32_t vornconf_Internacional_idioma(void) {
+    // Languages count from one here.
     const int idioma_int = msidioma_dame_idioma() + 1;
     return AFIRMA(idioma_int > 0 && idioma_int <= NUM_IDIOMAS) ? static_cast<uint32_t>(idioma_int) : 0;
 }
