@@ -101,6 +101,7 @@ constexpr fncs_leer_t con_lineas(fncs_leer_t t, bool con_comentarios) {
     if (!con_comentarios) t.fncptr_lee_##n = t.fncptr_lee_##n##_y_salta;
     NUMEROS(X)
 #undef X
+    // Characters of the OEM page follow the same rule.
     t.fncptr_lee_char_sin_salto_ASCII = t.fncptr_lee_char_ASCII;
     if (!con_comentarios) t.fncptr_lee_char_ASCII = t.fncptr_lee_char_y_salta_ASCII;
     return t;

@@ -199,12 +199,14 @@ vnbool vornbin_cierra_basico_fichero_abierto_para_escritura(vnfichero *f, const 
 
 void vornbin_abandona_fichero_abierto_para_escritura_u(vnfichero *f, const vnwchar *nomfich) {
     if (!AFIRMA_NO_NULO(f)) return;
+    // The name is only asked for: the stream knows its own.
     vornfile_abandonar_fichero_escritura(f);
     AFIRMA_NO_NULO(nomfich);
 }
 
 vnfichero *vornbin_abre_fichero_para_lectura_u(const vnwchar *nomfich, char **version_texto, char **revision_texto,
                                                vnbool *es_ejemplo) {
+    // The outputs are set even where a check fails.
     vn::inicia<char *>(version_texto, nullptr);
     vn::inicia<char *>(revision_texto, nullptr);
     vn::inicia(es_ejemplo, FALSO);
@@ -316,6 +318,7 @@ vnbool vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(cons
                                                                             char **titulo) {
     if (!EXIGE(nomfich, firma, f, version, titulo)) return FALSO;
     *f = nullptr;
+    // The largest number says that no version was read.
     *version = UINT16_MAX;
     *titulo = nullptr;
     vn::fichero abierto;
@@ -334,6 +337,7 @@ vnbool vornbin_se_abre_fichero_para_lectura_sin_cabecera_version_programa_u(cons
 
 void vornbin_cierra_fichero_abierto_para_lectura_u(vnfichero *f, const vnwchar *nomfich, const vnwchar *obra) {
     if (!AFIRMA_NO_NULO(f)) return;
+    // Closed even where the name is missing.
     lc_fclose(f);
     if (!AFIRMA_NO_NULO(nomfich)) return;
     ultiobra_guarda_nombre_ultima_obra_u(nomfich, obra);

@@ -39,6 +39,7 @@ char *lee_cadena(vnfichero *f, bool es_ascii) {
 }
 
 char convierte_char(char c) {
+    // The conversion takes texts, so the character becomes one.
     char texto[2] = {c, 0};
     cad_convertir_cadena_ascii_ansi(texto);
     return texto[0];
@@ -144,6 +145,7 @@ vnwchar *bin_lee_null_unicode(vnfichero *f) {
 char bin_lee_char_ASCII(vnfichero *f) { return convierte_char(bin_lee_char(f)); }
 
 char bin_lee_char_ansi_ascii(vnfichero *f, uint16_t version, uint16_t version_ascii) {
+    // Files after that version hold ANSI characters as they are.
     return version > version_ascii ? bin_lee_char(f) : bin_lee_char_ASCII(f);
 }
 

@@ -143,6 +143,7 @@ void vornsave_libera(vornsave **vornsave_datos) {
 
 int32_t vornsave_get_posicion(vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return 0;
+    // A destination without positions lacks this entry and the next operation's.
     const auto get = vornsave_datos->fila->posiciones.get;
     return AFIRMA_TEXTO(get != nullptr, "(vornsave->fncptr_get_posicion) != NULL") ? get(vornsave_datos->donde) : 0;
 }
@@ -178,6 +179,7 @@ uint32_t vornsave_get_tipo_status_lectura(const vornsave *vornsave_datos, const 
 
 void vornsave_set_lectura_ANSI_ASCII_segun_version(vornsave *vornsave_datos, uint32_t version, uint32_t version_ascii) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
+    // From here on the ANSI texts of the file are taken in the page of its version.
     vornsave_datos->ANSI = logico(version > version_ascii);
 }
 

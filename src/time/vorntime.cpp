@@ -20,6 +20,7 @@ namespace {
 // The names of the parameter and its fields are those of the reports.
 bool comprueba(const struct tmtime *tmtime) {
     if (!AFIRMA_NO_NULO(tmtime)) return false;
+    // All the fields are looked at, so that each has its own report.
     bool bien = AFIRMA(tmtime->tm_sec >= 0 && tmtime->tm_sec <= 59);
     bien &= AFIRMA(tmtime->tm_min >= 0 && tmtime->tm_min <= 59);
     bien &= AFIRMA(tmtime->tm_hour >= 0 && tmtime->tm_hour <= 23);
@@ -80,6 +81,7 @@ tmtime *vtm_crea(int32_t hora, int32_t minuto, int32_t segundo, int32_t dia, int
     // The least number of 32 bits has none before it: no month, and a year that wraps to a far one.
     const auto menos = [](int32_t x, uint32_t y) { return static_cast<int32_t>(static_cast<uint32_t>(x) - y); };
     tmtime_propio fecha = nuevo_tmtime({segundo, minuto, hora, dia, menos(mes, 1), menos(anyo, 1900), 0, 0, 0});
+    // The days are counted before the check, which looks at them too.
     if (mes_posible(*fecha)) pon_dias(*fecha);
     if (!comprueba(fecha.get())) *fecha = INICIO_1970;
     return fecha.release();

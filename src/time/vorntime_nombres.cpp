@@ -23,6 +23,7 @@ constexpr std::tuple MENSAJES{
 // The fillers of N names, by the ordinal of the first.
 template <class C, uint32_t PRIMERO, size_t N> consteval std::array<vnfunc_mensaje, N> nombres() {
     return []<size_t... I>(std::index_sequence<I...>) {
+        // The messages have the ordinals of their rows, one after another.
         static_assert(((std::get<PRIMERO - 1 + I>(MENSAJES).orden() == PRIMERO + I) && ...));
         return std::array<vnfunc_mensaje, N>{std::get<PRIMERO - 1 + I>(MENSAJES).template rellena<C>...};
     }

@@ -25,6 +25,7 @@ template <class C> class renglon {
             n = -n;
             --cifras;
         }
+        // The digits come from the last to the first.
         C escritas[20];
         int k = 0;
         do {
@@ -74,6 +75,7 @@ template <class C> class renglon {
 
 const std::tm *hora_local_de(int64_t t) { return vnstdc__localtime64(&t); }
 
+// What the two widths differ in.
 template <class C> struct ancho;
 template <> struct ancho<char> {
     static constexpr auto formatea = vnstdc__snprintf;
@@ -181,6 +183,7 @@ void vtm_fecha_y_hora_para_listados_u(vnwchar **fecha_texto, vnwchar **hora_text
     para_listados(fecha_texto, hora_texto);
 }
 
+// Each operation has a room of its own for its text, which lasts until it is called again.
 const char *vtm_fecha_str(int64_t t) {
     static char sitio[SITIO];
     return fecha_en(sitio, t);

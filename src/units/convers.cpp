@@ -33,7 +33,7 @@ columna_convers columna_en_vigor(const fila_convers *convers) {
     }
 }
 
-// With every check, and whatever is made at first use.
+// The slow road: every check, and the texts that the first use makes.
 [[gnu::cold, gnu::noinline]] double convierte_despacio(int32_t sentido, uint32_t tipovalor, double valor) {
     const vista_convers v(tipovalor);
     if (!v.es_tipo) return 0;

@@ -37,7 +37,7 @@ double potencia_de_diez(int32_t exponente) {
     return x;
 }
 
-// The exponent of a precision as it is shown; reports, and is false.
+// The exponent of a precision as it is shown; false, reported, if the type or the precision is none.
 bool exponente_de(double prec_deseada_uds_internas, uint32_t tipovalor, int32_t *exponente) {
     if (!AFIRMA(tipovalor != CNV_NO_CONVERSION)) return false;
     const vista_convers v(tipovalor);
@@ -58,7 +58,7 @@ uint32_t num_decimales(double prec, uint32_t tipovalor) {
     return exponente_de(prec, tipovalor, &exponente) && exponente < 0 ? static_cast<uint32_t>(-exponente) : 0;
 }
 
-// The multiplier of a type in a system, here counted from 0, with a unit of energy; reports, and is false.
+// The multiplier of a type in a system, counted from 0 here, with a unit of energy; false, reported, if there is none.
 bool coef_en_sistema(uint32_t sistema, uint32_t energia, uint32_t tipovalor, double *coef) {
     if ((sistema > 2 || energia > VORNNORM_UNIDAD_ENERGIA_BTU) && !AFIRMA_DEFECTO()) return false;
     if (!AFIRMA(tipovalor != CNV_NO_CONVERSION)) return false;
@@ -78,6 +78,7 @@ double paso_fino(double valor_max_redondeo) {
     constexpr int num_decimales_max = 12;
     if (valor_max_redondeo < 1e-12) return 0;
     if (!AFIRMA(valor_max_redondeo > 0.) || !AFIRMA(valor_max_redondeo < 1.)) return 0;
+    // The largest of 0.25, 0.025... that goes into it, with a margin for what binary numbers miss.
     double unidad = 2.5;
     int i = 0;
     for (; i < num_decimales_max; ++i) {
@@ -96,6 +97,7 @@ double paso_redondo(double p, double base) {
         {90000, 100000}, {9000, 10000},      {900, 1000}, {90 * base, 100 * base}, {90, 100}, {9 * base, 10 * base},
         {9, 10},         {0.9 * base, base}, {0.9, 1},
     };
+    // A step begins to count at nine tenths of its size.
     for (const auto &f : pasos)
         if (p > f.por_encima_de) return f.paso;
     return paso_fino(p);
@@ -116,6 +118,7 @@ double redondeado(double valor, double prec, uint32_t tipovalor, modo_redondeo m
     const vista_convers v(en_pies ? uint32_t{CNV_LONGITUD_CM} : tipovalor);
     const double mostrado = v.a_mostrado(valor);
     if (!v.es_tipo || !std::isfinite(mostrado)) return valor;
+    // Half of ten is five; half a foot is six inches.
     const double base = en_pies && v.es_longitud_imperial() ? 6 : 5;
     return v.a_interno(redondea_al_paso(mostrado, paso_redondo(v.a_mostrado(prec), base), modo));
 }

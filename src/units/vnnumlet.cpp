@@ -12,6 +12,7 @@ namespace vn::numlet {
 
 void blanco(std::string *pszNumLetra) {
     if (!AFIRMA_NO_NULO(pszNumLetra) || pszNumLetra->empty()) return;
+    // What follows a hyphen joins it without a blank.
     if (pszNumLetra->back() != ' ' && pszNumLetra->back() != '-') *pszNumLetra += ' ';
 }
 

@@ -34,6 +34,7 @@ vnbool dirwin_findnextfile_UNICODE(dirwin *d, dirwin_dato *dato) {
         // A name that has no room in the record is passed over, like one that the mask leaves out.
         if (f.nombre.size() >= std::size(dato->nombre) || !vn::ficheros::casa_con(d->mascara, f.nombre)) continue;
         std::copy(f.nombre.begin(), f.nombre.end(), dato->nombre);
+        // The platform tells a directory by its kind too, not by its attributes alone.
         dato->atributos = f.atributos | (f.es_directorio ? VNLONGPATH_FILE_ATTRIBUTE_DIRECTORY : 0);
         dato->tamanyo = f.tamanyo;
         dato->fecha_UTC = f.fecha;

@@ -120,6 +120,7 @@ fichmem *fichmem_lee_unicode(const vnwchar *nombre) {
         lc_error_leyendo_fichero(f.get());
         return nullptr;
     }
+    // An empty file has no block.
     if (m->longitud == 0) vornspy_free_pp(&m->datos, 1);
     return m.release();
 }

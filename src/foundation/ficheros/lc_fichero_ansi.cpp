@@ -33,6 +33,7 @@ vnfichero *f_lc_fopen_seguro(const char *nombre, const char *modo, const char *m
 size_t f_lc_fread_ansi_ascii(void *destino, size_t tamanyo, size_t numero, vnfichero *f, uint16_t version,
                              uint16_t version_ascii, const char *modulo, uint32_t linea) {
     const size_t k = f_lc_fread(destino, tamanyo, numero, f, modulo, linea);
+    // Files after that version hold ANSI text as it is.
     if (version > version_ascii || k == 0) return k;
     // Byte by byte: what was read may hold zeros, and need not end in one.
     auto *p = static_cast<char *>(destino);

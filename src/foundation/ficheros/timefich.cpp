@@ -15,6 +15,7 @@ timefich_fecha descompone_fecha(int64_t segundos) {
     const sys_days dia = floor<days>(t);
     const year_month_day f{dia};
     const hh_mm_ss h{t - dia};
+    // Months and days of the month count from one, days of the week and of the year from zero; UTC has no summer time.
     return {static_cast<int>(f.year()),
             static_cast<int32_t>(static_cast<unsigned>(f.month())),
             static_cast<int32_t>(static_cast<unsigned>(f.day())),
@@ -32,6 +33,7 @@ vnbool timefich_obtener_fecha_fichero_existente_UTC_UNICODE(const vnwchar *nombr
     if (fecha_UTC != nullptr) *fecha_UTC = 0;
     if (!EXIGE(nombre, fecha_UTC)) return FALSO;
     vn::plat::ficha f;
+    // The date is that of a file: a directory counts as none.
     const bool existe = vn::plat::consulta(nombre, f) && !f.es_directorio;
     if (!AFIRMA_DE_FICHERO(existe, nombre)) return FALSO;
     *fecha_UTC = f.fecha;

@@ -142,6 +142,7 @@ vnbool vdir_se_puede_leer_UNICODE(const vnwchar *ruta) {
 vnbool vdir_se_puede_escribir_UNICODE(const vnwchar *ruta) {
     if (!AFIRMA_NO_NULO(ruta) || *ruta == 0 || es_separador(vista_ancha(ruta).back())) return FALSO;
     vnestado_fichero e{};
+    // A file that is there is asked for its rights; for one that is not, its directory is tried.
     const vnerror_fichero hay = tabla().estado(ruta, &e);
     if (hay == VN_FICH_BIEN) return logico(e.es_directorio == FALSO && plat::puede_escribir(ruta));
     if (hay != VN_FICH_NO_EXISTE) return FALSO; // links that lead to each other

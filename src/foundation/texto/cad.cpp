@@ -28,6 +28,7 @@ char *creacadena(uint32_t n) {
 
 char *cad_crea_de_bytes(const char *str, uint32_t len) {
     if (!AFIRMA_NO_NULO(str) || !AFIRMA(len <= MAX_TEXTO)) return nullptr;
+    // A zero among the bytes is reported: for all who read it the text ends there.
     return texto::de_unidades(str, len, AQUI, [] { AFIRMA_TEXTO(false, "vnstdc_strlen(str)==len"); });
 }
 
@@ -46,6 +47,7 @@ char *cad_copia_cadena(const char *s) {
     return copia(s);
 }
 
+// Null is copied as null, without a report.
 char *cad_copia_cadena_opcional(const char *s) { return s != nullptr ? copia(s) : nullptr; }
 
 char *nousar_formatea(const char *formato, ...) {

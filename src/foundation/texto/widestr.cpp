@@ -28,6 +28,7 @@ vnwchar *widestr_nousar_creacadena_con_caracter(uint32_t n, vnwchar c, const cha
 
 vnwchar *widestr_nousar_crea_de_unidades(const vnwchar *str, uint32_t len, const char *modulo, uint32_t linea) {
     if (!EXIGE_DE(modulo, linea, str) || !AFIRMA(len <= MAX_TEXTO)) return nullptr;
+    // A zero among the units is reported in the caller's name: for all who read it the text ends there.
     return texto::de_unidades(str, len, QUIEN, [&] { error_interno("widestr_longitud(str)==len", modulo, linea, 0); });
 }
 
@@ -36,6 +37,7 @@ vnwchar *widestr_nousar_copia(const vnwchar *s, const char *modulo, uint32_t lin
     return texto::copia(vista_ancha(s), QUIEN);
 }
 
+// Null is copied as null, without a report.
 vnwchar *widestr_nousar_copia_opcional(const vnwchar *s, const char *modulo, uint32_t linea) {
     return s != nullptr ? texto::copia(vista_ancha(s), QUIEN) : nullptr;
 }
