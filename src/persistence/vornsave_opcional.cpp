@@ -131,6 +131,7 @@ void vornsave_nousar_salta_arr_punteros_opcionalST(vornsave *vornsave_datos, vnf
 apunorde *vornsave_nousar_lee_apunorde_opcional(vornsave *vornsave_datos, vnfunc_lee_dato funcion,
                                                 vnfunc_compara_con_dato comparador, void *dato,
                                                 vnfunc_destruye destructor) {
+    // Both are looked at before the flag is read: what it announces can then be taken.
     if (!EXIGE(funcion, comparador)) return nullptr;
     return lee_presencia(vornsave_datos)
                ? vornsave_nousar_lee_apunorde(vornsave_datos, funcion, comparador, dato, destructor)

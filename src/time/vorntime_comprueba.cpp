@@ -43,6 +43,7 @@ void vtm_test_fechas(void *) {
             const ansi_propio abreviado(sysdata_nombre_dia_abreviado(dia));
             AFIRMA(std::string_view(abreviado.get()).starts_with(f.abreviado));
         }
+        // A date is equal to itself, and later than the one before it.
         AFIRMA(vtm_fechas_iguales(fecha.get(), fecha.get()) == CIERTO);
         if (anterior != nullptr) {
             AFIRMA(vtm_compara_fechas(anterior.get(), fecha.get()) == -1);

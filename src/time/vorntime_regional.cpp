@@ -14,6 +14,7 @@ using ansi_propio = propio<char>;
 int32_t anyo_entero(const tmtime &f) { return static_cast<int32_t>(int64_t{f.tm_year} + 1900); }
 int32_t mes_desde_1(const tmtime &f) { return static_cast<int32_t>(int64_t{f.tm_mon} + 1); }
 
+// A null model stands for the region's own short date.
 char *fecha_regional(const tmtime &f, const char *modelo) {
     return sysdata_fecha(f.tm_mday, mes_desde_1(f), anyo_entero(f), f.tm_wday, modelo, FALSO);
 }

@@ -52,6 +52,7 @@ vista_convers::vista_convers(uint32_t tipovalor) {
     fila = convers;
     cifras = convers->cifras[columna];
     unidad = dame_textos_convers()[tipovalor].texto[columna];
+    // Feet and inches belong to the imperial column, and not to a host whose units are apart.
     if (columna == EN_IMPERIAL && !es_uso_residual.load(std::memory_order_relaxed)) formato = convers->formato;
 }
 

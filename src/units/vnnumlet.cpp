@@ -78,7 +78,7 @@ uint32_t quita_del_final(std::string_view &cifras, size_t n) {
 
 int es_cifra(char c) { return vnstdc_isdigit(static_cast<unsigned char>(c)); }
 
-// What stands behind the whole part: nothing, or a separator and two digits. What follows these, or a character that
+// Reads what follows the whole part: nothing, or a separator and two digits. What follows these, or a character that
 // cannot be a separator before digits alone, would tell of another amount than the words.
 bool lee_fraccion(const char *pStrAux, bool hay_entera, uint32_t &fraccion) {
     if (*pStrAux == 0) return true;
@@ -91,8 +91,10 @@ bool lee_fraccion(const char *pStrAux, bool hay_entera, uint32_t &fraccion) {
 }
 
 char *en_letra(const char *cadena, vnbool negativo, const moneda &m) {
+    // The environment may ask for the words in English, to try them.
     const int idioma = vnstdc_getenv("PRUEBA_NUMEROS_INGLES") != nullptr ? IDIOMA_INGLES : msidioma_dame_idioma();
     const fila &f = fila_de(idioma);
+    // Words that are still to come: a warning, and those of the general engine.
     if (f.aviso != nullptr) assert_aviso(f.aviso);
     const char *desbordamiento = f.m->desbordamiento(idioma);
     if (desbordamiento == nullptr) return nullptr;
@@ -101,6 +103,7 @@ char *en_letra(const char *cadena, vnbool negativo, const moneda &m) {
     if (n > MAXIMO_CIFRAS) return cad_copia_cadena(desbordamiento);
     importe x{.negativo = negativo == CIERTO};
     std::string_view cifras(cadena, n);
+    // From the end: nine digits below the thousands of millions, three of these, three of the billions (10^12).
     x.menor = quita_del_final(cifras, 9);
     x.miles_de_millones = quita_del_final(cifras, 3);
     x.billones = quita_del_final(cifras, 3);

@@ -16,6 +16,7 @@
 namespace vn::ficheros {
 namespace {
 
+// What lc_ultimo_error answers without a stream: the last failure of this thread.
 thread_local vnerror_fichero ultimo_error = VN_FICH_BIEN;
 
 struct modo_de_apertura {
