@@ -58,7 +58,7 @@ struct lectura {
     obras leidas;
 };
 
-// What stands behind a number: its comment, on its line or on one of its own.
+// Passes over the comment of a number, on its line or on one of its own.
 void salta_comentario(vnfichero *f) {
     const auto toma_linea_de_comentario = [f] {
         const int64_t aqui = vornio_ftell_i64(f);

@@ -50,7 +50,7 @@ bool lee_identificacion(vnfichero *f, cabecera &c) {
            lee_exacto(f, texto, longitud) && interpreta_identificacion({texto, longitud}, c);
 }
 
-// Whether lists follow the form byte; files of the first years have none, and no mark.
+// True if lists follow the form byte; files of the first years have none, and no mark.
 bool hay_listas(vnfichero *f, uint8_t forma) {
     if (forma == FORMA_LISTAS_SEGUIDAS) return true;
     const int64_t pos = vornio_ftell_i64(f);

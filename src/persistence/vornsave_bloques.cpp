@@ -138,7 +138,7 @@ int64_t aqui(const vornsave *d) {
     const posiciones_t &p = d->fila->posiciones;
     return p.get64 != nullptr ? p.get64(d->donde) : p.get != nullptr ? p.get(d->donde) : -1;
 }
-// Whether a stored end lies between here and the end of what is open, and of the source.
+// True if a stored end lies between here and the end of what is open, and of the source.
 bool fin_valido(const vornsave *d, int64_t fin) {
     if (d->fila->posiciones.get == nullptr) return true;
     const int64_t desde = aqui(d);
@@ -168,7 +168,7 @@ enum forma { BLOQUE, SECCION };
 
 using fncptr_marca = void (*)(const char *id, void *destino);
 
-// What writes the mark of that form; null, reported, where the destination takes no marks.
+// Gives the function that writes a mark of that form; null, reported, where the destination takes no marks.
 fncptr_marca puede_marcar(const char *id, const vornsave *vornsave_datos, forma f, clase_marca clase) {
     if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(id))) return nullptr;
     if (clase == MARCA_32 ? !puede_grabar<GRABAR(long)>(vornsave_datos) : !puede_grabar<GRABAR(ulong)>(vornsave_datos))

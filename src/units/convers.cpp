@@ -23,7 +23,7 @@ columna_convers columna_de_energia() {
     }
 }
 
-// What the system in force shows of a type; reports, and is M.K.S., if there is no such system or unit of energy.
+// The column of the system in force for a type; M.K.S., reported, if there is no such system or unit of energy.
 columna_convers columna_en_vigor(const fila_convers *convers) {
     switch (vornconf_Internacional_sistema_unidades()) {
     case VORNCONF_SU_MKS: return EN_MKS;

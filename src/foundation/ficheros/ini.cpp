@@ -45,7 +45,7 @@ bool iguales(std::string_view a, std::string_view b) {
     return true;
 }
 
-// Whether a line is a section, and its name.
+// True if a line begins a section; gives its name.
 bool es_seccion(std::string_view linea, std::string_view &nombre) {
     if (linea.empty() || linea[0] != '[') return false;
     nombre = sin_blancos(linea.substr(1, linea.find(']') - 1));
