@@ -143,6 +143,7 @@ std::string lee_fichero(const std::string &nombre) {
 }
 
 std::string dato(const std::string &nombre) { return VN_DIRECTORIO_DATOS "/" + nombre; }
+std::string dato_propio(const std::string &nombre) { return VN_DIRECTORIO_PROPIO "/" + nombre; }
 
 void graba_fichero(const std::string &nombre, std::string_view contenido) {
     std::ofstream f(ruta(nombre), std::ios::binary | std::ios::trunc);

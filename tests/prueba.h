@@ -93,6 +93,8 @@ bool pon_locale_con_coma();
 std::string lee_fichero(const std::string &nombre);
 // Name of a file of the outside data. A test that uses one is registered only where its folder is.
 std::string dato(const std::string &nombre);
+// Name of a file of tests/datos/; filas.h reads its tables.
+std::string dato_propio(const std::string &nombre);
 void graba_fichero(const std::string &nombre, std::string_view contenido);
 bool existe(const std::string &nombre);
 // Waits half a minute at most for another program to make a file; whether it is there.

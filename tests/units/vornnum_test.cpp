@@ -1,4 +1,5 @@
 #define VN_MODULO "vornnum_test"
+#include "filas.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/sistema/vnregional.h"
 #include "foundation/texto/cad.h"
@@ -36,39 +37,10 @@ double cualquiera(azar &a, int32_t cifras) {
 } // namespace
 
 PRUEBA(vornnum, formas_de_un_numero) {
-    const struct {
-        double v;
-        int decimales;
-        const char *fija, *cientifica;
-    } FILAS[] = {
-        {1234.5, 2, "1.234,50", "1,23e+03"},
-        {-1234567.891, 2, "-1.234.567,89", "-1,23e+06"},
-        {0, 0, "0", "0,e+00"},
-        {-0., 2, "0,00", "0,00e+00"},
-        {123456, 0, "123.456", "1,e+05"},
-        {NAN, 3, "nan", "nan"},
-        {-INFINITY, 3, "-inf", "-inf"},
-        // The middle, by the digits of a double, goes up in the fixed form: 1.115 is a little less, and 1.005 too much
-        // less.
-        {999.995, 2, "1.000,00", "1,00e+03"},
-        {0.125, 2, "0,13", "1,25e-01"},
-        {-2.5, 0, "-3", "-2,e+00"},
-        {1.115, 2, "1,12", "1,11e+00"},
-        {1.005, 2, "1,00", "1,00e+00"},
-        // With automatic decimals the zeros of the scientific form stay.
-        {1234.5, -1, "1.234,5", "1,2345000000e+03"},
-        {0, -1, "0", "0,0e+00"},
-        {INFINITY, -1, "inf", "inf"},
-        {0.1, -1, "0,1", "1,000000000000000e-01"},
-        {200. / 3, -1, "66,666666666667", "6,666666666667e+01"},
-        {200000. / 3, -1, "66.666,666666667", "6,666666667e+04"},
-        {1e16, -1, "1,00000000000000e+16", "1,00000000000000e+16"},
-        {-DBL_MAX, 9, "-1,797693135e+308", "-1,797693135e+308"},
-        {5e-324, -1, "4,940656458412465e-324", "4,940656458412465e-324"},
-    };
-    for (const auto &f : FILAS) {
-        EXPECT_EQ(da(f.v, f.decimales, '.', ','), f.fija);
-        EXPECT_EQ(da(f.v, f.decimales, '.', ',', CIERTO), f.cientifica);
+    for (const auto &[v, decimales, fija, cientifica] :
+         filas<double, int, std::string, std::string>("units/vornnum.tsv", "formas")) {
+        EXPECT_EQ(da(v, decimales, '.', ','), fija);
+        EXPECT_EQ(da(v, decimales, '.', ',', CIERTO), cientifica);
     }
     EXPECT_EQ(toma(num_double_a_string_u(1234.5, 0, u',', CIERTO, 2)), "1,234e+03");
     EXPECT_EQ(toma(vornnum_double_a_cadena_printf_todos_decimales(2)), "2.");
