@@ -38,7 +38,7 @@ pto3dord *pto3dord_crea_vacio(void) {
 }
 
 void pto3dord_destruye(pto3dord **puntos_ordenados) {
-    if (!AFIRMA_NO_NULO(puntos_ordenados) || !AFIRMA_NO_NULO(*puntos_ordenados)) return;
+    if (!EXIGE(puntos_ordenados, *puntos_ordenados)) return;
     apunorde_destruye(&(*puntos_ordenados)->puntos, Punto3D);
     vornspy_free_pp(puntos_ordenados, sizeof(pto3dord));
 }

@@ -4,6 +4,7 @@
 
 #include "foundation/listas/arr.h"
 #include "foundation/suelo/dueno.hpp"
+#include "foundation/suelo/propio_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 #include "persistence/destino_priv.h"
@@ -12,9 +13,8 @@
 namespace vn {
 
 // Owners of the texts that are read.
-inline void destruye_ancha(vnwchar **s) { widestr_destruye(s); }
-using dueno_cadena = dueno<vornstr_destruye>;
-using dueno_cadena_u = dueno<destruye_ancha>;
+using dueno_cadena = propio<char>;
+using dueno_cadena_u = propio<vnwchar>;
 
 // What the two widths differ in.
 struct ansi {

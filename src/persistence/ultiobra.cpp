@@ -7,13 +7,13 @@
 #include "foundation/listas/arr.h"
 #include "foundation/sistema/avisos.h"
 #include "foundation/suelo/afirma_int.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/error_interno_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/texto/mensajes.hpp"
 #include "foundation/texto/unicode.h"
 #include "foundation/texto/widestr.h"
 #include <algorithm>
-#include <memory>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -30,15 +30,9 @@ constexpr uint16_t ULTIMA_VERSION_ASCII = 0;
 constexpr uint32_t MAXIMO_OBRAS = 32;
 constexpr uint32_t SIN_INDICE = UINT32_MAX;
 
-struct destruye_lista {
-    void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
-};
-struct cierra_callando {
-    void operator()(vnfichero *f) const { lc_fclose_seguro(f); }
-};
-using lista_propia = std::unique_ptr<arrCADENA_u, destruye_lista>;
+using lista_propia = vn::dueno<arr_DestruyeCADENA_u>;
 using texto_propio = vn::propio<vnwchar>;
-using fichero_propio = std::unique_ptr<vnfichero, cierra_callando>;
+using fichero_propio = vn::dueno<lc_fclose_seguro>; // closed without a report
 
 struct obras {
     lista_propia lista{arr_CreaCADENA_u(0)};

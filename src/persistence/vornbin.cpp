@@ -111,7 +111,7 @@ SALTOS(X)
 #undef X
 
 // The checks of an operation that goes both ways.
-#define AFIRMA_TRATA(dato) (AFIRMA_NO_NULO(dato) && AFIRMA_NO_NULO(f) && AFIRMA_LOGICO(graba))
+#define AFIRMA_TRATA(dato) (EXIGE(dato, f) && AFIRMA_LOGICO(graba))
 #define TRATOS(X)                                                                                                      \
     X(vnbool, bin_trata_bool, bin_graba_bool, bin_lee_bool)                                                            \
     X(uint8_t, bin_trata_byte, bin_graba_byte, bin_lee_byte)                                                           \

@@ -16,11 +16,6 @@ namespace {
 #include "persistence/vornbin_msg.inl"
 #undef M
 
-struct libera_textos {
-    void operator()(arrCADENA_u *a) const { arr_DestruyeCADENA_u(&a); }
-};
-using textos = std::unique_ptr<arrCADENA_u, libera_textos>;
-
 // Opens a file and reads its header; false, reported, when there is no file to read.
 bool abre_y_lee_cabecera(const vnwchar *nomfich, fichero *f, cabecera *c) {
     *f = abre_para_leer(nomfich);
@@ -159,7 +154,7 @@ vnbool vornbin_lee_campos_cabecera_u(const vnwchar *nomfich, arrCADENA_u **nombr
     if (!EXIGE(nomfich, nombres, valores)) return FALSO;
     *nombres = *valores = nullptr;
     // The caller is given two arrays even where there is nothing to put in them.
-    vn::textos leidos_nombres(arr_CreaCADENA_u(0)), leidos_valores(arr_CreaCADENA_u(0));
+    vn::dueno<arr_DestruyeCADENA_u> leidos_nombres(arr_CreaCADENA_u(0)), leidos_valores(arr_CreaCADENA_u(0));
     const vn::fichero f = vn::abre_para_leer(nomfich);
     const vn::cabecera c = f != nullptr ? vn::lee_cabecera(f.get()) : vn::cabecera{};
     if (c.valida)
@@ -173,9 +168,9 @@ vnbool vornbin_lee_campos_cabecera_u(const vnwchar *nomfich, arrCADENA_u **nombr
 }
 
 vnbool vornbin_se_comprueba_marca(const char *id, vnfichero *f) {
-    return AFIRMA_NO_NULO(id) && AFIRMA_NO_NULO(f) && vn::comprueba_marca(id, f);
+    return vn::logico(EXIGE(id, f) && vn::comprueba_marca(id, f));
 }
 
 vnbool vornbin_se_comprueba_marca64(const char *id, vnfichero *f) {
-    return AFIRMA_NO_NULO(id) && AFIRMA_NO_NULO(f) && vn::comprueba_marca(id, f);
+    return vn::logico(EXIGE(id, f) && vn::comprueba_marca(id, f));
 }

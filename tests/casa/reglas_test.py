@@ -44,6 +44,7 @@ TEXTOS = [
     ("src/frame/largo.h", "int f(void);\n" * 801, "more than 800 lines"),
     ("src/frame/tabla.inl", 'X(1, "a")\n' * 900, None),
     ("src/frame/verdad_priv.h", "vnbool v = a == b\n    ? CIERTO\n    : FALSO; // x ? CIERTO : FALSO\n", "becomes a vnbool by logico()"),
+    ("src/frame/verdad.hpp", "vnbool v = a ? CIERTO : FALSO;\n", None),
     ("src/frame/mentira_priv.h", "vnbool v = a ? FALSO : CIERTO;\n", "becomes a vnbool by logico()"),
     ("src/frame/nulos_priv.h", "if (!AFIRMA_NO_NULO(a) ||\n    !AFIRMA_NO_NULO(*b)) return;\n", "are checked by EXIGE()"),
     ("src/frame/ninguno_priv.h", "if (AFIRMA_NO_NULO(a) && AFIRMA_NO_NULO(b)) f();\n", "are checked by EXIGE()"),

@@ -3,6 +3,7 @@
 #include "foundation/platform/variables.h"
 #include "foundation/suelo/afirma_int.h"
 #include "foundation/suelo/eterno_int.h"
+#include "foundation/suelo/logico_int.h"
 #include "foundation/suelo/propio_int.h"
 #include "foundation/suelo/vnatexit.h"
 #include "foundation/texto/formato_int.h"
@@ -196,4 +197,4 @@ void msidioma_establece_idioma(int idioma) {
     if (AFIRMA(idioma >= 0 && idioma < MSGLOCAL_NUM_TEXTOS)) el_idioma.store(idioma, std::memory_order_relaxed);
 }
 
-vnbool msidioma_es_idioma_ingles(void) { return msidioma_dame_idioma() == INGLES ? CIERTO : FALSO; }
+vnbool msidioma_es_idioma_ingles(void) { return vn::logico(msidioma_dame_idioma() == INGLES); }
