@@ -14,25 +14,19 @@ namespace {
 const vnwchar *unidades_separador_decimales_u(void) { return VNU(","); }
 const vnwchar *unidades_separador_millares_u(void) { return VNU("."); }
 
-const char *unidades_UD(void) { return nousar_msglocal_original(msg_165177.a); }
-const vnwchar *unidades_u_UD(void) { return nousar_msglocal_original_u(msg_165177.u); }
-const char *unidades_H(void) { return nousar_msglocal_original(msg_165181.a); }
-const vnwchar *unidades_u_H(void) { return nousar_msglocal_original_u(msg_165181.u); }
-const char *unidades_kg(void) { return nousar_msglocal_original(msg_157616.a); }
-const vnwchar *unidades_u_kg(void) { return nousar_msglocal_original_u(msg_157616.u); }
-const char *unidades_km(void) { return nousar_msglocal_original(msg_165187.a); }
-const vnwchar *unidades_u_km(void) { return nousar_msglocal_original_u(msg_165187.u); }
-const char *unidades_l(void) { return nousar_msglocal_original(msg_165186.a); }
-const vnwchar *unidades_u_l(void) { return nousar_msglocal_original_u(msg_165186.u); }
-const char *unidades_m(void) { return nousar_msglocal_original(msg_40344.a); }
-const vnwchar *unidades_u_m(void) { return nousar_msglocal_original_u(msg_40344.u); }
-const char *unidades_M2(void) { return nousar_msglocal_original(msg_165179.a); }
-const vnwchar *unidades_u_M2(void) { return nousar_msglocal_original_u(msg_165179.u); }
-const char *unidades_m3(void) { return nousar_msglocal_original(msg_165180.a); }
-const vnwchar *unidades_u_m3(void) { return nousar_msglocal_original_u(msg_165180.u); }
-const char *unidades_m3xkm(void) { return nousar_msglocal_original(msg_165185.a); }
-const vnwchar *unidades_u_m3xkm(void) { return nousar_msglocal_original_u(msg_165185.u); }
-const char *unidades_t(void) { return nousar_msglocal_original(msg_165183.a); }
-const vnwchar *unidades_u_t(void) { return nousar_msglocal_original_u(msg_165183.u); }
-const char *unidades_txkm(void) { return nousar_msglocal_original(msg_165184.a); }
-const vnwchar *unidades_u_txkm(void) { return nousar_msglocal_original_u(msg_165184.u); }
+// A row: the two operations, the text of the label.
+#define ROTULO(nombre, nombre_u, msg)                                                                                  \
+    const char *nombre(void) { return nousar_msglocal_original(msg.a); }                                               \
+    const vnwchar *nombre_u(void) { return nousar_msglocal_original_u(msg.u); }
+ROTULO(unidades_UD, unidades_u_UD, msg_165177)
+ROTULO(unidades_H, unidades_u_H, msg_165181)
+ROTULO(unidades_kg, unidades_u_kg, msg_157616)
+ROTULO(unidades_km, unidades_u_km, msg_165187)
+ROTULO(unidades_l, unidades_u_l, msg_165186)
+ROTULO(unidades_m, unidades_u_m, msg_40344)
+ROTULO(unidades_M2, unidades_u_M2, msg_165179)
+ROTULO(unidades_m3, unidades_u_m3, msg_165180)
+ROTULO(unidades_m3xkm, unidades_u_m3xkm, msg_165185)
+ROTULO(unidades_t, unidades_u_t, msg_165183)
+ROTULO(unidades_txkm, unidades_u_txkm, msg_165184)
+#undef ROTULO

@@ -137,45 +137,30 @@ void vtxt_trata_bool(vnfichero *f, vnbool *dato, const char *texto1, const char 
 }
 
 // The other members that go both ways; each checks the two pointers and the direction.
-#define TRATA(...)                                                                                                     \
-    {                                                                                                                  \
-        if (!EXIGE(dato, f) || !AFIRMA_LOGICO(graba)) return;                                                          \
-        __VA_ARGS__                                                                                                    \
+#define AFIRMA_TRATA(dato) (EXIGE(dato, f) && AFIRMA_LOGICO(graba))
+#define TRATOS(X)                                                                                                      \
+    X(char *, vtxt_trata_cadena, vtxt_escr_string, vtxt_lee_cadena)                                                    \
+    X(vnwchar *, vtxt_trata_cadena_u, vtxt_escr_cadena_unicode, vtxt_lee_cadena_unicode)                               \
+    X(double, vtxt_trata_double, vtxt_escr_double, vtxt_lee_double)                                                    \
+    X(uint16_t, vtxt_trata_ushrt, vtxt_escr_ushrt, vtxt_lee_ushrt)                                                     \
+    X(uint8_t, vtxt_trata_uchar_como_ushrt, vtxt_escr_ushrt, vtxt_lee_uchar)
+#define X(tipo, trata, escribe, lee)                                                                                   \
+    void trata(tipo *dato, vnfichero *f, vnbool graba) {                                                               \
+        if (!AFIRMA_TRATA(dato)) return;                                                                               \
+        if (graba == CIERTO) escribe(*dato, f);                                                                        \
+        else *dato = lee(f);                                                                                           \
     }
+TRATOS(X)
+#undef X
 
-void vtxt_trata_cadena(char **dato, vnfichero *f, vnbool graba) TRATA({
+void vtxt_trata_cadena_ansi_ascii(char **dato, vnfichero *f, vnbool graba, uint16_t version, uint16_t version_ascii) {
+    if (!AFIRMA_TRATA(dato)) return;
     if (graba == CIERTO) vtxt_escr_string(*dato, f);
-    else *dato = vtxt_lee_cadena(f);
-})
+    else *dato = vtxt_lee_cadena_ansi_ascii(f, version, version_ascii);
+}
 
-    void vtxt_trata_cadena_ansi_ascii(char **dato, vnfichero *f, vnbool graba, uint16_t version, uint16_t version_ascii)
-        TRATA({
-            if (graba == CIERTO) vtxt_escr_string(*dato, f);
-            else *dato = vtxt_lee_cadena_ansi_ascii(f, version, version_ascii);
-        })
-
-            void vtxt_trata_cadena_u(vnwchar **dato, vnfichero *f, vnbool graba) TRATA({
-                if (graba == CIERTO) vtxt_escr_cadena_unicode(*dato, f);
-                else *dato = vtxt_lee_cadena_unicode(f);
-            })
-
-                void vtxt_trata_double(double *dato, vnfichero *f, vnbool graba) TRATA({
-                    if (graba == CIERTO) vtxt_escr_double(*dato, f);
-                    else *dato = vtxt_lee_double(f);
-                })
-
-                    void vtxt_trata_ushrt(uint16_t *dato, vnfichero *f, vnbool graba) TRATA({
-                        if (graba == CIERTO) vtxt_escr_ushrt(*dato, f);
-                        else *dato = vtxt_lee_ushrt(f);
-                    })
-
-                        void vtxt_trata_uchar_como_ushrt(uint8_t *dato, vnfichero *f, vnbool graba) TRATA({
-                            if (graba == CIERTO) vtxt_escr_ushrt(*dato, f);
-                            else *dato = vtxt_lee_uchar(f);
-                        })
-
-                            void vtxt_trata_comentario(const char *comentario, vnfichero *f, vnbool graba) {
-    if (!EXIGE(comentario, f) || !AFIRMA_LOGICO(graba)) return;
+void vtxt_trata_comentario(const char *comentario, vnfichero *f, vnbool graba) {
+    if (!AFIRMA_TRATA(comentario)) return;
     if (graba == CIERTO) vtxt_escr_comentario_y_salta(comentario, f);
     else vtxt_salta_linea(f);
 }
