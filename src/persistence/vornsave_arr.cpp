@@ -12,12 +12,12 @@ namespace {
 template <auto ENTRADA, auto ABIERTA, auto BLOQUE, progreso PROGRESO, class T>
 void graba_arr(const T *valores, uint32_t n, vornsave *d) {
     // All entries are asked for before the count goes: what was announced must come.
-    if (!puede_grabar<GRABAR(ulong_y_salta)>(d) || !puede_grabar<ABIERTA>(d) || !puede_grabar<ENTRADA>(d)) return;
+    if (!puede_grabar<GRABAR(ulong_y_salta), ABIERTA, ENTRADA>(d)) return;
     if constexpr (PROGRESO == CON_PROGRESO) progreso_al_grabar(d);
     graba_valores<ENTRADA, ABIERTA, BLOQUE>(*d, valores, n);
 }
 template <class ARR, auto ENTRADA, auto ABIERTA, auto BLOQUE, progreso PROGRESO> ARR *lee_arr(vornsave *d) {
-    if (!puede_leer<LEER(ulong_y_salta)>(d) || !puede_leer<ABIERTA>(d) || !puede_leer<ENTRADA>(d)) return nullptr;
+    if (!puede_leer<LEER(ulong_y_salta), ABIERTA, ENTRADA>(d)) return nullptr;
     if constexpr (PROGRESO == CON_PROGRESO) progreso_al_leer(d);
     return lee_valores<ARR, ENTRADA, ABIERTA, BLOQUE>(*d);
 }
@@ -27,7 +27,7 @@ template <class ARR, auto ENTRADA, auto ABIERTA, auto BLOQUE, progreso PROGRESO>
 // A row: operation, array, entry of the last scalar of an element, of those before it, whole arrays, progress.
 #define GRABA_ARR(nombre, arr, entrada, abierta, bloque, progreso)                                                     \
     void nombre(const arr *array, vornsave *vornsave_datos) {                                                          \
-        if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;                                                  \
+        if (!EXIGE_AL_GRABAR(vornsave_datos, array)) return;                                                           \
         graba_arr<GRABAR(entrada), GRABAR(abierta), &bloques_t::graba_##bloque, progreso>(                             \
             familia<arr>::buffer_const(array), familia<arr>::numelems(array), vornsave_datos);                         \
     }
@@ -57,7 +57,7 @@ LEE_ARR(vornsave_lee_arr_puntos3D, arrPunto3D, double_y_salta, double_sin_salto,
 
 // Truth values are unsigned shorts on a binary stream.
 void vornsave_graba_arr_bool(const arrBOOL *array, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, array)) return;
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
     const vnbool *valores = arr_GetBufferConstBOOL(array);
     const uint32_t n = arr_NumElemsBOOL(array);
@@ -93,7 +93,7 @@ arrDouble *vornsave_lee_arr_double_con_posible_error(vornsave *vornsave_datos, v
     constexpr auto ENTRADA = LEER(double_y_salta_con_posible_error);
     if (!EXIGE(vornsave_datos, es_incorrecto, es_denormal)) return nullptr;
     *es_incorrecto = *es_denormal = FALSO;
-    if (!puede_leer<LEER(ulong_y_salta)>(vornsave_datos) || !puede_leer<ENTRADA>(vornsave_datos)) return nullptr;
+    if (!puede_leer<LEER(ulong_y_salta), ENTRADA>(vornsave_datos)) return nullptr;
     const uint32_t n = vornsave_datos->acota(lee<LEER(ulong_y_salta)>(vornsave_datos), sizeof(double), 2);
     familia<arrDouble>::dueno array(arr_CreaDouble(0));
     const vigia guarda(*vornsave_datos);
@@ -113,7 +113,7 @@ namespace {
 
 template <auto DESTRUYE, auto CREA, auto ANADE, class T, auto ENTRADA, auto BLOQUE> auto *lee_arulong(vornsave *d) {
     using dueno_array = dueno<DESTRUYE>;
-    if (!puede_leer<LEER(ulong_y_salta)>(d) || !puede_leer<ENTRADA>(d)) return typename dueno_array::pointer();
+    if (!puede_leer<LEER(ulong_y_salta), ENTRADA>(d)) return typename dueno_array::pointer();
     progreso_al_leer(d);
     return lee_al_final<dueno_array, CREA, ANADE, T, ENTRADA, BLOQUE>(*d);
 }
@@ -121,7 +121,7 @@ template <auto DESTRUYE, auto CREA, auto ANADE, class T, auto ENTRADA, auto BLOQ
 } // namespace
 
 void vornsave_graba_arulong(const arulong *array, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, array)) return;
     graba_arr<GRABAR(ulong_y_salta), GRABAR(ulong_y_salta), &bloques_t::graba_ulong, CON_PROGRESO>(
         arulong_get_buffer_const(array), arulong_numelems(array), vornsave_datos);
 }
@@ -132,7 +132,7 @@ arulong *vornsave_lee_arulong(vornsave *vornsave_datos) {
 }
 
 void vornsave_graba_arulong64(const arulong64 *array, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, array)) return;
     graba_arr<GRABAR(ulong64_y_salta), GRABAR(ulong64_y_salta), &bloques_t::graba_ulong64, CON_PROGRESO>(
         arulong64_get_buffer_const(array), arulong64_numelems(array), vornsave_datos);
 }

@@ -32,7 +32,7 @@ char *lee_cadena_de(vornsave *vornsave_datos, bool ansi) {
 // ---- ANSI texts
 
 void vornsave_graba_cadena(const char *valor, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(valor))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, valor)) return;
     graba<GRABAR(cadena), CON_PROGRESO>(vornsave_datos, valor);
 }
 
@@ -51,8 +51,7 @@ char *vornsave_lee_cadena_ANSI_ASCII(vornsave *vornsave_datos, uint32_t version,
 char *vornsave_lee_cadena_ascii(vornsave *vornsave_datos) { return lee_cadena_de(vornsave_datos, false); }
 
 void vornsave_graba_cadena_campo(const char *valor, const char *campo, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(valor))) return;
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(campo))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, valor, campo)) return;
     graba<GRABAR(cadena_campo)>(vornsave_datos, valor, campo);
 }
 
@@ -69,7 +68,7 @@ void vornsave_salta_cadena_campo(vornsave *vornsave_datos, const char *campo) {
 // ---- Wide texts
 
 void vornsave_graba_cadena_unicode(const vnwchar *valor, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(valor))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, valor)) return;
     graba<GRABAR(cadena_unicode), CON_PROGRESO>(vornsave_datos, valor);
 }
 
@@ -87,7 +86,7 @@ vnwchar *vornsave_lee_cadena_ANSI_a_unicode(vornsave *vornsave_datos) {
 }
 
 void vornsave_graba_cadena_UTF8(const vnwchar *texto, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, texto)) return;
     if (!puede_grabar<GRABAR(cadena)>(vornsave_datos)) return;
     // Reported, and saved all the same with what the conversion makes of it.
     AFIRMA_TEXTO(esta_bien_formado(texto), "vornsave: el texto tiene medios caracteres");
@@ -103,22 +102,22 @@ vnwchar *vornsave_lee_cadena_UTF8(vornsave *vornsave_datos) {
 // ---- Bytes
 
 void vornsave_graba_cadena_como_buffer(const char *texto, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto))) return;
-    if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(buffer)>(vornsave_datos)) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, texto)) return;
+    if (!puede_grabar<GRABAR(ulong), GRABAR(buffer)>(vornsave_datos)) return;
     const uint32_t longitud = cad_longitud_cadena(texto);
     graba<GRABAR(ulong)>(vornsave_datos, longitud);
     if (longitud > 0) graba<GRABAR(buffer)>(vornsave_datos, static_cast<const void *>(texto), longitud);
 }
 
 char *vornsave_lee_cadena_como_buffer(vornsave *vornsave_datos) {
-    if (!puede_leer<LEER(ulong)>(vornsave_datos) || !puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
+    if (!puede_leer<LEER(ulong), LEER(buffer)>(vornsave_datos)) return nullptr;
     uint32_t longitud = lee<LEER(ulong)>(vornsave_datos);
     if (longitud == 0) return cad_copia_cadena(""); // no bytes were written, not even none
     return reinterpret_cast<char *>(lee_bytes(*vornsave_datos, longitud, UINT32_MAX).release());
 }
 
 void vornsave_graba_buffer(const void *datos_buffer, uint32_t tamanyo, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(datos_buffer))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, datos_buffer)) return;
     graba<GRABAR(buffer), CON_PROGRESO>(vornsave_datos, datos_buffer, tamanyo);
 }
 
@@ -134,8 +133,8 @@ void vornsave_salta_buffer(uint32_t tamanyo, vornsave *vornsave_datos) {
 }
 
 void vornsave_graba_fichmem(const fichmem *fichero, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(fichero))) return;
-    if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(buffer)>(vornsave_datos)) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, fichero)) return;
+    if (!puede_grabar<GRABAR(ulong), GRABAR(buffer)>(vornsave_datos)) return;
     graba<GRABAR(ulong)>(vornsave_datos, fichero->longitud);
     uint32_t n = 0;
     // In pieces of the size in which the reader takes them.
@@ -146,7 +145,7 @@ void vornsave_graba_fichmem(const fichmem *fichero, vornsave *vornsave_datos) {
 }
 
 fichmem *vornsave_lee_fichmem(vornsave *vornsave_datos) {
-    if (!puede_leer<LEER(ulong)>(vornsave_datos) || !puede_leer<LEER(buffer)>(vornsave_datos)) return nullptr;
+    if (!puede_leer<LEER(ulong), LEER(buffer)>(vornsave_datos)) return nullptr;
     progreso_al_leer(vornsave_datos);
     uint32_t longitud = lee<LEER(ulong)>(vornsave_datos);
     propio<uint8_t> bytes;

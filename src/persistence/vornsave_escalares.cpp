@@ -55,8 +55,7 @@ SALTA(vornsave_salta_double, double, CON_PROGRESO)
 
 void vornsave_graba_bool_con_texto(vnbool valor, vornsave *vornsave_datos, const char *texto1, const char *texto2) {
     if (!puede_grabar<GRABAR(bool_texto)>(vornsave_datos)) return;
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto1))) return;
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(texto2))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, texto1, texto2)) return;
     graba<GRABAR(bool_texto)>(vornsave_datos, valor, texto1, texto2);
 }
 
@@ -95,7 +94,7 @@ double vornsave_lee_double_con_posible_error_en_binario(vornsave *vornsave_datos
 }
 
 void vornsave_graba_punto(const Punto2D *pto, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(pto))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, pto)) return;
     if (!puede_grabar<GRABAR(double)>(vornsave_datos)) return;
     graba<GRABAR(double)>(vornsave_datos, pto->x);
     graba<GRABAR(double)>(vornsave_datos, pto->y);

@@ -10,13 +10,11 @@ using namespace vn;
 
 namespace {
 
-bool puede_grabar_grupos(const vornsave *d) {
-    return puede_grabar<GRABAR(bool)>(d) && puede_grabar<GRABAR(ulong_y_salta)>(d);
-}
-bool puede_leer_grupos(const vornsave *d) { return puede_leer<LEER(bool)>(d) && puede_leer<LEER(ulong_y_salta)>(d); }
+bool puede_grabar_grupos(const vornsave *d) { return puede_grabar<GRABAR(bool), GRABAR(ulong_y_salta)>(d); }
+bool puede_leer_grupos(const vornsave *d) { return puede_leer<LEER(bool), LEER(ulong_y_salta)>(d); }
 
 void graba_cadenas(const arrCADENA *array, vornsave *d, bool con_null) {
-    if (!SE_GRABA(d, AFIRMA_NO_NULO(array))) return;
+    if (!EXIGE_AL_GRABAR(d, array)) return;
     if (!puede_grabar_grupos(d) || !puede_grabar<GRABAR(cadena)>(d)) return;
     const auto textos = arr_GetBufferConstCADENA(array);
     // Null is equal to null alone.
@@ -54,7 +52,7 @@ arrCADENA *lee_cadenas(vornsave *vornsave_datos, bool con_null) {
 
 void vornsave_graba_arr_double_con_valores_iguales(const arrDouble *array, double tolerancia,
                                                    vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, array)) return;
     if (!puede_grabar_grupos(vornsave_datos) || !puede_grabar<GRABAR(double_y_salta)>(vornsave_datos)) return;
     const double *valores = arr_GetBufferConstDouble(array);
     graba_grupos(

@@ -71,7 +71,7 @@ LEE_OPCIONAL(vornsave_lee_arr_ushort_opcional, vornsave_lee_arr_ushort, arrUShor
 
 #define GRABA_OPCIONAL_CON(nombre, plana, tipo)                                                                        \
     void nombre(tipo valor, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {                                     \
-        if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;                                                \
+        if (!EXIGE_AL_GRABAR(vornsave_datos, funcion)) return;                                                         \
         if (graba_presencia(valor != nullptr, vornsave_datos)) plana(valor, vornsave_datos, funcion);                  \
     }
 GRABA_OPCIONAL_CON(vornsave_graba_arr_punteros_array_opcional, vornsave_graba_arr_punteros_array, const arrPuntero *)
@@ -80,7 +80,7 @@ GRABA_OPCIONAL_CON(vornsave_nousar_graba_apunorde_opcional, vornsave_nousar_grab
 
 // The function is asked for before the flag goes: what was announced must come.
 void vornsave_graba_estructura_opcional2(const void *dato, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, funcion)) return;
     if (graba_presencia(dato != nullptr, vornsave_datos)) funcion(dato, vornsave_datos);
 }
 

@@ -60,18 +60,24 @@ inline void progreso_al_leer(vornsave *vornsave_datos) {
         refresca_lectura(vornsave_datos);
 }
 
-// A check of what is to be written: SE_GRABA(object, AFIRMA_...). When it fails, what is saved is marked.
+// A check of what is to be written: SE_GRABA(object, AFIRMA_...), for pointers EXIGE_AL_GRABAR(object, a, b). When it
+// fails, what is saved is marked.
 #define SE_GRABA(vornsave_datos, comprobacion)                                                                         \
     ((comprobacion) || ((vornsave_datos) != nullptr && (vornsave_datos)->falla()))
+#define EXIGE_AL_GRABAR(vornsave_datos, ...) SE_GRABA(vornsave_datos, EXIGE(__VA_ARGS__))
 
-template <auto ENTRADA> inline bool puede_grabar(const vornsave *vornsave_datos) {
-    return AFIRMA_NO_NULO(vornsave_datos) &&
-           SE_GRABA(vornsave_datos,
-                    AFIRMA_TEXTO(vornsave_datos->fila->grabar.*ENTRADA != nullptr, tabla::FILA<ENTRADA>.falta));
+template <auto ENTRADA> inline bool se_graba_por(const vornsave &d) {
+    return AFIRMA_TEXTO(d.fila->grabar.*ENTRADA != nullptr, tabla::FILA<ENTRADA>.falta) || d.falla();
 }
-template <auto ENTRADA> inline bool puede_leer(const vornsave *vornsave_datos) {
-    return AFIRMA_NO_NULO(vornsave_datos) &&
-           AFIRMA_TEXTO(vornsave_datos->fila->leer.*ENTRADA != nullptr, tabla::FILA<ENTRADA>.falta);
+template <auto ENTRADA> inline bool se_lee_por(const vornsave &d) {
+    return AFIRMA_TEXTO(d.fila->leer.*ENTRADA != nullptr, tabla::FILA<ENTRADA>.falta);
+}
+// Whether the object is there, and its destination has these entries; the first that is missing is reported.
+template <auto... ENTRADAS> inline bool puede_grabar(const vornsave *vornsave_datos) {
+    return AFIRMA_NO_NULO(vornsave_datos) && (se_graba_por<ENTRADAS>(*vornsave_datos) && ...);
+}
+template <auto... ENTRADAS> inline bool puede_leer(const vornsave *vornsave_datos) {
+    return AFIRMA_NO_NULO(vornsave_datos) && (se_lee_por<ENTRADAS>(*vornsave_datos) && ...);
 }
 
 // The doors of the dispatchers: checks, progress where the member has it, one indirect call.

@@ -50,10 +50,10 @@ template <class LEE> apunorde *lee_conjunto(vornsave *d, LEE lee_una, vnfunc_com
 } // namespace
 
 void vornsave_graba_arr_punteros(const arrPuntero *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, array)) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos)) return;
     // All is asked for before the count goes: what was announced must come.
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, funcion)) return;
     const uint32_t n = arr_NumElemsPuntero(array);
     vornsave_graba_ulong(n, vornsave_datos);
     for (uint32_t i = 0; i < n; ++i) funcion(arr_GetPunteroConTipo(array, i), vornsave_datos);
@@ -86,14 +86,14 @@ void vornsave_nousar_salta_arr_punteros_ST(vornsave *vornsave_datos, vnfunc_salt
 }
 
 void vornsave_graba_arr_punteros_array(const arrPuntero *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, array)) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos)) return;
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, funcion)) return;
     const uint32_t n = arr_NumElemsPuntero(array);
     vornsave_graba_ulong(n, vornsave_datos);
     for (uint32_t i = 0; i < n; ++i) {
         const auto *elem = static_cast<const arrPuntero *>(arr_GetPunteroConTipo(array, i));
-        if (SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(elem))) vornsave_graba_arr_punteros(elem, vornsave_datos, funcion);
+        if (EXIGE_AL_GRABAR(vornsave_datos, elem)) vornsave_graba_arr_punteros(elem, vornsave_datos, funcion);
         else vornsave_graba_ulong(0, vornsave_datos); // the file stays in step
     }
 }
@@ -111,9 +111,9 @@ arrPuntero *vornsave_lee_arr_punteros_array(vornsave *vornsave_datos, vnfunc_lee
 }
 
 void vornsave_nousar_graba_apunorde(const apunorde *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, array)) return;
     if (!puede_grabar<GRABAR(ulong)>(vornsave_datos)) return;
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, funcion)) return;
     const uint32_t n = apunorde_nousar_numelems(array);
     vornsave_graba_ulong(n, vornsave_datos);
     for (uint32_t i = 0; i < n; ++i) funcion(apunorde_nousar_get(array, i), vornsave_datos);
@@ -139,9 +139,9 @@ apunorde *vornsave_nousar_lee_apunorde_con_1_dato_extra(vornsave *vornsave_datos
 
 void vornsave_graba_arr_puntos2DXPriv(const arrPunto2DXPriv *array, vornsave *vornsave_datos,
                                       vnfunc_graba_dato funcion) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(array))) return;
-    if (!puede_grabar<GRABAR(ulong)>(vornsave_datos) || !puede_grabar<GRABAR(double)>(vornsave_datos)) return;
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(funcion))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, array)) return;
+    if (!puede_grabar<GRABAR(ulong), GRABAR(double)>(vornsave_datos)) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, funcion)) return;
     const uint32_t n = arr_NumElemsPunto2DXPriv(array);
     const Punto2DXPriv *puntos = arr_GetBufferConstPunto2DXPriv(array);
     vornsave_graba_ulong(n, vornsave_datos);
@@ -153,7 +153,7 @@ void vornsave_graba_arr_puntos2DXPriv(const arrPunto2DXPriv *array, vornsave *vo
 }
 
 arrPunto2DXPriv *vornsave_lee_arr_puntos2DXPriv(vornsave *vornsave_datos, vnfunc_lee_dato lee_datos) {
-    if (!puede_leer<LEER(ulong)>(vornsave_datos) || !puede_leer<LEER(double)>(vornsave_datos)) return nullptr;
+    if (!puede_leer<LEER(ulong), LEER(double)>(vornsave_datos)) return nullptr;
     if (!AFIRMA_NO_NULO(lee_datos)) return nullptr;
     const uint32_t n = vornsave_datos->acota(vornsave_lee_ulong(vornsave_datos), sizeof(Punto2D), 4);
     dueno<destruye_xpriv> array(arr_CreaPunto2DXPriv(0));

@@ -10,12 +10,12 @@ using namespace vn;
 namespace {
 
 template <class W> void graba_arr(const typename W::arr *array, vornsave *d, bool con_null) {
-    if (!SE_GRABA(d, AFIRMA_NO_NULO(array))) return;
-    if (!puede_grabar<GRABAR(ulong_y_salta)>(d) || !puede_grabar<W::GRABA>(d)) return;
+    if (!EXIGE_AL_GRABAR(d, array)) return;
+    if (!puede_grabar<GRABAR(ulong_y_salta), W::GRABA>(d)) return;
     graba_textos<W>(*d, array, con_null);
 }
 template <class W> typename W::arr *lee_arr(vornsave *d, bool con_null, bool de_ascii) {
-    if (!puede_leer<LEER(ulong_y_salta)>(d) || !puede_leer<W::LEE>(d)) return nullptr;
+    if (!puede_leer<LEER(ulong_y_salta), W::LEE>(d)) return nullptr;
     return lee_textos<W>(*d, con_null, de_ascii);
 }
 // Files of the OEM times: their texts are converted as they are read.
@@ -105,11 +105,11 @@ struct orden_u {
 // The texts go through the entry, or through a function of the caller's, never both.
 template <class O> void graba_conjunto(const typename O::conjunto *array, bool con_funcion,
                                        vnfunc_graba_texto fncptr_cs_graba_cadena, vornsave *d) {
-    if (!SE_GRABA(d, AFIRMA_NO_NULO(array))) return;
+    if (!EXIGE_AL_GRABAR(d, array)) return;
     if (!SE_GRABA(d, con_funcion ? AFIRMA_NO_NULO(fncptr_cs_graba_cadena)
                                  : AFIRMA_TEXTO(fncptr_cs_graba_cadena == nullptr, "fncptr_cs_graba_cadena == NULL")))
         return;
-    if (!puede_grabar<GRABAR(bool)>(d) || !puede_grabar<GRABAR(ulong_y_salta)>(d)) return;
+    if (!puede_grabar<GRABAR(bool), GRABAR(ulong_y_salta)>(d)) return;
     if (!con_funcion && !puede_grabar<O::texto::GRABA>(d)) return;
     // The flag first: a reader must know the order before the texts come.
     graba<GRABAR(bool)>(d, O::distingue(array));
@@ -125,7 +125,7 @@ template <class O> void graba_conjunto(const typename O::conjunto *array, bool c
 }
 
 template <class O> typename O::conjunto *lee_conjunto(vornsave *d, vnfunc_lee_texto funcion) {
-    if (!puede_leer<LEER(bool)>(d) || !puede_leer<LEER(ulong_y_salta)>(d)) return nullptr;
+    if (!puede_leer<LEER(bool), LEER(ulong_y_salta)>(d)) return nullptr;
     if (funcion == nullptr && !puede_leer<O::texto::LEE>(d)) return nullptr;
     // A flag that is damaged counts as FALSO.
     const vnbool distingue = logico(lee<LEER(bool)>(d) == CIERTO);
