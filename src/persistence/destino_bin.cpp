@@ -35,8 +35,13 @@ char *lee_cadena_campo(vnfichero *f, const char *) { return bin_lee_cadena(f); }
 // ---- Positions and marks
 
 uint32_t tamanyo_fichero(vnfichero *f) { return cambtipo_double_a_ulong(lc_tamanyo_fichero(f)); }
-void set_posicion(vnfichero *f, int32_t posicion) { lc_fseek(f, posicion, VN_DESDE_EL_PRINCIPIO); }
-void set_posicion64(vnfichero *f, int64_t posicion) { vornio_fseek_i64(f, posicion, VN_DESDE_EL_PRINCIPIO); }
+// A pipe cannot go far: what follows would be read, or written, in a wrong place.
+void set_posicion64(vnfichero *f, int64_t posicion) {
+    if (vornio_fseek_i64(f, posicion, VN_DESDE_EL_PRINCIPIO) == CIERTO) return;
+    if (f->escribe) lc_error_escribiendo_fichero(f);
+    else lc_error_leyendo_fichero(f);
+}
+void set_posicion(vnfichero *f, int32_t posicion) { set_posicion64(f, posicion); }
 void graba_cabecera_bloque(const char *id, vnfichero *f) {
     // The terminator goes too: it tells a name from a longer one that begins alike.
     const char *p = id;

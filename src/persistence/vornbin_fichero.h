@@ -111,7 +111,7 @@ vnbool vornbin_es_directorio_ejemplos(const char *ruta);
 vnbool vornbin_marca_fichero_ejemplo_u(const vnwchar *nomfich);
 
 /** Whether the next bytes are those of `id`, without its terminator. On CIERTO the stream stands after them, otherwise,
-    at the end of the file too, where it was. Nothing is reported for a difference. */
+    at the end of the file too, where it was. A difference is not reported, a pipe that cannot go back is. */
 vnbool vornbin_se_comprueba_marca(const char *id, vnfichero *f);
 /** The same, for positions beyond 2 GiB. */
 vnbool vornbin_se_comprueba_marca64(const char *id, vnfichero *f);

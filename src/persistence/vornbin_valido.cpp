@@ -67,7 +67,8 @@ bool comprueba_marca(const char *id, vnfichero *f) {
     const int64_t pos = vornio_ftell_i64(f);
     for (; *id != 0; ++id) {
         if (vnfichero_toma_byte(f) == static_cast<unsigned char>(*id)) continue;
-        vornio_fseek_i64(f, pos, VN_DESDE_EL_PRINCIPIO);
+        // A pipe cannot go back past its buffer: what was taken is missing from what follows.
+        if (vornio_fseek_i64(f, pos, VN_DESDE_EL_PRINCIPIO) == FALSO) lc_error_leyendo_fichero(f);
         return false;
     }
     return true;

@@ -170,7 +170,7 @@ using fncptr_marca = void (*)(const char *id, void *destino);
 
 // Gives the function that writes a mark of that form; null, reported, where the destination takes no marks.
 fncptr_marca puede_marcar(const char *id, const vornsave *vornsave_datos, forma f, clase_marca clase) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(id))) return nullptr;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, id)) return nullptr;
     if (clase == MARCA_32 ? !puede_grabar<GRABAR(long)>(vornsave_datos) : !puede_grabar<GRABAR(ulong)>(vornsave_datos))
         return nullptr;
     if (!SE_GRABA(vornsave_datos, f == SECCION || AFIRMA(*id != '\0'))) return nullptr;
@@ -198,15 +198,19 @@ void graba_inicio(const char *id, vornsave *d, forma f, clase_marca clase) {
 void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
     const fncptr_marca graba_marca = puede_marcar(id, d, f, clase);
     if (graba_marca == nullptr) return;
+    // A section that is being read has no room for an end: closing it here is reported, and nothing is written.
+    const i_marca_t *abierta = marca_abierta(d);
+    const bool se_lee = abierta != nullptr && es_seccion_que_se_lee(*abierta);
     // The end is where the closing name begins; what follows begins behind that.
     const int64_t p_fin = posicion(d, clase);
-    graba_marca(id, d->donde);
+    if (!se_lee) graba_marca(id, d->donde);
     const int64_t p_sig = posicion(d, clase);
     int32_t hueco = 0;
     int64_t hueco64 = 0;
     const bool dado = saca_marca(d, id, clase == MARCA_32 ? &hueco : nullptr, clase == MARCA_64 ? &hueco64 : nullptr);
     const int64_t donde = clase == MARCA_32 ? hueco : hueco64;
-    if (!dado || donde < 0 || p_fin < 0 || p_sig < 0) { // beyond what 32 bits hold: reported, nothing is overwritten
+    // A position beyond what 32 bits hold has been reported: nothing is overwritten.
+    if (!dado || se_lee || donde < 0 || p_fin < 0 || p_sig < 0) {
         d->falla();
         return;
     }
@@ -301,7 +305,7 @@ LEE_MARCA(vnbool, vornsave_se_salta_bloque, se_salta, MARCA_32)
 LEE_MARCA(vnbool, vornsave_se_salta_bloque64, se_salta, MARCA_64)
 
 char *vornsave_lee_seccion(vornsave *vornsave_datos) {
-    if (!puede_leer<LEER(cadena)>(vornsave_datos) || !puede_leer<LEER(long)>(vornsave_datos)) return nullptr;
+    if (!puede_leer<LEER(cadena), LEER(long)>(vornsave_datos)) return nullptr;
     const vigia guarda(*vornsave_datos);
     dueno_cadena id(lee<LEER(cadena)>(vornsave_datos));
     // After a failure the name is empty: the caller has a text to free and nothing to look for.
@@ -362,7 +366,7 @@ vnbool vornsave_se_comprueba_cabecera_bin(const char *marca, vornsave *vornsave_
 }
 
 void vornsave_graba_comentario(const char *comentario, vornsave *vornsave_datos) {
-    if (!SE_GRABA(vornsave_datos, AFIRMA_NO_NULO(comentario))) return;
+    if (!EXIGE_AL_GRABAR(vornsave_datos, comentario)) return;
     if (!AFIRMA_NO_NULO(vornsave_datos)) return;
     if (vornsave_datos->con_comentarios == CIERTO)
         vornsave_datos->fila->lineas.graba_comentario(comentario, vornsave_datos->donde);

@@ -37,7 +37,8 @@ void vornsave_libera(vornsave **vornsave_datos);
 /** Position in the destination, in bytes from its start. 0, reported, where there is none; one that
     does not fit in 31 bits is reported: -1. */
 int32_t vornsave_get_posicion(vornsave *vornsave_datos);
-/** Moves to a position given by vornsave_get_posicion. */
+/** Moves to a position given by vornsave_get_posicion. One that the stream cannot go to, as on a pipe, is reported as a
+    failure to read or write. */
 void vornsave_set_posicion(vornsave *vornsave_datos, int32_t posicion);
 /** The program version or patch given when the object was made: borrowed, null if not given. */
 const char *vornsave_dame_version_programa(const vornsave *vornsave_datos);

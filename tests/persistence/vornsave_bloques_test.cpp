@@ -113,13 +113,23 @@ PRUEBA(vornsave_bloques, los_cierres_equivocados_se_informan) {
     vornsave_set_posicion(a, 0);
     EXPECT_EQ(toma(vornsave_lee_seccion(a)), "S");
     ESPERA_INFORME("cad_cadenas_iguales(marca->id_marca, id_seccion) == CIERTO", vornsave_ir_final_seccion("T", a));
-    vornsave_set_posicion(a, 7);
-    vornsave_graba_fin_bloque("S", a);
-    espera_informes({"marca->posicion_inicial != LONG_MAX", "marca->posicion_final == LONG_MAX"}, __FILE__, __LINE__);
+    vornsave_lee_final_seccion("S", a);
+    const int64_t tamanyo = lc_tamanyo_fichero_i64(a.fichero());
+    for (const auto cierra : {vornsave_graba_fin_bloque, vornsave_graba_fin_seccion}) {
+        vornsave_set_posicion(a, 0);
+        EXPECT_EQ(toma(vornsave_lee_seccion(a)), "S");
+        cierra("S", a);
+        espera_informes({"marca->posicion_inicial != LONG_MAX", "marca->posicion_final == LONG_MAX"}, __FILE__,
+                        __LINE__);
+        // It has no room for an end: nothing is written, there or 2 GiB further on.
+        EXPECT_EQ(vornsave_get_posicion(a), 7);
+        EXPECT_EQ(lc_tamanyo_fichero_i64(a.fichero()), tamanyo);
+    }
     vornsave_graba_inicio_seccion("S", a);
     vornsave_set_posicion(a, 0);
     vornsave_lee_final_seccion("S", a);
     espera_informes({"marca->posicion_inicial == LONG_MAX", "marca->posicion_final != LONG_MAX"}, __FILE__, __LINE__);
+    vornsave_set_posicion(a, 20);
     vornsave_graba_inicio_bloque64("S", a);
     vornsave_set_posicion(a, 0);
     vornsave_lee_final_seccion("S", a);
@@ -170,6 +180,11 @@ PRUEBA(vornsave_bloques, los_finales_danyados_no_hacen_dar_vueltas) {
         ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_ir_final_seccion("B", d));
         EXPECT_EQ(vornsave_get_posicion(d), 6);
         vornsave_lee_final_bloque("B", d);
+    });
+    // A place where the stream cannot go.
+    leido(EN_BIN, "abc", [](vornsave *d) {
+        ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_set_posicion(d, -1));
+        EXPECT_EQ(vornsave_get_posicion(d), 0);
     });
     leido(EN_BIN, "", [](vornsave *d) {
         EXPECT_EQ(toma(ESPERA_INFORME("lc_error_leyendo_fichero", vornsave_lee_seccion(d))), "");

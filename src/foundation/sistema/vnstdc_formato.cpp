@@ -49,7 +49,7 @@ class fuente_texto {
 class fuente_flujo {
   public:
     explicit fuente_flujo(vnfichero *f) : f_(f) { avanza(); }
-    // The unit that was looked at and not used goes back.
+    // The unit that was looked at and not used goes back. It is still in the stream's buffer: a pipe goes back so far.
     ~fuente_flujo() {
         if (siguiente_ >= 0) vornio_fseek_i64(f_, antes_, VN_DESDE_EL_PRINCIPIO);
     }
@@ -191,10 +191,10 @@ bool pon_real(const std::string &texto, bool doble, void *sitio) {
     return true;
 }
 
-// Text up to a blank, or exactly as many characters as the width says for `%c`.
+// Text up to a blank, or exactly as many characters as the width says, or one, for `%c`.
 template <class C, class F> bool pon_texto(F &fuente, const conversion &c, void *sitio) {
     const bool cuenta = c.letra == 'c';
-    const size_t maximo = c.con_ancho ? c.ancho : 1;
+    const size_t maximo = cuenta && !c.con_ancho ? 1 : c.ancho;
     size_t n = 0;
     for (; n < maximo && fuente.mira() >= 0 && (cuenta || !es_blanco(fuente.mira())); ++n, fuente.avanza())
         if (sitio != nullptr) pon(static_cast<C *>(sitio) + n, static_cast<C>(fuente.mira()));

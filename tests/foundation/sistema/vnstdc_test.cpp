@@ -122,6 +122,8 @@ PRUEBA(vnstdc, dos_datos_de_un_texto_ancho) {
     EXPECT_EQ(vnstdc_swscanf2(VNU(""), VNU("%d:%d"), &a, &b), -1);
     EXPECT_EQ(vnstdc_swscanf2(VNU("010 08"), VNU("%i %i"), &a, &b), 2);
     EXPECT_TRUE(a == 8 && b == 0);
+    EXPECT_EQ(vnstdc_swscanf2(VNU("obra 3 x"), VNU("%*s %d%*c%c"), &a, &b), 2);
+    EXPECT_TRUE(a == 3 && b == 'x');
     EXPECT_EQ(ESPERA_INFORME("conversion de formato conocida", vnstdc_swscanf2(VNU("1 2"), VNU("%n%d"), &a, &b)), 0);
     EXPECT_EQ(ESPERA_INFORME("el formato tiene tantas conversiones como datos",
                              vnstdc_swscanf2(VNU("1 2 3"), VNU("%d %d %d"), &a, &b)),
