@@ -188,7 +188,7 @@ void Pln3D_GetVerticeMasProximo(const arrPunto3D *puntos, double x, double y, do
                                 double *y_vertice, double *z_vertice) {
     if (!EXIGE(puntos, x_vertice, y_vertice, z_vertice)) return;
     const std::span<const Punto3D> p = listas::tramo(puntos);
-    // What is no number is no nearer than anything.
+    // A distance that is not a number is never the nearest.
     size_t mas_proximo = p.size();
     double minima = std::numeric_limits<double>::infinity();
     for (size_t i = 0; i < p.size(); ++i) {

@@ -7,24 +7,24 @@
 
 namespace vn {
 
-// The half circle, whose plane its ends do not tell: what the angle is from it, in radians.
+// The tolerances. Radians from the half turn up to which an arc is a half circle, whose ends do not tell its plane.
 inline constexpr double MARGEN_MEDIA_VUELTA = 1e-05;
-// The ends of an arc are in the plane of its axes, and the corners of a polygon in one: the cosine of the normals.
+// Cosine of the normals, from 1, up to which the ends of an arc are in the plane of its axes, and corners in one plane.
 inline constexpr double MARGEN_MISMO_PLANO_ARCO = .000001, MARGEN_MISMO_PLANO_POLIGONO = .00001;
-// Two edges go on straight: what the cosine of their turn is from 1.
+// Cosine of the turn, from 1, up to which two edges go on straight.
 inline constexpr double MARGEN_SIN_GIRO = 1e-05;
-// A bar is straight or doubled back at a point, with no fillet: one degree, in radians.
+// Angle up to which a bar is straight or doubled back at a point, with no fillet: one degree, in radians.
 inline constexpr double ANGULO_SIN_ACUERDO = 0.017453;
-// A tangent point is the end of its segment; two consecutive points of a result are one.
+// Distance up to which a tangent point is the end of its segment, and two consecutive points of a result are one.
 inline constexpr double PRECISION_EXTREMO = 1e-05;
-// A section stands where the last one does.
+// Distance up to which a section stands where the last one does.
 inline constexpr double PRECISION_SECCION = 1e-06;
-// A corner is straight enough for the section before it: what the cosine is from 1 or -1.
+// Cosine, from 1 or -1, up to which a corner is straight enough for the section before it.
 inline constexpr double MARGEN_RECTO = 0.0001;
 // The step of a cosine that is rounded before its angle is asked for.
 inline constexpr double PASO_COSENO = 1e-14;
 
-// What a fillet and a result may have: a tiny step could ask for points without bound.
+// The most steps of a fillet and points of a result: a tiny step could ask for points without bound.
 inline constexpr double MAXIMO_PASOS = 100000.;
 inline constexpr uint64_t MAXIMO_PUNTOS = uint64_t{1} << 22;
 
@@ -61,7 +61,7 @@ struct salidas_seccion {
 void emite_seccion(Punto3D origen, Punto3D u, Punto3D v, bool V_vertical, double diametro, uint16_t num_puntos_circulo,
                    const salidas_seccion &salidas, Punto3D *Xo_ult_cir);
 
-// Whether there is a fillet at p2, and which.
+// The fillet at p2; false if there is none.
 bool hay_acuerdo(Punto3D p1, Punto3D p2, Punto3D p3, const barra &b, bool mantiene_extremos, acuerdo &a);
 
 } // namespace vn

@@ -8,7 +8,7 @@
 namespace vn {
 namespace {
 
-// Adds what `crea` makes; its place comes first, so that it is never nobody's.
+// Adds the element that `crea` makes. Its place in the array comes first, so that it always has an owner.
 template <class F> void anade(arrPuntero *a, F &&crea) {
     arr_AppendPunteroConTipo(a, nullptr);
     arr_SetPunteroConTipo(a, arr_NumElemsPuntero(a) - 1, crea());

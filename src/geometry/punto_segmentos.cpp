@@ -92,7 +92,7 @@ bool normal_corta(const Punto2D &p, const Punto2D &s1, const Punto2D &s2) {
 bool no_es_numero(const Punto2D &p) { return std::isnan(p.x) || std::isnan(p.y); }
 bool es_lugar(const Punto2D &p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
-// Differences, so that infinite sides that are the same side do not touch: they are nowhere.
+// By differences, which of two equal infinite sides is not-a-number: boxes that end nowhere do not touch.
 bool cajas_se_solapan(const Punto2D &o1, const Punto2D &e1, const Punto2D &o2, const Punto2D &e2) {
     return e1.x - o2.x >= -p_EPS && e1.y - o2.y >= -p_EPS && e2.x - o1.x >= -p_EPS && e2.y - o1.y >= -p_EPS;
 }
@@ -106,12 +106,12 @@ struct pieza {
 
 double parametro_cruzado(const pieza &a, const pieza &b) { return vectorial(a.p - a.q, b.q - b.p); }
 
-// Whether a crossing that is an end to p_EPS, by axis, lies on both pieces.
+// True if a crossing that is an end of `esta`, to p_EPS by axis, lies on both pieces.
 [[gnu::noinline]] bool es_el_extremo(const Punto2D &r, const pieza &esta, const pieza &otra) {
     return contenido(r, esta.p, esta.q) && contenido_en_pieza(r, otra.p, otra.q, otra.recta);
 }
 
-// Whether a crossing with parameter t is not beyond the ends of the segment `esta`: by the parameter with hardly a
+// True if a crossing with parameter t is not beyond the ends of the segment `esta`: by the parameter with hardly a
 // margin, or else by p_EPS. Inline: most pairs of segments do not cross, and are done here.
 [[gnu::always_inline]] inline bool dentro(double t, const Punto2D &r, const pieza &esta, const pieza &otra) {
     if (PARAMETRO_MINIMO <= t && t <= PARAMETRO_MAXIMO) [[likely]]
@@ -139,7 +139,7 @@ double parametro_cruzado(const pieza &a, const pieza &b) { return vectorial(a.p 
         const double u = vectorial(a.p - a.q, b.q - a.q) / den;
         if (!dentro(u, r, b, a)) return nullptr;
     }
-    return es_lugar(r) ? nuevo(r) : nullptr; // lines that meet beyond all numbers do not
+    return es_lugar(r) ? nuevo(r) : nullptr; // a crossing beyond the range of doubles is none
 }
 
 // A piece that is a point: the first of its ends that lies on the other piece.

@@ -10,9 +10,9 @@
 
 namespace {
 
-// Narrows u1 and u2, the parameters between which the segment lies inside, to one axis: how far it goes along it, and
-// how far inside of both borders it begins. Whether anything is left; nothing is of what is no number. Both borders at
-// once: which of them it enters by is a choice that costs no branch.
+// Narrows u1 and u2, the parameters between which the segment lies inside, by one axis: the segment goes `d` along it
+// and begins so far inside of both borders. False if nothing is left, as with not-a-number. Both borders are taken at
+// once: the choice of the one that it enters by costs no branch.
 bool recorta(double d, double desde_min, double hasta_max, double &u1, double &u2) {
     if (d == 0.) return desde_min >= 0. && hasta_max >= 0.;
     const double por_min = desde_min / -d, por_max = hasta_max / d;
@@ -28,7 +28,7 @@ vnbool liang_barsky(double xmin, double ymin, double xmax, double ymax, double x
     double u1 = 0., u2 = 1.;
     if (!recorta(dx, x1 - xmin, xmax - x1, u1, u2) || !recorta(dy, y1 - ymin, ymax - y1, u1, u2)) return FALSO;
     if (u1 > 0. || u2 < 1.) {
-        if (!std::isfinite(dx) || !std::isfinite(dy)) return FALSO; // longer than all numbers
+        if (!std::isfinite(dx) || !std::isfinite(dy)) return FALSO; // its length is beyond the range of doubles
         x2 = x1 + dx * u2;
         y2 = y1 + dy * u2;
         x1 = x1 + dx * u1;

@@ -14,11 +14,11 @@ using vn::logico;
 namespace {
 
 // The tolerances. What is not here is exact, or to that of the comparisons of vnmath.h, or given by the caller.
-// How much a strip that is nearly a square may be wrong about its direction, metres.
+// Difference of the sides, in metres, up to which a strip that is nearly a square counts as one of either direction.
 constexpr double MARGEN_DIRECCION = 0.0001;
-// How far from the section a centre of gravity may lie, as part of its width with a half for the centre.
+// Distance of a centre of gravity from the middle of the section, in widths: a half is its border.
 constexpr double MARGEN_CDG = 0.50001;
-// How far both parts of a width may be from it, metres.
+// Difference, in metres, up to which the two parts of a width make the whole.
 constexpr double PRECISION_ANCHOS = 0.00001;
 
 constexpr rectangulo_t REPUESTO = {DBL_MAX, DBL_MAX, -DBL_MAX, -DBL_MAX, FALSO};
@@ -33,7 +33,7 @@ rectangulo_t *nuevo(const rectangulo_t &r) {
 }
 
 void maximiza_punto(rectangulo_t &r, double x, double y) {
-    if (std::isnan(x) || std::isnan(y)) return; // it would stay for ever: nothing is beyond it
+    if (std::isnan(x) || std::isnan(y)) return; // no later point would take its place: none compares as beyond it
     if (r.calculados == FALSO) {
         r = {x, y, x, y, CIERTO};
         return;

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Room between two strips that is none, metres.
+// Room between two strips, in metres, up to which they touch.
 constexpr double HOLGURA_NULA = 1e-07;
 
 std::span<rectangulo_t *const> elementos(const arrPuntero *a) {
@@ -62,13 +62,13 @@ void alarga_hasta_los_otros(std::span<rectangulo_t *const> tiras, size_t cual, d
         const rectangulo_t *const otro = tiras[i];
         if (!AFIRMA_NO_NULO(otro)) continue;
         AFIRMA(otro->calculados);
-        // One across that comes later may still grow that far; the earlier ones already have.
+        // A later strip across this one may still grow so far; the earlier ones have grown.
         const double tolerancia =
             i > cual && (rec_RectanguloVertical(otro) == CIERTO) != d.vertical ? incremento_a_cada_lado : 0.;
         if (!(otro->*d.ancho.min - tolerancia <= principal->*d.ancho.max &&
               principal->*d.ancho.min <= otro->*d.ancho.max + tolerancia))
             continue;
-        // What stands before the end stops it at its near side; what the strip already overlaps, at its far one.
+        // Another strip stops the end at its near side, or at its far one where they overlap already.
         limita(incremento_final,
                holgura(otro->*d.largo.min - principal->*d.largo.max, otro->*d.largo.max - principal->*d.largo.max));
         limita(incremento_inicial,

@@ -156,8 +156,8 @@ struct conducto {
     }
     bool ha_fallado() const { return fila->fallos.ha_fallado(donde); }
     void error_leyendo() const { fila->fallos.error_leyendo(donde); }
-    // What was told cannot be written, or what was read cannot be: it has been reported, and the destination is marked,
-    // so that what is saved is not taken for whole and loops over what is read end. Always false.
+    // Marks the destination after a report of a value that cannot be written, or cannot have been read: the save is not
+    // taken for whole, and the loops of a reader end. Always false.
     [[gnu::cold]] bool falla() const {
         if (donde != nullptr) fila->fallos.marca(donde);
         return false;
@@ -181,9 +181,9 @@ struct conducto {
     }
 };
 
-// Watches a loop that reads: it ends at its first failure, and over a source that had failed before, at the source's
-// end, or at once where that cannot be known; so it does where a failure leaves the source in step, as a line that is
-// too long; inside a trap that has failed, at once.
+// Tells a reading loop whether to go on. It ends at the first failure, and at once inside a trap that has failed. Over
+// a source that had failed before, and where a failure leaves the source in step (a line that is too long), it ends
+// with the source, or at once where that end cannot be known.
 class vigia {
   public:
     explicit vigia(const conducto &c, bool en_su_sitio = false)

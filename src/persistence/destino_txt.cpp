@@ -17,7 +17,7 @@ using tabla::usa;
 
 // ---- Values
 
-// A truth value that is none has no line: what follows would be out of step.
+// A bad truth value writes no line, so that a reader would be out of step behind it: the save fails.
 void graba_BOOL(vnbool v, vnfichero *f) {
     if (v > CIERTO) ficheros::marca_fallo_escritura(f);
     vtxt_escr_BOOL(v, f);

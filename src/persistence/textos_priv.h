@@ -54,11 +54,11 @@ struct ancha {
     static constexpr auto reduce = arr_ReduceTamanyoCADENA_u;
 };
 
-// Whether a text that must be there is; if not, that is reported and what is saved is marked.
+// Checks a text that must not be null; a null one is reported, and the save is marked.
 bool hay_texto(const conducto &c, const void *texto);
 
-// One text of an array, in the form in which null elements survive, where the destination has one; a null one elsewhere
-// is reported and goes as an empty text, so that what follows stays in step.
+// Writes one text of an array. `con_null` asks for the form in which null elements survive; where the destination has
+// no such form a null text is reported and written as an empty one, so that the reader stays in step.
 template <class W> void graba_texto(const conducto &c, const typename W::caracter *texto, bool con_null) {
     if (con_null && c.fila->nulos.*W::GRABA_O_NULL != nullptr) return (c.fila->nulos.*W::GRABA_O_NULL)(texto, c.donde);
     if (!hay_texto(c, texto)) texto = W::VACIA;

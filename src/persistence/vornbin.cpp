@@ -181,7 +181,7 @@ bool son_numeros_validos(const double *d, uint32_t n) {
     return validos;
 }
 
-// One look over all of them, and one write: pieces would not meet the pages of the file.
+// All are checked first and written at once: pieces would not meet the pages of the file.
 template <> void graba_bloque(void (*graba)(double, vnfichero *), const double *datos, uint32_t n, vnfichero *f) {
     if (!f->etiquetas_al_escribir && son_numeros_validos(datos, n)) f_lc_fwrite(datos, sizeof *datos, n, f, VN_AQUI);
     else std::for_each_n(datos, n, [=](double dato) { graba(dato, f); });

@@ -136,8 +136,8 @@ texto_u listas_cabecera::texto_en(size_t &pos) const {
 }
 
 void listas_cabecera::pon_campos(const arrCADENA_u *nombres, const arrCADENA_u *valores) {
-    // One pass over what there is, whatever is new: the value of each name, the last one given; those not met are
-    // added.
+    // One pass over the stored fields, however many new ones there are: each takes the last value given for its name.
+    // Names that the file lacks are added at the end.
     struct nuevo {
         vista_u nombre, valor;
         bool puesto = false;

@@ -27,7 +27,7 @@ bool lee_listas_existentes(const vnwchar *nomfich, listas_cabecera *listas) {
     if (f == nullptr) return false;
     const cabecera c = lee_cabecera(f.get());
     *listas = c.listas;
-    // A form of later programs: what it holds cannot be kept.
+    // A header in a form of later programs: its lists cannot be kept.
     if (!c.valida && !c.truncada) error_interno_msg_u(VNU("fichero_valido == CIERTO"), VN_AQUI, nomfich, 0);
     if (lc_ha_fallado(f.get()) == FALSO) return true;
     lc_error_leyendo_fichero(f.get());
@@ -245,7 +245,7 @@ vnfichero *vornbin_abre_fichero_para_lectura_con_version_y_descripcion_u(const v
     vn::bin_lee_modo_debug(f.get());
     *version = bin_lee_ushort(f.get());
     if (lc_ha_fallado(f.get()) == CIERTO) return nullptr;
-    // Who asks for it is told of a later version and reads on; who does not is refused.
+    // With `version_superior` the caller is told of a later version and reads on; without it the file is refused.
     if (*version > version_actual && version_superior != nullptr) *version_superior = CIERTO;
     else if (!AFIRMA(*version <= version_actual)) return nullptr;
 

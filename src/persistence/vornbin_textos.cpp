@@ -45,13 +45,13 @@ char convierte_char(char c) {
     return texto[0];
 }
 
-// What is to be written has passed its check; if not, which has been reported, the save fails.
+// Hands the result of a check on; after a failed one, which has been reported, the save fails.
 bool hay_dato(bool bien, vnfichero *f) {
     if (!bien) vn::ficheros::marca_fallo_escritura(f);
     return bien;
 }
 
-// The flag before something that may be null; only 1 says that it is there.
+// Reads the flag before a value that may be null: 1 says that the value follows, 0 that it is null.
 bool lee_no_es_null(vnfichero *f) {
     const uint8_t resultado = bin_lee_byte(f);
     if (resultado == 1) return true;
@@ -105,7 +105,7 @@ void bin_graba_punto(const Punto2D *pto, vnfichero *f) {
 
 void bin_graba_punto2D(const Punto2D *pto, vnfichero *f) {
     if (!hay_dato(AFIRMA_NO_NULO(pto), f) || !AFIRMA_NO_NULO(f)) return;
-    // One tag for both numbers, which go as they are, a number that is none too.
+    // One tag for both numbers, which are written unchecked: not-a-number too.
     if (f->etiquetas_al_escribir) vnfichero_pon(f, "p", 1, VN_AQUI);
     vnfichero_pon(f, pto, sizeof *pto, VN_AQUI);
 }

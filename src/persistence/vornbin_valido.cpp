@@ -43,7 +43,7 @@ propio<char> titulo_si_es_valido(vnfichero *f, uint16_t version_actual, const ch
     if (lc_tamanyo_fichero_i64(f) < n + MINIMO) return nullptr;
     if (!lee_cabecera(f).valida || !bin_lee_modo_debug(f) || lc_quedan(f, sizeof(uint16_t), 1) == FALSO) return nullptr;
     const uint16_t version = bin_lee_ushort(f);
-    // The file of a later program is none that can be read.
+    // The file of a later program cannot be read.
     if (version > version_actual) return nullptr;
     uint16_t longitud_firma = 0, longitud_titulo = 0;
     // A signature of another length is not even read.

@@ -143,7 +143,7 @@ bool fin_valido(const vornsave *d, int64_t fin) {
     if (d->fila->posiciones.get == nullptr) return true;
     const int64_t desde = aqui(d);
     const i_marca_t *abierta = marca_abierta(d);
-    // What lies in something else ends with it at the latest; outside of all only the source is the limit.
+    // A block ends no later than the one that holds it; the outermost one is held by the source.
     const int64_t limite = abierta != nullptr ? fin_de(*abierta) : LARGO64_MAX;
     return desde >= 0 && fin >= desde && fin <= limite && d->quedan(static_cast<uint64_t>(fin - desde), 1);
 }
@@ -241,7 +241,7 @@ int64_t lee_posicion(vornsave *d, clase_marca clase) {
 
 vnbool se_inicia_lectura(const char *id, vornsave *d, clase_marca clase) {
     if (!puede_leer_bloques(id, d, clase) || se_lee_marca(id, d, clase) != CIERTO) return FALSO;
-    // What is kept is the stored end, in the place of a start: a reader needs no other.
+    // The mark keeps the stored end in the field of the start, which only a writer needs.
     empuja_marca(d, id, marca_inicial(clase, lee_posicion(d, clase)));
     return CIERTO;
 }
@@ -331,7 +331,7 @@ void vornsave_ir_final_seccion(const char *id_seccion, vornsave *vornsave_datos)
         return;
     }
     if (!hay_posiciones(vornsave_datos, clase)) return;
-    // What is no section that is being read has no end here yet: none is gone to that the source does not have.
+    // Only the mark of a section that is being read holds an end; another one leads beyond the source, and is reported.
     const int64_t fin = clase == MARCA_32 ? marca->posicion_final : marca->posicion_final64,
                   desde = aqui(vornsave_datos);
     if (fin <= desde || vornsave_datos->quedan(static_cast<uint64_t>(fin - desde), 1)) ve_a(vornsave_datos, clase, fin);
@@ -341,7 +341,8 @@ void vornsave_ir_final_seccion(const char *id_seccion, vornsave *vornsave_datos)
 void vornsave_lee_final_seccion(const char *id_seccion, vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(id_seccion)) return;
     if (!puede_leer<LEER(cadena)>(vornsave_datos)) return;
-    // Not read to its end, or beyond: what stands here is not its name. What follows is read on from its end.
+    // A reader that stopped before the end of the section, or beyond it, is not at its name: reading goes on at the
+    // end.
     const i_marca_t *abierta = marca_abierta(vornsave_datos);
     const bool se_sabe = abierta != nullptr && es_seccion_que_se_lee(*abierta);
     const bool movida = se_sabe && ve_al_final_de_lo_abierto(vornsave_datos, id_seccion, MARCA_32);

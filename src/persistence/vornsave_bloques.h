@@ -9,10 +9,10 @@ VN_C_INICIO
 
 /** Whether the destination can hold blocks and sections. */
 vnbool vornsave_es_posible_marcar_bloques(const vornsave *vornsave_datos);
-/** Opens and closes a block or section for writing; what lies between can be passed over by a reader that
-   does not know it. They nest. The forms without 64 need positions below 2 GiB. `id` of a block holds no
-   zero and is not empty. What is left open, closed in another order or ends where its positions cannot tell is
-   reported, and the save fails. */
+/** Opens and closes a block or section for writing; what lies between can be passed over by a reader that does not know
+    it. They nest. The forms without 64 need positions below 2 GiB. `id` of a block holds no zero and is not empty. One
+    that is left open, is closed in another order or ends where its positions cannot tell is reported, and the save
+    fails; so it does where a section that is being read is closed by these, and nothing is written then. */
 void vornsave_graba_inicio_bloque(const char *id, vornsave *vornsave_datos);
 void vornsave_graba_fin_bloque(const char *id, vornsave *vornsave_datos);
 void vornsave_graba_inicio_bloque64(const char *id, vornsave *vornsave_datos);
@@ -29,10 +29,10 @@ void vornsave_lee_final_bloque64(const char *id, vornsave *vornsave_datos);
 vnbool vornsave_se_salta_bloque(const char *id, vornsave *vornsave_datos);
 vnbool vornsave_se_salta_bloque64(const char *id, vornsave *vornsave_datos);
 /** Opens the next section: its identifier, a new text. Where no section can stand there, as in a file that has none,
-   that is reported, nothing is opened and the text is empty. */
+    that is reported, nothing is opened and the text is empty. */
 char *vornsave_lee_seccion(vornsave *vornsave_datos);
 /** Jumps to the end of the open section `id`, which vornsave_lee_final_seccion then closes. One that was not read to
-   its end, or beyond it, is reported there, and the reading goes on behind it; so it does after a block. */
+    its end, or beyond it, is reported there, and the reading goes on behind it; so it does after a block. */
 void vornsave_ir_final_seccion(const char *id, vornsave *vornsave_datos);
 void vornsave_lee_final_seccion(const char *id, vornsave *vornsave_datos);
 

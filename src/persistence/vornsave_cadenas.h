@@ -29,8 +29,8 @@ void vornsave_salta_cadena_campo(vornsave *vornsave_datos, const char *campo);
 /** ANSI text of any length. */
 void vornsave_graba_cadena_como_buffer(const char *texto, vornsave *vornsave_datos);
 char *vornsave_lee_cadena_como_buffer(vornsave *vornsave_datos);
-/** Bytes as they are; their number is not stored. Reading returns a new block of `tamanyo` + 1 bytes, the
-   last 0, to be freed with vornspy_free_pp; null, and reported, where the source does not hold so many. */
+/** Bytes as they are; their number is not stored. Reading returns a new block of `tamanyo` + 1 bytes, the last 0, to be
+    freed with vornspy_free_pp; null, and reported, where the source does not hold so many. */
 void vornsave_graba_buffer(VN_LON(tamanyo) const void *datos_buffer, uint32_t tamanyo, vornsave *vornsave_datos);
 uint8_t *vornsave_lee_buffer(uint32_t tamanyo, vornsave *vornsave_datos);
 void vornsave_salta_buffer(uint32_t tamanyo, vornsave *vornsave_datos);

@@ -14,8 +14,7 @@ void vornsave_salta_bool(vornsave *vornsave_datos);
 void vornsave_graba_bool_con_texto(vnbool valor, vornsave *vornsave_datos, const char *texto1, const char *texto2);
 vnbool vornsave_lee_bool_con_texto(vornsave *vornsave_datos, const char *texto1, const char *texto2);
 
-/** Character of the ANSI code page. Reading converts old OEM text, by the object's state or by the versions
- * given. */
+/** Character of the ANSI code page. Reading converts old OEM text, by the object's state or by the versions given. */
 void vornsave_graba_char(char valor, vornsave *vornsave_datos);
 char vornsave_lee_char(vornsave *vornsave_datos);
 char vornsave_lee_char_ansi_ascii(vornsave *vornsave_datos, uint32_t version, uint32_t version_ascii);
@@ -56,8 +55,8 @@ void vornsave_salta_double(vornsave *vornsave_datos);
 void vornsave_salta_enum(vornsave *vornsave_datos);
 /** Writes `valor` rounded to the nearest multiple of `paso`. */
 void vornsave_graba_double_con_precision(double valor, double paso, vornsave *vornsave_datos);
-/** Reads a double that may be damaged: says whether it was no number, and whether it was denormal; a bad
-   value is replaced. */
+/** Reads a double that may be damaged: says whether it was no number, and whether it was denormal; a bad value is
+    replaced. */
 double vornsave_lee_double_con_posible_error_en_binario(vornsave *vornsave_datos, VN_SALIDA vnbool *es_incorrecto,
                                                         VN_SALIDA vnbool *es_denormal);
 

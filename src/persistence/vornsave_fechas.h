@@ -6,8 +6,8 @@
 
 VN_C_INICIO
 
-/** 64-bit integers in two halves of 32 bits, the upper one first: not the form of vornsave_graba_long64.
-   Dates are seconds, sizes are bytes. */
+/** 64-bit integers in two halves of 32 bits, the upper one first: not the form of vornsave_graba_long64. Dates are
+    seconds, sizes are bytes. */
 void vornsave_graba_int64(int64_t valor, vornsave *vornsave_datos);
 int64_t vornsave_lee_int64(vornsave *vornsave_datos);
 void vornsave_graba_uint64(uint64_t valor, vornsave *vornsave_datos);

@@ -6,8 +6,8 @@
 
 VN_C_INICIO
 
-/** Attaches a bar while writing. `posicion_final`: the estimated size in bytes; past it only
-   `func_prgs_refresca` is called. Both numeric positions are those of the destination. */
+/** Attaches a bar while writing. `posicion_final`: the estimated size in bytes; past it only `func_prgs_refresca` is
+    called. Both numeric positions are those of the destination. */
 void vornsave_nousar_inicia_progreso_grabacion(vornsave *vornsave_datos, VN_DATO void *datos_prgs,
                                                uint32_t posicion_final,
                                                vnfunc_prgs_inicia func_prgs_inicia_barra_progreso,

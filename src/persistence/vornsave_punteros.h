@@ -1,5 +1,5 @@
-/* The save protocol: arrays and ordered sets of structures, by functions of the host's.
-   vornsave.h tells what holds for all. */
+/* The save protocol: arrays and ordered sets of structures, by functions of the host's. vornsave.h tells what holds for
+   all. */
 #ifndef VN_VORNSAVE_PUNTEROS_H
 #define VN_VORNSAVE_PUNTEROS_H
 
@@ -7,8 +7,8 @@
 
 VN_C_INICIO
 
-/** Arrays of pointers: the count, then each element by `funcion`. The reader's first
-   report ends the reading; the elements that it returned are in the array. */
+/** Arrays of pointers: the count, then each element by `funcion`. The reader's first report ends the reading; the
+    elements that it returned are in the array. */
 void vornsave_graba_arr_punteros(const arrPuntero *array, vornsave *vornsave_datos, vnfunc_graba_dato funcion);
 arrPuntero *vornsave_lee_arr_punteros(vornsave *vornsave_datos, vnfunc_lee_dato funcion);
 arrPuntero *vornsave_lee_arr_punteros_con_1_dato_extra(vornsave *vornsave_datos, vnfunc_lee_dato_1_extra funcion,

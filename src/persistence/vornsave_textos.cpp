@@ -60,6 +60,7 @@ arrCADENA_u *vornsave_lee_arr_cadenas_ansi_unicode(vornsave *vornsave_datos) {
 
 arrCADENA_u *vornsave_lee_arr_cadenas_unicode(vornsave *vornsave_datos) {
     if (!AFIRMA_NO_NULO(vornsave_datos)) return nullptr;
+    // The report of a text stream has no expression: it is the contract's.
     if (!AFIRMA_TEXTO(vornsave_datos->fila->tipo != TXT, "")) return nullptr;
     return lee_arr<ancha>(vornsave_datos, false, false);
 }

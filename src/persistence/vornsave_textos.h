@@ -6,16 +6,16 @@
 
 VN_C_INICIO
 
-/** Arrays of texts without null elements. On a text stream ANSI texts come back up to 255 characters long,
-   and wide ones cannot be read: that is reported with an empty expression, and null comes back. */
+/** Arrays of texts without null elements. On a text stream ANSI texts come back up to 255 characters long, and wide
+    ones cannot be read: that is reported with an empty expression, and null comes back. */
 void vornsave_graba_arr_cadenas(const arrCADENA *array, vornsave *vornsave_datos);
 arrCADENA *vornsave_lee_arr_cadenas(vornsave *vornsave_datos);
 void vornsave_salta_arr_cadena(vornsave *vornsave_datos);
 void vornsave_graba_arr_cadenas_unicode(const arrCADENA_u *array, vornsave *vornsave_datos);
 arrCADENA_u *vornsave_lee_arr_cadenas_unicode(vornsave *vornsave_datos);
 void vornsave_salta_arr_cadena_unicode(vornsave *vornsave_datos);
-/** ANSI texts read as OEM ones unless `version` > `version_ascii`; on a binary stream in the form with null
-   elements. ANSI texts read as wide ones. */
+/** ANSI texts read as OEM ones unless `version` > `version_ascii`; on a binary stream in the form with null elements.
+    ANSI texts read as wide ones. */
 arrCADENA *vornsave_lee_arr_cadenas_ANSI_ASCII(vornsave *vornsave_datos, uint32_t version, uint32_t version_ascii);
 arrCADENA_u *vornsave_lee_arr_cadenas_ansi_unicode(vornsave *vornsave_datos);
 /** Arrays of texts whose null elements survive on a binary stream. */

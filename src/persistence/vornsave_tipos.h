@@ -1,5 +1,5 @@
-/* The save protocol: its object, and the functions of a host that its operations take.
-   vornsave.h tells what holds for all. */
+/* The save protocol: its object, and the functions of a host that its operations take. vornsave.h tells what holds for
+   all. */
 #ifndef VN_VORNSAVE_TIPOS_H
 #define VN_VORNSAVE_TIPOS_H
 
@@ -16,19 +16,18 @@ typedef struct idxdatos idxdatos;
 /** A connected socket. */
 typedef struct insocket insocket;
 
-/** Writes, reads or passes over one element. A reader's result is the caller's of the operation; the extra
-   values are those given to the operation, handed on. */
+/** Writes, reads or passes over one element. A reader's result belongs to the caller of the operation, which hands on
+    the extra values that it was given. */
 typedef void (*vnfunc_graba_dato)(const void *dato, vornsave *vornsave_datos);
 typedef void *(*vnfunc_lee_dato)(vornsave *vornsave_datos);
 typedef void *(*vnfunc_lee_dato_1_extra)(void *extra, vornsave *vornsave_datos);
 typedef void *(*vnfunc_lee_dato_2_extra)(void *extra1, void *extra2, vornsave *vornsave_datos);
 typedef void (*vnfunc_salta_dato)(vornsave *vornsave_datos);
 typedef void (*vnfunc_graba_texto)(const char *texto, vornsave *vornsave_datos);
-/** Reads a text: new, of the string library, the operation's from then on. */
+/** Reads a text: a new one, freed with vornstr_destruye by the operation, which owns it from then on. */
 typedef char *(*vnfunc_lee_texto)(vornsave *vornsave_datos);
 
-/** Progress of a host: the bar starts with its total, is told positions in bytes, ends, or is merely kept
- * alive. */
+/** Progress of a host: the bar starts with its total, is told positions in bytes, ends, or is merely kept alive. */
 typedef void (*vnfunc_prgs_inicia)(void *datos_prgs, uint32_t posicion_final);
 typedef void (*vnfunc_prgs_valor)(void *datos_prgs, uint32_t posicion);
 typedef void (*vnfunc_prgs_fin)(void *datos_prgs);

@@ -29,7 +29,7 @@ vnwchar *dato_u(uint32_t numero) {
 
 char *dato(uint32_t numero) { return a_ansi(dato_u(numero)); }
 
-// What a failed format leaves: reported, an empty text.
+// The text, or an empty one after the report that the format failed.
 vnwchar *o_vacio(vnwchar *texto) {
     return AFIRMA_TEXTO(texto != nullptr, "tamanyo_cadena != 0") ? texto : widestr_copia(VNU(""));
 }

@@ -155,7 +155,7 @@ vnwchar *convers_texto_ex(const vnwchar *cabecera, double valor, uint32_t tipova
     // Feet and inches have fractions of their own: neither decimals nor unit apply.
     if (vista.es_longitud_imperial()) return texto_imperial(valor, vista, cabecera);
     const double v = con_decimales(vista.a_mostrado(valor), decimales);
-    // What is absent is an empty text: heading, its separator, blank, unit.
+    // Heading, its separator, blank, unit: each an empty text where it is absent.
     const bool unidad = con_unidades == CIERTO && tipovalor != CNV_NO_CONVERSION;
     const vnwchar *const cabeza = cabecera != nullptr ? cabecera : VNU("");
     const vnwchar *const separa = cabecera != nullptr ? VNU(": ") : VNU("");

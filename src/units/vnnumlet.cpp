@@ -78,8 +78,8 @@ uint32_t quita_del_final(std::string_view &cifras, size_t n) {
 
 int es_cifra(char c) { return vnstdc_isdigit(static_cast<unsigned char>(c)); }
 
-// Reads what follows the whole part: nothing, or a separator and two digits. What follows these, or a character that
-// cannot be a separator before digits alone, would tell of another amount than the words.
+// Reads the fraction: nothing, or a separator and two digits. Further characters, or an odd separator where no whole
+// part stands before it, are reported: the words would name another amount.
 bool lee_fraccion(const char *pStrAux, bool hay_entera, uint32_t &fraccion) {
     if (*pStrAux == 0) return true;
     const char separador = *pStrAux++;

@@ -14,15 +14,15 @@ constexpr const char *UNIDADES[] = {"un",     "deux",  "trois",    "quatre",   "
                                     "huit",   "neuf",  "dix",      "onze",     "douze",    "treize", "quatorze",
                                     "quinze", "seize", "dix-sept", "dix-huit", "dix-neuf", "vingt"};
 static_assert(std::size(UNIDADES) == 20);
-// From two tens; seventy and ninety are made of those before them.
+// The tens from twenty on; seventy and ninety are built on sixty and eighty.
 constexpr const char *DECENAS[] = {"vingt", "trente", "quarante", "cinquante", "soixante", nullptr, "quatre-vingt"};
-// Multiples of a hundred and of eighty that nothing follows, from two hundred.
+// The plural of hundreds, from two hundred on, and of eighty, where no other numeral follows.
 constexpr const char *CENTENAS_EXACTAS[] = {"deux cents", "trois cents", "quatre cents", "cinq cents",
                                             "six cents",  "sept cents",  "huit cents",   "neuf cents"};
 constexpr const char *OCHENTA_EXACTO = "quatre-vingts";
 
-// What comes behind a group of three digits. "mille" is a numeral, before which nothing takes a plural or a gender; the
-// others are nouns.
+// The word behind a group of three digits. "mille" is not one of these: it is a numeral, and the words before it take
+// no plural or gender, as they do before a noun.
 struct orden {
     const char *singular, *plural;
 };

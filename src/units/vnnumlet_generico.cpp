@@ -112,7 +112,7 @@ static_assert(std::size(PALABRAS) == DESBORDAMIENTO + 1);
 
 constexpr int PORTUGUES_DE_BRASIL = 2;
 
-// The column of a language; reports one that has none, and is negative.
+// The column of a language; negative, and reported, for a language that has none.
 int columna_de(int idioma) {
     switch (idioma) {
     // clang-format off

@@ -189,8 +189,8 @@ void cambia_en_fichero(uint32_t internacional::*campo, uint32_t norma) {
 auto &el_registro = vn::registro_vornconf;
 constinit std::atomic<bool> registro_cargado{false};
 
-// Of those that load or change the record, so that what was read before a change is not put after it. Recursive: a
-// report made while the file is read may lead the host to ask.
+// Held by a thread that loads or changes the record, so that values read before a change do not replace it. Recursive:
+// a report made while the file is read may lead the host to ask.
 std::unique_lock<std::recursive_mutex> cierra_el_registro() {
     return std::unique_lock(vn::eterno<std::recursive_mutex>());
 }
@@ -203,7 +203,7 @@ void pon(const internacional &r) {
     for (const clave &c : CLAVES) palabra(c.campo).store(r.*c.campo, std::memory_order_relaxed);
 }
 
-// The file becomes the record. Whoever finds the record loaded finds its values.
+// Takes the values of the file over. The flag comes last: a thread that finds it set finds the values.
 internacional carga() {
     const auto cerrado = cierra_el_registro();
     const internacional r = lee_fichero();

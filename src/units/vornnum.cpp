@@ -81,7 +81,7 @@ uint32_t tope_de(double v) {
     return std::find_if(std::begin(TOPES), std::end(TOPES), [v](const auto &t) { return v >= t.desde; })->decimales;
 }
 
-// First rounded to the decimals, then written with those that its size leaves it.
+// Rounds a number to the decimals, and gives it with as many of them as its size allows.
 decimal redondea(double v, uint32_t decimales) {
     bool casi_mitad;
     if (decimales > tope_de(v)) {
@@ -91,7 +91,7 @@ decimal redondea(double v, uint32_t decimales) {
     }
     uint64_t n = en_unidades(v, decimales, casi_mitad);
     if (casi_mitad) n = en_unidades(prec_redondea_numero_decimales(v, decimales), decimales, casi_mitad);
-    // What became a power of ten by the rounding has that one's decimals.
+    // A number that the rounding made a power of ten has the decimals of that power.
     if (n == MAX_UNIDADES && decimales > TOPES[0].decimales) return {n / 10, decimales - 1};
     return {n, decimales};
 }
@@ -130,11 +130,11 @@ template <class C> void pon_numero(texto_numero<C> &t, double valor, const aspec
         if (quitar_ceros) {
             const auto *f =
                 std::find_if(std::begin(AUTOMATICA), std::end(AUTOMATICA), [v](const auto &r) { return v >= r.desde; });
-            // Zero has one decimal, which goes as a zero; the last row is for what is tiny.
+            // Zero has one decimal, which is dropped below as a zero at the end; the last row is for tiny numbers.
             decimales = v == 0 ? 1 : f->decimales;
             cientifica |= v != 0 && f->cientifica;
         } else if (v != 0 && !cientifica && fuera_de_cotas(v, decimales)) {
-            // What is shown from here on is the rounded value, on purpose: noise below the decimals is a zero.
+            // The rounded value is shown from here on, on purpose: noise below the decimals is a zero.
             v = prec_redondea_numero_decimales(v, static_cast<uint32_t>(decimales) + 1);
             cientifica = fuera_de_cotas(v, decimales);
         }
@@ -179,7 +179,7 @@ template <class C> C *todos_los_decimales(double valor) {
     return texto_nuevo(t);
 }
 
-// A separator in a width of text, or another one where the ANSI page has it not, or not in one byte.
+// A separator of either width; the other one where the ANSI page lacks it or needs two bytes for it.
 template <class C> C separador(vnwchar c, char otro) {
     if (sizeof(C) > 1 || c < 0x80) return static_cast<C>(c);
     const vnwchar texto[] = {c, 0};

@@ -68,7 +68,7 @@ template <class C> struct real {
     }
 };
 
-// Goes through the text by the grammar of real numbers; whether it is one.
+// Reads the text by the grammar of real numbers; false if it is none.
 template <class C> bool explora(const C *p, const separadores s, real<C> &r) {
     constexpr int64_t MAX_EXPONENTE = 1'000'000'000'000;
     r.cifras = p = tras_signo(tras_blancos(p), r.negativo);
@@ -99,7 +99,7 @@ template <class C> bool explora(const C *p, const separadores s, real<C> &r) {
     return hay && *tras_blancos(p) == 0;
 }
 
-// The magnitude through the general parser: of all digits that can tell two doubles apart, and a last one for the rest.
+// The magnitude by the general parser, of as many digits as can tell two doubles apart; one more stands for the rest.
 template <class C> double valor_exacto(const real<C> &r, const separadores s) {
     constexpr size_t DISTINGUEN = 770;
     char t[DISTINGUEN + 64] = "0.";
@@ -116,7 +116,7 @@ template <class C> double valor_exacto(const real<C> &r, const separadores s) {
             if (n < DISTINGUEN) t[n++] = static_cast<char>(*p);
             else quedan |= *p != '0';
         }
-        // Something beyond: enough to tell a number from the middle between two doubles.
+        // The digit for the rest: it tells the number from the middle between two doubles.
         if (quedan) t[n++] = '1';
     }
     t[n++] = 'e';

@@ -12,9 +12,9 @@ using namespace vn;
 namespace {
 
 constexpr double PULGADAS_POR_PIE = 12;
-// Feet, or inches alone, beyond this show nothing smaller: a double has hardly anything smaller there.
+// Beyond so many feet, or inches alone, no smaller part is shown: a double has hardly any digits left for it.
 constexpr double MAX_CON_UNIDADES = 1e15;
-// What a precision must be above.
+// A precision must be larger than this.
 constexpr double PRECISION_PANELES = 5e-10;
 
 // The magnitude of a length in whole feet, whole inches and a fraction of one; 0/0 when there is no fraction. Feet and

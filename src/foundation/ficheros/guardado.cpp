@@ -44,7 +44,7 @@ vnerror_fichero resuelve(const vnwchar *nombre, cadena_ancha &real) {
     return e;
 }
 
-// A new file of this name, held. What somebody has left there goes first, unless it is somebody's still.
+// Creates the temporary, held. A temporary that a dead program has left goes first; one that a program holds stays.
 vnerror_fichero crea_temporal(const cadena_ancha &nombre, uint32_t ademas, vnid_fichero *id) {
     return con_paciencia(UN_SEGUNDO, [&] {
         vnerror_fichero e = operaciones().abre(nombre.c_str(), TEMPORAL | VN_ABRE_CREA | VN_ABRE_NUEVO | ademas, id);
@@ -54,7 +54,8 @@ vnerror_fichero crea_temporal(const cadena_ancha &nombre, uint32_t ademas, vnid_
     });
 }
 
-// Whether a file may be written, and is in nobody's hands as its only writer.
+// Opens a file for writing and closes it again: the error if it cannot be written, another program holds it alone, or
+// it is not a normal file.
 vnerror_fichero se_puede_escribir(const vnwchar *nombre) {
     vnid_fichero id = VN_FICHERO_NINGUNO;
     vnestado_fichero estado{};
@@ -147,7 +148,8 @@ vnerror_fichero guardado::guarda_copia_de_seguridad() const {
     return e;
 }
 
-// What is there gives its rights and becomes the safety copy. Whoever may not write it does not replace it either.
+// The old file gives its rights and becomes the safety copy. A program that may not write it does not replace it
+// either.
 vnerror_fichero guardado::prepara_sitio() {
     vnerror_fichero e = se_puede_escribir(destino_.c_str());
     if (e == VN_FICH_NO_EXISTE) return VN_FICH_BIEN;
@@ -157,7 +159,7 @@ vnerror_fichero guardado::prepara_sitio() {
 }
 
 vnerror_fichero guardado::confirma() {
-    // What fails is not tried again: the system may then say that all is well of data that are gone.
+    // A flush that failed is not tried again: the system may then say that all is well of data that are gone.
     vnerror_fichero e = operaciones().vuelca(id_);
     if (e == VN_FICH_BIEN) e = operaciones().es_su_nombre(id_, temporal_.c_str());
     if (e == VN_FICH_BIEN) e = prepara_sitio();

@@ -25,7 +25,7 @@ std::string contenido(const vnwchar *fichero) {
     size_t leidos = 0;
     const vnerror_fichero e = vn::lee_todo(id, 0, datos.data(), datos.size(), &leidos);
     op.cierra(id);
-    // It may have become shorter since it was asked.
+    // The file may have become shorter since its size was asked.
     datos.resize(e == VN_FICH_BIEN ? leidos : 0);
     return datos;
 }

@@ -106,7 +106,7 @@ void vacia_del_todo(vnfichero &f) {
 bool cierra(vnfichero &f, bool a_disco) {
     vacia_del_todo(f);
     vnerror_fichero e = VN_FICH_BIEN;
-    // What has failed already is not worth the wait for the disk.
+    // A stream that has failed is not worth the wait for the disk.
     if (!f.fallo_escritura && a_disco) e = operaciones().vuelca(f.id);
     if (f.id != VN_FICHERO_NINGUNO) {
         const vnerror_fichero al_cerrar = operaciones().cierra(std::exchange(f.id, VN_FICHERO_NINGUNO));

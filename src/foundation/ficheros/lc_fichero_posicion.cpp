@@ -134,7 +134,7 @@ vnbool lc_bloquea_zona_fichero(vnfichero *f, int64_t inicio, uint32_t tamanyo, u
     const vnerror_fichero e =
         con_paciencia(UNA_VEZ, [&] { return operaciones().bloquea(f->id, inicio, tamanyo, modo); });
     if (e != VN_FICH_BIEN) return FALSO;
-    // What was read ahead may have changed before the zone was ours.
+    // Bytes that were read ahead may have changed before the zone was locked.
     situa(*f, posicion(*f));
     return CIERTO;
 }

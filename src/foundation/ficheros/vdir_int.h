@@ -13,7 +13,7 @@ inline bool es_separador(vnwchar c) { return c == VNU('\\') || c == VNU('/'); }
 // for a root's.
 struct partes {
     vista_ancha unidad, directorio, nombre, extension;
-    // What lies before the name.
+    // Drive and directory: the part before the name.
     vista_ancha hasta_directorio() const { return {unidad.data(), unidad.size() + directorio.size()}; }
     vista_ancha nombre_con_extension() const {
         return {nombre.data(), nombre.size() + (extension.empty() ? 0 : extension.size() + 1)};

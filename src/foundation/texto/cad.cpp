@@ -13,7 +13,7 @@ using texto::NO_ESTA;
 
 namespace {
 
-// What a wrong length may take of the memory at most.
+// The most memory that a wrong length may take.
 constexpr uint32_t MAX_TEXTO = 1u << 30;
 #define AQUI (texto::quien{VN_AQUI})
 

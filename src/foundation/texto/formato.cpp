@@ -47,7 +47,7 @@ template <class C> class salida {
     size_t sitio_, n_ = 0;
 };
 
-// What stands between % and the letter, and the letter.
+// One conversion of a format: flags, width, precision, size and letter.
 struct conversion {
     bool izquierda = false, mas = false, blanco = false, alterna = false, ceros = false;
     int ancho = 0, precision = -1;
@@ -161,7 +161,7 @@ void a_mayusculas(char *p, const char *fin) {
 
 template <class C> void pon_entero(salida<C> &s, const conversion &c, argumentos &a) {
     const bool con_signo = c.letra == 'd' || c.letra == 'i';
-    // What is shorter than 32 bits was widened by the call, and is cut again below.
+    // The call has widened integers of less than 32 bits; they are cut again below.
     uint64_t v = c.bytes == 8 ? va_arg(a.v, uint64_t) : va_arg(a.v, uint32_t);
     bool negativo = false;
     if (con_signo) {
@@ -307,7 +307,7 @@ template <class C, class D> void pon_cadena(salida<C> &s, const conversion &c, c
     pon_texto(s, c, texto, n);
 }
 
-// Whether a text argument is wide: as its size says; else %s is of the format's own width and %S of the other.
+// True if a text argument is wide: its size letter tells (h, l); without one %s has the format's width, %S the other.
 template <class C> bool es_ancho(const conversion &c) {
     if (c.anchura != 0) return c.anchura == 'l';
     return (sizeof(C) > 1) == (c.letra == 's' || c.letra == 'c');

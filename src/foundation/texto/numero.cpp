@@ -29,7 +29,7 @@ template <class C> size_t palabra(const C *s, size_t n, const char *minusculas) 
     return sigue ? 0 : i;
 }
 
-// Whether a number whose value no double can hold is too large, and not too small: the place of its first digit tells.
+// Tells overflow from underflow, for a number that no double can hold, by the place of its first digit.
 template <class C> bool es_enorme(const C *s, const C *fin) {
     // Digits before the period, and zeros between it and the first digit that counts: the place of that digit.
     int64_t enteras = 0, ceros = 0;

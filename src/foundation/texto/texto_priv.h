@@ -13,7 +13,7 @@
 
 namespace vn::texto {
 
-// Who asks: named in the reports and in the tracked heap.
+// The caller, whom reports and the tracked heap name.
 struct quien {
     const char *modulo;
     uint32_t linea;

@@ -46,8 +46,8 @@ char *de_pagina(const pagina &p, const vnwchar *s, vnbool *perdida, bool sin_ace
     return r;
 }
 
-// What a text becomes, which goes then: by the pointer of its owner, left null, or taken over, so that it goes even if
-// there is no memory for the other.
+// Converts a text and frees it: through its owner's pointer, which becomes null, or taken over, so that it is freed
+// even where memory runs out for the result.
 template <class D, class O> D *en_lugar_de(O **s, D *(*convierte)(const O *)) {
     propio<D> r(convierte(*s));
     texto::destruye(s);

@@ -10,7 +10,7 @@
 using namespace vn;
 using namespace vn::texto;
 
-// What a wrong length may take at most, in units.
+// The most units that a wrong length may take.
 static constexpr uint32_t MAX_TEXTO = 1u << 30;
 
 vnwchar *widestr_nousar_creacadena(uint32_t n, const char *modulo, uint32_t linea) {

@@ -127,7 +127,7 @@ bool espera_turno(int fd, reloj::time_point fin) {
             return false;
         }
         std::this_thread::sleep_for(std::min<reloj::duration>(pausa, fin - ahora));
-        // Those in front look more often than those far behind.
+        // A waiter near the front looks more often than one far behind.
         pausa = std::min<reloj::duration>(pausa * 2, sitio * 1ms);
     }
 }
