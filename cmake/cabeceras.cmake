@@ -1,7 +1,8 @@
 # What a host may include: <nucleos/...>, out of one folder that has nothing else in it.
 
-# The public headers, in their tree: all but _priv.h (of a folder), _int.h (of the library) and the platform's own. Of the
-# tables (.inl) those that a public header includes.
+# The public headers, in their tree. They are found and not listed, since the name alone tells what is public: all but
+# _priv.h (of a folder), _int.h (of the library) and the platform's own. Of the tables (.inl) those that a public header
+# includes.
 set(fuentes ${PROJECT_SOURCE_DIR}/src)
 file(GLOB_RECURSE VN_CABECERAS RELATIVE ${fuentes} CONFIGURE_DEPENDS ${fuentes}/*.h)
 list(FILTER VN_CABECERAS EXCLUDE REGEX "_(priv|int)\\.h$|^foundation/platform/")

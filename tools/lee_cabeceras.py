@@ -1,7 +1,8 @@
-"""Reads the public headers with libclang: every operation with its parameters, their types and their annotations.
-What the checks of the tree and the sweep of arguments stand on."""
+"""Reads the public headers with libclang: every operation with its parameters, their types and their annotations; and the
+files of the tree. What the checks of the tree and the sweep of arguments stand on."""
 import os
 import re
+import subprocess
 from dataclasses import dataclass, field
 
 from clang import cindex
@@ -123,6 +124,19 @@ def lee(cabeceras, argumentos=()):
             f.parametros.append(Parametro(p.spelling, p.type, _anotaciones(p)))
         vistas[f.nombre] = f
     return sorted(vistas.values(), key=lambda f: f.nombre)
+
+
+def ficheros_del_arbol(carpetas, terminaciones):
+    """The paths under these folders with one of these endings: what git keeps, and what it would."""
+    rutas = subprocess.run(["git", "-C", RAIZ, "ls-files", "-co", "--exclude-standard", *carpetas], capture_output=True,
+                           text=True, check=True).stdout.split()
+    return [r for r in rutas if r.endswith(terminaciones) and os.path.exists(os.path.join(RAIZ, r))]
+
+
+def dice(faltas, bien):
+    """Tells the faults, one a line, or that all is well; gives the status that a check ends with."""
+    print("\n".join(faltas) or bien)
+    return 1 if faltas else 0
 
 
 def lista_de_exportaciones(nombre):

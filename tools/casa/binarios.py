@@ -7,7 +7,7 @@ import subprocess
 import sys
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
-from lee_cabeceras import lista_de_exportaciones
+from lee_cabeceras import dice, lista_de_exportaciones
 
 # What every Windows has.
 SISTEMA = {"kernel32", "msvcrt", "user32", "advapi32", "shell32", "gdi32", "glu32", "opengl32", "ole32", "oleaut32",
@@ -82,9 +82,9 @@ def compara(nombres, lista):
 
 def main():
     ruta, lista, version = sys.argv[1:]
-    faltas = list((mira_pe if ruta.lower().endswith(".dll") else mira_elf)(ruta, lista, version))
-    print("\n".join(f"{os.path.basename(ruta)}: {f}" for f in faltas) or f"{os.path.basename(ruta)} is what its list says")
-    return 1 if faltas else 0
+    nombre = os.path.basename(ruta)
+    faltas = (mira_pe if ruta.lower().endswith(".dll") else mira_elf)(ruta, lista, version)
+    return dice([f"{nombre}: {f}" for f in faltas], f"{nombre} is what its list says")
 
 
 if __name__ == "__main__":

@@ -7,7 +7,7 @@ import sys
 from concurrent.futures import ThreadPoolExecutor
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
-from lee_cabeceras import cabeceras_publicas
+from lee_cabeceras import cabeceras_publicas, dice
 
 AVISOS = ["-fsyntax-only", "-Wall", "-Wextra", "-Wpedantic", "-Werror", "-Wshadow", "-Wconversion", "-Wno-sign-conversion"]
 
@@ -27,8 +27,9 @@ def main():
     pares = [(o, h) for h in cabeceras for o in (c, de_cxx)] + [(de_cxx, h) for h in cabeceras_publicas(arbol, "_cxx")]
     with ThreadPoolExecutor(2) as grupo:
         faltas = [f for f in grupo.map(lambda a: compila(*a), pares) if f]
-    print("\n".join(faltas) or f"{len(cabeceras)} headers compile alone, two ways")
-    return 1 if faltas or not cabeceras else 0
+    if not cabeceras:
+        faltas.append("no public header was listed")
+    return dice(faltas, f"{len(cabeceras)} headers compile alone, two ways")
 
 
 if __name__ == "__main__":

@@ -9,7 +9,7 @@ from collections import Counter
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
 from clang.cindex import TypeKind
-from lee_cabeceras import ANOTACIONES, cabeceras_publicas, lee, lista_de_exportaciones
+from lee_cabeceras import ANOTACIONES, cabeceras_publicas, dice, lee, lista_de_exportaciones
 
 NUMEROS = (TypeKind.UINT, TypeKind.INT, TypeKind.SHORT, TypeKind.USHORT, TypeKind.LONG, TypeKind.ULONG, TypeKind.LONGLONG,
            TypeKind.ULONGLONG, TypeKind.CHAR_S, TypeKind.CHAR_U, TypeKind.SCHAR, TypeKind.UCHAR, TypeKind.FLOAT,
@@ -54,7 +54,7 @@ def mira_anotaciones(f, p):
 
 def main():
     funciones = lee(cabeceras_publicas(sys.argv[1]))
-    faltas = []
+    faltas = [] if funciones else ["no operation was read"]
     for f in funciones:
         if not f.comentario:
             faltas.append(f"{f}: no doc comment")
@@ -72,8 +72,7 @@ def main():
         if "--adelantadas" not in sys.argv:
             faltas += [f"{declaradas[n]}: declared, not in src/exports/{biblioteca}.txt"
                        for n in sorted(declaradas.keys() - lista)]
-    print("\n".join(faltas) or f"{len(funciones)} operations hold to their contract")
-    return 1 if faltas or not funciones else 0
+    return dice(faltas, f"{len(funciones)} operations hold to their contract")
 
 
 if __name__ == "__main__":

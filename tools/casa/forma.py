@@ -6,7 +6,7 @@ import subprocess
 import sys
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
-from lee_cabeceras import RAIZ
+from lee_cabeceras import RAIZ, dice, ficheros_del_arbol
 
 ANCHO = 120
 CARPETAS = ["src", "tests", "fuzz", "bench", "examples", "tools"]
@@ -23,14 +23,13 @@ def largas(ruta):
 
 
 def main():
-    rutas = subprocess.run(["git", "-C", RAIZ, "ls-files", "-co", "--exclude-standard", *CARPETAS], capture_output=True,
-                           text=True, check=True).stdout.split()
-    rutas = [r for r in rutas if r.endswith((".h", ".hpp", ".cpp", ".c")) and os.path.exists(os.path.join(RAIZ, r))]
+    rutas = ficheros_del_arbol(CARPETAS, (".h", ".hpp", ".cpp", ".c"))
     faltas = [f"{r}:{n}: {ancho} columns" for r in rutas for n, ancho in largas(r)]
     formadas = subprocess.run(["clang-format", "--dry-run", "-Werror", *rutas], cwd=RAIZ, capture_output=True, text=True)
     faltas += [l.split(" error: ")[0] + " not as clang-format has it" for l in formadas.stderr.split("\n") if " error: " in l]
-    print("\n".join(faltas) or f"{len(rutas)} files in form")
-    return 1 if faltas or formadas.returncode != 0 else 0
+    if formadas.returncode != 0 and not faltas:
+        faltas.append(f"clang-format failed: {formadas.stderr}")
+    return dice(faltas, f"{len(rutas)} files in form")
 
 
 if __name__ == "__main__":

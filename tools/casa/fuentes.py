@@ -3,11 +3,10 @@
 one line per fault."""
 import os
 import re
-import subprocess
 import sys
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
-from lee_cabeceras import RAIZ, lista_de_exportaciones, sin_comentarios
+from lee_cabeceras import RAIZ, dice, ficheros_del_arbol, lista_de_exportaciones, sin_comentarios
 
 # Each folder of src/, and each room of the Foundation, with what it may include beside itself, lowest layer first. A folder
 # that is not here is a fault. `platform` calls the system and takes types from `suelo`, which stands on it: one floor.
@@ -185,11 +184,8 @@ def mira_modulo(ruta, lineas):
 
 
 def main():
-    rutas = subprocess.run(["git", "-C", RAIZ, "ls-files", "-co", "--exclude-standard", "src", "tests", "fuzz", "bench",
-                            "examples"], capture_output=True, text=True, check=True).stdout.split()
+    rutas = ficheros_del_arbol(["src", "tests", "fuzz", "bench", "examples"], (".h", ".hpp", ".cpp", ".c", ".inl"))
     for ruta in rutas:
-        if not ruta.endswith((".h", ".hpp", ".cpp", ".c", ".inl")) or not os.path.exists(os.path.join(RAIZ, ruta)):
-            continue
         with open(os.path.join(RAIZ, ruta), encoding="utf-8") as f:
             texto = f.read()
         lineas = texto.split("\n")
@@ -210,8 +206,7 @@ def main():
         nombres = lista_de_exportaciones(lista)
         if nombres != sorted(set(nombres)):
             falta(f"src/exports/{lista}.txt", 1, "not sorted and unique (LC_ALL=C sort -u)")
-    print("\n".join(faltas) or f"{len(rutas)} files in order")
-    return 1 if faltas else 0
+    return dice(faltas, f"{len(rutas)} files in order")
 
 
 if __name__ == "__main__":

@@ -6,7 +6,7 @@ import re
 import sys
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
-from lee_cabeceras import RAIZ
+from lee_cabeceras import RAIZ, dice
 
 
 def lee(ruta):
@@ -22,8 +22,9 @@ def main():
     paquetes = re.findall(r"^[^#\s].*$", lee("tools/paquetes.txt"), re.M)
     ajenas = lee("docs/third-party.md")
     faltas += [f"docs/third-party.md says nothing of {p}" for p in paquetes if f"`{p}`" not in ajenas]
-    print("\n".join(faltas) or f"the first host and {len(paquetes)} packages are told")
-    return 1 if faltas or not paquetes else 0
+    if not paquetes:
+        faltas.append("tools/paquetes.txt lists no package")
+    return dice(faltas, f"the first host and {len(paquetes)} packages are told")
 
 
 if __name__ == "__main__":

@@ -10,7 +10,7 @@ import sys
 from concurrent.futures import ThreadPoolExecutor
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
-from lee_cabeceras import RAIZ
+from lee_cabeceras import RAIZ, dice
 
 CONSTRUIDO = os.path.join(RAIZ, "build", "release")
 
@@ -37,8 +37,7 @@ def main():
     fuentes = sorted(f for f in pedidas & conocidas if f.startswith("src/"))
     with ThreadPoolExecutor(os.cpu_count()) as hebras:
         hallazgos = sorted({l for lineas in hebras.map(mira, fuentes) for l in lineas})
-    print("\n".join(hallazgos) or f"{len(fuentes)} sources without a suspicion")
-    return 1 if hallazgos else 0
+    return dice(hallazgos, f"{len(fuentes)} sources without a suspicion")
 
 
 if __name__ == "__main__":
