@@ -169,18 +169,15 @@ enum forma { BLOQUE, SECCION };
 using fncptr_marca = void (*)(const char *id, void *destino);
 
 // Gives the function that writes a mark of that form; null, reported, where the destination takes no marks.
-fncptr_marca puede_marcar(const char *id, const vornsave *vornsave_datos, forma f, clase_marca clase) {
-    if (!EXIGE_AL_GRABAR(vornsave_datos, id)) return nullptr;
-    if (clase == MARCA_32 ? !puede_grabar<GRABAR(long)>(vornsave_datos) : !puede_grabar<GRABAR(ulong)>(vornsave_datos))
+fncptr_marca puede_marcar(const char *id, const vornsave *d, forma f, clase_marca clase) {
+    if (!EXIGE_AL_GRABAR(d, id)) return nullptr;
+    if (clase == MARCA_32 ? !puede_grabar<GRABAR(long)>(d) : !puede_grabar<GRABAR(ulong)>(d)) return nullptr;
+    if (!SE_GRABA(d, f == SECCION || AFIRMA(*id != '\0'))) return nullptr;
+    const auto graba_cabecera = d->fila->marcas.graba;
+    if (!SE_GRABA(d, AFIRMA_TEXTO(graba_cabecera != nullptr, "(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL")))
         return nullptr;
-    if (!SE_GRABA(vornsave_datos, f == SECCION || AFIRMA(*id != '\0'))) return nullptr;
-    const auto graba_cabecera = vornsave_datos->fila->marcas.graba;
-    if (!SE_GRABA(vornsave_datos,
-                  AFIRMA_TEXTO(graba_cabecera != nullptr, "(vornsave_datos->fncptr_graba_cabecera_bloque) != NULL")))
-        return nullptr;
-    if (!SE_GRABA(vornsave_datos, hay_posiciones(vornsave_datos, clase))) return nullptr;
-    const fncptr_marca fncptr_graba_marca =
-        f == BLOQUE ? graba_cabecera : vornsave_datos->fila->grabar.fncptr_graba_cadena;
+    if (!SE_GRABA(d, hay_posiciones(d, clase))) return nullptr;
+    const fncptr_marca fncptr_graba_marca = f == BLOQUE ? graba_cabecera : d->fila->grabar.fncptr_graba_cadena;
     return AFIRMA_NO_NULO(fncptr_graba_marca) ? fncptr_graba_marca : nullptr;
 }
 
@@ -222,13 +219,13 @@ void graba_fin(const char *id, vornsave *d, forma f, clase_marca clase) {
 
 // ---- Reading
 
-bool puede_leer_bloques(const char *id, const vornsave *vornsave_datos, clase_marca clase) {
+bool puede_leer_bloques(const char *id, const vornsave *d, clase_marca clase) {
     if (!AFIRMA_NO_NULO(id) || !AFIRMA(*id != '\0')) return false;
-    const marcas_t *const m = vornsave_datos != nullptr ? &vornsave_datos->fila->marcas : nullptr;
+    const marcas_t *const m = d != nullptr ? &d->fila->marcas : nullptr;
     return clase == MARCA_32
-               ? puede_leer<LEER(long)>(vornsave_datos) &&
+               ? puede_leer<LEER(long)>(d) &&
                      AFIRMA_TEXTO(m->se_lee != nullptr, "(vornsave_datos->fncptr_se_lee_inicio_bloque) != NULL")
-               : puede_leer<LEER(ulong)>(vornsave_datos) &&
+               : puede_leer<LEER(ulong)>(d) &&
                      AFIRMA_TEXTO(m->se_lee64 != nullptr, "(vornsave_datos->fncptr_se_lee_inicio_bloque64) != NULL");
 }
 vnbool se_lee_marca(const char *id, const vornsave *d, clase_marca clase) {

@@ -23,9 +23,7 @@ bool esta_bien_formado(std::basic_string_view<vnwchar> s) {
     return true;
 }
 
-char *lee_cadena_de(vornsave *vornsave_datos, bool ansi) {
-    return ansi ? lee<LEER(cadena)>(vornsave_datos) : lee<LEER(cadena_ASCII)>(vornsave_datos);
-}
+char *lee_cadena_de(vornsave *d, bool ansi) { return ansi ? lee<LEER(cadena)>(d) : lee<LEER(cadena_ASCII)>(d); }
 
 } // namespace
 

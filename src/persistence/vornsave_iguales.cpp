@@ -29,22 +29,20 @@ void graba_cadenas(const arrCADENA *array, vornsave *d, bool con_null) {
     });
 }
 
-arrCADENA *lee_cadenas(vornsave *vornsave_datos, bool con_null) {
-    if (!puede_leer_grupos(vornsave_datos) || !puede_leer<LEER(cadena)>(vornsave_datos)) return nullptr;
-    AFIRMA(vornsave_datos->ANSI == CIERTO); // no file of the OEM times has this form
+arrCADENA *lee_cadenas(vornsave *d, bool con_null) {
+    if (!puede_leer_grupos(d) || !puede_leer<LEER(cadena)>(d)) return nullptr;
+    // No file of the OEM times has this form.
+    AFIRMA_TEXTO(d->ANSI == CIERTO, "vornsave_datos->ANSI == CIERTO");
     // Not bounded by what is left: few bytes may stand for many values, and the budget of the groups holds them.
-    const uint32_t num_elems_a_leer = lee<LEER(ulong_y_salta)>(vornsave_datos);
+    const uint32_t num_elems_a_leer = lee<LEER(ulong_y_salta)>(d);
     dueno<arr_DestruyeCADENA> leidos(arr_CreaCADENA(0));
     arrCADENA *const array = leidos.get();
     lee_grupos(
-        *vornsave_datos, num_elems_a_leer, con_null ? 1 : sizeof(uint16_t), 1,
-        [=] {
-            return con_null ? lee_texto<ansi>(*vornsave_datos, true)
-                            : dueno_cadena(vornsave_datos->lee<LEER(cadena)>());
-        },
+        *d, num_elems_a_leer, con_null ? 1 : sizeof(uint16_t), 1,
+        [=] { return con_null ? lee_texto<ansi>(*d, true) : dueno_cadena(d->lee<LEER(cadena)>()); },
         [=](const dueno_cadena &texto) { arr_AppendCADENA(array, texto.get()); });
     // Groups that ended before their total: reported, and what there is handed over.
-    if (!AFIRMA(arr_NumElemsCADENA(array) == num_elems_a_leer)) vornsave_datos->falla();
+    if (!AFIRMA(arr_NumElemsCADENA(array) == num_elems_a_leer)) d->falla();
     return leidos.release();
 }
 

@@ -9,13 +9,13 @@ using namespace vn;
 namespace {
 
 // Writes whether there is a value; true if its plain form is to follow.
-bool graba_presencia(bool esta, vornsave *vornsave_datos) {
-    if (!puede_grabar<GRABAR(bool)>(vornsave_datos)) return false;
-    graba<GRABAR(bool)>(vornsave_datos, logico(esta));
+bool graba_presencia(bool esta, vornsave *d) {
+    if (!puede_grabar<GRABAR(bool)>(d)) return false;
+    graba<GRABAR(bool)>(d, logico(esta));
     return esta;
 }
 // Only CIERTO announces a value: after a damaged flag none is read.
-bool lee_presencia(vornsave *vornsave_datos) { return lee<LEER(bool)>(vornsave_datos) == CIERTO; }
+bool lee_presencia(vornsave *d) { return lee<LEER(bool)>(d) == CIERTO; }
 
 } // namespace
 

@@ -45,19 +45,19 @@ vornsave *registra(const destino &fila, void *donde, vnbool con_comentarios = FA
 
 void destruye_marca(i_marca_t **marca);
 
-[[gnu::cold]] void refresca_grabacion(vornsave *vornsave_datos);
-[[gnu::cold]] void refresca_lectura(vornsave *vornsave_datos);
+[[gnu::cold]] void refresca_grabacion(vornsave *d);
+[[gnu::cold]] void refresca_lectura(vornsave *d);
 
 // Which refresh of the progress a member runs before the transfer.
 enum progreso : bool { SIN_PROGRESO, CON_PROGRESO };
 
-inline void progreso_al_grabar(vornsave *vornsave_datos) {
-    if (vornsave_datos->con_progreso == CIERTO) [[unlikely]]
-        refresca_grabacion(vornsave_datos);
+inline void progreso_al_grabar(vornsave *d) {
+    if (d->con_progreso == CIERTO) [[unlikely]]
+        refresca_grabacion(d);
 }
-inline void progreso_al_leer(vornsave *vornsave_datos) {
-    if (vornsave_datos->con_progreso == CIERTO) [[unlikely]]
-        refresca_lectura(vornsave_datos);
+inline void progreso_al_leer(vornsave *d) {
+    if (d->con_progreso == CIERTO) [[unlikely]]
+        refresca_lectura(d);
 }
 
 // A check of what is to be written: SE_GRABA(object, AFIRMA_...), for pointers EXIGE_AL_GRABAR(object, a, b). When it

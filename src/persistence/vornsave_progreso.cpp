@@ -10,42 +10,40 @@ using namespace vn;
 namespace {
 
 // The position as the bar takes it; false, reported, where there is none.
-bool posicion_de_barra(const vornsave *vornsave_datos, uint32_t &valor) {
-    const posiciones_t &p = vornsave_datos->fila->posiciones;
+bool posicion_de_barra(const vornsave *d, uint32_t &valor) {
+    const posiciones_t &p = d->fila->posiciones;
     if (!AFIRMA_TEXTO(p.get != nullptr, "(vornsave->fncptr_get_posicion) != NULL")) return false;
-    const int64_t posicion = p.get64 != nullptr ? p.get64(vornsave_datos->donde) : p.get(vornsave_datos->donde);
+    const int64_t posicion = p.get64 != nullptr ? p.get64(d->donde) : p.get(d->donde);
     if (!AFIRMA(posicion >= 0)) return false;
     // A bar counts in 32 bits: it stands still at the end of what it can show.
     valor = static_cast<uint32_t>(std::min<int64_t>(posicion, UINT32_MAX));
     return true;
 }
 
-void olvida_progreso(vornsave *vornsave_datos) {
-    vornsave_datos->con_progreso = FALSO;
-    vornsave_datos->datos_prgs = nullptr;
-    vornsave_datos->func_prgs_inicia_barra_progreso = nullptr;
-    vornsave_datos->func_prgs_valor_barra_progreso = nullptr;
-    vornsave_datos->func_prgs_fin_barra_progreso = nullptr;
-    vornsave_datos->func_prgs_refresca = nullptr;
-    vornsave_datos->posicion_final_prgs = 0;
+void olvida_progreso(vornsave *d) {
+    d->con_progreso = FALSO;
+    d->datos_prgs = nullptr;
+    d->func_prgs_inicia_barra_progreso = nullptr;
+    d->func_prgs_valor_barra_progreso = nullptr;
+    d->func_prgs_fin_barra_progreso = nullptr;
+    d->func_prgs_refresca = nullptr;
+    d->posicion_final_prgs = 0;
 }
 
 } // namespace
 
-void vn::refresca_grabacion(vornsave *vornsave_datos) {
+void vn::refresca_grabacion(vornsave *d) {
     uint32_t posicion = 0;
-    if (!posicion_de_barra(vornsave_datos, posicion)) return;
+    if (!posicion_de_barra(d, posicion)) return;
     // Beyond the end that the host foretold the bar does not move, it is only kept alive.
-    if (posicion < vornsave_datos->posicion_final_prgs)
-        vornsave_datos->func_prgs_valor_barra_progreso(vornsave_datos->datos_prgs, posicion);
-    else if (vornsave_datos->func_prgs_refresca != nullptr) // a bar for reading has none
-        vornsave_datos->func_prgs_refresca(vornsave_datos->datos_prgs);
+    if (posicion < d->posicion_final_prgs) d->func_prgs_valor_barra_progreso(d->datos_prgs, posicion);
+    else if (d->func_prgs_refresca != nullptr) // a bar for reading has none
+        d->func_prgs_refresca(d->datos_prgs);
 }
 
-void vn::refresca_lectura(vornsave *vornsave_datos) {
+void vn::refresca_lectura(vornsave *d) {
     uint32_t posicion = 0;
-    if (posicion_de_barra(vornsave_datos, posicion))
-        vornsave_datos->func_prgs_valor_barra_progreso(vornsave_datos->datos_prgs, posicion);
+    if (posicion_de_barra(d, posicion)) d->func_prgs_valor_barra_progreso(d->datos_prgs, posicion);
 }
 
 void vornsave_nousar_inicia_progreso_grabacion(vornsave *vornsave_no_const, void *datos_prgs, uint32_t posicion_final,

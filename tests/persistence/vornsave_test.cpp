@@ -229,7 +229,7 @@ PRUEBA(vornsave, vida_de_un_objeto) {
 
 PRUEBA(vornsave, los_textos_viejos_se_convierten_segun_la_version) {
     // 0xA4 is the n with tilde of the OEM page, 0xF1 that of the ANSI one.
-    const std::string datos = bytes("\1\0\xa4\1\0\xa4\xa4\xa4\1\0\xa4\1\0\xa4\1\0\xa4\1\0\0\0\1\0\xa4");
+    const std::string datos = bytes("\1\0\xa4\1\0\xa4\xa4\xa4\1\0\xa4\1\0\xa4\1\0\xa4\1\0\0\0\1\0\xa4\0\0\0\0");
     leido(EN_BIN, datos, [](vornsave *d) {
         vornsave_set_lectura_ANSI_ASCII_segun_version(d, 8, 7);
         EXPECT_EQ(toma(vornsave_lee_cadena(d)), "\xa4");
@@ -242,6 +242,8 @@ PRUEBA(vornsave, los_textos_viejos_se_convierten_segun_la_version) {
         EXPECT_EQ(toma(ESPERA_INFORME("vornsave_datos->ANSI == CIERTO", vornsave_lee_cadena_campo(d, "c"))), "\xa4");
         arrCADENA *a = vornsave_lee_arr_cadenas(d);
         EXPECT_STREQ(arr_GetCADENA(a, 0), "\xf1");
+        arr_DestruyeCADENA(&a);
+        a = ESPERA_INFORME("vornsave_datos->ANSI == CIERTO", vornsave_lee_arr_cadenas_con_valores_iguales(d));
         arr_DestruyeCADENA(&a);
     });
 }
