@@ -141,7 +141,7 @@ claves interpreta(std::string_view s) {
         std::string_view linea, contenido;
         cadena_ancha t;
         toma_linea(s, linea);
-        // What lies under a key that cannot be is left out.
+        // The values under an impossible key are left out.
         if (es_cabecera(linea, t)) actual = es_camino(t) ? &todas[t] : nullptr;
         else if (actual != nullptr && es_asignacion(linea, t, contenido)) (*actual)[t] = lee(contenido, true);
     }

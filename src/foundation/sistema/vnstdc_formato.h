@@ -21,8 +21,8 @@ int vnstdc_wprintf(VN_FORMATO const vnwchar *formato, ...);
 void vnstdc_clearerr(vnfichero *f);
 /** Reads one item from a stream as `formato` says (one conversion: d i u x o c s f g e with l, h, I64 and a width),
     and returns how many items were read: 1, 0, or -1 at the end of the stream before anything was read. `a` leads to
-    room of the conversion's type; a `%s` without a width is reported and reads nothing. What was not used stays in
-    the stream. */
+    room of the conversion's type; a `%s` without a width is reported and reads nothing. `%*` reads and stores nothing
+    (`%*s` a word). What was not used stays in the stream. */
 int vnstdc_fscanf1(vnfichero *f, VN_FORMATO const char *formato, VN_SALIDA void *a);
 /** Reads two items from a wide text. As vnstdc_fscanf1; `%s` and `%c` fill wide room. */
 int vnstdc_swscanf2(const vnwchar *s, VN_FORMATO const vnwchar *formato, VN_SALIDA void *a, VN_SALIDA void *b);

@@ -114,7 +114,7 @@ bool espera_turno(int fd, reloj::time_point fin) {
     if (!espera_alguien(fd) && ocupa(fd, 0)) return true;
     int sitio = SITIOS + 1; // none yet
     for (reloj::duration pausa = 50us;;) {
-        // One place on: the one behind is given up only now, so that nobody gets past.
+        // One place further on: the place behind is given up only now, so that nobody gets past.
         if (ocupa(fd, sitio - 1)) {
             if (sitio <= SITIOS) deja(fd, sitio);
             if (--sitio == 0) return true;

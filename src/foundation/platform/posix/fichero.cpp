@@ -232,8 +232,8 @@ vnerror_fichero renombra_abierto(vnid_fichero id, const vnwchar *existente, cons
 
 vnerror_fichero borra(const vnwchar *nombre) { return resultado(::unlink(bytes(nombre).c_str())); }
 
-// What cannot be a file of somebody's who is at work goes, unopened: a link, a pipe. So does a file that nobody could
-// look at, once its owner has had the time to give it its rights.
+// Removes what a dead program has left. A link or a pipe, which no program that saves makes, goes unopened. So does a
+// file that could not be looked at, once its owner has had the time to give it its rights.
 vnerror_fichero retira(const vnwchar *nombre) {
     const std::string ruta = bytes(nombre);
     struct stat s;
@@ -313,7 +313,7 @@ size_t mide_nombre(std::basic_string_view<vnwchar> nombre) { return ruta_del_sis
 bool se_puede_reemplazar(const vnwchar *nombre) {
     const std::string ruta = bytes(nombre), directorio = parte(ruta).first;
     struct stat s, d;
-    // What cannot be looked at is left to the rename itself.
+    // Where the two cannot be looked at, the rename itself tells.
     if (::lstat(ruta.c_str(), &s) != 0 || ::stat(directorio.empty() ? "." : directorio.c_str(), &d) != 0) return true;
     const uid_t yo = ::geteuid();
     return (d.st_mode & S_ISVTX) == 0 || yo == 0 || s.st_uid == yo || d.st_uid == yo;

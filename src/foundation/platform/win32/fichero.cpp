@@ -260,7 +260,7 @@ vnerror_fichero renombra_abierto(vnid_fichero id, const vnwchar *, const vnwchar
 
 vnerror_fichero borra(const vnwchar *nombre) { return resultado(DeleteFileW(ruta_del_sistema(nombre).c_str())); }
 
-// Whoever holds it does not let it go; one that is protected against its removal goes too.
+// Removes what a dead program has left, read-only too; the system refuses a file that a program holds.
 vnerror_fichero retira(const vnwchar *nombre) {
     const std::wstring ruta = ruta_del_sistema(nombre);
     const DWORD atributos = GetFileAttributesW(ruta.c_str());
