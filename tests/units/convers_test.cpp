@@ -1,7 +1,7 @@
+#include "filas.h"
 #include "foundation/suelo/vnatexit.h"
 #include "foundation/texto/msglocal.h"
 #include "plataforma/proceso.h"
-#include "prueba.h"
 #include "units/convers.h"
 #include "units/vornconf.h"
 #include <algorithm>
@@ -15,7 +15,8 @@
 
 namespace {
 
-using vn::INF, vn::NAN_;
+using vn::filas, vn::INF, vn::NAN_, vn::toma, vn::utf8_de;
+using ancha = std::basic_string<vnwchar>;
 
 void pon_sistema(uint32_t sistema, uint32_t energia) {
     vornconf_Internacional_set_sistema_unidades(sistema);
@@ -31,28 +32,14 @@ constexpr uint32_t MKS = VORNCONF_SU_MKS, SI = VORNCONF_SU_INTERNACIONAL, IMPERI
 
 // ---------------------------------------------------------------- what a unit is, out of its text
 
-// Each word of a unit text in SI units, by the definitions; a kilogram and a pound are weights here, of 9.81 m/s².
-double palabra_en_si(const std::u16string &palabra) {
-    constexpr double G = 9.81, LB = 0.45359237 * G, IN = 0.0254, FT = 0.3048;
-    // clang-format off
-    static const std::map<std::u16string, double> PALABRAS = {
-        {u"m", 1}, {u"cm", 0.01}, {u"mm", 0.001}, {u"dm", 0.1}, {u"km", 1000}, {u"in", IN}, {u"ft", FT},
-        {u"yd", 3 * FT}, {u"N", 1}, {u"kN", 1000}, {u"kg", G}, {u"kp", G}, {u"t", 1000 * G}, {u"Tn", 1000 * G},
-        {u"Mp", 1000 * G}, {u"mTn", 1000 * G}, {u"lb", LB}, {u"lbs", LB}, {u"psi", LB / (IN * IN)},
-        {u"psf", LB / (FT * FT)}, {u"pcf", LB / (FT * FT * FT)}, {u"Pa", 1}, {u"kPa", 1e3}, {u"MPa", 1e6},
-        {u"GPa", 1e9}, {u"bar", 1e5}, {u"mbar", 100}, {u"m.c.a.", 1000 * G}, {u"mm.c.a.", G}, {u"s", 1}, {u"min", 60},
-        {u"h", 3600}, {u"l", 0.001}, {u"CFM", FT * FT * FT / 60}, {u"gpm", 0.003785411784 / 60}, {u"J", 1},
-        {u"Jul", 1}, {u"MJ", 1e6}, {u"W", 1}, {u"kW", 1000}, {u"Wh", 3600}, {u"kWh", 3.6e6}, {u"cal", 4.1868},
-        {u"kcal", 4186.8}, {u"Btu", 1055.05585262}, {u"K", 1}, {u"mK", 1}, {u"°C", 1}, {u"°F", 5. / 9}, {u"rad", 1},
-        {u"mRad", 0.001}, {u"grados", 3.14159265358979324 / 180}, {u"%", 0.01}, {u"%%", 0.01}, {u"x10-6", 1e-6},
-        {u"A", 1}, {u"kA", 1000}, {u"mA", 0.001}, {u"V", 1}, {u"VA", 1}, {u"kVA", 1000}, {u"MVA", 1e6}, {u"Ohm", 1},
-        {u"mOhm", 0.001}, {u"dB", 1}, {u"dBA", 1}, {u"oct", 1}, {u"dBµV", 1}, {u"dBW", 1}, {u"tanto", 1}, {u"por", 1},
-        {u"uno", 1}, {u"cien", 0.01}, {u"Grados", 1}, {u"Centigrados", 1},
-    };
-    // clang-format on
-    const auto p = PALABRAS.find(palabra);
-    if (p != PALABRAS.end()) return p->second;
-    const std::u16string menos = palabra.substr(0, palabra.size() - 1);
+double unidad_en_si(const ancha &texto);
+
+// A word of a unit text in SI units, by its definition.
+double palabra_en_si(const ancha &palabra) {
+    static const auto PALABRAS = filas<ancha, ancha, double>("units/convers.tsv", "palabras");
+    for (const auto &[definida, unidad, cuantas] : PALABRAS)
+        if (definida == palabra) return cuantas * unidad_en_si(unidad);
+    const ancha menos = palabra.substr(0, palabra.size() - 1);
     switch (palabra.back()) {
     case u'.': return menos.empty() ? 1 : palabra_en_si(menos);
     case u'²': return std::pow(palabra_en_si(menos), 2);
@@ -60,16 +47,16 @@ double palabra_en_si(const std::u16string &palabra) {
     case u'4': return std::pow(palabra_en_si(menos), 4);
     case u'6': return std::pow(palabra_en_si(menos), 6);
     case u'1': return 1 / palabra_en_si(menos.substr(0, menos.size() - 1)); // m-1
-    default: ADD_FAILURE() << "unknown unit"; return NAN_;
+    default: ADD_FAILURE() << "unknown unit " << utf8_de(palabra.c_str()); return NAN_;
     }
 }
 
 // A unit text in SI units: words joined by dots, blanks and brackets; all that follows the first bar divides.
-double unidad_en_si(const std::u16string &texto) {
+double unidad_en_si(const ancha &texto) {
     double n = 1, d = 1;
     double *donde = &n;
-    std::u16string palabra;
-    for (const char16_t c : texto + u' ') {
+    ancha palabra;
+    for (const vnwchar c : texto + VNU(' ')) {
         const bool separa = c == u' ' || c == u'·' || c == u'(' || c == u')' || c == u'/';
         if ((separa || c == u'°') && !palabra.empty()) *donde *= palabra_en_si(palabra), palabra.clear();
         if (!separa) palabra += c;
@@ -81,45 +68,18 @@ double unidad_en_si(const std::u16string &texto) {
 
 const struct {
     uint32_t tipo;
-    std::u16string interna;
+    const char *nombre;
+    ancha interna;
 } FILAS[] = {
-#define X(tipo, nombre, interna, ...) {nombre, u##interna},
+#define X(tipo, nombre, interna, ...) {nombre, #nombre, VNU(interna)},
 #include "units/convers_tabla.inl"
 #undef X
 };
 
-// The rows whose figure is not exactly that of its units, and by how much of it: rounded figures that stay as they are,
-// and three whose area went the other way, which stay too.
-constexpr double PIE_CUADRADO = 0.09290304;
-const struct {
-    std::vector<uint32_t> tipos, sistemas;
-    double desvio;
-} DESVIOS[] = {
-    {{CNV_ANGULO}, {MKS, SI, IMPERIAL}, 8.498e-9},
-    {{CNV_PODER_CALORIFICO, CNV_ENERGIA_KWH, CNV_ENERGIA_SUPERFICIAL_KWH},
-     {MKS, SI, IMPERIAL},
-     1.8e-4}, // 860 kcal a kWh
-    {{CNV_RESISTENCIA_TERMICA}, {MKS}, -1.8e-4},
-    {{CNV_RESISTENCIA_TERMICA}, {IMPERIAL}, 1.043e-6},
-    {{CNV_CAUDAL_AIRE, CNV_CAUDAL_L_S, CNV_CAUDAL_L_MIN, CNV_CAUDAL_L_H, CNV_CAUDAL_EN_L_S}, {IMPERIAL}, 9.391e-7},
-    {{CNV_CAUDAL_EN_M3_H}, {IMPERIAL}, 3.62e-8},
-    {{CNV_DENSIDAD_DESCARGA}, {IMPERIAL}, -4.09e-6},
-    {{CNV_CARGA_KG_M2}, {IMPERIAL}, -2.13e-7},
-    {{CNV_TRANSMITANCIA, CNV_TRANSMITANCIA_EN_KCAL}, {IMPERIAL}, 6.007e-8},
-    {{CNV_CONDUCTIVIDAD, CNV_CONDUCTIVIDAD_EN_KCAL}, {IMPERIAL}, -7.721e-8},
-    // Pounds under standard gravity, not of 9.81.
-    {{CNV_PERDIDA_CARGA, CNV_PERDIDA_CARGA_LINEAL, CNV_PRESION_KPA, CNV_PRESION_BAR, CNV_PERDIDA_CARGA_LINEAL_MBAR},
-     {IMPERIAL},
-     3.415e-4},
-    {{CNV_PERDIDA_EN_KCAL, CNV_PERDIDA_TERMICA}, {IMPERIAL}, PIE_CUADRADO *PIE_CUADRADO - 1},
-    {{CNV_CAUDAL_SUPERFICIAL_EN_L_S}, {IMPERIAL}, 1 / (PIE_CUADRADO * PIE_CUADRADO) - 1},
-};
-
-double desvio_de(uint32_t tipo, uint32_t sistema) {
-    for (const auto &d : DESVIOS)
-        if (std::find(d.tipos.begin(), d.tipos.end(), tipo) != d.tipos.end() &&
-            std::find(d.sistemas.begin(), d.sistemas.end(), sistema) != d.sistemas.end())
-            return d.desvio;
+double desvio_de(const std::string &tipo, uint32_t sistema) {
+    static const auto DESVIOS = filas<std::string, std::string, double>("units/convers.tsv", "desvios");
+    for (const auto &[suyo, sistemas, desvio] : DESVIOS)
+        if (suyo == tipo && sistemas.find(std::to_string(sistema)) != sistemas.npos) return desvio;
     return 0;
 }
 
@@ -132,8 +92,6 @@ int reservas(const std::function<void()> &f) {
     return n;
 }
 
-using vn::toma;
-
 } // namespace
 
 // Every figure of the table is what its two unit texts say, forth and back, in the three systems and energy units.
@@ -143,12 +101,11 @@ PRUEBA(convers, cada_fila_convierte_lo_que_dicen_sus_unidades) {
         for (uint32_t energia = 0; energia < 3; ++energia) {
             const auto puesto = en_sistema(sistema, energia);
             for (const auto &f : FILAS) {
-                SCOPED_TRACE(testing::Message()
-                             << "type " << f.tipo << " in system " << sistema << ", energy " << energia);
+                SCOPED_TRACE(testing::Message() << f.nombre << " in system " << sistema << ", energy " << energia);
                 const double sumando = cnv_convierte(CNV_A_MOSTRADO, f.tipo, 0.);
                 const double coef = cnv_convierte(CNV_A_MOSTRADO, f.tipo, 1.) - sumando;
-                const double esperado = unidad_en_si(f.interna) / unidad_en_si(vn::u16_de(cnv_strextunids(f.tipo)));
-                const double desvio = desvio_de(f.tipo, sistema);
+                const double esperado = unidad_en_si(f.interna) / unidad_en_si(cnv_strextunids(f.tipo));
+                const double desvio = desvio_de(f.nombre, sistema);
                 EXPECT_NEAR(coef / esperado - 1, desvio, 1e-9 + 1e-3 * std::fabs(desvio));
                 EXPECT_EQ(sumando, f.tipo == CNV_TEMPERATURA && sistema == IMPERIAL ? 32. : 0.);
                 for (const double x : {-273.15, 1e-9, 0.1, 1234.5678, 7e12, -1e290})
@@ -174,17 +131,17 @@ PRUEBA(convers, lo_que_se_dice_de_tipos_sueltos) {
     {
         const auto puesto = en_sistema(SI, VORNNORM_UNIDAD_ENERGIA_KCAL);
         EXPECT_EQ(muestra(110, 2000.), 2000. * (0.001 * (1000 * 0.859845227859)));
-        EXPECT_EQ(vn::utf8_de(cnv_strextunids(110)) + "|" + vn::utf8_de(cnv_strextunids(113)), "kcal/h|kcal/(h·m²·K)");
+        EXPECT_EQ(utf8_de(cnv_strextunids(110)) + "|" + utf8_de(cnv_strextunids(113)), "kcal/h|kcal/(h·m²·K)");
         EXPECT_EQ(convers_formato_entrada(13), 0);
         EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds(0.01, 13), 0u);
     }
     const auto puesto = en_sistema(IMPERIAL);
     EXPECT_EQ(cnv_convierte(CNV_A_INTERNO, 16, 212.), 100.);
     EXPECT_EQ(muestra(12, 1.), 204.81614345076477); // not the figure for calculation
-    EXPECT_EQ(vn::utf8_de(cnv_strextunids(60)) + "|" + vn::utf8_de(cnv_strextunids(62)), "%|%%");
-    EXPECT_EQ(vn::utf8_de(cnv_strextunids(22)), "rad");
+    EXPECT_EQ(utf8_de(cnv_strextunids(60)) + "|" + utf8_de(cnv_strextunids(62)), "%|%%");
+    EXPECT_EQ(utf8_de(cnv_strextunids(22)), "rad");
     EXPECT_EQ(muestra(CNV_NO_CONVERSION, 7.25) + cnv_convierte(2, CNV_NO_CONVERSION, 7.25), 14.5);
-    EXPECT_EQ(vn::utf8_de(cnv_strextunids(CNV_NO_CONVERSION)), "");
+    EXPECT_EQ(utf8_de(cnv_strextunids(CNV_NO_CONVERSION)), "");
     for (const int32_t sentido : {-1, 2}) EXPECT_EQ(ESPERA_INFORME("", cnv_convierte(sentido, 1, 7.25)), 0.);
     // Lengths in feet and inches, and the greatest denominator of their fractions.
     std::string formatos[4];
@@ -200,29 +157,9 @@ PRUEBA(convers, lo_que_se_dice_de_tipos_sueltos) {
 
 PRUEBA(convers, la_precision_es_la_potencia_de_diez_mas_proxima) {
     const auto puesto = en_sistema(MKS);
-    constexpr double RAIZ = 3.1622776601683795; // of ten, and just above
-    const struct {
-        double prec, esperada;
-        uint32_t decimales;
-    } filas[] = {
-        {1., 1., 0},
-        {0.01, 0.01, 2},
-        {0.03, 0.01, 2},
-        {0.3, 0.1, 1},
-        {0.32, 1., 0},
-        {1e-12, 1e-12, 12},
-        {5e-324, 1e-323, 323},
-        {DBL_MAX, 1e308, 0},
-        {INF, 1e308, 0},
-        {1e22, 1e22, 0},
-        {0.001, 0.001, 3},
-        {RAIZ, 10., 0},
-        {RAIZ * 1e-5, 1e-4, 4},
-        {std::nextafter(RAIZ, 0.), 1., 0},
-    };
-    for (const auto &f : filas) {
-        EXPECT_EQ(convers_precision_segun_sistema_uds(f.prec, CNV_METROS), f.esperada) << f.prec;
-        EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds(f.prec, CNV_METROS), f.decimales) << f.prec;
+    for (const auto &[prec, esperada, decimales] : filas<double, double, uint32_t>("units/convers.tsv", "precision")) {
+        EXPECT_EQ(convers_precision_segun_sistema_uds(prec, CNV_METROS), esperada) << prec;
+        EXPECT_EQ(convers_precision_num_decimales_segun_sistema_uds(prec, CNV_METROS), decimales) << prec;
     }
     // With any number of digits, after one that has them all.
     for (const double x : {2.1e-5, 2.12e-5, 2.123e-5, 2.1234e-5, 2.12345e-5, 2.123456e-5, 2.1234567e-5, 2.12345678e-5,
@@ -250,16 +187,10 @@ PRUEBA(convers, el_paso_de_redondeo_cambia_justo_en_sus_limites) {
     const auto paso = [](double prec, uint32_t tipo) {
         return cnv_convierte(CNV_A_MOSTRADO, tipo, convers_valor_redondeado_por_exceso(1e-5, prec, tipo));
     };
-    const struct {
-        double limite, debajo, encima;
-    } filas[] = {
-        {90000, 10000, 100000}, {9000, 1000, 10000}, {900, 500, 1000}, {450, 100, 500}, {90, 50, 100},
-        {45, 10, 50},           {9, 5, 10},          {4.5, 1, 5},      {0.9, 0.75, 1},
-    };
     const auto metrico = en_sistema(MKS);
-    for (const auto &f : filas) {
-        EXPECT_EQ(paso(f.limite, CNV_METROS), f.debajo) << f.limite;
-        EXPECT_EQ(paso(std::nextafter(f.limite, 1e9), CNV_METROS), f.encima) << f.limite;
+    for (const auto &[limite, debajo, encima] : filas<double, double, double>("units/convers.tsv", "pasos")) {
+        EXPECT_EQ(paso(limite, CNV_METROS), debajo) << limite;
+        EXPECT_EQ(paso(std::nextafter(limite, 1e9), CNV_METROS), encima) << limite;
     }
     for (const auto &[p, esperado] :
          {std::pair{0.3, 0.25}, {0.04, 0.025}, {0.24, 0.225}, {0.0025, 0.0025}, {0.6, 0.5}, {2.2e-4, 2e-4}})
@@ -278,52 +209,26 @@ PRUEBA(convers, el_paso_de_redondeo_cambia_justo_en_sus_limites) {
 PRUEBA(convers, el_redondeo_va_hacia_donde_dice_su_nombre) {
     const auto puesto = en_sistema(MKS);
     const auto cerca = convers_valor_redondeado_al_mas_cercano;
-    const auto abajo = convers_valor_redondeado_por_defecto;
-    const auto arriba = convers_valor_redondeado_por_exceso;
-    EXPECT_EQ(cerca(12.5, 5., CNV_METROS), 15.);
-    EXPECT_EQ(cerca(-12.5, 5., CNV_METROS), -10.);
-    EXPECT_EQ(abajo(14.99, 5., CNV_METROS), 10.);
-    EXPECT_EQ(abajo(-0.01, 5., CNV_METROS), -5.);
-    EXPECT_EQ(arriba(10.01, 5., CNV_METROS), 15.);
-    EXPECT_EQ(arriba(15., 5., CNV_METROS) + abajo(15., 5., CNV_METROS), 30.);
-    EXPECT_EQ(cerca(1.23456, 0.05, CNV_LONGITUD), 1.25); // in metres or feet: by centimetres
-    EXPECT_EQ(cerca(1.23456, 0.25, CNV_NO_CONVERSION), 1.25);
-    // Nothing to round to: next to no step, a number of steps beyond 32 bits, no number.
-    for (const double x : {1.23456, -7e300, DBL_MAX, INF, -INF}) EXPECT_EQ(cerca(x, 1e-7, CNV_METROS), x) << x;
-    EXPECT_EQ(abajo(2147483647.5, 1., CNV_METROS), 2147483647.);
-    EXPECT_EQ(arriba(2147483647.5, 1., CNV_METROS), 2147483647.5);
-    EXPECT_EQ(cerca(DBL_MAX, 1., CNV_LONGITUD_CM), DBL_MAX);
+    const std::map<std::string, double (*)(double, double, uint32_t)> MANERAS{
+        {"cerca", cerca},
+        {"abajo", convers_valor_redondeado_por_defecto},
+        {"arriba", convers_valor_redondeado_por_exceso}};
+    for (const auto &[x, manera, prec, tipo, esperado] :
+         filas<double, std::string, double, uint32_t, double>("units/convers.tsv", "redondeos"))
+        EXPECT_EQ(MANERAS.at(manera)(x, prec, tipo), esperado) << x << " " << manera << " " << prec;
     EXPECT_TRUE(std::isnan(cerca(NAN_, 1., CNV_METROS)));
-    EXPECT_EQ(cerca(1.5, -1., CNV_METROS), 1.5);
-    EXPECT_EQ(cerca(1234567., INF, CNV_METROS), 1200000.);
     EXPECT_EQ(ESPERA_INFORME("valor_max_redondeo > 0.", cerca(1.5, NAN_, CNV_METROS)), 1.5);
     EXPECT_EQ(ESPERA_INFORME("i < num_decimales_max", cerca(1.5, 1.5e-12, CNV_METROS)), 1.5);
     EXPECT_EQ(ESPERA_INFORME("(convers) != NULL", cerca(1.5, 1., 146)), 1.5);
 }
 
 PRUEBA(convers, el_valor_adaptado_es_redondo_en_la_unidad_que_se_ve) {
-    const struct {
-        uint32_t sistema, tipo;
-        double mostrado, esperado;
-    } filas[] = {
-        {SI, 1, 1234., 1200.},            // 0.2: a step of 100
-        {SI, 0, 39.9, 39.},               // 0.1: by 1, downwards
-        {IMPERIAL, 1, 2204.62262, 2200.}, // 0.2: 441, a step of 100
-        {IMPERIAL, 13, 39.37, 39.},       // 3.9 inches: by 1
-        {IMPERIAL, 13, 70., 72.},         // 7 inches: by 6
-        {IMPERIAL, 11, 11.2, 12.},        // upwards
-        {IMPERIAL, 19, 11.9, 11.},        // downwards
-        {IMPERIAL, 24, 1.01e-5, 1.01e-5}, // a step next to nothing
-        {SI, 13, 123.4, 123.4},           // what the M.K.S. shows is as good
-        {SI, 37, 123.4, 123.4},           // no precision of its own
-        {IMPERIAL, 33, 1.2345, 1.2345},
-    };
-    for (const auto &f : filas) {
-        const auto puesto = en_sistema(f.sistema);
-        const double valor = cnv_convierte(CNV_A_INTERNO, f.tipo, f.mostrado);
-        EXPECT_NEAR(cnv_convierte(CNV_A_MOSTRADO, f.tipo, convers_valor_adaptado_a_unidades(valor, f.tipo)), f.esperado,
-                    f.esperado * 1e-14)
-            << "type " << f.tipo << ", " << f.mostrado;
+    for (const auto &[sistema, tipo, mostrado, esperado] :
+         filas<uint32_t, uint32_t, double, double>("units/convers.tsv", "adaptados")) {
+        const auto puesto = en_sistema(sistema);
+        const double adaptado = convers_valor_adaptado_a_unidades(cnv_convierte(CNV_A_INTERNO, tipo, mostrado), tipo);
+        EXPECT_NEAR(cnv_convierte(CNV_A_MOSTRADO, tipo, adaptado), esperado, esperado * 1e-14)
+            << tipo << ": " << mostrado;
     }
     const auto puesto = en_sistema(IMPERIAL);
     for (const double x : {2e12, 1e12, -1e12, INF, NAN_, 0.}) {
@@ -346,21 +251,20 @@ PRUEBA(convers, cada_texto_tiene_su_formato_en_los_dos_anchos) {
         vnwchar *(*con_unidades)(double, uint32_t);
         vnwchar *(*con_cabecera)(const vnwchar *, double, uint32_t);
         std::string esperado;
-    } filas[] = {
-        {convers_texto, convers_texto_u, convers_texto_con_unidades, convers_texto_con_cabecera_y_unidades, "1234.57"},
-        {convers_texto_sin_decimales, convers_texto_sin_decimales_u, convers_texto_con_unidades_sin_decimales,
-         convers_texto_con_cabecera_y_unidades_sin_decimales, "1235"},
-        {convers_texto_un_decimal, convers_texto_un_decimal_u, convers_texto_con_unidades_un_decimal,
-         convers_texto_con_cabecera_y_unidades_un_decimal, "1234.6"},
-        {convers_texto_dos_decimales, convers_texto_dos_decimales_u, convers_texto_con_unidades_dos_decimales,
-         convers_texto_con_cabecera_y_unidades_dos_decimales, "1234.57"},
-        {convers_texto_tres_decimales, convers_texto_tres_decimales_u, convers_texto_con_unidades_tres_decimales,
-         convers_texto_con_cabecera_y_unidades_tres_decimales, "1234.568"},
+    } formas[] = {
+#define FORMA(x)                                                                                                       \
+    convers_texto##x, convers_texto##x##_u, convers_texto_con_unidades##x, convers_texto_con_cabecera_y_unidades##x
+        {FORMA(), "1234.57"},
+        {FORMA(_sin_decimales), "1235"},
+        {FORMA(_un_decimal), "1234.6"},
+        {FORMA(_dos_decimales), "1234.57"},
+        {FORMA(_tres_decimales), "1234.568"},
+#undef FORMA
         {nullptr, nullptr, nullptr, convers_texto_con_cabecera_y_unidades_cuatro_decimales, "1234.5679"},
         {nullptr, nullptr, nullptr, convers_texto_con_cabecera_y_unidades_seis_decimales, "1234.567890"},
         {nullptr, nullptr, nullptr, convers_texto_con_cabecera_y_unidades_max_tres_decimales, "1234.57"},
     };
-    for (const auto &f : filas) {
+    for (const auto &f : formas) {
         if (f.texto != nullptr) {
             EXPECT_EQ(toma(f.texto(kN, 1)) + "|" + toma(f.ancho(kN, 1)), f.esperado + "|" + f.esperado);
             EXPECT_EQ(toma(f.con_unidades(kN, 1)), f.esperado + " kN");
@@ -380,16 +284,15 @@ PRUEBA(convers, cada_texto_tiene_su_formato_en_los_dos_anchos) {
 }
 
 PRUEBA(convers, la_forma_general_pone_y_quita_cabecera_unidad_y_ceros) {
-    const auto puesto = en_sistema(MKS);
-    const vnwchar *const L = VNU("L");
-    EXPECT_EQ(toma(convers_texto_ex(L, 1.5, 70, 3, CIERTO, CIERTO)), "L: 1.5 m");
-    EXPECT_EQ(toma(convers_texto_ex(L, 1.5, 70, 3, FALSO, CIERTO)), "L: 1.500 m");
-    EXPECT_EQ(toma(convers_texto_ex(nullptr, 1.5, 70, 3, FALSO, FALSO)), "1.500");
-    EXPECT_EQ(toma(convers_texto_ex(nullptr, 1.23456, 70, 3, CIERTO, FALSO)), "1.235");
-    EXPECT_EQ(toma(convers_texto_ex(L, 1.5, CNV_NO_CONVERSION, 0, FALSO, CIERTO)), "L: 2");
-    EXPECT_EQ(toma(convers_texto_ex(nullptr, 0.125, 70, 2, FALSO, CIERTO)), "0.13 m"); // rounded first, halves away
+    for (const auto &[sistema, cabecera, x, tipo, decimales, es_maximo, con_unidades, texto] :
+         filas<uint32_t, vn::nulable_ancho, double, uint32_t, uint32_t, vnbool, vnbool, std::string>(
+             "units/convers.tsv", "general")) {
+        const auto puesto = en_sistema(sistema);
+        EXPECT_EQ(toma(convers_texto_ex(cabecera.c_str(), x, tipo, decimales, es_maximo, con_unidades)), texto);
+    }
     for (const uint32_t decimales : {256u, 4294967295u}) {
-        EXPECT_EQ(ESPERA_INFORME("decimales < 256", convers_texto_ex(L, 1.5, 70, decimales, CIERTO, CIERTO)), nullptr);
+        EXPECT_EQ(ESPERA_INFORME("decimales < 256", convers_texto_ex(nullptr, 1, 70, decimales, CIERTO, CIERTO)),
+                  nullptr);
         EXPECT_EQ(ESPERA_INFORME("decimales < 256", convers_texto_max_n_decimales(1.5, 70, decimales)), nullptr);
     }
     EXPECT_EQ(toma(convers_texto_max_n_decimales(1.5, 70, 255)), "1.5");
@@ -405,8 +308,6 @@ PRUEBA(convers, una_longitud_imperial_va_en_pies_y_pulgadas) {
     EXPECT_EQ(toma(convers_texto_max_n_decimales_u(m, 13, 1)), texto);
     EXPECT_EQ(toma(convers_texto_con_unidades_n_decimales(m, 83, 5)), texto);
     EXPECT_EQ(toma(convers_texto_con_cabecera_y_unidades_dos_decimales(VNU("Luz"), m, 17)), "Luz: " + texto);
-    EXPECT_EQ(toma(convers_texto_ex(VNU("Luz"), m, 20, 2, FALSO, CIERTO)), "Luz: " + texto);
-    EXPECT_EQ(toma(convers_texto_ex(nullptr, m, 20, 2, FALSO, CIERTO)), texto);
     EXPECT_EQ(toma(convers_texto_con_unidades(m, 11)), "63 1/2\"");
     EXPECT_EQ(toma(convers_texto(63.53125 * 0.0254, 57)), "63 17/32\"");
     EXPECT_EQ(toma(convers_texto(63.53125 * 0.0254, 117)), "63 1/2\""); // sixteenths at most
@@ -445,35 +346,24 @@ PRUEBA(convers, una_conversion_no_reserva_memoria_y_un_texto_un_bloque) {
 
 PRUEBA(convers, los_textos_son_del_idioma_del_primer_uso) {
     const auto puesto = en_sistema(MKS);
-    const struct {
-        int idioma;
-        const char *tension, *grados, *agua, *fuerza;
-    } filas[] = {
-        {0, "kp/cm²", "grados", "m.c.a.", "t"},       {1, "kgf/cm²", "degrés", "m.c.e.", "t"},
-        {2, "kgf/cm²", "graus", "m.c.a.", "tf"},      {3, "kp/cm²", "graus", "m.c.a.", "t"},
-        {4, "kgf/cm²", "gradi", "m.c.a.", "t"},       {6, "kg/cm²", "grados", "m.c.a.", "t"},
-        {8, "kgf/cm²", "degrees", "mH2O", "t"},       {13, "kp/cm²", "Grad", "mWS", "t"},
-        {14, "kp/cm²", "grados", "m.c.a.", "t"},      {25, "kgf/cm²", "degrees", "mH2O", "t"},
-        {18, "кгс/см²", "град.", "м вод. ст.", "тс"}, {39, "kgf/cm²", "度", "mAq", "tf"},
-        {10, "кгс/см²", "градуса", "м в. ст.", "тс"},
-    };
-    for (const auto &f : filas) {
-        SCOPED_TRACE(f.idioma);
+    for (const auto &[idioma, tension, grados, agua, fuerza] :
+         filas<int, std::string, std::string, std::string, std::string>("units/convers.tsv", "idiomas")) {
+        SCOPED_TRACE(idioma);
         vnatexit_ejecuta();
-        msidioma_establece_idioma(f.idioma);
+        msidioma_establece_idioma(idioma);
         cnv_convierte(CNV_A_MOSTRADO, 0, 1.);
-        msidioma_establece_idioma(f.idioma == 8 ? 0 : 8); // too late for the table, not for the units by name
-        EXPECT_EQ(vn::utf8_de(cnv_strextunids(5)), f.tension);
-        EXPECT_EQ(vn::utf8_de(cnv_strextunids(15)), f.grados);
-        EXPECT_EQ(vn::utf8_de(cnv_strextunids(42)), f.agua);
-        EXPECT_EQ(vn::utf8_de(cnv_strextunids(1)), f.fuerza);
-        const std::string rigidez = vn::utf8_de(cnv_strextunids(68)); // the same tonne, unless it is the megapond
-        EXPECT_TRUE(rigidez == "Mp·m²" || rigidez.starts_with(std::string(f.fuerza) + "·")) << rigidez;
-        EXPECT_EQ(vn::utf8_de(convers_texto_kp_cm2()), f.idioma == 8 ? "kp/cm²" : "kgf/cm²");
+        msidioma_establece_idioma(idioma == 8 ? 0 : 8); // too late for the table, not for the units by name
+        EXPECT_EQ(utf8_de(cnv_strextunids(5)), tension);
+        EXPECT_EQ(utf8_de(cnv_strextunids(15)), grados);
+        EXPECT_EQ(utf8_de(cnv_strextunids(42)), agua);
+        EXPECT_EQ(utf8_de(cnv_strextunids(1)), fuerza);
+        const std::string rigidez = utf8_de(cnv_strextunids(68)); // the same tonne, unless it is the megapond
+        EXPECT_TRUE(rigidez == "Mp·m²" || rigidez.starts_with(fuerza + "·")) << rigidez;
+        EXPECT_EQ(utf8_de(convers_texto_kp_cm2()), idioma == 8 ? "kp/cm²" : "kgf/cm²");
     }
     msidioma_establece_idioma(18);
-    EXPECT_EQ(vn::utf8_de(convers_texto_W_m2K()) + " " + vn::utf8_de(convers_texto_kWh()), "Вт/(м²·К) кВт·ч");
-    EXPECT_EQ(vn::utf8_de(convers_texto_grado_centigrado()) + vn::utf8_de(convers_texto_porcentaje()), "°C%");
+    EXPECT_EQ(utf8_de(convers_texto_W_m2K()) + " " + utf8_de(convers_texto_kWh()), "Вт/(м²·К) кВт·ч");
+    EXPECT_EQ(utf8_de(convers_texto_grado_centigrado()) + utf8_de(convers_texto_porcentaje()), "°C%");
 }
 
 // A text is of one moment: what is changed meanwhile by another thread never mixes two systems.
