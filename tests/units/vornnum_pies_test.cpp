@@ -1,7 +1,7 @@
 #define VN_MODULO "vornnum_pies_test"
+#include "filas.h"
 #include "foundation/texto/cad.h"
 #include "propiedades.h"
-#include "prueba.h"
 #include "units/vornnum.h"
 #include <cfloat>
 #include <cmath>
@@ -40,38 +40,10 @@ bool bien_escrito(const char *p, bool negativo, int formato, uint32_t denominado
 } // namespace
 
 PRUEBA(vornnum_pies, textos) {
-    const struct {
-        double v;
-        int formato;
-        uint32_t denominador;
-        const char *texto;
-    } FILAS[] = {
-        {5 + 3.5 / 12, 1, 32, "5'-3 1/2\""},
-        {5.999999, 1, 16, "6'-0\""},
-        {-5, 1, 32, "-5'-0\""},
-        {0.0625, 1, 32, "3/4\""},
-        {5 + 0.5 / 12, 1, 16, "5'-0 1/2\""},
-        {0, 2, 16, "0\""},
-        {63.5, 2, 32, "5'-3 1/2\""},
-        {63.5, 3, 32, "63 1/2\""},
-        {-11.99, 2, 16, "-1'-0\""},
-        {11.99, 3, 16, "12\""},
-        {5e-324, 1, 32, "0\""},
-        {-INFINITY, 1, 32, "-inf"},
-        {3, 2, 0, "3\""},
-        // Nothing to halve and no fraction; an inch to the tolerance; an odd half that is worse; the half of 5 is 2.
-        {7.3, 2, 1, "7\""},
-        {7.9999999, 2, 1, "8\""},
-        {7.75, 2, 12, "7 9/12\""},
-        {7.5, 2, 5, "7 1/2\""},
-        // Beyond 32 bits, at the last number of feet that has inches, the greatest denominators.
-        {2147483648., 1, 32, "2147483648'-0\""},
-        {-1e15, 1, 32, "-1000000000000000'-0\""},
-        {0.3, 2, UINT32_MAX, "644245094/2147483647\""},
-    };
-    for (const auto &f : FILAS) {
-        EXPECT_EQ(toma(vornnum_double_a_cadena(f.v, ' ', ' ', 0, f.formato, f.denominador)), f.texto);
-        EXPECT_EQ(toma(vornnum_double_a_cadena_u(f.v, u' ', u' ', 0, f.formato, f.denominador)), f.texto);
+    for (const auto &[v, formato, denominador, texto] :
+         filas<double, int, uint32_t, std::string>("units/vornnum_pies.tsv", "textos")) {
+        EXPECT_EQ(toma(vornnum_double_a_cadena(v, ' ', ' ', 0, formato, denominador)), texto);
+        EXPECT_EQ(toma(vornnum_double_a_cadena_u(v, u' ', u' ', 0, formato, denominador)), texto);
     }
     EXPECT_EQ(toma(vornnum_double_a_cadena(2e15, 0, 0, 0, VORNNUM_FORMATO_PIES, 32)), "2.e+15'-0\"");
     EXPECT_EQ(toma(vornnum_double_a_cadena_u(-DBL_MAX, 0, 0, 0, VORNNUM_FORMATO_SOLO_PULGADAS, 32)), "-1.8e+308\"");
@@ -109,33 +81,10 @@ PRUEBA(vornnum_pies, barrido_de_longitudes) {
 }
 
 PRUEBA(vornnum_pies, anchura_de_un_campo) {
-    const struct {
-        double minimo, maximo, precision;
-        uint32_t denominador;
-        int formato;
-        unsigned anchura;
-    } FILAS[] = {
-        {0, 9.99, 0.01, 0, 0, 4},
-        {0, 10, 0.01, 0, 0, 5},
-        {-99, 10, 1, 0, 0, 3},
-        {-10, 1000, 0.001, 0, 0, 8},
-        {0, 1, 0.02, 0, 0, 4},
-        {0, 0.5, 0.3, 0, 0, 3},
-        {0, 1e300, 1, 0, 0, 301},
-        {0, 999.9999999999999, 1, 0, 0, 3},
-        {0, 1, 1e-9, 0, 0, 11},
-        {0, 1, 0.001, 0, 0, 5},
-        {0, 1, std::nextafter(0.001, 0.), 0, 0, 5},
-        {0, 1, 0.0009, 0, 0, 6},
-        {0, 100, 1. / 12, 32, 1, 8},
-        {-10, 5, 1. / 12 / 8, 32, 1, 12},
-        {-10, 5, 1. / 12 / 16, 32, 1, 14},
-        {0, 120, 1, 32, 2, 7},
-        {0, 1200, 1. / 16, 32, 3, 12},
-    };
-    for (const auto &f : FILAS)
-        EXPECT_EQ(vornnum_numero_digitos(f.minimo, f.maximo, f.precision, f.denominador, f.formato), f.anchura)
-            << f.minimo << ' ' << f.maximo << ' ' << f.precision;
+    for (const auto &[minimo, maximo, precision, denominador, formato, anchura] :
+         filas<double, double, double, uint32_t, int, uint32_t>("units/vornnum_pies.tsv", "anchuras"))
+        EXPECT_EQ(vornnum_numero_digitos(minimo, maximo, precision, denominador, formato), anchura)
+            << minimo << ' ' << maximo << ' ' << precision;
     ESPERA_INFORME("precision > PRECISION_PANELES", vornnum_numero_digitos(0, 1, 5e-10, 0, 0));
     ESPERA_INFORME("numDigitos>0 && numDigitos<USHRT_MAX", vornnum_numero_digitos(0, INFINITY, 1, 0, 0));
 }

@@ -76,22 +76,11 @@ PRUEBA(vornnum, los_limites_de_la_forma_fija) {
 
 // The decisions at powers of ten do not depend on a logarithm, which is off by a digit there on some platforms.
 PRUEBA(vornnum, decimales_automaticos_en_las_potencias_de_diez) {
-    const struct {
-        double potencia;
-        const char *antes, *en, *despues;
-    } FILAS[] = {
-        {1e-15, "9.999999999999999e-16", "1.000000000000000e-15", "1.000000000000000e-15"},
-        {1e-14, "9.999999999999998e-15", "0.00000000000001", "0.00000000000001"},
-        {1, "1", "1", "1"},
-        {1e3, "1000", "1000", "1000"},
-        {1e6, "1000000", "1000000", "1000000"},
-        {1e14, "99999999999999.98", "100000000000000", "100000000000000.02"},
-        {1e15, "999999999999999.88", "1.00000000000000e+15", "1.00000000000000e+15"},
-    };
-    for (const auto &f : FILAS) {
-        EXPECT_EQ(da(anterior(f.potencia), -1), f.antes);
-        EXPECT_EQ(da(f.potencia, -1), f.en);
-        EXPECT_EQ(da(siguiente(f.potencia), -1), f.despues);
+    for (const auto &[potencia, antes, en, despues] :
+         filas<double, std::string, std::string, std::string>("units/vornnum.tsv", "potencias")) {
+        EXPECT_EQ(da(anterior(potencia), -1), antes);
+        EXPECT_EQ(da(potencia, -1), en);
+        EXPECT_EQ(da(siguiente(potencia), -1), despues);
     }
     // From a million on, one decimal less for each digit more.
     double v = 1234567.123456789;
