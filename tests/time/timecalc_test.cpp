@@ -1,4 +1,4 @@
-#include "prueba.h"
+#include "filas.h"
 #include "time/timecalc.h"
 #include <array>
 #include <chrono>
@@ -40,54 +40,23 @@ PRUEBA(timecalc, cada_dia_de_su_alcance_va_y_vuelve) {
 }
 
 PRUEBA(timecalc, fuera_de_su_alcance_se_informa) {
-    const struct {
-        fecha f;
-        const char *informe;
-    } filas[] = {
-        {{1, 1, 2038, 0, 0, 0}, "anyo >= 1970 && anyo < 2038"},
-        {{31, 12, 2037, 23, 59, 59}, nullptr},
-        {{31, 12, 1969, 0, 0, 0}, "anyo >= 1970 && anyo < 2038"},
-        {{29, 2, 2000, 0, 0, 0}, nullptr},
-        {{29, 2, 2001, 0, 0, 0}, "dia >= 1 && dia <= dias_mes"},
-        {{31, 4, 2000, 0, 0, 0}, "dia >= 1 && dia <= dias_mes"},
-        {{0, 4, 2000, 0, 0, 0}, "dia >= 1 && dia <= dias_mes"},
-        {{1, 13, 2000, 0, 0, 0}, "mes >= 1 && mes <= 12"},
-        {{1, 0, 2000, 0, 0, 0}, "mes >= 1 && mes <= 12"},
-        {{1, 1, 2000, 24, 0, 0}, "hora >= 0 && hora < 24"},
-        {{1, 1, 2000, 0, 60, 0}, "minuto >= 0 && minuto < 60"},
-        {{1, 1, 2000, 0, 0, -1}, "segundo >= 0 && segundo < 60"},
-    };
-    for (const auto &fila : filas) {
-        int64_t s = -1;
-        vn::con_informe(fila.informe, [&] { s = segundos(fila.f); });
-        EXPECT_EQ(s == 0, fila.informe != nullptr) << fila.f[2];
+    for (const auto &[dia, mes, anyo, hora, minuto, segundo, informe] :
+         vn::filas<int, int, int, int, int, int, vn::nulable>("time/timecalc.tsv", "fechas")) {
+        const int64_t s = segundos({dia, mes, anyo, hora, minuto, segundo});
+        vn::con_informe(informe.c_str(), [] {});
+        EXPECT_EQ(s == 0, informe.c_str() != nullptr) << anyo;
     }
 }
 
 PRUEBA(timecalc, un_tiempo_de_fichero_pierde_el_segundo_impar) {
-    constexpr int64_t SEGUNDO = 10000000, DE_1980 = 315532800, DE_2038 = 2145916800, DE_1970 = 116444736000000000;
-    const struct {
-        int64_t pasos, segundos; // since 1970
-        const char *informe;
-    } filas[] = {
-        {DE_1980 * SEGUNDO, DE_1980, nullptr},
-        {DE_1980 * SEGUNDO - 1, 0, "convertido == CIERTO"},
-        {(DE_1980 + 2) * SEGUNDO - 1, DE_1980, nullptr},
-        {1234567891 * SEGUNDO + 9999999, 1234567890, nullptr},
-        {(DE_2038 - 1) * SEGUNDO, DE_2038 - 2, nullptr},
-        {DE_2038 * SEGUNDO, 0, "anyo >= 1970 && anyo < 2038"},
-        {4354819200 * SEGUNDO, 0, "convertido == CIERTO"}, // 2108, which no DOS date can tell
-        {-DE_1970, 0, "convertido == CIERTO"},
-        {-DE_1970 - 1, 0, "convertido == CIERTO"},
-    };
-    for (const auto &f : filas) {
-        const auto p = static_cast<uint64_t>(f.pasos + DE_1970);
+    for (const auto &[pasos, segundos_de_1970, informe] :
+         vn::filas<int64_t, int64_t, vn::nulable>("time/timecalc.tsv", "tiempos")) {
+        const auto p = static_cast<uint64_t>(pasos + 116444736000000000); // from 1601
         const vnFILETIME t{static_cast<uint32_t>(p), static_cast<uint32_t>(p >> 32)};
-        int64_t s = -1;
-        vn::con_informe(f.informe, [&] { s = timecalc_convierte_FILETIME_a_time64_t(&t); });
-        EXPECT_EQ(s, f.segundos) << f.pasos;
-        if (f.informe != nullptr) continue;
-        EXPECT_EQ(timecalc_convierte_FILETIME_a_time32_t(&t), f.segundos);
-        EXPECT_EQ(timecalc_convierte_FILETIME_a_time_t(&t), f.segundos);
+        EXPECT_EQ(timecalc_convierte_FILETIME_a_time64_t(&t), segundos_de_1970) << pasos;
+        vn::con_informe(informe.c_str(), [] {});
+        if (informe.c_str() != nullptr) continue;
+        EXPECT_EQ(timecalc_convierte_FILETIME_a_time32_t(&t), segundos_de_1970);
+        EXPECT_EQ(timecalc_convierte_FILETIME_a_time_t(&t), segundos_de_1970);
     }
 }

@@ -1,4 +1,5 @@
 #define VN_MODULO "vorntime_textos_test"
+#include "filas.h"
 #include "foundation/sistema/vnregional.h"
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/texto/msglocal.h"
@@ -45,29 +46,15 @@ PRUEBA(vorntime_textos, cada_forma_a_la_letra) {
 }
 
 PRUEBA(vorntime_textos, los_nombres_son_los_de_cada_lengua_en_las_dos_anchuras) {
-    const struct {
-        int idioma;
-        const char *primero, *ultimo, *abreviado, *iniciales; // January, December, the short July
-    } filas[] = {
-        {0, "Enero", "Diciembre", "Jul", "DLMXJVS"},     {1, "Janvier", "Décembre", "Juil", "DLMMJVS"},
-        {2, "Janeiro", "Dezembro", "Jul", "DSTQQSS"},    {3, "Gener", "Desembre", "Jul", "GLTCJVS"},
-        {4, "Gennaio", "Dicembre", "Lug", "DLMMGVS"},    {5, "Janeiro", "Dezembro", "Jul", "DSTQQSS"},
-        {8, "January", "December", "Jul", "SMTWTFS"},    {9, "Xaneiro", "Decembro", "Xul", "DLMMXVS"},
-        {10, "Януари", "Декември", "Юли", "НПВСЧПС"},    {11, "Ianuarie", "Decembrie", "Iul", "DLMMJVS"},
-        {12, "一月", "十二月", "7月", "日一二三四五六"}, {13, "Januar", "Dezember", "Jul", "SMDMDFS"},
-        {18, "Январь", "Декабрь", "Июль", "ВПВСЧПС"},    {24, "Enero", "Diciembre", "Jul", "DLMXJVS"},
-        {31, "Styczeń", "Grudzień", "Lip", "NPWŚCPS"},   {33, "Ocak", "Aralık", "Tem", "PPSÇPCC"},
-        {39, "1月", "12月", "7月", "日月火水木金土"},
-    };
-    for (const auto &f : filas) {
-        msidioma_establece_idioma(f.idioma);
-        std::string iniciales;
-        for (uint32_t dia = 0; dia < 7; ++dia)
-            iniciales += de_pagina(vtm_letra_inicial_dia_de_la_semana(dia), f.idioma);
-        EXPECT_EQ(iniciales, f.iniciales);
-        EXPECT_EQ(vn::utf8_de(vorntime_obtener_nombre_mes_u(0)), f.primero);
-        EXPECT_EQ(vn::utf8_de(vorntime_obtener_nombre_mes_u(11)), f.ultimo);
-        EXPECT_EQ(vn::utf8_de(vorntime_obtener_nombre_mes_abreviado_u(6)), f.abreviado);
+    for (const auto &[idioma, primero, ultimo, abreviado, iniciales] :
+         vn::filas<int, std::string, std::string, std::string, std::string>("time/vorntime_textos.tsv", "nombres")) {
+        msidioma_establece_idioma(idioma);
+        std::string vistas;
+        for (uint32_t dia = 0; dia < 7; ++dia) vistas += de_pagina(vtm_letra_inicial_dia_de_la_semana(dia), idioma);
+        EXPECT_EQ(vistas, iniciales);
+        EXPECT_EQ(vn::utf8_de(vorntime_obtener_nombre_mes_u(0)), primero);
+        EXPECT_EQ(vn::utf8_de(vorntime_obtener_nombre_mes_u(11)), ultimo);
+        EXPECT_EQ(vn::utf8_de(vorntime_obtener_nombre_mes_abreviado_u(6)), abreviado);
     }
     for (int idioma = 0; idioma <= 40; ++idioma) {
         for (uint32_t mes = 0; mes < 12; ++mes) {
