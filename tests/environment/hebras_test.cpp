@@ -14,17 +14,15 @@
 #include "units/magnitud.h"
 #include "units/vnnumlet.h"
 #include "units/vornconf.h"
-#include <algorithm>
 #include <atomic>
+#include <set>
 #include <thread>
 
 namespace {
 
 using vn::toma;
 
-bool es_uno_de(const std::string &s, std::initializer_list<const char *> posibles) {
-    return std::ranges::any_of(posibles, [&](const char *p) { return s == p; });
-}
+using uno_de = std::set<std::string>;
 
 // A project of its own, written and read.
 bool guarda_y_lee(int hebra, int vuelta) {
@@ -54,11 +52,12 @@ void informa(const int *) { vnnumlet_numero_en_cifras_a_letra("abc", FALSO); }
 
 bool valores() {
     const std::string fuerza = toma(convers_texto_con_unidades_dos_decimales(1, CNV_FUERZA));
-    return es_uno_de(fuerza, {"1.00 t", "9.81 kN", "2204.62 lbs"}) &&
-           es_uno_de(toma(convers_texto_ex(nullptr, 1, CNV_FUERZA, 1, FALSO, CIERTO)),
-                     {"1.0 t", "9.8 kN", "2204.6 lbs"}) &&
+    return uno_de{"1.00 t", "9.81 kN", "2204.62 lbs"}.contains(fuerza) &&
+           uno_de{"1.0 t", "9.8 kN", "2204.6 lbs"}.contains(
+               toma(convers_texto_ex(nullptr, 1, CNV_FUERZA, 1, FALSO, CIERTO))) &&
            convers_valor_redondeado_por_exceso(1, 0.1, CNV_FUERZA) > 0.99 &&
-           es_uno_de(toma(vnnumlet_numero_en_cifras_a_letra("21", FALSO)), {"veintiun", "vingt et un", "twenty-one"}) &&
+           uno_de{"veintiun", "vingt et un", "twenty-one"}.contains(
+               toma(vnnumlet_numero_en_cifras_a_letra("21", FALSO))) &&
            vornconf_Internacional_sistema_unidades() - 1 < 3 && magnitud_m_a_ft(1) > 3;
 }
 

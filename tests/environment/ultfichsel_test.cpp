@@ -2,7 +2,7 @@
 #include "fallos.h"
 #include "foundation/listas/arr.h"
 #include "foundation/sistema/fichconf.h"
-#include "foundation/texto/widestr.h"
+#include "foundation/suelo/dueno.hpp"
 #include "prueba.h"
 #include <filesystem>
 
@@ -11,59 +11,49 @@ namespace {
 // The user's configuration, in the directory of the test; the path of the module's file in it, UTF-8.
 std::string prepara() {
     fichconf_establece_directorio_base(vn::ancho(vn::Prueba::directorio()).c_str());
-    vnwchar *ruta = fichconf_dame_ruta_fichero_en_directorio_configuracion(VNU("pnlselfic.cfg"));
-    const std::string texto = vn::utf8_de(ruta);
-    widestr_destruye(&ruta);
-    return texto;
+    return vn::toma(fichconf_dame_ruta_fichero_en_directorio_configuracion(VNU("pnlselfic.cfg")));
 }
 
-arrPuntero *lee() { return ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados(); }
+using lista = vn::dueno<ultfichsel_destruye>;
+lista lee() { return lista(ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados()); }
 
-void registra(arrPuntero *lista, const char *clave, const char *raiz, const char *nombre) {
-    ultfichsel_registra_nombre_fichero(lista, clave, vn::ancho(raiz).c_str(), vn::ancho(nombre).c_str());
+void registra(const lista &l, const char *clave, const char *raiz, const char *nombre) {
+    ultfichsel_registra_nombre_fichero(l.get(), clave, vn::ancho(raiz).c_str(), vn::ancho(nombre).c_str());
 }
 
-std::string ultimo(const arrPuntero *lista, const char *clave, const char *raiz) {
+std::string ultimo(const lista &l, const char *clave, const char *raiz) {
     vnwchar *nombre = nullptr;
-    if (ultfichsel_ultimo_fichero_seleccionado_si_existe(lista, clave, vn::ancho(raiz).c_str(), &nombre) != CIERTO) {
-        EXPECT_EQ(nombre, nullptr);
-        return "-";
-    }
-    const std::string texto = vn::utf8_de(nombre);
-    widestr_destruye(&nombre);
-    return texto;
+    const bool existe =
+        ultfichsel_ultimo_fichero_seleccionado_si_existe(l.get(), clave, vn::ancho(raiz).c_str(), &nombre) == CIERTO;
+    EXPECT_EQ(existe, nombre != nullptr);
+    return existe ? vn::toma(nombre) : "-";
 }
-
-uint32_t numero(const arrPuntero *lista) { return arr_NumElemsPuntero(lista); }
 
 } // namespace
 
 PRUEBA(ultfichsel, lo_registrado_se_guarda_y_sigue_a_la_obra_que_se_mueve) {
     prepara();
-    arrPuntero *lista = lee();
-    EXPECT_EQ(numero(lista), 0u);
-    registra(lista, "plano", "C:\\Obra", "C:\\Obra\\p.dxf");
-    registra(lista, "n\xF1", "", "D:\\日\\x.ifc");
-    registra(lista, "plano", "C:\\Obra", "C:\\Obra\\otro\\q.dxf");
-    ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(lista);
-    ultfichsel_destruye(&lista);
-    lista = lee();
-    EXPECT_EQ(numero(lista), 2u);
-    EXPECT_EQ(ultimo(lista, "plano", "c:\\obra"), "C:\\Obra\\otro\\q.dxf"); // the same root
-    EXPECT_EQ(ultimo(lista, "plano", "E:\\Nueva"), "E:\\Nueva\\otro\\q.dxf");
-    EXPECT_EQ(ultimo(lista, "plano", ""), "C:\\Obra\\otro\\q.dxf");
-    EXPECT_EQ(ultimo(lista, "n\xF1", "E:\\Nueva"), "D:\\日\\x.ifc");
-    EXPECT_EQ(ultimo(lista, "PLANO", ""), "-");
-    ultfichsel_destruye(&lista);
+    lista l = lee();
+    EXPECT_EQ(arr_NumElemsPuntero(l.get()), 0u);
+    registra(l, "plano", "C:\\Obra", "C:\\Obra\\p.dxf");
+    registra(l, "n\xF1", "", "D:\\日\\x.ifc");
+    registra(l, "plano", "C:\\Obra", "C:\\Obra\\otro\\q.dxf");
+    ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(l.get());
+    l = lee();
+    EXPECT_EQ(arr_NumElemsPuntero(l.get()), 2u);
+    EXPECT_EQ(ultimo(l, "plano", "c:\\obra"), "C:\\Obra\\otro\\q.dxf"); // the same root
+    EXPECT_EQ(ultimo(l, "plano", "E:\\Nueva"), "E:\\Nueva\\otro\\q.dxf");
+    EXPECT_EQ(ultimo(l, "plano", ""), "C:\\Obra\\otro\\q.dxf");
+    EXPECT_EQ(ultimo(l, "n\xF1", "E:\\Nueva"), "D:\\日\\x.ifc");
+    EXPECT_EQ(ultimo(l, "PLANO", ""), "-");
 }
 
 PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
     const std::string fichero = prepara();
     std::filesystem::create_directories(std::filesystem::path(vn::u16_de(vn::ancho(fichero).c_str())).parent_path());
-    arrPuntero *lista = lee();
-    registra(lista, "k", "r", "n");
-    ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(lista);
-    ultfichsel_destruye(&lista);
+    lista l = lee();
+    registra(l, "k", "r", "n");
+    ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(l.get());
     const std::string actual = vn::lee_fichero(fichero);
     // Of the stored form: a count, then per record its version and the key with its length.
     const std::string clave = actual.substr(5, actual.find('k') - 5 + 1);
@@ -77,23 +67,19 @@ PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
     };
     for (const auto &f : filas) {
         vn::graba_fichero(fichero, f.contenido);
-        lista = lee();
-        EXPECT_EQ(ultimo(lista, "k", ""), f.obtenido) << f.contenido.size();
-        ultfichsel_destruye(&lista);
+        EXPECT_EQ(ultimo(lee(), "k", ""), f.obtenido) << f.contenido.size();
     }
     vn::graba_fichero(fichero, cuenta + '\4' + clave + ansi('r') + ansi('n'));
-    lista = ESPERA_INFORME("version <= i_VERSION_FICHERO", lee());
-    EXPECT_EQ(numero(lista), 0u);
-    ultfichsel_destruye(&lista);
+    l = ESPERA_INFORME("version <= i_VERSION_FICHERO", lee());
+    EXPECT_EQ(arr_NumElemsPuntero(l.get()), 0u);
 }
 
 GUARDADO(ultimos_ficheros) {
     fichconf_establece_directorio_base(vn::ancho(fichero.substr(0, fichero.rfind("/VORN/"))).c_str());
-    arrPuntero *lista = lee();
+    lista l = lee();
     const std::string nombre(7000, static_cast<char>('0' + edicion));
-    registra(lista, "k", "", nombre.c_str());
-    ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(lista);
-    ultfichsel_destruye(&lista);
+    registra(l, "k", "", nombre.c_str());
+    ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(l.get());
     return vn::existe(fichero) &&
            vn::lee_fichero(fichero).find(nombre.substr(0, 1) + '\0' + nombre.substr(0, 1)) != std::string::npos;
 }

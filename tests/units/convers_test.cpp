@@ -184,26 +184,19 @@ PRUEBA(convers, la_precision_es_la_potencia_de_diez_mas_proxima) {
 
 // The step that a precision brings about is what next to nothing is rounded up to.
 PRUEBA(convers, el_paso_de_redondeo_cambia_justo_en_sus_limites) {
-    const auto paso = [](double prec, uint32_t tipo) {
-        return cnv_convierte(CNV_A_MOSTRADO, tipo, convers_valor_redondeado_por_exceso(1e-5, prec, tipo));
-    };
+    const auto paso = convers_valor_redondeado_por_exceso;
     const auto metrico = en_sistema(MKS);
     for (const auto &[limite, debajo, encima] : filas<double, double, double>("units/convers.tsv", "pasos")) {
-        EXPECT_EQ(paso(limite, CNV_METROS), debajo) << limite;
-        EXPECT_EQ(paso(std::nextafter(limite, 1e9), CNV_METROS), encima) << limite;
+        EXPECT_EQ(paso(1e-5, limite, CNV_METROS), debajo) << limite;
+        EXPECT_EQ(paso(1e-5, std::nextafter(limite, 1e9), CNV_METROS), encima) << limite;
     }
-    for (const auto &[p, esperado] :
-         {std::pair{0.3, 0.25}, {0.04, 0.025}, {0.24, 0.225}, {0.0025, 0.0025}, {0.6, 0.5}, {2.2e-4, 2e-4}})
-        EXPECT_NEAR(paso(p, CNV_METROS), esperado, 1e-15) << p;
     // Feet and inches: by 6 and its tens where the others go by 5.
-    const auto imperial = en_sistema(IMPERIAL);
-    const auto pulgadas = [](double prec, uint32_t tipo) {
-        return convers_valor_redondeado_por_exceso(1e-5, prec * 0.0254, tipo) / 0.0254;
-    };
-    for (const auto &[p, esperado] :
-         {std::pair{5.3, 1.}, {5.5, 6.}, {8.9, 6.}, {53., 10.}, {55., 60.}, {539., 100.}, {541., 600.}})
-        EXPECT_NEAR(pulgadas(p, CNV_LONGITUD), esperado, 1e-9) << p;
-    EXPECT_NEAR(pulgadas(5.3, CNV_LONGITUD_CM), 5., 1e-9);
+    for (const auto &[sistema, tipo, prec, esperado] :
+         filas<uint32_t, uint32_t, double, double>("units/convers.tsv", "pasos_sueltos")) {
+        const auto puesto = en_sistema(sistema);
+        const double unidad = sistema == IMPERIAL ? 0.0254 : 1, tolerancia = sistema == IMPERIAL ? 1e-9 : 1e-15;
+        EXPECT_NEAR(paso(1e-5, prec * unidad, tipo) / unidad, esperado, tolerancia) << prec;
+    }
 }
 
 PRUEBA(convers, el_redondeo_va_hacia_donde_dice_su_nombre) {
@@ -262,8 +255,7 @@ PRUEBA(convers, cada_texto_tiene_su_formato_en_los_dos_anchos) {
 #undef FORMA
         {nullptr, nullptr, nullptr, convers_texto_con_cabecera_y_unidades_cuatro_decimales, "1234.5679"},
         {nullptr, nullptr, nullptr, convers_texto_con_cabecera_y_unidades_seis_decimales, "1234.567890"},
-        {nullptr, nullptr, nullptr, convers_texto_con_cabecera_y_unidades_max_tres_decimales, "1234.57"},
-    };
+        {nullptr, nullptr, nullptr, convers_texto_con_cabecera_y_unidades_max_tres_decimales, "1234.57"}};
     for (const auto &f : formas) {
         if (f.texto != nullptr) {
             EXPECT_EQ(toma(f.texto(kN, 1)) + "|" + toma(f.ancho(kN, 1)), f.esperado + "|" + f.esperado);

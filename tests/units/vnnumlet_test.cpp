@@ -6,20 +6,6 @@
 
 using namespace vn;
 
-namespace {
-
-// Defined while it lives.
-class variable {
-  public:
-    explicit variable(std::string nombre) : nombre_(std::move(nombre)) { vnstdc_putenv((nombre_ + "=1").c_str()); }
-    ~variable() { vnstdc_putenv((nombre_ + "=").c_str()); }
-
-  private:
-    std::string nombre_;
-};
-
-} // namespace
-
 PRUEBA(vnnumlet, cada_idioma_escribe_sus_numeros) {
     for (const auto &[idioma, cadena, negativo, palabras] :
          filas<int, std::string, vnbool, std::string>("units/vnnumlet.tsv", "numeros"))
@@ -69,14 +55,16 @@ PRUEBA(vnnumlet, lo_que_no_es_un_importe_se_informa) {
 }
 
 PRUEBA(vnnumlet, un_idioma_sin_palabras_es_un_error_interno_y_se_avisa_en_pruebas) {
-    for (const auto &[idioma, aviso] : filas<int, std::string>("units/vnnumlet.tsv", "sin_palabras"))
-        for (const bool en_prueba : {false, true}) {
+    const auto quita = al_final([] { vnstdc_putenv("ENPRUEBA="), vnstdc_putenv("PRUEBA_NUMEROS_INGLES="); });
+    for (const bool en_prueba : {false, true}) {
+        if (en_prueba) vnstdc_putenv("ENPRUEBA=1");
+        for (const auto &[idioma, aviso] : filas<int, std::string>("units/vnnumlet.tsv", "sin_palabras")) {
             msidioma_establece_idioma(idioma);
-            const std::unique_ptr<variable> definida(en_prueba ? new variable("ENPRUEBA") : nullptr);
             EXPECT_EQ(vnnumlet_numero_en_cifras_a_letra("1", FALSO), nullptr);
             EXPECT_EQ(toma_informes().size(), 1u);
             EXPECT_EQ(toma_avisos(), en_prueba ? std::vector<std::string>{aviso} : std::vector<std::string>{});
         }
-    const variable definida("PRUEBA_NUMEROS_INGLES");
+    }
+    vnstdc_putenv("PRUEBA_NUMEROS_INGLES=1");
     EXPECT_EQ(numero(10, "20"), "twenty");
 }
