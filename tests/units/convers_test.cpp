@@ -39,28 +39,20 @@ double palabra_en_si(const ancha &palabra) {
     static const auto PALABRAS = filas<ancha, ancha, double>("units/convers.tsv", "palabras");
     for (const auto &[definida, unidad, cuantas] : PALABRAS)
         if (definida == palabra) return cuantas * unidad_en_si(unidad);
-    const ancha menos = palabra.substr(0, palabra.size() - 1);
-    switch (palabra.back()) {
-    case u'.': return menos.empty() ? 1 : palabra_en_si(menos);
-    case u'²': return std::pow(palabra_en_si(menos), 2);
-    case u'³': return std::pow(palabra_en_si(menos), 3);
-    case u'4': return std::pow(palabra_en_si(menos), 4);
-    case u'6': return std::pow(palabra_en_si(menos), 6);
-    case u'1': return 1 / palabra_en_si(menos.substr(0, menos.size() - 1)); // m-1
-    default: ADD_FAILURE() << "unknown unit " << utf8_de(palabra.c_str()); return NAN_;
-    }
+    ADD_FAILURE() << "unknown unit " << utf8_de(palabra.c_str());
+    return NAN_;
 }
 
 // A unit text in SI units: words joined by dots, blanks and brackets; all that follows the first bar divides.
 double unidad_en_si(const ancha &texto) {
-    double n = 1, d = 1;
-    double *donde = &n;
+    double n = 1, d = 1, *donde = &n;
     ancha palabra;
     for (const vnwchar c : texto + VNU(' ')) {
         const bool separa = c == u' ' || c == u'·' || c == u'(' || c == u')' || c == u'/';
-        if ((separa || c == u'°') && !palabra.empty()) *donde *= palabra_en_si(palabra), palabra.clear();
-        if (!separa) palabra += c;
-        if ((c == u'²' || c == u'³') && !palabra.empty()) *donde *= palabra_en_si(palabra), palabra.clear();
+        const int exponente = c == u'²' ? 2 : c == u'³' ? 3 : 1;
+        if ((separa || exponente > 1 || c == u'°') && !palabra.empty())
+            *donde *= std::pow(palabra_en_si(palabra), exponente), palabra.clear();
+        if (!separa && exponente == 1) palabra += c;
         if (c == u'/') donde = &d;
     }
     return n / d;
