@@ -59,15 +59,12 @@ PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
     const std::string clave = actual.substr(5, actual.find('k') - 5 + 1);
     const auto ansi = [&](char c) { return clave.substr(0, clave.size() - 1) + c; };
     const std::string cuenta = actual.substr(0, 4);
-    const struct {
-        std::string contenido, obtenido;
-    } filas[] = {
+    const std::pair<std::string, std::string> filas[] = {
         {cuenta + '\0' + clave + ansi('n'), "n"},   {cuenta + '\1' + clave + ansi('r') + ansi('n'), "n"}, {actual, "n"},
-        {actual.substr(0, actual.size() - 1), "-"}, {std::string("\xFF\xFF\xFF\xFF\3", 5), "-"},          {"", "-"},
-    };
-    for (const auto &f : filas) {
-        vn::graba_fichero(fichero, f.contenido);
-        EXPECT_EQ(ultimo(lee(), "k", ""), f.obtenido) << f.contenido.size();
+        {actual.substr(0, actual.size() - 1), "-"}, {std::string("\xFF\xFF\xFF\xFF\3", 5), "-"},          {"", "-"}};
+    for (const auto &[contenido, obtenido] : filas) {
+        vn::graba_fichero(fichero, contenido);
+        EXPECT_EQ(ultimo(lee(), "k", ""), obtenido) << contenido.size();
     }
     vn::graba_fichero(fichero, cuenta + '\4' + clave + ansi('r') + ansi('n'));
     l = ESPERA_INFORME("version <= i_VERSION_FICHERO", lee());

@@ -25,21 +25,15 @@ PRUEBA(sysdata, cada_region_con_lo_suyo) {
                    string, string>("time/sysdata.tsv", "regiones")) {
         SCOPED_TRACE(region);
         ASSERT_EQ(vnregional_establece(region.c_str()), CIERTO);
-        const struct {
-            char *(*a)(void);
-            vnwchar *(*u)(void);
-            const string &texto;
-        } separadores[] = {
-            {sysdata_separador_campos, sysdata_separador_campos_u, campos},
-            {sysdata_separador_decimal, sysdata_separador_decimal_u, decimal},
-            {sysdata_separador_millares, sysdata_separador_millares_u, millares},
-            {sysdata_separador_fechas, sysdata_separador_fechas_u, fechas},
-            {sysdata_separador_horas, sysdata_separador_horas_u, horas},
+        const auto son = [](char *a, vnwchar *u, const string &texto) {
+            EXPECT_EQ(ansi(a), texto);
+            EXPECT_EQ(toma(u), texto);
         };
-        for (const auto &s : separadores) {
-            EXPECT_EQ(ansi(s.a()), s.texto);
-            EXPECT_EQ(toma(s.u()), s.texto);
-        }
+        son(sysdata_separador_campos(), sysdata_separador_campos_u(), campos);
+        son(sysdata_separador_decimal(), sysdata_separador_decimal_u(), decimal);
+        son(sysdata_separador_millares(), sysdata_separador_millares_u(), millares);
+        son(sysdata_separador_fechas(), sysdata_separador_fechas_u(), fechas);
+        son(sysdata_separador_horas(), sysdata_separador_horas_u(), horas);
         EXPECT_EQ(sysdata_orden_fecha(), orden);
         EXPECT_EQ(sysdata_modo_horario(), modo);
         EXPECT_EQ(toma(sysdata_fecha_u(24, 12, 2023, 3, nullptr, FALSO)), corta); // whatever the day of the week says

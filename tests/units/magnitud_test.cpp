@@ -1,8 +1,7 @@
 #include "propiedades.h"
-#include "prueba.h"
 #include "units/magnitud.h"
 #include "units/vornconf.h"
-#include <cfloat>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -57,23 +56,19 @@ PRUEBA(magnitud, las_comparaciones_cambian_justo_pasada_la_tolerancia) {
     const vn::al_final de_siempre([] { setroundoff(0.00001); });
     for (const double t : {0.5, 0., 3e-300, 0.00001}) {
         setroundoff(t);
-        const struct {
-            double x;
-            int orden;
-        } filas[] = {
+        const std::pair<double, int> filas[] = {
             {t, 0},  {std::nextafter(t, 1.), 1},    {std::nextafter(t, -1.), t > 0 ? 0 : -1}, {0., 0},  {1., 1},
-            {-t, 0}, {std::nextafter(-t, -1.), -1}, {std::nextafter(-t, 1.), t > 0 ? 0 : 1},  {INF, 1}, {-INF, -1},
-        };
-        for (const auto &f : filas) {
-            SCOPED_TRACE(testing::Message() << f.x << " with " << t);
-            EXPECT_EQ(parmzero(f.x), f.orden == 0);
-            EXPECT_EQ(parmnotzero(f.x), f.orden != 0);
-            EXPECT_EQ(parmgtzero(f.x), f.orden > 0);
-            EXPECT_EQ(parmgezero(f.x), f.orden >= 0);
-            EXPECT_EQ(parmltzero(f.x), f.orden < 0);
-            EXPECT_EQ(parmeq(f.x, 0.) + 2 * parmne(f.x, 0.), f.orden == 0 ? 1 : 2);
-            EXPECT_EQ(parmgt(f.x, 0.) + 2 * parmlt(0., f.x), f.orden > 0 ? 3 : 0);
-            EXPECT_EQ(parmge(f.x, 0.) + 2 * parmle(f.x, 0.), (f.orden >= 0 ? 1 : 0) + (f.orden <= 0 ? 2 : 0));
+            {-t, 0}, {std::nextafter(-t, -1.), -1}, {std::nextafter(-t, 1.), t > 0 ? 0 : 1},  {INF, 1}, {-INF, -1}};
+        for (const auto &[x, orden] : filas) {
+            SCOPED_TRACE(testing::Message() << x << " with " << t);
+            EXPECT_EQ(parmzero(x), orden == 0);
+            EXPECT_EQ(parmnotzero(x), orden != 0);
+            EXPECT_EQ(parmgtzero(x), orden > 0);
+            EXPECT_EQ(parmgezero(x), orden >= 0);
+            EXPECT_EQ(parmltzero(x), orden < 0);
+            EXPECT_EQ(parmeq(x, 0.) + 2 * parmne(x, 0.), orden == 0 ? 1 : 2);
+            EXPECT_EQ(parmgt(x, 0.) + 2 * parmlt(0., x), orden > 0 ? 3 : 0);
+            EXPECT_EQ(parmge(x, 0.) + 2 * parmle(x, 0.), (orden >= 0 ? 1 : 0) + (orden <= 0 ? 2 : 0));
         }
     }
     EXPECT_EQ(parmeq(1e9, 1e9 + 1e-4), FALSO); // the tolerance does not grow with the values
@@ -92,11 +87,13 @@ PRUEBA(magnitud, lo_que_no_es_un_numero_no_se_compara_con_nada) {
 }
 
 PRUEBA(magnitud, el_redondeo_lleva_las_mitades_hacia_arriba) {
-    const struct {
-        double x, ro, esperado;
-    } filas[] = {{-2.5, 1., -2.}, {2.5, 1., 3.},      {-2.6, 1., -3.},
-                 {7.3, 2.5, 7.5}, {-0.125, 0.25, 0.}, {1e300, 1e-5, 1e300}};
-    for (const auto &f : filas) EXPECT_DOUBLE_EQ(_roundoff(f.x, f.ro), f.esperado) << f.x << " to " << f.ro;
+    for (const auto &[x, ro, esperado] : {std::array{-2.5, 1., -2.},
+                                          {2.5, 1., 3.},
+                                          {-2.6, 1., -3.},
+                                          {7.3, 2.5, 7.5},
+                                          {-0.125, 0.25, 0.},
+                                          {1e300, 1e-5, 1e300}})
+        EXPECT_DOUBLE_EQ(_roundoff(x, ro), esperado) << x << " to " << ro;
     for (const double ro : {0., -1., NAN_}) EXPECT_EQ(ESPERA_INFORME("ro > 0.", _roundoff(7.3, ro)), 7.3);
 }
 

@@ -43,6 +43,7 @@ numeros leidos() {
 }
 constexpr numeros EN_ESPANYOL = {47, 8, 10, 4, 3, 1, 0};
 
+void graba(const internacional &r) { vornconf_par_graba_internacional(&r); }
 internacional todo(uint32_t n) { return {n, n, n, n, n, n, n}; }
 
 std::string texto_de(const numeros &v) {
@@ -74,7 +75,7 @@ PRUEBA(vornconf, sin_fichero_manda_el_idioma) {
 PRUEBA(vornconf, el_fichero_tiene_nueve_lineas) {
     const en_directorio d;
     const internacional r{12, 34, 4294967295u, 7, 8, 3, 2};
-    vornconf_par_graba_internacional(&r);
+    graba(r);
     EXPECT_EQ(vornconf_Internacional_normaHorm() + vornconf_Internacional_normaAceroConf(), 46u); // from the record
     EXPECT_EQ(d.contenido(), texto_de(valores(r)));                                               // the third as -1
     EXPECT_EQ(leidos(), valores(r));
@@ -126,8 +127,7 @@ PRUEBA(vornconf, lo_que_se_cambia_para_una_ejecucion) {
 HIJO(graba_antes_de_preguntar) {
     msidioma_establece_idioma(0);
     fichconf_establece_directorio_base(vn::ancho(args.at(0)).c_str());
-    const internacional r{0, 34, 0, 7, 8, 0, 2};
-    vornconf_par_graba_internacional(&r);
+    graba({0, 34, 0, 7, 8, 0, 2});
     return vornconf_Internacional_sistema_unidades() != 1 || vornconf_Internacional_normaHorm() != 47 ||
            vornconf_Internacional_normaAceroConf() != 34;
 }
@@ -172,8 +172,7 @@ PRUEBA(vornconf, un_fichero_estropeado_da_los_valores_por_defecto) {
     malas.abre = [](const vnwchar *, uint32_t, vnid_fichero *) { return VN_FICH_SIN_PERMISO; };
     operaciones_fichero_instala(&malas);
     EXPECT_EQ(leidos(), EN_ESPANYOL);
-    const internacional r = todo(2);
-    vornconf_par_graba_internacional(&r);
+    graba(todo(2));
     operaciones_fichero_instala(nullptr);
     vn::espera_informes({"f_lc_fopen"}, __FILE__, __LINE__);
 }
@@ -208,8 +207,8 @@ PRUEBA(vornconf, los_textos_en_cada_idioma) {
 GUARDADO(configuracion) {
     msidioma_establece_idioma(0);
     fichconf_establece_directorio_base(vn::ancho(fichero.substr(0, fichero.rfind("/VORN/"))).c_str());
-    const internacional r = todo(100 + static_cast<uint32_t>(edicion));
-    return vn::atrapado([&] { vornconf_par_graba_internacional(&r); }); // saved is what no report was made of
+    // Saved is what no report was made of.
+    return vn::atrapado([=] { graba(todo(100 + static_cast<uint32_t>(edicion))); });
 }
 
 PRUEBA(vornconf, quien_falla_o_muere_en_cualquier_punto_deja_el_viejo_o_el_nuevo) {
@@ -220,9 +219,8 @@ PRUEBA(vornconf, quien_falla_o_muere_en_cualquier_punto_deja_el_viejo_o_el_nuevo
 // Arguments: the base directory, the value that it writes. 0 when all that it read was whole and nothing was reported.
 HIJO(reescribe_configuracion) {
     const en_directorio d(args.at(0));
-    const internacional r = todo(static_cast<uint32_t>(std::stoul(args.at(1))));
     for (int veces = 0; veces < 5; ++veces) {
-        vornconf_par_graba_internacional(&r);
+        graba(todo(static_cast<uint32_t>(std::stoul(args.at(1)))));
         const auto v = leidos();
         if (v != valores(todo(v[0]))) return 3;
     }
