@@ -1,7 +1,6 @@
 #include "filas.h"
 #include "time/timecalc.h"
 #include <array>
-#include <chrono>
 
 namespace {
 
@@ -22,17 +21,12 @@ PRUEBA(timecalc, cada_dia_de_su_alcance_va_y_vuelve) {
     constexpr int64_t DIA = 86400;
     for (int64_t t = 0; t < 2145916800; t += DIA) {
         const int64_t momento = t + t / DIA * 7919 % DIA; // any time of day
-        const fecha f = de(momento);
-        const std::chrono::year_month_day d{std::chrono::sys_days(std::chrono::days(t / DIA))};
-        ASSERT_EQ((std::array{f[0], f[1], f[2]}),
-                  (std::array{int(unsigned(d.day())), int(unsigned(d.month())), int(d.year())}));
-        ASSERT_EQ(segundos(f), momento);
-        ASSERT_EQ(timecalc_convierte_fecha_y_hora_a_time32_t(f[0], f[1], f[2], f[3], f[4], f[5]), momento);
-        fecha g{};
-        timecalc_convierte_time32_t_a_fecha_y_hora(static_cast<int32_t>(momento), &g[0], &g[1], &g[2], &g[3], &g[4],
-                                                   &g[5]);
-        ASSERT_EQ(f, g);
+        ASSERT_EQ(segundos(de(momento)), momento);
     }
+    EXPECT_EQ(timecalc_convierte_fecha_y_hora_a_time32_t(31, 12, 2037, 23, 59, 58), 2145916798);
+    fecha f{};
+    timecalc_convierte_time32_t_a_fecha_y_hora(2145916798, &f[0], &f[1], &f[2], &f[3], &f[4], &f[5]);
+    EXPECT_EQ(f, (fecha{31, 12, 2037, 23, 59, 58}));
     EXPECT_EQ(de(INT32_MAX), (fecha{19, 1, 2038, 3, 14, 7}));
     EXPECT_EQ(de(253402300799), (fecha{31, 12, 9999, 23, 59, 59}));
     for (const int64_t t : {int64_t{-1}, INT64_MIN, INT64_MAX, int64_t{253402300800}})

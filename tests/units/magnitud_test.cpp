@@ -87,13 +87,9 @@ PRUEBA(magnitud, lo_que_no_es_un_numero_no_se_compara_con_nada) {
 }
 
 PRUEBA(magnitud, el_redondeo_lleva_las_mitades_hacia_arriba) {
-    for (const auto &[x, ro, esperado] : {std::array{-2.5, 1., -2.},
-                                          {2.5, 1., 3.},
-                                          {-2.6, 1., -3.},
-                                          {7.3, 2.5, 7.5},
-                                          {-0.125, 0.25, 0.},
-                                          {1e300, 1e-5, 1e300}})
-        EXPECT_DOUBLE_EQ(_roundoff(x, ro), esperado) << x << " to " << ro;
+    const std::array<double, 3> filas[] = {{-2.5, 1., -2.}, {2.5, 1., 3.},      {-2.6, 1., -3.},
+                                           {7.3, 2.5, 7.5}, {-0.125, 0.25, 0.}, {1e300, 1e-5, 1e300}};
+    for (const auto &[x, ro, esperado] : filas) EXPECT_DOUBLE_EQ(_roundoff(x, ro), esperado) << x << " to " << ro;
     for (const double ro : {0., -1., NAN_}) EXPECT_EQ(ESPERA_INFORME("ro > 0.", _roundoff(7.3, ro)), 7.3);
 }
 
