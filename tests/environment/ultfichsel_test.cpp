@@ -4,7 +4,6 @@
 #include "foundation/sistema/fichconf.h"
 #include "foundation/suelo/dueno.hpp"
 #include "prueba.h"
-#include <filesystem>
 
 namespace {
 
@@ -50,7 +49,6 @@ PRUEBA(ultfichsel, lo_registrado_se_guarda_y_sigue_a_la_obra_que_se_mueve) {
 
 PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
     const std::string fichero = prepara();
-    std::filesystem::create_directories(std::filesystem::path(vn::u16_de(vn::ancho(fichero).c_str())).parent_path());
     lista l = lee();
     registra(l, "k", "r", "n");
     ultfichsel_graba_todos_los_ultimos_ficheros_seleccionados(l.get());

@@ -1,4 +1,3 @@
-#define VN_MODULO "sysdata_test"
 #include "filas.h"
 #include "foundation/sistema/vnregional.h"
 #include "foundation/suelo/operaciones_fichero.h"

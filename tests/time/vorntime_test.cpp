@@ -1,4 +1,3 @@
-#define VN_MODULO "vorntime_test"
 #include "filas.h"
 #include "foundation/listas/arr.h"
 #include "persistence/prueba_vornsave.h"

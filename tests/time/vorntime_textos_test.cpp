@@ -1,4 +1,3 @@
-#define VN_MODULO "vorntime_textos_test"
 #include "filas.h"
 #include "foundation/sistema/vnregional.h"
 #include "foundation/sistema/vnstdc.h"

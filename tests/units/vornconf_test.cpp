@@ -1,4 +1,3 @@
-#define VN_MODULO "vornconf_test"
 #include "fallos.h"
 #include "foundation/sistema/fichconf.h"
 #include "foundation/texto/msglocal.h"

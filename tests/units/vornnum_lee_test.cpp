@@ -1,4 +1,3 @@
-#define VN_MODULO "vornnum_lee_test"
 #include "filas.h"
 #include "foundation/texto/cad.h"
 #include "propiedades.h"

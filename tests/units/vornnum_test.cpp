@@ -1,4 +1,3 @@
-#define VN_MODULO "vornnum_test"
 #include "filas.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/sistema/vnregional.h"
