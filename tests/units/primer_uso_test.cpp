@@ -11,20 +11,18 @@
 #include "time/sysdata.h"
 #include "units/convers.h"
 #include "units/vornconf.h"
-#include <array>
 #include <chrono>
 #include <filesystem>
 
 namespace {
 
 using vn::HEBRAS;
-template <class T> using de_cada_una = std::array<T, HEBRAS>;
 
 constexpr const char *FICHERO = "[Internacional]\nNorma=77\nSistema de Unidades=3\nSistemaUnidadEnergia=2\n";
 
 // What each thread got is what one gets alone.
-template <class T> bool todos_son(const de_cada_una<T> &obtenidos, const T &esperado) {
-    return std::ranges::all_of(obtenidos, [&](const T &t) { return t == esperado; });
+bool todos_son(const auto &obtenidos, const auto &esperado) {
+    return std::ranges::all_of(obtenidos, [&](const auto &t) { return t == esperado; });
 }
 
 constexpr const char *MUTEX = "prueba-primer-uso";
@@ -39,8 +37,8 @@ bool cuenta_bajo_mutex(int) {
     return true;
 }
 
-de_cada_una<int> idiomas;
-de_cada_una<std::string> textos, mensajes, paginas, regiones;
+int idiomas[HEBRAS];
+std::string textos[HEBRAS], mensajes[HEBRAS], paginas[HEBRAS], regiones[HEBRAS];
 std::string region() {
     vnwchar decimal = 0, millares = 0;
     vnregional_separadores(&decimal, &millares);
@@ -56,12 +54,11 @@ std::string en_mayusculas() {
 std::string fuerza() { return vn::toma(convers_texto_con_unidades_dos_decimales(1, CNV_FUERZA)); }
 
 // What the exit registry is to destroy.
-char *cadenas[HEBRAS][20] = {};
-vnwchar *cadenas_u[HEBRAS] = {};
-char *datos[HEBRAS] = {};
+char *cadenas[HEBRAS * 20], *datos[HEBRAS];
+vnwchar *cadenas_u[HEBRAS];
 std::chrono::steady_clock::time_point empezo;
 bool registra_al_salir(int h) {
-    for (char *&c : cadenas[h]) {
+    for (char *&c : std::span(cadenas).subspan(static_cast<size_t>(h) * 20, 20)) {
         c = cad_copia_cadena("texto");
         alsalir_destruye_cadena(&c);
     }
@@ -75,11 +72,7 @@ bool se_ha_destruido() {
     // In no time: nobody waited for a mutex that another thread had for good.
     const bool pronto = std::chrono::steady_clock::now() - empezo < std::chrono::seconds(25);
     vnatexit_ejecuta();
-    bool nada = true;
-    for (const auto &suyas : cadenas)
-        for (const char *c : suyas) nada = nada && c == nullptr;
-    return pronto && nada && todos_son(std::to_array(cadenas_u), static_cast<vnwchar *>(nullptr)) &&
-           todos_son(std::to_array(datos), static_cast<char *>(nullptr));
+    return pronto && todos_son(cadenas, nullptr) && todos_son(cadenas_u, nullptr) && todos_son(datos, nullptr);
 }
 
 constexpr vn::uso USOS[] = {
@@ -90,17 +83,16 @@ constexpr vn::uso USOS[] = {
                 vornconf_es_sistema_unidades_inglesas() == CIERTO;
      },
      [] { return true; }},
-    {"value texts", [](int h) { return (textos[static_cast<size_t>(h)] = fuerza()).starts_with("2204.62 "); },
+    {"value texts", [](int h) { return (textos[h] = fuerza()).starts_with("2204.62 "); },
      [] { return todos_son(textos, fuerza()); }},
     {"exit registry", registra_al_salir, se_ha_destruido},
-    {"messages", [](int h) { return (mensajes[static_cast<size_t>(h)] = mensaje()).find("Btu") != std::string::npos; },
+    {"messages", [](int h) { return (mensajes[h] = mensaje()).find("Btu") != std::string::npos; },
      [] { return todos_son(mensajes, mensaje()); }},
-    {"language", [](int h) { return (idiomas[static_cast<size_t>(h)] = msidioma_dame_idioma()) >= 0; },
+    {"language", [](int h) { return (idiomas[h] = msidioma_dame_idioma()) >= 0; },
      [] { return todos_son(idiomas, msidioma_dame_idioma()); }},
-    {"code page", [](int h) { return (paginas[static_cast<size_t>(h)] = en_mayusculas()) == "\321AND\xDA"; },
+    {"code page", [](int h) { return (paginas[h] = en_mayusculas()) == "\321AND\xDA"; },
      [] { return todos_son(paginas, en_mayusculas()); }},
-    {"region", [](int h) { return !(regiones[static_cast<size_t>(h)] = region()).empty(); },
-     [] { return todos_son(regiones, region()); }},
+    {"region", [](int h) { return !(regiones[h] = region()).empty(); }, [] { return todos_son(regiones, region()); }},
     {"mutex between programs", cuenta_bajo_mutex, [] { return cuenta == 50 * HEBRAS; }},
 };
 

@@ -8,7 +8,6 @@
 #include <filesystem>
 
 using vn::toma;
-using internacional = vornconf_internacional;
 
 namespace {
 
@@ -33,16 +32,18 @@ struct en_directorio {
 
 // In the order of the file's lines.
 using numeros = std::array<uint32_t, 7>;
-numeros valores(const internacional &r) { return std::bit_cast<numeros>(r); }
 numeros leidos() {
-    internacional r{};
+    vornconf_internacional r{};
     vornconf_par_lee_internacional(&r);
-    return valores(r);
+    return std::bit_cast<numeros>(r);
 }
 constexpr numeros EN_ESPANYOL = {47, 8, 10, 4, 3, 1, 0};
 
-void graba(const internacional &r) { vornconf_par_graba_internacional(&r); }
-internacional todo(uint32_t n) { return {n, n, n, n, n, n, n}; }
+void graba(const numeros &v) {
+    const auto r = std::bit_cast<vornconf_internacional>(v);
+    vornconf_par_graba_internacional(&r);
+}
+numeros todo(uint32_t n) { return {n, n, n, n, n, n, n}; }
 
 std::string texto_de(const numeros &v) {
     char t[200];
@@ -72,11 +73,11 @@ PRUEBA(vornconf, sin_fichero_manda_el_idioma) {
 
 PRUEBA(vornconf, el_fichero_tiene_nueve_lineas) {
     const en_directorio d;
-    const internacional r{12, 34, 4294967295u, 7, 8, 3, 2};
+    const numeros r{12, 34, 4294967295u, 7, 8, 3, 2};
     graba(r);
     EXPECT_EQ(vornconf_Internacional_normaHorm() + vornconf_Internacional_normaAceroConf(), 46u); // from the record
-    EXPECT_EQ(d.contenido(), texto_de(valores(r)));                                               // the third as -1
-    EXPECT_EQ(leidos(), valores(r));
+    EXPECT_EQ(d.contenido(), texto_de(r));                                                        // the third as -1
+    EXPECT_EQ(leidos(), r);
     EXPECT_EQ(vornconf_es_sistema_unidades_inglesas(), CIERTO);
     EXPECT_EQ(vornconf_Internacional_normaAceroLam(), 4294967295u);
     EXPECT_EQ(vornconf_Internacional_normaMadera(), 8u);
@@ -201,7 +202,7 @@ HIJO(reescribe_configuracion) {
     for (int veces = 0; veces < 5; ++veces) {
         graba(todo(static_cast<uint32_t>(std::stoul(args.at(1)))));
         const auto v = leidos();
-        if (v != valores(todo(v[0]))) return 3;
+        if (v != todo(v[0])) return 3;
     }
     return error_interno_numero_de_informes() == 0 ? 0 : 4;
 }
@@ -213,6 +214,6 @@ PRUEBA(vornconf, muchos_programas_lo_reescriben) {
     });
     for (auto &hijo : hijos) EXPECT_EQ(hijo.espera(60000), 0);
     const auto v = leidos();
-    EXPECT_EQ(v, valores(todo(v[0])));
+    EXPECT_EQ(v, todo(v[0]));
     EXPECT_EQ(d.contenido(), texto_de(v));
 }
