@@ -56,15 +56,20 @@ PRUEBA(ultfichsel, las_versiones_antiguas_se_leen_y_lo_danyado_se_descarta) {
     // Of the stored form: a count, then per record its version and the key with its length.
     const std::string clave = actual.substr(5, actual.find('k') - 5 + 1);
     const auto ansi = [&](char c) { return clave.substr(0, clave.size() - 1) + c; };
-    const std::string cuenta = actual.substr(0, 4);
+    const std::string cuenta = actual.substr(0, 4), anchos = actual.substr(5 + clave.size());
     const std::pair<std::string, std::string> filas[] = {
-        {cuenta + '\0' + clave + ansi('n'), "n"},   {cuenta + '\1' + clave + ansi('r') + ansi('n'), "n"}, {actual, "n"},
-        {actual.substr(0, actual.size() - 1), "-"}, {std::string("\xFF\xFF\xFF\xFF\3", 5), "-"},          {"", "-"}};
+        {cuenta + '\0' + clave + ansi('n'), "n"},
+        {cuenta + '\1' + clave + ansi('r') + ansi('n'), "n"},
+        {cuenta + '\2' + clave + ansi('r') + anchos.substr(anchos.size() / 2), "n"},
+        {actual, "n"},
+        {actual.substr(0, actual.size() - 1), "-"},
+        {std::string("\xFF\xFF\xFF\xFF\3", 5), "-"},
+        {"", "-"}};
     for (const auto &[contenido, obtenido] : filas) {
         vn::graba_fichero(fichero, contenido);
         EXPECT_EQ(ultimo(lee(), "k", ""), obtenido) << contenido.size();
     }
-    vn::graba_fichero(fichero, cuenta + '\4' + clave + ansi('r') + ansi('n'));
+    vn::graba_fichero(fichero, cuenta + '\4' + actual.substr(5));
     l = ESPERA_INFORME("version <= i_VERSION_FICHERO", lee());
     EXPECT_EQ(arr_NumElemsPuntero(l.get()), 0u);
 }

@@ -35,26 +35,26 @@ constexpr uint32_t MKS = VORNCONF_SU_MKS, SI = VORNCONF_SU_INTERNACIONAL, IMPERI
 
 // ---------------------------------------------------------------- what a unit is, out of its text
 
-double unidad_en_si(const ancha &texto);
+double valor_de_unidad(const ancha &texto);
 
-// A word of a unit text in SI units, by its definition.
-double palabra_en_si(const ancha &palabra) {
+// A word of a unit text in units of the definitions.
+double valor_de_palabra(const ancha &palabra) {
     static const auto PALABRAS = datos<ancha, ancha, double>("palabras");
     for (const auto &[definida, unidad, cuantas] : PALABRAS)
-        if (definida == palabra) return cuantas * unidad_en_si(unidad);
+        if (definida == palabra) return cuantas * valor_de_unidad(unidad);
     ADD_FAILURE() << "unknown unit " << utf8_de(palabra.c_str());
     return NAN_;
 }
 
-// A unit text in SI units: words joined by dots, blanks and brackets; all that follows the first bar divides.
-double unidad_en_si(const ancha &texto) {
+// A unit text: words joined by dots, blanks and brackets; all that follows the first bar divides.
+double valor_de_unidad(const ancha &texto) {
     double n = 1, d = 1, *donde = &n;
     ancha palabra;
     for (const vnwchar c : texto + VNU(' ')) {
         const bool separa = c == u' ' || c == u'·' || c == u'(' || c == u')' || c == u'/';
         const int exponente = c == u'²' ? 2 : c == u'³' ? 3 : 1;
         if ((separa || exponente > 1 || c == u'°') && !palabra.empty())
-            *donde *= std::pow(palabra_en_si(palabra), exponente), palabra.clear();
+            *donde *= std::pow(valor_de_palabra(palabra), exponente), palabra.clear();
         if (!separa && exponente == 1) palabra += c;
         if (c == u'/') donde = &d;
     }
@@ -90,7 +90,7 @@ PRUEBA(convers, cada_fila_convierte_lo_que_dicen_sus_unidades) {
                 SCOPED_TRACE(testing::Message() << f.nombre << " in system " << sistema << ", energy " << energia);
                 const double sumando = cnv_convierte(CNV_A_MOSTRADO, f.tipo, 0.);
                 const double coef = cnv_convierte(CNV_A_MOSTRADO, f.tipo, 1.) - sumando;
-                const double esperado = unidad_en_si(f.interna) / unidad_en_si(cnv_strextunids(f.tipo));
+                const double esperado = valor_de_unidad(f.interna) / valor_de_unidad(cnv_strextunids(f.tipo));
                 const double desvio = desvio_de(f.nombre, sistema);
                 EXPECT_NEAR(coef / esperado - 1, desvio, 1e-9 + 1e-3 * std::fabs(desvio));
                 EXPECT_EQ(sumando, f.tipo == CNV_TEMPERATURA && sistema == IMPERIAL ? 32. : 0.);
