@@ -1,4 +1,5 @@
 #define VN_MODULO "vdir_test"
+#include "filas.h"
 #include "foundation/ficheros/vdir.h"
 #include "foundation/ficheros/vorndir.h"
 #include "foundation/suelo/vnlongpath.h"
@@ -15,72 +16,53 @@ using vn::toma;
 
 namespace {
 
+const std::string DATOS = "foundation/vdir.tsv";
 auto en(const std::string &nombre) { return ancho(vn::Prueba::directorio() + "/" + nombre); }
 
-// A new file of so many bytes, through a call that any name and any length of path suit.
+void graba(const char *nombre, const char *contenido) {
+    vn::graba_fichero(vn::Prueba::directorio() + "/" + nombre, contenido);
+}
+std::string lee(const char *nombre) { return vn::lee_fichero(vn::Prueba::directorio() + "/" + nombre); }
+// A new file, through a call that any name and any length of path suit.
 bool crea_fichero(const std::basic_string<vnwchar> &ruta) {
     void *const h = vnlongpath_CreateFileW(ruta.c_str(), VNLONGPATH_GENERIC_WRITE, 0, nullptr, VNLONGPATH_CREATE_NEW,
                                            VNLONGPATH_FILE_ATTRIBUTE_NORMAL, nullptr);
     return vnlongpath_CloseHandle(h) == CIERTO;
 }
 
-std::string ficheros(const std::basic_string<vnwchar> &ruta, const char *mascara) {
+template <auto LISTA> std::string lista_de(const std::basic_string<vnwchar> &ruta, const std::string &mascara) {
     arrCADENA_u *a = nullptr;
-    EXPECT_EQ(vdir_lista_de_ficheros_UNICODE(ruta.c_str(), ancho(mascara).c_str(), &a), CIERTO);
+    EXPECT_EQ(LISTA(ruta.c_str(), ancho(mascara).c_str(), &a), CIERTO);
     return toma(a);
 }
-
-std::string directorios(const std::basic_string<vnwchar> &ruta, const char *mascara) {
-    arrCADENA_u *a = nullptr;
-    EXPECT_EQ(vdir_lista_de_directorios_UNICODE(ruta.c_str(), ancho(mascara).c_str(), &a), CIERTO);
-    return toma(a);
-}
+constexpr auto ficheros = lista_de<vdir_lista_de_ficheros_UNICODE>;
+constexpr auto directorios = lista_de<vdir_lista_de_directorios_UNICODE>;
 
 } // namespace
 
 PRUEBA(vdir, una_ruta_se_descompone_y_se_recompone) {
-    const struct {
-        const char *ruta, *unidad, *directorio, *nombre, *extension, *acceso;
-    } filas[] = {
-        {"C:\\obras/uno.dos.obr", "C:", "\\obras", "uno.dos", "obr", "C:\\obras"},
-        {"/obras/.oculto", "", "\\obras", ".oculto", "", "\\obras"},
-        {"obra.", "", "", "obra.", "", ""},
-        {"..", "", "", "..", "", ""},
-        {"c:x.obr", "c:", "", "x", "obr", "c:"},
-        {"C:dir\\x", "C:", "dir", "x", "", "C:dir"},
-        {"\\\\serv\\comun\\d\\x.obr", "\\\\serv\\comun", "\\d", "x", "obr", "\\\\serv\\comun\\d"},
-        {"//serv/comun", "\\\\serv\\comun", "", "", "", "\\\\serv\\comun"},
-        {"\\\\?\\C:\\a\\b.c", "\\\\?\\C:", "\\a", "b", "c", "\\\\?\\C:\\a"},
-        {"\\\\?\\UNC\\serv\\comun\\b", "\\\\?\\UNC\\serv\\comun", "\\", "b", "", "\\\\?\\UNC\\serv\\comun\\"},
-        {"a.b\\c\\", "", "a.b\\c", "", "", "a.b\\c"},
-        {"\\x", "", "\\", "x", "", "\\"},
-        {"día/\U0001F600.tar.gz", "", "día", "\U0001F600.tar", "gz", "día"},
-    };
-    for (const auto &f : filas) {
-        SCOPED_TRACE(f.ruta);
-        const auto ruta = ancho(f.ruta);
-        vnwchar *partes[4] = {};
-        EXPECT_EQ(vdir_splitpath_con_comprobacion_UNICODE(ruta.c_str(), &partes[0], &partes[1], &partes[2], &partes[3]),
-                  CIERTO);
-        EXPECT_EQ(toma(vdir_makepath_UNICODE(partes[0], partes[1], partes[2], partes[3])), propia(f.ruta));
-        EXPECT_EQ(toma(partes[0]), propia(f.unidad));
-        EXPECT_EQ(toma(partes[1]), propia(f.directorio));
-        EXPECT_EQ(toma(partes[2]), f.nombre);
-        EXPECT_EQ(toma(partes[3]), f.extension);
-        EXPECT_EQ(toma(vdir_nombre_base_fichero_UNICODE(ruta.c_str())), f.nombre);
-        EXPECT_EQ(toma(vdir_extension_fichero_UNICODE(ruta.c_str())), f.extension);
-        EXPECT_EQ(toma(vdir_ruta_acceso_directorio_fichero_UNICODE(ruta.c_str())), propia(f.acceso));
+    using texto = std::string;
+    for (const auto &[r, unidad, directorio, nombre, extension, acceso] :
+         vn::filas<texto, texto, texto, texto, texto, texto>(DATOS, "partes")) {
+        SCOPED_TRACE(r);
+        const auto ruta = ancho(r);
+        vnwchar *p[4] = {};
+        EXPECT_EQ(vdir_splitpath_con_comprobacion_UNICODE(ruta.c_str(), &p[0], &p[1], &p[2], &p[3]), CIERTO);
+        EXPECT_EQ(toma(vdir_makepath_UNICODE(p[0], p[1], p[2], p[3])), propia(r));
+        EXPECT_EQ(toma(p[0]), propia(unidad));
+        EXPECT_EQ(toma(p[1]), propia(directorio));
+        EXPECT_EQ(toma(p[2]), nombre);
+        EXPECT_EQ(toma(p[3]), extension);
+        EXPECT_EQ(toma(vdir_nombre_base_fichero_UNICODE(ruta.c_str())), nombre);
+        EXPECT_EQ(toma(vdir_extension_fichero_UNICODE(ruta.c_str())), extension);
+        EXPECT_EQ(toma(vdir_ruta_acceso_directorio_fichero_UNICODE(ruta.c_str())), propia(acceso));
     }
 }
 
 PRUEBA(vdir, las_rutas_se_componen) {
-    const struct {
-        const char *a, *b, *juntas;
-    } filas[] = {{"a", "b", "a\\b"},     {"a/", "\\b/c", "a\\b\\c"}, {"", "b", "b"}, {"a\\", "", "a\\"},
-                 {"C:\\", "x", "C:\\x"}, {"/", "x", "\\x"},          {"", "", ""}};
-    for (const auto &f : filas) {
-        EXPECT_EQ(toma(vdir_concatena_directorios_UNICODE(ancho(f.a).c_str(), ancho(f.b).c_str())), propia(f.juntas));
-        EXPECT_EQ(toma(vdir_concatena_directorios(f.a, f.b)), propia(f.juntas));
+    for (const auto &[a, b, juntas] : vn::filas<std::string, std::string, std::string>(DATOS, "juntas")) {
+        EXPECT_EQ(toma(vdir_concatena_directorios_UNICODE(ancho(a).c_str(), ancho(b).c_str())), propia(juntas));
+        EXPECT_EQ(toma(vdir_concatena_directorios(a.c_str(), b.c_str())), propia(juntas));
     }
     EXPECT_EQ(toma(vdir_makepath_UNICODE(VNU("C"), VNU("a"), VNU("x"), VNU(".obr"))), propia("C:a\\x.obr"));
     EXPECT_EQ(toma(vdir_makepath_UNICODE(VNU("\\\\s\\c"), VNU("a"), VNU("x"), nullptr)), propia("\\\\s\\c\\a\\x"));
@@ -92,50 +74,26 @@ PRUEBA(vdir, las_rutas_se_componen) {
 }
 
 PRUEBA(vdir, que_rutas_son_validas) {
-    const std::string parte(255, 'p');
-    const struct {
-        bool valida, absoluta;
-        std::vector<std::string> rutas;
-    } filas[] = {
-        {true, true, {"C:\\obras\\x.obr", "\\\\serv\\comun", "\\\\?\\C:\\x", "/x"}},
-        {true, false, {"x", "C:x", "..\\x", parte, "com0\\com\\com10\\console.txt"}},
-        {false,
-         false,
-         {"", "a|b", "ab:c", "C:\\a?", "\"x\"", "a\tb", "a\\*", parte + "p", "Con\\x", "obra\\NUL.txt",
-          "C:\\lpt9 .dat.bak", "COM\u00B9", "conout$", "x.\\y", "y "}},
-    };
-    for (const auto &f : filas)
-        for (const std::string &r : f.rutas) {
-            SCOPED_TRACE(r);
-            const auto ruta = ancho(r);
-            EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_CUALQUIERA), f.valida);
-            EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_ABSOLUTO), f.valida && f.absoluta);
-            EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_RELATIVO), f.valida && !f.absoluta);
-        }
+    auto filas = vn::filas<vnbool, vnbool, std::string>(DATOS, "validas");
+    for (const size_t n : {255, 256}) filas.emplace_back(FALSO, n == 255 ? CIERTO : FALSO, std::string(n, 'p'));
+    for (const auto &[absoluta, relativa, r] : filas) {
+        SCOPED_TRACE(r);
+        const auto ruta = ancho(r);
+        EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_CUALQUIERA), absoluta | relativa);
+        EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_ABSOLUTO), absoluta);
+        EXPECT_EQ(vdir_es_path_valido_UNICODE(ruta.c_str(), VDIR_PATH_RELATIVO), relativa);
+    }
     vnwchar *nombre = nullptr;
     EXPECT_EQ(vdir_splitpath_con_comprobacion_UNICODE(VNU("a|b"), nullptr, nullptr, &nombre, nullptr), FALSO);
     EXPECT_EQ(nombre, nullptr);
 }
 
 PRUEBA(vdir, las_listas_siguen_la_mascara) {
-    for (const char *n : {"a.obr", "ab.obr", "a.obr.bak", "sin", "B.OBR", "\U0001F600.obr", "ñ"})
-        vn::graba_fichero(directorio() + "/" + n, "x");
+    for (const char *n : {"a.obr", "ab.obr", "a.obr.bak", "sin", "B.OBR", "\U0001F600.obr", "ñ"}) graba(n, "x");
     fs::create_directory(directorio() + "/sub.obr");
     const auto dir = ancho(directorio());
-    const struct {
-        const char *mascara, *nombres;
-    } filas[] = {
-        {"a*", "a.obr|a.obr.bak|ab.obr"},
-        {"?.obr", EN_WINDOWS ? "B.OBR|a.obr|\U0001F600.obr" : "a.obr|\U0001F600.obr"},
-        {"*.*", "B.OBR|a.obr|a.obr.bak|ab.obr|sin|ñ|\U0001F600.obr"},
-        {"*", "B.OBR|a.obr|a.obr.bak|ab.obr|sin|ñ|\U0001F600.obr"},
-        {"*b*.b*k", "a.obr.bak"},
-        {"*o*r", EN_WINDOWS ? "B.OBR|a.obr|ab.obr|\U0001F600.obr" : "a.obr|ab.obr|\U0001F600.obr"},
-        {"", ""},
-        {"??", ""},
-        {"Ñ", EN_WINDOWS ? "ñ" : ""},
-    };
-    for (const auto &f : filas) EXPECT_EQ(ficheros(dir, f.mascara), f.nombres) << f.mascara;
+    for (const auto &[mascara, aqui, en_windows] : vn::filas<std::string, std::string, std::string>(DATOS, "mascaras"))
+        EXPECT_EQ(ficheros(dir, mascara), EN_WINDOWS ? en_windows : aqui) << mascara;
     EXPECT_EQ(directorios(dir, "*.obr"), "sub.obr");
     arrCADENA_u *a = nullptr;
     EXPECT_EQ(vdir_lista_de_ficheros_UNICODE(en("no").c_str(), VNU("*"), &a), FALSO);
@@ -145,22 +103,23 @@ PRUEBA(vdir, las_listas_siguen_la_mascara) {
 }
 
 PRUEBA(vdir, ficheros_y_directorios_se_crean_se_miran_y_se_borran) {
+    // What is said of a name: directory, file; to be read, to be written (or could be created).
+    const auto dicho = [](const std::basic_string<vnwchar> &n) {
+        std::string s;
+        for (const auto pregunta : {vdir_existe_directorio_UNICODE, vdir_existe_fichero_UNICODE,
+                                    vdir_se_puede_leer_UNICODE, vdir_se_puede_escribir_UNICODE})
+            s += pregunta(n.c_str()) == CIERTO ? "dfre"[s.size()] : '-';
+        return s;
+    };
     const auto fichero = en("uno\\dos/tres.obr"), dir = en("uno/dos");
     EXPECT_EQ(vdir_existe_directorio_UNICODE(dir.c_str()), FALSO);
     EXPECT_EQ(vdir_crea_directorios_fichero_UNICODE(fichero.c_str()), CIERTO);
     EXPECT_EQ(vdir_crea_directorios_UNICODE(dir.c_str(), CIERTO), CIERTO); // it is there
-    EXPECT_EQ(vdir_existe_directorio_UNICODE(dir.c_str()), CIERTO);
-    EXPECT_EQ(vdir_existe_fichero_UNICODE(dir.c_str()), FALSO);
-    EXPECT_EQ(vdir_existe_fichero_UNICODE(fichero.c_str()), FALSO);
-    EXPECT_EQ(vdir_se_puede_escribir_UNICODE(fichero.c_str()), CIERTO); // could be created
-    vn::graba_fichero(directorio() + "/uno/dos/tres.obr", "12345");
-    EXPECT_EQ(vdir_existe_fichero_UNICODE(fichero.c_str()), CIERTO);
-    EXPECT_EQ(vdir_existe_directorio_UNICODE(fichero.c_str()), FALSO);
-    EXPECT_EQ(vdir_se_puede_leer_UNICODE(fichero.c_str()), CIERTO);
-    EXPECT_EQ(vdir_se_puede_leer_UNICODE(dir.c_str()), FALSO);
-    EXPECT_EQ(vdir_se_puede_escribir_UNICODE(fichero.c_str()), CIERTO);
+    EXPECT_EQ(dicho(dir) + dicho(fichero), "d------e");
+    graba("uno/dos/tres.obr", "12345");
+    EXPECT_EQ(dicho(fichero), "-fre");
     EXPECT_EQ(vdir_longitud64_fichero_u(fichero.c_str()), 5u);
-    EXPECT_EQ(vn::lee_fichero(directorio() + "/uno/dos/tres.obr"), "12345");
+    EXPECT_EQ(lee("uno/dos/tres.obr"), "12345");
     EXPECT_EQ(vdir_se_puede_escribir_en_directorio_UNICODE(dir.c_str()), CIERTO);
     EXPECT_EQ(ficheros(dir, "*"), "tres.obr"); // nothing left by the trial
     EXPECT_EQ(vdir_se_puede_escribir_en_directorio_UNICODE(fichero.c_str()), FALSO);
@@ -183,23 +142,23 @@ PRUEBA(vdir, ficheros_y_directorios_se_crean_se_miran_y_se_borran) {
 }
 
 PRUEBA(vdir, renombrar_no_reemplaza_nada) {
-    const auto a = en("a"), b = en("b"), dir = en("dir"), otro = en("otro");
-    vn::graba_fichero(directorio() + "/a", "de a");
-    vn::graba_fichero(directorio() + "/b", "de b");
-    EXPECT_EQ(vdir_renombra_fichero_si_es_posible_UNICODE(a.c_str(), b.c_str()), FALSO);
-    ESPERA_INFORME("renombrado", vdir_renombra_fichero_UNICODE(a.c_str(), b.c_str()));
-    EXPECT_EQ(vn::lee_fichero(directorio() + "/a") + vn::lee_fichero(directorio() + "/b"), "de ade b");
-    EXPECT_EQ(vdir_renombra_fichero_UNICODE(a.c_str(), en("c").c_str()), CIERTO);
-    EXPECT_EQ(vdir_renombra_fichero_UNICODE(b.c_str(), en("B").c_str()), CIERTO); // only its case
+    const auto renombra = [](const char *de, const char *a) {
+        return vdir_renombra_fichero_si_es_posible_UNICODE(en(de).c_str(), en(a).c_str());
+    };
+    graba("a", "de a"), graba("b", "de b");
     fs::create_directories(directorio() + "/dir/dentro");
     fs::create_directory(directorio() + "/otro");
-    EXPECT_EQ(vdir_renombra_fichero_si_es_posible_UNICODE(dir.c_str(), otro.c_str()), FALSO);
-    EXPECT_EQ(vdir_renombra_fichero_si_es_posible_UNICODE(dir.c_str(), en("nuevo").c_str()), CIERTO);
+    EXPECT_EQ(renombra("a", "b"), FALSO);
+    ESPERA_INFORME("renombrado", vdir_renombra_fichero_UNICODE(en("a").c_str(), en("b").c_str()));
+    EXPECT_EQ(lee("a") + lee("b"), "de ade b");
+    EXPECT_EQ(vdir_renombra_fichero_UNICODE(en("a").c_str(), en("c").c_str()), CIERTO);
+    EXPECT_EQ(renombra("b", "B"), CIERTO); // only its case
+    EXPECT_EQ(renombra("dir", "otro"), FALSO);
+    EXPECT_EQ(renombra("dir", "nuevo"), CIERTO);
     // Wine takes a change of capitals alone for nothing to do.
-    const std::string quedan = ficheros(ancho(directorio()), "*");
+    const std::string quedan = ficheros(en(""), "*");
     EXPECT_TRUE(quedan == "B|c" || (EN_WINDOWS && quedan == "b|c")) << quedan;
-    EXPECT_EQ(directorios(ancho(directorio()), "*"), "nuevo|otro");
-    EXPECT_EQ(directorios(en("nuevo"), "*"), "dentro");
+    EXPECT_EQ(directorios(en(""), "*") + "|" + directorios(en("nuevo"), "*"), "nuevo|otro|dentro");
 }
 
 PRUEBA(vdir, una_ruta_larga_con_cualquier_letra) {

@@ -1,31 +1,14 @@
+#include "filas.h"
 #include "foundation/sistema/entorno.h"
 #include "foundation/sistema/lastwin.h"
 #include "foundation/sistema/version.h"
-#include "prueba.h"
 
 PRUEBA(entorno, el_producto_escalado_redondea_como_windows) {
-    const struct {
-        int a, b, c, esperado;
-    } filas[] = {
-        {254, 96, 2540, 10},
-        {1, 1, 2, 1},
-        {-1, 1, 2, -1},
-        {1, -1, -2, 1},
-        {-5, 1, 3, -2},
-        {5, 1, 3, 2},
-        {1, 1, 0, -1},
-        {4, 1, -3, -1},
-        {0, 7, 3, 0},
-        {2147483647, 2147483647, 2147483647, 2147483647},
-        {2147483647, 2, 1, -1},
-        {-2147483647 - 1, -1, 1, -1},
-        {-2147483647 - 1, 2147483647, -2147483647 - 1, 2147483647},
-        {-2147483647 - 1, 1, 1, -2147483647 - 1},
-    };
-    for (const auto &f : filas) {
-        EXPECT_EQ(vornwin_MulDiv(f.a, f.b, f.c), f.esperado) << f.a << " * " << f.b << " / " << f.c;
-        EXPECT_EQ(vornwin_MulDiv_long(f.a, f.b, f.c), f.esperado);
-    }
+    for (const auto &[a, b, c, esperado] :
+         vn::filas<int64_t, int64_t, int64_t, int64_t>("foundation/entorno.tsv", "muldiv"))
+        for (const auto f : {vornwin_MulDiv, vornwin_MulDiv_long})
+            EXPECT_EQ(f(static_cast<int>(a), static_cast<int>(b), static_cast<int>(c)), esperado)
+                << a << " * " << b << " / " << c;
 }
 
 // A window that is none, as one already closed, must not swallow a warning nor block the program.
