@@ -37,6 +37,8 @@ std::u16string tomado(vnwchar *s) {
     return t;
 }
 
+template <auto lee> double leido(vnfichero *f) { return static_cast<double>(lee(f)); }
+
 constexpr const char *MAL = "lc_error_leyendo_fichero";
 
 } // namespace
@@ -132,26 +134,21 @@ PRUEBA(vtxt, los_textos_anchos_conservan_cada_unidad) {
 }
 
 PRUEBA(vtxt, un_valor_que_no_lo_es_se_informa_y_da_cero) {
-    const struct {
-        const char *linea;
-        int64_t (*lee)(vnfichero *);
-    } filas[] = {
-        {"x", [](vnfichero *f) -> int64_t { return vtxt_lee_long_y_salta(f); }},
-        {"12a 3", [](vnfichero *f) -> int64_t { return vtxt_lee_long_y_salta(f); }},
-        {"2147483648", [](vnfichero *f) -> int64_t { return vtxt_lee_long_y_salta(f); }},
-        {"-1", [](vnfichero *f) -> int64_t { return vtxt_lee_ulong_y_salta(f); }},
-        {"65536", [](vnfichero *f) -> int64_t { return vtxt_lee_ushrt_y_salta(f); }},
-        {"256", [](vnfichero *f) -> int64_t { return vtxt_lee_char_y_salta(f); }},
-        {"18446744073709551616", [](vnfichero *f) { return static_cast<int64_t>(vtxt_lee_ulong64_y_salta(f)); }},
-        {"1,5", [](vnfichero *f) { return static_cast<int64_t>(vtxt_lee_double_y_salta(f)); }},
-        {"1e999", [](vnfichero *f) { return static_cast<int64_t>(vtxt_lee_double_y_salta(f)); }},
-        {"0000000000000000000000000000000000000000000000000000000000000000000000001",
-         [](vnfichero *f) -> int64_t { return vtxt_lee_long_y_salta(f); }},
-        {"2", [](vnfichero *f) -> int64_t { return vtxt_leer_BOOL(f); }},
-        {"si", [](vnfichero *f) -> int64_t { return vtxt_lee_bool(f, "SI", "NO"); }},
-    };
+    const std::pair<std::string, double (*)(vnfichero *)> filas[] = {
+        {"x", leido<vtxt_lee_long_y_salta>},
+        {"12a 3", leido<vtxt_lee_long_y_salta>},
+        {"2147483648", leido<vtxt_lee_long_y_salta>},
+        {std::string(72, '0') + "1", leido<vtxt_lee_long_y_salta>},
+        {"-1", leido<vtxt_lee_ulong_y_salta>},
+        {"65536", leido<vtxt_lee_ushrt_y_salta>},
+        {"256", leido<vtxt_lee_char_y_salta>},
+        {"18446744073709551616", leido<vtxt_lee_ulong64_y_salta>},
+        {"1,5", leido<vtxt_lee_double_y_salta>},
+        {"1e999", leido<vtxt_lee_double_y_salta>},
+        {"2", leido<vtxt_leer_BOOL>},
+        {"si", [](vnfichero *f) -> double { return vtxt_lee_bool(f, "SI", "NO"); }}};
     for (const auto &[linea, lee] : filas)
-        leyendo(std::string(linea) + "\n42\n", [&, linea = linea, lee = lee](vnfichero *f) {
+        leyendo(linea + "\n42\n", [&, linea = linea, lee = lee](vnfichero *f) {
             EXPECT_EQ(ESPERA_INFORME(MAL, lee(f)), 0) << linea;
             EXPECT_EQ(vtxt_lee_long_y_salta(f), 42) << linea;
             EXPECT_EQ(ESPERA_INFORME(MAL, vtxt_lee_long(f)), 0) << "past the end";

@@ -8,16 +8,6 @@
 #include <ctime>
 #include <thread>
 
-namespace {
-
-vnfichero *abre(const std::string &contenido) {
-    const std::string nombre = vn::Prueba::directorio() + "/f.txt";
-    vn::graba_fichero(nombre, contenido);
-    return lc_fopen_u(vn::ancho(nombre).c_str(), VNU("rb"));
-}
-
-} // namespace
-
 PRUEBA(vnstdc, los_textos_se_copian_y_se_buscan_hasta_su_final) {
     char room[8];
     vnstdc_memset(room, 'x', sizeof room);
@@ -58,56 +48,46 @@ PRUEBA(vnstdc, los_numeros_se_leen_hasta_donde_llegan) {
 
 // The end is written only where there is room for it, and nothing is written beyond.
 PRUEBA(vnstdc, el_texto_con_limite_se_corta_sin_salirse) {
-    const struct {
-        size_t n;
-        int resultado;
-        std::string_view room;
-    } filas[] = {
-        {0, -1, "......"},
-        {2, -1, "ab...."},
-        {3, 3, "abc..."},
-        {4, 3, std::string_view("abc\0..", 6)},
-    };
-    for (const auto &f : filas) {
+    const std::tuple<size_t, int, std::string> filas[] = {
+        {0, -1, "......"}, {2, -1, "ab...."}, {3, 3, "abc..."}, {4, 3, std::string("abc\0..", 6)}};
+    for (const auto &[n, resultado, queda] : filas) {
         char room[] = "......";
         vnwchar ancho[] = VNU("......");
-        EXPECT_EQ(vnstdc__snprintf(room, f.n, "%s", "abc"), f.resultado);
-        EXPECT_EQ(vnstdc__snwprintf(ancho, f.n, VNU("%s"), VNU("abc")), f.resultado);
-        EXPECT_EQ(std::string_view(room, 6), f.room) << f.n;
-        for (size_t i = 0; i < 6; ++i) EXPECT_EQ(ancho[i], static_cast<vnwchar>(f.room[i])) << f.n << " " << i;
+        EXPECT_EQ(vnstdc__snprintf(room, n, "%s", "abc"), resultado);
+        EXPECT_EQ(vnstdc__snwprintf(ancho, n, VNU("%s"), VNU("abc")), resultado);
+        EXPECT_EQ(std::string(room, 6), queda) << n;
+        EXPECT_TRUE(std::basic_string<vnwchar>(ancho, 6) == vn::ancho(queda)) << n;
     }
 }
 
 PRUEBA(vnstdc, la_lectura_de_un_dato_deja_en_el_flujo_lo_que_no_usa) {
-    vnfichero *f = abre("  -12abc 7 3000000000 0x1F 1.5e2 1e nan 70000 palabra larguisima");
-    int32_t entero = 0;
-    EXPECT_EQ(vnstdc_fscanf1(f, "%d", &entero), 1);
-    EXPECT_EQ(entero, -12);
-    EXPECT_EQ(vnstdc_fscanf1(f, "%d", &entero), 0); // stops at "abc"
-    char texto[8];
-    EXPECT_EQ(vnstdc_fscanf1(f, "%7s", texto), 1);
-    EXPECT_STREQ(texto, "abc");
-    int64_t largo = -1;
-    EXPECT_EQ(vnstdc_fscanf1(f, "%I64d", &largo), 1);
-    EXPECT_EQ(largo, 7);
-    EXPECT_EQ(vnstdc_fscanf1(f, "%ld", &entero), 0); // does not fit
-    uint32_t sin_signo = 0;
-    EXPECT_EQ(vnstdc_fscanf1(f, "%lx", &sin_signo), 1);
-    EXPECT_EQ(sin_signo, 0x1Fu);
-    double real = 0;
-    EXPECT_EQ(vnstdc_fscanf1(f, "%lf", &real), 1);
-    EXPECT_EQ(real, 150.);
-    EXPECT_EQ(vnstdc_fscanf1(f, "%lf", &real), 0); // an exponent without digits
-    EXPECT_EQ(vnstdc_fscanf1(f, "%lf", &real), 1);
-    EXPECT_TRUE(std::isnan(real));
-    uint16_t corto = 0;
-    EXPECT_EQ(vnstdc_fscanf1(f, "%hu", &corto), 0);
-    EXPECT_EQ(vnstdc_fscanf1(f, " palabra %4s", texto), 1);
-    EXPECT_STREQ(texto, "larg");
-    EXPECT_EQ(ESPERA_INFORME("una cadena se lee con su anchura", vnstdc_fscanf1(f, "%s", texto)), 0);
-    EXPECT_EQ(vnstdc_fscanf1(f, "%4c", texto), 1);
-    EXPECT_EQ(vnstdc_fscanf1(f, "%d", &entero), 0);
-    EXPECT_EQ(vnstdc_fscanf1(f, "%*3s %d", &entero), -1);
+    vn::graba_fichero(directorio() + "/f", "  -12abc 7 3000000000 0x1F 1.5e2 1e nan 70000 palabra larguisima");
+    vnfichero *f = lc_fopen_u(vn::ancho(directorio() + "/f").c_str(), VNU("rb"));
+    // What a reading answers, and what it leaves of a value.
+    const auto lee = [f](const char *formato, auto v) {
+        const int r = vnstdc_fscanf1(f, formato, &v);
+        return std::pair(r, v);
+    };
+    const auto lee_texto = [f](const char *formato) {
+        char texto[8] = "#";
+        const int r = vnstdc_fscanf1(f, formato, texto);
+        return std::to_string(r) + texto;
+    };
+    EXPECT_EQ(lee("%d", 0), std::pair(1, -12));
+    EXPECT_EQ(lee("%d", 5), std::pair(0, 5)); // stops at "abc"
+    EXPECT_EQ(lee_texto("%7s"), "1abc");
+    EXPECT_EQ(lee("%I64d", int64_t{-1}), std::pair(1, int64_t{7}));
+    EXPECT_EQ(lee("%ld", 5).first, 0); // does not fit
+    EXPECT_EQ(lee("%lx", 0u), std::pair(1, 0x1Fu));
+    EXPECT_EQ(lee("%lf", 0.), std::pair(1, 150.));
+    EXPECT_EQ(lee("%lf", 0.).first, 0); // an exponent without digits
+    EXPECT_TRUE(std::isnan(lee("%lf", 0.).second));
+    EXPECT_EQ(lee("%hu", uint16_t{0}).first, 0);
+    EXPECT_EQ(lee_texto(" palabra %4s"), "1larg");
+    EXPECT_EQ(ESPERA_INFORME("una cadena se lee con su anchura", lee_texto("%s")), "0#");
+    EXPECT_EQ(lee_texto("%4c").substr(0, 5), "1uisi");
+    EXPECT_EQ(lee("%d", 0).first, 0);
+    EXPECT_EQ(lee("%*3s %d", 0).first, -1);
     EXPECT_EQ(f_lc_feof(f), CIERTO);
     vnstdc_clearerr(f);
     EXPECT_EQ(f_lc_feof(f), FALSO);
@@ -115,44 +95,43 @@ PRUEBA(vnstdc, la_lectura_de_un_dato_deja_en_el_flujo_lo_que_no_usa) {
 }
 
 PRUEBA(vnstdc, dos_datos_de_un_texto_ancho) {
-    int32_t a = 0, b = 0;
-    EXPECT_EQ(vnstdc_swscanf2(VNU("12 / -5"), VNU("%d / %d"), &a, &b), 2);
-    EXPECT_TRUE(a == 12 && b == -5);
-    EXPECT_EQ(vnstdc_swscanf2(VNU("7:"), VNU("%d:%d"), &a, &b), 1);
-    EXPECT_EQ(vnstdc_swscanf2(VNU(""), VNU("%d:%d"), &a, &b), -1);
-    EXPECT_EQ(vnstdc_swscanf2(VNU("010 08"), VNU("%i %i"), &a, &b), 2);
-    EXPECT_TRUE(a == 8 && b == 0);
-    EXPECT_EQ(vnstdc_swscanf2(VNU("obra 3 x"), VNU("%*s %d%*c%c"), &a, &b), 2);
-    EXPECT_TRUE(a == 3 && b == 'x');
-    EXPECT_EQ(ESPERA_INFORME("conversion de formato conocida", vnstdc_swscanf2(VNU("1 2"), VNU("%n%d"), &a, &b)), 0);
-    EXPECT_EQ(ESPERA_INFORME("el formato tiene tantas conversiones como datos",
-                             vnstdc_swscanf2(VNU("1 2 3"), VNU("%d %d %d"), &a, &b)),
-              2);
+    const auto lee = [](const vnwchar *texto, const vnwchar *formato) {
+        int32_t a = 0, b = 0;
+        const int r = vnstdc_swscanf2(texto, formato, &a, &b);
+        return std::tuple(r, a, b);
+    };
+    EXPECT_EQ(lee(VNU("12 / -5"), VNU("%d / %d")), std::tuple(2, 12, -5));
+    EXPECT_EQ(lee(VNU("7:"), VNU("%d:%d")), std::tuple(1, 7, 0));
+    EXPECT_EQ(lee(VNU(""), VNU("%d:%d")), std::tuple(-1, 0, 0));
+    EXPECT_EQ(lee(VNU("010 08"), VNU("%i %i")), std::tuple(2, 8, 0));
+    EXPECT_EQ(lee(VNU("obra 3 x"), VNU("%*s %d%*c%c")), std::tuple(2, 3, 'x'));
+    EXPECT_EQ(ESPERA_INFORME("conversion de formato conocida", lee(VNU("1 2"), VNU("%n%d"))), std::tuple(0, 0, 0));
+    EXPECT_EQ(ESPERA_INFORME("el formato tiene tantas conversiones como datos", lee(VNU("1 2 3"), VNU("%d %d %d"))),
+              std::tuple(2, 1, 2));
 }
 
 PRUEBA(vnstdc, las_fechas_salen_en_ingles_y_las_semanas_segun_la_norma) {
     // Sunday 2 January 2022 is of the last week of 2021; week 53 of 2020 began on Monday 28 December.
     const struct {
-        int dia, mes, anyo, semana, dia_del_anyo;
+        struct tm t;
         const char *formato, *texto;
     } filas[] = {
-        {2, 0, 122, 0, 1, "%a %A %b %d %e %G-%V %j %U %W %u %y", "Sun Sunday Jan 02  2 2021-52 002 01 00 7 22"},
-        {28, 11, 120, 1, 362, "%G-W%V-%u %B", "2020-W53-1 December"},
-        {31, 11, 124, 2, 365, "%G-W%V %D %F %T %p %I", "2025-W01 12/31/24 2024-12-31 13:05:09 PM 01"},
-        {1, 7, 90, 3, 212, "100%% %c %q", "100% Wed Aug  1 13:05:09 1990 %q"},
+        {{9, 5, 13, 2, 0, 122, 0, 1},
+         "%a %A %b %d %e %G-%V %j %U %W %u %y",
+         "Sun Sunday Jan 02  2 2021-52 002 01 00 7 22"},
+        {{9, 5, 13, 28, 11, 120, 1, 362}, "%G-W%V-%u %B", "2020-W53-1 December"},
+        {{9, 5, 13, 31, 11, 124, 2, 365}, "%G-W%V %D %F %T %p %I", "2025-W01 12/31/24 2024-12-31 13:05:09 PM 01"},
+        {{9, 5, 13, 1, 7, 90, 3, 212}, "100%% %c %q", "100% Wed Aug  1 13:05:09 1990 %q"},
     };
     for (const auto &f : filas) {
-        struct tm t = {};
-        t.tm_mday = f.dia, t.tm_mon = f.mes, t.tm_year = f.anyo, t.tm_wday = f.semana, t.tm_yday = f.dia_del_anyo;
-        t.tm_hour = 13, t.tm_min = 5, t.tm_sec = 9;
         char room[80];
         vnwchar ancho[80];
-        const size_t n = vnstdc_strftime(room, sizeof room, f.formato, &t);
+        const size_t n = vnstdc_strftime(room, sizeof room, f.formato, &f.t);
         EXPECT_STREQ(room, f.texto);
         EXPECT_EQ(n, std::strlen(f.texto));
-        EXPECT_EQ(vnstdc_wcsftime(ancho, 80, vn::ancho(f.formato).c_str(), &t), n);
+        EXPECT_EQ(vnstdc_wcsftime(ancho, 80, vn::ancho(f.formato).c_str(), &f.t), n);
         EXPECT_EQ(vn::utf8_de(ancho), f.texto);
-        EXPECT_EQ(vnstdc_strftime(room, n, f.formato, &t), 0u); // no room for the end
+        EXPECT_EQ(vnstdc_strftime(room, n, f.formato, &f.t), 0u); // no room for the end
     }
     struct tm malo;
     std::memset(&malo, 0x7F, sizeof malo);
@@ -163,32 +142,31 @@ PRUEBA(vnstdc, las_fechas_salen_en_ingles_y_las_semanas_segun_la_norma) {
 // Every half hour of the days around the changes of summer time, and of other years: the difference that is written is
 // the one that there was, in the repeated hour too.
 PRUEBA(vnstdc, la_diferencia_con_la_hora_universal_es_la_de_ese_momento) {
-    vnwchar *const zona = vnstdc__wgetenv(VNU("TZ"));
-    for (const char *tz : {"TZ=Europe/Madrid", "TZ=America/St_Johns", "TZ=Australia/Lord_Howe"}) {
-        vnstdc_putenv(tz);
+    using namespace std::chrono;
+    const auto en_zona = [](const std::basic_string<vnwchar> &tz) {
+        vnstdc__wputenv((VNU("TZ=") + tz).c_str());
         const time_t cero = 0;
         static_cast<void>(std::localtime(&cero)); // the C library looks at the zone again, where it has such names
-        for (const int64_t dia : {int64_t{-600000000}, int64_t{-1}, int64_t{200000000}, int64_t{1711756800},
-                                  int64_t{1729900800}, int64_t{1712404800}, int64_t{1710028800}, int64_t{2200000000}}) {
+    };
+    constexpr int64_t DIAS[] = {-600000000, -1, 200000000, 1711756800, 1729900800, 1712404800, 1710028800, 2200000000};
+    vnwchar *const suya = vnstdc__wgetenv(VNU("TZ"));
+    for (const auto *tz : {VNU("Europe/Madrid"), VNU("America/St_Johns"), VNU("Australia/Lord_Howe")}) {
+        en_zona(tz);
+        for (const int64_t dia : DIAS)
             for (int64_t t = dia; t < dia + 4 * 86400; t += 1800) {
                 const struct tm local = *vnstdc__localtime64(&t);
-                using namespace std::chrono;
-                const auto d = sys_days(year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday)
-                                   .time_since_epoch()
-                                   .count();
-                const auto minutos =
-                    static_cast<int>((d * 86400 + local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec - t) / 60);
+                const auto d = sys_days(year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday);
+                const auto minutos = static_cast<int>((d.time_since_epoch().count() * 86400LL + local.tm_hour * 3600 +
+                                                       local.tm_min * 60 + local.tm_sec - t) /
+                                                      60);
                 char esperada[16], escrita[16];
                 vnstdc_sprintf(esperada, "%c%02d%02d", minutos < 0 ? '-' : '+', std::abs(minutos) / 60,
                                std::abs(minutos) % 60);
                 vnstdc_strftime(escrita, sizeof escrita, "%z", &local);
-                ASSERT_STREQ(escrita, esperada) << tz << " " << t;
+                ASSERT_STREQ(escrita, esperada) << vn::utf8_de(tz) << " " << t;
             }
-        }
     }
-    vnstdc__wputenv((std::basic_string<vnwchar>(VNU("TZ=")) + (zona != nullptr ? zona : VNU(""))).c_str());
-    const time_t cero = 0;
-    static_cast<void>(std::localtime(&cero));
+    en_zona(suya != nullptr ? suya : VNU(""));
 }
 
 PRUEBA(vnstdc, la_hora_local_es_de_cada_hebra_y_las_variables_llevan_cualquier_caracter) {
