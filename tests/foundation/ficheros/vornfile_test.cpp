@@ -14,6 +14,8 @@
 #include <thread>
 
 using namespace vn;
+using namespace vn::plataforma;
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -34,39 +36,51 @@ bool escribe_edicion(vnfichero *f, int edicion) {
     return bien;
 }
 
+vnfichero *abre(const std::string &fichero) {
+    return vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(ancho(fichero).c_str());
+}
+bool cierra(vnfichero *f, const std::string &fichero) {
+    return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, ancho(fichero).c_str()) == CIERTO;
+}
+bool hace_definitivo(const std::string &fichero) {
+    return vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(
+               ancho(fichero).c_str(), ancho(fichero + "_TM$").c_str()) == CIERTO;
+}
+bool copia(const std::string &de, const std::string &a) {
+    return vf_copyfile_seguro_u(ancho(de).c_str(), ancho(a).c_str()) == CIERTO;
+}
+
+constexpr const char *NO_ESCRITO = "lc_error_escribiendo_fichero";
+
 } // namespace
 
 GUARDADO(definitivo_al_cerrar) {
-    const auto n = ancho(fichero);
-    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
+    vnfichero *f = abre(fichero);
     if (f == nullptr) return false;
     escribe_edicion(f, edicion);
-    return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str()) == CIERTO;
+    return cierra(f, fichero);
 }
 
 GUARDADO(hacer_definitivo) {
-    const auto n = ancho(fichero), temporal = ancho(fichero + "_TM$");
+    const auto temporal = ancho(fichero + "_TM$");
     vnfichero *f = lc_fopen_u(temporal.c_str(), VNU("wb"));
     const bool escrito = f != nullptr && escribe_edicion(f, edicion);
-    if (f == nullptr || lc_fclose(f) == FALSO || !escrito) {
-        std::error_code error;
-        std::filesystem::remove(std::filesystem::path(temporal), error); // its maker's
-        return false;
-    }
-    return vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(n.c_str(), temporal.c_str()) == CIERTO;
+    if (f != nullptr && lc_fclose(f) == CIERTO && escrito) return hace_definitivo(fichero);
+    std::error_code error;
+    fs::remove(fs::path(temporal), error); // its maker's
+    return false;
 }
 
 GUARDADO(copia_segura) {
     const std::string origen = fichero.substr(0, fichero.find_last_of('/')) + ".origen"; // beside the directory
     graba_fichero(origen, contenido(edicion));
-    return vf_copyfile_seguro_u(ancho(origen).c_str(), ancho(fichero).c_str()) == CIERTO;
+    return copia(origen, fichero);
 }
 
 GUARDADO(fichero_de_memoria) {
     fichmem *m = fichmem_crea_desde_cadena(contenido(edicion).c_str());
-    const bool bien = fichmem_graba_unicode(m, ancho(fichero).c_str()) == CIERTO;
-    fichmem_destruye(&m);
-    return bien;
+    const al_final destruye([&] { fichmem_destruye(&m); });
+    return fichmem_graba_unicode(m, ancho(fichero).c_str()) == CIERTO;
 }
 
 PRUEBA(vornfile, cada_fallo_de_una_copia) {
@@ -80,56 +94,48 @@ PRUEBA(vornfile, cada_fallo_al_hacer_definitivo_un_temporal) { comprueba_guardad
 
 // Patience has a bound: a holder that never lets go makes the save fail, told once, with the old content in place.
 PRUEBA(vornfile, negativas_que_no_pasan) {
-    const auto n = nombre("obra");
     ASSERT_TRUE(guardado_definitivo_al_cerrar(ruta("obra"), 0));
     static int veces;
     const vnoperaciones_fichero terco = {
-        .renombra_abierto =
-            [](vnid_fichero, const vnwchar *, const vnwchar *) {
-                ++veces;
-                return VN_FICH_COMPARTIDO;
-            },
+        .renombra_abierto = [](vnid_fichero, const vnwchar *, const vnwchar *) { return ++veces, VN_FICH_COMPARTIDO; },
         .espera = [](uint32_t) {},
     };
     veces = 0;
     operaciones_fichero_instala(&terco);
-    EXPECT_FALSE(ESPERA_INFORME("lc_error_escribiendo_fichero", guardado_definitivo_al_cerrar(ruta("obra"), 1)));
+    EXPECT_FALSE(ESPERA_INFORME(NO_ESCRITO, guardado_definitivo_al_cerrar(ruta("obra"), 1)));
     operaciones_fichero_instala(nullptr);
-    EXPECT_GT(veces, 5);
-    EXPECT_LT(veces, 100);
+    EXPECT_TRUE(veces > 5 && veces < 100) << veces;
     EXPECT_TRUE(lee_fichero(ruta("obra")) == contenido(0));
     EXPECT_FALSE(existe(ruta("obra_TM$")));
 
     // In the hands of its only writer it is not replaced either.
-    vnfichero *otro = f_lc_fopen_modo_escritura_u(n.c_str(), VNU("r+b"), CIERTO, VN_AQUI);
-    EXPECT_FALSE(ESPERA_INFORME("lc_error_escribiendo_fichero", guardado_definitivo_al_cerrar(ruta("obra"), 1)));
-    EXPECT_EQ(vf_copyfile_seguro_u(n.c_str(), n.c_str()), FALSO);
+    vnfichero *otro = f_lc_fopen_modo_escritura_u(nombre("obra").c_str(), VNU("r+b"), CIERTO, VN_AQUI);
+    EXPECT_FALSE(ESPERA_INFORME(NO_ESCRITO, guardado_definitivo_al_cerrar(ruta("obra"), 1)));
+    EXPECT_FALSE(copia(ruta("obra"), ruta("obra")));
     lc_fclose(otro);
 
-    std::filesystem::create_directory(ruta("carpeta"));
-    EXPECT_FALSE(ESPERA_INFORME("f_lc_fopen", guardado_definitivo_al_cerrar(ruta("carpeta"), 1)));
-    EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", guardado_definitivo_al_cerrar(ruta("no/obra"), 1)), false);
+    fs::create_directory(ruta("carpeta"));
+    for (const char *no : {"carpeta", "no/obra"})
+        EXPECT_FALSE(ESPERA_INFORME("f_lc_fopen", guardado_definitivo_al_cerrar(ruta(no), 1)));
 }
 
 PRUEBA(vornfile, copias_y_anadidos) {
+    const auto anade = [](const char *de, const char *a) {
+        return vf_appendfile_u(nombre(de).c_str(), nombre(a).c_str()) == CIERTO;
+    };
     graba_fichero(ruta("origen"), contenido(5));
-    EXPECT_EQ(vf_copyfile_seguro_u(nombre("origen").c_str(), nombre("copia").c_str()), CIERTO);
-    EXPECT_EQ(vf_copyfile_seguro_u(nombre("no").c_str(), nombre("copia").c_str()), FALSO);
+    EXPECT_TRUE(copia(ruta("origen"), ruta("copia")));
+    EXPECT_FALSE(copia(ruta("no"), ruta("copia")));
     EXPECT_TRUE(lee_fichero(ruta("copia")) == contenido(5));
     graba_fichero(ruta("otro"), "otro");
-    EXPECT_EQ(vf_appendfile_u(nombre("otro").c_str(), nombre("copia").c_str()), CIERTO);
-    EXPECT_EQ(vf_appendfile_u(nombre("otro").c_str(), nombre("otro").c_str()), CIERTO);
-    EXPECT_EQ(vf_appendfile_u(nombre("otro").c_str(), nombre("nuevo").c_str()), CIERTO);
-    EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", vf_appendfile_u(nombre("no").c_str(), nombre("otro").c_str())), FALSO);
+    for (const char *a : {"copia", "otro", "nuevo"}) EXPECT_TRUE(anade("otro", a));
+    EXPECT_FALSE(ESPERA_INFORME("f_lc_fopen", anade("no", "otro")));
     EXPECT_TRUE(lee_fichero(ruta("copia")) == contenido(5) + "otro");
     EXPECT_EQ(lee_fichero(ruta("nuevo")), "otrootro");
 }
 // ---------------------------------------------------------------- what is replaced, and what is in the way
 
 namespace {
-
-using namespace vn::plataforma;
-namespace fs = std::filesystem;
 
 constexpr int MIA = 3;
 bool es_la_mia(const std::string &fichero) { return lee_fichero(fichero) == contenido(MIA); }
@@ -188,10 +194,7 @@ PRUEBA(vornfile, lo_que_hay_en_el_sitio_del_temporal) {
     }
     // A finished temporary that is a link is not put in place either.
     if (enlaza("victima", "obra_TM$")) {
-        EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero",
-                                 vornfile_hacer_definitivo_fichero_temporal_y_hacer_copia_seguridad_u(
-                                     nombre("obra").c_str(), nombre("obra_TM$").c_str())),
-                  FALSO);
+        EXPECT_FALSE(ESPERA_INFORME(NO_ESCRITO, hace_definitivo(ruta("obra"))));
     }
     EXPECT_EQ(lee_fichero(victima), "victima");
     fs::remove(temporal);
@@ -226,10 +229,10 @@ PRUEBA(vornfile, el_nuevo_es_lo_que_era_el_viejo) {
     // What is the user's alone is so from the first byte; and a copy has the rights of what it is made from.
     graba_fichero(ruta("privada"), "vieja");
     if (!hace_privado(ruta("privada"))) return;
-    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(nombre("privada").c_str());
+    vnfichero *f = abre(ruta("privada"));
     EXPECT_TRUE(es_privado(ruta("privada_TM$")));
     EXPECT_EQ(vornfile_abandonar_fichero_escritura(f), CIERTO);
-    EXPECT_EQ(vf_copyfile_seguro_u(nombre("privada").c_str(), nombre("copia").c_str()), CIERTO);
+    EXPECT_TRUE(copia(ruta("privada"), ruta("copia")));
     EXPECT_TRUE(es_privado(ruta("copia")));
 }
 
@@ -252,67 +255,56 @@ PRUEBA(vornfile, nombres_largos_y_relativos) {
 
     const fs::path antes = fs::current_path();
     fs::current_path(directorio());
-    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(VNU("relativa"));
+    vnfichero *f = abre("relativa");
     escribe_edicion(f, MIA);
     fs::current_path(antes);
-    EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, VNU("relativa")), CIERTO);
+    EXPECT_TRUE(cierra(f, "relativa"));
     EXPECT_TRUE(es_la_mia(ruta("relativa")));
 }
 
 // The close and the giving up take a stream that was opened for them, by its name; any other is closed, nothing else.
 PRUEBA(vornfile, flujos_que_no_son_del_guardado) {
-    graba_fichero(ruta("x"), "x");
-    graba_fichero(ruta("y"), "y");
-    const auto n = nombre("x"), otro = nombre("y");
-    vnfichero *f = lc_fopen_u(n.c_str(), VNU("rb"));
-    EXPECT_EQ(ESPERA_INFORME("abierto para hacerse definitivo al cerrar",
-                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str())),
-              FALSO);
-    f = lc_fopen_u(n.c_str(), VNU("rb"));
-    EXPECT_EQ(ESPERA_INFORME("abierto para hacerse definitivo al cerrar", vornfile_abandonar_fichero_escritura(f)),
-              FALSO);
-    f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
-    EXPECT_EQ(ESPERA_INFORME("nombre con el que se ha abierto",
-                             vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, otro.c_str())),
-              FALSO);
-    EXPECT_EQ(lee_fichero(ruta("x")) + lee_fichero(ruta("y")), "xy");
+    const std::string x = ruta("x"), y = ruta("y");
+    graba_fichero(x, "x");
+    graba_fichero(y, "y");
+    const auto otro_flujo = [&] { return lc_fopen_u(ancho(x).c_str(), VNU("rb")); };
+    EXPECT_FALSE(ESPERA_INFORME("abierto para hacerse definitivo al cerrar", cierra(otro_flujo(), x)));
+    EXPECT_EQ(
+        ESPERA_INFORME("abierto para hacerse definitivo al cerrar", vornfile_abandonar_fichero_escritura(otro_flujo())),
+        FALSO);
+    EXPECT_FALSE(ESPERA_INFORME("nombre con el que se ha abierto", cierra(abre(x), y)));
+    EXPECT_EQ(lee_fichero(x) + lee_fichero(y), "xy");
     // Told nonsense: it fails, and says so.
-    f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
-    ESPERA_INFORME("lc_error_escribiendo_fichero", (lc_error_escribiendo_fichero(f), 0));
-    EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, nombre("./x").c_str()), FALSO);
+    vnfichero *f = abre(x);
+    ESPERA_INFORME(NO_ESCRITO, (lc_error_escribiendo_fichero(f), 0));
+    EXPECT_FALSE(cierra(f, ruta("./x")));
     EXPECT_EQ(lc_ultimo_error(nullptr), VN_FICH_DATOS);
-    EXPECT_EQ(lee_fichero(ruta("x")), "x");
-    EXPECT_FALSE(existe(ruta("x_TM$")));
+    EXPECT_EQ(lee_fichero(x), "x");
+    EXPECT_FALSE(existe(x + "_TM$"));
 }
 
 // The second saver is told why, in the report too; the temporary that somebody has taken away is missed.
 PRUEBA(vornfile, se_dice_el_motivo) {
-    const auto n = nombre("obra");
-    vnfichero *f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str());
-    EXPECT_EQ(vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar_u(n.c_str()), nullptr);
+    const std::string obra = ruta("obra");
+    vnfichero *f = abre(obra);
+    EXPECT_EQ(abre(obra), nullptr);
     const auto informes = toma_informes();
     ASSERT_EQ(informes.size(), 1u);
     EXPECT_EQ(informes[0].expresion, "f_lc_fopen");
-    EXPECT_EQ(informes[0].detalle, ruta("obra") + ": lo tiene abierto otro programa");
+    EXPECT_EQ(informes[0].detalle, obra + ": lo tiene abierto otro programa");
     EXPECT_EQ(lc_ultimo_error(nullptr), VN_FICH_COMPARTIDO);
     std::error_code error;
-    if (fs::remove(ruta("obra_TM$"), error)) {
-        graba_fichero(ruta("obra_TM$"), "de otro");
-        EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero",
-                                 vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str())),
-                  FALSO);
-        EXPECT_EQ(lee_fichero(ruta("obra_TM$")), "de otro");
-        EXPECT_FALSE(existe(ruta("obra")));
+    if (fs::remove(obra + "_TM$", error)) {
+        graba_fichero(obra + "_TM$", "de otro");
+        EXPECT_FALSE(ESPERA_INFORME(NO_ESCRITO, cierra(f, obra)));
+        EXPECT_EQ(lee_fichero(obra + "_TM$"), "de otro");
+        EXPECT_FALSE(existe(obra));
     } else {
-        EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(f, n.c_str()), CIERTO);
+        EXPECT_TRUE(cierra(f, obra));
     }
     EXPECT_EQ(f_lc_fopen_seguro_u(nombre("no").c_str(), VNU("rb"), VN_AQUI), nullptr);
     EXPECT_EQ(lc_ultimo_error(nullptr), VN_FICH_NO_EXISTE);
     EXPECT_EQ(utf8_de(lc_texto_error_u(lc_ultimo_error(nullptr))), "no existe");
-    // The system's own flushes are the system's: they refuse what is none of its files.
-    const vnoperaciones_fichero &sistema = *operaciones_fichero_del_sistema();
-    EXPECT_NE(sistema.vuelca(VN_FICHERO_NINGUNO), VN_FICH_BIEN);
-    EXPECT_NE(sistema.vuelca_directorio(nombre("no/obra").c_str()), VN_FICH_BIEN);
 }
 
 // Arguments: a file. Nothing of what the program prints goes into it, and a limit of size is a disk that is full.
