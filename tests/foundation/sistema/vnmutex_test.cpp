@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <numeric>
 #include <random>
 #include <thread>
 
@@ -15,21 +14,25 @@ namespace fs = std::filesystem;
 namespace {
 
 using reloj = std::chrono::steady_clock;
+using ms = std::chrono::milliseconds;
 
 double segundos_desde(reloj::time_point t) { return std::chrono::duration<double>(reloj::now() - t).count(); }
 
 // The wait of this process, for as long as it lives.
-auto con_plazo(uint32_t ms) {
-    return vn::al_final([antes = vnmutex_establece_plazo(ms)] { vnmutex_establece_plazo(antes); });
+auto con_plazo(uint32_t plazo) {
+    return vn::al_final([antes = vnmutex_establece_plazo(plazo)] { vnmutex_establece_plazo(antes); });
 }
 
+bool entra(vnmutex *m) { return vnmutex_entra(m) == CIERTO; }
+bool entra_y_sale(vnmutex *m) {
+    const bool dentro = entra(m);
+    if (dentro) vnmutex_sal(m);
+    return dentro;
+}
 // Whether another thread can enter now.
 bool entra_otra_hebra(vnmutex *m) {
     bool dentro = false;
-    std::thread([&] {
-        dentro = vnmutex_entra(m) == CIERTO;
-        if (dentro) vnmutex_sal(m);
-    }).join();
+    vn::en_hebras(1, [&](int) { dentro = entra_y_sale(m); });
     return dentro;
 }
 
@@ -55,14 +58,9 @@ PRUEBA(vnmutex, el_mismo_nombre_es_el_mismo_cerrojo) {
     const std::string largo(3000, 'x');
     vnmutex *l1 = vnmutex_crea((largo + "1").c_str()), *l2 = vnmutex_crea((largo + "2").c_str());
     const nombre_propio ajeno;
-    vnmutex *maquina = vnmutex_crea_entre_aplicaciones(ajeno.c_str());
-    vnmutex *del_programa = vnmutex_crea(ajeno.c_str());
-    EXPECT_EQ(vnmutex_entra(del_programa), CIERTO);
-    EXPECT_EQ(vnmutex_entra(a), CIERTO);
-    EXPECT_EQ(vnmutex_entra(b), CIERTO); // recursive, through either
-    EXPECT_EQ(vnmutex_entra(l1), CIERTO);
-    EXPECT_FALSE(entra_otra_hebra(a));
-    EXPECT_FALSE(entra_otra_hebra(b));
+    vnmutex *maquina = vnmutex_crea_entre_aplicaciones(ajeno.c_str()), *del_programa = vnmutex_crea(ajeno.c_str());
+    for (vnmutex *m : {del_programa, a, b, l1}) EXPECT_TRUE(entra(m)); // recursive, through a or b
+    for (vnmutex *m : {a, b}) EXPECT_FALSE(entra_otra_hebra(m));
     for (vnmutex *libre : {otro, l2, maquina}) EXPECT_TRUE(entra_otra_hebra(libre));
     vnmutex_sal(a);
     EXPECT_FALSE(entra_otra_hebra(a));
@@ -79,10 +77,10 @@ PRUEBA(vnmutex, salir_y_destruir_a_destiempo) {
     ESPERA_INFORME("dentro", vnmutex_sal(a));
     vnmutex_entra(a);
     ESPERA_INFORME("dentro", vnmutex_sal(b)); // entered through the other
-    std::thread([&] {
+    vn::en_hebras(1, [&](int) {
         ESPERA_INFORME("dentro", vnmutex_sal(a));
         ESPERA_INFORME("!de_otra_hebra", vnmutex_destruye(&a));
-    }).join();
+    });
     ASSERT_NE(a, nullptr);
     ESPERA_INFORME("!dentro", vnmutex_destruye(&a));
     EXPECT_EQ(a, nullptr);
@@ -91,17 +89,17 @@ PRUEBA(vnmutex, salir_y_destruir_a_destiempo) {
     a = vnmutex_crea("dos");
     vnmutex_entra(a);
     vnmutex_entra(a);
-    std::thread([&] { vnmutex_destruye_saliendo(&a); }).join();
+    vn::en_hebras(1, [&](int) { vnmutex_destruye_saliendo(&a); });
     EXPECT_TRUE(entra_otra_hebra(b));
     vnmutex_destruye_saliendo(&b);
 }
 
-// Enters for so long, 5 ms each time; how often.
-static int entra_a_menudo(vnmutex **m, const char *nombre, std::chrono::milliseconds durante) {
+// Enters for so many milliseconds, 5 each time; how often.
+static int entra_a_menudo(vnmutex **m, const std::string &nombre, int durante) {
     int veces = 0;
-    for (const auto fin = reloj::now() + durante; reloj::now() < fin; ++veces) {
-        if (vnmutex_entra_creando_entre_aplicaciones_si_es_necesario(m, nombre) != CIERTO) return 0;
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    for (const auto fin = reloj::now() + ms(durante); reloj::now() < fin; ++veces) {
+        if (vnmutex_entra_creando_entre_aplicaciones_si_es_necesario(m, nombre.c_str()) != CIERTO) return 0;
+        std::this_thread::sleep_for(ms(5));
         vnmutex_sal(*m);
     }
     return veces;
@@ -111,7 +109,7 @@ static int entra_a_menudo(vnmutex **m, const char *nombre, std::chrono::millisec
 HIJO(entra_a_menudo) {
     vnmutex *m = nullptr;
     if (!vn::espera_fichero(args.at(1))) return 3;
-    std::ofstream(args.at(2)) << entra_a_menudo(&m, args.at(0).c_str(), std::chrono::milliseconds(1500));
+    std::ofstream(args.at(2)) << entra_a_menudo(&m, args.at(0), 1500);
     vnmutex_destruye(&m);
     return 0;
 }
@@ -127,7 +125,7 @@ PRUEBA(vnmutex, cuatro_hebras_y_cuatro_programas_entran_por_igual) {
     const nombre_propio nombre;
     int veces[4] = {};
     vnmutex *m = nullptr;
-    vn::en_hebras(4, [&](int i) { veces[i] = entra_a_menudo(&m, nombre.c_str(), std::chrono::milliseconds(1000)); });
+    vn::en_hebras(4, [&](int i) { veces[i] = entra_a_menudo(&m, nombre, 1000); });
     espera_equidad(veces);
     vnmutex_destruye(&m);
 
@@ -143,14 +141,12 @@ PRUEBA(vnmutex, cuatro_hebras_y_cuatro_programas_entran_por_igual) {
     espera_equidad(veces);
 }
 
-// Arguments: name of the mutex, file of the count, file of what was done, how often, and the turn in which to
-// die inside.
+// Arguments: name of the mutex, file of the count, file of what was done, and the turn in which to die inside.
 HIJO(cuenta_bajo_mutex) {
     vnmutex *m = vnmutex_crea_entre_aplicaciones(args.at(0).c_str());
     std::ofstream hecho(args.at(2), std::ios::app);
-    const int veces = std::stoi(args.at(3)), muerte = std::stoi(args.at(4));
-    for (int i = 0; i < veces; ++i) {
-        if (vnmutex_entra(m) != CIERTO) return 3;
+    for (int i = 0, muerte = std::stoi(args.at(3)); i < 60; ++i) {
+        if (!entra(m)) return 3;
         const uint64_t n = lee_cuenta(args.at(1));
         if (i % 16 == 0) std::this_thread::yield();
         std::ofstream(args.at(1)) << n + 1;
@@ -164,27 +160,23 @@ HIJO(cuenta_bajo_mutex) {
 
 PRUEBA(vnmutex, varios_programas_cuentan_y_algunos_mueren_dentro) {
     const nombre_propio nombre;
-    const std::string cuenta = directorio() + "/cuenta";
-    constexpr int PROGRAMAS = 4, VECES = 60;
-    int muertos = 0;
-    uint64_t esperado = 0;
-    auto hijos = vn::procesos(PROGRAMAS, "cuenta_bajo_mutex", [&](int i) {
-        return std::vector<std::string>{nombre, cuenta, directorio() + "/hecho" + std::to_string(i),
-                                        std::to_string(VECES), i % 2 == 1 ? std::to_string(7 * i) : "-1"};
+    const std::string cuenta = directorio() + "/cuenta", hecho = directorio() + "/hecho";
+    auto hijos = vn::procesos(4, "cuenta_bajo_mutex", [&](int i) {
+        return std::vector<std::string>{nombre, cuenta, hecho + std::to_string(i),
+                                        std::to_string(i % 2 == 1 ? 7 * i : -1)};
     });
-    for (int i = 0; i < PROGRAMAS; ++i) {
-        const auto r = hijos[static_cast<size_t>(i)].espera(60000);
-        EXPECT_EQ(r, i % 2 == 1 ? vn::proceso::MUERTO : 0);
-        esperado += vn::lee_fichero(directorio() + "/hecho" + std::to_string(i)).size();
-        muertos += i % 2;
+    uint64_t esperado = 0;
+    for (size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(hijos[i].espera(60000), i % 2 == 1 ? vn::proceso::MUERTO : 0);
+        // One that dies has counted once more than it could say.
+        esperado += vn::lee_fichero(hecho + std::to_string(i)).size() + i % 2;
     }
-    // One that dies has counted once more than it could say.
-    EXPECT_EQ(lee_cuenta(cuenta), esperado + static_cast<uint64_t>(muertos));
+    EXPECT_EQ(lee_cuenta(cuenta), esperado);
 }
 
 HIJO(entra_y_espera) {
     vnmutex *m = vnmutex_crea_entre_aplicaciones(args.at(0).c_str());
-    if (vnmutex_entra(m) != CIERTO) return 3;
+    if (!entra(m)) return 3;
     std::ofstream(args.at(1)) << "dentro";
     std::this_thread::sleep_for(std::chrono::seconds(60));
     return 4;
@@ -194,8 +186,7 @@ PRUEBA(vnmutex, el_plazo_pasa_y_la_muerte_del_que_esta_dentro_lo_libera) {
     const nombre_propio nombre;
     vnmutex *m = vnmutex_crea_entre_aplicaciones(nombre.c_str());
     // A cleaner of old files takes the lock's file from under the mutex: it finds the one that the others use now.
-    EXPECT_EQ(vnmutex_entra(m), CIERTO);
-    vnmutex_sal(m);
+    EXPECT_TRUE(entra_y_sale(m));
     const std::string fichero = vn::fichero_de_cerrojo(nombre);
     EXPECT_EQ(fichero.empty(), !fs::remove(fichero));
     vn::proceso hijo("entra_y_espera", {nombre, directorio() + "/dentro"});
@@ -203,23 +194,22 @@ PRUEBA(vnmutex, el_plazo_pasa_y_la_muerte_del_que_esta_dentro_lo_libera) {
     {
         const auto corto = con_plazo(200);
         const auto antes = reloj::now();
-        EXPECT_EQ(vnmutex_entra(m), FALSO);
+        EXPECT_FALSE(entra(m));
         EXPECT_GE(segundos_desde(antes), 0.19);
         EXPECT_LT(segundos_desde(antes), 5.0);
     }
     const uint64_t abandonados = vnmutex_numero_de_abandonados();
     std::thread mata([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        std::this_thread::sleep_for(ms(100));
         hijo.mata();
     });
     const auto antes = reloj::now();
-    EXPECT_EQ(vnmutex_entra(m), CIERTO);
+    EXPECT_TRUE(entra(m));
     EXPECT_LT(segundos_desde(antes), 1.1);
     mata.join();
     vnmutex_sal(m);
     EXPECT_EQ(vnmutex_numero_de_abandonados(), abandonados + 1);
-    EXPECT_EQ(vnmutex_entra(m), CIERTO); // told once
-    vnmutex_sal(m);
+    EXPECT_TRUE(entra_y_sale(m)); // told once
     EXPECT_EQ(vnmutex_numero_de_abandonados(), abandonados + 1);
     vnmutex_destruye(&m);
 }
@@ -228,7 +218,7 @@ PRUEBA(vnmutex, el_plazo_pasa_y_la_muerte_del_que_esta_dentro_lo_libera) {
 HIJO(intenta_entrar) {
     const auto corto = con_plazo(100);
     vnmutex *m = vnmutex_crea_entre_aplicaciones(args.at(0).c_str());
-    const int r = vnmutex_entra(m) == CIERTO ? 0 : 2;
+    const int r = entra(m) ? 0 : 2;
     vnmutex_destruye_saliendo(&m);
     return r;
 }
@@ -240,19 +230,14 @@ static int intenta_otro(const std::string &nombre) {
 static int hijo_del_que_esta_dentro(void *datos) {
     const auto corto = con_plazo(100);
     auto **m = static_cast<vnmutex **>(datos);
-    if (vnmutex_entra(*m) != FALSO) return 3;
+    if (entra(*m)) return 3;
     const uint64_t informes = error_interno_numero_de_informes();
     vnmutex_sal(*m);
     if (error_interno_numero_de_informes() != informes + 1) return 4;
     vnmutex_destruye_saliendo(m);
     return 0;
 }
-static int hijo_del_que_ha_salido(void *datos) {
-    auto **m = static_cast<vnmutex **>(datos);
-    if (vnmutex_entra(*m) != CIERTO) return 3;
-    vnmutex_sal(*m);
-    return 0;
-}
+static int hijo_del_que_ha_salido(void *datos) { return entra_y_sale(*static_cast<vnmutex **>(datos)) ? 0 : 3; }
 // Outlives the parent, which died inside.
 static int hijo_que_queda(void *datos) {
     std::this_thread::sleep_for(std::chrono::seconds(*static_cast<int *>(datos)));
@@ -260,9 +245,9 @@ static int hijo_que_queda(void *datos) {
 }
 HIJO(muere_dentro_con_un_hijo) {
     vnmutex *m = vnmutex_crea_entre_aplicaciones(args.at(0).c_str());
-    if (vnmutex_entra(m) != CIERTO) return 3;
+    if (!entra(m)) return 3;
     std::thread([fichero = args.at(1)] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        std::this_thread::sleep_for(ms(200));
         vn::graba_fichero(fichero, "");
         vn::muere();
     }).detach();
@@ -276,7 +261,7 @@ PRUEBA(vnmutex, un_proceso_bifurcado_no_tiene_lo_de_su_padre) {
     const nombre_propio nombre;
     vnmutex *m = vnmutex_crea_entre_aplicaciones(nombre.c_str()), *mia = vnmutex_crea("de hebras");
     for (vnmutex **uno : {&m, &mia}) {
-        EXPECT_EQ(vnmutex_entra(*uno), CIERTO);
+        EXPECT_TRUE(entra(*uno));
         // Inside a process the child, which is another, is alone.
         const int esperado = uno == &m ? 0 : 3;
         EXPECT_EQ(vn::bifurca(hijo_del_que_esta_dentro, uno).value_or(esperado), esperado);
@@ -290,17 +275,14 @@ PRUEBA(vnmutex, un_proceso_bifurcado_no_tiene_lo_de_su_padre) {
     vn::proceso padre("muere_dentro_con_un_hijo", {nombre, directorio() + "/muere"});
     EXPECT_TRUE(vn::espera_fichero(directorio() + "/muere"));
     const auto corto = con_plazo(2000);
-    EXPECT_EQ(vnmutex_entra(m), CIERTO);
-    vnmutex_sal(m);
-    vnmutex_destruye(&m);
-    vnmutex_destruye(&mia);
+    EXPECT_TRUE(entra_y_sale(m));
+    for (vnmutex **uno : {&m, &mia}) vnmutex_destruye(uno);
 }
 
 // Who makes something else where the shared lock should be gets nothing written, and the user's programs share one of
 // their own, which is told.
 PRUEBA(vnmutex, lo_que_ocupa_el_sitio_del_cerrojo_no_se_toca) {
-    const std::string victima = directorio() + "/victima", vacia = directorio() + "/vacia",
-                      casa = directorio() + "/casa";
+    const std::string d = directorio() + "/", victima = d + "victima", vacia = d + "vacia", casa = d + "casa";
     vn::pon_variable("XDG_CONFIG_HOME", casa);
     vn::pon_variable("ENPRUEBA", "1");
     const std::pair<const char *, std::function<void(const std::string &)>> ocupantes[] = {
@@ -320,11 +302,11 @@ PRUEBA(vnmutex, lo_que_ocupa_el_sitio_del_cerrojo_no_se_toca) {
         const auto corto = con_plazo(100);
         ocupa(fichero);
         vnmutex *m = vnmutex_crea_entre_aplicaciones(nombre.c_str());
-        EXPECT_EQ(vnmutex_entra(m), CIERTO);
+        EXPECT_TRUE(entra(m));
         EXPECT_EQ(intenta_otro(nombre), 2);
         vnmutex_sal(m);
         EXPECT_EQ(intenta_otro(nombre), 0);
-        EXPECT_EQ(vnmutex_entra(m), CIERTO);
+        EXPECT_TRUE(entra(m));
         vnmutex_destruye_saliendo(&m);
         EXPECT_EQ(toma_avisos().size(), 1u);
         EXPECT_EQ(vn::lee_fichero(victima) + vn::lee_fichero(vacia), "suyo");
@@ -332,11 +314,11 @@ PRUEBA(vnmutex, lo_que_ocupa_el_sitio_del_cerrojo_no_se_toca) {
 
         // Not that of others, either.
         for (const bool ajeno : {false, true}) {
-            if (!ajeno) fs::permissions(casa + "/nucleos-lock", fs::perms::others_write, fs::perm_options::add);
-            else if (!vn::hazlo_de_otro(casa + "/nucleos-lock")) continue;
-            else fs::permissions(casa + "/nucleos-lock", fs::perms::others_write, fs::perm_options::remove);
+            const std::string suyo = casa + "/nucleos-lock";
+            if (ajeno && !vn::hazlo_de_otro(suyo)) continue;
+            fs::permissions(suyo, fs::perms::others_write, ajeno ? fs::perm_options::remove : fs::perm_options::add);
             m = vnmutex_crea_entre_aplicaciones(nombre.c_str());
-            EXPECT_EQ(vnmutex_entra(m), FALSO) << ajeno;
+            EXPECT_FALSE(entra(m)) << ajeno;
             vnmutex_destruye(&m);
         }
         fs::remove_all(casa);

@@ -12,19 +12,16 @@ using vn::toma;
 namespace {
 
 constexpr uint32_t RAIZ = VORNREG_USUARIO;
-const std::string CLAVE = "Software\\nucleos_prueba";
 
-// The registry's file, where it has one, in the test's directory; a name under CLAVE that no other run uses.
+// The registry's file, where it has one, in the test's directory; a key that no other run uses.
 std::string clave_propia() {
-    fichconf_establece_directorio_base(ancho(vn::Prueba::directorio()).c_str());
     const std::string &d = vn::Prueba::directorio();
-    return CLAVE + "\\" + d.substr(d.find_last_of('/') + 1);
+    fichconf_establece_directorio_base(ancho(d).c_str());
+    return "Software\\nucleos_prueba\\" + d.substr(d.find_last_of('/') + 1);
 }
-bool pon(const std::string &clave, const std::string &valor, const std::basic_string<vnwchar> &texto) {
-    return vornreg_establece_cadena_u(RAIZ, ancho(clave).c_str(), ancho(valor).c_str(), texto.c_str()) == CIERTO;
-}
-bool quita(const std::string &clave, const std::string &valor) {
-    return vornreg_establece_cadena_u(RAIZ, ancho(clave).c_str(), ancho(valor).c_str(), nullptr) == CIERTO;
+// A null text takes the value away.
+bool pon(const std::string &clave, const std::string &valor, const vnwchar *texto) {
+    return vornreg_establece_cadena_u(RAIZ, ancho(clave).c_str(), ancho(valor).c_str(), texto) == CIERTO;
 }
 std::basic_string<vnwchar> lee(const std::string &clave, const std::string &valor) {
     vnwchar *t = nullptr;
@@ -40,11 +37,9 @@ std::string subclaves(const std::string &clave) {
 }
 std::string textos(const std::string &clave) {
     arrCADENA_u *nombres = nullptr, *valores = nullptr;
-    if (vornreg_lee_valores_cadena_clave_ex_u(RAIZ, ancho(clave).c_str(), VORNREG_VISTA_PROPIA, &nombres, &valores) !=
-        CIERTO)
-        return "(none)";
-    const std::string n = toma(nombres);
-    return n + " -> " + toma(valores);
+    const vnbool hay_clave =
+        vornreg_lee_valores_cadena_clave_ex_u(RAIZ, ancho(clave).c_str(), VORNREG_VISTA_PROPIA, &nombres, &valores);
+    return hay_clave == CIERTO ? toma(nombres) + " -> " + toma(valores) : "(none)";
 }
 
 } // namespace
@@ -52,25 +47,21 @@ std::string textos(const std::string &clave) {
 PRUEBA(vornreg, lo_que_se_pone_se_lee) {
     const std::string clave = clave_propia();
     vnwchar sola[] = {VNU('a'), 0xD800, VNU('b'), 0};
-    const std::basic_string<vnwchar> valores[] = {VNU(""),
-                                                  VNU("llano"),
-                                                  VNU("=[;x]\\n \\\\ \\u0041 "),
-                                                  VNU("dos\r\nlíneas\t\x01"),
-                                                  VNU("日本 \U0001F600"),
-                                                  sola,
-                                                  std::basic_string<vnwchar>(5000, VNU('ñ'))};
+    const std::basic_string<vnwchar> larga(5000, VNU('ñ'));
+    const vnwchar *const valores[] = {
+        VNU(""), VNU("llano"), VNU("=[;x]\\n \\\\ \\u0041 "), VNU("dos\r\nlíneas\t\x01"), VNU("日本 \U0001F600"),
+        sola,    larga.c_str()};
     const char *const nombres[] = {"", "Con espacios", "a=b", "[x]", ";y", "ñandú", "a\\b"};
     for (const char *nombre : nombres) {
         EXPECT_EQ(lee(clave, nombre), VNU("(none)"));
-        for (const auto &v : valores) {
+        for (const vnwchar *v : valores) {
             EXPECT_TRUE(pon(clave, nombre, v));
             EXPECT_EQ(lee(clave, nombre), v) << nombre;
         }
     }
     for (const char *nombre : nombres) {
-        EXPECT_EQ(lee(clave, nombre), valores[std::size(valores) - 1]);
-        EXPECT_TRUE(quita(clave, nombre));
-        EXPECT_TRUE(quita(clave, nombre)); // there or not
+        EXPECT_EQ(lee(clave, nombre), larga);
+        for (int i = 0; i < 2; ++i) EXPECT_TRUE(pon(clave, nombre, nullptr)); // there or not
         EXPECT_EQ(lee(clave, nombre), VNU("(none)"));
     }
     EXPECT_TRUE(hay(clave)); // without values it stays
@@ -79,7 +70,7 @@ PRUEBA(vornreg, lo_que_se_pone_se_lee) {
 PRUEBA(vornreg, claves_y_nombres_en_cualquier_caja) {
     const std::string clave = clave_propia();
     EXPECT_EQ(subclaves(clave), "(none)");
-    EXPECT_TRUE(quita(clave + "\\no", "x")); // nothing is made for it
+    EXPECT_TRUE(pon(clave + "\\no", "x", nullptr)); // nothing is made for it
     EXPECT_FALSE(hay(clave));
     EXPECT_TRUE(pon(clave + "\\Beta\\Hija", "Nombre", VNU("uno")));
     EXPECT_TRUE(pon("\\" + clave + "\\alfa/con barra\\", "", VNU("dos")));
@@ -116,7 +107,7 @@ PRUEBA(vornreg, un_fichero_escrito_a_mano) {
     vn::graba_fichero(fichero, "\xEF\xBB\xBF" + antes + "UNO=1b\n" + resto);
     EXPECT_EQ(lee(clave, "uno"), VNU("1b"));
     EXPECT_TRUE(pon(clave, "Uno", VNU("3")) && pon("Otra", "c", VNU("4")));
-    EXPECT_TRUE(quita("otra", "b"));
+    EXPECT_TRUE(pon("otra", "b", nullptr));
     EXPECT_TRUE(pon("nueva", "", VNU("5")));
     EXPECT_EQ(vn::lee_fichero(fichero), "[" + raiz + "\\" + clave + "]\r\n; de la oficina\r\nUno=3\n\r\n; fin\n[" +
                                             raiz + "\\Otra]\nc=4\n[" + raiz + "\\nueva]\n=5\n");
@@ -143,21 +134,20 @@ PRUEBA(vornreg, sobre_un_fichero_cualquiera) {
 // Arguments: the base directory, the key, the number of the program.
 HIJO(anota_en_el_registro) {
     fichconf_establece_directorio_base(ancho(args.at(0)).c_str());
-    for (int i = 0; i < 8; ++i)
-        if (!pon(args.at(1), args.at(2) + "." + std::to_string(i), ancho("v" + std::to_string(i)))) return 3;
+    for (const char c : std::string("01234567"))
+        if (!pon(args.at(1), args.at(2) + c, ancho(args.at(2) + c).c_str())) return 3;
     return 0;
 }
 
 PRUEBA(vornreg, varios_programas_a_la_vez) {
     const std::string clave = clave_propia();
-    constexpr int PROGRAMAS = 5;
-    auto hijos = vn::procesos(PROGRAMAS, "anota_en_el_registro", [&](int i) {
+    auto hijos = vn::procesos(5, "anota_en_el_registro", [&](int i) {
         return std::vector{directorio(), clave, std::to_string(i)};
     });
     for (auto &h : hijos) EXPECT_EQ(h.espera(60000), 0);
-    for (int i = 0; i < PROGRAMAS; ++i)
-        for (int k = 0; k < 8; ++k)
-            EXPECT_EQ(lee(clave, std::to_string(i) + "." + std::to_string(k)), ancho("v" + std::to_string(k)));
+    for (const char programa : std::string("01234"))
+        for (const char c : std::string("01234567"))
+            EXPECT_EQ(lee(clave, {programa, c}), ancho(std::string{programa, c}));
 }
 
 // Where the registry is a file: one value, which each edition replaces.
@@ -165,7 +155,7 @@ GUARDADO(registro) {
     const std::string carpeta = fichero.substr(0, fichero.rfind("/VORN/"));
     vn::pon_variable("XDG_RUNTIME_DIR", carpeta);
     fichconf_establece_directorio_base(ancho(carpeta).c_str());
-    return pon("k", "v", std::basic_string<vnwchar>(70000, static_cast<vnwchar>('0' + edicion)));
+    return pon("k", "v", std::basic_string<vnwchar>(70000, static_cast<vnwchar>('0' + edicion)).c_str());
 }
 
 PRUEBA(vornreg, cada_fallo_al_grabarlo) {
