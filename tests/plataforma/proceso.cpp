@@ -13,13 +13,6 @@ std::map<std::string, funcion_hijo> &hijos() {
     return m;
 }
 
-std::vector<std::string> con_marca(const std::string &hijo, const std::vector<std::string> &args) {
-    if (hijos().count(hijo) == 0) throw std::logic_error("no child function " + hijo);
-    std::vector<std::string> todos{MARCA, hijo};
-    todos.insert(todos.end(), args.begin(), args.end());
-    return todos;
-}
-
 } // namespace
 
 registra_hijo::registra_hijo(const char *nombre, funcion_hijo funcion) { hijos()[nombre] = funcion; }
@@ -33,9 +26,11 @@ std::optional<int> corre_hijo(int argc, char **argv) {
     return i->second(args);
 }
 
-proceso::proceso(const std::string &hijo, const std::vector<std::string> &args)
-    : id_(plataforma::lanza(con_marca(hijo, args))) {
-    if (id_ == 0) throw std::runtime_error("no child process could be started");
+proceso::proceso(const std::string &hijo, const std::vector<std::string> &args) : id_(0) {
+    std::vector<std::string> todos{MARCA, hijo};
+    todos.insert(todos.end(), args.begin(), args.end());
+    if (hijos().count(hijo) > 0) id_ = plataforma::lanza(todos);
+    if (id_ == 0) throw std::runtime_error("child not started: " + hijo);
 }
 
 proceso::proceso(proceso &&otro) noexcept

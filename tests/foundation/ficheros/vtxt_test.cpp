@@ -183,32 +183,28 @@ PRUEBA(vtxt, un_buffer_nunca_se_pasa) {
 }
 
 PRUEBA(vtxt, los_miembros_de_dos_sentidos_vuelven_por_donde_fueron) {
-    struct valores {
-        vnbool logico;
-        double doble;
-        uint16_t corto;
-        uint8_t byte;
-        char *cadena, *vieja;
-        vnwchar *ancha;
-    };
-    const auto trata = [](valores &v, vnfichero *f, vnbool graba) {
-        vtxt_trata_double(&v.doble, f, graba);
+    vnbool logico = CIERTO;
+    double doble = 2.5;
+    uint16_t corto = 65535;
+    uint8_t byte = 255;
+    char texto[] = "un texto", viejo[] = "\xA4", *cadena = texto, *vieja = viejo;
+    vnwchar linea[] = VNU("línea\n2"), *ancha = linea;
+    const auto trata = [&](vnfichero *f, vnbool graba) {
+        vtxt_trata_double(&doble, f, graba);
         vtxt_trata_comentario("comentario", f, graba);
-        vtxt_trata_bool(f, &v.logico, "SI", "NO", graba);
-        vtxt_trata_ushrt(&v.corto, f, graba);
-        vtxt_trata_uchar_como_ushrt(&v.byte, f, graba);
-        vtxt_trata_cadena(&v.cadena, f, graba);
-        vtxt_trata_cadena_u(&v.ancha, f, graba);
-        vtxt_trata_cadena_ansi_ascii(&v.vieja, f, graba, 2, 1);
+        vtxt_trata_bool(f, &logico, "SI", "NO", graba);
+        vtxt_trata_ushrt(&corto, f, graba);
+        vtxt_trata_uchar_como_ushrt(&byte, f, graba);
+        vtxt_trata_cadena(&cadena, f, graba);
+        vtxt_trata_cadena_u(&ancha, f, graba);
+        vtxt_trata_cadena_ansi_ascii(&vieja, f, graba, 2, 1);
     };
-    char texto[] = "un texto", viejo[] = "\xA4";
-    std::basic_string<vnwchar> ancha = vn::ancho("línea\n2");
-    valores v{CIERTO, 2.5, 65535, 255, texto, viejo, ancha.data()}, w{};
-    const std::string bytes = escrito([&](vnfichero *f) { trata(v, f, CIERTO); });
+    const std::string bytes = escrito([&](vnfichero *f) { trata(f, CIERTO); });
     EXPECT_EQ(bytes, "2.5 ; comentario\nSI\n65535 255 un texto\nlínea\020000A2\n\xA4\n");
-    leyendo(bytes, [&](vnfichero *f) { trata(w, f, FALSO); });
-    EXPECT_TRUE(w.logico == CIERTO && w.doble == 2.5 && w.corto == 65535 && w.byte == 255);
-    EXPECT_EQ(tomado(w.cadena), "un texto");
-    EXPECT_EQ(tomado(w.vieja), "\xA4");
-    EXPECT_EQ(tomado(w.ancha), u"línea\n2");
+    logico = FALSO, doble = 0, corto = byte = 0, cadena = vieja = nullptr, ancha = nullptr;
+    leyendo(bytes, [&](vnfichero *f) { trata(f, FALSO); });
+    EXPECT_EQ(std::tuple(logico, doble, corto, byte), std::tuple(CIERTO, 2.5, 65535, 255));
+    EXPECT_EQ(tomado(cadena), "un texto");
+    EXPECT_EQ(tomado(vieja), "\xA4");
+    EXPECT_EQ(tomado(ancha), u"línea\n2");
 }

@@ -1,20 +1,10 @@
 #include "plataforma/ficheros.h"
+#include "prueba.h"
 #include <windows.h>
 
 #include <sddl.h>
 
 namespace vn::plataforma {
-namespace {
-
-std::wstring ancho(const std::string &utf8) {
-    std::wstring w(utf8.size() + 1, L'\0');
-    w.resize(
-        static_cast<size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.c_str(), -1, w.data(), static_cast<int>(w.size()))) -
-        1);
-    return w;
-}
-
-} // namespace
 
 void hace_particular(const std::string &fichero) {
     PSECURITY_DESCRIPTOR d = nullptr;
@@ -34,7 +24,7 @@ std::string particularidades(const std::string &fichero) {
         !ConvertSecurityDescriptorToStringSecurityDescriptorW(memoria, SDDL_REVISION_1, DACL_SECURITY_INFORMATION,
                                                               &texto, nullptr))
         return s + "?";
-    for (const wchar_t *p = texto; *p != 0; ++p) s += static_cast<char>(*p);
+    s += utf8_de(texto);
     LocalFree(texto);
     return s;
 }

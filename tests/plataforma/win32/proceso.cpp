@@ -1,17 +1,11 @@
 #include "plataforma/proceso.h"
+#include "prueba.h"
 #include <windows.h>
 
 #include <shellapi.h>
 
 namespace vn {
 namespace {
-
-std::wstring ancho(const std::string &utf8) {
-    const int n = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), nullptr, 0);
-    std::wstring w(static_cast<size_t>(n), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), w.data(), n);
-    return w;
-}
 
 // One argument as the parser of command lines takes it back.
 std::wstring entre_comillas(const std::wstring &a) {
@@ -52,12 +46,10 @@ intptr_t lanza(const std::vector<std::string> &args) {
     inicio.cb = sizeof inicio;
     PROCESS_INFORMATION p{};
     // About one process in ten thousand dies in Wine's loader before its first instruction: none that did anything.
-    const auto crea = [&] {
-        return CreateProcessW(programa.c_str(), linea.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &inicio,
-                              &p);
-    };
-    for (int intentos = 3; !crea(); --intentos)
-        if (GetLastError() != ERROR_INTERNAL_ERROR || intentos == 0) return 0;
+    for (int quedan = 3;
+         !CreateProcessW(programa.c_str(), linea.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &inicio, &p);
+         --quedan)
+        if (GetLastError() != ERROR_INTERNAL_ERROR || quedan == 0) return 0;
     CloseHandle(p.hThread);
     return reinterpret_cast<intptr_t>(p.hProcess);
 }
@@ -77,13 +69,7 @@ std::vector<std::string> argumentos(int, char **) {
     int n = 0;
     LPWSTR *anchos = CommandLineToArgvW(GetCommandLineW(), &n);
     std::vector<std::string> r;
-    for (int i = 0; i < n; ++i) {
-        std::string u(static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, nullptr, 0, nullptr, nullptr)),
-                      '\0');
-        WideCharToMultiByte(CP_UTF8, 0, anchos[i], -1, u.data(), static_cast<int>(u.size()), nullptr, nullptr);
-        u.pop_back();
-        r.push_back(u);
-    }
+    for (int i = 0; i < n; ++i) r.push_back(utf8_de(anchos[i]));
     LocalFree(anchos);
     return r;
 }
