@@ -5,6 +5,8 @@
 
 using namespace vn;
 
+static std::string bytes(const fichmem *m) { return std::string(reinterpret_cast<char *>(m->datos), m->longitud); }
+
 PRUEBA(fichmem, los_contenidos_van_y_vuelven) {
     const auto nombre = ancho(directorio() + "/memoria");
     for (const std::string &contenido : {std::string(), std::string("uno\0dos", 7), std::string(300000, 'm')}) {
@@ -12,16 +14,14 @@ PRUEBA(fichmem, los_contenidos_van_y_vuelven) {
             fichmem_crea32(contenido.empty() ? nullptr : contenido.data(), static_cast<uint32_t>(contenido.size()));
         EXPECT_EQ(fichmem_graba_unicode(m, nombre.c_str()), CIERTO);
         EXPECT_TRUE(lee_fichero(directorio() + "/memoria") == contenido);
-        fichmem *leido = fichmem_lee_unicode(nombre.c_str());
-        fichmem *copia = fichmem_copia(leido);
+        fichmem *leido = fichmem_lee_unicode(nombre.c_str()), *copia = fichmem_copia(leido);
         fichmem_destruye(&leido);
         EXPECT_EQ(leido, nullptr);
-        EXPECT_TRUE(std::string(reinterpret_cast<char *>(copia->datos), copia->longitud) == contenido);
+        EXPECT_TRUE(bytes(copia) == contenido);
         char *cadena = fichmem_copia_contenido_como_cadena(copia);
         EXPECT_STREQ(cadena, contenido.c_str());
         fichmem *de_cadena = fichmem_crea_desde_cadena(cadena);
-        EXPECT_EQ(de_cadena->longitud, std::char_traits<char>::length(contenido.c_str()));
-        vornspy_free_pp(&cadena, 1);
+        EXPECT_TRUE(bytes(de_cadena) == toma(cadena));
         for (fichmem **p : {&m, &copia, &de_cadena}) fichmem_destruye(p);
     }
 }
@@ -39,10 +39,10 @@ PRUEBA(fichmem, de_quien_es_y_fallos) {
     m = ESPERA_INFORME("datos != nullptr || longitud == 0", fichmem_crea32(nullptr, 4));
     EXPECT_EQ(m->longitud, 0u);
     fichmem_destruye(&m);
-    graba_fichero(directorio() + "/memoria", std::string(1000, 'x'));
+    const std::string f = directorio() + "/memoria";
+    graba_fichero(f, std::string(1000, 'x'));
     vornspy_instala_permiso([](size_t n, void *) { return n < 1000 || n > 2000 ? CIERTO : FALSO; }, nullptr);
-    EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", fichmem_lee_unicode(ancho(directorio() + "/memoria").c_str())),
-              nullptr);
+    EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", fichmem_lee_unicode(ancho(f).c_str())), nullptr);
     vornspy_instala_permiso(nullptr, nullptr);
 }
 
@@ -54,7 +54,7 @@ PRUEBA(fichmem, lo_que_no_dice_su_tamanyo_se_lee_hasta_el_final) {
         if (todo.empty()) continue; // this system has none
         fichmem *m = fichmem_lee(nombre);
         ASSERT_NE(m, nullptr);
-        EXPECT_TRUE(std::string(reinterpret_cast<char *>(m->datos), m->longitud) == todo) << nombre << m->longitud;
+        EXPECT_TRUE(bytes(m) == todo) << nombre << m->longitud;
         fichmem_destruye(&m);
     }
     if (std::ifstream("/proc/self/mem")) {

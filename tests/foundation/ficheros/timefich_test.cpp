@@ -1,13 +1,18 @@
 #define VN_MODULO "timefich_test"
 #include "foundation/ficheros/timefich.h"
 #include "texto_ancho.h"
+#include <array>
+#include <bit>
 #include <ctime>
 
+static std::array<int32_t, 9> campos(int64_t segundos, vnbool local) {
+    timefich_fecha fecha;
+    timefich_convertir_fecha(segundos, local, &fecha);
+    return std::bit_cast<std::array<int32_t, 9>>(fecha);
+}
+
 PRUEBA(timefich, un_momento_se_descompone) {
-    const struct {
-        int64_t segundos;
-        timefich_fecha fecha;
-    } filas[] = {
+    const std::pair<int64_t, std::array<int32_t, 9>> filas[] = {
         {0, {1970, 1, 1, 0, 0, 0, 4, 0, 0}},
         {-1, {1969, 12, 31, 23, 59, 59, 3, 364, 0}},
         {951782400 + 86399, {2000, 2, 29, 23, 59, 59, 2, 59, 0}},
@@ -16,37 +21,24 @@ PRUEBA(timefich, un_momento_se_descompone) {
         {-62135596800, {1, 1, 1, 0, 0, 0, 1, 0, 0}},
         {253402300799, {9999, 12, 31, 23, 59, 59, 5, 364, 0}},
     };
-    const auto campos = [](const timefich_fecha &f) {
-        return std::vector<int32_t>{
-            f.anyo, f.mes, f.dia, f.hora, f.minuto, f.segundo, f.dia_semana, f.dia_anyo, f.horario_de_verano};
-    };
-    for (const auto &f : filas) {
-        timefich_fecha fecha;
-        timefich_convertir_fecha(f.segundos, FALSO, &fecha);
-        EXPECT_EQ(campos(fecha), campos(f.fecha)) << f.segundos;
-    }
+    for (const auto &[segundos, fecha] : filas) EXPECT_EQ(campos(segundos, FALSO), fecha) << segundos;
     // Local time is what the C library of the platform says of it, in winter and in summer.
     for (const time_t t : {time_t{1705300000}, time_t{1720900000}}) {
-        timefich_fecha fecha;
-        timefich_convertir_fecha(t, CIERTO, &fecha);
         const std::tm d = *std::localtime(&t);
-        EXPECT_EQ(campos(fecha), (std::vector<int32_t>{d.tm_year + 1900, d.tm_mon + 1, d.tm_mday, d.tm_hour, d.tm_min,
-                                                       d.tm_sec, d.tm_wday, d.tm_yday, d.tm_isdst}));
+        EXPECT_EQ(campos(t, CIERTO), (std::array{d.tm_year + 1900, d.tm_mon + 1, d.tm_mday, d.tm_hour, d.tm_min,
+                                                 d.tm_sec, d.tm_wday, d.tm_yday, d.tm_isdst}));
     }
-    timefich_fecha fecha;
-    ESPERA_INFORME("fecha_UTC >= PRIMER_SEGUNDO && fecha_UTC <= ULTIMO_SEGUNDO",
-                   timefich_convertir_fecha(INT64_MAX, FALSO, &fecha));
-    EXPECT_EQ(fecha.anyo, 0);
+    EXPECT_EQ(ESPERA_INFORME("fecha_UTC >= PRIMER_SEGUNDO && fecha_UTC <= ULTIMO_SEGUNDO", campos(INT64_MAX, FALSO))[0],
+              0);
 }
 
 PRUEBA(timefich, la_fecha_de_un_fichero) {
     const std::string nombre = directorio() + "/f";
     vn::graba_fichero(nombre, "x");
-    int64_t fecha = 0;
+    int64_t fecha = 0, antes = 0;
     EXPECT_EQ(timefich_obtener_fecha_fichero_existente_UTC(nombre.c_str(), &fecha), CIERTO);
     EXPECT_NEAR(static_cast<double>(fecha), static_cast<double>(std::time(nullptr)), 60);
     std::filesystem::last_write_time(nombre, std::filesystem::last_write_time(nombre) - std::chrono::hours(1000));
-    int64_t antes = 0;
     EXPECT_EQ(timefich_obtener_fecha_fichero_existente_UTC(nombre.c_str(), &antes), CIERTO);
     EXPECT_EQ(fecha - antes, 3600000);
     for (const std::string &no : {directorio(), nombre + "2"})

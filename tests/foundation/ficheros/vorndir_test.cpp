@@ -23,8 +23,8 @@ PRUEBA(vorndir, los_ficheros_temporales_son_nuevos) {
         EXPECT_EQ(vdir_borra_fichero_UNICODE(ancho(ruta).c_str()), CIERTO);
     }
     const std::string ansi = toma(vorndir_creaFicheroTemporalConExt("t"));
-    EXPECT_EQ(toma(vorndir_dameDirectorioTemporal()), temporal);
     EXPECT_EQ(vdir_borra_fichero_UNICODE(ancho(ansi).c_str()), CIERTO);
+    EXPECT_EQ(toma(vorndir_dameDirectorioTemporal()), temporal);
     for (const char *ext : {"/../x", "\\x", "a:b"})
         EXPECT_EQ(ESPERA_INFORME("es_extension(ext)", vorndir_creaFicheroTemporalConExt(ext)), nullptr);
 }
@@ -57,16 +57,16 @@ PRUEBA(vorndir, las_listas_dan_rutas_y_bajan) {
         return r;
     };
     arrCADENA_u *ficheros = nullptr, *directorios = nullptr;
-    EXPECT_EQ(vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(ancho(d).c_str(), VNU("*.obr"),
-                                                                               &ficheros, &directorios),
-              CIERTO);
+    const auto lista = [&](const std::string &de, const vnwchar *mascara) {
+        return vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(ancho(de).c_str(), mascara, &ficheros,
+                                                                                &directorios);
+    };
+    EXPECT_EQ(lista(d, VNU("*.obr")), CIERTO);
     EXPECT_EQ(toma(std::exchange(ficheros, nullptr)),
               rutas({"/1.obr", "/ш.obr", "/a/2.obr", "/c/5.obr", "/a/b/3.obr"}));
     EXPECT_EQ(toma(std::exchange(directorios, nullptr)),
               hay_enlaces ? rutas({"/a", "/c", "/a/b", "/c/vuelta"}) : rutas({"/a", "/c", "/a/b"}));
-    EXPECT_EQ(vorndir_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(ancho(d + "/no").c_str(), VNU("*"),
-                                                                               &ficheros, &directorios),
-              FALSO);
+    EXPECT_EQ(lista(d + "/no", VNU("*")), FALSO);
     EXPECT_EQ(arr_NumElemsCADENA_u(ficheros) + arr_NumElemsCADENA_u(directorios), 0u);
     vorndir_libera_lista_de_ficheros_en_directorio_y_subdirectorios_UNICODE(&ficheros, &directorios);
 
@@ -74,7 +74,5 @@ PRUEBA(vorndir, las_listas_dan_rutas_y_bajan) {
     EXPECT_EQ(toma(ficheros), rutas({"/1.obr", "/ш.obr"}));
     arrCADENA *ansi = nullptr; // the page has no Cyrillic
     EXPECT_EQ(vorndir_lista_de_fichero((d + "/*.obr").c_str(), &ansi), CIERTO);
-    ASSERT_EQ(arr_NumElemsCADENA(ansi), 1u);
-    EXPECT_EQ(arr_GetCADENA(ansi, 0), rutas({"/1.obr"}));
-    arr_DestruyeCADENA(&ansi);
+    EXPECT_EQ(toma(ansi), rutas({"/1.obr"}));
 }
