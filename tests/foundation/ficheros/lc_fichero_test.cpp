@@ -44,23 +44,19 @@ bool salta() { return trampa.veces > 0 && trampa.veces-- > 0; }
 const vnoperaciones_fichero &sistema() { return *operaciones_fichero_del_sistema(); }
 
 const vnoperaciones_fichero CON_TRAMPA = {
-    .abre = [](const vnwchar *n, uint32_t como,
-               vnid_fichero *id) { return salta() ? trampa.error : sistema().abre(n, como, id); },
-    .lee = [](vnid_fichero id, int64_t p, void *d, size_t n,
-              size_t *k) { return salta() ? trampa.error : sistema().lee(id, p, d, std::min(n, trampa.maximo), k); },
+    .abre = [](auto... a) { return salta() ? trampa.error : sistema().abre(a...); },
+    .lee = [](auto id, auto p, auto d, size_t n,
+              auto k) { return salta() ? trampa.error : sistema().lee(id, p, d, std::min(n, trampa.maximo), k); },
     .escribe =
-        [](vnid_fichero id, int64_t p, const void *d, size_t n, size_t *k) {
+        [](auto id, auto p, auto d, size_t n, auto k) {
             return salta() ? trampa.error : sistema().escribe(id, p, d, std::min(n, trampa.maximo), k);
         },
-    .vuelca = [](vnid_fichero id) { return salta() ? trampa.error : sistema().vuelca(id); },
+    .vuelca = [](auto id) { return salta() ? trampa.error : sistema().vuelca(id); },
     .espera = [](uint32_t) { ++trampa.esperas; },
 };
 
 // The table above, from here to the end of the test.
-void pon_trampa() {
-    trampa = {};
-    operaciones_fichero_instala(&CON_TRAMPA);
-}
+void pon_trampa() { trampa = {}, operaciones_fichero_instala(&CON_TRAMPA); }
 
 } // namespace
 
@@ -225,13 +221,12 @@ PRUEBA(lc_fichero, los_fallos_al_escribir) {
 
 PRUEBA(lc_fichero, se_espera_con_limite) {
     pon_trampa();
-    const std::string diez(10, 'i');
     trampa = {VN_FICH_INTERRUMPIDA, 900, 0, 3};
     flujo f("paciencia", "w+b");
     trampa.veces = 900;
-    pon(f, diez);
+    pon(f, "diez letras");
     EXPECT_TRUE(va(f, 0));
-    EXPECT_EQ(toma(f, 20), diez);
+    EXPECT_EQ(toma(f, 20), "diez letras");
     trampa.veces = 1 << 30;
     EXPECT_TRUE(va(f, 99999));
     EXPECT_EQ(f_getc_sin_error(f), -1);
@@ -369,24 +364,23 @@ PRUEBA(lc_fichero, las_lineas_anchas) {
 // The ANSI names and modes of all modules, with a letter that is another byte in each encoding.
 PRUEBA(lc_fichero, nombres_ansi_y_textos_viejos) {
     const std::string corto = directorio() + "/a\xF1o", ancho_utf8 = directorio() + "/a\u00F1o";
-    vnfichero *f = lc_fopen(corto.c_str(), "wb");
-    ASSERT_NE(f, nullptr);
+    const std::string viejos("a\xA4o\0\xA0", 5), ansi("a\xF1o\0\xE1", 5);
+    flujo f(lc_fopen(corto.c_str(), "wb"));
     EXPECT_EQ(utf8_de(lc_nombre_fichero(f)), ancho_utf8);
-    lc_fwrite("a\xA4o\0\xA0", 1, 5, f);
-    EXPECT_EQ(lc_fclose(f), CIERTO);
+    pon(f, viejos);
     for (const uint16_t version : {uint16_t{3}, uint16_t{4}}) {
         char b[5];
-        f = version == 3 ? f_lc_fopen_seguro(corto.c_str(), "rb", VN_AQUI)
-                         : f_lc_fopen_en_varios_intentos(corto.c_str(), "rb", VN_AQUI);
+        f.reset();
+        f.reset((version == 3 ? f_lc_fopen_seguro : f_lc_fopen_en_varios_intentos)(corto.c_str(), "rb", VN_AQUI));
         EXPECT_EQ(f_lc_fread_ansi_ascii(b, 1, 5, f, version, 3, VN_AQUI), 5u);
-        EXPECT_EQ(std::string(b, 5), version == 3 ? std::string("a\xF1o\0\xE1", 5) : std::string("a\xA4o\0\xA0", 5));
-        EXPECT_EQ(lc_fclose(f), CIERTO);
+        EXPECT_EQ(std::string(b, 5), version == 3 ? ansi : viejos);
     }
-    f = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar(corto.c_str());
-    lc_fwrite("x", 1, 1, f);
-    EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar(f, corto.c_str()), CIERTO);
+    f.reset();
+    vnfichero *g = vornfile_abrir_fichero_escritura_se_hace_definitivo_al_cerrar(corto.c_str());
+    pon(g, "x");
+    EXPECT_EQ(vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar(g, corto.c_str()), CIERTO);
     EXPECT_EQ(vf_copyfile_seguro(corto.c_str(), (corto + "2").c_str()), CIERTO);
     EXPECT_EQ(lee_fichero(ancho_utf8 + "2"), "x");
-    EXPECT_EQ(lee_fichero(ancho_utf8 + ".bak").size(), 5u);
+    EXPECT_EQ(lee_fichero(ancho_utf8 + ".bak"), viejos);
     EXPECT_EQ(ESPERA_INFORME("f_lc_fopen", lc_fopen((corto + "3").c_str(), "rb")), nullptr);
 }

@@ -3,6 +3,7 @@
 #include "foundation/ficheros/vtxt.h"
 #include "foundation/texto/unicode.h"
 #include "prueba.h"
+#include <array>
 #include <bit>
 #include <cmath>
 #include <cstring>
@@ -63,36 +64,27 @@ PRUEBA(vtxt, los_valores_se_separan_con_un_blanco_y_las_lineas_se_cierran) {
 }
 
 PRUEBA(vtxt, cada_numero_vuelve_tal_cual) {
-    const double dobles[] = {0.0,     -0.0,    0.1, 1e300, 5e-324, 1.7976931348623157e308, -3, 123456789012345680.0,
-                             vn::INF, -vn::INF};
-    const std::string bytes = escrito([&](vnfichero *f) {
-        for (const double d : dobles) vtxt_escr_double(d, f);
-        vtxt_escr_double_y_salta(-std::nan(""), f);
-        for (int i = 0; i < 256; ++i) vtxt_escr_char(static_cast<char>(i), f);
-        vtxt_escr_fin_linea(f);
-        vtxt_escr_signed_short(INT16_MIN, f);
-        vtxt_escr_ushrt_y_salta(UINT16_MAX, f);
-        vtxt_escr_long_y_salta(INT32_MIN, f);
-        vtxt_escr_ulong(UINT32_MAX, f);
-        vtxt_escr_long64_y_salta(INT64_MIN, f);
-        vtxt_escr_ulong64(UINT64_MAX, f);
-        vtxt_escr_uchar(200, f);
-    });
-    EXPECT_NE(bytes.find("inf -inf nan\n"), bytes.npos);
-    leyendo(bytes, [&](vnfichero *f) {
-        for (const double d : dobles)
-            EXPECT_EQ(std::bit_cast<uint64_t>(vtxt_lee_double(f)), std::bit_cast<uint64_t>(d));
-        EXPECT_TRUE(std::isnan(vtxt_lee_double_y_salta(f)));
-        for (int i = 0; i < 256; ++i) EXPECT_EQ(vtxt_lee_char(f), static_cast<char>(i));
-        vtxt_salta_linea(f);
-        EXPECT_EQ(vtxt_lee_signed_short(f), INT16_MIN);
-        EXPECT_EQ(vtxt_lee_ushrt_y_salta(f), UINT16_MAX);
-        EXPECT_EQ(vtxt_lee_long_y_salta(f), INT32_MIN);
-        EXPECT_EQ(vtxt_lee_ulong(f), UINT32_MAX);
-        EXPECT_EQ(vtxt_lee_long64_y_salta(f), INT64_MIN);
-        EXPECT_EQ(vtxt_lee_ulong64(f), UINT64_MAX);
-        EXPECT_EQ(vtxt_lee_uchar(f), 200);
-    });
+    const auto vuelve = [](auto escribe, auto lee, auto v) {
+        const std::string bytes = escrito([&](vnfichero *f) { escribe(v, f); });
+        const auto bits = [](auto x) { return std::bit_cast<std::array<unsigned char, sizeof x>>(x); };
+        leyendo(bytes, [&](vnfichero *f) { EXPECT_EQ(bits(lee(f)), bits(v)) << bytes; });
+    };
+    for (const double d :
+         {0., -0., 0.1, 1e300, 5e-324, 1.7976931348623157e308, -3., 123456789012345680., vn::INF, -vn::INF})
+        vuelve(vtxt_escr_double, vtxt_lee_double, d);
+    for (int i = 0; i < 256; ++i) vuelve(vtxt_escr_char, vtxt_lee_char, static_cast<char>(i));
+    vuelve(vtxt_escr_signed_short, vtxt_lee_signed_short, int16_t{INT16_MIN});
+    vuelve(vtxt_escr_ushrt_y_salta, vtxt_lee_ushrt_y_salta, uint16_t{UINT16_MAX});
+    vuelve(vtxt_escr_long_y_salta, vtxt_lee_long_y_salta, int32_t{INT32_MIN});
+    vuelve(vtxt_escr_ulong, vtxt_lee_ulong, uint32_t{UINT32_MAX});
+    vuelve(vtxt_escr_long64_y_salta, vtxt_lee_long64_y_salta, int64_t{INT64_MIN});
+    vuelve(vtxt_escr_ulong64, vtxt_lee_ulong64, uint64_t{UINT64_MAX});
+    vuelve(vtxt_escr_uchar, vtxt_lee_uchar, uint8_t{200});
+    EXPECT_EQ(escrito([](vnfichero *f) {
+                  for (const double d : {vn::INF, -vn::INF, -std::nan("")}) vtxt_escr_double(d, f);
+              }),
+              "inf -inf nan ");
+    leyendo("nan\n", [](vnfichero *f) { EXPECT_TRUE(std::isnan(vtxt_lee_double_y_salta(f))); });
 }
 
 PRUEBA(vtxt, los_textos_ocupan_lo_que_queda_de_la_linea) {
