@@ -167,12 +167,10 @@ PRUEBA(lc_fichero, una_lectura_corta_se_informa_y_se_rellena) {
     char b[8];
     std::memset(b, '#', sizeof b);
     EXPECT_EQ(f_lc_fread_sin_error(b, 2, 2, f), 2u);
-    EXPECT_EQ(f_lc_feof(f), FALSO);
-    EXPECT_EQ(lc_ha_fallado(f), FALSO);
+    EXPECT_EQ(std::pair(f_lc_feof(f), lc_ha_fallado(f)), std::pair(FALSO, FALSO));
     EXPECT_EQ(ESPERA_INFORME("lc_error_leyendo_fichero", f_lc_fread(b, 2, 3, f, "quien", 77)), 0u);
     EXPECT_EQ(std::string(b, 8), std::string("5\0\0\0\0\0##", 8));
-    EXPECT_EQ(f_lc_feof(f), CIERTO);
-    EXPECT_EQ(f_lc_ferror(f), CIERTO);
+    EXPECT_EQ(std::pair(f_lc_feof(f), f_lc_ferror(f)), std::pair(CIERTO, CIERTO));
     EXPECT_EQ(f_getc_sin_error(f), -1);
     uint64_t v = 1;
     EXPECT_EQ(lc_fseek(f, -2, VN_DESDE_EL_FINAL), CIERTO);
@@ -325,24 +323,26 @@ PRUEBA(lc_fichero, un_solo_escritor_y_zonas_entre_programas) {
 
 // Locks belong to the stream: the closing of another one drops none, and what is read under a lock is read anew.
 PRUEBA(lc_fichero, zonas_de_dos_flujos) {
+    constexpr int64_t LEJOS = int64_t{1} << 40;
+    const auto retiene = [](vnfichero *f, int64_t desde, uint32_t n) {
+        return lc_bloquea_zona_fichero(f, desde, n, VN_ZONA_EXCLUSIVA);
+    };
     graba_fichero(ruta("dos"), std::string(50, '0'));
     flujo a("dos", "r+b"), b("dos", "r+b");
     EXPECT_EQ(toma(b, 1), "0");
-    EXPECT_EQ(lc_bloquea_zona_fichero(a, 0, 10, VN_ZONA_EXCLUSIVA), CIERTO);
-    EXPECT_EQ(lc_bloquea_zona_fichero(a, int64_t{1} << 40, 10, VN_ZONA_EXCLUSIVA), CIERTO);
+    for (const int64_t desde : {int64_t{0}, LEJOS}) EXPECT_EQ(retiene(a, desde, 10), CIERTO);
     flujo("dos", "r+b").reset();
-    EXPECT_EQ(lc_bloquea_zona_fichero(b, 9, 5, VN_ZONA_EXCLUSIVA), FALSO);
-    EXPECT_EQ(lc_bloquea_zona_fichero(b, (int64_t{1} << 40) + 9, 1, VN_ZONA_EXCLUSIVA), FALSO);
-    EXPECT_EQ(lc_bloquea_zona_fichero(b, 10, 5, VN_ZONA_EXCLUSIVA), CIERTO);
+    for (const int64_t desde : {int64_t{9}, LEJOS + 9}) EXPECT_EQ(retiene(b, desde, 5), FALSO) << desde;
+    EXPECT_EQ(retiene(b, 10, 5), CIERTO);
     pon(a, "12345");
     EXPECT_EQ(lc_desbloquea_zona_fichero(a, 0, 10), CIERTO);
-    EXPECT_EQ(lc_bloquea_zona_fichero(b, 0, 5, VN_ZONA_EXCLUSIVA), CIERTO);
+    EXPECT_EQ(retiene(b, 0, 5), CIERTO);
     EXPECT_EQ(toma(b, 4), "2345") << "the buffer was filled before the lock";
     // Beside other writers any writer can lock, either way; not the byte by which they are writers.
     flujo c("dos", "wb");
-    EXPECT_EQ(lc_bloquea_zona_fichero(c, 100, 4000000000, VN_ZONA_EXCLUSIVA), CIERTO);
+    EXPECT_EQ(retiene(c, 100, 4000000000), CIERTO);
     EXPECT_EQ(lc_bloquea_zona_fichero(c, 20, 1, VN_ZONA_COMPARTIDA), CIERTO);
-    EXPECT_EQ(lc_bloquea_zona_fichero(b, 20, 1, VN_ZONA_EXCLUSIVA), FALSO);
+    EXPECT_EQ(retiene(b, 20, 1), FALSO);
 }
 
 PRUEBA(lc_fichero, las_lineas_anchas) {

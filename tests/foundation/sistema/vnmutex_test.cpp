@@ -17,7 +17,6 @@ using reloj = std::chrono::steady_clock;
 using ms = std::chrono::milliseconds;
 
 double segundos_desde(reloj::time_point t) { return std::chrono::duration<double>(reloj::now() - t).count(); }
-
 // The wait of this process, for as long as it lives.
 auto con_plazo(uint32_t plazo) {
     return vn::al_final([antes = vnmutex_establece_plazo(plazo)] { vnmutex_establece_plazo(antes); });
@@ -129,14 +128,14 @@ PRUEBA(vnmutex, cuatro_hebras_y_cuatro_programas_entran_por_igual) {
     espera_equidad(veces);
     vnmutex_destruye(&m);
 
-    const auto fichero = [&](int i) { return directorio() + "/veces" + std::to_string(i); };
+    const std::string ya = directorio() + "/ya";
     auto hijos = vn::procesos(4, "entra_a_menudo", [&](int i) {
-        return std::vector<std::string>{nombre, directorio() + "/ya", fichero(i)};
+        return std::vector<std::string>{nombre, ya, ya + std::to_string(i)};
     });
-    vn::graba_fichero(directorio() + "/ya", "");
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(hijos[static_cast<size_t>(i)].espera(30000), 0);
-        veces[i] = static_cast<int>(lee_cuenta(fichero(i)));
+    vn::graba_fichero(ya, "");
+    for (size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(hijos[i].espera(30000), 0);
+        veces[i] = static_cast<int>(lee_cuenta(ya + std::to_string(i)));
     }
     espera_equidad(veces);
 }
@@ -174,10 +173,19 @@ PRUEBA(vnmutex, varios_programas_cuentan_y_algunos_mueren_dentro) {
     EXPECT_EQ(lee_cuenta(cuenta), esperado);
 }
 
+// Tells that it is there, and outlives its parent.
+static int hijo_que_queda(void *fichero) {
+    vn::graba_fichero(*static_cast<const std::string *>(fichero), "");
+    std::this_thread::sleep_for(std::chrono::seconds(5));
+    vn::muere();
+}
+// Arguments: name of the mutex, file that tells that it is inside, and anything for a child of its own. To be killed.
 HIJO(entra_y_espera) {
     vnmutex *m = vnmutex_crea_entre_aplicaciones(args.at(0).c_str());
     if (!entra(m)) return 3;
-    std::ofstream(args.at(1)) << "dentro";
+    std::string fichero = args.at(1);
+    if (args.size() > 2) vn::bifurca(hijo_que_queda, &fichero);
+    vn::graba_fichero(fichero, "");
     std::this_thread::sleep_for(std::chrono::seconds(60));
     return 4;
 }
@@ -238,25 +246,6 @@ static int hijo_del_que_esta_dentro(void *datos) {
     return 0;
 }
 static int hijo_del_que_ha_salido(void *datos) { return entra_y_sale(*static_cast<vnmutex **>(datos)) ? 0 : 3; }
-// Outlives the parent, which died inside.
-static int hijo_que_queda(void *datos) {
-    std::this_thread::sleep_for(std::chrono::seconds(*static_cast<int *>(datos)));
-    vn::muere();
-}
-HIJO(muere_dentro_con_un_hijo) {
-    vnmutex *m = vnmutex_crea_entre_aplicaciones(args.at(0).c_str());
-    if (!entra(m)) return 3;
-    std::thread([fichero = args.at(1)] {
-        std::this_thread::sleep_for(ms(200));
-        vn::graba_fichero(fichero, "");
-        vn::muere();
-    }).detach();
-    int segundos = 5;
-    vn::bifurca(hijo_que_queda, &segundos);
-    hijo_que_queda(&segundos);
-    return 4;
-}
-
 PRUEBA(vnmutex, un_proceso_bifurcado_no_tiene_lo_de_su_padre) {
     const nombre_propio nombre;
     vnmutex *m = vnmutex_crea_entre_aplicaciones(nombre.c_str()), *mia = vnmutex_crea("de hebras");
@@ -272,8 +261,9 @@ PRUEBA(vnmutex, un_proceso_bifurcado_no_tiene_lo_de_su_padre) {
     for (vnmutex **uno : {&m, &mia}) EXPECT_EQ(vn::bifurca(hijo_del_que_ha_salido, uno).value_or(0), 0);
     EXPECT_EQ(intenta_otro(nombre), 0);
 
-    vn::proceso padre("muere_dentro_con_un_hijo", {nombre, directorio() + "/muere"});
-    EXPECT_TRUE(vn::espera_fichero(directorio() + "/muere"));
+    vn::proceso padre("entra_y_espera", {nombre, directorio() + "/dentro", "con un hijo"});
+    EXPECT_TRUE(vn::espera_fichero(directorio() + "/dentro"));
+    padre.mata();
     const auto corto = con_plazo(2000);
     EXPECT_TRUE(entra_y_sale(m));
     for (vnmutex **uno : {&m, &mia}) vnmutex_destruye(uno);

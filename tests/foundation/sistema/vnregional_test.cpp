@@ -16,6 +16,11 @@ const std::string DATOS = "foundation/vnregional.tsv";
 std::string fecha(int32_t dia, int32_t mes, int32_t anyo, const std::string &modelo) {
     return toma(vnregional_fecha_u(dia, mes, anyo, ancho(modelo).c_str(), FALSO));
 }
+std::string separadores() {
+    vnwchar s[3] = {};
+    vnregional_separadores(&s[0], &s[1]);
+    return vn::utf8_de(s);
+}
 std::string decimal() { return toma(vnregional_dato_u(VNREGIONAL_SEPARADOR_DECIMAL)); }
 
 // A region of the process, until the test ends.
@@ -79,7 +84,7 @@ PRUEBA(vnregional, los_numeros) {
 }
 
 PRUEBA(vnregional, la_del_usuario_se_sigue_aunque_cambie) {
-    vnwchar d = 0, m = 0;
+    using reloj = std::chrono::steady_clock;
     {
         const vn::region_del_usuario antes("en-US", "en-US");
         vnregional_establece(nullptr);
@@ -87,27 +92,20 @@ PRUEBA(vnregional, la_del_usuario_se_sigue_aunque_cambie) {
     }
     const vn::region_del_usuario ahora("de-DE", "en-GB");
     vnregional_establece(nullptr);
-    EXPECT_EQ(decimal(), ",");
+    EXPECT_EQ(decimal() + separadores(), ",,.");
     EXPECT_EQ(toma(vnregional_numero_u(VNU("1234.5"), 50)), "1.234,50");
     EXPECT_EQ(toma(vnregional_fecha_u(24, 12, 2023, nullptr, FALSO)), "24/12/2023");
-    vnregional_separadores(&d, &m);
-    EXPECT_TRUE(d == VNU(',') && m == VNU('.'));
     // A region of the process goes before the user's, without the user's own changes, until it is taken back.
     en_region("en-US");
-    EXPECT_EQ(decimal(), ".");
-    EXPECT_EQ(vnregional_establece("no es una region"), FALSO);
-    EXPECT_EQ(vnregional_establece(""), FALSO);
-    vnregional_separadores(&d, &m);
-    EXPECT_TRUE(d == VNU('.') && m == VNU(','));
+    for (const char *no : {"no es una region", ""}) EXPECT_EQ(vnregional_establece(no), FALSO);
+    EXPECT_EQ(decimal() + separadores(), "..,");
     vnregional_establece(nullptr);
     EXPECT_EQ(decimal(), ",");
     // A change that nobody tells is seen, within a second, by both readers.
     const vn::region_del_usuario otra("en-GB", "en-GB");
-    const auto antes = std::chrono::steady_clock::now();
-    do {
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
-        vnregional_separadores(&d, &m);
-    } while (d == VNU(',') && std::chrono::steady_clock::now() - antes < std::chrono::seconds(10));
-    EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - antes).count(), 1.0);
+    const auto antes = reloj::now();
+    do std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    while (separadores() == ",." && reloj::now() - antes < std::chrono::seconds(10));
+    EXPECT_LT(std::chrono::duration<double>(reloj::now() - antes).count(), 1.0);
     EXPECT_EQ(decimal(), ".");
 }
