@@ -16,16 +16,14 @@ PRUEBA(dirwin, el_recorrido_da_cada_uno_una_vez) {
     std::map<std::string, std::string> vistos;
     while (dirwin_findnextfile_UNICODE(w, &dato) == CIERTO) {
         const bool es_dir = dirwin_es_directorio_UNICODE(&dato) == CIERTO;
-        const bool nuevo =
-            vistos.emplace(vn::utf8_de(dato.nombre), es_dir ? "dir" : std::to_string(dato.tamanyo)).second;
-        EXPECT_TRUE(nuevo);
+        EXPECT_TRUE(vistos.emplace(vn::utf8_de(dato.nombre), es_dir ? "dir" : std::to_string(dato.tamanyo)).second);
         if (es_dir) continue;
         int64_t fecha = 0;
         timefich_obtener_fecha_fichero_existente_UTC_UNICODE((vn::ancho(d + "/") + dato.nombre).c_str(), &fecha);
         EXPECT_EQ(dato.fecha_UTC, fecha);
     }
-    EXPECT_EQ(vistos,
-              (std::map<std::string, std::string>{{"a.obr", "5"}, {"sub.obr", "dir"}, {largo + "ñ文.obr", "0"}}));
+    const decltype(vistos) hay = {{"a.obr", "5"}, {"sub.obr", "dir"}, {largo + "ñ文.obr", "0"}};
+    EXPECT_EQ(vistos, hay);
     EXPECT_EQ(dato.nombre[0], 0);
     EXPECT_EQ(dirwin_findnextfile_UNICODE(w, &dato), FALSO);
     dirwin_destruye_UNICODE(&w);

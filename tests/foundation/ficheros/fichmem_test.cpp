@@ -27,8 +27,7 @@ PRUEBA(fichmem, los_contenidos_van_y_vuelven) {
 }
 
 PRUEBA(fichmem, de_quien_es_y_fallos) {
-    auto *bloque = static_cast<unsigned char *>(vornspy_calloc(4, 1));
-    unsigned char *mio = bloque;
+    auto *bloque = static_cast<unsigned char *>(vornspy_calloc(4, 1)), *mio = bloque;
     fichmem *m = fichmem_crea_original32(&mio, 4);
     EXPECT_EQ(mio, nullptr);
     EXPECT_EQ(m->datos, bloque);

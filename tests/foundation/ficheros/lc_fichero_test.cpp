@@ -301,14 +301,13 @@ PRUEBA(lc_fichero, un_solo_escritor_y_zonas_entre_programas) {
     };
     proceso otro("lc_fichero_retiene", {ruta("zona")});
     ASSERT_TRUE(espera_fichero(ruta("zona.listo")));
-    EXPECT_EQ(escritor("r+b"), nullptr);
-    EXPECT_EQ(escritor("wb"), nullptr);
+    for (const char *modo : {"r+b", "wb"}) EXPECT_EQ(escritor(modo), nullptr);
     EXPECT_EQ(f_lc_fopen_un_solo_intento_u(nombre("zona").c_str(), VNU("r+b"), VN_AQUI), nullptr);
     EXPECT_EQ(lee_fichero(ruta("zona")).size(), 100u) << "a refused opening has emptied the file";
     {
         flujo lector("zona", "rb");
-        EXPECT_EQ(lc_bloquea_zona_fichero(lector, 14, 1, VN_ZONA_COMPARTIDA), FALSO);
-        EXPECT_EQ(lc_bloquea_zona_fichero(lector, 15, 1, VN_ZONA_COMPARTIDA), CIERTO);
+        for (const int64_t byte : {14, 15})
+            EXPECT_EQ(lc_bloquea_zona_fichero(lector, byte, 1, VN_ZONA_COMPARTIDA), byte == 14 ? FALSO : CIERTO);
         graba_fichero(ruta("zona.basta"), "");
         // The zone comes free when its holder dies.
         EXPECT_EQ(lc_bloquea_zona_fichero(lector, 14, 1, VN_ZONA_COMPARTIDA | VN_ZONA_ESPERA), CIERTO);
