@@ -211,6 +211,9 @@ PRUEBA(lc_fichero, los_fallos_al_escribir) {
     EXPECT_EQ(ESPERA_INFORME("lc_error_escribiendo_fichero", lc_vuelca_a_disco(f)), FALSO);
     EXPECT_EQ(lc_vuelca_a_disco(f), FALSO) << "a failed flush is not tried again";
     EXPECT_EQ(lc_fclose(f.release()), FALSO);
+    f = flujo("lleno", "wb");
+    trampa = {VN_FICH_ES, 1, 0, SIZE_MAX};
+    EXPECT_EQ(lc_fclose_volcando_a_disco(f.release()), FALSO) << "the flush alone has failed";
     // The system's own flushes reach it: they are refused where nothing can be flushed.
     EXPECT_NE(sistema().vuelca(VN_FICHERO_NINGUNO), VN_FICH_BIEN);
     EXPECT_NE(sistema().vuelca_directorio(nombre("no/obra").c_str()), VN_FICH_BIEN);
