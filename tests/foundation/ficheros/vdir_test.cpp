@@ -17,6 +17,7 @@ using vn::toma;
 namespace {
 
 const std::string DATOS = "foundation/vdir.tsv";
+
 auto en(const std::string &nombre) { return ancho(vn::Prueba::directorio() + "/" + nombre); }
 
 void graba(const char *nombre, const char *contenido) {

@@ -13,6 +13,7 @@ using vn::toma;
 namespace {
 
 const std::string DATOS = "foundation/vnregional.tsv";
+
 std::string fecha(int32_t dia, int32_t mes, int32_t anyo, const std::string &modelo) {
     return toma(vnregional_fecha_u(dia, mes, anyo, ancho(modelo).c_str(), FALSO));
 }
@@ -59,10 +60,8 @@ PRUEBA(vnregional, el_dia_de_la_semana_de_toda_fecha) {
     constexpr const char *NOMBRES[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
     for (sys_days d = year(1601) / 1 / 1; d < year(10000) / 1 / 1; d += days(41)) {
         const year_month_day f = d;
-        ASSERT_EQ(fecha(static_cast<int32_t>(unsigned{f.day()}), static_cast<int32_t>(unsigned{f.month()}),
-                        int{f.year()}, "dddd"),
-                  NOMBRES[weekday(d).c_encoding()])
-            << int{f.year()};
+        const auto dia = static_cast<int32_t>(unsigned{f.day()}), mes = static_cast<int32_t>(unsigned{f.month()});
+        ASSERT_EQ(fecha(dia, mes, int{f.year()}, "dddd"), NOMBRES[weekday(d).c_encoding()]) << int{f.year()};
     }
 }
 
