@@ -40,7 +40,8 @@ template <class N, class... A> bool numero(const char *p, const char *fin, N &n,
 }
 // Numbers as they are written in C++, not by the locale: 12, -0x1F, 1e300, 0x1p-3, inf, nan.
 template <class N> bool lee(std::string_view t, N &n) {
-    const bool menos = !t.empty() && t.front() == '-';
+    // from_chars knows signs, the lowest number's too, but not beside 0x or where none is expected.
+    const bool menos = t.starts_with('-') && (std::is_unsigned_v<N> || t.starts_with("-0x"));
     if (menos) t.remove_prefix(1);
     const bool hexa = t.starts_with("0x");
     if (hexa) t.remove_prefix(2);

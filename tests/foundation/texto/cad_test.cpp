@@ -1,134 +1,178 @@
+// The texts of both widths, cad.h and widestr.h, over one table.
 #define VN_MODULO "cad_test"
+#include "filas.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/unicode.h"
-#include "prueba.h"
+#include "foundation/texto/widestr.h"
+#include "propiedades.h"
+#include <map>
+#include <span>
 
-using vn::toma;
+using namespace vn;
 
 namespace {
 
-// What an operation makes of a text in place, or through its owner's pointer.
-template <class F> std::string tras(const char *s, F f) {
-    char *c = cad_copia_cadena(s);
-    if constexpr (std::is_invocable_v<F, char *>) f(c);
-    else f(&c);
-    return toma(c);
+using txt = std::string;
+// Makes a call of a row: a text on the heap, two arguments, and what comes of it: of a question its answer, of a change
+// the text that is left.
+using llamada = std::function<txt(const txt &s, const txt &t, const txt &u)>;
+
+char *nueva(const txt &s, char) { return cad_copia_cadena(s.c_str()); }
+vnwchar *nueva(const txt &s, vnwchar) { return widestr_copia(ancho(s).c_str()); }
+txt como(const txt &s, char) { return s; }
+std::basic_string<vnwchar> como(const txt &s, vnwchar) { return ancho(s); }
+void destruye(uint32_t n, char ***lista) { vornstr_destruyeListaCadenas(n, lista); }
+void destruye(uint32_t n, vnwchar ***lista) { widestr_destruyeListaCadenas(n, lista); }
+
+template <class R, class P, class... A> llamada llama(R (*f)(P, A...)) {
+    using C = std::remove_cv_t<std::remove_pointer_t<std::remove_pointer_t<P>>>;
+    return [f](const txt &s, const txt &t, const txt &u) {
+        const std::basic_string<C> dados[] = {como(t, C()), como(u, C()), {}};
+        C *texto = nueva(s, C()), **lista = nullptr;
+        size_t k = 0;
+        // An argument by its type; "&4": the text itself, from its unit 4 on. A wide operation ends in who calls.
+        [[maybe_unused]] const auto dado = [&]<class T>() -> T {
+            const txt &como_esta = k == 0 ? t : u;
+            if constexpr (std::is_same_v<T, C ***>) return &lista;
+            else if constexpr (std::is_same_v<T, const C *>)
+                return como_esta.starts_with("&") ? texto + std::stoul(como_esta.substr(k++ + 1)) : dados[k++].c_str();
+            else if constexpr (std::is_same_v<T, C>) return dados[k++][0];
+            else if constexpr (std::is_integral_v<T>)
+                return k < 2 ? static_cast<T>(std::stoul("0" + (k++ == 0 ? t : u))) : 0;
+            else return k = 2, "quien";
+        };
+        const auto primero = [&]() -> P {
+            if constexpr (std::is_same_v<P, C **>) return &texto;
+            else return texto;
+        };
+        const std::tuple<P, A...> todos{primero(), dado.template operator()<A>()...};
+        txt r;
+        if constexpr (std::is_void_v<R>) std::apply(f, todos);
+        else if constexpr (std::is_same_v<R, C *>) r = toma(std::apply(f, todos));
+        else r = std::to_string(std::apply(f, todos));
+        if (lista != nullptr) {
+            const auto n = static_cast<uint32_t>(std::stoul(r));
+            for (C *&p : std::span(lista, n)) r += "|" + toma(std::exchange(p, nullptr));
+            destruye(n, &lista);
+        }
+        const txt queda = toma(texto);
+        return std::is_void_v<R> ? queda : std::is_same_v<P, C **> ? r + " " + queda : r;
+    };
 }
+
+// An operation in the widths that have it.
+struct operacion {
+    llamada ansi, ancha;
+};
+// clang-format off
+#define ANSI(f) llama(cad_##f)
+#define ANCHA(f) llama(widestr_nousar_##f)
+#define AMBAS(f) {#f, {ANSI(f), ANCHA(f)}}
+#define SOLO_ANCHA(f) {#f, {nullptr, ANCHA(f)}}
+const std::map<txt, operacion> OPERACIONES = {
+    AMBAS(concatena), AMBAS(concatena_caracter), AMBAS(cadenas_iguales), AMBAS(cadenas_iguales_may_o_min),
+    AMBAS(es_cadena_vacia), AMBAS(es_cadena_en_blanco), AMBAS(es_subcadena), AMBAS(es_subcadena_inicial),
+    AMBAS(es_subcadena_inicial_may_o_min), AMBAS(es_subcadena_final), AMBAS(subcadena_inicial), AMBAS(atof),
+    AMBAS(subcadena_anterior), AMBAS(suprime_subcadena), AMBAS(suprime_subcadena_inicial), AMBAS(LTrim),
+    AMBAS(reemplaza_todas_cadenas), AMBAS(convertir_a_mayusculas), AMBAS(convertir_a_minusculas),
+    {"longitud", {ANSI(longitud_cadena), ANCHA(longitud)}}, {"compara", {ANSI(cadenas_compara), ANCHA(compara)}},
+    {"es_subcadena_may_o_min", {ANSI(es_subcadena_may_min), ANCHA(es_subcadena_may_o_min)}},
+    {"inserta_al_principio", {llama(vornstr_inserta_al_principio), ANCHA(inserta_al_principio)}},
+    {"RTrim", {llama(RTrim), ANCHA(RTrim)}},
+    {"lista", {ANSI(lista_de_subcadenas), ANCHA(lista_de_subcadenas_un_separador)}},
+    {"suprime_subcadena_inicial_may_o_min", {ANSI(suprime_subcadena_inicial_may_o_min), nullptr}},
+    {"convertir_ansi_cadena", {ANSI(convertir_ansi_cadena), nullptr}},
+    {"convertir_cadena_ascii_ansi", {ANSI(convertir_cadena_ascii_ansi), nullptr}},
+    SOLO_ANCHA(cad_concatena), SOLO_ANCHA(cadenas_compara_lexico_graficamente), SOLO_ANCHA(hay_texto),
+    SOLO_ANCHA(subcadena), SOLO_ANCHA(subcadena_final), SOLO_ANCHA(subcadena_anterior_may_o_min), SOLO_ANCHA(atoul),
+    SOLO_ANCHA(subcadena_posterior), SOLO_ANCHA(extrae_token), SOLO_ANCHA(numero_de_subcadenas),
+    SOLO_ANCHA(lista_de_subcadenas_sin_eliminar_blancos), SOLO_ANCHA(suprime_subcadena_final),
+    SOLO_ANCHA(convertir_cadena_sin_acentos),
+};
+// clang-format on
+
+txt ansi(const txt &utf8) { return toma(unicode_convierte_UTF8_a_ANSI(utf8.c_str())); }
 
 } // namespace
 
-PRUEBA(cad, crecen_por_los_dos_lados) {
+PRUEBA(cad, las_dos_anchuras_hacen_lo_mismo) {
+    for (const auto &[nombre, s, t, u, da] : filas<txt, txt, txt, txt, txt>("foundation/cad.tsv", "ambas")) {
+        const operacion &o = OPERACIONES.at(nombre);
+        EXPECT_EQ(o.ansi(ansi(s), ansi(t), ansi(u)), ansi(da)) << nombre << " of " << s << ", " << t;
+        EXPECT_EQ(o.ancha(s, t, u), da) << nombre << " of " << s << ", " << t;
+    }
+    for (const auto &[nombre, s, t, u, da] : filas<txt, txt, txt, txt, txt>("foundation/cad.tsv", "ancha"))
+        EXPECT_EQ(OPERACIONES.at(nombre).ancha(s, t, u), da) << nombre << " of " << s << ", " << t;
+}
+
+PRUEBA(cad, los_bytes_de_cada_pagina) {
+    for (const auto &[pagina, nombre, s, t, u, da] :
+         filas<uint32_t, txt, txt, txt, txt, txt>("foundation/cad.tsv", "ansi")) {
+        ASSERT_EQ(unicode_establece_pagina_ANSI(pagina), CIERTO);
+        EXPECT_EQ(OPERACIONES.at(nombre).ansi(s, t, u), da) << pagina << ": " << nombre << " of " << s << ", " << t;
+    }
+}
+
+PRUEBA(cad, lo_que_se_crea_y_se_destruye) {
     char *s = creacadena(4);
-    EXPECT_STREQ(s, "");
-    cad_concatena(&s, "bc");
-    cad_concatena_caracter(&s, 'd');
-    cad_concatena_caracter(&s, '\0');
-    vornstr_inserta_al_principio(&s, "a");
-    EXPECT_STREQ(s, "abcd");
-    // A text, or its tail, joined to itself.
-    cad_concatena(&s, s);
-    EXPECT_STREQ(s, "abcdabcd");
-    cad_concatena(&s, s + 6);
-    vornstr_inserta_al_principio(&s, s + 8);
-    EXPECT_STREQ(s, "cdabcdabcdcd");
-    EXPECT_EQ(cad_longitud_cadena(s), 12u);
+    EXPECT_EQ(std::string(s, 5), std::string(5, 0));
     vornstr_destruye(&s);
     EXPECT_EQ(s, nullptr);
     vornstr_destruye_opcional(&s);
     ESPERA_INFORME("(*s) != NULL", vornstr_destruye(&s));
     EXPECT_EQ(toma(cad_crea_de_bytes("abc", 2)), "ab");
     EXPECT_EQ(toma(ESPERA_INFORME("vnstdc_strlen(str)==len", cad_crea_de_bytes("a\0b", 3))), "a");
+    EXPECT_EQ(toma(widestr_creacadena(2)), "");
+    EXPECT_EQ(toma(widestr_creacadena_con_caracter(3, 0x20AC)), "€€€");
+    EXPECT_EQ(toma(widestr_crea_de_unidades(VNU("abc"), 2)), "ab");
+    EXPECT_EQ(toma(ESPERA_INFORME("widestr_longitud(str)==len", widestr_crea_de_unidades(VNU("a\0b"), 3))), "a");
+    EXPECT_EQ(widestr_copia_si_no_null(nullptr), nullptr);
+    vnwchar *t = widestr_copia_opcional(VNU("a")), ajena[] = VNU("ab"), *p = ajena;
+    widestr_fun_destruye(&t);
+    EXPECT_EQ(t, nullptr);
+    // Not of the heap: it stays.
+    ESPERA_INFORME("vornspy_es_memoria_reservada_valida(p) == CIERTO", widestr_concatena(&p, VNU("c")));
+    EXPECT_EQ(utf8_de(p), "ab");
+    // A report bears the caller's name.
+    EXPECT_EQ(widestr_nousar_longitud(nullptr, "quien", 77), 0u);
+    const auto informes = toma_informes();
+    ASSERT_EQ(informes.size(), 1u);
+    EXPECT_EQ(informes[0].expresion, "(s) != NULL");
+    EXPECT_EQ(informes[0].modulo, "quien");
+    EXPECT_EQ(informes[0].linea, 77u);
+    const vnwchar *a = VNU("a/b/c");
+    EXPECT_EQ(widestr_strchr(a, '/'), a + 1);
+    EXPECT_EQ(widestr_strchr(a, 0), a + 5);
+    EXPECT_EQ(widestr_strchr(a, 'x'), nullptr);
+    EXPECT_EQ(widestr_es_digito(0x663), FALSO); // a digit, but not one of 0 to 9
 }
 
-PRUEBA(cad, preguntas) {
-    EXPECT_EQ(cad_cadenas_iguales("abc", "abd"), FALSO);
-    EXPECT_EQ(cad_cadenas_iguales_may_o_min("CA\321A", "ca\361a"), CIERTO);
-    EXPECT_EQ(cad_cadenas_iguales_may_o_min("ca\321a", "cana"), FALSO);
-    EXPECT_EQ(cad_cadenas_iguales_may_o_min("ab", "abc"), FALSO);
-    EXPECT_EQ(cad_cadenas_compara("10.1", "9.1"), -1);
-    EXPECT_EQ(cad_cadenas_compara("z", "\xE1"), -1); // bytes are unsigned
-    EXPECT_EQ(cad_cadenas_compara("ab", "a"), 1);
-    EXPECT_EQ(cad_cadenas_compara("ab", "ab"), 0);
-    EXPECT_EQ(cad_es_cadena_vacia(""), CIERTO);
-    EXPECT_EQ(cad_es_cadena_en_blanco(" \t\r\n"), CIERTO);
-    EXPECT_EQ(cad_es_cadena_en_blanco(" . "), FALSO);
-    EXPECT_EQ(cad_es_subcadena("abcabd", "abd"), CIERTO);
-    EXPECT_EQ(cad_es_subcadena("ab", ""), CIERTO);
-    EXPECT_EQ(cad_es_subcadena_may_min("xxPE\321Ayy", "pe\361a"), CIERTO);
-    EXPECT_EQ(cad_es_subcadena_inicial("campo:1", "campo"), CIERTO);
-    EXPECT_EQ(cad_es_subcadena_inicial("cam", "campo"), FALSO);
-    EXPECT_EQ(cad_es_subcadena_inicial_may_o_min("\xC1rbol", "\xE1R"), CIERTO);
-    EXPECT_EQ(cad_es_subcadena_final("a.beta", ".beta"), CIERTO);
-    EXPECT_EQ(cad_es_subcadena_final("beta", ".beta"), FALSO);
-    EXPECT_EQ(cad_atof(" 2.5e1m"), 25.0);
+// The letters of the languages that the programs speak, alike on every platform.
+PRUEBA(cad, mapas_de_letras_iguales_en_todas_partes) {
+    huella h;
+    std::basic_string<vnwchar> todas;
+    for (unsigned u = 0x20; u < 0x530; ++u)
+        if (u < 0x250 || u >= 0x370) todas += static_cast<vnwchar>(u);
+    for (unsigned u = 0x1E00; u < 0x1F00; ++u) todas += static_cast<vnwchar>(u);
+    for (const char *o : {"convertir_a_mayusculas", "convertir_a_minusculas", "convertir_cadena_sin_acentos"})
+        h << OPERACIONES.at(o).ancha(utf8_de(todas.c_str()), "", "");
+    EXPECT_EQ(h(), 9815241886362381049u);
 }
 
-PRUEBA(cad, partes_y_cambios) {
-    EXPECT_EQ(toma(cad_subcadena_inicial("abc", 2)), "ab");
-    EXPECT_EQ(toma(cad_subcadena_inicial("abc", 9)), "abc");
-    EXPECT_EQ(toma(cad_subcadena_anterior("obra sin nombre sin", " sin")), "obra");
-    EXPECT_EQ(toma(cad_subcadena_anterior("obra", " sin")), "obra");
-    EXPECT_EQ(tras("aXbXX", [](char *s) { cad_suprime_subcadena(s, "X"); }), "ab");
-    EXPECT_EQ(tras("aaab", [](char *s) { cad_suprime_subcadena(s, s + 3); }), "aaa");
-    EXPECT_EQ(tras("aXab", [](char *s) { cad_suprime_subcadena(s, ""); }), "aXab");
-    EXPECT_EQ(tras("aab", [](char **s) { EXPECT_EQ(cad_suprime_subcadena_inicial(s, "a"), CIERTO); }), "ab");
-    EXPECT_EQ(tras("\321ab", [](char **s) { EXPECT_EQ(cad_suprime_subcadena_inicial_may_o_min(s, "\361A"), CIERTO); }),
-              "b");
-    EXPECT_EQ(tras("ab", [](char **s) { EXPECT_EQ(cad_suprime_subcadena_inicial(s, "b"), FALSO); }), "ab");
-    const struct {
-        const char *antes, *a, *b, *despues;
-    } filas[] = {
-        {"aXbX", "X", "yX", "ayXbyX"}, {"aaaa", "aa", "a", "aa"}, {"abc", "", "x", "abc"}, {"abab", "ab", "", ""}};
-    for (const auto &f : filas)
-        EXPECT_EQ(tras(f.antes, [&](char **s) { cad_reemplaza_todas_cadenas(s, f.a, f.b); }), f.despues);
-    EXPECT_EQ(tras(" \ta b \r\n", [](char *s) { cad_LTrim(s); }), "a b \r\n");
-    EXPECT_EQ(tras(" \ta b \r\n", [](char *s) { RTrim(s); }), " \ta b");
-}
-
-PRUEBA(cad, listas) {
-    const struct {
-        const char *s;
-        std::vector<std::string> trozos;
-    } filas[] = {{"2024-11-b", {"2024", "11", "b"}}, {"", {""}}, {"-a-", {"", "a", ""}}, {" a - b", {" a ", " b"}}};
-    for (const auto &f : filas) {
-        char **lista = nullptr;
-        const uint32_t n = cad_lista_de_subcadenas(f.s, '-', &lista);
-        EXPECT_EQ(std::vector<std::string>(lista, lista + n), f.trozos);
-        vornstr_destruyeListaCadenas(n, &lista);
-        EXPECT_EQ(lista, nullptr);
-    }
-}
-
-PRUEBA(cad, letras_de_cada_pagina) {
-    const auto mayusculas = [](char *s) { cad_convertir_a_mayusculas(s); };
-    const auto minusculas = [](char *s) { cad_convertir_a_minusculas(s); };
-    const auto modo = [](int m) { return [m](char *s) { cad_convertir_ansi_cadena(s, m); }; };
-    // The sharp s, y diaeresis (Ÿ is on the page) and the micro sign (its capital is not).
-    EXPECT_EQ(tras("\xE1\xF1z\xDF\xFF\xB5\xF7", mayusculas), "\xC1\xD1Z\xDF\x9F\xB5\xF7");
-    EXPECT_EQ(tras("\xC1\xD1Z\x8C\xD7", minusculas), "\xE1\xF1z\x9C\xD7");
-    EXPECT_EQ(tras("\xE1\xD1\xE7\xFCx", modo(2)), "aNcux");
-    EXPECT_EQ(tras("\xE1\xD1\xE7\xFCx", modo(3)), "ANCUX");
-    EXPECT_EQ(tras("\xE1x", modo(1)), "\xC1X");
-    EXPECT_EQ(tras("\xE1x", modo(0)), "\xE1x");
-    EXPECT_EQ(tras("\xA4\x84\x81\x9B\xE1\xC4z", [](char *s) { cad_convertir_cadena_ascii_ansi(s); }),
-              "\xF1\xE4\xFC\xF8\xDF?z");
-    ASSERT_EQ(unicode_establece_pagina_ANSI(1251), CIERTO);
-    EXPECT_EQ(tras("\xE6\xB8", mayusculas), "\xC6\xA8");
-    EXPECT_EQ(cad_cadenas_iguales_may_o_min("\xC6", "\xE6"), CIERTO);
-
-    // Page 932: the second bytes of some characters are letters, backslashes and bars of their own.
-    ASSERT_EQ(unicode_establece_pagina_ANSI(932), CIERTO);
-    EXPECT_EQ(tras("\x83\x61z", mayusculas), "\x83\x61Z");
-    EXPECT_EQ(cad_cadenas_iguales_may_o_min("\x83\x61", "\x83\x41"), FALSO);
-    EXPECT_EQ(cad_es_subcadena("\x83\x5C", "\\"), FALSO);
-    EXPECT_EQ(cad_es_subcadena_final("\x83\x5C", "\\"), FALSO);
-    EXPECT_EQ(cad_es_subcadena_final("\x83\x5C\\", "\\"), CIERTO);
-    EXPECT_EQ(tras("\x83\x5C\\x", [](char **s) { cad_reemplaza_todas_cadenas(s, "\\", "/"); }), "\x83\x5C/x");
-    EXPECT_EQ(toma(cad_subcadena_inicial("a\x83\x5Cz", 2)), "a");
-    EXPECT_EQ(toma(cad_subcadena_inicial("a\x83\x5Cz", 3)), "a\x83\x5C");
-    char **lista = nullptr;
-    const uint32_t n = cad_lista_de_subcadenas("\x83\x7C|a", '|', &lista);
-    EXPECT_EQ(n, 2u);
-    EXPECT_STREQ(lista[0], "\x83\x7C");
-    vornstr_destruyeListaCadenas(n, &lista);
+// Each allocation of each of these fails in its turn: no text is left half changed.
+PRUEBA(cad, sin_memoria_no_se_pierde_nada) {
+    using cambio = void (*)(vnwchar **);
+    for (const cambio o : {cambio([](vnwchar **s) { widestr_concatena(s, std::basic_string(40, VNU('0')).c_str()); }),
+                           cambio([](vnwchar **s) { widestr_inserta_al_principio(s, *s); }),
+                           cambio([](vnwchar **s) { widestr_reemplaza_todas_cadenas(s, VNU("a"), VNU("aaaa")); }),
+                           cambio([](vnwchar **s) {
+                               *s = utunicode_ANSI_a_UNICODE_destruyendo_p(utunicode_UNICODE_a_ANSI_destruyendo(s));
+                           })})
+        for (int reservas = 0; reservas < 8; ++reservas) {
+            vnwchar *s = widestr_copia(VNU("a,b,a,c"));
+            const bool ido = atrapado([&] { o(&s); }, reservas);
+            EXPECT_TRUE(ido || s == nullptr || utf8_de(s) == "a,b,a,c");
+            toma_informes();
+            widestr_destruye_opcional(&s);
+        }
 }

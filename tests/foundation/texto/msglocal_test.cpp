@@ -1,10 +1,7 @@
-#include "foundation/sistema/vnstdc.h"
+#include "filas.h"
 #include "foundation/suelo/vnatexit.h"
 #include "foundation/texto/mensajes.hpp"
 #include "foundation/texto/msglocal.h"
-#include "foundation/texto/unicode.h"
-#include "foundation/texto/widestr.h"
-#include "prueba.h"
 
 namespace {
 
@@ -47,52 +44,28 @@ std::string lee_ansi(int idioma) {
 
 // The index of the host and the columns of a table number Catalan, Italian and Portuguese differently.
 PRUEBA(msglocal, cada_indice_da_su_lengua_y_los_demas_la_suya_de_reserva) {
-    const struct {
-        int idioma;
-        const char *texto;
-    } filas[] = {
-        {0, "%d planos de %s"},    {2, "%d desenhos de %s"},  {3, "%d plànols de %s"},   {4, "%d disegni di %s"},
-        {5, "%d desenhos de %s"},  {6, "%d láminas de %s"},   {7, "%d láminas de %s"},   {24, "%d láminas de %s"},
-        {8, "%d drawings of %s"},  {39, "%d 枚 %s"},          {9, "%d planos de %s"},    {14, "%d planos de %s"},
-        {17, "%d planos de %s"},   {19, "%d planos de %s"},   {23, "%d planos de %s"},   {25, "%d drawings of %s"},
-        {30, "%d drawings of %s"}, {32, "%d drawings of %s"}, {38, "%d drawings of %s"}, {40, "%d drawings of %s"},
-        {13, "%d drawings of %s"},
-    };
-    for (const auto &f : filas) EXPECT_EQ(lee(f.idioma), f.texto) << f.idioma;
+    for (const auto &[idioma, texto] : vn::filas<int, std::string>("foundation/msglocal.tsv", "anchos"))
+        EXPECT_EQ(lee(idioma), texto) << idioma;
     EXPECT_EQ(vn::utf8_de(nousar_original_u(msg_100001.u)), "%d planos de %s");
     msidioma_establece_idioma(8);
     EXPECT_EQ(msidioma_es_idioma_ingles(), CIERTO);
     ESPERA_INFORME("idioma >= 0 && idioma < MSGLOCAL_NUM_TEXTOS", msidioma_establece_idioma(41));
     EXPECT_EQ(msidioma_dame_idioma(), 8);
-    vnwchar *texto = textomsgu_obtener_mensaje(msg_100001.u, 3, VNU("Árbol"));
-    EXPECT_EQ(vn::utf8_de(texto), "3 drawings of Árbol");
-    widestr_destruye(&texto);
+    EXPECT_EQ(vn::toma(textomsgu_obtener_mensaje(msg_100001.u, 3, VNU("Árbol"))), "3 drawings of Árbol");
 }
 
 PRUEBA(msglocal, el_lector_ansi_descodifica_y_lo_mal_escrito_no_le_hace_caer) {
-    EXPECT_EQ(lee_ansi(0), "S\xED");
-    EXPECT_EQ(lee_ansi(8), "Yes");
-    EXPECT_EQ(lee_ansi(18), "\xC4\xE0"); // the Russian code page, whatever the active one
-    const char *prestado = nousar_msglocal_original(ansi);
-    EXPECT_EQ(nousar_msglocal_original(ansi), prestado);
-    EXPECT_EQ(lee_ansi(31), "FFFF3c0033003");
-    EXPECT_EQ(lee_ansi(10), "FFFF3c00zz00");
-    EXPECT_EQ(lee_ansi(33), "<32");
-    EXPECT_EQ(lee_ansi(39), "No id here");
-    EXPECT_EQ(lee_ansi(12), "FFFF");
-    EXPECT_EQ(lee_ansi(1), "S\xED"); // a column without text
+    for (const auto &[idioma, texto] : vn::filas<int, std::string>("foundation/msglocal.tsv", "ansi")) {
+        EXPECT_EQ(lee_ansi(idioma), texto) << idioma;
+        const char *prestado = nousar_msglocal_original(ansi);
+        EXPECT_EQ(nousar_msglocal_original(ansi), prestado);
+    }
     EXPECT_STREQ(nousar_msglocal_original(vacio), "");
     EXPECT_EQ(vn::utf8_de(nousar_msglocal_original_u(vacio)), "");
-    vnatexit_ejecuta();
-    EXPECT_EQ(lee_ansi(18), "\xC4\xE0");
-}
-
-// What a failure has left half done must not be lent by the next call.
-PRUEBA(msglocal, un_texto_que_se_quedo_sin_memoria_se_descodifica_otra_vez) {
+    // What a failure has left half done must not be lent by the next call.
     vnatexit_ejecuta();
     EXPECT_FALSE(vn::atrapado([] { lee_ansi(18); }, 0));
     EXPECT_EQ(lee_ansi(18), "\xC4\xE0");
-    vnatexit_ejecuta();
 }
 
 PRUEBA(msglocal, una_fila_da_las_columnas_de_los_dos_lectores) {
