@@ -1,9 +1,9 @@
+#include "filas.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/suelo/dueno.hpp"
 #include "propiedades.h"
-#include "prueba.h"
 
-using vn::cerca, vn::INF, vn::NAN_;
+using vn::cerca, vn::NAN_;
 
 namespace {
 
@@ -15,34 +15,15 @@ puntos con(std::initializer_list<Punto2D> dados) {
     for (const Punto2D &p : dados) arr_AppendPunto2D(a.get(), p.x, p.y);
     return a;
 }
-bool es(const puntos &a, uint32_t i, double x, double y) {
-    const Punto2D p = vn::listas::tramo(a.get())[i];
-    return cerca(p.x, x, 50.) && cerca(p.y, y, 50.);
-}
-
 } // namespace
 
 // How many points a figure has is counted on by those who join two of them.
 PRUEBA(arr_geometria, las_figuras_tienen_los_pasos_de_su_parte_de_la_vuelta_y_se_anaden_a_lo_que_hay) {
-    const struct {
-        double inicial, final;
-        uint32_t por_vuelta, puntos;
-    } filas[] = {{-PI / 2., PI / 2., 18, 10},
-                 {PI / 2., -PI / 2., 18, 10},
-                 {0., 2. * PI, 64, 65},
-                 {0., 2. * PI + 1e-9, 64, 65},
-                 {0., 1e300, 64, 65},
-                 {-1e300, 1e300, 64, 65},
-                 {0., PI / 2., 6, 3},
-                 {0., PI / 32., 64, 2},
-                 {0., PI / 32. + 1e-6, 64, 3},
-                 {1., 1., 64, 2},
-                 {NAN_, 1., 64, 0},
-                 {0., INF, 64, 0}};
-    for (const auto &f : filas) {
+    for (const auto &[inicial, final, por_vuelta, cuantos] :
+         vn::filas<double, double, uint32_t, uint32_t>("foundation/arr_geometria.tsv", "arcos")) {
         const puntos a = con({});
-        arr_AnyadirArcoPunto2D(a.get(), 10., 20., 5., f.inicial, f.final, f.por_vuelta);
-        ASSERT_EQ(arr_NumElemsPunto2D(a.get()), f.puntos) << &f - filas;
+        arr_AnyadirArcoPunto2D(a.get(), 10., 20., 5., inicial, final, por_vuelta);
+        EXPECT_EQ(arr_NumElemsPunto2D(a.get()), cuantos) << inicial << " to " << final;
         for (const Punto2D &p : vn::listas::tramo(a.get()))
             EXPECT_TRUE(cerca(std::hypot(p.x - 10., p.y - 20.), 5., 5.));
     }
@@ -55,7 +36,10 @@ PRUEBA(arr_geometria, las_figuras_tienen_los_pasos_de_su_parte_de_la_vuelta_y_se
     const Punto2D esperados[] = {{7., 7.},  {0., 1.},  {1., 0.},  {0., -1.}, {4., 2.},  {1., 5.},
                                  {-2., 2.}, {1., -1.}, {1., 32.}, {-9., 2.}, {1., -28.}};
     ASSERT_EQ(arr_NumElemsPunto2D(a.get()), std::size(esperados));
-    for (uint32_t i = 0; i < std::size(esperados); ++i) EXPECT_TRUE(es(a, i, esperados[i].x, esperados[i].y)) << i;
+    for (size_t i = 0; i < std::size(esperados); ++i) {
+        const Punto2D p = vn::listas::tramo(a.get())[i];
+        EXPECT_TRUE(cerca(p.x, esperados[i].x, 50.) && cerca(p.y, esperados[i].y, 50.)) << i;
+    }
 }
 
 PRUEBA(arr_geometria, limites_lados_e_igualdad) {
