@@ -1,7 +1,8 @@
 // The DXF reader of the sample host, on small drawings of our own.
 #include "dxf.h"
+#include "filas.h"
 #include "informe.h"
-#include "prueba.h"
+#include "propiedades.h"
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -40,6 +41,17 @@ const capa &capa_de(const plano &p, const char *nombre) {
     return ninguna;
 }
 
+// Where a point is, and where a layer's figures are, to 1e-12 of a scale.
+testing::AssertionResult es(const Punto2D &p, double x, double y, double escala = 1) {
+    const auto r = vn::cerca(p.x, x, escala);
+    return r ? vn::cerca(p.y, y, escala) : r;
+}
+testing::AssertionResult ocupa(const capa &c, double x1, double y1, double x2, double y2, double escala = 1) {
+    const extension e = extension_de(c);
+    const auto r = es({e.xmin, e.ymin}, x1, y1, escala);
+    return r ? es({e.xmax, e.ymax}, x2, y2, escala) : r;
+}
+
 std::string veces(int n, const std::string &s) {
     std::string r;
     for (int i = 0; i < n; ++i) r += s;
@@ -60,11 +72,9 @@ PRUEBA(obra_dxf, las_referencias_se_expanden_con_su_capa_y_su_color) {
     EXPECT_EQ(capa_de(p, "OTRA").color_lineas.at(0), 256u); // no colour of the palette: that of its layer
     const capa &c = capa_de(p, "EJES");
     ASSERT_EQ(c.lineas.size(), 2u);
-    EXPECT_NEAR(c.lineas[0].a.x, 100, 1e-12);
-    EXPECT_NEAR(c.lineas[0].a.y, 50, 1e-12);
-    EXPECT_NEAR(c.lineas[0].b.x, 100, 1e-12);
-    EXPECT_NEAR(c.lineas[0].b.y, 54, 1e-12);
-    EXPECT_NEAR(c.lineas[1].a.y, 60, 1e-12);
+    EXPECT_TRUE(es(c.lineas[0].a, 100, 50));
+    EXPECT_TRUE(es(c.lineas[0].b, 100, 54));
+    EXPECT_TRUE(es(c.lineas[1].a, 100, 60));
     EXPECT_EQ(c.color_lineas[0], 5u);
     EXPECT_TRUE(c.apagada);
     EXPECT_EQ(utf8(c.tipo_linea), "DASHED");
@@ -75,26 +85,17 @@ PRUEBA(obra_dxf, un_arco_reflejado_gira_al_reves_y_uno_estirado_es_una_elipse) {
     const capa &c = capa_de(espejo, "0");
     ASSERT_EQ(c.arcos.size(), 1u);
     // From 90 to 180 degrees about the origin, counter-clockwise.
-    EXPECT_NEAR(c.arcos[0].centro.x, 0, 1e-12);
-    EXPECT_NEAR(c.arcos[0].desde, std::numbers::pi / 2, 1e-12);
-    EXPECT_NEAR(std::fabs(c.arcos[0].hasta), std::numbers::pi, 1e-12);
+    EXPECT_TRUE(es(c.arcos[0].centro, 0, 0));
+    EXPECT_TRUE(es({c.arcos[0].desde, std::fabs(c.arcos[0].hasta)}, std::numbers::pi / 2, std::numbers::pi));
     const plano estirado = lee(dxf_con("0\nINSERT\n8\n0\n2\nB\n10\n0\n20\n0\n30\n0\n41\n3\n42\n1\n43\n1\n", ARCO));
-    const extension e = extension_de(capa_de(estirado, "0"));
     EXPECT_EQ(capa_de(estirado, "0").elipses.size(), 1u);
-    EXPECT_NEAR(e.xmin, 0, 1e-9);
-    EXPECT_NEAR(e.xmax, 3, 1e-9);
-    EXPECT_NEAR(e.ymin, 0, 1e-9);
-    EXPECT_NEAR(e.ymax, 1, 1e-9);
+    EXPECT_TRUE(ocupa(capa_de(estirado, "0"), 0, 0, 3, 1, 1e3));
 }
 
 // Centre (7, 1), half axis (1, 0.5), ratio 0.3, parameters 0.2 to 2, seen from below: its box by another reader.
 PRUEBA(obra_dxf, una_elipse_en_un_plano_vuelto_y_una_polilinea_con_curvatura_y_marco) {
     const plano e = lee(dxf_con("0\nELLIPSE\n10\n7\n20\n1\n11\n1\n21\n.5\n40\n.3\n41\n.2\n42\n2\n230\n-1\n"));
-    const extension caja = extension_de(capa_de(e, "0"));
-    EXPECT_NEAR(caja.xmin, 6.720, 1e-3);
-    EXPECT_NEAR(caja.xmax, 8.010, 1e-3);
-    EXPECT_NEAR(caja.ymin, 0.519, 1e-3);
-    EXPECT_NEAR(caja.ymax, 1.430, 1e-3);
+    EXPECT_TRUE(ocupa(capa_de(e, "0"), 6.720, 0.519, 8.010, 1.430, 1e9));
     // The second vertex is of the frame; the third belongs to none.
     const plano p = lee(
         dxf_con("0\nPOLYLINE\n8\nEJES\n66\n1\n70\n5\n0\nVERTEX\n10\n0\n20\n0\n42\n1\n0\nVERTEX\n70\n16\n10\n9\n20\n9\n"
@@ -105,29 +106,16 @@ PRUEBA(obra_dxf, una_elipse_en_un_plano_vuelto_y_una_polilinea_con_curvatura_y_m
     EXPECT_TRUE(c.polilineas[0].cerrada);
     EXPECT_EQ(c.polilineas[0].vertices.size(), 2u);
     // A half circle below the chord.
-    EXPECT_NEAR(extension_de(c).ymin, -1, 1e-12);
-    EXPECT_NEAR(extension_de(c).ymax, 0, 1e-12);
+    EXPECT_TRUE(ocupa(c, 0, -1, 2, 0));
     EXPECT_EQ(p.sin_importar, (std::map<std::string, uint32_t>{{"POLYLINE", 1}, {"POLYLINE MESH", 1}}));
 }
 
 PRUEBA(obra_dxf, los_textos_dicen_lo_que_el_plano_y_estan_donde_el) {
-    const struct {
-        const char *version, *clase, *bytes, *dicho;
-    } filas[] = {
-        {"AC1009", "TEXT", "%%c20 \\U+00B1 ca\xF1o %%UA%%u %%k%%o%%% %%216 %%9", "∅20 ± caño A % Ø %%9"},
-        {"AC1009", "TEXT", "a^Ib^ c^M^Jd^Me x^2 {\\P}", "a b^c d e x^2 {\\P}"},
-        {"AC1021", "TEXT", "ca\xC3\xB1o %%216%%176", "caño Ø°"},
-        {"AC1021", "TEXT", "ca\xF1o", "caño"}, // no UTF-8 after all
-        {"AC1009", "TEXT", "\\M+182A0\\M+9XX \\U+12", "あ\\M+9XX \\U+12"},
-        {"AC1015", "MTEXT", "{\\fArial|b0;uno}\\Pdos^Jtres \\H2.5x;\\S2^ ;m \\S1/2; \\S+1^-2; \\S3#4;",
-         "uno dos tres 2m 1/2 +1 -2 3/4"},
-        {"AC1015", "MTEXT", "antes {\\C1rojo} despues \\fArial", "antes rojo despues Arial"},
-        {"AC1015", "MTEXT", "c:\\\\d \\{x\\} \\Lsub\\l 50%%d \\z\\", "c:\\d {x} sub 50° \\z\\"},
-    };
-    for (const auto &f : filas) {
-        std::string s = dxf_con(std::string("0\n") + f.clase + "\n1\n" + f.bytes + "\n");
-        const plano p = lee(s.replace(s.find("AC1009"), 6, f.version));
-        EXPECT_EQ(utf8(capa_de(p, "0").rotulos.at(0).letras), f.dicho) << f.bytes;
+    for (const auto &[version, clase, bytes, dicho] :
+         vn::filas<std::string, std::string, std::string, std::string>("obra/obra.tsv", "textos")) {
+        std::string s = dxf_con("0\n" + clase + "\n1\n" + bytes + "\n");
+        const plano p = lee(s.replace(s.find("AC1009"), 6, version));
+        EXPECT_EQ(utf8(capa_de(p, "0").rotulos.at(0).letras), dicho) << bytes;
     }
     // Longer than any buffer, in pieces; what follows 101 is of another object.
     const std::string largo(5000, 'x'),
@@ -139,10 +127,10 @@ PRUEBA(obra_dxf, los_textos_dicen_lo_que_el_plano_y_estan_donde_el) {
     ASSERT_EQ(r.size(), 3u);
     EXPECT_EQ(utf8(r[0].letras), largo + "y");
     EXPECT_TRUE(r[0].en.x == 7 && r[0].en.y == 8 && r[0].altura == .5);
-    EXPECT_NEAR(r[0].angulo, std::numbers::pi / 2, 1e-12);
+    EXPECT_TRUE(vn::cerca(r[0].angulo, std::numbers::pi / 2));
     EXPECT_EQ(utf8(r[1].letras), largo);
     EXPECT_TRUE(r[1].en.x == 3 && r[1].en.y == 4);
-    EXPECT_NEAR(r[1].angulo, std::numbers::pi / 6, 1e-12);
+    EXPECT_TRUE(vn::cerca(r[1].angulo, std::numbers::pi / 6));
     EXPECT_TRUE(utf8(r[2].letras) == "otro" && r[2].en.x == 5 && r[2].en.y == 6);
 }
 

@@ -1,7 +1,7 @@
 // What the sample host says in the languages it has texts in.
+#include "filas.h"
 #include "informe.h"
 #include "mensajes.h"
-#include "prueba.h"
 #include <nucleos/units/vornconf.h>
 #include <set>
 #include <sstream>
@@ -31,32 +31,13 @@ std::multiset<std::string> palabras_fijas(const std::string &uso) {
 
 // The texts of the host and those of the library meet in one report.
 PRUEBA(obra_mensajes, un_informe_habla_un_solo_idioma) {
-    const struct {
-        int idioma;
-        const char *pasaje;
-    } filas[] = {
-        {1, "Système d'unités: Système international\nUnité d'énergie\u00a0: joule, J\nÉtendue\u00a0: "
-            "aucune\nLongueurs et surfaces\u00a0:\n"},
-        {2, "Sistema de unidades: Sistema Internacional\nUnidade de energia: joule, J\nExtensão: nenhuma\nComprimentos "
-            "e áreas:\n"},
-        {3,
-         "Sistema d'unitats: Sistema Internacional\nUnitat d'energia: joule, J\nExtensió: cap\nLongituds i àrees:\n"},
-        {4, "Sistema di unità: Sistema internazionale\nUnità di energia: joule, J\nEstensione: nessuna\nLunghezze e "
-            "aree:\n"},
-        {7, "Sistema de unidades: Sistema Internacional\nUnidad de energía: julio, J\nExtensión: ninguna\nLongitudes y "
-            "áreas:\n"},
-        {9, "Sistema de unidades: Sistema Internacional\nUnidade de enerxía: joule, J\nExtensión: ningunha\nLonxitudes "
-            "e áreas:\n"},
-        {13, "Einheitensystem: Internationales Einheitensystem\nEnergieeinheit: Joule, J\nAusdehnung: keine\nLängen "
-             "und Flächen:\n"},
-    };
     obra_leida o;
     vornconf_Internacional_set_sistema_unidades(VORNCONF_SU_INTERNACIONAL);
     vornconf_Internacional_set_sistema_unidades_energia(VORNNORM_UNIDAD_ENERGIA_JULIO);
-    for (const auto &f : filas) {
-        msidioma_establece_idioma(f.idioma);
+    for (const auto &[idioma, pasaje] : vn::filas<int, std::string>("obra/obra.tsv", "pasajes")) {
+        msidioma_establece_idioma(idioma);
         const std::string s = informe_de("x", o);
-        EXPECT_NE(s.find(f.pasaje), std::string::npos) << s;
+        EXPECT_NE(s.find(pasaje), std::string::npos) << s;
     }
     // The two of Portugal and Brazil; one of America; one without texts of the host, which the library would speak
     // alone.
