@@ -30,13 +30,9 @@ fs::path ruta(const std::string &utf8) { return fs::path(std::u8string(utf8.begi
 
 void anota_informe(const vninforme *i, void *) {
     const std::lock_guard guarda(cerrojo);
-    informes.push_back({i->expresion_u != nullptr ? utf8_de(i->expresion_u)
-                        : i->expresion != nullptr ? i->expresion
-                                                  : "",
-                        i->detalle_u != nullptr ? utf8_de(i->detalle_u)
-                        : i->detalle != nullptr ? i->detalle
-                                                : "",
-                        i->modulo != nullptr ? i->modulo : "", i->linea, i->clase});
+    const auto texto = [](const vnwchar *u, const char *s) { return utf8_de(u) + (s != nullptr ? s : ""); };
+    informes.push_back({texto(i->expresion_u, i->expresion), texto(i->detalle_u, i->detalle), texto(nullptr, i->modulo),
+                        i->linea, i->clase});
 }
 
 vnbool anota_aviso(vntipo_aviso, const vnwchar *texto, void *) {
@@ -63,14 +59,9 @@ std::string utf8_de(const vnwchar *texto) {
             c = 0x10000 + ((c - 0xD800) << 10) + (bajo - 0xDC00);
             ++texto;
         }
-        if (c < 0x80) u += static_cast<char>(c);
-        else if (c < 0x800) (u += static_cast<char>(0xC0 | c >> 6)) += static_cast<char>(0x80 | (c & 63));
-        else if (c < 0x10000)
-            ((u += static_cast<char>(0xE0 | c >> 12)) += static_cast<char>(0x80 | (c >> 6 & 63))) +=
-                static_cast<char>(0x80 | (c & 63));
-        else
-            (((u += static_cast<char>(0xF0 | c >> 18)) += static_cast<char>(0x80 | (c >> 12 & 63))) +=
-             static_cast<char>(0x80 | (c >> 6 & 63))) += static_cast<char>(0x80 | (c & 63));
+        const int mas = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+        u += static_cast<char>("\0\xC0\xE0\xF0"[mas] | static_cast<char>(c >> 6 * mas));
+        for (int k = mas; k-- > 0;) u += static_cast<char>(0x80 | (c >> 6 * k & 63));
     }
     return u;
 }
@@ -90,25 +81,22 @@ std::basic_string<vnwchar> ancho(std::string_view utf8) {
         for (size_t k = 1; k < n && i + k < utf8.size(); ++k)
             c = c << 6 | (static_cast<unsigned char>(utf8[i + k]) & 63u);
         i += n;
-        if (c < 0x10000) u += static_cast<vnwchar>(c);
-        else
-            (u += static_cast<vnwchar>(0xD800 + ((c - 0x10000) >> 10))) +=
-                static_cast<vnwchar>(0xDC00 + ((c - 0x10000) & 0x3FF));
+        if (c >= 0x10000) u += static_cast<vnwchar>(0xD7C0 + (c >> 10)), c = 0xDC00 | (c & 0x3FF);
+        u += static_cast<vnwchar>(c);
     }
     return u;
 }
 
-std::string toma(char *texto) {
-    const std::string s = texto != nullptr ? texto : "(null)";
-    if (texto != nullptr) vornspy_free_pp(&texto, 1);
+template <class C> static std::string toma_texto(C *texto, std::string (*de)(const C *)) {
+    if (texto == nullptr) return "(null)";
+    const std::string s = de(texto);
+    vornspy_free_pp(&texto, 1);
     return s;
 }
-
-std::string toma(vnwchar *texto) {
-    const std::string s = texto != nullptr ? utf8_de(texto) : "(null)";
-    if (texto != nullptr) vornspy_free_pp(&texto, 1);
-    return s;
+std::string toma(char *t) {
+    return toma_texto<char>(t, [](const char *s) { return std::string(s); });
 }
+std::string toma(vnwchar *t) { return toma_texto<vnwchar>(t, utf8_de); }
 
 mayor_bloque::mayor_bloque() {
     const auto apunta = [](size_t n, void *m) {

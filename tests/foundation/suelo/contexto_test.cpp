@@ -5,11 +5,6 @@
 
 namespace {
 
-void falla_dentro(void *) {
-    contexto_dentroDeContexto_u(VNU("interior"));
-    error_interno("x", "prueba", 1, 0);
-}
-
 void suma(vnparametros *parametros, void *dato) {
     auto *total = static_cast<int *>(vornspy_parametro_puntero(parametros, 0));
     *total += dato != nullptr ? *static_cast<int *>(dato) : 1;
@@ -21,7 +16,10 @@ PRUEBA(contexto, se_ve_lo_que_se_ha_dejado_abierto_y_una_trampa_lo_deja_como_est
     contexto_dentroDeContexto_u(VNU("grabando"));
     contexto_dentroDeContexto_u(VNU("sección 3"));
     EXPECT_EQ(vn::utf8_de(contexto_actual_u()), "grabando > sección 3");
-    EXPECT_EQ(trapable_nousar_recursivo_ejecuta_funcion_segura(falla_dentro, nullptr, nullptr), FALSO);
+    EXPECT_FALSE(vn::atrapado([] {
+        contexto_dentroDeContexto_u(VNU("interior"));
+        error_interno("x", "prueba", 1, 0);
+    }));
     EXPECT_NE(std::string(trapable_texto_del_ultimo_fallo()).find("[grabando > sección 3 > interior]"),
               std::string::npos);
     EXPECT_EQ(vn::utf8_de(contexto_actual_u()), "grabando > sección 3");

@@ -18,9 +18,6 @@ PRUEBA(vornspy, un_bloque_esta_vivo_hasta_que_se_libera) {
     EXPECT_EQ(vornspy_es_memoria_reservada_valida(muerto), FALSO);
     // Freed twice through a second owner: told, and nothing happens.
     ESPERA_INFORME("vornspy_es_memoria_reservada_valida(*p) == CIERTO", vornspy_free_pp(&muerto, 1));
-}
-
-PRUEBA(vornspy, cualquier_puntero_se_puede_preguntar) {
     int local = 0;
     for (const uintptr_t q : {uintptr_t{0}, uintptr_t{1}, uintptr_t{16}, ~uintptr_t{0}, uintptr_t{0x7fffffffffff},
                               uintptr_t{1} << 63, reinterpret_cast<uintptr_t>(&local)})
@@ -28,29 +25,25 @@ PRUEBA(vornspy, cualquier_puntero_se_puede_preguntar) {
 }
 
 PRUEBA(vornspy, los_bloques_vivos_dicen_quien_los_pidio) {
-    void *p = vornspy_malloc(1234);
-    struct visto {
-        void *p;
-        bool hallado = false;
-    } v{p};
+    static void *p;
+    p = vornspy_malloc(1234);
+    bool hallado = false;
     vornspy_recorre_bloques_vivos(
-        [](const void *q, size_t tamanyo, const char *modulo, uint32_t linea, void *datos) {
-            auto *w = static_cast<visto *>(datos);
-            if (q == w->p) w->hallado = tamanyo == 1234 && !std::strcmp(modulo, "vornspy_test") && linea > 0;
+        [](const void *q, size_t tamanyo, const char *modulo, uint32_t linea, void *si) {
+            if (q == p)
+                *static_cast<bool *>(si) = tamanyo == 1234 && modulo == std::string("vornspy_test") && linea > 0;
         },
-        &v);
-    EXPECT_TRUE(v.hallado);
+        &hallado);
+    EXPECT_TRUE(hallado);
     vornspy_free_pp(&p, 1);
 }
 
 PRUEBA(vornspy, varias_hebras_a_la_vez) {
     vn::en_hebras(2, [](int) {
         void *p[64] = {};
-        for (unsigned i = 0; i < 20000; ++i) {
-            void *&q = p[i * 7 % 64];
-            if (q != nullptr) vornspy_free_pp(&q, 1);
+        for (unsigned i = 0; i < 20000; ++i)
+            if (void *&q = p[i * 7 % 64]; q != nullptr) vornspy_free_pp(&q, 1);
             else q = vornspy_malloc(i % 300);
-        }
         for (void *&q : p)
             if (q != nullptr) vornspy_free_pp(&q, 1);
     });
