@@ -5,7 +5,9 @@
 #include "propiedades.h"
 #include <algorithm>
 #include <cmath>
+#include <iomanip>
 #include <numbers>
+#include <sstream>
 
 using namespace obra;
 
@@ -41,15 +43,27 @@ const capa &capa_de(const plano &p, const char *nombre) {
     return ninguna;
 }
 
-// Where a point is, and where a layer's figures are, to 1e-12 of a scale.
-testing::AssertionResult es(const Punto2D &p, double x, double y, double escala = 1) {
-    const auto r = vn::cerca(p.x, x, escala);
-    return r ? vn::cerca(p.y, y, escala) : r;
-}
-testing::AssertionResult ocupa(const capa &c, double x1, double y1, double x2, double y2, double escala = 1) {
-    const extension e = extension_de(c);
-    const auto r = es({e.xmin, e.ymin}, x1, y1, escala);
-    return r ? es({e.xmax, e.ymax}, x2, y2, escala) : r;
+// What a drawing holds, as one line; the far end of an arc without its sign, which is either at half a turn.
+std::string retrato(const plano &p) {
+    std::ostringstream s;
+    s << std::setprecision(9);
+    const auto n = [](double x) { return std::fabs(x) < 1e-9 ? 0. : x; };
+    for (const capa &c : p.capas) {
+        s << utf8(c.nombre) << " (" << utf8(c.tipo_linea) << (c.apagada ? ", off)" : ")");
+        for (const linea &l : c.lineas)
+            s << " line " << n(l.a.x) << ',' << n(l.a.y) << '>' << n(l.b.x) << ',' << n(l.b.y);
+        for (const uint32_t color : c.color_lineas) s << " colour " << color;
+        for (const arco &a : c.arcos)
+            s << " arc " << n(a.centro.x) << ',' << n(a.centro.y) << ' ' << n(a.desde) << ' ' << std::fabs(a.hasta);
+        for (const polilinea &q : c.polilineas) s << (q.cerrada ? " closed " : " open ") << q.vertices.size();
+        if (!c.elipses.empty()) s << " ellipses " << c.elipses.size();
+        if (const extension e = extension_de(c); e.hay)
+            s << " box " << n(e.xmin) << ',' << n(e.ymin) << ' ' << n(e.xmax) << ',' << n(e.ymax);
+        s << "; ";
+    }
+    s << p.tipos_de_linea.size() << " line types; ";
+    for (const auto &[que, cuantos] : p.sin_importar) s << que << '=' << cuantos << ' ';
+    return s.str();
 }
 
 std::string veces(int n, const std::string &s) {
@@ -59,55 +73,16 @@ std::string veces(int n, const std::string &s) {
 }
 
 constexpr const char *LINEA = "0\nLINE\n8\n0\n62\n0\n10\n1\n20\n0\n30\n0\n11\n3\n21\n0\n31\n0\n";
-constexpr const char *ARCO = "0\nARC\n8\n0\n10\n1\n20\n0\n30\n0\n40\n1\n50\n0\n51\n90\n";
 
 } // namespace
 
-PRUEBA(obra_dxf, las_referencias_se_expanden_con_su_capa_y_su_color) {
-    // Turned 90 degrees, twice as large, in two columns 10 apart along the turned axis.
-    const plano p = lee(
-        dxf_con("0\nINSERT\n8\nEJES\n62\n5\n2\nB\n10\n100\n20\n50\n30\n0\n41\n2\n42\n2\n43\n2\n50\n90\n70\n2\n44\n10\n"
-                "0\nLINE\n8\nOTRA\n62\n99999999\n10\n1\n20\n0\n11\n3\n21\n0\n",
-                LINEA));
-    EXPECT_EQ(capa_de(p, "OTRA").color_lineas.at(0), 256u); // no colour of the palette: that of its layer
-    const capa &c = capa_de(p, "EJES");
-    ASSERT_EQ(c.lineas.size(), 2u);
-    EXPECT_TRUE(es(c.lineas[0].a, 100, 50));
-    EXPECT_TRUE(es(c.lineas[0].b, 100, 54));
-    EXPECT_TRUE(es(c.lineas[1].a, 100, 60));
-    EXPECT_EQ(c.color_lineas[0], 5u);
-    EXPECT_TRUE(c.apagada);
-    EXPECT_EQ(utf8(c.tipo_linea), "DASHED");
-}
-
-PRUEBA(obra_dxf, un_arco_reflejado_gira_al_reves_y_uno_estirado_es_una_elipse) {
-    const plano espejo = lee(dxf_con("0\nINSERT\n8\n0\n2\nB\n10\n0\n20\n0\n30\n0\n41\n-1\n42\n1\n43\n1\n", ARCO));
-    const capa &c = capa_de(espejo, "0");
-    ASSERT_EQ(c.arcos.size(), 1u);
-    // From 90 to 180 degrees about the origin, counter-clockwise.
-    EXPECT_TRUE(es(c.arcos[0].centro, 0, 0));
-    EXPECT_TRUE(es({c.arcos[0].desde, std::fabs(c.arcos[0].hasta)}, std::numbers::pi / 2, std::numbers::pi));
-    const plano estirado = lee(dxf_con("0\nINSERT\n8\n0\n2\nB\n10\n0\n20\n0\n30\n0\n41\n3\n42\n1\n43\n1\n", ARCO));
-    EXPECT_EQ(capa_de(estirado, "0").elipses.size(), 1u);
-    EXPECT_TRUE(ocupa(capa_de(estirado, "0"), 0, 0, 3, 1, 1e3));
-}
-
-// Centre (7, 1), half axis (1, 0.5), ratio 0.3, parameters 0.2 to 2, seen from below: its box by another reader.
-PRUEBA(obra_dxf, una_elipse_en_un_plano_vuelto_y_una_polilinea_con_curvatura_y_marco) {
-    const plano e = lee(dxf_con("0\nELLIPSE\n10\n7\n20\n1\n11\n1\n21\n.5\n40\n.3\n41\n.2\n42\n2\n230\n-1\n"));
-    EXPECT_TRUE(ocupa(capa_de(e, "0"), 6.720, 0.519, 8.010, 1.430, 1e9));
-    // The second vertex is of the frame; the third belongs to none.
-    const plano p = lee(
-        dxf_con("0\nPOLYLINE\n8\nEJES\n66\n1\n70\n5\n0\nVERTEX\n10\n0\n20\n0\n42\n1\n0\nVERTEX\n70\n16\n10\n9\n20\n9\n"
-                "0\nVERTEX\n10\n2\n20\n0\n0\nSEQEND\n0\nVERTEX\n10\n99\n0\nPOLYLINE\n70\n16\n0\nVERTEX\n10\n99\n"
-                "0\nPOLYLINE\n0\nSEQEND\n"));
-    const capa &c = capa_de(p, "EJES");
-    ASSERT_EQ(c.polilineas.size(), 1u);
-    EXPECT_TRUE(c.polilineas[0].cerrada);
-    EXPECT_EQ(c.polilineas[0].vertices.size(), 2u);
-    // A half circle below the chord.
-    EXPECT_TRUE(ocupa(c, 0, -1, 2, 0));
-    EXPECT_EQ(p.sin_importar, (std::map<std::string, uint32_t>{{"POLYLINE", 1}, {"POLYLINE MESH", 1}}));
+// References, mirrored and stretched arcs, frames, names in either case, and what is not taken and is counted.
+PRUEBA(obra_dxf, cada_dibujo_da_su_retrato) {
+    for (const auto &[tablas, bloque, entidades, esperado] :
+         vn::filas<std::string, std::string, std::string, std::string>("obra/obra.tsv", "dibujos")) {
+        std::string s = dxf_con(entidades, bloque);
+        EXPECT_EQ(retrato(lee(s.insert(s.find("0\nENDTAB"), tablas))), esperado);
+    }
 }
 
 PRUEBA(obra_dxf, los_textos_dicen_lo_que_el_plano_y_estan_donde_el) {
@@ -132,24 +107,6 @@ PRUEBA(obra_dxf, los_textos_dicen_lo_que_el_plano_y_estan_donde_el) {
     EXPECT_TRUE(r[1].en.x == 3 && r[1].en.y == 4);
     EXPECT_TRUE(vn::cerca(r[1].angulo, std::numbers::pi / 6));
     EXPECT_TRUE(utf8(r[2].letras) == "otro" && r[2].en.x == 5 && r[2].en.y == 6);
-}
-
-PRUEBA(obra_dxf, los_nombres_no_tienen_caja_y_lo_que_no_se_toma_se_cuenta) {
-    const std::string tabla = "0\nLTYPE\n2\nTrazos\n0\nLTYPE\n2\nTRAZOS\n0\nLAYER\n2\nHelada\n70\n1\n";
-    std::string s = dxf_con("0\nINSERT\n2\nb\n8\nejes\n70\n3\n0\nINSERT\n2\nNo est\xE1\n0\nMLINE\n0\nMULTILEADER\n"
-                            "0\nLINE\n10\n1e999\n0\nLINE\n10\nx\n0\nATTDEF\n70\n0\n0\nLINE\n67\n1\n",
-                            std::string(LINEA) + "0\nHATCH\n91\n2000000000\n0\nATTDEF\n70\n0\n0\nINSERT\n2\nB\n");
-    const plano p = lee(s.insert(s.find("0\nENDTAB"), tabla));
-    EXPECT_EQ(capa_de(p, "EJES").lineas.size(), 3u);
-    EXPECT_TRUE(capa_de(p, "Helada").apagada);
-    EXPECT_EQ(p.tipos_de_linea.size(), 1u);
-    EXPECT_EQ(p.sin_importar, (std::map<std::string, uint32_t>{{"HATCH", 3},
-                                                               {"INSERT B", 3},
-                                                               {"INSERT No está", 1},
-                                                               {"MLINE", 1},
-                                                               {"MULTILEADER", 1},
-                                                               {"LINE", 2},
-                                                               {"ATTDEF", 1}}));
 }
 
 PRUEBA(obra_dxf, lo_que_no_es_un_dxf_se_rechaza_y_lo_que_le_pasa_a_uno_se_dice) {
