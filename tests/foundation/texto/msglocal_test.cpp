@@ -69,29 +69,17 @@ PRUEBA(msglocal, el_lector_ansi_descodifica_y_lo_mal_escrito_no_le_hace_caer) {
 }
 
 PRUEBA(msglocal, una_fila_da_las_columnas_de_los_dos_lectores) {
-    const struct {
-        vnfunc_mensaje ancho, ansi;
-        uint32_t orden, ancho_id;
-        int columna;
-        const char *texto, *texto_ansi;
-    } filas[] = {
-        {msg_100001.u, msg_100001.a, 1, 8, 8, "<100001>%d drawings of %s", "<100001>%d drawings of %s"},
-        {msg_clave.u, msg_clave.a, 0, 0, 0, "Clave", "Clave"},
-        {msg_clave.u, msg_clave.a, 0, 0, 1, "Clef 𝄞", "FFFF43006c0065006600200034d81edd"},
-        {msg_100003.u, msg_100003.a, 3, 8, 4, "<100003>Área", "<100003>\xC1rea"},
-        {msg_100003.u, msg_100003.a, 3, 8, 18, "<100003>Area", "<100003>A2"},
-    };
-    for (const auto &f : filas) {
+    const vnfunc_mensaje anchos[] = {msg_100001.u, msg_clave.u, msg_100003.u},
+                         ansis[] = {msg_100001.a, msg_clave.a, msg_100003.a};
+    for (const auto &[cual, orden, ancho_id, columna, texto, texto_ansi] :
+         vn::filas<size_t, uint32_t, uint32_t, int, std::string, std::string>("foundation/msglocal.tsv", "columnas")) {
         vnmensaje ancho{}, ansi{};
-        f.ancho(&ancho);
-        f.ansi(&ansi);
-        EXPECT_EQ(vn::utf8_de(static_cast<const vnwchar *>(ancho.textos[f.columna])), f.texto);
-        EXPECT_STREQ(static_cast<const char *>(ansi.textos[f.columna]), f.texto_ansi);
-        for (const vnmensaje &m : {ancho, ansi}) {
-            EXPECT_STREQ(m.nombre, "prueba.msg");
-            EXPECT_EQ(m.orden, f.orden);
-            EXPECT_EQ(m.ancho_id, f.ancho_id);
-        }
+        anchos[cual](&ancho);
+        ansis[cual](&ansi);
+        EXPECT_EQ(vn::utf8_de(static_cast<const vnwchar *>(ancho.textos[columna])), texto);
+        EXPECT_EQ(static_cast<const char *>(ansi.textos[columna]), texto_ansi);
+        for (const vnmensaje &m : {ancho, ansi})
+            EXPECT_TRUE(m.nombre == std::string("prueba.msg") && m.orden == orden && m.ancho_id == ancho_id) << texto;
     }
 }
 
