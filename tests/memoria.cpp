@@ -1,7 +1,6 @@
 #include "memoria.h"
 #include "foundation/suelo/operaciones_fichero.h"
 #include <algorithm>
-#include <cstring>
 #include <map>
 #include <memory>
 
@@ -27,17 +26,16 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
 }
 vnerror_fichero lee(vnid_fichero id, int64_t posicion, void *destino, size_t n, size_t *leidos) {
     const std::string &s = *abiertos.at(id);
-    *leidos = posicion < 0 || static_cast<uint64_t>(posicion) >= s.size()
-                  ? 0
-                  : std::min(n, s.size() - static_cast<size_t>(posicion));
-    if (*leidos != 0) std::memcpy(destino, s.data() + posicion, *leidos);
+    const auto desde = static_cast<uint64_t>(posicion);
+    *leidos = desde >= s.size() ? 0 : s.copy(static_cast<char *>(destino), n, desde);
     return VN_FICH_BIEN;
 }
 vnerror_fichero escribe(vnid_fichero id, int64_t posicion, const void *origen, size_t n, size_t *escritos) {
     std::string &s = *abiertos.at(id);
     if (posicion < 0 || posicion > (1 << 26)) return VN_FICH_SIN_ESPACIO;
-    if (s.size() < static_cast<size_t>(posicion) + n) s.resize(static_cast<size_t>(posicion) + n);
-    std::memcpy(s.data() + posicion, origen, n);
+    const auto desde = static_cast<size_t>(posicion);
+    s.resize(std::max(s.size(), desde + n));
+    s.replace(desde, n, static_cast<const char *>(origen), n);
     *escritos = n;
     return VN_FICH_BIEN;
 }

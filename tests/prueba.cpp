@@ -203,15 +203,16 @@ void Prueba::TearDown() {
     operaciones_fichero_instala(nullptr);
     fichconf_establece_directorio_base(nullptr);
     vnregional_establece(nullptr);
-    for (const auto &i : toma_informes())
-        ADD_FAILURE() << "unexpected report: " << i.modulo << ", " << i.linea << ": " << i.expresion << " "
-                      << i.detalle;
+    const auto ninguno = [](const char *de) {
+        for (const auto &i : toma_informes())
+            ADD_FAILURE() << de << i.modulo << ", " << i.linea << ": " << i.expresion << " " << i.detalle;
+    };
+    ninguno("unexpected report: ");
     for (const auto &a : toma_avisos()) ADD_FAILURE() << "unexpected warning: " << a;
     // What modules made at first use goes with the exit list, as when a process ends, and is made again by the next
     // test.
     vnatexit_ejecuta();
-    for (const auto &i : toma_informes())
-        ADD_FAILURE() << "report of an exit cleaner: " << i.expresion << " " << i.detalle;
+    ninguno("report of an exit cleaner: ");
     if (const uint64_t vivos = vornspy_bloques_vivos(nullptr); vivos > bloques_al_empezar_) {
         std::string texto;
         vornspy_recorre_bloques_vivos(describe_bloque, &texto);

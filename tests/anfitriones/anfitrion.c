@@ -10,6 +10,8 @@
 #include <stdlib.h>
 #include <string.h>
 
+#define EN_TRAMPA(f, datos) trapable_nousar_recursivo_ejecuta_funcion_segura(f, datos, NULL)
+
 static int faltas = 0, vueltas = 0;
 static vnmutex *mutex;
 
@@ -24,30 +26,26 @@ static void no_debe_llegar(const vninforme *informe, void *datos) {
     debe(0, informe->expresion != NULL ? informe->expresion : "a report outside of traps");
 }
 
-static void rechazada(void) {
+static void rechazada(void *datos) {
+    (void)datos;
     vornsave_graba_double(1.0, NULL);
     ++vueltas;
 }
 
 static int compara_informando(const void *a, const void *b) {
-    rechazada();
+    rechazada(NULL);
     return memcmp(a, b, 1);
 }
 
 static void visita_informando(void *elemento, void *datos) {
-    rechazada();
+    rechazada(NULL);
     *(int *)datos += *(int *)elemento;
-}
-
-static void un_argumento(void *datos) {
-    (void)datos;
-    rechazada();
 }
 
 static void con_el_mutex(void *datos) {
     (void)datos;
     vnmutex_entra(mutex);
-    rechazada();
+    rechazada(NULL);
     vnmutex_sal(mutex);
 }
 
@@ -64,7 +62,7 @@ static void ordena_y_pasea(void *datos) {
 }
 
 static void otra_trampa(void *datos) {
-    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(un_argumento, NULL, NULL) == FALSO, "the inner trap fails");
+    debe(EN_TRAMPA(rechazada, NULL) == FALSO, "the inner trap fails");
     debe(trapable_ha_fallado() == FALSO, "the outer one does not");
     *(int *)datos = 1;
 }
@@ -75,16 +73,13 @@ int main(void) {
     int suma = 0, dentro = 0;
     error_interno_instala_receptor(no_debe_llegar, NULL);
     mutex = vnmutex_crea("anfitrion");
-    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(un_argumento, NULL, NULL) == FALSO,
-         "a refused argument fails");
+    debe(EN_TRAMPA(rechazada, NULL) == FALSO, "a refused argument fails");
     debe(strstr(trapable_texto_del_ultimo_fallo(), "(vornsave_datos) != NULL") != NULL, "the text of the report");
-    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(con_el_mutex, NULL, NULL) == FALSO, "a mutex inside");
+    debe(EN_TRAMPA(con_el_mutex, NULL) == FALSO, "a mutex inside");
     debe(vueltas == 2, "every call came back");
-    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(ordena_y_pasea, &suma, NULL) == FALSO,
-         "call-backs that fail");
+    debe(EN_TRAMPA(ordena_y_pasea, &suma) == FALSO, "call-backs that fail");
     debe(suma == 6, "every element was visited");
-    debe(trapable_nousar_recursivo_ejecuta_funcion_segura(otra_trampa, &dentro, NULL) == CIERTO && dentro == 1,
-         "nested traps");
+    debe(EN_TRAMPA(otra_trampa, &dentro) == CIERTO && dentro == 1, "nested traps");
     vnmutex_destruye(&mutex); /* one that is still held would be reported */
     vornspy_instala_memoria_agotada(acaba_bien, &faltas);
     vornspy_malloc(SIZE_MAX);

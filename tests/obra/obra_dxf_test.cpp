@@ -35,14 +35,6 @@ plano lee(const std::string &contenido) {
     return p;
 }
 
-const capa &capa_de(const plano &p, const char *nombre) {
-    for (const capa &c : p.capas)
-        if (utf8(c.nombre) == nombre) return c;
-    ADD_FAILURE() << "no layer " << nombre;
-    static const capa ninguna;
-    return ninguna;
-}
-
 // What a drawing holds, as one line; the far end of an arc without its sign, which is either at half a turn.
 std::string retrato(const plano &p) {
     std::ostringstream s;
@@ -90,7 +82,7 @@ PRUEBA(obra_dxf, los_textos_dicen_lo_que_el_plano_y_estan_donde_el) {
          vn::filas<std::string, std::string, std::string, std::string>("obra/obra.tsv", "textos")) {
         std::string s = dxf_con("0\n" + clase + "\n1\n" + bytes + "\n");
         const plano p = lee(s.replace(s.find("AC1009"), 6, version));
-        EXPECT_EQ(utf8(capa_de(p, "0").rotulos.at(0).letras), dicho) << bytes;
+        EXPECT_EQ(utf8(p.capas.back().rotulos.at(0).letras), dicho) << bytes;
     }
     // Longer than any buffer, in pieces; what follows 101 is of another object.
     const std::string largo(5000, 'x'),
@@ -98,7 +90,7 @@ PRUEBA(obra_dxf, los_textos_dicen_lo_que_el_plano_y_estan_donde_el) {
     const plano p = lee(dxf_con("0\nMTEXT\n10\n7\n20\n8\n40\n.5\n3\n" + largo + "\n1\ny\n50\n90\n" + empotrado +
                                 "0\nTEXT\n10\n1\n20\n1\n11\n3\n21\n4\n72\n1\n50\n30\n1\n" + largo +
                                 "\n0\nATTRIB\n10\n5\n20\n6\n1\n\n" + empotrado));
-    const auto &r = capa_de(p, "0").rotulos;
+    const auto &r = p.capas.back().rotulos;
     ASSERT_EQ(r.size(), 3u);
     EXPECT_EQ(utf8(r[0].letras), largo + "y");
     EXPECT_TRUE(r[0].en.x == 7 && r[0].en.y == 8 && r[0].altura == .5);
@@ -122,7 +114,7 @@ PRUEBA(obra_dxf, lo_que_no_es_un_dxf_se_rechaza_y_lo_que_le_pasa_a_uno_se_dice) 
     EXPECT_EQ(n.linea,
               1 + std::count(bien.begin(), bien.begin() + static_cast<std::ptrdiff_t>(bien.find("11\n3")), '\n'));
     EXPECT_EQ(lee(bien.substr(0, bien.rfind("0\nEOF")) + "\n\n", p, n), lectura_dxf::bien);
-    EXPECT_TRUE(n.sin_final && capa_de(p, "0").lineas.size() == 1);
+    EXPECT_TRUE(n.sin_final && p.capas.back().lineas.size() == 1);
     for (const char *vacio : {"999\nx\n0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n",
                               "\xEF\xBB\xBF  0\r\nSECTION\r\n  2\r\nBLOCKS\r\n  0\r\nENDSEC\r\n  0\r\nEOF"})
         EXPECT_TRUE(lee(vacio).capas.empty());

@@ -1,18 +1,10 @@
 #include "geometria.h"
 #include "propiedades.h"
-#include "prueba.h"
 #include <nucleos/geometry/punto.h>
 #include <numbers>
 
 using namespace obra;
-
-namespace {
-
-polilinea cadena(std::vector<Punto2D> vertices, std::vector<double> curvaturas = {}) {
-    return {false, std::move(vertices), std::move(curvaturas)};
-}
-
-} // namespace
+using std::numbers::pi;
 
 // In millimetres: what closes, what crosses and what is an arc are told in metres and with the library's tolerances.
 PRUEBA(obra_geometria, lo_que_cierra_lo_que_cruza_y_los_arcos) {
@@ -24,18 +16,15 @@ PRUEBA(obra_geometria, lo_que_cierra_lo_que_cruza_y_los_arcos) {
     EXPECT_EQ(geometria_de(c, .001).cruces, 2u);
     EXPECT_EQ(geometria_de(c, 1).contornos, 0u); // 4 mm off in metres
     c.circulos = {{{300, 0}, 5}};
-    c.arcos = {{{400, 0}, 10, 0, std::numbers::pi},
-               {{400, 0}, 10, std::numbers::pi, 2 * std::numbers::pi},
-               {{500, 0}, 10, 6, 1}};
-    c.elipses = {{{600, 0}, {10, 0}, .5, 0, 2 * std::numbers::pi}, {{600, 0}, {10, 0}, .5, 0, 3}};
-    c.polilineas = {cadena({{0, 300}, {10, 300}}, {1, 1}), cadena({{0, 400}, {9, 400}, {9, 409}, {0, 400}}),
-                    cadena({{0, 500}, {9, 500}}, {-1, 0})};
-    c.polilineas[0].cerrada = true; // two half circles
+    c.arcos = {{{400, 0}, 10, 0, pi}, {{400, 0}, 10, pi, 2 * pi}, {{500, 0}, 10, 6, 1}};
+    c.elipses = {{{600, 0}, {10, 0}, .5, 0, 2 * pi}, {{600, 0}, {10, 0}, .5, 0, 3}};
+    c.polilineas = {{true, {{0, 300}, {10, 300}}, {1, 1}}, // two half circles
+                    {false, {{0, 400}, {9, 400}, {9, 409}, {0, 400}}, {}},
+                    {false, {{0, 500}, {9, 500}}, {-1, 0}}};
     const geometria_capa g = geometria_de(c, .001);
     EXPECT_EQ(g.contornos, 1u + 1 + 1 + 1 + 2);
-    EXPECT_TRUE(
-        vn::cerca(g.longitud_arcos, .001 * (std::numbers::pi * (20 + 10 + 4.5) + 10 * (2 * std::numbers::pi - 5))));
-    for (const double raro : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(), 1e308})
+    EXPECT_TRUE(vn::cerca(g.longitud_arcos, .001 * (pi * (20 + 10 + 4.5) + 10 * (2 * pi - 5))));
+    for (const double raro : {vn::NAN_, vn::INF, 1e308})
         c.lineas.push_back({{raro, 0}, {0, raro}}); // a file may hold anything
     EXPECT_EQ(geometria_de(c, 1e3).contornos, 5u);
     c.lineas.resize(8);
@@ -50,7 +39,7 @@ PRUEBA(obra_geometria, lo_que_cierra_lo_que_cruza_y_los_arcos) {
     p.capas[0].lineas = {{{100000, 1000}, {100000, 3000}}};
     p.capas[0].circulos = {{{102000, 2000}, 1000}};
     // The circle's right half, of a polygon of 64, and the square before it.
-    EXPECT_TRUE(vn::cerca(envolvente_de(p).area, 2 * 2 + 16 * std::sin(std::numbers::pi / 32), 1e6)); // the grid's step
+    EXPECT_TRUE(vn::cerca(envolvente_de(p).area, 2 * 2 + 16 * std::sin(pi / 32), 1e6)); // the grid's step
     EXPECT_EQ(envolvente_de(p).vertices, 2u + 33);
 }
 
@@ -59,9 +48,7 @@ PRUEBA(obra_geometria, el_barrido_encuentra_los_mismos_cruces_que_todos_con_todo
     for (const int64_t lado : {5, 40}) {
         capa c;
         for (int i = 0; i < 300; ++i) {
-            const auto punto = [&] {
-                return Punto2D{static_cast<double>(z.entero_entre(-lado, lado)), z.entre(-3, 3)};
-            };
+            const auto punto = [&] { return Punto2D{double(z.entero_entre(-lado, lado)), z.entre(-3, 3)}; };
             c.lineas.push_back({punto(), punto()});
             if (i % 5 == 0) c.lineas.back().b = c.lineas[static_cast<size_t>(i) / 2].a; // an end in common
             c.lineas.back().a.y += lado == 5 ? 0 : 100. * static_cast<double>(i % 7);   // and in heaps
