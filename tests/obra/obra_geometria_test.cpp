@@ -15,6 +15,10 @@ PRUEBA(obra_geometria, lo_que_cierra_lo_que_cruza_y_los_arcos) {
     EXPECT_EQ(geometria_de(c, .001).contornos, 1u);
     EXPECT_EQ(geometria_de(c, .001).cruces, 2u);
     EXPECT_EQ(geometria_de(c, 1).contornos, 0u); // 4 mm off in metres
+    // A square with its diagonal: three meet at two of its corners.
+    const capa cruzada{
+        .lineas = {{{0, 0}, {9, 0}}, {{9, 0}, {9, 9}}, {{9, 9}, {0, 9}}, {{0, 9}, {0, 0}}, {{0, 0}, {9, 9}}}};
+    EXPECT_EQ(geometria_de(cruzada, 1).contornos, 0u);
     c.circulos = {{{300, 0}, 5}};
     c.arcos = {{{400, 0}, 10, 0, pi}, {{400, 0}, 10, pi, 2 * pi}, {{500, 0}, 10, 6, 1}};
     c.elipses = {{{600, 0}, {10, 0}, .5, 0, 2 * pi}, {{600, 0}, {10, 0}, .5, 0, 3}};

@@ -23,6 +23,7 @@ void ansi(vnmensaje *m) {
     m->textos[31] = "FFFF3c0033003";
     m->textos[10] = "FFFF3c00zz00";
     m->textos[33] = "<32";
+    m->textos[11] = "<323070>";
     m->textos[39] = "No id here";
     m->textos[12] = "FFFF";
     m->fin = nullptr;
