@@ -54,6 +54,7 @@ template <class R, class P, class... A> llamada llama(R (*f)(P, A...)) {
             const auto n = static_cast<uint32_t>(std::stoul(r));
             for (C *&p : std::span(lista, n)) r += "|" + toma(std::exchange(p, nullptr));
             destruye(n, &lista);
+            EXPECT_EQ(lista, nullptr);
         }
         const txt queda = toma(texto);
         return std::is_void_v<R> ? queda : std::is_same_v<P, C **> ? r + " " + queda : r;
@@ -122,14 +123,16 @@ PRUEBA(cad, lo_que_se_crea_y_se_destruye) {
     ESPERA_INFORME("(*s) != NULL", vornstr_destruye(&s));
     EXPECT_EQ(toma(cad_crea_de_bytes("abc", 2)), "ab");
     EXPECT_EQ(toma(ESPERA_INFORME("vnstdc_strlen(str)==len", cad_crea_de_bytes("a\0b", 3))), "a");
-    EXPECT_EQ(toma(widestr_creacadena(2)), "");
     EXPECT_EQ(toma(widestr_creacadena_con_caracter(3, 0x20AC)), "€€€");
     EXPECT_EQ(toma(widestr_crea_de_unidades(VNU("abc"), 2)), "ab");
     EXPECT_EQ(toma(ESPERA_INFORME("widestr_longitud(str)==len", widestr_crea_de_unidades(VNU("a\0b"), 3))), "a");
     EXPECT_EQ(widestr_copia_si_no_null(nullptr), nullptr);
-    vnwchar *t = widestr_copia_opcional(VNU("a")), ajena[] = VNU("ab"), *p = ajena;
+    EXPECT_EQ(widestr_hay_texto(nullptr), FALSO);
+    vnwchar *t = widestr_copia_opcional(VNU("a")), *v = widestr_creacadena(2), ajena[] = VNU("ab"), *p = ajena;
+    EXPECT_EQ(u16_de(t) + u16_de(v), u"a");
     widestr_fun_destruye(&t);
-    EXPECT_EQ(t, nullptr);
+    widestr_destruye(&v);
+    EXPECT_TRUE(t == nullptr && v == nullptr);
     // Not of the heap: it stays.
     ESPERA_INFORME("vornspy_es_memoria_reservada_valida(p) == CIERTO", widestr_concatena(&p, VNU("c")));
     EXPECT_EQ(utf8_de(p), "ab");
