@@ -5,11 +5,13 @@
 //   EXPECT_EQ(h(), 0x1234u);                  the same number natively and under Wine: for results without libm
 //   const vn::lugar l = vn::lugar_de(caso);   near the origin, and at the coordinates of a survey
 //   EXPECT_TRUE(vn::cerca(x, 0.25, 10.));     within 1e-12 x scale of a value kept in the test: for those with libm
+//   HASTA(5e-5, 1, igual({d, 0}, {0, 0}));    a limit: what is said of d holds there, and not one step further
 //   for (const auto &fila : vn::tabla("C_polygons/segment_pairs.tsv")) fila[0]...    rows made by others
 #pragma once
 
 #include "prueba.h"
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -76,6 +78,37 @@ inline testing::AssertionResult cerca(double visto, double esperado, double esca
     char texto[120];
     std::snprintf(texto, sizeof texto, "%.17g, not %.17g to 1e-12 x %g", visto, esperado, escala);
     return testing::AssertionFailure() << texto;
+}
+
+// The numbers beside one.
+inline double tras(double x) { return std::nextafter(x, INF); }
+inline double ante(double x) { return std::nextafter(x, -INF); }
+
+template <class F> void hasta(double ultimo, double hacia, F vale, const char *que, int linea) {
+    EXPECT_TRUE(vale(ultimo)) << "line " << linea << ", at " << ultimo << ": " << que;
+    EXPECT_FALSE(vale(std::nextafter(ultimo, hacia))) << "line " << linea << ", beyond " << ultimo << ": " << que;
+}
+#define HASTA(ultimo, hacia, ...)                                                                                      \
+    ::vn::hasta(                                                                                                       \
+        ultimo, hacia, [&]([[maybe_unused]] double d) -> bool { return __VA_ARGS__; }, #__VA_ARGS__, __LINE__)
+
+// The numbers of a text, in order, whatever stands between them.
+inline std::vector<double> numeros(std::string_view s) {
+    std::vector<double> r;
+    for (const char *p = s.data(), *const fin = p + s.size(); p < fin;) {
+        double x = 0.;
+        const auto visto = std::from_chars(p, fin, x);
+        if (visto.ec == std::errc()) r.push_back(x);
+        p = visto.ptr + (visto.ec != std::errc());
+    }
+    return r;
+}
+// Those of each of the texts that the separator parts, where there are any.
+inline std::vector<std::vector<double>> grupos(std::string_view s, std::string_view separador) {
+    std::vector<std::vector<double>> r;
+    for (size_t i; !s.empty(); s.remove_prefix(i == s.npos ? s.size() : i + 1))
+        if (auto v = numeros(s.substr(0, i = s.find_first_of(separador))); !v.empty()) r.push_back(std::move(v));
+    return r;
 }
 
 // The rows of a table of the outside data but its title, split at the tabs.

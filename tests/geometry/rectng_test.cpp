@@ -1,17 +1,15 @@
 #include "exacto.h"
+#include "filas.h"
 #include "foundation/suelo/dueno.hpp"
 #include "geometry/rectng.h"
 #include "prueba.h"
 #include <algorithm>
 #include <array>
 #include <cfloat>
-#include <cmath>
-#include <functional>
-#include <limits>
 
 namespace {
 
-constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN(), INF = std::numeric_limits<double>::infinity();
+using vn::ante, vn::INF, vn::NAN_;
 
 void destruye(arrPuntero **a) { arr_DestruyeEstructurasST(a, rectangulo_t, rec_Destruye); }
 using rectangulo = vn::dueno<rec_Destruye>;
@@ -20,13 +18,19 @@ using limites = std::array<double, 4>;
 
 rectangulo_t de(const limites &l) { return {l[0], l[1], l[2], l[3], CIERTO}; }
 limites limites_de(const rectangulo_t &r) { return {r.xmin, r.ymin, r.xmax, r.ymax}; }
+limites limites_de(const std::string &texto) {
+    const auto v = vn::numeros(texto);
+    return {v.at(0), v.at(1), v.at(2), v.at(3)};
+}
 void anade(const rectangulos &a, const limites &l) {
     rectangulo_t *r = rec_CreaDefinido(l[0], l[1], l[2], l[3]);
     arr_AppendPunteroST(a.get(), r, rectangulo_t);
 }
-rectangulos tiras(std::initializer_list<limites> todas) {
+// From a text: four numbers each.
+rectangulos tiras(const std::string &texto) {
     rectangulos a(arr_CreaPunteroST(0, rectangulo_t));
-    for (const limites &l : todas) anade(a, l);
+    const auto v = vn::numeros(texto);
+    for (size_t i = 0; i + 3 < v.size(); i += 4) anade(a, {v[i], v[i + 1], v[i + 2], v[i + 3]});
     return a;
 }
 std::vector<limites> todas(const rectangulos &a) {
@@ -35,8 +39,7 @@ std::vector<limites> todas(const rectangulos &a) {
         v.push_back(limites_de(*arr_GetPunteroST(a.get(), i, rectangulo_t)));
     return v;
 }
-std::vector<limites> alargadas(std::initializer_list<limites> l, double cuanto) {
-    const rectangulos a = tiras(l);
+std::vector<limites> alargadas(const rectangulos &a, double cuanto) {
     rec_Incrementa_longitudes_sin_solapes(a.get(), cuanto);
     return todas(a);
 }
@@ -107,7 +110,7 @@ PRUEBA(rectng, lo_mal_definido_se_informa_y_se_hace) {
     ESPERA_INFORME("incremento_a_cada_lado >= 0.", rec_IncrementaAnchos(&r, -1));
     r.calculados = FALSO;
     EXPECT_EQ(ESPERA_INFORME("rec->calculados", rec_Ancho(&r)), -2);
-    ESPERA_INFORME("num_rectangulos > 0", rec_Incrementa_longitudes_sin_solapes(tiras({}).get(), 1));
+    ESPERA_INFORME("num_rectangulos > 0", rec_Incrementa_longitudes_sin_solapes(tiras("").get(), 1));
 }
 
 PRUEBA(rectng, cada_tolerancia_tiene_su_limite_y_su_sentido) {
@@ -115,55 +118,29 @@ PRUEBA(rectng, cada_tolerancia_tiene_su_limite_y_su_sentido) {
     rectangulo_t otro;
     const auto tmp = [&otro](double ox, double oy, double ex, double ey) { return &(otro = {ox, oy, ex, ey, CIERTO}); };
     const auto callado = [] { return vn::Prueba::toma_informes().empty(); };
-    // clang-format off
-    const struct {
-        const char *que;
-        double ultimo, hacia;
-        std::function<bool(double)> vale;
-    } filas[] = {
-        {"x inside to 1e-6", -1e-6, -1, [&](double x) { return rec_ClipX(&r, x) == CIERTO; }},
-        {"a point inside to 1e-6", -1e-6, -1,
-         [&](double y) { return rec_ClipPunto(&r, 5, y) == CIERTO && rec_ClipPunto(&r, y, 5) == CIERTO; }},
-        {"a point inside to its precision", -.25, -1,
-         [&](double y) { return rec_ClipPunto_ConPrecision(&r, 5, y, .25) == CIERTO; }},
-        {"on the border from inside, to its precision", .25, 1,
-         [&](double x) { return rectng_punto_esta_en_borde_con_precision(&r, x, 5, .25) == CIERTO; }},
-        {"on the border from outside", -.25, -1,
-         [&](double x) { return rectng_punto_esta_en_borde_con_precision(&r, x, 5, .25) == CIERTO; }},
-        {"rectangles touch to 1e-6", -1e-6, -1,
-         [&](double x) {
-             return rec_ClipRectangulo(&r, tmp(-5, 0, x, 1)) && rec_ClipRectangulo(tmp(0, -5, 1, x), &r);
-         }},
-        {"one inside another to 1e-6", -1e-6, -1,
-         [&](double x) { return rec_RelacionaRectangulos(&r, tmp(x, 1, 5, 5)) == 2; }},
-        {"boxes touch exactly", 0, -1, [&](double x) { return rec_ExisteSolapeConLimites(&r, x, 5, -3, 7) == CIERTO; }},
-        {"a segment's box, by its tolerance", -.5, -1,
-         [&](double x) { return rec_ExisteSolapeConSegmento(&r, x, 5, -3, 7, .5) == CIERTO; }},
-        {"centred on the origin to its tolerance", .5, 1,
-         [&](double x) { return rec_RectanguloCentradoOrigen(tmp(x, -1, x, 1), .5) == CIERTO; }},
-        {"a horizontal one may be higher by 0.0001, excluded", std::nextafter(1 + .0001, 0), 2,
-         [&](double alto) { return rectangulo(rec_CreaHorizontal(0, 0, 1, alto)) && callado(); }},
-        {"a vertical one wider by as much", std::nextafter(1 + .0001, 0), 2,
-         [&](double ancho) { return rectangulo(rec_CreaVertical(0, 0, ancho, 1)) && callado(); }},
-        {"a room of 1e-7 is none", 1e-7, 1,
-         [](double hueco) { return alargadas({{-9, 0, 0, 1}, {hueco, 0, 9, 1}}, .5)[0][2] == 0; }},
-        {"a centre of gravity within 0.50001 of the width, excluded", std::nextafter(.50001, 0), 1,
-         [&](double cdg) {
-             double v[4];
-             rectng_AnchosDesdePuntoFijo(1, 1, cdg, 0, 1, &v[0], &v[1], &v[2], &v[3]);
-             return callado();
-         }},
-        {"the old clip's point inside to 1e-6", 10 + 1e-6, 11,
-         [&](double x) { return antiguo(r, {5, 5, x, 5}).extremos[2] == x; }},
-        {"the old clip's line along a side to 1e-6", -1e-6, -1,
-         [&](double x) { return antiguo(r, {x, -5, x, 15}).dentro; }},
+    HASTA(-1e-6, -1, rec_ClipX(&r, d) == CIERTO);
+    HASTA(-1e-6, -1, rec_ClipPunto(&r, 5, d) == CIERTO && rec_ClipPunto(&r, d, 5) == CIERTO);
+    HASTA(-.25, -1, rec_ClipPunto_ConPrecision(&r, 5, d, .25) == CIERTO);
+    HASTA(.25, 1, rectng_punto_esta_en_borde_con_precision(&r, d, 5, .25) == CIERTO);
+    HASTA(-.25, -1, rectng_punto_esta_en_borde_con_precision(&r, d, 5, .25) == CIERTO);
+    HASTA(-1e-6, -1, rec_ClipRectangulo(&r, tmp(-5, 0, d, 1)) && rec_ClipRectangulo(tmp(0, -5, 1, d), &r));
+    HASTA(-1e-6, -1, rec_RelacionaRectangulos(&r, tmp(d, 1, 5, 5)) == 2); // inside
+    HASTA(0, -1, rec_ExisteSolapeConLimites(&r, d, 5, -3, 7) == CIERTO);  // exactly
+    HASTA(-.5, -1, rec_ExisteSolapeConSegmento(&r, d, 5, -3, 7, .5) == CIERTO);
+    HASTA(.5, 1, rec_RectanguloCentradoOrigen(tmp(d, -1, d, 1), .5) == CIERTO);
+    HASTA(ante(1 + .0001), 2, rectangulo(rec_CreaHorizontal(0, 0, 1, d)) && callado()); // higher than wide, by little
+    HASTA(ante(1 + .0001), 2, rectangulo(rec_CreaVertical(0, 0, d, 1)) && callado());
+    const auto hueco = [](double x) {
+        const rectangulos a = tiras("-9 0 0 1");
+        anade(a, {x, 0, 9, 1});
+        return alargadas(a, .5)[0][2];
     };
-    // clang-format on
-    for (const auto &f : filas) {
-        EXPECT_TRUE(f.vale(f.ultimo)) << f.que;
-        EXPECT_FALSE(f.vale(std::nextafter(f.ultimo, f.hacia))) << f.que;
-    }
-    EXPECT_EQ(rec_RectanguloVertical(&r), FALSO); // a square
+    HASTA(1e-7, 1, hueco(d) == 0); // a room of so much is none
+    limites v;
+    HASTA(ante(.50001), 1, (rectng_AnchosDesdePuntoFijo(1, 1, d, 0, 1, &v[0], &v[1], &v[2], &v[3]), callado()));
+    HASTA(10 + 1e-6, 11, antiguo(r, {5, 5, d, 5}).extremos[2] == d);
+    HASTA(-1e-6, -1, antiguo(r, {d, -5, d, 15}).dentro); // along a side
+    EXPECT_EQ(rec_RectanguloVertical(&r), FALSO);        // a square
     EXPECT_EQ(rec_ClipPunto(&r, NAN_, 5) + rec_ClipPunto_ConPrecision(&r, 5, NAN_, 1) +
                   rec_ExisteSolapeConLimites(&r, NAN_, 1, 2, 3),
               0);
@@ -171,19 +148,11 @@ PRUEBA(rectng, cada_tolerancia_tiene_su_limite_y_su_sentido) {
 
 PRUEBA(rectng, los_recortes_en_los_lados_y_con_numeros_extremos) {
     const rectangulo_t r = de({0, 0, 10, 10});
-    const struct {
-        limites segmento;
-        recorte exacto, antiguo;
-    } filas[] = {
-        {{-5, 0, 5, 0}, {true, {0, 0, 5, 0}}, {true, {0, 0, 5, 0}}},       // along a side, one end outside
-        {{0, -5, 0, 15}, {true, {0, 0, 0, 10}}, {true, {0, -5, 0, 15}}},   // both outside: the old one leaves them,
-        {{0, 12, 0, 15}, {false, {0, 12, 0, 15}}, {true, {0, 12, 0, 15}}}, // beyond the corner too
-        {{-9, 10, -5, 10}, {false, {-9, 10, -5, 10}}, {true, {-9, 10, -5, 10}}},
-        {{-5, -5, 15, 15}, {true, {0, 0, 10, 10}}, {true, {0, 0, 10, 10}}}, // through two corners
-    };
-    for (const auto &f : filas) {
-        EXPECT_EQ(exacto_(r, f.segmento), f.exacto) << f.segmento[0];
-        EXPECT_EQ(antiguo(r, f.segmento), f.antiguo) << f.segmento[0];
+    for (const auto &[segmento, hay, queda, hay_antiguo, queda_antiguo] :
+         vn::filas<std::string, int, std::string, int, std::string>("geometry/rectng.tsv", "recortes")) {
+        const limites s = limites_de(segmento);
+        EXPECT_EQ(exacto_(r, s), (recorte{hay == 1, limites_de(queda)})) << segmento;
+        EXPECT_EQ(antiguo(r, s), (recorte{hay_antiguo == 1, limites_de(queda_antiguo)})) << segmento;
     }
     rectangulo_t sin_nada = r;
     sin_nada.calculados = FALSO;
@@ -199,9 +168,7 @@ PRUEBA(rectng, los_recortes_en_los_lados_y_con_numeros_extremos) {
             v[i] = raro;
             const recorte c = exacto_(de({v[0], v[1], v[2], v[3]}), {v[4], v[5], v[6], v[7]});
             antiguo(de({v[0], v[1], v[2], v[3]}), {v[4], v[5], v[6], v[7]});
-            if (std::isnan(raro)) {
-                EXPECT_FALSE(c.dentro) << i;
-            }
+            EXPECT_FALSE(c.dentro && std::isnan(raro)) << i;
             for (const double x : c.extremos) EXPECT_TRUE(!c.dentro || std::isfinite(x)) << i << " " << raro;
         }
     EXPECT_FALSE(exacto_(r, {-1e308, 5, 1e308, 5}).dentro); // longer than all numbers
@@ -226,27 +193,23 @@ PRUEBA(rectng, los_recortes_son_los_exactos) {
         const limites entero = {a.x, a.y, b.x, b.y};
         const recorte c = exacto_(r, entero), c_antiguo = antiguo(r, entero);
         const auto como = exacto::frente_a(s, bajo, alto);
-        if (como != exacto::caja::toca) {
-            ASSERT_TRUE(c.dentro == (como == exacto::caja::dentro) && c_antiguo.dentro == c.dentro) << i;
-        }
+        ASSERT_TRUE(como == exacto::caja::toca ||
+                    (c.dentro == (como == exacto::caja::dentro) && c_antiguo.dentro == c.dentro))
+            << i;
         if (!c.dentro) continue;
         ++dentro;
         const bool dentro_a = rec_ClipPunto(&r, a.x, a.y), dentro_b = rec_ClipPunto(&r, b.x, b.y);
-        if (dentro_a && dentro_b) {
-            ASSERT_EQ(c.extremos, entero) << i;
-        }
+        ASSERT_TRUE(!dentro_a || !dentro_b || c.extremos == entero) << i;
         for (const size_t k : {0u, 2u}) {
             const double x = c.extremos[k], y = c.extremos[k + 1];
             bits << x << y;
-            if (como == exacto::caja::dentro) {
-                ASSERT_TRUE(vn::cerca(c_antiguo.extremos[k], x, l.escala(100)) &&
-                            vn::cerca(c_antiguo.extremos[k + 1], y, l.escala(100)))
-                    << i;
-            }
-            if (k == 0 ? dentro_a : dentro_b) {
-                ASSERT_TRUE(vn::cerca(x, entero[k], l.escala(100)) && vn::cerca(y, entero[k + 1], l.escala(100))) << i;
-                continue;
-            }
+            const auto iguales = [&](const limites &v) {
+                return vn::cerca(v[k], x, l.escala(100)) && vn::cerca(v[k + 1], y, l.escala(100));
+            };
+            const bool queda = k == 0 ? dentro_a : dentro_b;
+            ASSERT_TRUE(como != exacto::caja::dentro || iguales(c_antiguo.extremos)) << i;
+            ASSERT_TRUE(!queda || iguales(entero)) << i;
+            if (queda) continue;
             ++cortados;
             ASSERT_TRUE(vn::cerca((x - a.x) * (b.y - a.y), (y - a.y) * (b.x - a.x), l.escala(4000) * 4)) << i;
             ASSERT_EQ(rectng_punto_esta_en_borde_con_precision(&r, x, y, l.escala(1.) * 1e-12), CIERTO) << i;
@@ -258,16 +221,10 @@ PRUEBA(rectng, los_recortes_son_los_exactos) {
 }
 
 PRUEBA(rectng, las_tiras_se_alargan_hasta_la_que_estorba) {
-    using v = std::vector<limites>;
-    // The first takes the whole gap; the second finds none.
-    EXPECT_EQ(alargadas({{0, 0, 5, 1}, {6, 0, 9, 1}}, 2), (v{{-2, 0, 6, 1}, {6, 0, 11, 1}}));
-    EXPECT_EQ(alargadas({{0, 0, 5, 1}, {6, 0, 9, 1}}, .75), (v{{-.75, 0, 5.75, 1}, {5.75, 0, 9.75, 1}}));
-    // One across that comes later may still grow into the way; an earlier one has done so.
-    EXPECT_EQ(alargadas({{0, 0, 5, 1}, {6, 1.5, 7, 9}}, 2), (v{{-2, 0, 6, 1}, {6, 1, 7, 11}}));
-    EXPECT_EQ(alargadas({{6, 1.5, 7, 9}, {0, 0, 5.875, 1}}, .25), (v{{6, 1.25, 7, 9.25}, {-.25, 0, 6.125, 1}}));
-    // Over one that it is mixed up with, to where that one ends.
-    EXPECT_EQ(alargadas({{0, 0, 10, 1}, {5, .5, 12, 1.5}}, 3), (v{{-3, 0, 12, 1}, {2, .5, 12, 1.5}}));
-    const rectangulos a = tiras({{6, 1, 7, 9}, {0, 0, 5, 1}});
+    for (const auto &[cuanto, entran, salen] :
+         vn::filas<double, std::string, std::string>("geometry/rectng.tsv", "alargadas"))
+        EXPECT_EQ(alargadas(tiras(entran), cuanto), todas(tiras(salen)));
+    const rectangulos a = tiras("6 1 7 9, 0 0 5 1");
     rec_TraladaRectangulos(a.get(), 1, 2);
     EXPECT_EQ(limites_de(*rectangulo(rec_Envolvente(a.get()))), (limites{1, 2, 8, 11}));
     // Strips that are apart stay apart, none shrinks, and none grows by more than it may.
@@ -277,7 +234,7 @@ PRUEBA(rectng, las_tiras_se_alargan_hasta_la_que_estorba) {
     };
     int crecidas = 0;
     for (int i = 0; i < 2000; ++i) {
-        const rectangulos b = tiras({});
+        const rectangulos b = tiras("");
         for (int n = 0; n < 40; ++n) {
             const limites t = una_tira(z, 30);
             const auto hay = todas(b);
@@ -300,34 +257,14 @@ PRUEBA(rectng, las_tiras_se_alargan_hasta_la_que_estorba) {
 }
 
 PRUEBA(rectng, las_tiras_contiguas_se_condensan) {
-    const struct {
-        std::initializer_list<limites> entran;
-        double tolerancia;
-        std::vector<limites> salen;
-    } filas[] = {
-        // Three stacked and one apart; the fourth, held by the result, goes.
-        {{{0, 0, 9, 1}, {0, 1, 9, 2}, {5, 2, 12, 3}, {1, .25, 3, .75}, {20, 0, 29, 1}},
-         .01,
-         {{0, 0, 12, 3}, {20, 0, 29, 1}}},
-        // A group that is higher than wide is still one of horizontal strips; directions do not mix.
-        {{{0, 0, 4, 2}, {0, 2, 4, 4}, {0, 4, 4, 6}, {0, 6, 4, 8}}, 0, {{0, 0, 4, 8}}},
-        {{{0, 0, 1, 9}, {1, 0, 2, 9}, {2, 0, 9, 1}}, 0, {{0, 0, 2, 9}, {2, 0, 9, 1}}},
-        // In order: the first has gone past the second when it grows over the third. What a later one grows over stays.
-        {{{0, 0, 9, 1}, {0, 5, 9, 6}, {0, 1, 9, 5}}, 0, {{0, 0, 9, 5}, {0, 0, 9, 6}}},
-        // The tolerance and a step beyond it, along the strips and across.
-        {{{0, 0, 9, 1}, {9.25, 1, 20, 2}}, .25, {{0, 0, 20, 2}}},
-        {{{0, 0, 9, 1}, {std::nextafter(9.25, 10), 1, 20, 2}},
-         .25,
-         {{0, 0, 9, 1}, {std::nextafter(9.25, 10), 1, 20, 2}}},
-        {{{0, 0, 9, 1}, {6, .75, 20, 2}}, .25, {{0, 0, 20, 2}}},
-        {{{0, 0, 9, 1}, {6, std::nextafter(1.25, 2), 20, 2}}, .25, {{0, 0, 9, 1}, {6, std::nextafter(1.25, 2), 20, 2}}},
-    };
-    for (const auto &f : filas) EXPECT_EQ(condensadas(tiras(f.entran), f.tolerancia), f.salen);
-    ESPERA_INFORME("tolerancia >= 0.", condensadas(tiras({{0, 0, 9, 1}, {0, 1, 9, 2}}), -1));
+    for (const auto &[tolerancia, entran, salen] :
+         vn::filas<double, std::string, std::string>("geometry/rectng.tsv", "condensadas"))
+        EXPECT_EQ(condensadas(tiras(entran), tolerancia), todas(tiras(salen)));
+    ESPERA_INFORME("tolerancia >= 0.", condensadas(tiras("0 0 9 1, 0 1 9 2"), -1));
     // Every strip lies in what stands for it.
     vn::azar z(53);
     for (int i = 0; i < 2000; ++i) {
-        const rectangulos b = tiras({});
+        const rectangulos b = tiras("");
         for (int n = 0; n < 25; ++n) anade(b, una_tira(z, 12));
         const auto salen = condensadas(b, 0);
         for (const limites &t : todas(b))
