@@ -1,4 +1,4 @@
-// Points, vectors and frames for the tests of geometry in space.
+// Points, vectors and frames for the tests of what is in space.
 #pragma once
 
 #include "foundation/listas/arr.h"
@@ -46,6 +46,14 @@ inline marco marco_al_azar(vn::azar &a, double lado, const vn::lugar &l = {}) {
         const vec d = direccion_al_azar(a), v = d - por(d, u) * u;
         if (largo(v) > 0.1) return {vec{l.x, l.y, l.z} + vector_al_azar(a, lado), u, unitario(v)};
     }
+}
+
+// Those of a text, three numbers each.
+inline std::vector<vec> vectores(const std::string &texto) {
+    std::vector<vec> r;
+    const auto v = vn::numeros(texto);
+    for (size_t i = 0; i + 2 < v.size(); i += 3) r.push_back({v[i], v[i + 1], v[i + 2]});
+    return r;
 }
 
 // Arrays of the family that free themselves.

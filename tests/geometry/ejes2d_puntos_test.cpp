@@ -1,20 +1,15 @@
 #include "espacio.h"
 #include "foundation/numeros/mt.h"
 #include "geometry/ejes2d.h"
-#include "prueba.h"
 #include <algorithm>
-#include <limits>
 
 using namespace espacio;
+using vn::ante, vn::tras, vn::INF, vn::NAN_;
 
 namespace {
 
 constexpr double PUNTOS = 1e-05, PLANO = 0.0005;
 constexpr uint32_t NINGUNO = 0xFFFFFFFF;
-constexpr double INF = std::numeric_limits<double>::infinity(), NAN_ = std::numeric_limits<double>::quiet_NaN();
-
-double tras(double x) { return std::nextafter(x, INF); }
-double ante(double x) { return std::nextafter(x, -INF); }
 
 struct respuesta {
     vnbool forman;
@@ -34,8 +29,7 @@ respuesta pregunta(const arrPunto3D *p, double puntos = PUNTOS, double plano = P
     return r;
 }
 
-// ---------------------------------------------------------------- the rule, one point at a time
-
+// The rule, one point at a time.
 bool separados(vec a, vec b, double t) {
     return std::fabs(a.x - b.x) > t || std::fabs(a.y - b.y) > t || std::fabs(a.z - b.z) > t;
 }
@@ -171,19 +165,17 @@ PRUEBA(ejes2d_puntos, la_busqueda_rapida_responde_lo_que_la_lenta) {
         ciertos += vista.forman;
         con_indice += vista.indice != NINGUNO;
     }
-    EXPECT_TRUE(ciertos > 500 && ciertos < 3500 && con_indice > 100)
-        << ciertos << " " << con_indice; // both roads walked
+    EXPECT_TRUE(ciertos > 500 && ciertos < 3500 && con_indice > 100) << ciertos << " " << con_indice;
 }
 
 // The search ends on big lists without luck: with its shortcuts in a moment, without them long after the time that the
 // test is given (see CMakeLists.txt). What each kind costs is in bench_geometry.
 PRUEBA(ejes2d_puntos, cien_mil_puntos_que_no_forman_ejes_no_eternizan_la_busqueda) {
     vn::azar a(43);
-    for (const int clase : {0, 1, 2, 3, 4, 5, 8, 9})
-        EXPECT_EQ(
-            pregunta(puntos(lista_sin_suerte(a, clase, 100000, clase == 4 ? 1e-6 : 0.)), PUNTOS, 1e-7, FALSO).forman,
-            FALSO)
-            << clase;
+    for (const int clase : {0, 1, 2, 3, 4, 5, 8, 9}) {
+        const puntos p(lista_sin_suerte(a, clase, 100000, clase == 4 ? 1e-6 : 0.));
+        EXPECT_EQ(pregunta(p, PUNTOS, 1e-7, FALSO).forman, FALSO) << clase;
+    }
 }
 
 PRUEBA(ejes2d_puntos, los_ejes_miran_al_lado_desde_el_que_el_poligono_va_a_izquierdas) {
@@ -213,38 +205,25 @@ PRUEBA(ejes2d_puntos, los_ejes_miran_al_lado_desde_el_que_el_poligono_va_a_izqui
 }
 
 PRUEBA(ejes2d_puntos, cada_tolerancia_en_su_limite) {
-    const auto existen = [](vec a, vec b, vec c) { return ejes2d_existen_tres_puntos_no_lineales(puntos({a, b, c})); };
-    const auto forman = [](vec a, vec b, vec c) { return ejes2d_tres_puntos_forman_ejes(XYZ(a), XYZ(b), XYZ(c)); };
+    const auto existen = [](vec b, vec c) { return ejes2d_existen_tres_puntos_no_lineales(puntos({{}, b, c})); };
+    const puntos tres({{0, 0, 0}, {1, 0, 0}, {.5, .25, 0}});
     // The second point must be apart by more than it; the third off the line by it.
-    EXPECT_EQ(existen({0, 0, 0}, {PUNTOS, 0, 0}, {0, 1, 0}), FALSO);
-    EXPECT_EQ(existen({0, 0, 0}, {tras(PUNTOS), 0, 0}, {0, 1, 0}), CIERTO);
-    EXPECT_EQ(existen({0, 0, 0}, {1, 0, 0}, {.5, ante(PUNTOS), 0}), FALSO);
-    EXPECT_EQ(existen({0, 0, 0}, {1, 0, 0}, {.5, PUNTOS, 0}), CIERTO);
-    EXPECT_EQ(forman({0, 0, 0}, {0, ante(PUNTOS), 0}, {1, 0, 0}), FALSO);
-    EXPECT_EQ(forman({0, 0, 0}, {0, PUNTOS, 0}, {1, 0, 0}), CIERTO);
-    EXPECT_EQ(ejes2d_existen_tres_puntos_no_lineales_con_precision(puntos({{0, 0, 0}, {1, 0, 0}, {.5, .25, 0}}), .25),
-              CIERTO);
-    EXPECT_EQ(
-        ejes2d_existen_tres_puntos_no_lineales_con_precision(puntos({{0, 0, 0}, {1, 0, 0}, {.5, .25, 0}}), tras(.25)),
-        FALSO);
+    HASTA(PUNTOS, 1, existen({d, 0, 0}, {0, 1, 0}) == FALSO);
+    HASTA(ante(PUNTOS), 1, existen({1, 0, 0}, {.5, d, 0}) == FALSO);
+    HASTA(ante(PUNTOS), 1, ejes2d_tres_puntos_forman_ejes(0, 0, 0, 0, d, 0, 1, 0, 0) == FALSO);
+    HASTA(.25, 1, ejes2d_existen_tres_puntos_no_lineales_con_precision(tres, d) == CIERTO);
 
     // A fourth point off the plane of the first three: in it; off it, but later starts serve; off it for all; past
     // remedy.
-    const struct {
-        double z;
-        vnbool forman;
-        uint32_t indice;
-    } filas[] = {{PLANO, CIERTO, NINGUNO}, {tras(PLANO), CIERTO, 3},       {-tras(PLANO), CIERTO, 3},
-                 {0.01, FALSO, NINGUNO},   {100. * PLANO, FALSO, NINGUNO}, {tras(100. * PLANO), FALSO, 3},
-                 {-1., FALSO, 3}};
-    for (const auto &f : filas) {
-        const puntos p({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, f.z}});
+    for (const double z : {PLANO, tras(PLANO), -tras(PLANO), .01, 100. * PLANO, tras(100. * PLANO), -1.}) {
+        const bool forman = std::fabs(z) < .001, pasa = z != PLANO && (forman || std::fabs(z) > 100. * PLANO);
+        const uint32_t indice = pasa ? 3 : NINGUNO;
+        const puntos p({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, z}});
         const respuesta r = pregunta(p);
-        EXPECT_TRUE(r.forman == f.forman && r.indice == f.indice) << f.z << ": " << r.forman << " " << r.indice;
-        EXPECT_EQ(pregunta(p, PUNTOS, PLANO, FALSO).indice, NINGUNO) << f.z;
-        EXPECT_EQ(ejes2d_punto3D_forman_ejes_con_precision(p, 2., nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                                                           nullptr, nullptr, nullptr),
-                  CIERTO);
+        EXPECT_TRUE(r.forman == forman && r.indice == indice) << z << ": " << r.forman << " " << r.indice;
+        EXPECT_EQ(pregunta(p, PUNTOS, PLANO, FALSO).indice, NINGUNO) << z;
+        marco m;
+        EXPECT_EQ(ejes2d_punto3D_forman_ejes_con_precision(p, 2., A_EJ(m)), CIERTO);
     }
     // With no early end, a start that a far point spoils gives way to the next one.
     const puntos corto({{0, 0, 0}, {.01, 0, 0}, {.01, .01, .0004}, {100, 100, 0}, {0, 100, 0}});

@@ -1,18 +1,15 @@
 #include "espacio.h"
+#include "filas.h"
 #include "geometry/ejes2d.h"
 #include "geometry/polin3d.h"
-#include "prueba.h"
 #include <algorithm>
-#include <limits>
-#include <string>
 
 using namespace espacio;
+using vn::tras, vn::INF, vn::NAN_;
 
 namespace {
 
-constexpr double PI = 3.141592653589793, INF = std::numeric_limits<double>::infinity(),
-                 NAN_ = std::numeric_limits<double>::quiet_NaN();
-double tras(double x) { return std::nextafter(x, INF); }
+constexpr double PI = 3.141592653589793;
 
 // A fillet, or none: no points and `hay` false.
 struct acuerdo : puntos {
@@ -93,9 +90,8 @@ PRUEBA(polin3d, el_acuerdo_es_tangente_en_sus_extremos_y_tiene_el_radio_pedido) 
 
 PRUEBA(polin3d, donde_no_hay_acuerdo) {
     // A segment must be longer than half the diameter.
-    EXPECT_EQ(acuerdo({1, 0, 0}, {}, {0, 9, 0}, 2., .5).hay, FALSO);
-    EXPECT_EQ(acuerdo({tras(1), 0, 0}, {}, {0, 9, 0}, 2., .5).hay, CIERTO);
-    EXPECT_EQ(acuerdo({9, 0, 0}, {}, {0, 1, 0}, 2., .5).hay, FALSO);
+    HASTA(1., 2., acuerdo({d, 0, 0}, {}, {0, 9, 0}, 2., .5).hay == FALSO);
+    HASTA(1., 2., acuerdo({9, 0, 0}, {}, {0, d, 0}, 2., .5).hay == FALSO);
     // Straight on or doubled back, to a degree.
     for (const double g : {.0174, .0175, PI - .0175, PI - .0174}) {
         const bool hay = g > .01745 && g < PI - .01745;
@@ -126,16 +122,9 @@ PRUEBA(polin3d, donde_no_hay_acuerdo) {
     }
     EXPECT_EQ(acuerdo(x, {}, y, NAN_, 1.).hay, FALSO);
     EXPECT_EQ(acuerdo({1e308, 0, 0}, {-1e308, 0, 0}, y, .1, 1.).hay, FALSO);
-    const struct {
-        double grados;
-        const char *informe;
-    } filas[] = {{0., "num_grados_dibujo_doblado > 0."},   {-3., "num_grados_dibujo_doblado > 0."},
-                 {NAN_, "num_grados_dibujo_doblado > 0."}, {INF, "num_puntos > 1"},
-                 {1e-300, "num_puntos <= MAXIMO_PUNTOS"},  {5e-324, "num_puntos <= MAXIMO_PUNTOS"},
-                 {89e-5, "num_puntos <= MAXIMO_PUNTOS"}};
     const vn::mayor_bloque mayor;
-    for (const auto &f : filas)
-        vn::con_informe(f.informe, [&] { EXPECT_EQ(acuerdo(x, {}, y, .1, 1., f.grados).hay, FALSO) << f.grados; });
+    for (const auto &[paso, dice] : vn::filas<double, vn::nulable>("geometry/polin3d.tsv", "grados"))
+        vn::con_informe(dice.c_str(), [&, g = paso] { EXPECT_EQ(acuerdo(x, {}, y, .1, 1., g).hay, FALSO) << g; });
     EXPECT_LT(mayor(), 100000u);
     EXPECT_EQ(acuerdo(x, {}, y, .1, 1., 91e-5).hay, CIERTO);
     EXPECT_EQ(acuerdo(x, {}, y, .1, 1., 1e300).size(), 2u);
@@ -185,27 +174,11 @@ PRUEBA(polin3d, circulos_y_arcos) {
 }
 
 PRUEBA(polin3d, las_listas_de_puntos) {
-    const struct {
-        std::vector<vec> p;
-        vnbool convexo;
-        const char *informe;
-    } filas[] = {
-        {{{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}}, CIERTO, nullptr},
-        {{{0, 1, 0}, {1, 1, 0}, {1, 0, 0}, {0, 0, 0}}, CIERTO, nullptr},
-        {{{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {2, 0, 0}, {1, 3, 0}}, CIERTO, nullptr}, // straight on, and a point twice
-        {{{0, 2, 0}, {1, 0, 0}, {0, -2, 0}, {3, 0, 0}}, FALSO, nullptr},
-        {{{0, 0, 0}, {1, 0, 0}, {2, 1, 0}, {1, .9, 0}, {0, 1, 0}}, FALSO, nullptr}, // only at the last corners
-        {{{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 4 - 1e-3, 0}, {0, 4, 0}},
-         CIERTO,
-         nullptr}, // a dent of no more than the margin
-        {{{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 4 - 1e-2, 0}, {0, 4, 0}}, FALSO, nullptr},
-        {{{0, 0, 0}, {1, 0, 0}}, FALSO, "num_puntos >= 3"},
-        {{{2, 2, 2}, {2, 2, 2}, {2, 2, 2}}, FALSO, "ya_se_tiene_W_con_que_comparar == CIERTO"},
-        {{}, FALSO, "num_puntos >= 3"},
-    };
-    for (const auto &f : filas) {
-        const puntos p(f.p);
-        vn::con_informe(f.informe, [&] { EXPECT_EQ(Pln3D_poligono_plano_es_convexo(p), f.convexo) << &f - filas; });
+    for (const auto &[lista, es_convexo, informe] :
+         vn::filas<std::string, int, vn::nulable>("geometry/polin3d.tsv", "convexos")) {
+        SCOPED_TRACE(lista);
+        const puntos p(vectores(lista));
+        vn::con_informe(informe.c_str(), [&, si = es_convexo] { EXPECT_EQ(Pln3D_poligono_plano_es_convexo(p), si); });
     }
     const puntos alabeado({{0, 0, 0}, {1, 0, 0}, {1, 1, .1}, {0, 1, 0}});
     Pln3D_poligono_plano_es_convexo(alabeado);

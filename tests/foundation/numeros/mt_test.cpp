@@ -1,39 +1,26 @@
+#include "espacio.h"
+#include "filas.h"
 #include "foundation/numeros/mt.h"
-#include "propiedades.h"
-#include "prueba.h"
-#include <limits>
 
-using vn::azar;
-using vn::cerca;
+using namespace espacio;
+using vn::ante, vn::azar, vn::cerca, vn::filas, vn::tras, vn::INF, vn::NAN_;
 
 namespace {
 
-constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN(), INF = std::numeric_limits<double>::infinity();
 constexpr double VUELTA = 6.283185307179586;
 constexpr int CASOS = 20000;
 
-double arriba(double x) { return std::nextafter(x, INF); }
-double abajo(double x) { return std::nextafter(x, -INF); }
-
-struct vector3 {
-    double x, y, z;
-};
-double por(const vector3 &a, const vector3 &b) { return mt_producto_escalar(a.x, a.y, a.z, b.x, b.y, b.z); }
-
 struct ejes {
-    vector3 x, y, z;
+    vec x, y, z;
     vnbool hay;
-    ejes(const vector3 &p, const vector3 &q)
-        : hay(mt_calcular_ejes_3D_dados_2_puntos(p.x, p.y, p.z, q.x, q.y, q.z, &x.x, &x.y, &x.z, &y.x, &y.y, &y.z, &z.x,
-                                                 &z.y, &z.z)) {}
-    ejes(const vector3 &p, const vector3 &q, const vector3 &r)
-        : hay(mt_calcular_ejes_3D_dados_3_puntos(p.x, p.y, p.z, q.x, q.y, q.z, r.x, r.y, r.z, &x.x, &x.y, &x.z, &y.x,
-                                                 &y.y, &y.z, &z.x, &z.y, &z.z)) {}
+    ejes(vec p, vec q) : hay(mt_calcular_ejes_3D_dados_2_puntos(XYZ(p), XYZ(q), A_XYZ(x), A_XYZ(y), A_XYZ(z))) {}
+    ejes(vec p, vec q, vec r)
+        : hay(mt_calcular_ejes_3D_dados_3_puntos(XYZ(p), XYZ(q), XYZ(r), A_XYZ(x), A_XYZ(y), A_XYZ(z))) {}
     // How far they are from unit vectors, square to each other and right-handed.
     double error() const {
-        vector3 xy;
-        mt_producto_vectorial(x.x, x.y, x.z, y.x, y.y, y.z, &xy.x, &xy.y, &xy.z);
-        return std::fabs(por(x, x) - 1.) + std::fabs(por(y, y) - 1.) + std::fabs(por(x, y)) +
+        vec xy;
+        mt_producto_vectorial(XYZ(x), XYZ(y), A_XYZ(xy));
+        return std::fabs(por(x, x) - 1.) + std::fabs(por(y, y) - 1.) + std::fabs(mt_producto_escalar(XYZ(x), XYZ(y))) +
                std::fabs(por(xy, z) - 1.);
     }
 };
@@ -71,20 +58,10 @@ PRUEBA(mt, los_angulos_acaban_en_una_vuelta_y_a_tiempo) {
         const double f = mt_filtra_angulo_mayor_que_cero(a);
         EXPECT_TRUE(f >= 0. && f < VUELTA) << a << " " << f;
     }
-    const double filas[][2] = {{-1e-17, 0.},      {VUELTA, 0.},       {abajo(VUELTA), abajo(VUELTA)},
-                               {7., 7. - VUELTA}, {-1., VUELTA - 1.}, {INF, 0.},
-                               {NAN_, 0.}};
-    for (const auto &f : filas) EXPECT_EQ(mt_filtra_angulo_mayor_que_cero(f[0]), f[1]);
-    // A sample for the platforms to agree on, and what has no direction.
-    const double angulos[][3] = {{1., 2., 1.1071487177940904},
-                                 {-3., 0.1, 3.108271657711546},
-                                 {-3., -0.1, 3.1749136494680403},
-                                 {1e-9, -7., 4.712388980527547},
-                                 {-1e200, -1e199, 3.241261306080955},
-                                 {0., 0., 0.},
-                                 {1., -1e-300, 0.},
-                                 {NAN_, 1., 0.}};
-    for (const auto &f : angulos) EXPECT_TRUE(cerca(mt_angulo(0., 0., f[0], f[1]), f[2])) << f[0] << " " << f[1];
+    for (const auto &[angulo, filtrado] : filas<double, double>("foundation/mt.tsv", "filtrados"))
+        EXPECT_EQ(mt_filtra_angulo_mayor_que_cero(angulo), filtrado);
+    for (const auto &[x, y, angulo] : filas<double, double, double>("foundation/mt.tsv", "angulos"))
+        EXPECT_TRUE(cerca(mt_angulo(0., 0., x, y), angulo)) << x << " " << y;
     azar a(1);
     for (int i = 0; i < CASOS; ++i) {
         const double x = a.entre(-5., 5.), y = a.entre(-5., 5.), d = mt_distancia(x, y, 0., 0.),
@@ -104,37 +81,8 @@ PRUEBA(mt, los_angulos_acaban_en_una_vuelta_y_a_tiempo) {
 }
 
 PRUEBA(mt, un_arco_tiene_sus_limites_con_su_tolerancia) {
-    constexpr double T = 1e-6;
-    const struct {
-        double angulo, inicio, fin;
-        vnbool dentro;
-    } filas[] = {{1., 1., 2., CIERTO},
-                 {2. + 0.999 * T, 1., 2., CIERTO},
-                 {2. + 1.001 * T, 1., 2., FALSO},
-                 {1. - 0.999 * T, 1., 2., CIERTO},
-                 {1. - 1.001 * T, 1., 2., FALSO},
-                 {0., 6., 0.5, CIERTO},
-                 {5.9, 6., 0.5, FALSO},
-                 {3., 0., VUELTA, CIERTO},
-                 {3., 1., 1. - VUELTA, CIERTO},
-                 {3., 1., 1., FALSO},
-                 {1., 1., 1., CIERTO},
-                 {3., 1., abajo(1.), FALSO},
-                 {1., 0., -2. * VUELTA, CIERTO},
-                 {4., 0., -1.5 * VUELTA, FALSO},
-                 {1. + VUELTA, 0.9, 1.1, CIERTO},
-                 {1. - 9. * VUELTA, 0.9, 1.1, CIERTO},
-                 {T, 0., 0., CIERTO},
-                 {arriba(T), 0., 0., FALSO},
-                 {1.5, 9., 0.5, FALSO},
-                 {3., 9., 0.5, CIERTO},
-                 {1.5, 0.5, 9., CIERTO},
-                 {NAN_, 0., VUELTA, FALSO},
-                 {1., 0., INF, FALSO},
-                 {1., -1e300, 0., CIERTO}};
-    for (const auto &f : filas)
-        EXPECT_EQ(mt_angulo_dentro_de_rango(f.angulo, f.inicio, f.fin), f.dentro)
-            << f.angulo << " " << f.inicio << " " << f.fin;
+    for (const auto &[angulo, inicio, fin, dentro] : filas<double, double, double, int>("foundation/mt.tsv", "arcos"))
+        EXPECT_EQ(mt_angulo_dentro_de_rango(angulo, inicio, fin), dentro) << angulo << " " << inicio << " " << fin;
 }
 
 PRUEBA(mt, las_transformaciones_giran_hacia_donde_dicen) {
@@ -155,23 +103,19 @@ PRUEBA(mt, las_transformaciones_giran_hacia_donde_dicen) {
 
 // At each tolerance, one step beyond it, and what has no answer.
 PRUEBA(mt, cada_tolerancia_esta_en_su_limite) {
-    const auto pertenece = [](double x, double y) {
-        return mt_punto_pertenece_a_segmento(x, y, -1., 0., 0., 0.) == CIERTO;
-    };
     const double P = 1e-5, C = 1e-6;
-    EXPECT_TRUE(pertenece(P, 0.) && !pertenece(arriba(P), 0.) && pertenece(-0.5, -P) && !pertenece(-0.5, arriba(P)) &&
-                !pertenece(NAN_, 0.));
-    EXPECT_TRUE(mt_punto_pertenece_a_segmento(0., P, 0., 0., 0., 0.) == CIERTO &&
-                mt_punto_pertenece_a_segmento(0., arriba(P), 0., 0., 0., 0.) == FALSO);
+    HASTA(P, 1, mt_punto_pertenece_a_segmento(d, 0., -1., 0., 0., 0.) == CIERTO);
+    HASTA(P, 1, mt_punto_pertenece_a_segmento(-0.5, -d, -1., 0., 0., 0.) == CIERTO);
+    HASTA(P, 1, mt_punto_pertenece_a_segmento(0., d, 0., 0., 0., 0.) == CIERTO);
+    EXPECT_EQ(mt_punto_pertenece_a_segmento(NAN_, 0., -1., 0., 0., 0.), FALSO);
     const auto cruza = [](mt_segmento_t a, mt_segmento_t b) {
         return mt_existe_interseccion_entre_segmentos(a.x1, a.y1, a.x2, a.y2, b.x1, b.y1, b.x2, b.y2, nullptr,
                                                       nullptr) == CIERTO;
     };
     const auto vertical = [](double x) { return seg(x, -1., x, 1.); };
-    EXPECT_TRUE(cruza(seg(0., 0., 1., 0.), vertical(-C)) && !cruza(seg(0., 0., 1., 0.), vertical(-arriba(C))));
-    EXPECT_TRUE(cruza(seg(-1., 0., 0., 0.), vertical(C)) && !cruza(seg(-1., 0., 0., 0.), vertical(arriba(C) + 2e-16)));
-    EXPECT_TRUE(cruza(seg(-1., 0., 1., 0.), seg(0., C, 0., 1.)) &&
-                !cruza(seg(-1., 0., 1., 0.), seg(0., arriba(C), 0., 1.)));
+    HASTA(-C, -1, cruza(seg(0., 0., 1., 0.), vertical(d)));
+    HASTA(C, 1, cruza(seg(-1., 0., 1., 0.), seg(0., d, 0., 1.)));
+    EXPECT_TRUE(cruza(seg(-1., 0., 0., 0.), vertical(C)) && !cruza(seg(-1., 0., 0., 0.), vertical(tras(C) + 2e-16)));
     EXPECT_FALSE(cruza(seg(0., 0., 2., 2.), seg(1., 1., 3., 3.)) || cruza(seg(0., 0., 0., 0.), vertical(0.)) ||
                  cruza(seg(0., NAN_, 1., 0.), vertical(0.)));
     // What is on one line but for the rounding of its coordinates is parallel, and what is off it by more is not.
@@ -180,57 +124,31 @@ PRUEBA(mt, cada_tolerancia_esta_en_su_limite) {
         const vn::lugar l = vn::lugar_de(i);
         const double g = a.entre(0., VUELTA), z = a.entre(-1., 1.);
         const auto p = [&](double t, double al_lado = 0.) {
-            return vector3{l.x + t * std::cos(g) - al_lado * std::sin(g), l.y + t * std::sin(g) + al_lado * std::cos(g),
-                           l.z + t * z};
+            return vec{l.x + t * std::cos(g) - al_lado * std::sin(g), l.y + t * std::sin(g) + al_lado * std::cos(g),
+                       l.z + t * z};
         };
         const double k = a.entre(.1, 10.), fuera = l.escala(1.) * 1e-11;
-        const vector3 e[] = {p(0.), p(k), p(k / 2.), p(3. * k), p(.6 * k, fuera), p(.3 * k, -fuera)};
+        const vec e[] = {p(0.), p(k), p(k / 2.), p(3. * k), p(.6 * k, fuera), p(.3 * k, -fuera)};
         ASSERT_FALSE(cruza(seg(e[0].x, e[0].y, e[1].x, e[1].y), seg(e[2].x, e[2].y, e[3].x, e[3].y))) << i;
         ASSERT_TRUE(cruza(seg(e[0].x, e[0].y, e[1].x, e[1].y), seg(e[4].x, e[4].y, e[5].x, e[5].y))) << i;
         ASSERT_TRUE(ejes(e[0], e[1], e[3]).hay == FALSO && ejes(e[2], e[3], e[0]).hay == FALSO &&
                     ejes(e[0], e[1], e[4]).hay == CIERTO)
             << i;
     }
-    EXPECT_TRUE(mt_puntos2D_iguales(C, 0., 0., -C) == CIERTO && mt_puntos2D_iguales(arriba(C), 0., 0., 0.) == FALSO);
-    EXPECT_TRUE(mt_puntos2D_iguales_con_tolerancia(0., 0.25, 0., 0., 0.25) == CIERTO &&
-                mt_puntos2D_iguales_con_tolerancia(0., arriba(0.25), 0., 0., 0.25) == FALSO);
-    const auto corta = [](double z) {
-        return mt_existe_interseccion_recta_con_plano(0., 0., 1., 1., 0., z, 0., 0., 1., 0., nullptr, nullptr, nullptr);
+    HASTA(C, 1, mt_puntos2D_iguales(d, 0., 0., -d) == CIERTO);
+    HASTA(0.25, 1, mt_puntos2D_iguales_con_tolerancia(0., d, 0., 0., 0.25) == CIERTO);
+    const auto corta = [](double z2, double z = 1.) {
+        return mt_existe_interseccion_recta_con_plano(0., 0., z, 1., 0., z2, 0., 0., 1., 0., nullptr, nullptr, nullptr);
     };
-    EXPECT_TRUE(corta(1e-6) == FALSO && corta(1.000001e-6) == CIERTO && corta(NAN_) == FALSO);
-    EXPECT_EQ(
-        mt_existe_interseccion_recta_con_plano(0., 0., 1e308, 1., 0., 1e-5, 0., 0., 1., 0., nullptr, nullptr, nullptr),
-        FALSO);
+    EXPECT_TRUE(corta(1e-6) == FALSO && corta(1.000001e-6) == CIERTO);
+    EXPECT_TRUE(corta(NAN_) == FALSO && corta(1e-5, 1e308) == FALSO);
 }
 
 // A cut at an end is that end, and its own segment is not cut; the inside test of polygons stands on this.
 PRUEBA(mt, los_cortes_de_segmentos_dicen_cual_queda_partido) {
-    const double MIN = INT32_MIN, MAX = INT32_MAX;
-    const struct {
-        mt_segmento_t a, b;
-        const char *cortes; // of the one, of the other
-    } filas[] = {{seg(0, 0, 4, 4), seg(0, 4, 4, 0), "(2,2);(2,2);"},
-                 {seg(0, 0, 4, 0), seg(1, 0, 1, 5), "(1,0);;"},
-                 {seg(0, 0, 4, 0), seg(1, 5, 1, 0), "(1,0);;"},
-                 {seg(1, 0, 1, 5), seg(0, 0, 4, 0), ";(1,0);"},
-                 {seg(0, 0, 4, 0), seg(4, 0, 4, 5), ";;"},
-                 {seg(0, 0, 9, 0), seg(7, 0, 2, 0), "(2,0)(7,0);;"},
-                 {seg(9, 0, 0, 0), seg(2, 0, 7, 0), "(7,0)(2,0);;"},
-                 {seg(0, 0, 0, 5), seg(0, 3, 0, 8), "(0,3);(0,5);"},
-                 {seg(0, 0, 4, 4), seg(0, 0, 4, 4), ";;"},
-                 {seg(0, 0, 4, 4), seg(4, 4, 6, 6), ";;"},
-                 {seg(0, 0, 4, 4), seg(1, 1, 1, 1), "(1,1);;"},
-                 {seg(0, 0, 4, 4), seg(1, 2, 1, 2), ";;"},
-                 {seg(2, 2, 2, 2), seg(2, 2, 2, 2), ";;"},
-                 {seg(0, 0, 1e308, 0), seg(5e307, -1, 5e307, 1e308), "(5e+307,0);(5e+307,0);"},
-                 {seg(0, 0, NAN_, 0), seg(0, 1, 1, -1), ";;"},
-                 {seg(0, 0, INF, 0), seg(0, 1, 1, -1), ";;"},
-                 {seg(1, 0, NAN_, 5), seg(0, 0, 4, 0), ";;"}, // though its first end lies on the other
-                 // Half a unit beside the line, at the far ends of 32 bits.
-                 {seg(MIN, MIN, MAX, MAX - 1.), seg(0., 0., -5., 5.), ";;"},
-                 {seg(MIN, MIN, MAX, MAX - 1.), seg(0., 0., 5., -5.), "(0.25,-0.25);(0.25,-0.25);"}};
-    for (const auto &f : filas) {
-        mt_segmento_t a = f.a, b = f.b;
+    for (const auto &[segmentos, cortes] : filas<std::string, std::string>("foundation/mt.tsv", "cortes")) {
+        const auto v = vn::numeros(segmentos);
+        mt_segmento_t a = seg(v.at(0), v[1], v[2], v[3]), b = seg(v[4], v[5], v[6], v.at(7));
         mt_calcula_inter_segmentos(&a, &b);
         std::string s;
         const auto anade = [&s](double x, double y) {
@@ -243,7 +161,7 @@ PRUEBA(mt, los_cortes_de_segmentos_dicen_cual_queda_partido) {
             if (g->numcortes > 1) anade(g->x4, g->y4);
             s += ';';
         }
-        EXPECT_EQ(s, f.cortes) << "row " << &f - filas;
+        EXPECT_EQ(s, cortes) << segmentos;
     }
 }
 
@@ -289,30 +207,11 @@ PRUEBA(mt, el_lado_y_el_cruce_son_exactos_en_todo_el_rango) {
 }
 
 PRUEBA(mt, las_raices_van_en_orden_y_no_pierden_cifras) {
-    const struct {
-        double a, b, c, r1, r2; // 9, 9: no roots
-    } filas[] = {{1., -3., 2., 2., 1.},
-                 {-1., 3., -2., 1., 2.},
-                 {1., 3., 2., -1., -2.},
-                 {1., 0., -4., 2., -2.},
-                 {1., 2., 1., -1., -1.},
-                 {1., 0., 0., 0., 0.},
-                 {0., 2., -4., 2., 2.},
-                 {0., 0., 1., 9., 9.},
-                 {1., 0., 1., 9., 9.},
-                 {1., -1e8, 1., 1e8, 1e-8},
-                 {NAN_, 1., 0., 9., 9.},
-                 {1., INF, 0., 9., 9.},
-                 {0x1p600, -3 * 0x1p600, 0x1p601, 2., 1.},
-                 {1e-170, -3e-170, 2e-170, 2., 1.},
-                 {1e200, 3., 1e-200, -0.38196601125010515e-200, -2.618033988749895e-200},
-                 {94906265.625, -189812534., 94906268.375, 1.0000000289759583, 1.},
-                 {1e-300, 1e300, 0., 9., 9.}};
-    for (const auto &f : filas) {
+    for (const auto &[a, b, c, hay, x1, x2] :
+         filas<double, double, double, int, double, double>("foundation/mt.tsv", "raices")) {
         double r1 = 9., r2 = 9.;
-        EXPECT_EQ(mt_raices_ecuacion_segundo_grado(f.a, f.b, f.c, &r1, &r2), f.r1 != 9.) << "row " << &f - filas;
-        EXPECT_TRUE(cerca(r1, f.r1, std::fabs(f.r1)) && cerca(r2, f.r2, std::fabs(f.r2)))
-            << r1 << " " << r2 << ", row " << &f - filas;
+        EXPECT_EQ(mt_raices_ecuacion_segundo_grado(a, b, c, &r1, &r2), hay) << a << " " << b << " " << c;
+        EXPECT_TRUE(cerca(r1, x1, std::fabs(x1)) && cerca(r2, x2, std::fabs(x2))) << a << " " << b << " " << c;
     }
 }
 
@@ -323,43 +222,39 @@ PRUEBA(mt, los_ejes_y_los_pies_estan_donde_se_piden) {
         const vn::lugar l = vn::lugar_de(i);
         const double k = l.x > 0. ? 1. : std::ldexp(1., static_cast<int>(a.entero(400)) - 200);
         const auto r = [&] { return k * (a.entero(5) == 0 ? 0. : a.entre(-1., 1.)); };
-        const auto un_punto = [&] { return vector3{l.x + r(), l.y + r(), l.z + r()}; };
-        const auto menos = [&k](const vector3 &p, const vector3 &q) {
-            return vector3{(p.x - q.x) / k, (p.y - q.y) / k, (p.z - q.z) / k};
-        };
-        const vector3 p = un_punto(), q = un_punto(), s = un_punto(), u = menos(q, p), v = menos(s, p);
+        const auto un_punto = [&] { return vec{l.x + r(), l.y + r(), l.z + r()}; };
+        const auto menos = [&k](vec p, vec q) { return (1. / k) * (p - q); };
+        const vec p = un_punto(), q = un_punto(), s = un_punto(), u = menos(q, p), v = menos(s, p);
         const double cota = l.escala(20.) * 1e-13;
-        vector3 pie, corte, producto;
+        vec pie, corte, producto;
         if (const ejes e(p, q, s); e.hay == CIERTO) {
+            mt_producto_vectorial_3ptos(0., 0., 0., XYZ(u), XYZ(v), A_XYZ(producto));
             ASSERT_TRUE(e.error() < 1e-14 && por(e.x, u) > 0. && std::fabs(por(e.y, u)) < 1e-14 &&
-                        std::fabs(por(e.z, v)) < 1e-7 && por(e.y, v) > 0.)
+                        std::fabs(por(e.z, v)) < 1e-7 && por(e.y, v) > 0. && por(producto, e.z) > 0.)
                 << i;
-            mt_producto_vectorial_3ptos(0., 0., 0., u.x, u.y, u.z, v.x, v.y, v.z, &producto.x, &producto.y,
-                                        &producto.z);
-            ASSERT_GT(por(producto, e.z), 0.) << i;
         }
         const ejes e(p, q);
         const bool vertical = std::fabs(e.x.x) < 1. / 64. && std::fabs(e.x.y) < 1. / 64.;
         ASSERT_TRUE(e.hay == (por(u, u) > 0.) && e.error() < 1e-14 && (vertical || (e.y.z == 0. && e.z.z >= 0.))) << i;
-        mt_proyecta_punto_sobre_recta_3D(s.x, s.y, s.z, p.x, p.y, p.z, q.x, q.y, q.z, &pie.x, &pie.y, &pie.z);
+        mt_proyecta_punto_sobre_recta_3D(XYZ(s), XYZ(p), XYZ(q), A_XYZ(pie));
         ASSERT_TRUE(e.hay == CIERTO ? std::fabs(por(menos(s, pie), e.x)) < cota : pie.x == p.x && pie.z == p.z) << i;
-        const double D = mt_D_plano_posicionado_en_coordenada(e.z.x, e.z.y, e.z.z, p.x, p.y, p.z);
-        if (mt_existe_interseccion_recta_con_plano(s.x, s.y, s.z, 0., 0., 5., e.z.x, e.z.y, e.z.z, D, &corte.x,
-                                                   &corte.y, &corte.z) == CIERTO) {
-            ASSERT_TRUE(corte.x == s.x && corte.y == s.y &&
-                        std::fabs(por(menos(corte, p), e.z)) < cota / std::fabs(e.z.z))
-                << i;
-        }
+        const double D = mt_D_plano_posicionado_en_coordenada(XYZ(e.z), XYZ(p));
+        ASSERT_TRUE(
+            mt_existe_interseccion_recta_con_plano(XYZ(s), 0., 0., 5., XYZ(e.z), D, A_XYZ(corte)) == FALSO ||
+            (corte.x == s.x && corte.y == s.y && std::fabs(por(menos(corte, p), e.z)) < cota / std::fabs(e.z.z)))
+            << i;
     }
     // The limit of 1/64, in each of the two components: Y turns from Yg x N to horizontal.
-    for (const double c : {1. / 64., abajo(1. / 64.)}) {
-        double Xx, Xy, Xz;
-        vornmath_calcula_matriz_transformacion_autocad(c, 0., std::sqrt(1. - c * c), &Xx, &Xy, &Xz, nullptr, nullptr,
-                                                       nullptr);
-        EXPECT_EQ(Xz != 0. && Xx > 0.9, c < 1. / 64.);
-        vornmath_calcula_matriz_transformacion_autocad(0., -c, std::sqrt(1. - c * c), &Xx, &Xy, &Xz, nullptr, nullptr,
-                                                       nullptr);
-        EXPECT_TRUE(Xy == 0. && Xz == 0. && Xx > 0.9);
+    const auto x_de = [](double Nx, double Ny) {
+        vec X;
+        vornmath_calcula_matriz_transformacion_autocad(Nx, Ny, std::sqrt(1. - Nx * Nx - Ny * Ny), A_XYZ(X), nullptr,
+                                                       nullptr, nullptr);
+        return X;
+    };
+    HASTA(ante(1. / 64.), 1, x_de(d, 0.).z != 0. && x_de(d, 0.).x > 0.9);
+    for (const double c : {1. / 64., ante(1. / 64.)}) {
+        const vec X = x_de(0., -c);
+        EXPECT_TRUE(X.y == 0. && X.z == 0. && X.x > 0.9);
     }
     // Three points on a line, one point, not a number: the global axes, and said so.
     for (const double v : {2., 0., NAN_, INF}) {
