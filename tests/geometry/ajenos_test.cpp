@@ -1,0 +1,225 @@
+// Against outlines, crossings and clips made by others, and the answers that came with them.
+#include "envolvente.h"
+#include "espacio.h"
+#include "foundation/numeros/mt.h"
+#include "geometry/ejes2d.h"
+#include "geometry/polin3d.h"
+#include "geometry/punto.h"
+#include "geometry/rectng.h"
+#include <algorithm>
+#include <map>
+#include <set>
+
+using namespace espacio;
+using envolvente::poligono, envolvente::puntos_t;
+
+namespace {
+
+vec area(const std::vector<vec> &p) {
+    vec s{};
+    for (size_t i = 0; i < p.size(); ++i) s = s + .5 * cruz(p[i] - p[0], p[(i + 1) % p.size()] - p[0]);
+    return s;
+}
+
+// The points of a list of coordinates, in whole numbers.
+puntos_t redondos(const std::vector<double> &v, double escala) {
+    const auto entero = [escala](double x) { return static_cast<int32_t>(std::lround(x * escala)); };
+    puntos_t r;
+    for (size_t i = 0; i + 1 < v.size(); i += 2) r.push_back({entero(v[i]), entero(v[i + 1])});
+    return r;
+}
+
+// The faces of the buildings of a city: lists of numbers of vertices, in nested brackets.
+std::vector<std::vector<vec>> caras() {
+    const std::string texto = vn::lee_fichero(vn::dato("B_mesh/buildings_rotterdam.city.json"));
+    const auto listas = [&texto](size_t i) {
+        return vn::grupos(std::string_view(texto).substr(i, texto.find_first_of("\"}", i) - i), "]");
+    };
+    const auto valor = [&texto](const std::string &clave) { return texto.find(clave) + clave.size(); };
+    const double escala = listas(valor("\"scale\":"))[0][0]; // of the three
+    const auto vertices = listas(valor("\"vertices\":"));
+    const std::string clave = "\"boundaries\":";
+    std::vector<std::vector<vec>> r;
+    for (size_t i = 0; (i = texto.find(clave, i)) != texto.npos;)
+        for (const auto &cara : listas(i += clave.size())) {
+            r.emplace_back();
+            for (const double k : cara) {
+                const auto &v = vertices[static_cast<size_t>(k)];
+                r.back().push_back(escala * vec{v[0], v[1], v[2]});
+            }
+        }
+    return r;
+}
+
+// Both exact segments' cuts against those told; "cross" is a point inside both, "touch" an end of one on the other,
+// "overlap" a piece in common.
+void corta_exactamente(const double (&v)[8], const std::string &relacion, const std::string *dados) {
+    mt_segmento_t a{v[0], v[1], v[2], v[3], 0, 0., 0., 0., 0.}, b{v[4], v[5], v[6], v[7], 0, 0., 0., 0., 0.};
+    mt_calcula_inter_segmentos(&a, &b);
+    std::set<std::pair<double, double>> vistos, esperados;
+    for (const mt_segmento_t *s : {&a, &b}) {
+        if (s->numcortes > 0) vistos.insert({s->x3, s->y3});
+        if (s->numcortes > 1) vistos.insert({s->x4, s->y4});
+    }
+    for (const size_t k : {0u, 2u}) {
+        if (dados[k].empty()) continue;
+        const double x = std::stod(dados[k]), y = std::stod(dados[k + 1]);
+        if (relacion == "cross") { // the same in both, or the end of one on the other
+            ASSERT_EQ(vistos.size(), 1u);
+            EXPECT_TRUE(vn::cerca(vistos.begin()->first, x, 1 + std::fabs(x)) &&
+                        vn::cerca(vistos.begin()->second, y, 1 + std::fabs(y)));
+            return;
+        }
+        const auto es_extremo = [&](const mt_segmento_t &s) {
+            return (s.x1 == x && s.y1 == y) || (s.x2 == x && s.y2 == y);
+        };
+        if (!(es_extremo(a) && es_extremo(b))) esperados.insert({x, y}); // ends of both cut none
+    }
+    EXPECT_EQ(vistos, esperados);
+}
+
+} // namespace
+
+PRUEBA(ajenos, la_envolvente_de_mil_puntos_reales_tiene_sus_once_vertices) {
+    const auto v = vn::numeros(vn::lee_fichero(vn::dato("C_polygons/hull_points_1k.json")));
+    ASSERT_EQ(v.size(), 2000u);
+    std::vector<double> esperados;
+    for (const auto &f : vn::tabla("C_polygons/hull_points_1k_expected.tsv"))
+        esperados.insert(esperados.end(), {std::stod(f[1]), std::stod(f[2])});
+    EXPECT_EQ(poligono(redondos(v, 1e6)).todos(), redondos(esperados, 1e6)); // six decimals
+}
+
+// Borders in ten-millionths of a degree: a hull has their area, where corners that hardly bend may go, and their points
+// inside. Laid on planes of space, the axes turn as most of their corners do.
+PRUEBA(ajenos, las_fronteras_tienen_su_envolvente_y_giran_como_la_mayoria_de_sus_esquinas) {
+    std::map<std::string, std::vector<double>> dentro;
+    for (const auto &f : vn::tabla("C_polygons/borders_points.tsv")) {
+        auto &lista = dentro[f[0] + "/" + f[1]];
+        if (f[4] == "in") lista.insert(lista.end(), {std::stod(f[2]), std::stod(f[3])});
+    }
+    vn::azar a(61);
+    int paises = 0, exactas = 0, vueltas = 0;
+    for (const auto &f : vn::tabla("C_polygons/borders.tsv")) {
+        SCOPED_TRACE(f[1]);
+        const auto v = vn::numeros(f[13].substr(0, f[13].find(')')));
+        poligono e(redondos(v, 1e7));
+        const puntos_t antes = e.todos();
+        int64_t doble = 0;
+        for (size_t i = 2; i < antes.size(); ++i) doble += envolvente::cruz<int64_t>(antes[0], antes[i - 1], antes[i]);
+        EXPECT_NEAR(static_cast<double>(doble) / 2e14 / std::stod(f[9]), 1., 1e-7);
+        EXPECT_LE(e.numVertices, std::stoi(f[8]));
+        EXPECT_GE(e.numVertices, std::stoi(f[8]) - 2);
+        exactas += e.numVertices == std::stoi(f[8]);
+        ++paises;
+        e.anade(redondos(dentro[f[0] + "/" + f[2]], 1e7));
+        EXPECT_EQ(e.todos(), antes);
+
+        std::vector<vec> anillo;
+        for (size_t i = 0; i + 1 < v.size(); i += 2) anillo.push_back({v[i], v[i + 1], 0});
+        for (const bool del_reves : {false, true}) {
+            if (del_reves) std::reverse(anillo.begin(), anillo.end());
+            const marco m = marco_al_azar(a, 1000.);
+            std::vector<vec> lista;
+            for (const vec &p : anillo) lista.push_back(m.punto(p.x, p.y));
+            int izquierda = 0;
+            for (size_t i = 0, n = anillo.size(); i < n; ++i) {
+                const double c = cruz(anillo[i] - anillo[(i + n - 1) % n], anillo[(i + 1) % n] - anillo[i]).z;
+                izquierda += (c > 1e-8) - (c < -1e-8);
+            }
+            if (std::abs(izquierda) < 3) continue; // a corner by the limit could turn it
+            marco r;
+            ASSERT_EQ(ejes2d_punto3D_forman_ejes(puntos(lista), A_EJ(r)), CIERTO);
+            EXPECT_EQ(por(r.w(), m.w()) > 0., izquierda > 0);
+            const double perimetro = std::stod(f[10]), hay = Pln3D_Longitud(puntos(lista));
+            EXPECT_TRUE(f[3] != "1" || std::fabs(hay - perimetro) < 1e-6 * perimetro) << hay; // no holes
+            ++vueltas;
+        }
+    }
+    EXPECT_EQ(paises, 30);
+    EXPECT_GE(exactas, 25);
+    EXPECT_GT(vueltas, 40);
+}
+
+PRUEBA(ajenos, las_caras_de_los_edificios_tienen_ejes) {
+    size_t planas = 0, sin_area = 0, todas = 0;
+    for (const auto &cara : caras()) {
+        const vec s = area(cara), n = unitario(s);
+        ++todas;
+        double fuera = 0.;
+        for (const vec &p : cara) fuera = std::max(fuera, std::fabs(por(p - cara[0], n)));
+        const puntos lista(cara);
+        marco m;
+        const vnbool forman = ejes2d_punto3D_forman_ejes(lista, A_EJ(m));
+        if (largo(s) == 0.) { // a wall of no width
+            ++sin_area;
+            EXPECT_EQ(forman, FALSO);
+            continue;
+        }
+        // The tolerance is judged by planes of three corners: from a third of it to three times it either may be.
+        EXPECT_TRUE((fuera >= .0005 / 3. && fuera <= .0005 * 3.) || forman == (fuera < .0005)) << fuera;
+        if (forman != CIERTO) continue;
+        ++planas;
+        // The winding stays, and so does the area in the plane; the way back leads to each corner.
+        EXPECT_GT(por(m.w(), n), .999);
+        const vn::dueno<arr_DestruyePunto2D> en_plano(ejes2d_polilinea3D_a_2D(EJ(m), lista, .001));
+        const puntos vuelta(ejes2d_polilinea2D_a_3D(EJ(m), en_plano.get()));
+        std::vector<vec> plana;
+        for (uint32_t i = 0; i < lista.size(); ++i) {
+            const Punto2D q = arr_GetBufferConstPunto2D(en_plano.get())[i];
+            plana.push_back({q.x, q.y, 0});
+            EXPECT_LT(largo(vuelta[i] - cara[i]), .0006);
+        }
+        EXPECT_LT(std::fabs(area(plana).z - largo(s)), 1e-3 * largo(s));
+    }
+    EXPECT_TRUE(todas == 248 && sin_area == 12 && planas >= 234) << todas << " " << sin_area << " " << planas;
+}
+
+PRUEBA(ajenos, los_pares_dificiles_cruzan_donde_deben) {
+    int filas = 0, cruces = 0;
+    for (const auto &f : vn::tabla("C_polygons/segment_pairs.tsv")) {
+        double v[8];
+        for (size_t i = 0; i < 8; ++i) v[i] = std::stod(f[i + 1]);
+        const Punto2D p1 = {v[0], v[1]}, q1 = {v[2], v[3]}, p2 = {v[4], v[5]}, q2 = {v[6], v[7]};
+        SCOPED_TRACE(testing::Message() << f[0] << " row " << ++filas << ": " << f[9]);
+        corta_exactamente(v, f[9], &f[10]);
+        Punto2D *r = p_cortan(&p1, &q1, &p2, &q2);
+        // Pieces that overlap cross only at an end that both have.
+        const bool comun = p_igual(&p1, &p2) || p_igual(&p1, &q2) || p_igual(&q1, &p2) || p_igual(&q1, &q2);
+        const bool encima = f[9] == "overlap";
+        EXPECT_EQ(r != nullptr, encima ? comun : f[9] != "none");
+        EXPECT_TRUE(!encima || p_segmentos_se_solapan(&p1, &q1, &p2, &q2));
+        if (r == nullptr) continue;
+        ++cruces;
+        EXPECT_TRUE(p_contenido(r, &p1, &q1) && p_contenido(r, &p2, &q2));
+        // Where it is on the first of two that are nearly parallel, rounding has a say.
+        const double den = std::fabs((v[0] - v[2]) * (v[7] - v[5]) - (v[1] - v[3]) * (v[6] - v[4]));
+        const double mal = den == 0 ? 0 : p_modulo2(&p1, &q1) * p_modulo2(&p1, &q1) * p_modulo2(&p2, &q2) / den;
+        const Punto2D exacto = {std::stod(f[10]), std::stod(f[11])};
+        EXPECT_TRUE(encima || p_modulo2(r, &exacto) < 5e-5 + 1e-15 * mal) << r->x << " " << r->y;
+        vornspy_free_pp(&r, sizeof(Punto2D));
+    }
+    EXPECT_EQ(filas, 37);
+    EXPECT_GE(cruces, 15);
+}
+
+PRUEBA(ajenos, los_recortes_dejan_lo_que_se_ve) {
+    int filas = 0;
+    for (const auto &f : vn::tabla("C_polygons/clip_segments.tsv")) {
+        double v[8], r[4] = {}, a[4] = {};
+        for (size_t i = 0; i < 8; ++i) v[i] = std::stod(f[i + 1]);
+        SCOPED_TRACE(testing::Message() << f[0] << " row " << ++filas << ": " << f[9]);
+        const vnbool visto =
+            rec_clip_linea_liang_barsky(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], &r[0], &r[1], &r[2], &r[3]);
+        const vn::dueno<rec_Destruye> rec(rec_CreaDefinido(v[0], v[1], v[2], v[3]));
+        EXPECT_EQ(rec_ClipSegmentoAntiguo(rec.get(), v[4], v[5], v[6], v[7], &a[0], &a[1], &a[2], &a[3]), visto);
+        EXPECT_EQ(visto == CIERTO, f[9] != "no");
+        if (f[9] == "no") continue;
+        for (size_t i = 0; i < 4; ++i) {
+            EXPECT_TRUE(vn::cerca(r[i], std::stod(f[10 + i]), 1 + std::fabs(r[i])));
+            // The tolerant one leaves what runs along a side, and the far end of what begins on one and goes out.
+            const bool entero = (v[4] == v[6] && (v[4] == v[0] || v[4] == v[2])) || (f[9] == "point" && i > 1);
+            EXPECT_TRUE(vn::cerca(a[i], entero ? v[4 + i] : r[i], 1 + std::fabs(r[i])));
+        }
+    }
+    EXPECT_GE(filas, 80);
+}
