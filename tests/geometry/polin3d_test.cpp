@@ -37,6 +37,22 @@ std::vector<marco> toma(arrPuntero *ejes) {
     return r;
 }
 
+// The sections of a path, its corners as they are or rounded, and its points with fillets.
+std::vector<marco> secciones(const std::vector<vec> &camino, vnbool vertical = FALSO) {
+    return toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos(camino), vertical));
+}
+std::vector<marco> redondeadas(const std::vector<vec> &camino, double diametro, double radio, double grados = 10.,
+                               vnbool vertical = FALSO) {
+    return toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(puntos(camino), diametro, radio, grados, vertical));
+}
+puntos con_acuerdos(const std::vector<vec> &camino, double diametro, double radio) {
+    return puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(puntos(camino), diametro, radio, 10.));
+}
+bool estan(vec a, vec b) { return largo(a - b) < 1e-12; }
+bool ortonormal(const marco &m) {
+    return std::fabs(por(m.u, m.v)) + std::fabs(largo(m.u) - 1.) + std::fabs(largo(m.v) - 1.) < 1e-9;
+}
+
 std::vector<vec> camino_al_azar(vn::azar &a, uint32_t n, const vn::lugar &l = {}) {
     std::vector<vec> p{vec{l.x, l.y, l.z} + vector_al_azar(a, 10.)};
     vec u = direccion_al_azar(a);
@@ -105,23 +121,20 @@ PRUEBA(polin3d, donde_no_hay_acuerdo) {
             const acuerdo ida(extremo, {}, {0, 9, 0}, .1, 1., 10., mantiene),
                 vuelta({0, 9, 0}, {}, extremo, .1, 1., 10., mantiene);
             const bool hay = falta > -1e-5, en_el = std::fabs(falta) < 1e-5;
-            EXPECT_TRUE(ida.hay == hay && vuelta.hay == hay) << falta;
+            EXPECT_TRUE(ida.hay == hay && vuelta.hay == hay && estan(ida.centro, {1, 1, 0})) << falta;
             EXPECT_EQ(ida.size(), hay ? 10u - (en_el && mantiene == FALSO) : 0u) << falta;
             EXPECT_EQ(vuelta.size(), ida.size());
-            EXPECT_LT(largo(ida.centro - vec{1, 1, 0}), 1e-12); // the centre comes all the same
             if (!hay || !en_el || mantiene == FALSO) continue;
             EXPECT_TRUE(ida[0].x == extremo.x && vuelta.ultimo().x == extremo.x && vuelta.ultimo().y == 0.);
         }
     }
     // Arguments that no fillet comes of. A step without measure is bounded before any memory is asked for.
     const vec x{5, 0, 0}, y{0, 5, 0};
-    for (const double mala : {NAN_, INF, -INF}) {
-        EXPECT_EQ(acuerdo(x, {}, y, .1, mala).hay, FALSO);
-        EXPECT_EQ(acuerdo({mala, 0, 0}, {}, y, .1, 1.).hay, FALSO);
-        EXPECT_EQ(acuerdo(x, {0, mala, 0}, y, .1, 1.).hay, FALSO);
-    }
-    EXPECT_EQ(acuerdo(x, {}, y, NAN_, 1.).hay, FALSO);
-    EXPECT_EQ(acuerdo({1e308, 0, 0}, {-1e308, 0, 0}, y, .1, 1.).hay, FALSO);
+    for (const double mala : {NAN_, INF, -INF})
+        EXPECT_FALSE(acuerdo(x, {}, y, .1, mala).hay || acuerdo({mala, 0, 0}, {}, y, .1, 1.).hay ||
+                     acuerdo(x, {0, mala, 0}, y, .1, 1.).hay)
+            << mala;
+    EXPECT_FALSE(acuerdo(x, {}, y, NAN_, 1.).hay || acuerdo({1e308, 0, 0}, {-1e308, 0, 0}, y, .1, 1.).hay);
     const vn::mayor_bloque mayor;
     for (const auto &[paso, dice] : vn::filas<double, vn::nulable>("geometry/polin3d.tsv", "grados"))
         vn::con_informe(dice.c_str(), [&, g = paso] { EXPECT_EQ(acuerdo(x, {}, y, .1, 1., g).hay, FALSO) << g; });
@@ -139,20 +152,16 @@ PRUEBA(polin3d, circulos_y_arcos) {
         const double d = a.entre(.1, 20.), ini = a.entre(-PI, PI), barre = a.entre(-3.1, 3.1);
         const puntos c(Pln3D_puntos_circulo(EJ(m), d, n));
         ASSERT_EQ(c.size(), n);
-        for (uint32_t i = 0; i < n; ++i)
-            ASSERT_LT(largo(c[i] - m.punto(d / 2 * std::cos(2 * PI * i / n), d / 2 * std::sin(2 * PI * i / n))),
-                      l.escala(10.) * 1e-12);
+        const auto en = [&m](double g, double r) { return m.punto(r * std::cos(g), r * std::sin(g)); };
+        for (uint32_t i = 0; i < n; ++i) ASSERT_LT(largo(c[i] - en(2 * PI * i / n, d / 2)), l.escala(10.) * 1e-12);
         if (std::fabs(barre) < .01) continue;
         // The short way, and the long one; the ends at any distance from the centre, of which the plane has its digits.
         const double cota = l.escala(100.) * 1e-12 / std::fabs(std::sin(barre));
-        const vec e1 = m.punto(3 * std::cos(ini), 3 * std::sin(ini)),
-                  e2 = m.punto(std::cos(ini + barre), std::sin(ini + barre));
+        const vec e1 = en(ini, 3), e2 = en(ini + barre, 1);
         for (const vnbool otro : {FALSO, CIERTO}) {
             const puntos r(Pln3D_puntos_arco(XYZ(m.o), XYZ(e1), XYZ(e2), UV_(m), d, n, otro));
             const double s = (otro == CIERTO ? barre - std::copysign(2 * PI, barre) : barre) / (n - 1);
-            for (uint32_t i = 0; i < n; ++i)
-                ASSERT_LT(largo(r[i] - m.punto(d / 2 * std::cos(ini + i * s), d / 2 * std::sin(ini + i * s))), cota)
-                    << caso;
+            for (uint32_t i = 0; i < n; ++i) ASSERT_LT(largo(r[i] - en(ini + i * s, d / 2)), cota) << caso;
         }
     }
     // A half circle runs as the axes say.
@@ -160,17 +169,17 @@ PRUEBA(polin3d, circulos_y_arcos) {
         const puntos r(Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, -1, 0, 0, 1, 0, 0, 0, sentido, 0, 2., 5, FALSO));
         EXPECT_LT(largo(r[2] - vec{0, sentido, 0}), 1e-9);
     }
-    EXPECT_EQ(ESPERA_INFORME("num_puntos_circulo > 3", Pln3D_puntos_circulo(0, 0, 0, 1, 0, 0, 0, 1, 0, 1., 3)),
-              nullptr);
-    EXPECT_EQ(ESPERA_INFORME("num_puntos_arco > 3",
-                             Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, 0, 1, 0, 1, 0, 0, 0, 1, 0, 1., 3, FALSO)),
-              nullptr);
+    EXPECT_EQ(ESPERA_INFORME("num_puntos_circulo > 3", Pln3D_puntos_circulo(EJ(marco{}), 1., 3)), nullptr);
+    const auto arco = [](vec fin, uint16_t n) {
+        return puntos(Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, XYZ(fin), 1, 0, 0, 0, 1, 0, 2., n, FALSO));
+    };
+    EXPECT_EQ(ESPERA_INFORME("num_puntos_arco > 3", arco({0, 1, 0}, 3)).size(), 0u);
     // Ends that are not in the plane of the axes are drawn where they are.
-    arrPunto3D *r =
-        ESPERA_INFORME("vnstdc_fabs(vnstdc_fabs(mt_producto_escalar(Wx, Wy, Wz, Wx1, Wy1, Wz1)) - 1.) < .000001",
-                       Pln3D_puntos_arco(0, 0, 0, 1, 0, 0, 0, .8, .6, 1, 0, 0, 0, 1, 0, 2., 4, FALSO));
-    EXPECT_LT(largo(arr_GetBufferConstPunto3D(r)[3] - vec{0, .8, .6}), 1e-12);
-    arr_DestruyePunto3D(&r);
+    const vec fuera{0, .8, .6};
+    EXPECT_TRUE(
+        estan(ESPERA_INFORME("vnstdc_fabs(vnstdc_fabs(mt_producto_escalar(Wx, Wy, Wz, Wx1, Wy1, Wz1)) - 1.) < .000001",
+                             arco(fuera, 4))[3],
+              fuera));
 }
 
 PRUEBA(polin3d, las_listas_de_puntos) {
@@ -180,13 +189,9 @@ PRUEBA(polin3d, las_listas_de_puntos) {
         const puntos p(vectores(lista));
         vn::con_informe(informe.c_str(), [&, si = es_convexo] { EXPECT_EQ(Pln3D_poligono_plano_es_convexo(p), si); });
     }
-    const puntos alabeado({{0, 0, 0}, {1, 0, 0}, {1, 1, .1}, {0, 1, 0}});
-    Pln3D_poligono_plano_es_convexo(alabeado);
-    const auto informes = vn::Prueba::toma_informes();
-    EXPECT_EQ(informes.size(), 3u);
-    for (const auto &i : informes)
-        EXPECT_EQ(i.expresion, "vnstdc_fabs(vnstdc_fabs(prod_escalar_poligono_es_plano) - 1.) < .00001");
-
+    Pln3D_poligono_plano_es_convexo(puntos({{0, 0, 0}, {1, 0, 0}, {1, 1, .1}, {0, 1, 0}}));
+    static constexpr char PLANO[] = "vnstdc_fabs(vnstdc_fabs(prod_escalar_poligono_es_plano) - 1.) < .00001";
+    vn::espera_informes({PLANO, PLANO, PLANO}, __FILE__, __LINE__);
     vec v{7, 7, 7};
     const puntos lista({{5, 0, 0}, {0, 1, 0}, {1, 0, 0}, {NAN_, 0, 0}});
     Pln3D_GetVerticeMasProximo(lista, 0, 0, 0, A_XYZ(v));
@@ -203,20 +208,18 @@ PRUEBA(polin3d, las_listas_de_puntos) {
     EXPECT_EQ(Pln3D_Longitud(puntos({{1, 1, 1}})) + Pln3D_Longitud(puntos(std::vector<vec>{})), 0.);
 }
 
-// ---------------------------------------------------------------- bars
-
 PRUEBA(polin3d, los_dos_radios_de_eje_son_distintos_a_proposito) {
     EXPECT_EQ(polin3d_radio_acuerdo_eje(2., 5.), 6.);
-    const puntos codo({{10, 0, 0}, {0, 0, 0}, {0, 10, 0}});
-    const puntos p(polin3d_puntos_polilinea_con_radios_de_acuerdo(codo, 2., 3., 10.)); // radius 3 + 2 / 2
+    const std::vector<vec> codo{{10, 0, 0}, {0, 0, 0}, {0, 10, 0}};
+    const puntos p = con_acuerdos(codo, 2., 3.); // radius 3 + 2 / 2
     ASSERT_EQ(p.size(), 12u);
-    EXPECT_TRUE(p[0].x == 10. && p[11].y == 10. && largo(p[1] - vec{4, 0, 0}) < 1e-12 &&
-                largo(p[10] - vec{0, 4, 0}) < 1e-12);
+    EXPECT_TRUE(p[0].x == 10. && p[11].y == 10. && estan(p[1], {4, 0, 0}) && estan(p[10], {0, 4, 0}));
     arrPunto3D *centros = nullptr;
-    arrPuntero *c = polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(codo, 2., 3., 10., 8, &centros);
+    arrPuntero *c =
+        polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(puntos(codo), 2., 3., 10., 8, &centros);
     const puntos q(centros); // radius 2 + 3 / 2
     ASSERT_TRUE(q.size() == 12 && arr_NumElemsPuntero(c) == 12);
-    EXPECT_TRUE(largo(q[1] - vec{3.5, 0, 0}) < 1e-12 && largo(q[10] - vec{0, 3.5, 0}) < 1e-12 && q[11].y == 10.);
+    EXPECT_TRUE(estan(q[1], {3.5, 0, 0}) && estan(q[10], {0, 3.5, 0}) && q[11].y == 10.);
     for (uint32_t i = 0; i < 12; ++i) {
         const arrPunto3D *uno = arr_GetPunteroST(c, i, arrPunto3D);
         for (uint32_t k = 0; k < 8; ++k)
@@ -225,16 +228,14 @@ PRUEBA(polin3d, los_dos_radios_de_eje_son_distintos_a_proposito) {
     arr_DestruyeEstructurasArrayST(&c, arrPunto3D, arr_DestruyePunto3D);
 
     // Two fillets that meet: their common point comes once. One that finds no room leaves its corner.
-    const puntos u({{10, 0, 0}, {0, 0, 0}, {0, 8, 0}, {10, 8, 0}});
-    EXPECT_EQ(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(u, 2., 3., 10.)).size(), 21u);
-    EXPECT_EQ(toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(u, 2., 4., 10., FALSO)).size(),
-              21u); // nor two sections
-    const puntos sin_sitio(polin3d_puntos_polilinea_con_radios_de_acuerdo(u, 2., 8., 10.));
+    const std::vector<vec> u{{10, 0, 0}, {0, 0, 0}, {0, 8, 0}, {10, 8, 0}};
+    EXPECT_EQ(con_acuerdos(u, 2., 3.).size(), 21u);
+    EXPECT_EQ(redondeadas(u, 2., 4.).size(), 21u); // nor two sections
+    const puntos sin_sitio = con_acuerdos(u, 2., 8.);
     ASSERT_EQ(sin_sitio.size(), 4u);
     EXPECT_EQ(sin_sitio[2].y, 8.);
     for (const auto &lista : {std::vector<vec>{}, {{1, 2, 3}}, {{1, 2, 3}, {1, 2, 3}}})
-        EXPECT_EQ(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(puntos(lista), 2., 3., 10.)).size(),
-                  lista.size());
+        EXPECT_EQ(con_acuerdos(lista, 2., 3.).size(), lista.size());
 }
 
 PRUEBA(polin3d, las_secciones_siguen_al_camino) {
@@ -242,50 +243,40 @@ PRUEBA(polin3d, las_secciones_siguen_al_camino) {
     for (int caso = 0; caso < 3000; ++caso) {
         const std::vector<vec> camino = camino_al_azar(a, 2 + a.entero(8), vn::lugar_de(caso / 4));
         const vnbool vertical = caso % 4 == 3 ? CIERTO : FALSO;
-        const auto s =
-            toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(puntos(camino), .05, a.entre(.1, .5), 15., vertical));
+        const auto s = redondeadas(camino, .05, a.entre(.1, .5), 15., vertical);
         ASSERT_GE(s.size(), camino.size());
         EXPECT_LT(largo(s.front().o - camino.front()) + largo(s.back().o - camino.back()), 1e-12);
         for (size_t i = 0; i < s.size(); ++i) {
-            ASSERT_LT(std::fabs(por(s[i].u, s[i].v)) + std::fabs(largo(s[i].u) - 1.) + std::fabs(largo(s[i].v) - 1.),
-                      1e-9);
-            if (vertical == CIERTO) {
-                ASSERT_EQ(s[i].v.z, 1.);
-                continue;
-            }
+            ASSERT_TRUE(ortonormal(s[i]) && (vertical == FALSO || s[i].v.z == 1.)) << caso;
             // Between two sections the path is straight, or an arc whose chord halves the turn between them.
-            if (i == 0) continue;
+            if (i == 0 || vertical == CIERTO) continue;
             const vec d = unitario(s[i].o - s[i - 1].o), media = unitario(s[i].w() + s[i - 1].w());
             ASSERT_GT(por(d, media), 1. - 1e-9) << caso << " " << i;
             ASSERT_GT(por(s[i].w(), s[i - 1].w()), std::cos(15.001 * PI / 180.));
             ASSERT_GT(por(s[i].u, s[i - 1].u), std::cos(15.001 * PI / 180.)); // not twisted
         }
-        if (vertical == FALSO) {
-            ASSERT_GT(por(s.front().w(), unitario(camino[1] - camino[0])), 1. - 1e-12);
-            ASSERT_GT(por(s.back().w(), unitario(camino.back() - camino[camino.size() - 2])), 1. - 1e-9);
-        }
+        if (vertical == CIERTO) continue;
+        ASSERT_GT(por(s.front().w(), unitario(camino[1] - camino[0])), 1. - 1e-12);
+        ASSERT_GT(por(s.back().w(), unitario(camino.back() - camino[camino.size() - 2])), 1. - 1e-9);
     }
 }
 
 PRUEBA(polin3d, las_secciones_de_las_esquinas_sin_acuerdo) {
-    const auto dos = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({{1, 1, 1}, {1, 3, 1}}), FALSO));
+    const auto dos = secciones({{1, 1, 1}, {1, 3, 1}});
     ASSERT_EQ(dos.size(), 2u);
     EXPECT_TRUE(dos[0].w().y == 1. && ejes2d_son_ejes_iguales(UV_(dos[0]), UV_(dos[1])));
     // A corner of 60 degrees, then one that hardly turns.
     const vec p[] = {{10, 0, 0}, {0, 0, 0}, {3, 3 * std::sqrt(3.), 0}, {5, 5 * std::sqrt(3.) + .001, 0}};
-    const auto s = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos(std::vector<vec>(p, p + 4)), FALSO));
-    const auto corto = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos(std::vector<vec>(p, p + 3)), FALSO));
+    const auto s = secciones({p[0], p[1], p[2], p[3]}), corto = secciones({p[0], p[1], p[2]});
     ASSERT_TRUE(s.size() == 4 && corto.size() == 3);
     const vec d1{-1, 0, 0}, d2{.5, std::sqrt(.75), 0}, pm = d2 - d1;
-    for (const auto &m : {s[1], corto[1]}) {
-        EXPECT_LT(std::fabs(por(m.w(), unitario(pm - p[2]))) + std::fabs(m.w().z), 1e-12);
-        EXPECT_LT(m.w().x, 0.);
-    }
+    for (const auto &m : {s[1], corto[1]})
+        EXPECT_TRUE(std::fabs(por(m.w(), unitario(pm - p[2]))) + std::fabs(m.w().z) < 1e-12 && m.w().x < 0.);
     EXPECT_TRUE(ejes2d_son_ejes_iguales(UV_(s[2]), UV_(s[1])));
     // A corner is one from a cosine of 0.0001 from 1 on: at an angle of 0.01414.
     for (const double g : {.01414, .01415}) {
         const vec q = p[2] + vec{2 * std::cos(PI / 3 + g), 2 * std::sin(PI / 3 + g), 0};
-        const auto t = toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({p[0], p[1], p[2], q}), FALSO));
+        const auto t = secciones({p[0], p[1], p[2], q});
         EXPECT_EQ(ejes2d_son_ejes_iguales(UV_(t[2]), UV_(t[1])) == CIERTO, g == .01414) << g;
     }
     EXPECT_LT(largo(corto[2].w() - vec{0, 1, 0}), 1e-12);
@@ -294,43 +285,38 @@ PRUEBA(polin3d, las_secciones_de_las_esquinas_sin_acuerdo) {
     for (const vn::lugar &l : {vn::lugar_de(0), vn::lugar_de(1)})
         for (const double largo2 : {1., 2.}) {
             const vec o{l.x, l.y, l.z}, entra{std::cos(.5), std::sin(.5), 0}, sale{-entra.y, entra.x, 0};
-            const auto t = toma(
-                polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({o - 2. * entra, o, o + largo2 * sale}), FALSO));
+            const auto t = secciones({o - 2. * entra, o, o + largo2 * sale});
             ASSERT_EQ(t.size(), 3u);
             EXPECT_GT(por(t[1].w(), largo2 == 1. ? sale : entra), 1. - 1e-9) << largo2;
-            EXPECT_TRUE(std::fabs(por(t[1].u, t[1].v)) < 1e-9 && std::fabs(largo(t[1].u) - 1.) < 1e-9);
+            EXPECT_TRUE(ortonormal(t[1]));
         }
     // A vertical section of a bar that is vertical itself has no axes.
-    EXPECT_EQ(toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({{1, 1, 1}, {1, 1, 3}}), CIERTO)).size(), 2u);
+    EXPECT_EQ(secciones({{1, 1, 1}, {1, 1, 3}}, CIERTO).size(), 2u);
     vn::espera_informes({"es_plano_vertical == CIERTO", "es_plano_vertical == CIERTO"}, __FILE__, __LINE__);
     // Where there is no room for a fillet the corner stays; short segments go first.
-    const auto q = toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(
-        puntos({{10, 0, 0}, {0, 0, 0}, {0, .4, 0}, {0, 10, 0}, {10, 10, 0}, {20, 10, 0}}), 1., 50., 10., FALSO));
+    const auto q = redondeadas({{10, 0, 0}, {0, 0, 0}, {0, .4, 0}, {0, 10, 0}, {10, 10, 0}, {20, 10, 0}}, 1., 50.);
     ASSERT_EQ(q.size(), 4u);
     EXPECT_TRUE(q[0].o.y == .4 && q[1].o.y == 10. && q[2].o.x == 10. && q[3].o.x == 20.);
 }
 
 PRUEBA(polin3d, las_polilineas_que_no_sirven) {
-    EXPECT_TRUE(toma(ESPERA_INFORME("num_puntos >= 2",
-                                    polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos({{1, 2, 3}}), FALSO)))
-                    .empty());
+    EXPECT_EQ(ESPERA_INFORME("num_puntos >= 2", secciones({{1, 2, 3}})).size(), 0u);
     arrPunto3D *centros = reinterpret_cast<arrPunto3D *>(&centros);
-    EXPECT_EQ(ESPERA_INFORME("num_puntos >= 2", polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
-                                                    puntos(std::vector<vec>{}), 1., 1., 10., 8, &centros)),
-              nullptr);
+    const auto circulos = [](const std::vector<vec> &camino, double radio, double grados, uint16_t n, arrPunto3D **c) {
+        return polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(puntos(camino), .1, radio, grados, n,
+                                                                                   c);
+    };
+    EXPECT_EQ(ESPERA_INFORME("num_puntos >= 2", circulos({}, 1., 10., 8, &centros)), nullptr);
     EXPECT_EQ(centros, nullptr);
     // Many sections of many points each: told before there is no memory left.
     vn::azar a(54);
-    EXPECT_EQ(ESPERA_INFORME("num_puntos <= MAXIMO_PUNTOS",
-                             polin3d_contorno_circulos_en_puntos_polilinea_con_radios_de_acuerdo(
-                                 puntos(camino_al_azar(a, 80)), .1, 0., 90., 65535, nullptr)),
+    EXPECT_EQ(ESPERA_INFORME("num_puntos <= MAXIMO_PUNTOS", circulos(camino_al_azar(a, 80), 0., 90., 65535, nullptr)),
               nullptr);
     // All in one place, and coordinates that are no numbers: something comes back, nothing is reported.
     for (const double mala : {0., NAN_, INF, 1e308}) {
-        const puntos p({{0, 0, 0}, {mala, 0, 0}, {mala, mala, 0}, {0, 0, -mala}, {0, 0, 0}});
-        EXPECT_GE(puntos(polin3d_puntos_polilinea_con_radios_de_acuerdo(p, .1, 1., 10.)).size(), 5u);
-        EXPECT_GE(toma(polin3d_ejes2d_polilinea_con_radios_de_acuerdo(p, .1, 1., 10., FALSO)).size(), 1u) << mala;
-        EXPECT_GE(toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(p, CIERTO)).size(), 1u);
+        const std::vector<vec> p{{0, 0, 0}, {mala, 0, 0}, {mala, mala, 0}, {0, 0, -mala}, {0, 0, 0}};
+        EXPECT_GE(con_acuerdos(p, .1, 1.).size(), 5u) << mala;
+        EXPECT_GE(std::min(redondeadas(p, .1, 1.).size(), secciones(p, CIERTO).size()), 1u) << mala;
     }
 }
 
@@ -338,15 +324,12 @@ PRUEBA(polin3d, las_mismas_cifras_en_las_dos_plataformas) {
     vn::azar a(55);
     const acuerdo f({4, 1, 2}, {0, 0, 0}, {-1, 5, 3}, .2, .75, 20.);
     ASSERT_EQ(f.size(), 7u);
-    for (const auto &[visto, esperado] :
-         {std::pair{f[3], vec{0.2136368580630923, 0.3227654791417056, 0.2863892721155012}},
-          {f.centro, vec{0.5464082623869826, 0.8255210557545145, 0.7324834579653372}}})
-        EXPECT_TRUE(vn::cerca(visto.x, esperado.x) && vn::cerca(visto.y, esperado.y) && vn::cerca(visto.z, esperado.z))
-            << visto.x << " " << visto.y << " " << visto.z;
+    EXPECT_TRUE(estan(f[3], {0.2136368580630923, 0.3227654791417056, 0.2863892721155012}) &&
+                estan(f.centro, {0.5464082623869826, 0.8255210557545145, 0.7324834579653372}));
     // The sections of corners take no function of the platform's.
     vn::huella h;
     for (int caso = 0; caso < 2000; ++caso)
-        for (const marco &m : toma(polin3d_ejes2d_polilinea_sin_radios_de_acuerdo(puntos(camino_al_azar(a, 6)), FALSO)))
+        for (const marco &m : secciones(camino_al_azar(a, 6)))
             for (const double d : {EJ(m)}) h << d;
     EXPECT_EQ(h(), 18131337624243260098ull);
 }

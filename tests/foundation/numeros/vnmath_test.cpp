@@ -1,41 +1,25 @@
+#include "filas.h"
 #include "foundation/numeros/vnmath.h"
-#include "prueba.h"
 #include <algorithm>
-#include <cfloat>
 #include <cmath>
-#include <limits>
 
-namespace {
-
-constexpr double NAN_ = std::numeric_limits<double>::quiet_NaN();
-constexpr double INF = std::numeric_limits<double>::infinity();
-
-} // namespace
+using vn::filas, vn::INF, vn::NAN_;
 
 // A tolerance on the wrong side of its limit moves geometry decisions: both sides of it, for each sense.
 PRUEBA(vnmath, las_comparaciones_parten_los_numeros_en_tres_en_su_limite) {
-    const struct {
-        double a, b;
-        int orden;
-    } filas[] = {
-        {0., 0., 0},     {1e-6, 0., 0},         {1.0000001e-6, 0., 1}, {-1e-6, 0., 0},     {-1.0000001e-6, 0., -1},
-        {INF, INF, 0},   {-INF, -INF, 0},       {INF, -INF, 1},        {1e308, -1e308, 1}, {-INF, DBL_MAX, -1},
-        {5e-324, 0., 0}, {DBL_MAX, DBL_MAX, 0},
-    };
-    for (const auto &f : filas) {
-        SCOPED_TRACE(testing::Message() << f.a << " " << f.b);
-        EXPECT_EQ(ES_MAYOR(f.a, f.b), f.orden > 0);
-        EXPECT_EQ(ES_MENOR(f.a, f.b), f.orden < 0);
-        EXPECT_EQ(SON_IGUALES(f.a, f.b), f.orden == 0);
-        EXPECT_EQ(ES_MAYOR_IGUAL(f.a, f.b), f.orden >= 0);
-        EXPECT_EQ(ES_MENOR_IGUAL(f.a, f.b), f.orden <= 0);
-        EXPECT_EQ(vornmath_compara_doubles(f.a, f.b, 1e-6), f.orden);
-        if (f.b == 0.) {
-            EXPECT_EQ(ES_CERO(f.a), f.orden == 0);
-            EXPECT_EQ(ES_MAYOR_CERO(f.a), f.orden > 0);
-            EXPECT_EQ(ES_MENOR_CERO(f.a), f.orden < 0);
-            EXPECT_EQ(ES_MAYOR_IGUAL_CERO(f.a), f.orden >= 0);
-        }
+    for (const auto &[a, b, orden] : filas<double, double, int>("foundation/vnmath.tsv", "comparados")) {
+        SCOPED_TRACE(testing::Message() << a << " " << b);
+        EXPECT_EQ(ES_MAYOR(a, b), orden > 0);
+        EXPECT_EQ(ES_MENOR(a, b), orden < 0);
+        EXPECT_EQ(SON_IGUALES(a, b), orden == 0);
+        EXPECT_EQ(ES_MAYOR_IGUAL(a, b), orden >= 0);
+        EXPECT_EQ(ES_MENOR_IGUAL(a, b), orden <= 0);
+        EXPECT_EQ(vornmath_compara_doubles(a, b, 1e-6), orden);
+        if (b != 0.) continue;
+        EXPECT_EQ(ES_CERO(a), orden == 0);
+        EXPECT_EQ(ES_MAYOR_CERO(a), orden > 0);
+        EXPECT_EQ(ES_MENOR_CERO(a), orden < 0);
+        EXPECT_EQ(ES_MAYOR_IGUAL_CERO(a), orden >= 0);
     }
     EXPECT_EQ(ES_CERO_PREC(0.5, 0.5) + ES_MAYOR_CERO_PREC(0.5, 0.5) + SON_IGUALES_PREC(2., 2.6, 0.5), 1);
 }
@@ -81,33 +65,8 @@ PRUEBA(vnmath, el_redondeo_a_un_paso_perdona_el_cociente_casi_entero) {
 }
 
 PRUEBA(vnmath, los_decimales_se_redondean_sobre_las_cifras_que_se_ven) {
-    const struct {
-        double x;
-        uint32_t n;
-        double esperado;
-    } filas[] = {
-        {0.125, 2, 0.13},
-        {-0.125, 2, -0.13},
-        {1.005, 2, 1.},
-        {2.5, 0, 3.},
-        {0.5, 0, 1.},
-        {0.49, 0, 0.},
-        {-0.004, 2, 0.},
-        {9.9996, 3, 10.},
-        {999.5, 0, 1000.},
-        {0.05, 1, 0.1},
-        {0.04, 1, 0.},
-        {1e22, 3, 1e22},
-        {123456789.125, 2, 123456789.13},
-        {5e-324, 300, 0.},
-        {5e-324, 400, 5e-324},
-        {DBL_MAX, 0, DBL_MAX},
-        {1.7, 4294967295u, 1.7},
-        {0.099999999999999, 14, 0.1},
-        {0.6, 0, 1.},
-        {-INF, 2, -INF},
-    };
-    for (const auto &f : filas) EXPECT_EQ(prec_redondea_numero_decimales(f.x, f.n), f.esperado) << f.x << " to " << f.n;
+    for (const auto &[x, n, esperado] : filas<double, uint32_t, double>("foundation/vnmath.tsv", "decimales"))
+        EXPECT_EQ(prec_redondea_numero_decimales(x, n), esperado) << x << " to " << n;
     EXPECT_FALSE(std::signbit(prec_redondea_numero_decimales(-0.001, 2)));
     EXPECT_FALSE(std::signbit(prec_redondea_numero_decimales(-0., 2)));
     EXPECT_TRUE(std::isnan(prec_redondea_numero_decimales(NAN_, 2)));
