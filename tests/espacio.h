@@ -67,5 +67,16 @@ struct puntos {
     uint32_t size() const { return a == nullptr ? 0 : arr_NumElemsPunto3D(a.get()); }
     vec operator[](uint32_t i) const { return arr_GetBufferConstPunto3D(a.get())[i]; }
 };
+// The same in a plane; a point of it has no z.
+struct planos {
+    vn::dueno<arr_DestruyePunto2D> a;
+    explicit planos(arrPunto2D *propio) : a(propio) {}
+    operator arrPunto2D *() const { return a.get(); }
+    uint32_t size() const { return arr_NumElemsPunto2D(a.get()); }
+    vec operator[](uint32_t i) const {
+        const Punto2D p = arr_GetBufferConstPunto2D(a.get())[i];
+        return {p.x, p.y, 0.};
+    }
+};
 
 } // namespace espacio

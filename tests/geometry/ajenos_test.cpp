@@ -123,12 +123,11 @@ PRUEBA(ajenos, las_caras_de_los_edificios_tienen_ejes) {
         ++planas;
         // The winding stays, and so does the area in the plane; the way back leads to each corner.
         EXPECT_GT(por(m.w(), n), .999);
-        const vn::dueno<arr_DestruyePunto2D> en_plano(ejes2d_polilinea3D_a_2D(EJ(m), lista, .001));
-        const puntos vuelta(ejes2d_polilinea2D_a_3D(EJ(m), en_plano.get()));
+        const planos en_plano(ejes2d_polilinea3D_a_2D(EJ(m), lista, .001));
+        const puntos vuelta(ejes2d_polilinea2D_a_3D(EJ(m), en_plano));
         std::vector<vec> plana;
         for (uint32_t i = 0; i < lista.size(); ++i) {
-            const Punto2D q = arr_GetBufferConstPunto2D(en_plano.get())[i];
-            plana.push_back({q.x, q.y, 0});
+            plana.push_back(en_plano[i]);
             EXPECT_LT(largo(vuelta[i] - cara[i]), .0006);
         }
         EXPECT_LT(std::fabs(area(plana).z - largo(s)), 1e-3 * largo(s));

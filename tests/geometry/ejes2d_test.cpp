@@ -78,28 +78,24 @@ PRUEBA(ejes2d, las_polilineas_van_punto_a_punto) {
         const double e = lugar.escala(1000.), fuera_ = e * 1e-12;
         const marco m = marco_al_azar(a, 100., lugar),
                     n = {m.o + 3. * m.u - 2. * m.v, m.u, caso % 2 == 0 ? m.v : -1. * m.v};
-        arrPunto2D *plana = arr_CreaPunto2D(0);
+        const planos plana(arr_CreaPunto2D(0));
         for (uint32_t i = a.entero(6); i-- > 0;) arr_AppendPunto2D(plana, a.entre(-9., 9.), a.entre(-9., 9.));
-        const uint32_t num = arr_NumElemsPunto2D(plana);
         const puntos g(ejes2d_polilinea2D_a_3D(EJ(m), plana)), l(ejes2d_polilinea3D_transformada_a_locales(EJ(m), g)),
             vuelta(ejes2d_polilinea3D_transformada(EJ(m), l));
-        arrPunto2D *en_plano = ejes2d_polilinea3D_a_2D(EJ(m), g, fuera_),
-                   *pies = ejes2d_polilinea3D_proyectada_a_2D(EJ(m), g);
+        const planos en_plano(ejes2d_polilinea3D_a_2D(EJ(m), g, fuera_)),
+            pies(ejes2d_polilinea3D_proyectada_a_2D(EJ(m), g));
         vnbool fuera = 7;
-        arrPunto2D *otra =
-            ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(plana, EJ(m), EJ(n), fuera_, &fuera);
-        EXPECT_EQ(fuera, FALSO);
-        ASSERT_TRUE(g.size() == num && vuelta.size() == num && arr_NumElemsPunto2D(otra) == num);
+        const planos otra(
+            ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(plana, EJ(m), EJ(n), fuera_, &fuera));
+        const uint32_t num = plana.size();
+        ASSERT_TRUE(fuera == FALSO && g.size() == num && vuelta.size() == num && otra.size() == num);
         for (uint32_t i = 0; i < num; ++i) {
-            vec p{}, u{}, q{}, r{}, s{};
-            arr_GetPunto2D(plana, i, &p.x, &p.y);
+            // The contour keeps its winding: the planes that look opposite ways have it backwards.
+            const vec p = plana[i], s = otra[caso % 2 == 0 ? i : num - 1 - i];
+            vec u{}, q{}, r{};
             ejes2d_coordenada_2D_a_3D_punto_poligono(EJ(m), plana, i, A_XYZ(u));
             ASSERT_TRUE(iguales(g[i], u, 0.) && iguales(l[i], p, e) && iguales(vuelta[i], g[i], e));
-            arr_GetPunto2D(en_plano, i, &q.x, &q.y);
-            arr_GetPunto2D(pies, i, &r.x, &r.y);
-            ASSERT_TRUE(iguales(q, p, e) && iguales(r, q, 0.));
-            // The contour keeps its winding: the planes that look opposite ways have it backwards.
-            arr_GetPunto2D(otra, caso % 2 == 0 ? i : num - 1 - i, &s.x, &s.y);
+            ASSERT_TRUE(iguales(en_plano[i], p, e) && iguales(pies[i], en_plano[i], 0.));
             ASSERT_TRUE(iguales(s, {p.x - 3., caso % 2 == 0 ? p.y + 2. : -(p.y + 2.), 0}, e));
             ejes2d_cambia_de_un_sistema_coordenadas_a_otro(EJ(m), EJ(n), p.x, p.y, fuera_, &q.x, &q.y);
             ejes2d_cambia_de_un_sistema_coordenadas_a_otro_proyectando(EJ(m), EJ(n), p.x, p.y, &r.x, &r.y);
@@ -108,7 +104,6 @@ PRUEBA(ejes2d, las_polilineas_van_punto_a_punto) {
         ejes2d_transforma_polilinea3D(EJ(m), l);
         ejes2d_polilinea3D_transforma_a_locales(EJ(m), l);
         for (uint32_t i = 0; i < num; ++i) ASSERT_LT(std::fabs(l[i].z), fuera_);
-        for (arrPunto2D **q : {&plana, &en_plano, &pies, &otra}) arr_DestruyePunto2D(q);
     }
 }
 
@@ -136,17 +131,14 @@ PRUEBA(ejes2d, cada_comparacion_en_su_limite) {
     EXPECT_EQ(ejes2d_son_ejes_orientados_en_la_misma_direccion(UV_(m), UV_(vuelto), 0.), FALSO);
 
     // The contour's order hangs on a product of normals above 1e-8.
-    for (const double s : {1e-8, tras(1e-8)}) {
-        arrPunto2D *p = arr_CreaPunto2D(0);
-        arr_AppendPunto2D(p, 3., 0.);
-        arr_AppendPunto2D(p, 4., 0.);
-        const marco casi_vertical{{}, {1, 0, 0}, {0, s, 1}};
-        arrPunto2D *r =
-            ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(p, EJ(casi_vertical), EJ(GLOBAL), 1., nullptr);
-        EXPECT_EQ(arr_GetBufferPunto2D(r)[0].x, s > 1e-8 ? 3. : 4.);
-        arr_DestruyePunto2D(&p);
-        arr_DestruyePunto2D(&r);
-    }
+    const planos p(arr_CreaPunto2D(0));
+    for (const double x : {3., 4.}) arr_AppendPunto2D(p, x, 0.);
+    const auto primero = [&p](double s) {
+        return planos(ejes2d_crea_puntos2d_cambiado_a_sistema_coordenadas_destino(p, 0, 0, 0, 1, 0, 0, 0, s, 1,
+                                                                                  EJ(GLOBAL), 1., nullptr))[0];
+    };
+    HASTA(1e-8, 1, primero(d).x == 4.);
+    EXPECT_EQ(primero(tras(1e-8)).x, 3.);
 }
 
 PRUEBA(ejes2d, lo_que_esta_fuera_del_plano_se_dice_y_se_proyecta) {
@@ -167,10 +159,7 @@ PRUEBA(ejes2d, lo_que_esta_fuera_del_plano_se_dice_y_se_proyecta) {
              "vnstdc_fabs(Ux_recta_3D * Wx + Uy_recta_3D * Wy + Uz_recta_3D * Wz) < precision");
         EXPECT_TRUE(x == 1. && y == 2. && u == .5 && v == .75);
         const puntos p({{1, 2, z}, {3, 4, 0}});
-        arrPunto2D *r = nullptr;
-        dice([&] { r = ejes2d_polilinea3D_a_2D(EJ(GLOBAL), p, .25); });
-        EXPECT_EQ(arr_GetBufferPunto2D(r)[1].y, 4.);
-        arr_DestruyePunto2D(&r);
+        dice([&] { EXPECT_EQ(planos(ejes2d_polilinea3D_a_2D(EJ(GLOBAL), p, .25))[1].y, 4.); });
     }
     ejes2d_vector_3D_a_2D(UV_(GLOBAL), 1, 2, ante(1e-6), &x, &y);
     ESPERA_INFORME(EN_PLANO, ejes2d_vector_3D_a_2D(UV_(GLOBAL), 1, 2, 1e-6, &x, &y));
@@ -180,8 +169,7 @@ PRUEBA(ejes2d, lo_que_esta_fuera_del_plano_se_dice_y_se_proyecta) {
     ESPERA_INFORME(UNITARIO, ejes2d_vector_director_plano(1, 0, 0, 2, 0, 0, &x, &y, &u));
     vec p{1, 1, 1};
     ejes2d_coordenada_2D_a_3D_pantalla(0, 0, 0, 1, 0, 0, 2, 0, 0, 5, 5, A_XYZ(p));
-    EXPECT_EQ(vn::Prueba::toma_informes().size(), 1u);
-    EXPECT_TRUE(p.x == 0. && p.z == 0.);
+    EXPECT_TRUE(vn::Prueba::toma_informes().size() == 1 && p.x == 0. && p.z == 0.);
     const auto dentro = [](double w) { return std::fabs(std::fabs(w * w) - 1.) < .00001; };
     double w = std::sqrt(1.00001);
     while (!dentro(w)) w = ante(w);
@@ -193,13 +181,13 @@ PRUEBA(ejes2d, lo_que_esta_fuera_del_plano_se_dice_y_se_proyecta) {
 }
 
 PRUEBA(ejes2d, los_ejes_horizontales_cambian_de_regla_donde_la_normal_es_vertical) {
-    using texto = std::string;
-    for (const auto &[normal, U, V] : vn::filas<texto, texto, texto>("geometry/ejes2d.tsv", "horizontales")) {
+    for (const auto &[normal, ejes] : vn::filas<std::string, std::string>("geometry/ejes2d.tsv", "horizontales")) {
         const vec w = vectores(normal).at(0);
+        const auto uv = vectores(ejes);
         marco m;
         vec v;
         ejes2d_ejes_horizontales_a_partir_de_normal_del_plano(XYZ(w), A_UV(m));
-        EXPECT_TRUE(iguales(m.u, vectores(U).at(0), 1.) && iguales(m.v, vectores(V).at(0), 1.)) << normal;
+        EXPECT_TRUE(iguales(m.u, uv.at(0), 1.) && iguales(m.v, uv.at(1), 1.)) << normal;
         ejes2d_eje_V_horizontal_a_partir_del_vector_U(XYZ(w), A_XYZ(v));
         EXPECT_TRUE(iguales(v, m.u, 0.));
     }
@@ -250,8 +238,8 @@ PRUEBA(ejes2d, los_ejes_de_puntos_y_de_caras) {
     ejes2d_ejes_con_dos_puntos(1, 2, 3, 1, 2, 3, A_EJ(m)); // one point: the global axes there
     EXPECT_TRUE(m.o.z == 3. && m.u.x == 1. && m.v.y == 1.);
     for (const double z : {ante(.0005), .0005}) {
-        vn::con_informe(z < .0005 ? nullptr
-                                  : "vnstdc_fabs(prod_escalar_pto_esta_en_plano) < i_PRECISION_PUNTO_PERTENECE_PLANO",
+        const char *dice = "vnstdc_fabs(prod_escalar_pto_esta_en_plano) < i_PRECISION_PUNTO_PERTENECE_PLANO";
+        vn::con_informe(z < .0005 ? nullptr : dice,
                         [&] { ejes2d_ejes_de_una_cara(0, 0, 0, 4, 0, 0, 4, 4, z, 0, 4, 0, A_EJ(m)); });
         EXPECT_TRUE(m.o.x == 2. && m.o.y == 2. && m.o.z == z / 4. && m.u.x == 1. && m.v.y == 1.);
     }
@@ -263,11 +251,9 @@ PRUEBA(ejes2d, los_ejes_de_puntos_y_de_caras) {
     EXPECT_TRUE(vn::cerca(m.u.x, 0.73168886887382090) && vn::cerca(m.u.y, 0.68163876002333412) &&
                 iguales(n.v, m.v, 0.));
     EXPECT_TRUE(m.v.x == -m.u.y && m.v.y == m.u.x);
-    planoABCD *p = ejes2d_crea_planoABCD(0, .6, .8, -2), *q = ejes2d_copia_planoABCD(p);
+    const vn::dueno<ejes2d_destruye_planoABCD> p(ejes2d_crea_planoABCD(0, .6, .8, -2)),
+        q(ejes2d_copia_planoABCD(p.get()));
     EXPECT_TRUE(q->B == .6 && q->D == -2.);
-    ejes2d_destruye_planoABCD(&p);
-    ejes2d_destruye_planoABCD(&q);
-    EXPECT_EQ(q, nullptr);
 }
 
 PRUEBA(ejes2d, los_angulos_de_giro_y_sus_ejes_se_deshacen) {
@@ -294,22 +280,20 @@ PRUEBA(ejes2d, los_angulos_de_giro_y_sus_ejes_se_deshacen) {
         ejes2d_angulos_giro_3d_de_ejes(UV_(m), A_XYZ(h));
         ASSERT_TRUE(iguales(h, g, 1e5));
     }
-    for (const auto &[U, V, angulos] :
-         vn::filas<std::string, std::string, std::string>("geometry/ejes2d.tsv", "giros")) {
-        const vec u = vectores(U).at(0), v = vectores(V).at(0);
+    for (const auto &[ejes, angulos] : vn::filas<std::string, std::string>("geometry/ejes2d.tsv", "giros")) {
+        const auto uv = vectores(ejes);
         vec g;
-        ejes2d_angulos_giro_3d_de_ejes(XYZ(u), XYZ(v), A_XYZ(g));
+        ejes2d_angulos_giro_3d_de_ejes(XYZ(uv.at(0)), XYZ(uv.at(1)), A_XYZ(g));
         EXPECT_TRUE(iguales(g, vectores(angulos).at(0), 360.)) << angulos;
     }
     // What is hardly below zero stays; the next is taken a turn up.
+    vec g;
     for (const double seno : {1e-12, 3e-12}) {
-        vec g;
         ejes2d_angulos_giro_3d_de_ejes(1, 0, seno, 0, 1, 0, A_XYZ(g));
         EXPECT_EQ(g.y < 0., seno < 2e-12);
     }
     // A sample for the platforms to agree on, by the three matrices multiplied elsewhere.
     marco m;
-    vec g;
     ejes2d_ejes_de_angulos_giro_3d(12.5, 340., 77.25, A_UV(m));
     EXPECT_TRUE(iguales(m.u, {0.20738775111608207, 0.9165219813220538, 0.3420201433256686}, 1.) &&
                 iguales(m.v, {-0.9685603176177854, 0.14326464364690072, 0.20338670806338613}, 1.));

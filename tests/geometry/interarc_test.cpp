@@ -1,9 +1,8 @@
+#include "espacio.h"
 #include "filas.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
-#include "foundation/suelo/dueno.hpp"
 #include "geometry/interarc.h"
-#include "propiedades.h"
 
 using vn::ante, vn::azar, vn::cerca, vn::NAN_;
 
@@ -13,18 +12,12 @@ constexpr double VUELTA = 6.283185307179586;
 constexpr int CASOS = 20000;
 
 // The points that an operation appends, which answers whether there are any.
-class cortes {
-  public:
-    template <class F, class... A> explicit cortes(F operacion, A... a) : puntos_(arr_CreaPunto2D(0)) {
-        const vnbool hay = operacion(a..., puntos_.get());
-        EXPECT_EQ(hay == CIERTO, num() > 0);
+struct cortes : espacio::planos {
+    template <class F, class... A> explicit cortes(F operacion, A... d) : planos(arr_CreaPunto2D(0)) {
+        const vnbool hay = operacion(d..., a.get());
+        EXPECT_EQ(hay == CIERTO, size() > 0);
     }
-    size_t num() const { return arr_NumElemsPunto2D(puntos_.get()); }
-    const Punto2D &operator[](size_t i) const { return arr_GetBufferConstPunto2D(puntos_.get())[i]; }
-    std::span<const Punto2D> todos() const { return vn::listas::tramo(static_cast<const arrPunto2D *>(puntos_.get())); }
-
-  private:
-    vn::dueno<arr_DestruyePunto2D> puntos_;
+    std::span<const Punto2D> todos() const { return vn::listas::tramo(static_cast<const arrPunto2D *>(a.get())); }
 };
 
 cortes con_circulo(double x1, double y1, double x2, double y2, double xc, double yc, double r) {
@@ -45,10 +38,10 @@ PRUEBA(interarc, las_tangentes_y_los_limites_de_vertical_y_horizontal_son_los_di
     using vn::filas;
     for (const auto &[x1, y1, x2, y2, puntos] :
          filas<double, double, double, double, size_t>("geometry/interarc.tsv", "segmentos"))
-        EXPECT_EQ(con_circulo(x1, y1, x2, y2, 0., 0., 5.).num(), puntos) << x1 << " " << y1 << " " << x2 << " " << y2;
+        EXPECT_EQ(con_circulo(x1, y1, x2, y2, 0., 0., 5.).size(), puntos) << x1 << " " << y1 << " " << x2 << " " << y2;
     for (const auto &[r1, x2, y2, r2, puntos] :
          filas<double, double, double, double, size_t>("geometry/interarc.tsv", "circulos"))
-        EXPECT_EQ(entre(0., 0., r1, x2, y2, r2).num(), puntos) << r1 << " " << x2 << " " << y2 << " " << r2;
+        EXPECT_EQ(entre(0., 0., r1, x2, y2, r2).size(), puntos) << r1 << " " << x2 << " " << y2 << " " << r2;
     const double D = 0.0001, casiD = ante(D); // from D on a segment is oblique
     // Vertical means at its first end; one step further it is oblique and meets the circle where it is.
     EXPECT_EQ(con_circulo(0., -9., casiD, 9., 0., 0., 5.)[0].x, 0.);
@@ -82,7 +75,7 @@ PRUEBA(interarc, los_cortes_de_un_segmento_estan_en_el_y_en_el_circulo_y_no_falt
         const double ds = mt_distancia(s.x, s.y, c.x, c.y) - r, dt = mt_distancia(t.x, t.y, c.x, c.y) - r,
                      d = distancia_a_segmento(c, s, t);
         if (std::min({std::fabs(ds), std::fabs(dt), std::fabs(d - r)}) < 1e-3) continue;
-        ASSERT_EQ(vistos.num(), (ds < 0) != (dt < 0) ? 1u : ds > 0 && d < r ? 2u : 0u) << i;
+        ASSERT_EQ(vistos.size(), (ds < 0) != (dt < 0) ? 1u : ds > 0 && d < r ? 2u : 0u) << i;
     }
     EXPECT_EQ(h(), 10256748594912616075u);
 }
@@ -106,15 +99,15 @@ PRUEBA(interarc, los_cortes_de_circulos_estan_en_los_dos_tambien_lejos_del_orige
             h << q.x << q.y;
         }
         if (std::min({std::fabs(d - r1 - r2), std::fabs(std::fabs(r1 - r2) - d), d}) < 1e-3) continue;
-        ASSERT_EQ(vistos.num(), d < r1 + r2 && d > std::fabs(r1 - r2) ? 2u : 0u) << i;
+        ASSERT_EQ(vistos.size(), d < r1 + r2 && d > std::fabs(r1 - r2) ? 2u : 0u) << i;
     }
     EXPECT_EQ(h(), 440365816228548868u);
     // An almost vertical line of equal power stands at its x of the lowest point, where the circles part: arcs notice.
     const cortes vertical = entre(0., 0., 5., 6., 5e-5, 5.), horizontal = entre(0., 0., 5., 9e-5, 6., 5.);
     EXPECT_TRUE(cerca(vertical[0].x, 3. + 2.5e-4 / 6., 1e3) && vertical[0].x == vertical[1].x &&
                 horizontal[0].y == horizontal[1].y);
-    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 5e-5, 5., 0., VUELTA).num(), 0u);
-    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 1e-6, 5., 0., VUELTA).num(), 2u);
+    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 5e-5, 5., 0., VUELTA).size(), 0u);
+    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 1e-6, 5., 0., VUELTA).size(), 2u);
 }
 
 // An arc keeps of its circle's cuts those whose direction it has.
@@ -133,28 +126,28 @@ PRUEBA(interarc, un_arco_da_los_cortes_de_su_circulo_que_estan_en_el) {
         const cortes arcos(mt_interseccion_entre_arcos, 0., 0., r1, i1, f1, x2, y2, r2, i2, f2);
         const auto n = cuantos(entre(0., 0., r1, x2, y2, r2), true);
         ASSERT_TRUE(std::fabs(mt_distancia(0., 0., x2, y2) - r1 - r2) < 1e-3 ||
-                    static_cast<std::ptrdiff_t>(arcos.num()) == n)
+                    static_cast<std::ptrdiff_t>(arcos.size()) == n)
             << i;
         con_uno += n == 1;
         const cortes con_segmento(mt_interseccion_segmento_arco, -9., y2, 9., x2, 0., 0., r1, i1, f1);
-        ASSERT_EQ(con_segmento.num(), cuantos(con_circulo(-9., y2, 9., x2, 0., 0., r1), false)) << i;
+        ASSERT_EQ(con_segmento.size(), cuantos(con_circulo(-9., y2, 9., x2, 0., 0., r1), false)) << i;
     }
     EXPECT_GT(con_uno, 1000);
     // Arcs that only their circles bring together; full turns; limits of no length at a cut.
-    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 3., 4., 6., 0., 5., 0., VUELTA).num(), 0u);
-    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 0., 5., 0., VUELTA).num(), 2u);
-    EXPECT_EQ(cortes(mt_interseccion_segmento_arco, 0., 0., 9., 9., 0., 0., 5., VUELTA / 8., VUELTA / 8.).num(), 1u);
-    EXPECT_EQ(cortes(mt_interseccion_segmento_arco, 0., 0., 9., 9., 0., 0., 5., NAN_, 1.).num(), 0u);
+    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 3., 4., 6., 0., 5., 0., VUELTA).size(), 0u);
+    EXPECT_EQ(cortes(mt_interseccion_entre_arcos, 0., 0., 5., 0., VUELTA, 6., 0., 5., 0., VUELTA).size(), 2u);
+    EXPECT_EQ(cortes(mt_interseccion_segmento_arco, 0., 0., 9., 9., 0., 0., 5., VUELTA / 8., VUELTA / 8.).size(), 1u);
+    EXPECT_EQ(cortes(mt_interseccion_segmento_arco, 0., 0., 9., 9., 0., 0., 5., NAN_, 1.).size(), 0u);
 }
 
 PRUEBA(interarc, una_elipse_da_sus_dieciseis_puntos_sin_filtrar) {
     const cortes c(mt_interseccion_elipse_circunferencia, 10., 20., 4., 1., 2., 5., 3.);
-    ASSERT_EQ(c.num(), 16u);
+    ASSERT_EQ(c.size(), 16u);
     // X^2 = 25 (16 - 9) / (25 - 9), about the centre of the ellipse first.
     const double x = std::sqrt(25. * 7. / 16.), y = std::sqrt(9. * 9. / 16.);
     EXPECT_TRUE(cerca(c[0].x, 1. - x, 10.) && cerca(c[0].y, 2. + y, 10.) && cerca(c[2].x, 1. - x, 10.) &&
                 cerca(c[2].y, 2. - y, 10.) && cerca(c[9].x, 10. + x, 20.) && cerca(c[9].y, 20. - y, 20.));
     for (const double r : {5.5, 2., NAN_}) // beyond the long axis, inside the short one
-        EXPECT_EQ(cortes(mt_interseccion_elipse_circunferencia, 0., 0., r, 0., 0., 5., 3.).num(), 0u);
-    EXPECT_EQ(cortes(mt_interseccion_elipse_circunferencia, 0., 0., 4., 0., 0., 4., 4.).num(), 0u); // a circle is none
+        EXPECT_EQ(cortes(mt_interseccion_elipse_circunferencia, 0., 0., r, 0., 0., 5., 3.).size(), 0u);
+    EXPECT_EQ(cortes(mt_interseccion_elipse_circunferencia, 0., 0., 4., 0., 0., 4., 4.).size(), 0u); // a circle is none
 }

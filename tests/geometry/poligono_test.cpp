@@ -1,7 +1,6 @@
 #include "envolvente.h"
 #include "foundation/numeros/mt.h"
 #include "propiedades.h"
-#include "prueba.h"
 
 using envolvente::poligono, envolvente::punto, envolvente::puntos_t;
 using vn::azar;

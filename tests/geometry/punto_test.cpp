@@ -1,6 +1,5 @@
 #include "exacto.h"
 #include "geometry/punto.h"
-#include "prueba.h"
 #include <functional>
 #include <numbers>
 #include <optional>

@@ -2,7 +2,6 @@
 #include "filas.h"
 #include "foundation/suelo/dueno.hpp"
 #include "geometry/rectng.h"
-#include "prueba.h"
 #include <algorithm>
 #include <array>
 #include <cfloat>
@@ -23,14 +22,12 @@ limites limites_de(const std::string &texto) {
     return {v.at(0), v.at(1), v.at(2), v.at(3)};
 }
 void anade(const rectangulos &a, const limites &l) {
-    rectangulo_t *r = rec_CreaDefinido(l[0], l[1], l[2], l[3]);
-    arr_AppendPunteroST(a.get(), r, rectangulo_t);
+    arr_AppendPunteroST(a.get(), rec_CreaDefinido(l[0], l[1], l[2], l[3]), rectangulo_t);
 }
 // From a text: four numbers each.
 rectangulos tiras(const std::string &texto) {
     rectangulos a(arr_CreaPunteroST(0, rectangulo_t));
-    const auto v = vn::numeros(texto);
-    for (size_t i = 0; i + 3 < v.size(); i += 4) anade(a, {v[i], v[i + 1], v[i + 2], v[i + 3]});
+    for (const auto &v : vn::grupos(texto, ",")) anade(a, {v.at(0), v.at(1), v.at(2), v.at(3)});
     return a;
 }
 std::vector<limites> todas(const rectangulos &a) {
@@ -136,8 +133,8 @@ PRUEBA(rectng, cada_tolerancia_tiene_su_limite_y_su_sentido) {
         return alargadas(a, .5)[0][2];
     };
     HASTA(1e-7, 1, hueco(d) == 0); // a room of so much is none
-    limites v;
-    HASTA(ante(.50001), 1, (rectng_AnchosDesdePuntoFijo(1, 1, d, 0, 1, &v[0], &v[1], &v[2], &v[3]), callado()));
+    double v;
+    HASTA(ante(.50001), 1, (rectng_AnchosDesdePuntoFijo(1, 1, d, 0, 1, &v, &v, &v, &v), callado()));
     HASTA(10 + 1e-6, 11, antiguo(r, {5, 5, d, 5}).extremos[2] == d);
     HASTA(-1e-6, -1, antiguo(r, {d, -5, d, 15}).dentro); // along a side
     EXPECT_EQ(rec_RectanguloVertical(&r), FALSO);        // a square
@@ -160,8 +157,7 @@ PRUEBA(rectng, los_recortes_en_los_lados_y_con_numeros_extremos) {
     EXPECT_FALSE(antiguo(sin_nada, {1, 1, 2, 2}).dentro);
     EXPECT_EQ(rec_ClipSegmentoAntiguo(&r, 5, 5, 50, 5, nullptr, nullptr, nullptr, nullptr), CIERTO);
     double ox2 = 0;
-    EXPECT_EQ(rec_ClipSegmentoAntiguo(&r, 5, 5, 15, 10, nullptr, nullptr, &ox2, nullptr), CIERTO);
-    EXPECT_EQ(ox2, 10);
+    EXPECT_TRUE(rec_ClipSegmentoAntiguo(&r, 5, 5, 15, 10, nullptr, nullptr, &ox2, nullptr) == CIERTO && ox2 == 10);
     for (const double raro : {NAN_, INF, -INF, 1e308})
         for (size_t i = 0; i < 8; ++i) {
             double v[8] = {0, 0, 10, 10, -5, 3, 15, 4};

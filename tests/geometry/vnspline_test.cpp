@@ -1,7 +1,5 @@
 #include "geometry/vnspline.h"
 #include "propiedades.h"
-#include "prueba.h"
-#include <limits>
 
 using vn::cerca;
 
@@ -30,9 +28,8 @@ PRUEBA(vnspline, la_curva_pasa_por_los_extremos_con_las_direcciones_dadas) {
         ASSERT_EQ(c.y(0.), 0.);
         ASSERT_NEAR(c.y(L) / L, 0., 1e-13);
         // The same direction up to a half turn, where the slope is not limited.
-        const auto seno = [&](double t, double angulo) { return std::sin(cuerda + std::atan(t) - angulo); };
         const auto sigue = [&](double t, double angulo) {
-            return std::fabs(t) > 9.99 || std::fabs(seno(t, angulo)) < 1e-11;
+            return std::fabs(t) > 9.99 || std::fabs(std::sin(cuerda + std::atan(t) - angulo)) < 1e-11;
         };
         ASSERT_TRUE(sigue(c.pendiente(0.), a0) && sigue(c.pendiente(L), a1)) << i;
         ASSERT_LE(std::fabs(c.C), 10.);
@@ -49,6 +46,6 @@ PRUEBA(vnspline, los_angulos_rectos_se_limitan_y_los_puntos_iguales_se_informan)
     std::unique_ptr<cubica> c;
     ESPERA_INFORME("L > 0.", c = std::make_unique<cubica>(3., 4., 1., 3., 4., 1.));
     EXPECT_TRUE(c->A == 0. && c->B == 0. && c->C == 0. && c->D == 0. && c->Ux == 0. && c->Uy == 0.);
-    const cubica nada(0., 0., std::numeric_limits<double>::quiet_NaN(), 1., 0., 0.);
+    const cubica nada(0., 0., vn::NAN_, 1., 0., 0.);
     EXPECT_TRUE(nada.A == 0. && nada.C == 0.);
 }

@@ -1,6 +1,5 @@
 #include "geometry/vornmat.h"
 #include "propiedades.h"
-#include "prueba.h"
 
 PRUEBA(vornmat, los_modulos_se_siguen_uno_del_otro_y_lo_imposible_se_informa) {
     EXPECT_EQ(vornmat_modulo_cortadura(2.6e6, 0.3), 1e6); // steel, Tn/m2

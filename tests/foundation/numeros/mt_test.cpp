@@ -35,6 +35,9 @@ PRUEBA(mt, las_longitudes_no_se_desbordan_y_lo_que_no_tiene_direccion_lo_dice) {
         double x = 3. * k, y = -4. * k, l, c, s;
         EXPECT_EQ(mt_distancia(x, y, 0., 0.) + mt_modulo_vector_3D(2. * k, -3. * k, 6. * k), 12. * k);
         EXPECT_TRUE(mt_pasar_a_unitario_2D(&x, &y) == CIERTO && x == 0.6 && y == -0.8);
+        vec n{2. * k, -3. * k, 6. * k};
+        EXPECT_TRUE(mt_pasar_a_unitario_3D(A_XYZ(n)) == CIERTO && cerca(n.x, 2. / 7.) && cerca(n.y, -3. / 7.) &&
+                    cerca(n.z, 6. / 7.));
         f_mt_parametros_segmento(k, k, 4. * k, 5. * k, &l, &c, &s);
         EXPECT_TRUE(l == 5. * k && c == 0.6 && s == 0.8);
         EXPECT_EQ(mt_posicion_relativa_a_segmento(3. * k, 7. * k, k, 7. * k, 5. * k, 7. * k), 0.5);

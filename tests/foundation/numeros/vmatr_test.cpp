@@ -1,7 +1,6 @@
 #include "foundation/numeros/vmatr.h"
 #include "foundation/suelo/dueno.hpp"
 #include "propiedades.h"
-#include "prueba.h"
 #include <array>
 
 namespace {
