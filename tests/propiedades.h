@@ -103,13 +103,6 @@ inline std::vector<double> numeros(std::string_view s) {
     }
     return r;
 }
-// Those of each of the texts that the separator parts, where there are any.
-inline std::vector<std::vector<double>> grupos(std::string_view s, std::string_view separador) {
-    std::vector<std::vector<double>> r;
-    for (size_t i; !s.empty(); s.remove_prefix(i == s.npos ? s.size() : i + 1))
-        if (auto v = numeros(s.substr(0, i = s.find_first_of(separador))); !v.empty()) r.push_back(std::move(v));
-    return r;
-}
 
 // The rows of a table of the outside data but its title, split at the tabs.
 inline std::vector<std::vector<std::string>> tabla(const std::string &nombre, bool con_titulo = false) {

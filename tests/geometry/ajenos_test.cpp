@@ -13,39 +13,11 @@ using envolvente::poligono, envolvente::puntos_t;
 
 namespace {
 
-vec area(const std::vector<vec> &p) {
-    vec s{};
-    for (size_t i = 0; i < p.size(); ++i) s = s + .5 * cruz(p[i] - p[0], p[(i + 1) % p.size()] - p[0]);
-    return s;
-}
-
 // The points of a list of coordinates, in whole numbers.
 puntos_t redondos(const std::vector<double> &v, double escala) {
     const auto entero = [escala](double x) { return static_cast<int32_t>(std::lround(x * escala)); };
     puntos_t r;
     for (size_t i = 0; i + 1 < v.size(); i += 2) r.push_back({entero(v[i]), entero(v[i + 1])});
-    return r;
-}
-
-// The faces of the buildings of a city: lists of numbers of vertices, in nested brackets.
-std::vector<std::vector<vec>> caras() {
-    const std::string texto = vn::lee_fichero(vn::dato("B_mesh/buildings_rotterdam.city.json"));
-    const auto listas = [&texto](size_t i) {
-        return vn::grupos(std::string_view(texto).substr(i, texto.find_first_of("\"}", i) - i), "]");
-    };
-    const auto valor = [&texto](const std::string &clave) { return texto.find(clave) + clave.size(); };
-    const double escala = listas(valor("\"scale\":"))[0][0]; // of the three
-    const auto vertices = listas(valor("\"vertices\":"));
-    const std::string clave = "\"boundaries\":";
-    std::vector<std::vector<vec>> r;
-    for (size_t i = 0; (i = texto.find(clave, i)) != texto.npos;)
-        for (const auto &cara : listas(i += clave.size())) {
-            r.emplace_back();
-            for (const double k : cara) {
-                const auto &v = vertices[static_cast<size_t>(k)];
-                r.back().push_back(escala * vec{v[0], v[1], v[2]});
-            }
-        }
     return r;
 }
 
@@ -100,39 +72,6 @@ PRUEBA(ajenos, las_fronteras_tienen_su_envolvente_y_giran_como_la_mayoria_de_sus
     EXPECT_EQ(paises, 30);
     EXPECT_GE(exactas, 25);
     EXPECT_GT(vueltas, 40);
-}
-
-PRUEBA(ajenos, las_caras_de_los_edificios_tienen_ejes) {
-    size_t planas = 0, sin_area = 0, todas = 0;
-    for (const auto &cara : caras()) {
-        const vec s = area(cara), n = unitario(s);
-        ++todas;
-        double fuera = 0.;
-        for (const vec &p : cara) fuera = std::max(fuera, std::fabs(por(p - cara[0], n)));
-        const puntos lista(cara);
-        marco m;
-        const vnbool forman = ejes2d_punto3D_forman_ejes(lista, A_EJ(m));
-        if (largo(s) == 0.) { // a wall of no width
-            ++sin_area;
-            EXPECT_EQ(forman, FALSO);
-            continue;
-        }
-        // The tolerance is judged by planes of three corners: from a third of it to three times it either may be.
-        EXPECT_TRUE((fuera >= .0005 / 3. && fuera <= .0005 * 3.) || forman == (fuera < .0005)) << fuera;
-        if (forman != CIERTO) continue;
-        ++planas;
-        // The winding stays, and so does the area in the plane; the way back leads to each corner.
-        EXPECT_GT(por(m.w(), n), .999);
-        const planos en_plano(ejes2d_polilinea3D_a_2D(EJ(m), lista, .001));
-        const puntos vuelta(ejes2d_polilinea2D_a_3D(EJ(m), en_plano));
-        std::vector<vec> plana;
-        for (uint32_t i = 0; i < lista.size(); ++i) {
-            plana.push_back(en_plano[i]);
-            EXPECT_LT(largo(vuelta[i] - cara[i]), .0006);
-        }
-        EXPECT_LT(std::fabs(area(plana).z - largo(s)), 1e-3 * largo(s));
-    }
-    EXPECT_TRUE(todas == 248 && sin_area == 12 && planas >= 234) << todas << " " << sin_area << " " << planas;
 }
 
 PRUEBA(ajenos, los_pares_dificiles_cruzan_donde_deben) {

@@ -166,12 +166,8 @@ PRUEBA(ejes2d_puntos, la_busqueda_rapida_responde_lo_que_la_lenta) {
         con_indice += vista.indice != NINGUNO;
     }
     EXPECT_TRUE(ciertos > 500 && ciertos < 3500 && con_indice > 100) << ciertos << " " << con_indice;
-}
-
-// The search ends on big lists without luck: with its shortcuts in a moment, without them long after the time that the
-// test is given (see CMakeLists.txt). What each kind costs is in bench_geometry.
-PRUEBA(ejes2d_puntos, cien_mil_puntos_que_no_forman_ejes_no_eternizan_la_busqueda) {
-    vn::azar a(43);
+    // The search ends on big lists without luck: with its shortcuts in a moment, without them long after the time that
+    // the test is given (see CMakeLists.txt).
     for (const int clase : {0, 1, 2, 3, 4, 5, 8, 9}) {
         const puntos p(lista_sin_suerte(a, clase, 100000, clase == 4 ? 1e-6 : 0.));
         EXPECT_EQ(pregunta(p, PUNTOS, 1e-7, FALSO).forman, FALSO) << clase;

@@ -147,7 +147,7 @@ PRUEBA(interarc, una_elipse_da_sus_dieciseis_puntos_sin_filtrar) {
     const double x = std::sqrt(25. * 7. / 16.), y = std::sqrt(9. * 9. / 16.);
     EXPECT_TRUE(cerca(c[0].x, 1. - x, 10.) && cerca(c[0].y, 2. + y, 10.) && cerca(c[2].x, 1. - x, 10.) &&
                 cerca(c[2].y, 2. - y, 10.) && cerca(c[9].x, 10. + x, 20.) && cerca(c[9].y, 20. - y, 20.));
-    for (const double r : {5.5, 2., NAN_}) // beyond the long axis, inside the short one
-        EXPECT_EQ(cortes(mt_interseccion_elipse_circunferencia, 0., 0., r, 0., 0., 5., 3.).size(), 0u);
-    EXPECT_EQ(cortes(mt_interseccion_elipse_circunferencia, 0., 0., 4., 0., 0., 4., 4.).size(), 0u); // a circle is none
+    // Beyond the long axis, inside the short one, not a number; a circle is none.
+    for (const auto &[r, corto] : {std::pair{5.5, 3.}, {2., 3.}, {NAN_, 3.}, {4., 5.}})
+        EXPECT_EQ(cortes(mt_interseccion_elipse_circunferencia, 0., 0., r, 0., 0., 5., corto).size(), 0u) << r;
 }

@@ -27,7 +27,8 @@ void anade(const rectangulos &a, const limites &l) {
 // From a text: four numbers each.
 rectangulos tiras(const std::string &texto) {
     rectangulos a(arr_CreaPunteroST(0, rectangulo_t));
-    for (const auto &v : vn::grupos(texto, ",")) anade(a, {v.at(0), v.at(1), v.at(2), v.at(3)});
+    const auto v = vn::numeros(texto);
+    for (size_t i = 0; i < v.size(); i += 4) anade(a, {v.at(i), v.at(i + 1), v.at(i + 2), v.at(i + 3)});
     return a;
 }
 std::vector<limites> todas(const rectangulos &a) {
