@@ -9,7 +9,7 @@
 //   for (const auto &fila : vn::tabla("C_polygons/segment_pairs.tsv")) fila[0]...    rows made by others
 #pragma once
 
-#include "prueba.h"
+#include "filas.h"
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -111,10 +111,9 @@ inline std::vector<std::vector<std::string>> tabla(const std::string &nombre, bo
     std::string linea;
     if (!con_titulo) std::getline(f, linea);
     while (std::getline(f, linea)) {
-        auto &fila = filas.emplace_back(1);
-        for (const char c : linea)
-            if (c == '\t') fila.emplace_back();
-            else if (c != '\r') fila.back() += c;
+        if (linea.ends_with('\r')) linea.pop_back();
+        const auto campos = campo::parte(linea);
+        filas.emplace_back(campos.begin(), campos.end());
     }
     EXPECT_FALSE(filas.empty()) << nombre;
     return filas;

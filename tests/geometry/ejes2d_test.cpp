@@ -1,5 +1,4 @@
 #include "espacio.h"
-#include "filas.h"
 #include "geometry/ejes2d.h"
 
 using namespace espacio;

@@ -1,10 +1,9 @@
 #include "espacio.h"
-#include "filas.h"
 #include "foundation/listas/arr_int.h"
 #include "foundation/numeros/mt.h"
 #include "geometry/interarc.h"
 
-using vn::ante, vn::azar, vn::cerca, vn::NAN_;
+using vn::ante, vn::azar, vn::cerca, vn::filas, vn::NAN_;
 
 namespace {
 
@@ -35,7 +34,6 @@ double distancia_a_segmento(const Punto2D &p, const Punto2D &a, const Punto2D &b
 } // namespace
 
 PRUEBA(interarc, las_tangentes_y_los_limites_de_vertical_y_horizontal_son_los_dichos) {
-    using vn::filas;
     for (const auto &[x1, y1, x2, y2, puntos] :
          filas<double, double, double, double, size_t>("geometry/interarc.tsv", "segmentos"))
         EXPECT_EQ(con_circulo(x1, y1, x2, y2, 0., 0., 5.).size(), puntos) << x1 << " " << y1 << " " << x2 << " " << y2;
@@ -118,16 +116,15 @@ PRUEBA(interarc, un_arco_da_los_cortes_de_su_circulo_que_estan_en_el) {
         const double x2 = a.entre(-6., 6.), y2 = a.entre(-6., 6.), r1 = a.entre(2., 6.), r2 = a.entre(2., 6.);
         const double i1 = a.entre(-7., 7.), f1 = i1 + a.entre(0., 6.), i2 = a.entre(-7., 7.), f2 = i2 + a.entre(0., 6.);
         const auto cuantos = [&](const cortes &de_circulos, bool en_el_segundo) {
-            return std::count_if(de_circulos.todos().begin(), de_circulos.todos().end(), [&](const Punto2D &q) {
+            const auto n = std::count_if(de_circulos.todos().begin(), de_circulos.todos().end(), [&](const Punto2D &q) {
                 return mt_angulo_dentro_de_rango(mt_angulo(0., 0., q.x, q.y), i1, f1) == CIERTO &&
                        (!en_el_segundo || mt_angulo_dentro_de_rango(mt_angulo(x2, y2, q.x, q.y), i2, f2) == CIERTO);
             });
+            return static_cast<size_t>(n);
         };
         const cortes arcos(mt_interseccion_entre_arcos, 0., 0., r1, i1, f1, x2, y2, r2, i2, f2);
         const auto n = cuantos(entre(0., 0., r1, x2, y2, r2), true);
-        ASSERT_TRUE(std::fabs(mt_distancia(0., 0., x2, y2) - r1 - r2) < 1e-3 ||
-                    static_cast<std::ptrdiff_t>(arcos.size()) == n)
-            << i;
+        ASSERT_TRUE(std::fabs(mt_distancia(0., 0., x2, y2) - r1 - r2) < 1e-3 || arcos.size() == n) << i;
         con_uno += n == 1;
         const cortes con_segmento(mt_interseccion_segmento_arco, -9., y2, 9., x2, 0., 0., r1, i1, f1);
         ASSERT_EQ(con_segmento.size(), cuantos(con_circulo(-9., y2, 9., x2, 0., 0., r1), false)) << i;

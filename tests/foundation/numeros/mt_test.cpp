@@ -1,5 +1,4 @@
 #include "espacio.h"
-#include "filas.h"
 #include "foundation/numeros/mt.h"
 
 using namespace espacio;
@@ -36,8 +35,7 @@ PRUEBA(mt, las_longitudes_no_se_desbordan_y_lo_que_no_tiene_direccion_lo_dice) {
         EXPECT_EQ(mt_distancia(x, y, 0., 0.) + mt_modulo_vector_3D(2. * k, -3. * k, 6. * k), 12. * k);
         EXPECT_TRUE(mt_pasar_a_unitario_2D(&x, &y) == CIERTO && x == 0.6 && y == -0.8);
         vec n{2. * k, -3. * k, 6. * k};
-        EXPECT_TRUE(mt_pasar_a_unitario_3D(A_XYZ(n)) == CIERTO && cerca(n.x, 2. / 7.) && cerca(n.y, -3. / 7.) &&
-                    cerca(n.z, 6. / 7.));
+        EXPECT_TRUE(mt_pasar_a_unitario_3D(A_XYZ(n)) == CIERTO && largo(n - vec{2. / 7., -3. / 7., 6. / 7.}) < 1e-15);
         f_mt_parametros_segmento(k, k, 4. * k, 5. * k, &l, &c, &s);
         EXPECT_TRUE(l == 5. * k && c == 0.6 && s == 0.8);
         EXPECT_EQ(mt_posicion_relativa_a_segmento(3. * k, 7. * k, k, 7. * k, 5. * k, 7. * k), 0.5);
@@ -134,9 +132,7 @@ PRUEBA(mt, cada_tolerancia_esta_en_su_limite) {
         const vec e[] = {p(0.), p(k), p(k / 2.), p(3. * k), p(.6 * k, fuera), p(.3 * k, -fuera)};
         ASSERT_FALSE(cruza(seg(e[0].x, e[0].y, e[1].x, e[1].y), seg(e[2].x, e[2].y, e[3].x, e[3].y))) << i;
         ASSERT_TRUE(cruza(seg(e[0].x, e[0].y, e[1].x, e[1].y), seg(e[4].x, e[4].y, e[5].x, e[5].y))) << i;
-        ASSERT_TRUE(ejes(e[0], e[1], e[3]).hay == FALSO && ejes(e[2], e[3], e[0]).hay == FALSO &&
-                    ejes(e[0], e[1], e[4]).hay == CIERTO)
-            << i;
+        ASSERT_FALSE(ejes(e[0], e[1], e[3]).hay || ejes(e[2], e[3], e[0]).hay || !ejes(e[0], e[1], e[4]).hay) << i;
     }
     HASTA(C, 1, mt_puntos2D_iguales(d, 0., 0., -d) == CIERTO);
     HASTA(0.25, 1, mt_puntos2D_iguales_con_tolerancia(0., d, 0., 0., 0.25) == CIERTO);
