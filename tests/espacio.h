@@ -48,7 +48,7 @@ inline marco marco_al_azar(vn::azar &a, double lado, const vn::lugar &l = {}) {
     }
 }
 
-// Those of a text, three numbers each.
+// The vectors of a text, three numbers each.
 inline std::vector<vec> vectores(const std::string &texto) {
     std::vector<vec> r;
     const auto v = vn::numeros(texto);

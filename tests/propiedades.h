@@ -5,6 +5,7 @@
 //   EXPECT_EQ(h(), 0x1234u);                  the same number natively and under Wine: for results without libm
 //   const vn::lugar l = vn::lugar_de(caso);   near the origin, and at the coordinates of a survey
 //   EXPECT_TRUE(vn::cerca(x, 0.25, 10.));     within 1e-12 x scale of a value kept in the test: for those with libm
+//   vn::numeros("0 0, 4 2.5")                 the numbers of a text
 //   HASTA(5e-5, 1, igual({d, 0}, {0, 0}));    a limit: what is said of d holds there, and not one step further
 //   for (const auto &fila : vn::tabla("C_polygons/segment_pairs.tsv")) fila[0]...    rows made by others
 #pragma once
