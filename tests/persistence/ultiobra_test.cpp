@@ -1,4 +1,5 @@
 #include "fallos.h"
+#include "filas.h"
 #include "foundation/texto/msglocal.h"
 #include "persistence/ultiobra.h"
 #include "texto_ancho.h"
@@ -56,31 +57,13 @@ PRUEBA(ultiobra, la_marca_de_obra_cerrada_y_la_de_ninguna_abierta) {
 }
 
 PRUEBA(ultiobra, cada_version_se_lee_y_lo_danyado_se_borra_sin_ruido) {
-    const struct {
-        const char *contenido, *obras, *finalizada;
-    } filas[] = {
-        {"0 ; version\nn\xA4o.obr\n", "nño.obr", "nño.obr"}, // OEM code page
-        {"1 ; version\nn\xF1o.obr\n", "nño.obr", "nño.obr"},
-        {"2 ; version\n2 ; n\na.obr\nb.obr\n", "a.obr|b.obr", "a.obr"},
-        {"3 ; version\r\n0\r\n1 ; n\r\nn\xF1o.obr\r\n", "nño.obr", "(null)"},
-        {"5 ; version\n1\n1 ; n\nn\xC3\xB1o.obr\n", "nño.obr", "nño.obr"},
-        {"5\n; version\n1\n2\n; n\n;a.obr\n;b.obr\n", ";a.obr|;b.obr", ";a.obr"}, // comments on lines of their own
-        {"5 ; version\n1\n1 ; n\n;a.obr\n", ";a.obr", ";a.obr"},
-        {"5 ; version\n1\n4000000000 ; n\na.obr\n", "", nullptr},
-        {"5 ; version\n1\n0 ; n\n", "", nullptr},
-        {"", "", nullptr},
-        {"\x01\xFF\xFE garbage", "", nullptr},
-        {"5 ; version\n7\n1 ; n\na.obr\n", "", nullptr},
-        {"5", "", nullptr},
-    };
-    for (const auto &f : filas) {
-        SCOPED_TRACE(f.contenido);
-        vn::graba_fichero(fichero(), f.contenido);
-        EXPECT_EQ(obras(), f.obras);
-        EXPECT_EQ(vn::existe(fichero()), f.finalizada != nullptr);
-        if (f.finalizada != nullptr) {
-            EXPECT_EQ(ultima_finalizada(), f.finalizada);
-        }
+    for (const auto &[contenido, sus_obras, finalizada] :
+         vn::filas<std::string, std::string, vn::nulable>("persistence/ultiobra.tsv", "listas")) {
+        SCOPED_TRACE(contenido);
+        vn::graba_fichero(fichero(), contenido);
+        EXPECT_EQ(obras(), sus_obras);
+        EXPECT_EQ(vn::existe(fichero()), finalizada.texto.has_value());
+        EXPECT_EQ(finalizada.texto ? ultima_finalizada() : "", finalizada.texto.value_or(""));
     }
     // A list of a newer program goes too, but not without a word.
     vn::graba_fichero(fichero(), "6 ; version\n1\n1 ; n\na.obr\n");
