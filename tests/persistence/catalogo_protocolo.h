@@ -3,7 +3,8 @@
 #pragma once
 
 #include "foundation/numeros/punto.h"
-#include "foundation/suelo/vornspy.h"
+#include "foundation/suelo/dueno.hpp"
+#include "foundation/suelo/propio_int.h"
 #include "foundation/texto/cad.h"
 #include "foundation/texto/widestr.h"
 #include "persistence/vornsave.h"
@@ -11,7 +12,6 @@
 #include <cstring>
 #include <functional>
 #include <limits>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -44,14 +44,9 @@ struct fila {
 
 // ---- Values, and each as a text to compare
 
-template <class T> void libera(T **p) { vornspy_free_pp(p, 1); }
-
+using vn::dueno, vn::propio;
 using texto_ansi = std::optional<std::string>;
 using texto_ancho = std::optional<std::basic_string<vnwchar>>;
-template <auto DESTRUYE> struct suelta {
-    template <class T> void operator()(T *p) const { DESTRUYE(&p); }
-};
-template <class T, auto DESTRUYE> using dueno = std::unique_ptr<T, suelta<DESTRUYE>>;
 
 template <class T> std::string de(T v) {
     if constexpr (std::is_floating_point_v<T>)
@@ -65,15 +60,11 @@ inline std::string de(const texto_ansi &t) { return t ? *t : "~"; }
 inline std::string de(const texto_ancho &t) {
     return t ? std::string(reinterpret_cast<const char *>(t->data()), t->size() * sizeof(vnwchar)) : "~";
 }
-inline const char *c(const texto_ansi &t) { return t ? t->c_str() : nullptr; }
-inline const vnwchar *c(const texto_ancho &t) { return t ? t->c_str() : nullptr; }
-inline texto_ansi toma(char *t) {
-    const dueno<char, vornstr_destruye> mio(t);
-    return t != nullptr ? texto_ansi(t) : std::nullopt;
-}
-inline texto_ancho toma(vnwchar *t) {
-    const dueno<vnwchar, libera<vnwchar>> mio(t);
-    return t != nullptr ? texto_ancho(t) : std::nullopt;
+template <class C> const C *c(const std::optional<std::basic_string<C>> &t) { return t ? t->c_str() : nullptr; }
+template <class C> std::optional<std::basic_string<C>> toma(C *t) {
+    const propio<C> mio(t);
+    if (t == nullptr) return std::nullopt;
+    return t;
 }
 
 template <class T> T un(azar &a) {
@@ -129,67 +120,53 @@ inline void destruye_orden(apunorde **a) { apunorde_destruye(a, viga); }
 inline void destruye_xpriv(arrPunto2DXPriv **a) {
     arr_DestruyePunto2DXPriv(a, [](void *p) { viga::destruye(static_cast<viga **>(p)); });
 }
-using una_viga = dueno<viga, viga::destruye>;
-using vigas = dueno<arrPuntero, destruye_vigas>;
-using arrays = dueno<arrPuntero, destruye_arrays>;
-using orden = dueno<apunorde, destruye_orden>;
-using xpriv = dueno<arrPunto2DXPriv, destruye_xpriv>;
+using una_viga = dueno<viga::destruye>;
+using vigas = dueno<destruye_vigas>;
+using arrays = dueno<destruye_arrays>;
+using orden = dueno<destruye_orden>;
+using xpriv = dueno<destruye_xpriv>;
 inline std::string de(const una_viga &v) { return v ? std::to_string(v->numero) : "~"; }
+inline una_viga crea_una(azar &a) { return una_viga(hasta(a, 3) == 0 ? nullptr : viga::crea(un_numero(a))); }
+// A value, or null.
+template <auto CREA> auto quiza(azar &a) { return hasta(a, 3) == 0 ? decltype(CREA(a))() : CREA(a); }
+
+// A kind of collection `v`: how many elements it has and element `i` as a text; how a random one is made, of how many,
+// and how each is put in.
+#define VN_LISTA(V, NUMERO, ELEMENTO)                                                                                  \
+    inline std::string de(const V &v) {                                                                                \
+        std::string t;                                                                                                 \
+        for (uint32_t i = 0; v && i < (NUMERO); ++i) (t += (ELEMENTO)) += '|';                                         \
+        return v ? t : "~";                                                                                            \
+    }
+#define VN_CREA(V, nombre, CREADA, CUANTOS, PON)                                                                       \
+    inline V nombre(azar &a) {                                                                                         \
+        V v(CREADA);                                                                                                   \
+        for (uint32_t i = (CUANTOS); i != 0; --i) PON;                                                                 \
+        return v;                                                                                                      \
+    }
 inline std::string junta(const arrPuntero *a) {
     std::string t;
     for (uint32_t i = 0; i < arr_NumElemsPunteroST(a, viga); ++i)
         t += std::to_string(arr_GetPunteroST(a, i, viga)->numero) + " ";
     return t;
 }
+inline std::string elemento(const xpriv &v, uint32_t i) {
+    double x = 0, y = 0;
+    void *p = nullptr;
+    arr_GetPunto2DXPriv(v.get(), i, &x, &y, &p);
+    return de(x) + de(y) + std::to_string(static_cast<viga *>(p)->numero);
+}
+// clang-format off
 inline std::string de(const vigas &a) { return a ? junta(a.get()) : "~"; }
-inline std::string de(const arrays &a) {
-    std::string t;
-    for (uint32_t i = 0; a && i < arr_NumElemsPunteroST(a.get(), arrPuntero); ++i)
-        t += junta(arr_GetPunteroST(a.get(), i, arrPuntero)) + "/";
-    return a ? t : "~";
-}
-inline std::string de(const orden &a) {
-    std::string t;
-    for (uint32_t i = 0; a && i < apunorde_numelems(a.get(), viga); ++i)
-        t += std::to_string(apunorde_get(a.get(), i, viga)->numero) + " ";
-    return a ? t : "~";
-}
-inline std::string de(const xpriv &a) {
-    std::string t;
-    for (uint32_t i = 0; a && i < arr_NumElemsPunto2DXPriv(a.get()); ++i) {
-        double x = 0, y = 0;
-        void *v = nullptr;
-        arr_GetPunto2DXPriv(a.get(), i, &x, &y, &v);
-        t += de(x) + de(y) + std::to_string(static_cast<viga *>(v)->numero);
-    }
-    return t;
-}
-inline una_viga crea_una(azar &a) { return una_viga(hasta(a, 3) == 0 ? nullptr : viga::crea(un_numero(a))); }
-inline vigas crea_vigas(azar &a) {
-    vigas v(arr_CreaPunteroST(0, viga));
-    for (uint32_t i = hasta(a, 5); i != 0; --i) arr_AppendPunteroST(v.get(), viga::crea(un_numero(a)), viga);
-    return v;
-}
-inline vigas crea_vigas_opc(azar &a) { return hasta(a, 3) == 0 ? nullptr : crea_vigas(a); }
-inline arrays crea_arrays(azar &a) {
-    arrays v(arr_CreaPunteroST(0, arrPuntero));
-    for (uint32_t i = hasta(a, 3); i != 0; --i) arr_AppendPunteroST(v.get(), crea_vigas(a).release(), arrPuntero);
-    return v;
-}
-inline arrays crea_arrays_opc(azar &a) { return hasta(a, 3) == 0 ? nullptr : crea_arrays(a); }
-inline orden crea_orden(azar &a) {
-    orden v(apunorde_crea(viga, const int32_t, viga::compara, &SENTIDO, viga::destruye));
-    for (int32_t i = static_cast<int32_t>(hasta(a, 5)); i != 0; --i)
-        apunorde_inserta_original(v.get(), viga::crea(2000 * i + un_numero(a)), viga, nullptr);
-    return v;
-}
-inline orden crea_orden_opc(azar &a) { return hasta(a, 3) == 0 ? nullptr : crea_orden(a); }
-inline xpriv crea_xpriv(azar &a) {
-    xpriv v(arr_CreaPunto2DXPriv(0));
-    for (uint32_t i = hasta(a, 4); i != 0; --i)
-        arr_AppendPunto2DXPriv(v.get(), un<double>(a), un<double>(a), viga::crea(un_numero(a)));
-    return v;
-}
+VN_LISTA(arrays, arr_NumElemsPunteroST(v.get(), arrPuntero), junta(arr_GetPunteroST(v.get(), i, arrPuntero)))
+VN_LISTA(orden, apunorde_numelems(v.get(), viga), std::to_string(apunorde_get(v.get(), i, viga)->numero))
+VN_LISTA(xpriv, arr_NumElemsPunto2DXPriv(v.get()), elemento(v, i))
+VN_CREA(vigas, crea_vigas, arr_CreaPunteroST(0, viga), hasta(a, 5), arr_AppendPunteroST(v.get(), viga::crea(un_numero(a)), viga))
+VN_CREA(arrays, crea_arrays, arr_CreaPunteroST(0, arrPuntero), hasta(a, 3), arr_AppendPunteroST(v.get(), crea_vigas(a).release(), arrPuntero))
+VN_CREA(orden, crea_orden, apunorde_crea(viga, const int32_t, viga::compara, &SENTIDO, viga::destruye), hasta(a, 5),
+        apunorde_inserta_original(v.get(), viga::crea(2000 * static_cast<int32_t>(i) + un_numero(a)), viga, nullptr))
+VN_CREA(xpriv, crea_xpriv, arr_CreaPunto2DXPriv(0), hasta(a, 4), arr_AppendPunto2DXPriv(v.get(), un<double>(a), un<double>(a), viga::crea(un_numero(a))))
+// clang-format on
 inline void graba_con_marca(const char *s, vornsave *d) { vornsave_graba_cadena((std::string(s) + "*").c_str(), d); }
 inline char *lee_con_marca(vornsave *d) {
     char *s = vornsave_lee_cadena(d);
@@ -205,21 +182,14 @@ inline char *lee_con_marca(vornsave *d) {
     X(ULong64, uint64_t) X(BOOL, vnbool) X(Punto2D, Punto2D) X(Punto3D, Punto3D)
 // clang-format on
 #define X(S, T)                                                                                                        \
-    inline void destruye_##S(arr##S **a) { arr_Destruye##S(a); }                                                       \
-    using array_##S = dueno<arr##S, destruye_##S>;                                                                     \
-    inline std::string de(const array_##S &a) {                                                                        \
-        std::string t;                                                                                                 \
-        const T *p = a ? arr_GetBufferConst##S(a.get()) : nullptr;                                                     \
-        for (uint32_t i = 0; a && i < arr_NumElems##S(a.get()); ++i) t += de(p[i]);                                    \
-        return a ? t : "~";                                                                                            \
-    }                                                                                                                  \
+    using array_##S = dueno<arr_Destruye##S>;                                                                          \
+    VN_LISTA(array_##S, arr_NumElems##S(v.get()), de(arr_GetBufferConst##S(v.get())[i]))                               \
     inline array_##S crea_##S(azar &a) {                                                                               \
         array_##S v(arr_Crea##S(cuantos(a)));                                                                          \
         T *p = arr_GetBuffer##S(v.get());                                                                              \
         for (uint32_t i = 0; i < arr_NumElems##S(v.get()); ++i) pon(p[i], a);                                          \
         return v;                                                                                                      \
-    }                                                                                                                  \
-    inline array_##S crea_opc_##S(azar &a) { return hasta(a, 3) == 0 ? nullptr : crea_##S(a); }
+    }
 template <class T> void pon(T &v, azar &a) {
     if constexpr (std::is_same_v<T, vnbool>) v = static_cast<vnbool>(hasta(a, 2)); // no other array is of its 16 bits
     else v = un<T>(a);
@@ -228,71 +198,41 @@ inline void pon(Punto2D &p, azar &a) { p = {un<double>(a), un<double>(a)}; }
 inline void pon(Punto3D &p, azar &a) { p = {un<double>(a), un<double>(a), un<double>(a)}; }
 VN_CATALOGO_ARRAYS(X)
 #undef X
-using cadenas = dueno<arrCADENA, arr_DestruyeCADENA>;
-using anchas = dueno<arrCADENA_u, arr_DestruyeCADENA_u>;
-using conjunto = dueno<acadorde, acadorde_destruye>;
-using conjunto_u = dueno<acadordeu, acadordeu_destruye>;
-using lean = dueno<arulong, arulong_destruye>;
-using lean64 = dueno<arulong64, arulong64_destruye>;
-using memoria = dueno<fichmem, fichmem_destruye>;
-#define VN_LISTA(V, numelems, elemento)                                                                                \
-    inline std::string de(const V &a) {                                                                                \
-        std::string t;                                                                                                 \
-        for (uint32_t i = 0; a && i < numelems(a.get()); ++i) t += elemento + "|";                                     \
-        return a ? t : "~";                                                                                            \
-    }
+using cadenas = dueno<arr_DestruyeCADENA>;
+using anchas = dueno<arr_DestruyeCADENA_u>;
+using conjunto = dueno<acadorde_destruye>;
+using conjunto_u = dueno<acadordeu_destruye>;
+using lean = dueno<arulong_destruye>;
+using lean64 = dueno<arulong64_destruye>;
+using memoria = dueno<fichmem_destruye>;
 template <class C> std::string o_nulo(const C *s) {
     return s != nullptr ? de(std::optional<std::basic_string<C>>(s)) : "~";
 }
-VN_LISTA(cadenas, arr_NumElemsCADENA, o_nulo(arr_GetCADENA(a.get(), i)))
-VN_LISTA(anchas, arr_NumElemsCADENA_u, o_nulo(arr_GetCADENA_u(a.get(), i)))
-VN_LISTA(conjunto, acadorde_numelems, o_nulo(acadorde_get(a.get(), i)))
-VN_LISTA(conjunto_u, acadordeu_numelems, o_nulo(acadordeu_get(a.get(), i)))
-VN_LISTA(lean, arulong_numelems, de(arulong_get(a.get(), i)))
-VN_LISTA(lean64, arulong64_numelems, de(arulong64_get(a.get(), i)))
-inline std::string de(const memoria &m) {
+// clang-format off
+VN_LISTA(cadenas, arr_NumElemsCADENA(v.get()), o_nulo(arr_GetCADENA(v.get(), i)))
+VN_LISTA(anchas, arr_NumElemsCADENA_u(v.get()), o_nulo(arr_GetCADENA_u(v.get(), i)))
+VN_LISTA(conjunto, acadorde_numelems(v.get()), o_nulo(acadorde_get(v.get(), i)))
+VN_LISTA(conjunto_u, acadordeu_numelems(v.get()), o_nulo(acadordeu_get(v.get(), i)))
+VN_LISTA(lean, arulong_numelems(v.get()), de(arulong_get(v.get(), i)))
+VN_LISTA(lean64, arulong64_numelems(v.get()), de(arulong64_get(v.get(), i)))
+template <bool NULOS> VN_CREA(cadenas, crea_cadenas, arr_CreaCADENA(0), hasta(a, 8),
+    arr_AppendCADENA(v.get(), NULOS && hasta(a, 4) == 0 ? nullptr : letras(a, LARGA).c_str()))
+template <bool NULOS> VN_CREA(anchas, crea_anchas, arr_CreaCADENA_u(0), hasta(a, 8),
+    arr_AppendCADENA_u(v.get(), NULOS && hasta(a, 4) == 0 ? nullptr : letras_anchas(a, false).c_str()))
+VN_CREA(conjunto, crea_conjunto, acadorde_crea(static_cast<vnbool>(hasta(a, 2))), hasta(a, 6), acadorde_inserta(v.get(), letras(a, LARGA).c_str()))
+VN_CREA(conjunto_u, crea_conjunto_u, acadordeu_crea(static_cast<vnbool>(hasta(a, 2))), hasta(a, 6), acadordeu_inserta(v.get(), letras_anchas(a, true).c_str()))
+VN_CREA(lean, crea_lean, arulong_crea(), cuantos(a), arulong_append(v.get(), a()))
+VN_CREA(lean64, crea_lean64, arulong64_crea(), cuantos(a), arulong64_append(v.get(), un<uint64_t>(a)))
+    // clang-format on
+    inline std::string de(const memoria &m) {
     return m ? std::string(reinterpret_cast<char *>(m->datos), m->longitud) : "~";
 }
 
-template <bool NULOS> cadenas crea_cadenas(azar &a) {
-    cadenas v(arr_CreaCADENA(0));
-    for (uint32_t i = hasta(a, 8); i != 0; --i)
-        arr_AppendCADENA(v.get(), NULOS && hasta(a, 4) == 0 ? nullptr : letras(a, LARGA).c_str());
-    return v;
-}
-template <bool NULOS> anchas crea_anchas(azar &a) {
-    anchas v(arr_CreaCADENA_u(0));
-    for (uint32_t i = hasta(a, 8); i != 0; --i)
-        arr_AppendCADENA_u(v.get(), NULOS && hasta(a, 4) == 0 ? nullptr : letras_anchas(a, false).c_str());
-    return v;
-}
-inline cadenas crea_cadenas_opc(azar &a) { return hasta(a, 3) == 0 ? nullptr : crea_cadenas<false>(a); }
-inline anchas crea_anchas_opc(azar &a) { return hasta(a, 3) == 0 ? nullptr : crea_anchas<false>(a); }
-inline conjunto crea_conjunto(azar &a) {
-    conjunto v(acadorde_crea(static_cast<vnbool>(hasta(a, 2))));
-    for (uint32_t i = hasta(a, 6); i != 0; --i) acadorde_inserta(v.get(), letras(a, LARGA).c_str());
-    return v;
-}
-inline conjunto_u crea_conjunto_u(azar &a) {
-    conjunto_u v(acadordeu_crea(static_cast<vnbool>(hasta(a, 2))));
-    for (uint32_t i = hasta(a, 6); i != 0; --i) acadordeu_inserta(v.get(), letras_anchas(a, true).c_str());
-    return v;
-}
 // Runs of equal values.
 inline array_Double crea_iguales(azar &a) {
     array_Double v(arr_CreaDouble(cuantos(a)));
     for (uint32_t i = 0; i < arr_NumElemsDouble(v.get()); ++i)
         arr_SetDouble(v.get(), i, hasta(a, 10) == 0 ? un<double>(a) : hasta(a, 2));
-    return v;
-}
-inline lean crea_lean(azar &a) {
-    lean v(arulong_crea());
-    for (uint32_t i = cuantos(a); i != 0; --i) arulong_append(v.get(), a());
-    return v;
-}
-inline lean64 crea_lean64(azar &a) {
-    lean64 v(arulong64_crea());
-    for (uint32_t i = cuantos(a); i != 0; --i) arulong64_append(v.get(), un<uint64_t>(a));
     return v;
 }
 inline memoria crea_memoria(azar &a) {
@@ -333,21 +273,14 @@ inline const std::vector<fila> &filas() {
     hace(#op, clase, genera, ESCRIBE(V, vornsave_graba_##op(v.get(), d)), LEE(V(vornsave_lee_##op(d))), salta)
 #define VALORES(S, op, salta)                                                                                          \
     PROPIA(arr_##op, CON_CUENTA, array_##S, crea_##S, salta),                                                          \
-        PROPIA(arr_##op##_opcional, 0, array_##S, crea_opc_##S, nullptr)
-    const auto una = [](azar &a) { return texto_ansi(letras(a, 300)); };
+        PROPIA(arr_##op##_opcional, 0, array_##S, quiza<crea_##S>, nullptr)
+    constexpr auto una = [](azar &a) { return texto_ansi(letras(a, 300)); };
+    constexpr auto ancha = [](azar &a) { return texto_ancho(letras_anchas(a, false)); };
+    constexpr auto utf8 = [](azar &a) { return texto_ancho(letras_anchas(a, true)); };
     const auto sin_retornos = [](azar &a) { // raw bytes, which text translates
         std::string t = letras(a, 300);
         std::erase(t, '\r');
         return texto_ansi(t);
-    };
-    const auto una_opc = [](azar &a) { return hasta(a, 3) == 0 ? texto_ansi() : texto_ansi(letras(a, 300)); };
-    const auto ancha = [](azar &a) { return texto_ancho(letras_anchas(a, false)); };
-    const auto ancha_opc = [](azar &a) {
-        return hasta(a, 3) == 0 ? texto_ancho() : texto_ancho(letras_anchas(a, false));
-    };
-    const auto utf8 = [](azar &a) { return texto_ancho(letras_anchas(a, true)); };
-    const auto utf8_opc = [](azar &a) {
-        return hasta(a, 3) == 0 ? texto_ancho() : texto_ancho(letras_anchas(a, true));
     };
     const auto logico = [](azar &a) { return static_cast<vnbool>(hasta(a, 2)); };
     const auto graba_vigas = ESCRIBE(vigas, vornsave_graba_arr_punterosST(v.get(), d, viga, viga::graba));
@@ -372,16 +305,16 @@ inline const std::vector<fila> &filas() {
         hace("time32", 0, un<int32_t>, vornsave_graba_time32, LEE(static_cast<int32_t>(vornsave_lee_time32(d)))),
         hace("punto", 0, [](azar &a) { return Punto2D{un<double>(a), un<double>(a)}; }, ESCRIBE(Punto2D, vornsave_graba_punto(&v, d)),
              [](vornsave *d) {
-                 const dueno<Punto2D, libera<Punto2D>> p(vornsave_lee_punto(d));
+                 const propio<Punto2D> p(vornsave_lee_punto(d));
                  return p ? *p : Punto2D{};
              }),
         TEXTO(cadena, 0, texto_ansi, una, vornsave_salta_cadena),
         TEXTO(cadena_unicode, 0, texto_ancho, ancha, vornsave_salta_cadena_unicode),
         TEXTO(cadena_UTF8, 0, texto_ancho, utf8, vornsave_salta_cadena),
         TEXTO(cadena_como_buffer, CON_CUENTA, texto_ansi, sin_retornos, nullptr),
-        TEXTO(cadena_opcional, 0, texto_ansi, una_opc, vornsave_salta_cadena_opcional),
-        TEXTO(cadena_unicode_opcional, 0, texto_ancho, ancha_opc, vornsave_salta_cadena_unicode_opcional),
-        TEXTO(cadena_UTF8_opcional, 0, texto_ancho, utf8_opc, vornsave_salta_cadena_opcional),
+        TEXTO(cadena_opcional, 0, texto_ansi, quiza<una>, vornsave_salta_cadena_opcional),
+        TEXTO(cadena_unicode_opcional, 0, texto_ancho, quiza<ancha>, vornsave_salta_cadena_unicode_opcional),
+        TEXTO(cadena_UTF8_opcional, 0, texto_ancho, quiza<utf8>, vornsave_salta_cadena_opcional),
         hace("cadena_campo", 0, una, ESCRIBE(texto_ansi, vornsave_graba_cadena_campo(c(v), "campo", d)),
              LEE(toma(vornsave_lee_cadena_campo(d, "campo"))), [](vornsave *d) { vornsave_salta_cadena_campo(d, "campo"); }),
         hace("cadena como ancha", SIN_COPIA, [](azar &a) { return texto_ansi("A" + std::to_string(hasta(a, 9))); }, ESCRIBE(texto_ansi, vornsave_graba_cadena(c(v), d)),
@@ -392,7 +325,7 @@ inline const std::vector<fila> &filas() {
         hace("buffer", 0, [](azar &a) { return std::string{'\0', '\x1a', static_cast<char>(14 + hasta(a, 200)), '\n', '\xff'}; },
              ESCRIBE(std::string, vornsave_graba_buffer(v.data(), 5, d)),
              [](vornsave *d) {
-                 const dueno<uint8_t, libera<uint8_t>> b(vornsave_lee_buffer(5, d));
+                 const propio<uint8_t> b(vornsave_lee_buffer(5, d));
                  return b ? std::string(reinterpret_cast<char *>(b.get()), 5) : std::string();
              },
              [](vornsave *d) { vornsave_salta_buffer(5, d); }),
@@ -417,12 +350,12 @@ inline const std::vector<fila> &filas() {
              ESCRIBE(array_Double, vornsave_graba_arr_double_con_valores_iguales(v.get(), 0, d)),
              LEE(array_Double(vornsave_lee_arr_double_con_valores_iguales(d)))),
         PROPIA(arr_cadenas, CON_CUENTA, cadenas, crea_cadenas<false>, vornsave_salta_arr_cadena),
-        PROPIA(arr_cadenas_opcional, 0, cadenas, crea_cadenas_opc, nullptr),
+        PROPIA(arr_cadenas_opcional, 0, cadenas, quiza<crea_cadenas<false>>, nullptr),
         PROPIA(arr_cadenas_con_valores_iguales, CON_CUENTA, cadenas, crea_cadenas<false>, nullptr),
         PROPIA(arr_cadenas_segun_tipo, CON_CUENTA | SOLO_BIN, cadenas, crea_cadenas<true>, nullptr),
         PROPIA(arr_cadenas_con_valores_iguales_segun_tipo, CON_CUENTA | SOLO_BIN, cadenas, crea_cadenas<true>, nullptr),
         PROPIA(arr_cadenas_unicode, CON_CUENTA | SOLO_BIN, anchas, crea_anchas<false>, vornsave_salta_arr_cadena_unicode),
-        PROPIA(arr_cadenas_unicode_opcional, SOLO_BIN, anchas, crea_anchas_opc, nullptr),
+        PROPIA(arr_cadenas_unicode_opcional, SOLO_BIN, anchas, quiza<crea_anchas<false>>, nullptr),
         PROPIA(arr_cadenas_segun_tipo_unicode, CON_CUENTA | SOLO_BIN, anchas, crea_anchas<true>, nullptr),
         PROPIA(acadorde, 0, conjunto, crea_conjunto, nullptr), PROPIA(acadordeu, 0, conjunto_u, crea_conjunto_u, nullptr),
         hace("acadorde_con_funcion", 0, crea_conjunto, ESCRIBE(conjunto, vornsave_graba_acadorde_con_funcion(v.get(), graba_con_marca, d)),
@@ -440,21 +373,21 @@ inline const std::vector<fila> &filas() {
              LEE(vigas(vornsave_lee_arr_punteros_con_1_dato_extraST(d, viga, const int32_t, viga::lee_mas, &MAS)))),
         hace("arr_punteros con 2", CON_CUENTA, crea_vigas, graba_vigas_menos,
              LEE(vigas(vornsave_lee_arr_punteros_con_2_datos_extraST(d, viga, const int32_t, const int32_t, viga::lee_mas_por, &MAS, &POR)))),
-        hace("arr_punteros_opcional", 0, crea_vigas_opc, ESCRIBE(vigas, vornsave_graba_arr_punteros_opcional(v.get(), d, viga, viga::graba)),
+        hace("arr_punteros_opcional", 0, quiza<crea_vigas>, ESCRIBE(vigas, vornsave_graba_arr_punteros_opcional(v.get(), d, viga, viga::graba)),
              LEE(vigas(vornsave_lee_arr_punteros_opcional(d, viga, viga::lee))), [](vornsave *d) { vornsave_salta_arr_punteros_opcionalST(d, viga::salta); }),
-        hace("arr_punteros_opcional con 1", 0, crea_vigas_opc,
+        hace("arr_punteros_opcional con 1", 0, quiza<crea_vigas>,
              ESCRIBE(vigas, vornsave_graba_arr_punteros_opcional(v.get(), d, viga, viga::graba_menos)),
              LEE(vigas(vornsave_lee_arr_punteros_opcional_con_1_dato_extra(d, viga, const int32_t, viga::lee_mas, &MAS)))),
         hace("arr_punteros_array", CON_CUENTA, crea_arrays, ESCRIBE(arrays, vornsave_graba_arr_punteros_arrayST(v.get(), d, viga, viga::graba)),
              LEE(arrays(vornsave_lee_arr_punteros_arrayST(d, viga, viga::lee)))),
-        hace("arr_punteros_array_opcional", 0, crea_arrays_opc,
+        hace("arr_punteros_array_opcional", 0, quiza<crea_arrays>,
              ESCRIBE(arrays, vornsave_graba_arr_punteros_array_opcionalST(v.get(), d, viga, viga::graba)),
              LEE(arrays(vornsave_lee_arr_punteros_array_opcionalST(d, viga, viga::lee)))),
         hace("apunorde", CON_CUENTA, crea_orden, ESCRIBE(orden, vornsave_graba_apunorde(v.get(), d, viga, viga::graba)),
              LEE(orden(vornsave_lee_apunorde(d, viga, viga::lee, const int32_t, viga::compara, &SENTIDO, viga::destruye)))),
         hace("apunorde con 1", CON_CUENTA, crea_orden, graba_orden_menos,
              LEE(orden(vornsave_lee_apunorde_con_1_dato_extra(d, &MAS, viga, const int32_t, viga::lee_mas, const int32_t, viga::compara, &SENTIDO, viga::destruye)))),
-        hace("apunorde_opcional", 0, crea_orden_opc, ESCRIBE(orden, vornsave_graba_apunorde_opcional(v.get(), d, viga, viga::graba)),
+        hace("apunorde_opcional", 0, quiza<crea_orden>, ESCRIBE(orden, vornsave_graba_apunorde_opcional(v.get(), d, viga, viga::graba)),
              LEE(orden(vornsave_lee_apunorde_opcional(d, viga, viga::lee, const int32_t, viga::compara, &SENTIDO, viga::destruye)))),
         hace("arr_puntos2DXPriv", CON_CUENTA, crea_xpriv, ESCRIBE(xpriv, vornsave_graba_arr_puntos2DXPrivST(v.get(), d, viga, viga::graba)),
              LEE(xpriv(vornsave_lee_arr_puntos2DXPrivST(d, viga, viga::lee)))),

@@ -70,11 +70,10 @@ inline void leido(const destino_de_prueba &d, std::string_view bytes, const std:
 template <size_t N> std::string bytes(const char (&s)[N]) { return {s, N - 1}; }
 inline std::string hex(const std::string &b) {
     std::string t;
-    for (const unsigned char c : b) {
-        t += "0123456789abcdef"[c >> 4];
-        t += "0123456789abcdef"[c & 15];
-    }
+    for (const unsigned char c : b) (t += "0123456789abcdef"[c >> 4]) += "0123456789abcdef"[c & 15];
     return t;
 }
+// A member, or several, of the object `d`.
+#define HACE(...) [](vornsave *d) { __VA_ARGS__; }
 
 } // namespace vn

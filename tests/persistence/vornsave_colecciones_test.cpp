@@ -12,25 +12,25 @@ using catalogo::hasta;
 namespace {
 
 using textos = catalogo::cadenas;
+using numeros = catalogo::array_Double;
 textos crea_textos(const std::vector<const char *> &v) {
     textos a(arr_CreaCADENA(0));
     for (const char *s : v) arr_AppendCADENA(a.get(), s);
     return a;
 }
-// The texts of an array, which is destroyed, each with its bar.
+// The elements of an array, which is destroyed, each with its mark.
 std::string junta(arrCADENA *a) { return catalogo::de(textos(a)); }
-std::string junta(arrDouble *a) {
+std::string junta(arrDouble *de) {
+    const numeros a(de);
     std::string t;
-    for (uint32_t i = 0; i < arr_NumElemsDouble(a); ++i) t += std::to_string(std::lround(arr_GetDouble(a, i))) + " ";
-    arr_DestruyeDouble(&a);
+    for (uint32_t i = 0; i < arr_NumElemsDouble(de); ++i) t += std::to_string(std::lround(arr_GetDouble(de, i))) + " ";
     return t;
 }
 std::string flotantes(const std::vector<double> &v, double tolerancia = 1e-9) {
     return grabado(EN_BIN, [&](vornsave *d) {
-        arrDouble *a = arr_CreaDouble(static_cast<uint32_t>(v.size()));
-        for (uint32_t i = 0; i < v.size(); ++i) arr_SetDouble(a, i, v[i]);
-        vornsave_graba_arr_double_con_valores_iguales(a, tolerancia, d);
-        arr_DestruyeDouble(&a);
+        const numeros a(arr_CreaDouble(static_cast<uint32_t>(v.size())));
+        std::copy(v.begin(), v.end(), arr_GetBufferDouble(a.get()));
+        vornsave_graba_arr_double_con_valores_iguales(a.get(), tolerancia, d);
     });
 }
 std::string le(uint32_t n) { return {reinterpret_cast<const char *>(&n), 4}; }
@@ -102,12 +102,6 @@ void lee_programa(const std::vector<paso> &pasos, azar &a, vornsave *d) {
     }
 }
 
-// One value of a kind, as its bytes.
-std::string bytes_de(const fila &f, const destino_de_prueba &destino = EN_BIN, uint32_t semilla = 1) {
-    azar a(semilla);
-    return grabado(destino, [&](vornsave *d) { f.graba(a, d); });
-}
-
 } // namespace
 
 PRUEBA(vornsave_colecciones, cualquier_registro_vuelve_igual_de_cada_destino) {
@@ -135,7 +129,8 @@ PRUEBA(vornsave_colecciones, cortadas_en_cada_byte) {
     for (const fila &f : filas())
         for (const auto &destino : {EN_BIN, EN_BIN_SIN}) {
             SCOPED_TRACE(f.nombre);
-            const std::string datos = bytes_de(f);
+            azar a(1);
+            const std::string datos = grabado(EN_BIN, [&](vornsave *d) { f.graba(a, d); });
             for (size_t n = 0; n < std::min<size_t>(datos.size(), 100); ++n) {
                 graba_fichero(abierto::ruta(), std::string_view(datos).substr(0, n));
                 EXPECT_FALSE(atrapado([&] { f.lee(abierto(destino, "r")); })) << n;
@@ -146,32 +141,29 @@ PRUEBA(vornsave_colecciones, cortadas_en_cada_byte) {
 }
 
 PRUEBA(vornsave_colecciones, bytes_y_lineas) {
-    arrBOOL *logicos = arr_CreaBOOL(3);
-    arr_SetBOOL(logicos, 1, CIERTO);
-    EXPECT_EQ(hex(grabado(EN_BIN, [&](vornsave *d) { vornsave_graba_arr_bool(logicos, d); })), "03000000000001000000");
-    arr_DestruyeBOOL(&logicos);
+    const dueno<arr_DestruyeBOOL> logicos(arr_CreaBOOL(3));
+    arr_SetBOOL(logicos.get(), 1, CIERTO);
+    EXPECT_EQ(hex(grabado(EN_BIN, [&](vornsave *d) { vornsave_graba_arr_bool(logicos.get(), d); })),
+              "03000000000001000000");
     leido(EN_BIN, bytes("\1\0\0\0\5\0"), [](vornsave *d) {
-        arrBOOL *a = ESPERA_INFORME("elem == 1 || elem == 0", vornsave_lee_arr_bool(d));
-        EXPECT_EQ(arr_GetBOOL(a, 0), 5);
-        arr_DestruyeBOOL(&a);
+        const dueno<arr_DestruyeBOOL> a(ESPERA_INFORME("elem == 1 || elem == 0", vornsave_lee_arr_bool(d)));
+        EXPECT_EQ(arr_GetBOOL(a.get(), 0), 5);
     });
     // One line a point.
     std::string lineas = grabado(EN_TXT_CON, [](vornsave *d) {
-        arrPunto2D *a = arr_CreaPunto2D(0);
-        arr_AppendPunto2D(a, 1, 2);
-        arr_AppendPunto2D(a, 3, 4);
-        vornsave_graba_arr_puntos2D(a, d);
-        arr_DestruyePunto2D(&a);
+        const dueno<arr_DestruyePunto2D> a(arr_CreaPunto2D(0));
+        arr_AppendPunto2D(a.get(), 1, 2);
+        arr_AppendPunto2D(a.get(), 3, 4);
+        vornsave_graba_arr_puntos2D(a.get(), d);
     });
     std::erase(lineas, '\r');
     EXPECT_EQ(lineas, "2\n1 2\n3 4\n");
     // A null text where it has no form is reported, and what follows stays in step.
-    const std::string datos = grabado(EN_BIN, [&](vornsave *d) {
-        ESPERA_INFORME("(texto) != NULL", vornsave_graba_arr_cadenas(crea_textos({"uno", nullptr, ""}).get(), d));
-    });
-    leido(EN_BIN, datos, [](vornsave *d) { EXPECT_EQ(junta(vornsave_lee_arr_cadenas(d)), "uno|||"); });
-    leido(EN_TXT, "0\n",
-          [](vornsave *d) { EXPECT_EQ(ESPERA_INFORME("", vornsave_lee_arr_cadenas_unicode(d)), nullptr); });
+    const textos con_nulo = crea_textos({"uno", nullptr, ""});
+    const std::string datos = grabado(
+        EN_BIN, [&](vornsave *d) { ESPERA_INFORME("(texto) != NULL", vornsave_graba_arr_cadenas(con_nulo.get(), d)); });
+    leido(EN_BIN, datos, HACE(EXPECT_EQ(junta(vornsave_lee_arr_cadenas(d)), "uno|||")));
+    leido(EN_TXT, "0\n", HACE(EXPECT_EQ(ESPERA_INFORME("", vornsave_lee_arr_cadenas_unicode(d)), nullptr)));
 }
 
 PRUEBA(vornsave_colecciones, grupos_de_valores_iguales) {
@@ -186,16 +178,14 @@ PRUEBA(vornsave_colecciones, grupos_de_valores_iguales) {
     const std::string principio = le(4u) + "\1" + le(2u) + le(7.);
     for (const std::string &grupo :
          {"\1" + le(0u) + le(1.), bytes("\0") + le(0u), "\1" + le(3u) + le(1.), "\1" + le(~0u) + le(1.)})
-        leido(EN_BIN, principio + grupo, [](vornsave *d) {
-            EXPECT_EQ(junta(ESPERA_INFORME("arr_NumElemsDouble(array) == num_elems_a_leer",
-                                           vornsave_lee_arr_double_con_valores_iguales(d))),
-                      "7 7 ");
-        });
-    leido(EN_BIN, le(3u) + "\1" + le(2u) + bytes("\1\0x\1") + le(9u) + bytes("\1\0x"), [](vornsave *d) {
-        EXPECT_EQ(junta(ESPERA_INFORME("arr_NumElemsCADENA(array) == num_elems_a_leer",
-                                       vornsave_lee_arr_cadenas_con_valores_iguales(d))),
-                  "x|x|");
-    });
+        leido(EN_BIN, principio + grupo,
+              HACE(EXPECT_EQ(junta(ESPERA_INFORME("arr_NumElemsDouble(array) == num_elems_a_leer",
+                                                  vornsave_lee_arr_double_con_valores_iguales(d))),
+                             "7 7 ")));
+    leido(EN_BIN, le(3u) + "\1" + le(2u) + bytes("\1\0x\1") + le(9u) + bytes("\1\0x"),
+          HACE(EXPECT_EQ(junta(ESPERA_INFORME("arr_NumElemsCADENA(array) == num_elems_a_leer",
+                                              vornsave_lee_arr_cadenas_con_valores_iguales(d))),
+                         "x|x|")));
 }
 
 PRUEBA(vornsave_colecciones, una_cuenta_falsa_no_reserva_memoria) {
@@ -231,8 +221,7 @@ PRUEBA(vornsave_colecciones, los_textos_como_lineas) {
         EXPECT_EQ(junta(vornsave_lee_arr_cadenas(d)), std::string(raro) + "||");
     });
     // As it was written before there was the escape.
-    leido(EN_TXT, "viejo \x10 y \02000ZZ\n",
-          [](vornsave *d) { EXPECT_EQ(toma(vornsave_lee_cadena(d)), "viejo \x10 y \02000ZZ"); });
+    leido(EN_TXT, "viejo \x10 y \02000ZZ\n", HACE(EXPECT_EQ(toma(vornsave_lee_cadena(d)), "viejo \x10 y \02000ZZ")));
     const std::string cabe(255, 'x'), largo(300, 'y');
     const abierto a(EN_TXT, "w+");
     ESPERA_INFORME("longitud < TAMANYO_LINEA",
@@ -249,66 +238,56 @@ PRUEBA(vornsave_colecciones, un_buffer_es_tan_grande_como_se_pidio) {
         for (const uint32_t n : {9u, 100000u, 4294967295u})
             leido(destino, "12345678", [&](vornsave *d) {
                 const mayor_bloque m;
-                uint8_t *b = vornsave_lee_buffer(n, d);
+                const propio<uint8_t> b(vornsave_lee_buffer(n, d));
                 EXPECT_FALSE(toma_informes().empty());
                 EXPECT_LT(m(), size_t(1) << 20);
-                if (b == nullptr) return;
-                EXPECT_EQ(b[n], 0);
-                vornspy_free_pp(&b, 1);
+                EXPECT_TRUE(b == nullptr || b.get()[n] == 0);
             });
 }
 
 // Few bytes may stand for many values: what the writer makes of an array is always read, beside the bound as well; what
 // it does not make is refused before memory is taken, and what follows is in step.
 PRUEBA(vornsave_colecciones, los_grupos_tienen_un_limite_que_quien_graba_conoce) {
-    const auto lee_textos_iguales = [](vornsave *d) { return vornsave_lee_arr_cadenas_con_valores_iguales(d); };
-    const auto vuelven = [&](const char *texto, uint32_t n, bool en_un_grupo) {
+    const auto vuelven = [](const std::string &texto, uint32_t n, bool en_un_grupo) {
         const std::string datos = grabado(EN_BIN, [&](vornsave *d) {
-            arrCADENA *a = arr_CreaCADENA(n);
-            for (uint32_t i = 0; i < n; ++i) arr_SetCADENA(a, i, texto);
-            vornsave_graba_arr_cadenas_con_valores_iguales(a, d);
+            const textos a(arr_CreaCADENA(n));
+            for (uint32_t i = 0; i < n; ++i) arr_SetCADENA(a.get(), i, texto.c_str());
+            vornsave_graba_arr_cadenas_con_valores_iguales(a.get(), d);
             vornsave_graba_long(77, d);
-            arr_DestruyeCADENA(&a);
         });
-        EXPECT_EQ(datos.size() == 4 + 5 + 2 + std::strlen(texto) + 4, en_un_grupo);
-        const abierto leido_otra_vez(EN_BIN, "r");
-        arrCADENA *a = lee_textos_iguales(leido_otra_vez);
-        EXPECT_EQ(arr_NumElemsCADENA(a), n);
-        EXPECT_STREQ(arr_GetCADENA(a, n - 1), texto);
-        EXPECT_EQ(vornsave_lee_long(leido_otra_vez), 77);
-        arr_DestruyeCADENA(&a);
+        EXPECT_EQ(datos.size() == 4 + 5 + 2 + texto.size() + 4, en_un_grupo);
+        const abierto d(EN_BIN, "r");
+        const textos a(vornsave_lee_arr_cadenas_con_valores_iguales(d));
+        EXPECT_EQ(arr_NumElemsCADENA(a.get()), n);
+        EXPECT_EQ(arr_GetCADENA(a.get(), n - 1), texto);
+        EXPECT_EQ(vornsave_lee_long(d), 77);
     };
-    vuelven("Hormigon HA-25", 300000, true);
     const std::string largo(65535, 'x');
-    vuelven(largo.c_str(), 4100, true);
-    vuelven(largo.c_str(), 4101, false);
+    vuelven("Hormigon HA-25", 300000, true);
+    vuelven(largo, 4100, true);
+    vuelven(largo, 4101, false);
     constexpr uint32_t N = 6000000;
-    arrDouble *muchos = arr_CreaDouble(N);
-    for (const uint32_t i : {0u, 1u, 7u, N / 2, N - 1}) arr_SetDouble(muchos, i, i + 1.);
+    const numeros muchos(arr_CreaDouble(N));
+    for (const uint32_t i : {0u, 1u, 7u, N / 2, N - 1}) arr_SetDouble(muchos.get(), i, i + 1.);
     const std::string datos =
-        grabado(EN_BIN, [&](vornsave *d) { vornsave_graba_arr_double_con_valores_iguales(muchos, 0, d); });
+        grabado(EN_BIN, [&](vornsave *d) { vornsave_graba_arr_double_con_valores_iguales(muchos.get(), 0, d); });
     EXPECT_LT(datos.size(), 200u);
     leido(EN_BIN, datos, [&](vornsave *d) {
-        arrDouble *a = vornsave_lee_arr_double_con_valores_iguales(d);
-        EXPECT_EQ(arr_SonIgualesDouble(a, muchos), CIERTO);
-        arr_DestruyeDouble(&a);
+        const numeros a(vornsave_lee_arr_double_con_valores_iguales(d));
+        EXPECT_EQ(arr_SonIgualesDouble(a.get(), muchos.get()), CIERTO);
     });
-    arr_DestruyeDouble(&muchos);
-    const std::string siete = bytes("\7\0\0\0");
-    for (const uint32_t cuenta : {33554446u, 4000000000u})
-        leido(EN_BIN, le(cuenta) + "\1" + le(cuenta) + le(2.) + siete, [&](vornsave *d) {
+    const auto se_niega = [](const std::string &grupos, const char *faltan, auto lee) {
+        leido(EN_BIN, grupos + le(7u), [&](vornsave *d) {
             const mayor_bloque m;
-            EXPECT_EQ(junta(vornsave_lee_arr_double_con_valores_iguales(d)), "");
-            espera_informes({"lc_error_leyendo_fichero", "arr_NumElemsDouble(array) == num_elems_a_leer"}, __FILE__,
-                            __LINE__);
+            EXPECT_EQ(junta(lee(d)), "");
+            espera_informes({"lc_error_leyendo_fichero", faltan}, __FILE__, __LINE__);
             EXPECT_LT(m(), size_t(1) << 20);
             EXPECT_EQ(vornsave_lee_long(d), 7);
         });
-    leido(EN_BIN, le(4103u) + "\1" + le(4101u) + bytes("\xff\xff") + largo + bytes("\0\2\0\0\0\1\0a\1\0b") + siete,
-          [&](vornsave *d) {
-              EXPECT_EQ(junta(lee_textos_iguales(d)), "");
-              espera_informes({"lc_error_leyendo_fichero", "arr_NumElemsCADENA(array) == num_elems_a_leer"}, __FILE__,
-                              __LINE__);
-              EXPECT_EQ(vornsave_lee_long(d), 7);
-          });
+    };
+    for (const uint32_t cuenta : {33554446u, 4000000000u})
+        se_niega(le(cuenta) + "\1" + le(cuenta) + le(2.), "arr_NumElemsDouble(array) == num_elems_a_leer",
+                 vornsave_lee_arr_double_con_valores_iguales);
+    se_niega(le(4103u) + "\1" + le(4101u) + bytes("\xff\xff") + largo + bytes("\0\2\0\0\0\1\0a\1\0b"),
+             "arr_NumElemsCADENA(array) == num_elems_a_leer", vornsave_lee_arr_cadenas_con_valores_iguales);
 }
