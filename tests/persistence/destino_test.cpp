@@ -2,6 +2,7 @@
 #include "persistence/catalogo_protocolo.h"
 #include "persistence/destinos_de_prueba.h"
 #include "persistence/prueba_vornsave.h"
+#include <numeric>
 
 using namespace vn;
 
@@ -46,45 +47,41 @@ std::string llamadas(const std::function<void(vornsave *)> &miembro) {
 
 // Which entry each member calls, and with what.
 PRUEBA(destino, lo_que_llama_cada_miembro) {
-    const Punto2D p{1, 2.5};
-    const struct {
-        std::string espera;
-        std::function<void(vornsave *)> miembro;
-    } filas[] = {
-        {"bool 1\n", [](vornsave *d) { vornsave_graba_bool(CIERTO, d); }},
-        {"bool_texto 1 \"si\" \"no\"\n", [](vornsave *d) { vornsave_graba_bool_con_texto(CIERTO, d, "si", "no"); }},
-        {"char 'c'\n", [](vornsave *d) { vornsave_graba_char('c', d); }},
-        {"uchar 255\n", [](vornsave *d) { vornsave_graba_uchar(255, d); }},
-        {"ushort 8364\n", [](vornsave *d) { vornsave_graba_wchar(u'\u20AC', d); }},
-        {"float 0.1\n", [](vornsave *d) { vornsave_graba_float(0.1f, d); }},
-        {"double 0.25\n", [](vornsave *d) { vornsave_graba_double_con_precision(0.26, 0.125, d); }},
-        {"double 1\ndouble 2.5\n", [&](vornsave *d) { vornsave_graba_punto(&p, d); }},
-        {"long64 1\n", [](vornsave *d) { vornsave_graba_long64(1, d); }},
-        {"ulong 1\nulong 2\n", [](vornsave *d) { vornsave_graba_int64((int64_t{1} << 32) + 2, d); }},
-        {"ulong 4294967295\nulong 4294967295\n", [](vornsave *d) { vornsave_graba_fecha(-1, d); }},
-        {"long64 -5\n", [](vornsave *d) { vornsave_graba_time(-5, d); }},
-        {"long 5\n", [](vornsave *d) { vornsave_graba_time32(5, d); }},
-        {"cadena \"a\"\n", [](vornsave *d) { vornsave_graba_cadena("a", d); }},
-        {"cadena_campo \"a\" \"campo\"\n", [](vornsave *d) { vornsave_graba_cadena_campo("a", "campo", d); }},
-        {"cadena_unicode \"\u00f1\"\n", [](vornsave *d) { vornsave_graba_cadena_unicode(VNU("\u00f1"), d); }},
-        {"cadena \"\u00f1\"\n", [](vornsave *d) { vornsave_graba_cadena_UTF8(VNU("\u00f1"), d); }},
-        {"bool 0\n", [](vornsave *d) { vornsave_graba_cadena_opcional(nullptr, d); }},
-        {"ulong 3\nbuffer * 3\n", [](vornsave *d) { vornsave_graba_cadena_como_buffer("abc", d); }},
+    static const Punto2D P{1, 2.5};
+    using puntos = dueno<arr_DestruyePunto2D>;
+    // clang-format off
+    const std::pair<std::string, void (*)(vornsave *)> filas[] = {
+        {"bool 1\n", HACE(vornsave_graba_bool(CIERTO, d))},
+        {"bool_texto 1 \"si\" \"no\"\n", HACE(vornsave_graba_bool_con_texto(CIERTO, d, "si", "no"))},
+        {"char 'c'\n", HACE(vornsave_graba_char('c', d))},
+        {"uchar 255\n", HACE(vornsave_graba_uchar(255, d))},
+        {"ushort 8364\n", HACE(vornsave_graba_wchar(u'\u20AC', d))},
+        {"float 0.1\n", HACE(vornsave_graba_float(0.1f, d))},
+        {"double 0.25\n", HACE(vornsave_graba_double_con_precision(0.26, 0.125, d))},
+        {"double 1\ndouble 2.5\n", HACE(vornsave_graba_punto(&P, d))},
+        {"long64 1\n", HACE(vornsave_graba_long64(1, d))},
+        {"ulong 1\nulong 2\n", HACE(vornsave_graba_int64((int64_t{1} << 32) + 2, d))},
+        {"ulong 4294967295\nulong 4294967295\n", HACE(vornsave_graba_fecha(-1, d))},
+        {"long64 -5\n", HACE(vornsave_graba_time(-5, d))},
+        {"long 5\n", HACE(vornsave_graba_time32(5, d))},
+        {"cadena \"a\"\n", HACE(vornsave_graba_cadena("a", d))},
+        {"cadena_campo \"a\" \"campo\"\n", HACE(vornsave_graba_cadena_campo("a", "campo", d))},
+        {"cadena_unicode \"\u00f1\"\n", HACE(vornsave_graba_cadena_unicode(VNU("\u00f1"), d))},
+        {"cadena \"\u00f1\"\n", HACE(vornsave_graba_cadena_UTF8(VNU("\u00f1"), d))},
+        {"bool 0\n", HACE(vornsave_graba_cadena_opcional(nullptr, d))},
+        {"ulong 3\nbuffer * 3\n", HACE(vornsave_graba_cadena_como_buffer("abc", d))},
         {"ulong_y_salta 1\ndouble_sin_salto 1\ndouble_y_salta 2.5\n",
-         [&](vornsave *d) {
-             const dueno<arr_DestruyePunto2D> a(arr_CreaPunto2D(0));
-             arr_AppendPunto2D(a.get(), p.x, p.y);
-             vornsave_graba_arr_puntos2D(a.get(), d);
-         }},
-        {"bool = 0\n", [](vornsave *d) { vornsave_lee_bool(d); }},
-        {"cadena = null\n", [](vornsave *d) { vornsave_salta_cadena(d); }},
-        {"bool_texto \"si\" \"no\" = 0\n", [](vornsave *d) { vornsave_lee_bool_con_texto(d, "si", "no"); }},
-        {"ulong = 0\nulong = 0\n", [](vornsave *d) { vornsave_lee_size64(d); }},
-        {"long = 0\nlong = 0\n", [](vornsave *d) { vornsave_lee_fecha_de_64(d); }},
-        {bytes("char_ASCII = '\0'\n"), [](vornsave *d) { vornsave_lee_char_ansi_ascii(d, 1, 1); }},
-        {"ulong_y_salta = 0\n", [](vornsave *d) { vornsave_salta_arr_double(d); }},
+         HACE(const puntos a(arr_CreaPunto2D(0)); arr_AppendPunto2D(a.get(), 1, 2.5); vornsave_graba_arr_puntos2D(a.get(), d))},
+        {"bool = 0\n", HACE(vornsave_lee_bool(d))},
+        {"cadena = null\n", HACE(vornsave_salta_cadena(d))},
+        {"bool_texto \"si\" \"no\" = 0\n", HACE(vornsave_lee_bool_con_texto(d, "si", "no"))},
+        {"ulong = 0\nulong = 0\n", HACE(vornsave_lee_size64(d))},
+        {"long = 0\nlong = 0\n", HACE(vornsave_lee_fecha_de_64(d))},
+        {bytes("char_ASCII = '\0'\n"), HACE(vornsave_lee_char_ansi_ascii(d, 1, 1))},
+        {"ulong_y_salta = 0\n", HACE(vornsave_salta_arr_double(d))},
     };
-    for (const auto &fila : filas) EXPECT_EQ(llamadas(fila.miembro), fila.espera);
+    // clang-format on
+    for (const auto &[espera, miembro] : filas) EXPECT_EQ(llamadas(miembro), espera);
 }
 
 // Handed on, counted or written down, every value is what it is without; what is not there is reported as if it were
@@ -157,33 +154,30 @@ PRUEBA(destino, los_bytes_se_leen_como_se_grabaron) {
             const std::string texto(n, 'x');
             memoria_de_prueba m;
             m.con_marcos = fila == &CON_MARCOS;
-            const objeto d(registra_prueba(*fila, &m));
-            vornsave_graba_buffer(texto.data(), n, d.get());
-            vornsave_graba_cadena_como_buffer(texto.c_str(), d.get());
-            const dueno<fichmem_destruye> f(fichmem_crea32(reinterpret_cast<const uint8_t *>(texto.data()), n));
-            vornsave_graba_fichmem(f.get(), d.get());
-            vornsave_graba_buffer(texto.data(), n, d.get());
-            vornsave_graba_long(77, d.get());
-            const propio<uint8_t> b(vornsave_lee_buffer(n, d.get()));
+            const objeto o(registra_prueba(*fila, &m));
+            vornsave *d = o.get();
+            for (int vez = 0; vez < 2; ++vez) vornsave_graba_buffer(texto.data(), n, d);
+            vornsave_graba_cadena_como_buffer(texto.c_str(), d);
+            vornsave_graba_fichmem(catalogo::memoria(fichmem_crea32(texto.data(), n)).get(), d);
+            vornsave_graba_long(77, d);
+            const propio<uint8_t> b(vornsave_lee_buffer(n, d));
             EXPECT_EQ(reinterpret_cast<const char *>(b.get()), texto);
-            EXPECT_EQ(toma(vornsave_lee_cadena_como_buffer(d.get())), texto);
-            const dueno<fichmem_destruye> leido(vornsave_lee_fichmem(d.get()));
-            EXPECT_EQ(leido->longitud, n);
-            vornsave_salta_buffer(n, d.get());
-            EXPECT_EQ(vornsave_lee_long(d.get()), 77);
+            vornsave_salta_buffer(n, d);
+            EXPECT_EQ(toma(vornsave_lee_cadena_como_buffer(d)), texto);
+            EXPECT_EQ(catalogo::memoria(vornsave_lee_fichmem(d))->longitud, n);
+            EXPECT_EQ(vornsave_lee_long(d), 77);
         }
 }
 
 // A run-coded array of a source that cannot tell its size is as long as it was.
 PRUEBA(destino, dos_millones_de_valores_distintos_sin_saber_el_tamanyo) {
-    constexpr uint32_t N = 2000000;
-    const dueno<arr_DestruyeDouble> a(arr_CreaDouble(N));
-    for (uint32_t i = 0; i < N; ++i) arr_GetBufferDouble(a.get())[i] = i;
+    const catalogo::array_Double a(arr_CreaDouble(2000000));
+    std::iota(arr_GetBufferDouble(a.get()), arr_GetBufferDouble(a.get()) + 2000000, 0.);
     memoria_de_prueba m;
     const objeto d(registra_prueba(SIN_TAMANYO, &m));
     vornsave_graba_arr_double_con_valores_iguales(a.get(), 0, d.get());
     vornsave_graba_long(77, d.get());
-    const dueno<arr_DestruyeDouble> b(vornsave_lee_arr_double_con_valores_iguales(d.get()));
+    const catalogo::array_Double b(vornsave_lee_arr_double_con_valores_iguales(d.get()));
     EXPECT_EQ(arr_SonIgualesDouble(a.get(), b.get()), CIERTO);
     EXPECT_EQ(vornsave_lee_long(d.get()), 77);
 }
@@ -238,21 +232,15 @@ PRUEBA(destino, la_memoria_es_del_objeto) {
 
 // A row keeps its parts together.
 PRUEBA(destino, las_filas_son_enteras) {
-    const struct {
-        const char *que;
-        void (*quita)(destino &);
-    } filas[] = {
-        {"failures", [](destino &d) { d.fallos.ha_fallado = nullptr; }},
-        {"mark of failure", [](destino &d) { d.fallos.marca = nullptr; }},
-        {"a position", [](destino &d) { d.posiciones.set = nullptr; }},
-        {"a wide position", [](destino &d) { d.posiciones.get64 = nullptr; }},
-        {"a mark", [](destino &d) { d.marcas.se_lee64 = nullptr; }},
-        {"a null text", [](destino &d) { d.nulos.lee = nullptr; }},
+    void (*const quitan[])(destino &) = {
+        [](auto &d) { d.fallos.ha_fallado = nullptr; }, [](auto &d) { d.fallos.marca = nullptr; },
+        [](auto &d) { d.posiciones.set = nullptr; },    [](auto &d) { d.posiciones.get64 = nullptr; },
+        [](auto &d) { d.marcas.se_lee64 = nullptr; },   [](auto &d) { d.nulos.lee = nullptr; },
     };
-    for (const auto &fila : filas) {
+    for (size_t k = 0; k < std::size(quitan); ++k) {
         destino d = *abierto(EN_BIN, "w").operator vornsave *()->fila;
         EXPECT_TRUE(es_entera(d));
-        fila.quita(d);
-        EXPECT_FALSE(es_entera(d)) << fila.que;
+        quitan[k](d);
+        EXPECT_FALSE(es_entera(d)) << k;
     }
 }

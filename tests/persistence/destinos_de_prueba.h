@@ -7,6 +7,7 @@
 #include "persistence/vornsave_priv.h"
 #include <cstring>
 #include <string>
+#include <utility>
 
 namespace vn {
 
@@ -18,7 +19,6 @@ struct memoria_de_prueba {
     static inline uint32_t vivas = 0; // of those that the protocol owns
 
     static memoria_de_prueba &de(void *p) { return *static_cast<memoria_de_prueba *>(p); }
-    void marca() { fallada = true; }
     void informa_de_lectura() {
         fallada = true;
         AFIRMA_TEXTO(false, "memoria_de_prueba");
@@ -82,11 +82,8 @@ using mem = memoria_de_prueba;
 inline constexpr fallos_t FALLOS{
     .ha_fallado = [](void *m) { return mem::de(m).fallada; },
     .error_leyendo = [](void *m) { mem::de(m).informa_de_lectura(); },
-    .marca = [](void *m) { mem::de(m).marca(); },
+    .marca = [](void *m) { mem::de(m).fallada = true; },
 };
-inline bool quedan(void *m, uint64_t numero, uint64_t tamanyo) {
-    return numero <= (mem::de(m).bytes.size() - mem::de(m).pos) / tamanyo;
-}
 template <class C> void graba_o_null(const C *s, mem *m) {
     m->pon(static_cast<char>(s != nullptr));
     if (s != nullptr) m->pon(s);
@@ -100,20 +97,17 @@ inline constexpr destino VALORES{
     .grabar = tabla::TABLA_DE<fncs_grabar_t, mem>,
     .leer = tabla::TABLA_DE<fncs_leer_t, mem>,
     .fallos = FALLOS,
-    .nulos =
-        {
-            .graba = tabla::usa<graba_o_null<char>>,
-            .graba_unicode = tabla::usa<graba_o_null<vnwchar>>,
-            .lee = tabla::usa<lee_o_null<char>>,
-            .lee_unicode = tabla::usa<lee_o_null<vnwchar>>,
-        },
+    .nulos = {tabla::usa<graba_o_null<char>>, tabla::usa<graba_o_null<vnwchar>>, tabla::usa<lee_o_null<char>>,
+              tabla::usa<lee_o_null<vnwchar>>},
 };
 inline constexpr destino en_trozos(destino d) {
     d.trozos_libres = false;
     return d;
 }
 inline constexpr destino con_tamanyo(destino d) {
-    d.quedan = quedan;
+    d.quedan = [](void *m, uint64_t numero, uint64_t tamanyo) {
+        return numero <= (mem::de(m).bytes.size() - mem::de(m).pos) / tamanyo;
+    };
     return d;
 }
 // One that the protocol makes and ends: `va` is the direction of the row.
@@ -121,10 +115,9 @@ inline mem *crea() {
     ++mem::vivas;
     return new mem;
 }
-inline void destruye(mem **m) {
+inline void destruye(void **m) {
     mem::vivas -= *m != nullptr;
-    delete *m;
-    *m = nullptr;
+    delete static_cast<mem *>(std::exchange(*m, nullptr));
 }
 inline constexpr destino de_memoria(sentido va) {
     destino d = con_tamanyo(VALORES);
@@ -137,14 +130,13 @@ inline constexpr destino de_memoria(sentido va) {
         .crea_para_lectura = [](const fichmem *) { return static_cast<void *>(crea()); },
         .cierra_escritura =
             [](void **m) {
-                const std::string &b = mem::de(*m).bytes;
-                fichmem *f = fichmem_crea32(reinterpret_cast<const uint8_t *>(b.data()), uint32_t(b.size()));
-                destruye(reinterpret_cast<mem **>(m));
-                return f;
+                const std::string b = mem::de(*m).bytes;
+                destruye(m);
+                return fichmem_crea32(b.data(), uint32_t(b.size()));
             },
-        .cierra_lectura = [](void **m) { destruye(reinterpret_cast<mem **>(m)); },
-        .cierra_lectura_al_final = [](void **m) { destruye(reinterpret_cast<mem **>(m)); },
-        .destruye = [](void **m) { destruye(reinterpret_cast<mem **>(m)); },
+        .cierra_lectura = destruye,
+        .cierra_lectura_al_final = destruye,
+        .destruye = destruye,
     };
     return d;
 }
