@@ -1,6 +1,6 @@
 // Dates out of texts: whatever the text, a date that is one or nothing at all, and no report. A date that was read is
 // written in a form that reads as the same date.
-#include "foundation/suelo/vornspy.h"
+#include "foundation/suelo/propio_int.h"
 #include "objetivo.h"
 #include "time/vorntime.h"
 #include <cstring>
@@ -30,11 +30,10 @@ void comprueba(vnbool es_fecha, const tmtime &f) {
     for (const auto &r : rangos) fuzz::exige(r.campo >= r.minimo && r.campo <= r.maximo, "every field in its range");
     const auto dias = vorntime_num_dias_mes(static_cast<uint32_t>(f.tm_mon), f.tm_year + 1900);
     fuzz::exige(f.tm_mday <= static_cast<int32_t>(dias), "a day of the month");
-    vnwchar *escrita = vtm_fecha_a_cadena(nullptr, &f, '/');
+    const vn::propio<vnwchar> escrita(vtm_fecha_a_cadena(nullptr, &f, '/'));
     tmtime otra = INTACTA;
-    fuzz::exige(vtm_convierte_cadena_a_tm_u(escrita, &otra) == CIERTO, "what is written can be read");
+    fuzz::exige(vtm_convierte_cadena_a_tm_u(escrita.get(), &otra) == CIERTO, "what is written can be read");
     fuzz::exige(std::memcmp(&f, &otra, sizeof f) == 0, "and reads as it was written");
-    vornspy_free_pp(&escrita, 1);
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 // usage: fuzz_X_mutaciones [SEED_DIRECTORY]   where to leave the seeds for libFuzzer
 #include "objetivo.h"
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 
@@ -19,22 +18,16 @@ void prueba(const std::string &s) {
 void muta(const std::string &semilla) {
     prueba(semilla);
     for (size_t n = 0; n < semilla.size(); ++n) prueba(semilla.substr(0, n));
-    for (size_t i = 0; i < semilla.size(); ++i) {
-        for (int b = 0; b < 8; ++b) {
-            std::string s = semilla;
-            s[i] = static_cast<char>(s[i] ^ (1 << b));
-            prueba(s);
-        }
+    for (size_t i = 0; i < 8 * semilla.size(); ++i) {
+        std::string s = semilla;
+        s[i / 8] = static_cast<char>(s[i / 8] ^ (1 << i % 8));
+        prueba(s);
     }
     constexpr uint32_t LIMITES[] = {0,      1,       0x7F,       0x80,       0xFF,       0x7FFF,    0x8000,
                                     0xFFFF, 0x10000, 0x20000001, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
-    for (size_t i = 0; i + 4 <= semilla.size(); ++i) {
-        for (const uint32_t v : LIMITES) {
-            std::string s = semilla;
-            std::memcpy(s.data() + i, &v, 4);
-            prueba(s);
-        }
-    }
+    for (size_t i = 0; i + 4 <= semilla.size(); ++i)
+        for (const uint32_t v : LIMITES)
+            prueba(std::string(semilla).replace(i, 4, reinterpret_cast<const char *>(&v), 4));
 }
 
 } // namespace

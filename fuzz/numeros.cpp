@@ -51,19 +51,9 @@ void lee(uint8_t como, const std::vector<char> &t, const std::vector<vnwchar> &u
 
 std::vector<std::string> fuzz::semillas() {
     std::vector<std::string> todas;
-    const char *const textos[] = {" -1234567.891e-3 ",
-                                  "1.234.567,89",
-                                  "1,234.5e+300",
-                                  "+.5E",
-                                  "12345678901234567890123.4567890",
-                                  "5'-3 1/2\"",
-                                  "- 5 ' 11 31 / 32 \" ",
-                                  "3/4",
-                                  "17 1/8\"",
-                                  "12'",
-                                  "ffFF",
-                                  "1e-330"};
-    for (const char *t : textos)
+    for (const char *t :
+         {" -1234567.891e-3 ", "1.234.567,89", "1,234.5e+300", "+.5E", "12345678901234567890123.4567890", "5'-3 1/2\"",
+          "- 5 ' 11 31 / 32 \" ", "3/4", "17 1/8\"", "12'", "ffFF", "1e-330"})
         for (const char como : {'\0', '\5', '\12', '\17'}) todas.push_back(como + std::string(t));
     return todas;
 }

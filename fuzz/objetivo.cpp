@@ -5,15 +5,10 @@
 #include "memoria.h"
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 
 namespace fuzz {
 namespace {
 
-using nombre_u = std::basic_string<vnwchar>;
-nombre_u nombre_fichero() { return {FICHERO, FICHERO + std::strlen(FICHERO)}; }
-
-// ---------------------------------------------------------------- the watch over the library
 uint64_t pedidos = 0;
 vnbool cuenta(size_t n, void *) {
     pedidos += n;
@@ -34,13 +29,9 @@ vn::ficheros_en_memoria &disco() {
 }
 
 void prepara() {
-    static const bool hecho = [] {
-        error_interno_instala_receptor(calla, nullptr);
-        avisos_instala_receptor(responde_que_no, nullptr);
-        vornspy_instala_permiso(cuenta, nullptr);
-        return true;
-    }();
-    static_cast<void>(hecho);
+    error_interno_instala_receptor(calla, nullptr);
+    avisos_instala_receptor(responde_que_no, nullptr);
+    vornspy_instala_permiso(cuenta, nullptr);
     disco().vacia();
     exige(disco().todos_cerrados(), "every file was closed");
 }
@@ -55,7 +46,7 @@ void exige(bool condicion, const char *que) {
 
 void con_fichero(const uint8_t *datos, size_t n, uint64_t maximo, const std::function<void()> &lee_todo) {
     prepara();
-    disco().pon(nombre_fichero(), {reinterpret_cast<const char *>(datos), n});
+    disco().pon(NOMBRE, {reinterpret_cast<const char *>(datos), n});
     pedidos = hechos = 0;
     lee_todo();
     // The library makes once, with the first input, what it keeps. Walking the heap costs more than an input does: a
@@ -80,7 +71,7 @@ std::string lo_que_graba(const std::function<void()> &graba) {
 
 uint64_t informes() { return hechos; }
 const std::string &ultimo_informe() { return el_ultimo; }
-std::string contenido() { return disco().dame(nombre_fichero()); }
+std::string contenido() { return disco().dame(NOMBRE); }
 
 bool atrapa(const std::function<void()> &f) {
     const auto corre = [](void *p) { (*static_cast<const std::function<void()> *>(p))(); };

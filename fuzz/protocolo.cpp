@@ -16,37 +16,19 @@ constexpr const char *COPIA = "_copia";
 
 // Blocks and sections, beside the rows of the catalogue.
 struct operacion {
-    void (*graba)(vornsave *);
-    void (*lee)(vornsave *);
+    void (*graba)(vornsave *), (*lee)(vornsave *);
 };
+// clang-format off
+#define HACE(...) [](vornsave *s) { __VA_ARGS__; }
 const operacion MARCOS[] = {
-    {[](vornsave *s) {
-         vornsave_graba_inicio_bloque("BLOQUE", s);
-         vornsave_graba_long(3, s);
-         vornsave_graba_fin_bloque("BLOQUE", s);
-     },
-     [](vornsave *s) {
-         if (vornsave_se_inicia_lectura_bloque("BLOQUE", s) == FALSO) return;
-         vornsave_lee_long(s);
-         vornsave_lee_final_bloque("BLOQUE", s);
-     }},
-    {[](vornsave *s) {
-         vornsave_graba_inicio_bloque64("B64", s);
-         vornsave_graba_fin_bloque64("B64", s);
-     },
-     [](vornsave *s) { vornsave_se_salta_bloque64("B64", s); }},
-    {[](vornsave *s) {
-         vornsave_graba_inicio_seccion("SECCION", s);
-         vornsave_graba_double(1, s);
-         vornsave_graba_fin_seccion("SECCION", s);
-     },
-     [](vornsave *s) {
-         const catalogo::texto_ansi id = catalogo::toma(vornsave_lee_seccion(s));
-         if (!id) return;
-         vornsave_ir_final_seccion(id->c_str(), s);
-         vornsave_lee_final_seccion(id->c_str(), s);
-     }},
+    {HACE(vornsave_graba_inicio_bloque("BLOQUE", s); vornsave_graba_long(3, s); vornsave_graba_fin_bloque("BLOQUE", s)),
+     HACE(if (vornsave_se_inicia_lectura_bloque("BLOQUE", s) == FALSO) return; vornsave_lee_long(s); vornsave_lee_final_bloque("BLOQUE", s))},
+    {HACE(vornsave_graba_inicio_bloque64("B64", s); vornsave_graba_fin_bloque64("B64", s)), HACE(vornsave_se_salta_bloque64("B64", s))},
+    {HACE(vornsave_graba_inicio_seccion("SECCION", s); vornsave_graba_double(1, s); vornsave_graba_fin_seccion("SECCION", s)),
+     HACE(const auto id = catalogo::toma(vornsave_lee_seccion(s)); if (!id) return;
+          vornsave_ir_final_seccion(id->c_str(), s); vornsave_lee_final_seccion(id->c_str(), s))},
 };
+// clang-format on
 size_t num_operaciones() { return catalogo::filas().size() + std::size(MARCOS); }
 // The row of an operation; null for the frames.
 const fila *valor(size_t i) { return i < catalogo::filas().size() ? &catalogo::filas()[i] : nullptr; }

@@ -1,6 +1,7 @@
 // The list of recent works: whatever the file holds, it is read or thrown away, and what was read can be saved.
 #include "foundation/listas/arr.h"
-#include "foundation/texto/widestr.h"
+#include "foundation/suelo/dueno.hpp"
+#include "foundation/suelo/propio_int.h"
 #include "objetivo.h"
 #include "persistence/ultiobra.h"
 
@@ -11,18 +12,17 @@ void guarda(std::initializer_list<const vnwchar *> obras, bool finaliza) {
     if (finaliza) ultiobra_finaliza_ultima_obra_u(fuzz::NOMBRE.c_str());
 }
 
+uint32_t cuantas() {
+    return arr_NumElemsCADENA_u(
+        vn::dueno<arr_DestruyeCADENA_u>(ultiobra_lee_ultimas_obras_u(fuzz::NOMBRE.c_str(), nullptr)).get());
+}
+
 void lee() {
-    arrCADENA_u *lista = ultiobra_lee_ultimas_obras_u(fuzz::NOMBRE.c_str(), nullptr);
-    const uint32_t n = arr_NumElemsCADENA_u(lista);
-    fuzz::exige(n < 100000, "a list within reason");
-    arr_DestruyeCADENA_u(&lista);
-    vnwchar *ultima = ultiobra_lee_nombre_ultima_obra_finalizada_u(fuzz::NOMBRE.c_str(), nullptr);
-    widestr_destruye_opcional(&ultima);
+    fuzz::exige(cuantas() < 100000, "a list within reason");
+    const vn::propio<vnwchar> ultima(ultiobra_lee_nombre_ultima_obra_finalizada_u(fuzz::NOMBRE.c_str(), nullptr));
     ultiobra_guarda_nombre_ultima_obra_u(VNU("mem/nueva.obr"), fuzz::NOMBRE.c_str());
-    lista = ultiobra_lee_ultimas_obras_u(fuzz::NOMBRE.c_str(), nullptr);
-    const uint32_t despues = arr_NumElemsCADENA_u(lista);
+    const uint32_t despues = cuantas();
     fuzz::exige(despues >= 1 && despues <= 32, "between one and 32 works after a save");
-    arr_DestruyeCADENA_u(&lista);
     const bool de_otro = fuzz::informes() == 1 && fuzz::ultimo_informe() == "version <= VERSION_NOMBRE_OBRA";
     fuzz::exige(fuzz::informes() == 0 || de_otro,
                 "of what stands in the list only that it is a newer program's is told, once");
@@ -31,13 +31,11 @@ void lee() {
 } // namespace
 
 std::vector<std::string> fuzz::semillas() {
-    return {"5 ; version\n1\n2 ; n\nn\xC3\xB1\xC3\xB3.obr\n\020D800.obr\n",
-            lo_que_graba([] {
-                guarda({VNU("mem/a.obr"), VNU("mem/\u00f1\u4e2d.obr"), VNU("[x]mem/b.obr")}, true);
-            }),
-            lo_que_graba([] {
-                guarda({VNU("mem/a.obr"), nullptr}, false);
-            }),
+    const auto tres = [] { guarda({VNU("mem/a.obr"), VNU("mem/\u00f1\u4e2d.obr"), VNU("[x]mem/b.obr")}, true); };
+    const auto abierta = [] { guarda({VNU("mem/a.obr"), nullptr}, false); };
+    return {lo_que_graba(tres),
+            lo_que_graba(abierta),
+            "5 ; version\n1\n2 ; n\nn\xC3\xB1\xC3\xB3.obr\n\020D800.obr\n",
             "1\nmem/vieja.obr\n",
             "2\n2\nmem/a.obr\nmem/b.obr\n",
             "4\n; version\n1\n1\n; n\nmem/a.obr\n"};

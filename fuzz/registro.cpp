@@ -4,7 +4,8 @@
 #include "foundation/listas/arr.h"
 #include "foundation/sistema/fichconf.h"
 #include "foundation/sistema/vornreg.h"
-#include "foundation/texto/widestr.h"
+#include "foundation/suelo/dueno.hpp"
+#include "foundation/suelo/propio_int.h"
 #include "objetivo.h"
 #include <cstring>
 
@@ -15,38 +16,32 @@ using ancho = std::basic_string<vnwchar>;
 ancho lee_valor(const vnwchar *clave, const vnwchar *valor) {
     vnwchar *t = nullptr;
     if (vornreg_lee_cadena_u(VORNREG_USUARIO, clave, valor, &t) != CIERTO) return VNU("(none)");
-    const ancho texto = t;
-    widestr_destruye(&t);
-    return texto;
+    return vn::propio<vnwchar>(t).get();
 }
 
 // A key and its texts, and the keys under it; at most so deep. Returns how many keys lie right under it.
 uint32_t recorre(const ancho &clave, int hondo) {
-    uint32_t cuantas = 0;
-    arrCADENA_u *nombres = nullptr, *textos = nullptr, *hijas = nullptr;
-    if (vornreg_lee_valores_cadena_clave_ex_u(VORNREG_USUARIO, clave.c_str(), 0, &nombres, &textos) == CIERTO) {
-        // Each looking-up reads the file: the first ones stand for the rest.
-        for (uint32_t i = 0; i < arr_NumElemsCADENA_u(nombres) && i < 2; ++i)
-            fuzz::exige(lee_valor(clave.c_str(), arr_GetCADENA_u(nombres, i)) == arr_GetCADENA_u(textos, i),
-                        "a value by its name");
-        arr_DestruyeCADENA_u(&nombres);
-        arr_DestruyeCADENA_u(&textos);
-    }
-    if (vornreg_dame_subclaves_u(VORNREG_USUARIO, clave.c_str(), &hijas) == CIERTO) {
-        cuantas = arr_NumElemsCADENA_u(hijas);
-        for (uint32_t i = 0; i < cuantas && i < 2 && hondo > 0; ++i) {
-            const ancho hija = arr_GetCADENA_u(hijas, i);
-            if (!hija.empty()) recorre(clave + (clave.empty() ? VNU("") : VNU("\\")) + hija, hondo - 1);
-        }
-        arr_DestruyeCADENA_u(&hijas);
+    using textos = vn::dueno<arr_DestruyeCADENA_u>;
+    arrCADENA_u *n = nullptr, *t = nullptr, *h = nullptr;
+    const bool hay = vornreg_lee_valores_cadena_clave_ex_u(VORNREG_USUARIO, clave.c_str(), 0, &n, &t) == CIERTO;
+    const textos nombres(n), valores(t);
+    // Each looking-up reads the file: the first ones stand for the rest.
+    for (uint32_t i = 0; hay && i < arr_NumElemsCADENA_u(n) && i < 2; ++i)
+        fuzz::exige(lee_valor(clave.c_str(), arr_GetCADENA_u(n, i)) == arr_GetCADENA_u(t, i), "a value by its name");
+    if (vornreg_dame_subclaves_u(VORNREG_USUARIO, clave.c_str(), &h) != CIERTO) return 0;
+    const textos hijas(h);
+    const uint32_t cuantas = arr_NumElemsCADENA_u(h);
+    for (uint32_t i = 0; i < cuantas && i < 2 && hondo > 0; ++i) {
+        const ancho hija = arr_GetCADENA_u(h, i);
+        if (!hija.empty()) recorre(clave + (clave.empty() ? VNU("") : VNU("\\")) + hija, hondo - 1);
     }
     return cuantas;
 }
 
 void lee(bool escribe) {
     fichconf_establece_directorio_base(VNU("mem"));
-    vnwchar *ruta = fichconf_dame_ruta_fichero_en_directorio_configuracion(VNU("registro.txt"));
-    vf_copyfile_seguro_u(fuzz::NOMBRE.c_str(), ruta);
+    const vn::propio<vnwchar> ruta(fichconf_dame_ruta_fichero_en_directorio_configuracion(VNU("registro.txt")));
+    vf_copyfile_seguro_u(fuzz::NOMBRE.c_str(), ruta.get());
     const uint32_t antes = recorre(VNU(""), 2);
     const vnwchar *texto = VNU("=[\\\n\u00F1;]");
     if (escribe) {
@@ -56,7 +51,6 @@ void lee(bool escribe) {
         fuzz::exige(recorre(VNU(""), 0) >= antes, "and nothing is lost");
     }
     fuzz::exige(fuzz::informes() == 0, "no report");
-    widestr_destruye(&ruta);
 }
 
 } // namespace

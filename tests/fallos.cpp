@@ -87,18 +87,16 @@ vnerror_fichero abre(const vnwchar *nombre, uint32_t como, vnid_fichero *id) {
     return e;
 }
 
-vnerror_fichero lee(vnid_fichero id, int64_t p, void *d, size_t n, size_t *k) {
+template <operacion O, auto MIEMBRO, class D>
+vnerror_fichero transfiere(vnid_fichero id, int64_t p, D *d, size_t n, size_t *k) {
     return intenta(
-        operacion::lee, [&] { return sistema().lee(id, p, d, n, k); },
-        [&] { return sistema().lee(id, p, d, n / 2 + n % 2, k); });
+        O, [&] { return (sistema().*MIEMBRO)(id, p, d, n, k); },
+        [&] { return (sistema().*MIEMBRO)(id, p, d, n / 2 + n % 2, k); });
 }
-
 vnerror_fichero escribe(vnid_fichero id, int64_t p, const void *d, size_t n, size_t *k) {
     sucios[abiertos[id]] = true;
     escritos.insert(id);
-    return intenta(
-        operacion::escribe, [&] { return sistema().escribe(id, p, d, n, k); },
-        [&] { return sistema().escribe(id, p, d, n / 2 + n % 2, k); });
+    return transfiere<operacion::escribe, &vnoperaciones_fichero::escribe>(id, p, d, n, k);
 }
 
 vnerror_fichero cierra(vnid_fichero id) {
@@ -143,28 +141,17 @@ vnerror_fichero vuelca_directorio(const vnwchar *) {
 
 } // namespace entrada
 
+// clang-format off
 const vnoperaciones_fichero TABLA = {
-    .abre = entrada::abre,
-    .lee = entrada::lee,
-    .escribe = entrada::escribe,
-    .vuelca = entrada::vuelca,
-    .trunca = ENVUELTA(trunca),
-    .estado_abierto = ENVUELTA(estado_abierto),
-    .bloquea = ENVUELTA(bloquea),
-    .desbloquea = ENVUELTA(desbloquea),
-    .cierra = entrada::cierra,
-    .estado = ENVUELTA(estado),
-    .resuelve = ENVUELTA(resuelve),
-    .enlaza = entrada::enlaza,
-    .renombra = entrada::renombra,
-    .renombra_abierto = entrada::renombra_abierto,
-    .es_su_nombre = ENVUELTA(es_su_nombre),
-    .borra = ENVUELTA(borra),
-    .retira = ENVUELTA(retira),
-    .copia_permisos = ENVUELTA(copia_permisos),
-    .vuelca_directorio = entrada::vuelca_directorio,
-    .espera = [](uint32_t) {},
+    .abre = entrada::abre, .lee = entrada::transfiere<operacion::lee, &vnoperaciones_fichero::lee>,
+    .escribe = entrada::escribe, .vuelca = entrada::vuelca, .trunca = ENVUELTA(trunca),
+    .estado_abierto = ENVUELTA(estado_abierto), .bloquea = ENVUELTA(bloquea), .desbloquea = ENVUELTA(desbloquea),
+    .cierra = entrada::cierra, .estado = ENVUELTA(estado), .resuelve = ENVUELTA(resuelve), .enlaza = entrada::enlaza,
+    .renombra = entrada::renombra, .renombra_abierto = entrada::renombra_abierto, .es_su_nombre = ENVUELTA(es_su_nombre),
+    .borra = ENVUELTA(borra), .retira = ENVUELTA(retira), .copia_permisos = ENVUELTA(copia_permisos),
+    .vuelca_directorio = entrada::vuelca_directorio, .espera = [](uint32_t) {},
 };
+// clang-format on
 
 std::map<std::string, funcion_guarda> &guardados() {
     static std::map<std::string, funcion_guarda> m;
@@ -237,30 +224,27 @@ class conductor {
 
     void conduce_una() {
         const std::vector<operacion> ops = en_este_proceso();
-        for (const fila_de_fallos &fila : FALLOS)
-            for (size_t k = 0; k < ops.size(); ++k)
-                if (esta(fila.cuales, ops[k])) {
-                    plan_.que = fila.que;
-                    plan_.donde = k;
-                    falla(ops[k], fila.no_importa);
-                }
-        for (size_t k = 0; k < ops.size(); ++k)
-            for (const bool acaba : {false, true}) se_cuela_otro(k, ops[k], acaba);
-        if (!manera_.muere) return;
         size_t ultima = 0;
-        for (size_t k = 0; k < ops.size(); ++k)
-            if (esta(MORTALES, ops[k])) {
-                mata(fallo::muere_antes, k, ops[k]);
-                if (ops[k] == escribe) mata(fallo::muere_a_medias, k, ops[k]);
-                ultima = k;
-            }
-        mata(fallo::muere_despues, ultima, ops[ultima]);
+        for (size_t k = 0; k < ops.size(); ++k) {
+            for (const fila_de_fallos &fila : FALLOS)
+                if (esta(fila.cuales, ops[k])) falla(fila.que, k, ops[k], fila.no_importa);
+            for (const bool acaba : {false, true}) se_cuela_otro(k, ops[k], acaba);
+            if (!manera_.muere || !esta(MORTALES, ops[k])) continue;
+            mata(fallo::muere_antes, k, ops[k]);
+            if (ops[k] == escribe) mata(fallo::muere_a_medias, k, ops[k]);
+            ultima = k;
+        }
+        if (manera_.muere) mata(fallo::muere_despues, ultima, ops[ultima]);
     }
 
-    std::string caso(operacion o) const {
-        return "failure " + std::to_string(static_cast<int>(plan_.que)) + " at operation " +
-               std::to_string(plan_.donde) + " (kind " + std::to_string(static_cast<int>(o)) + "), " +
-               (habia_ ? "an old file" : "no file") + (plan_.sin_enlaces ? ", no links" : "");
+    // Plans it, and puts the files there that it befalls; what the case is.
+    std::string planea(fallo que, size_t k, operacion o) {
+        plan_.que = que;
+        plan_.donde = k;
+        prepara();
+        return "failure " + std::to_string(static_cast<int>(que)) + " at operation " + std::to_string(k) + " (kind " +
+               std::to_string(static_cast<int>(o)) + "), " + (habia_ ? "an old file" : "no file") +
+               (plan_.sin_enlaces ? ", no links" : "");
     }
 
     // The save without a failure: what it does, and that it does it in an order that a power failure cannot harm.
@@ -278,9 +262,8 @@ class conductor {
         return ops;
     }
 
-    void falla(operacion o, bool no_importa) {
-        SCOPED_TRACE(caso(o));
-        prepara();
+    void falla(fallo que, size_t k, operacion o, bool no_importa) {
+        SCOPED_TRACE(planea(que, k, o));
         bool dicho = false;
         f_lc_fopen_un_solo_intento_u(VNU(""), VNU("rb"), nullptr, 0); // its reason is not one of those below
         {
@@ -300,10 +283,7 @@ class conductor {
     }
 
     void mata(fallo que, size_t k, operacion o) {
-        plan_.que = que;
-        plan_.donde = k;
-        SCOPED_TRACE(caso(o));
-        prepara();
+        SCOPED_TRACE(planea(que, k, o));
         proceso hijo("guarda_con_fallos", {nombre_, fichero(), std::to_string(static_cast<int>(que)), std::to_string(k),
                                            plan_.sin_enlaces ? "1" : "0"});
         EXPECT_EQ(hijo.espera(60000), proceso::MUERTO);
@@ -312,24 +292,24 @@ class conductor {
 
     // What is on the disk, after a save that told that the new file is there, or not, or died.
     void juzga(std::optional<bool> dicho) {
-        const bool hay = existe(fichero());
-        const std::string contenido = hay ? lee_fichero(fichero()) : "";
-        const bool nuevo = hay && contenido == bytes_[2];
-        const bool viejo = habia_ ? hay && contenido == bytes_[1] : !hay;
-        EXPECT_TRUE(nuevo || viejo) << "neither the old file nor the new one: " << contenido.size() << " bytes";
+        const auto contenido = lo_que_hay(fichero()), guardada = lo_que_hay(copia());
+        const bool nuevo = contenido == bytes_[2];
+        const bool viejo = habia_ ? contenido == bytes_[1] : !contenido;
+        EXPECT_TRUE(nuevo || viejo) << "neither the old file nor the new one: " << contenido.value_or("").size()
+                                    << " bytes";
         EXPECT_TRUE(!dicho || (*dicho ? nuevo : viejo)) << "it told " << dicho.value_or(false);
-        EXPECT_EQ(existe(copia()), habia_ && manera_.con_copia);
-        if (habia_ && existe(copia())) {
-            const std::string guardada = lee_fichero(copia());
-            EXPECT_TRUE(guardada == bytes_[1] || (!nuevo && guardada == bytes_[0])) << "the safety copy is neither";
-        }
+        EXPECT_EQ(guardada.has_value(), habia_ && manera_.con_copia);
+        EXPECT_TRUE(!habia_ || !guardada || guardada == bytes_[1] || (!nuevo && guardada == bytes_[0]))
+            << "the safety copy is neither";
         // The next save puts everything in order.
         const con_fallos ninguno({});
         EXPECT_TRUE(guarda_(fichero(), 3));
         EXPECT_TRUE(lee_fichero(fichero()) == bytes_[3]);
-        EXPECT_EQ(existe(copia()), hay && manera_.con_copia);
-        EXPECT_TRUE(!existe(copia()) || lee_fichero(copia()) == contenido);
+        EXPECT_TRUE(lo_que_hay(copia()) == (manera_.con_copia ? contenido : std::nullopt));
         nada_de_mas();
+    }
+    static std::optional<std::string> lo_que_hay(const std::string &nombre) {
+        return existe(nombre) ? std::optional(lee_fichero(nombre)) : std::nullopt;
     }
 
     void nada_de_mas() const {
@@ -355,10 +335,8 @@ class conductor {
     };
 
     void se_cuela_otro(size_t donde, operacion o, bool acaba) {
-        plan_.que = fallo::se_cuela;
-        plan_.donde = donde;
-        SCOPED_TRACE(caso(o) + (acaba ? ", another saver to its end" : ", another saver that stays"));
-        prepara();
+        SCOPED_TRACE(planea(fallo::se_cuela, donde, o) +
+                     (acaba ? ", another saver to its end" : ", another that stays"));
         otro_saver otro{nullptr, ancho(fichero())};
         bool suyo = false, mio = false;
         plan_.otro = [&] {
@@ -373,14 +351,11 @@ class conductor {
         }
         const auto informes = Prueba::toma_informes();
         EXPECT_EQ(informes.empty(), (mio || !manera_.informa) && suyo);
-        const std::string contenido = existe(fichero()) ? lee_fichero(fichero()) : "";
-        const auto es = [&](int edicion) { return contenido == bytes_[edicion]; };
-        EXPECT_TRUE((mio && es(2)) || (suyo && es(3)) || (!mio && !suyo && (habia_ ? es(1) : contenido.empty())))
-            << "told " << mio << " and " << suyo << ", and there are " << contenido.size() << " bytes";
-        if (existe(copia())) {
-            const std::string guardada = lee_fichero(copia());
-            EXPECT_TRUE(std::count(bytes_, bytes_ + 4, guardada) == 1) << "the safety copy is no edition";
-        }
+        const auto contenido = lo_que_hay(fichero()), guardada = lo_que_hay(copia());
+        EXPECT_TRUE((mio && contenido == bytes_[2]) || (suyo && contenido == bytes_[3]) ||
+                    (!mio && !suyo && (habia_ ? contenido == bytes_[1] : contenido.value_or("").empty())))
+            << "told " << mio << " and " << suyo << ", and there are " << contenido.value_or("").size() << " bytes";
+        EXPECT_TRUE(!guardada || std::count(bytes_, bytes_ + 4, *guardada) == 1) << "the safety copy is no edition";
         nada_de_mas();
     }
 
