@@ -20,20 +20,16 @@ enum class operacion : uint8_t {
 };
 // clang-format on
 
+// clang-format off
 enum class fallo : uint8_t {
-    ninguno,
-    muere_antes,    // the process dies instead of the operation
-    muere_a_medias, // half of a write is done, then the process dies
-    muere_despues,
-    sin_espacio_una_vez,
-    sin_espacio_siempre, // from there on, for all that takes room
-    error_una_vez,       // of the device
-    escribe_poco,        // half of a transfer is done
-    interrumpe,          // nothing is done, once
-    compartido,          // another holder is in the way, once
-    sin_permiso,
-    se_cuela // somebody else comes first: plan_de_fallos::otro runs, uncounted
+    ninguno, muere_antes, muere_a_medias, muere_despues, // the process dies instead of it, after half a write, after it
+    sin_espacio_una_vez, sin_espacio_siempre,            // once; from there on, for all that takes room
+    error_una_vez,                                       // of the device
+    escribe_poco, interrumpe,                            // half of a transfer is done; nothing is done, once
+    compartido, sin_permiso,                             // another holder is in the way, once
+    se_cuela                                             // somebody comes first: plan_de_fallos::otro runs, uncounted
 };
+// clang-format on
 
 struct plan_de_fallos {
     fallo que = fallo::ninguno;

@@ -60,7 +60,10 @@ inline std::string de(const texto_ansi &t) { return t ? *t : "~"; }
 inline std::string de(const texto_ancho &t) {
     return t ? std::string(reinterpret_cast<const char *>(t->data()), t->size() * sizeof(vnwchar)) : "~";
 }
-template <class C> const C *c(const std::optional<std::basic_string<C>> &t) { return t ? t->c_str() : nullptr; }
+// What the writers are given.
+template <class T> T crudo(const T &v) { return v; }
+template <class T, class D> T *crudo(const std::unique_ptr<T, D> &v) { return v.get(); }
+template <class C> const C *crudo(const std::optional<std::basic_string<C>> &t) { return t ? t->c_str() : nullptr; }
 template <class C> std::optional<std::basic_string<C>> toma(C *t) {
     const propio<C> mio(t);
     if (t == nullptr) return std::nullopt;
@@ -246,16 +249,21 @@ inline memoria crea_memoria(azar &a) {
 template <class G, class W, class R>
 fila hace(const char *nombre, int clase, G genera, W graba, R lee, void (*salta)(vornsave *) = nullptr) {
     using V = decltype(genera(std::declval<azar &>()));
-    fila f{nombre, clase, {}, [=](vornsave *d) { return de(V(lee(d))); }, {}, {}};
+    const auto leido = [=](vornsave *d) {
+        using leida = decltype(lee(d));
+        if constexpr (std::is_same_v<leida, char *> || std::is_same_v<leida, vnwchar *>) return toma(lee(d));
+        else return V(lee(d));
+    };
+    fila f{nombre, clase, {}, [=](vornsave *d) { return de(leido(d)); }, {}, {}};
     f.graba = [=](azar &a, vornsave *d) {
         const V v = genera(a);
-        graba(v, d);
+        graba(crudo(v), d);
         return de(v);
     };
     if (!f.es(SIN_COPIA))
         f.copia = [=](vornsave *origen, vornsave *a) {
-            const V v(lee(origen));
-            graba(v, a);
+            const V v = leido(origen);
+            graba(crudo(v), a);
             return de(v);
         };
     if (salta != nullptr) f.salta = [=](vornsave *d) { return salta(d), std::string(); };
@@ -263,17 +271,14 @@ fila hace(const char *nombre, int clase, G genera, W graba, R lee, void (*salta)
 }
 
 inline const std::vector<fila> &filas() {
-#define ESCRIBE(V, ...) [](const V &v, vornsave *d) { __VA_ARGS__; }
+    // Those whose writer and reader take the value as it is, and those that are written or read otherwise.
+#define SUYA(op, clase, genera, ...)                                                                                   \
+    hace(#op, clase, genera, vornsave_graba_##op, vornsave_lee_##op __VA_OPT__(, ) __VA_ARGS__)
+#define ESCRIBE(...) [](auto v, vornsave *d) { __VA_ARGS__; }
 #define LEE(...) [](vornsave *d) { return __VA_ARGS__; }
-#define NUMERO(T, op) hace(#op, 0, un<T>, vornsave_graba_##op, vornsave_lee_##op, vornsave_salta_##op)
-#define EN_MITADES(T, op) hace(#op, 0, un<T>, vornsave_graba_##op, vornsave_lee_##op)
-#define TEXTO(op, clase, V, genera, salta)                                                                             \
-    hace(#op, clase, genera, ESCRIBE(V, vornsave_graba_##op(c(v), d)), LEE(toma(vornsave_lee_##op(d))), salta)
-#define PROPIA(op, clase, V, genera, salta)                                                                            \
-    hace(#op, clase, genera, ESCRIBE(V, vornsave_graba_##op(v.get(), d)), LEE(V(vornsave_lee_##op(d))), salta)
-#define VALORES(S, op, salta)                                                                                          \
-    PROPIA(arr_##op, CON_CUENTA, array_##S, crea_##S, salta),                                                          \
-        PROPIA(arr_##op##_opcional, 0, array_##S, quiza<crea_##S>, nullptr)
+#define NUMERO(T, op) SUYA(op, 0, un<T>, vornsave_salta_##op)
+#define VALORES(S, op, ...)                                                                                            \
+    SUYA(arr_##op, CON_CUENTA, crea_##S __VA_OPT__(, ) __VA_ARGS__), SUYA(arr_##op##_opcional, 0, quiza<crea_##S>)
     constexpr auto una = [](azar &a) { return texto_ansi(letras(a, 300)); };
     constexpr auto ancha = [](azar &a) { return texto_ancho(letras_anchas(a, false)); };
     constexpr auto utf8 = [](azar &a) { return texto_ancho(letras_anchas(a, true)); };
@@ -283,123 +288,112 @@ inline const std::vector<fila> &filas() {
         return texto_ansi(t);
     };
     const auto logico = [](azar &a) { return static_cast<vnbool>(hasta(a, 2)); };
-    const auto graba_vigas = ESCRIBE(vigas, vornsave_graba_arr_punterosST(v.get(), d, viga, viga::graba));
-    const auto graba_vigas_menos = ESCRIBE(vigas, vornsave_graba_arr_punterosST(v.get(), d, viga, viga::graba_menos));
-    const auto graba_orden_menos = ESCRIBE(orden, vornsave_graba_apunorde(v.get(), d, viga, viga::graba_menos));
-    const auto graba_una_menos =
-        ESCRIBE(una_viga, vornsave_graba_estructura_opcional2ST(v.get(), d, viga, viga::graba_menos));
     // clang-format off
+    const auto graba_vigas = ESCRIBE(vornsave_graba_arr_punterosST(v, d, viga, viga::graba));
+    const auto graba_vigas_menos = ESCRIBE(vornsave_graba_arr_punterosST(v, d, viga, viga::graba_menos));
+    const auto graba_orden_menos = ESCRIBE(vornsave_graba_apunorde(v, d, viga, viga::graba_menos));
+    const auto graba_una_menos = ESCRIBE(vornsave_graba_estructura_opcional2ST(v, d, viga, viga::graba_menos));
     static const std::vector<fila> todas = {
-        hace("bool", 0, logico, vornsave_graba_bool, vornsave_lee_bool, vornsave_salta_bool),
-        hace("bool_con_texto", 0, logico, ESCRIBE(vnbool, vornsave_graba_bool_con_texto(v, d, "activo", "parado")),
+        SUYA(bool, 0, logico, vornsave_salta_bool),
+        hace("bool_con_texto", 0, logico, ESCRIBE(vornsave_graba_bool_con_texto(v, d, "activo", "parado")),
              LEE(vornsave_lee_bool_con_texto(d, "activo", "parado"))),
-        hace("char", 0, un<char>, vornsave_graba_char, vornsave_lee_char),
-        hace("wchar", 0, un<vnwchar>, vornsave_graba_wchar, vornsave_lee_wchar, vornsave_salta_enum),
+        SUYA(char, 0, un<char>), SUYA(wchar, 0, un<vnwchar>, vornsave_salta_enum),
         NUMERO(uint8_t, uchar), NUMERO(int16_t, short), NUMERO(uint16_t, ushort), NUMERO(int32_t, long), NUMERO(uint32_t, ulong),
         NUMERO(int64_t, long64), NUMERO(uint64_t, ulong64), NUMERO(double, double),
-        hace("float", SOLO_BIN, un<float>, vornsave_graba_float, vornsave_lee_float, vornsave_salta_float),
+        SUYA(float, SOLO_BIN, un<float>, vornsave_salta_float),
         hace("double_con_precision", SIN_COPIA, [](azar &a) { return hasta(a, 1000) / 4.; },
-             ESCRIBE(double, vornsave_graba_double_con_precision(v + 0.1, 0.25, d)), vornsave_lee_double, vornsave_salta_double),
-        EN_MITADES(int64_t, int64), EN_MITADES(uint64_t, uint64), EN_MITADES(int64_t, fecha), EN_MITADES(uint64_t, size64),
-        EN_MITADES(int64_t, fecha_64), EN_MITADES(int64_t, time),
-        hace("time32", 0, un<int32_t>, vornsave_graba_time32, LEE(static_cast<int32_t>(vornsave_lee_time32(d)))),
-        hace("punto", 0, [](azar &a) { return Punto2D{un<double>(a), un<double>(a)}; }, ESCRIBE(Punto2D, vornsave_graba_punto(&v, d)),
+             ESCRIBE(vornsave_graba_double_con_precision(v + 0.1, 0.25, d)), vornsave_lee_double, vornsave_salta_double),
+        SUYA(int64, 0, un<int64_t>), SUYA(uint64, 0, un<uint64_t>), SUYA(fecha, 0, un<int64_t>), SUYA(size64, 0, un<uint64_t>),
+        SUYA(fecha_64, 0, un<int64_t>), SUYA(time, 0, un<int64_t>), SUYA(time32, 0, un<int32_t>),
+        hace("punto", 0, [](azar &a) { return Punto2D{un<double>(a), un<double>(a)}; }, ESCRIBE(vornsave_graba_punto(&v, d)),
              [](vornsave *d) {
                  const propio<Punto2D> p(vornsave_lee_punto(d));
                  return p ? *p : Punto2D{};
              }),
-        TEXTO(cadena, 0, texto_ansi, una, vornsave_salta_cadena),
-        TEXTO(cadena_unicode, 0, texto_ancho, ancha, vornsave_salta_cadena_unicode),
-        TEXTO(cadena_UTF8, 0, texto_ancho, utf8, vornsave_salta_cadena),
-        TEXTO(cadena_como_buffer, CON_CUENTA, texto_ansi, sin_retornos, nullptr),
-        TEXTO(cadena_opcional, 0, texto_ansi, quiza<una>, vornsave_salta_cadena_opcional),
-        TEXTO(cadena_unicode_opcional, 0, texto_ancho, quiza<ancha>, vornsave_salta_cadena_unicode_opcional),
-        TEXTO(cadena_UTF8_opcional, 0, texto_ancho, quiza<utf8>, vornsave_salta_cadena_opcional),
-        hace("cadena_campo", 0, una, ESCRIBE(texto_ansi, vornsave_graba_cadena_campo(c(v), "campo", d)),
-             LEE(toma(vornsave_lee_cadena_campo(d, "campo"))), [](vornsave *d) { vornsave_salta_cadena_campo(d, "campo"); }),
-        hace("cadena como ancha", SIN_COPIA, [](azar &a) { return texto_ansi("A" + std::to_string(hasta(a, 9))); }, ESCRIBE(texto_ansi, vornsave_graba_cadena(c(v), d)),
+        SUYA(cadena, 0, una, vornsave_salta_cadena), SUYA(cadena_unicode, 0, ancha, vornsave_salta_cadena_unicode),
+        SUYA(cadena_UTF8, 0, utf8, vornsave_salta_cadena), SUYA(cadena_como_buffer, CON_CUENTA, sin_retornos),
+        SUYA(cadena_opcional, 0, quiza<una>, vornsave_salta_cadena_opcional),
+        SUYA(cadena_unicode_opcional, 0, quiza<ancha>, vornsave_salta_cadena_unicode_opcional),
+        SUYA(cadena_UTF8_opcional, 0, quiza<utf8>, vornsave_salta_cadena_opcional),
+        hace("cadena_campo", 0, una, ESCRIBE(vornsave_graba_cadena_campo(v, "campo", d)),
+             LEE(vornsave_lee_cadena_campo(d, "campo")), [](vornsave *d) { vornsave_salta_cadena_campo(d, "campo"); }),
+        hace("cadena como ancha", SIN_COPIA, [](azar &a) { return texto_ansi("A" + std::to_string(hasta(a, 9))); }, vornsave_graba_cadena,
              [](vornsave *d) {
                  const texto_ancho t = toma(vornsave_lee_cadena_ANSI_a_unicode(d));
                  return t ? texto_ansi(std::string(t->begin(), t->end())) : std::nullopt;
              }),
         hace("buffer", 0, [](azar &a) { return std::string{'\0', '\x1a', static_cast<char>(14 + hasta(a, 200)), '\n', '\xff'}; },
-             ESCRIBE(std::string, vornsave_graba_buffer(v.data(), 5, d)),
+             ESCRIBE(vornsave_graba_buffer(v.data(), 5, d)),
              [](vornsave *d) {
                  const propio<uint8_t> b(vornsave_lee_buffer(5, d));
                  return b ? std::string(reinterpret_cast<char *>(b.get()), 5) : std::string();
              },
              [](vornsave *d) { vornsave_salta_buffer(5, d); }),
-        hace("comentario", 0, logico, ESCRIBE(vnbool, vornsave_graba_bool(v, d); vornsave_graba_comentario("uno\ndos", d)),
+        hace("comentario", 0, logico, ESCRIBE(vornsave_graba_bool(v, d); vornsave_graba_comentario("uno\ndos", d)),
              [](vornsave *d) {
                  const vnbool v = vornsave_lee_bool(d);
                  vornsave_salta_comentario(d);
                  return v;
              }),
-        PROPIA(fichmem, CON_CUENTA, memoria, crea_memoria, nullptr),
-        VALORES(Double, double, vornsave_salta_arr_double), VALORES(Long, long, nullptr), VALORES(Long64, long64, nullptr),
-        VALORES(UChar, uchar, nullptr), VALORES(UShort, ushort, vornsave_salta_arr_ushort), VALORES(ULong, ulong, vornsave_salta_arr_ulong),
-        VALORES(ULong64, ulong64, vornsave_salta_arr_ulong64), VALORES(BOOL, bool, nullptr),
+        SUYA(fichmem, CON_CUENTA, crea_memoria),
+        VALORES(Double, double, vornsave_salta_arr_double), VALORES(Long, long), VALORES(Long64, long64),
+        VALORES(UChar, uchar), VALORES(UShort, ushort, vornsave_salta_arr_ushort), VALORES(ULong, ulong, vornsave_salta_arr_ulong),
+        VALORES(ULong64, ulong64, vornsave_salta_arr_ulong64), VALORES(BOOL, bool),
         VALORES(Punto2D, puntos2D, vornsave_salta_arr_puntos2D), VALORES(Punto3D, puntos3D, vornsave_salta_arr_puntos3D),
-        PROPIA(arulong, CON_CUENTA, lean, crea_lean, nullptr), PROPIA(arulong64, CON_CUENTA, lean64, crea_lean64, nullptr),
-        hace("arr_double con posible error", CON_CUENTA | SOLO_BIN, crea_Double, ESCRIBE(array_Double, vornsave_graba_arr_double(v.get(), d)),
+        SUYA(arulong, CON_CUENTA, crea_lean), SUYA(arulong64, CON_CUENTA, crea_lean64),
+        hace("arr_double con posible error", CON_CUENTA | SOLO_BIN, crea_Double, vornsave_graba_arr_double,
              [](vornsave *d) {
                  vnbool malo = 7, denormal = 7;
-                 return array_Double(vornsave_lee_arr_double_con_posible_error(d, &malo, &denormal));
+                 return vornsave_lee_arr_double_con_posible_error(d, &malo, &denormal);
              }),
-        hace("arr_double_con_valores_iguales", CON_CUENTA, crea_iguales,
-             ESCRIBE(array_Double, vornsave_graba_arr_double_con_valores_iguales(v.get(), 0, d)),
-             LEE(array_Double(vornsave_lee_arr_double_con_valores_iguales(d)))),
-        PROPIA(arr_cadenas, CON_CUENTA, cadenas, crea_cadenas<false>, vornsave_salta_arr_cadena),
-        PROPIA(arr_cadenas_opcional, 0, cadenas, quiza<crea_cadenas<false>>, nullptr),
-        PROPIA(arr_cadenas_con_valores_iguales, CON_CUENTA, cadenas, crea_cadenas<false>, nullptr),
-        PROPIA(arr_cadenas_segun_tipo, CON_CUENTA | SOLO_BIN, cadenas, crea_cadenas<true>, nullptr),
-        PROPIA(arr_cadenas_con_valores_iguales_segun_tipo, CON_CUENTA | SOLO_BIN, cadenas, crea_cadenas<true>, nullptr),
-        PROPIA(arr_cadenas_unicode, CON_CUENTA | SOLO_BIN, anchas, crea_anchas<false>, vornsave_salta_arr_cadena_unicode),
-        PROPIA(arr_cadenas_unicode_opcional, SOLO_BIN, anchas, quiza<crea_anchas<false>>, nullptr),
-        PROPIA(arr_cadenas_segun_tipo_unicode, CON_CUENTA | SOLO_BIN, anchas, crea_anchas<true>, nullptr),
-        PROPIA(acadorde, 0, conjunto, crea_conjunto, nullptr), PROPIA(acadordeu, 0, conjunto_u, crea_conjunto_u, nullptr),
-        hace("acadorde_con_funcion", 0, crea_conjunto, ESCRIBE(conjunto, vornsave_graba_acadorde_con_funcion(v.get(), graba_con_marca, d)),
-             LEE(conjunto(vornsave_lee_acadorde_con_funcion(d, lee_con_marca)))),
-        hace("estructura", 0, crea_una, ESCRIBE(una_viga, vornsave_graba_estructura_opcional2ST(v.get(), d, viga, viga::graba)),
-             LEE(una_viga(vornsave_lee_estructura_opcional2ST(d, viga, viga::lee))),
-             [](vornsave *d) { vornsave_salta_estructura_opcional(d, viga::salta); }),
+        hace("arr_double_con_valores_iguales", CON_CUENTA, crea_iguales, ESCRIBE(vornsave_graba_arr_double_con_valores_iguales(v, 0, d)),
+             vornsave_lee_arr_double_con_valores_iguales),
+        SUYA(arr_cadenas, CON_CUENTA, crea_cadenas<false>, vornsave_salta_arr_cadena),
+        SUYA(arr_cadenas_opcional, 0, quiza<crea_cadenas<false>>),
+        SUYA(arr_cadenas_con_valores_iguales, CON_CUENTA, crea_cadenas<false>),
+        SUYA(arr_cadenas_segun_tipo, CON_CUENTA | SOLO_BIN, crea_cadenas<true>),
+        SUYA(arr_cadenas_con_valores_iguales_segun_tipo, CON_CUENTA | SOLO_BIN, crea_cadenas<true>),
+        SUYA(arr_cadenas_unicode, CON_CUENTA | SOLO_BIN, crea_anchas<false>, vornsave_salta_arr_cadena_unicode),
+        SUYA(arr_cadenas_unicode_opcional, SOLO_BIN, quiza<crea_anchas<false>>),
+        SUYA(arr_cadenas_segun_tipo_unicode, CON_CUENTA | SOLO_BIN, crea_anchas<true>),
+        SUYA(acadorde, 0, crea_conjunto), SUYA(acadordeu, 0, crea_conjunto_u),
+        hace("acadorde_con_funcion", 0, crea_conjunto, ESCRIBE(vornsave_graba_acadorde_con_funcion(v, graba_con_marca, d)),
+             LEE(vornsave_lee_acadorde_con_funcion(d, lee_con_marca))),
+        hace("estructura", 0, crea_una, ESCRIBE(vornsave_graba_estructura_opcional2ST(v, d, viga, viga::graba)),
+             LEE(vornsave_lee_estructura_opcional2ST(d, viga, viga::lee)), [](vornsave *d) { vornsave_salta_estructura_opcional(d, viga::salta); }),
         hace("estructura con 1", 0, crea_una, graba_una_menos,
-             LEE(una_viga(vornsave_lee_estructura_opcional2_con_1_dato_extraST(d, viga, const int32_t, viga::lee_mas, &MAS)))),
+             LEE(vornsave_lee_estructura_opcional2_con_1_dato_extraST(d, viga, const int32_t, viga::lee_mas, &MAS))),
         hace("estructura con 2", 0, crea_una, graba_una_menos,
-             LEE(una_viga(vornsave_lee_estructura_opcional2_con_2_dato_extraST(d, viga, const int32_t, const int32_t, viga::lee_mas_por, &MAS, &POR)))),
-        hace("arr_punteros", CON_CUENTA, crea_vigas, graba_vigas, LEE(vigas(vornsave_lee_arr_punterosST(d, viga, viga::lee))),
+             LEE(vornsave_lee_estructura_opcional2_con_2_dato_extraST(d, viga, const int32_t, const int32_t, viga::lee_mas_por, &MAS, &POR))),
+        hace("arr_punteros", CON_CUENTA, crea_vigas, graba_vigas, LEE(vornsave_lee_arr_punterosST(d, viga, viga::lee)),
              [](vornsave *d) { vornsave_salta_arr_punteros_ST(d, viga::salta); }),
         hace("arr_punteros con 1", CON_CUENTA, crea_vigas, graba_vigas_menos,
-             LEE(vigas(vornsave_lee_arr_punteros_con_1_dato_extraST(d, viga, const int32_t, viga::lee_mas, &MAS)))),
+             LEE(vornsave_lee_arr_punteros_con_1_dato_extraST(d, viga, const int32_t, viga::lee_mas, &MAS))),
         hace("arr_punteros con 2", CON_CUENTA, crea_vigas, graba_vigas_menos,
-             LEE(vigas(vornsave_lee_arr_punteros_con_2_datos_extraST(d, viga, const int32_t, const int32_t, viga::lee_mas_por, &MAS, &POR)))),
-        hace("arr_punteros_opcional", 0, quiza<crea_vigas>, ESCRIBE(vigas, vornsave_graba_arr_punteros_opcional(v.get(), d, viga, viga::graba)),
-             LEE(vigas(vornsave_lee_arr_punteros_opcional(d, viga, viga::lee))), [](vornsave *d) { vornsave_salta_arr_punteros_opcionalST(d, viga::salta); }),
-        hace("arr_punteros_opcional con 1", 0, quiza<crea_vigas>,
-             ESCRIBE(vigas, vornsave_graba_arr_punteros_opcional(v.get(), d, viga, viga::graba_menos)),
-             LEE(vigas(vornsave_lee_arr_punteros_opcional_con_1_dato_extra(d, viga, const int32_t, viga::lee_mas, &MAS)))),
-        hace("arr_punteros_array", CON_CUENTA, crea_arrays, ESCRIBE(arrays, vornsave_graba_arr_punteros_arrayST(v.get(), d, viga, viga::graba)),
-             LEE(arrays(vornsave_lee_arr_punteros_arrayST(d, viga, viga::lee)))),
-        hace("arr_punteros_array_opcional", 0, quiza<crea_arrays>,
-             ESCRIBE(arrays, vornsave_graba_arr_punteros_array_opcionalST(v.get(), d, viga, viga::graba)),
-             LEE(arrays(vornsave_lee_arr_punteros_array_opcionalST(d, viga, viga::lee)))),
-        hace("apunorde", CON_CUENTA, crea_orden, ESCRIBE(orden, vornsave_graba_apunorde(v.get(), d, viga, viga::graba)),
-             LEE(orden(vornsave_lee_apunorde(d, viga, viga::lee, const int32_t, viga::compara, &SENTIDO, viga::destruye)))),
+             LEE(vornsave_lee_arr_punteros_con_2_datos_extraST(d, viga, const int32_t, const int32_t, viga::lee_mas_por, &MAS, &POR))),
+        hace("arr_punteros_opcional", 0, quiza<crea_vigas>, ESCRIBE(vornsave_graba_arr_punteros_opcional(v, d, viga, viga::graba)),
+             LEE(vornsave_lee_arr_punteros_opcional(d, viga, viga::lee)), [](vornsave *d) { vornsave_salta_arr_punteros_opcionalST(d, viga::salta); }),
+        hace("arr_punteros_opcional con 1", 0, quiza<crea_vigas>, ESCRIBE(vornsave_graba_arr_punteros_opcional(v, d, viga, viga::graba_menos)),
+             LEE(vornsave_lee_arr_punteros_opcional_con_1_dato_extra(d, viga, const int32_t, viga::lee_mas, &MAS))),
+        hace("arr_punteros_array", CON_CUENTA, crea_arrays, ESCRIBE(vornsave_graba_arr_punteros_arrayST(v, d, viga, viga::graba)),
+             LEE(vornsave_lee_arr_punteros_arrayST(d, viga, viga::lee))),
+        hace("arr_punteros_array_opcional", 0, quiza<crea_arrays>, ESCRIBE(vornsave_graba_arr_punteros_array_opcionalST(v, d, viga, viga::graba)),
+             LEE(vornsave_lee_arr_punteros_array_opcionalST(d, viga, viga::lee))),
+        hace("apunorde", CON_CUENTA, crea_orden, ESCRIBE(vornsave_graba_apunorde(v, d, viga, viga::graba)),
+             LEE(vornsave_lee_apunorde(d, viga, viga::lee, const int32_t, viga::compara, &SENTIDO, viga::destruye))),
         hace("apunorde con 1", CON_CUENTA, crea_orden, graba_orden_menos,
-             LEE(orden(vornsave_lee_apunorde_con_1_dato_extra(d, &MAS, viga, const int32_t, viga::lee_mas, const int32_t, viga::compara, &SENTIDO, viga::destruye)))),
-        hace("apunorde_opcional", 0, quiza<crea_orden>, ESCRIBE(orden, vornsave_graba_apunorde_opcional(v.get(), d, viga, viga::graba)),
-             LEE(orden(vornsave_lee_apunorde_opcional(d, viga, viga::lee, const int32_t, viga::compara, &SENTIDO, viga::destruye)))),
-        hace("arr_puntos2DXPriv", CON_CUENTA, crea_xpriv, ESCRIBE(xpriv, vornsave_graba_arr_puntos2DXPrivST(v.get(), d, viga, viga::graba)),
-             LEE(xpriv(vornsave_lee_arr_puntos2DXPrivST(d, viga, viga::lee)))),
+             LEE(vornsave_lee_apunorde_con_1_dato_extra(d, &MAS, viga, const int32_t, viga::lee_mas, const int32_t, viga::compara, &SENTIDO, viga::destruye))),
+        hace("apunorde_opcional", 0, quiza<crea_orden>, ESCRIBE(vornsave_graba_apunorde_opcional(v, d, viga, viga::graba)),
+             LEE(vornsave_lee_apunorde_opcional(d, viga, viga::lee, const int32_t, viga::compara, &SENTIDO, viga::destruye))),
+        hace("arr_puntos2DXPriv", CON_CUENTA, crea_xpriv, ESCRIBE(vornsave_graba_arr_puntos2DXPrivST(v, d, viga, viga::graba)),
+             LEE(vornsave_lee_arr_puntos2DXPrivST(d, viga, viga::lee))),
     };
     // clang-format on
     return todas;
+#undef SUYA
 #undef ESCRIBE
 #undef LEE
 #undef NUMERO
-#undef EN_MITADES
-#undef TEXTO
-#undef PROPIA
 #undef VALORES
 }
 

@@ -76,4 +76,29 @@ inline std::string hex(const std::string &b) {
 // A member, or several, of the object `d`.
 #define HACE(...) [](vornsave *d) { __VA_ARGS__; }
 
+// A frame of the protocol: what opens and closes it when it is written, and when it is read.
+struct marco {
+    void (*abre)(const char *, vornsave *), (*cierra)(const char *, vornsave *);
+    vnbool (*se_abre)(const char *, vornsave *), (*se_salta)(const char *, vornsave *);
+    void (*lee_final)(const char *, vornsave *);
+    template <class F> void graba(const char *id, vornsave *d, F dentro) const {
+        abre(id, d);
+        dentro();
+        cierra(id, d);
+    }
+};
+inline vnbool se_abre_seccion(const char *id, vornsave *d) { return toma(vornsave_lee_seccion(d)) == id; }
+inline vnbool se_salta_seccion(const char *id, vornsave *d) {
+    const vnbool es = se_abre_seccion(id, d);
+    vornsave_ir_final_seccion(id, d);
+    vornsave_lee_final_seccion(id, d);
+    return es;
+}
+inline constexpr marco SECCION{vornsave_graba_inicio_seccion, vornsave_graba_fin_seccion, se_abre_seccion,
+                               se_salta_seccion, vornsave_lee_final_seccion},
+    BLOQUE{vornsave_graba_inicio_bloque, vornsave_graba_fin_bloque, vornsave_se_inicia_lectura_bloque,
+           vornsave_se_salta_bloque, vornsave_lee_final_bloque},
+    BLOQUE64{vornsave_graba_inicio_bloque64, vornsave_graba_fin_bloque64, vornsave_se_inicia_lectura_bloque64,
+             vornsave_se_salta_bloque64, vornsave_lee_final_bloque64};
+
 } // namespace vn

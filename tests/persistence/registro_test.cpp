@@ -75,24 +75,22 @@ PRUEBA(registro, un_registro_danyado_no_se_lee_hasta_el_final) {
     const nudo n{1, 2, "A"};
     const barra b{clase::pilar, true, 1, VNU("t"), {1}, {"u"}, n, n, {n, n}, {3, 3}, {n, n}};
     const std::string datos = grabado(EN_BIN, [&](vornsave *s) { graba_registro(b, s); });
-    for (size_t hasta = 0; hasta < datos.size(); ++hasta) {
-        graba_fichero(abierto::ruta(), datos.substr(0, hasta));
-        barra leida;
-        const bool bien = atrapado([&] {
-            const abierto a(EN_BIN, "r");
-            vornsave_set_tipo_status_lectura(a, 1, nullptr);
-            lee_registro(leida, a);
+    const auto lee = [](const std::string &bytes, barra &leida) {
+        return atrapado([&] {
+            leido(EN_BIN, bytes, [&](vornsave *s) {
+                vornsave_set_tipo_status_lectura(s, 1, nullptr);
+                lee_registro(leida, s);
+            });
         });
+    };
+    for (size_t hasta = 0; hasta < datos.size(); ++hasta) {
+        barra leida;
+        const bool bien = lee(datos.substr(0, hasta), leida);
         EXPECT_TRUE(!bien || leida.huecos.empty()) << hasta; // before the block the record is whole without it
         EXPECT_LE(leida.nudos.size(), 2u);
     }
     std::string otra = datos;
     otra[otra.rfind("A\1") - 6] = 1; // one name for two elements
-    EXPECT_FALSE(atrapado([&] {
-        leido(EN_BIN, otra, [&](vornsave *s) {
-            vornsave_set_tipo_status_lectura(s, 1, nullptr);
-            barra leida;
-            lee_registro(leida, s);
-        });
-    }));
+    barra leida;
+    EXPECT_FALSE(lee(otra, leida));
 }

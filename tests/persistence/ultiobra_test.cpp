@@ -9,15 +9,11 @@ namespace {
 
 std::string fichero() { return vn::Prueba::directorio() + "/últimas.txt"; }
 std::basic_string<vnwchar> lista() { return vn::ancho(fichero()); }
-
 void guarda(const char *nombre) { ultiobra_guarda_nombre_ultima_obra_u(vn::ancho(nombre).c_str(), lista().c_str()); }
-
 std::string obras() { return vn::toma(ultiobra_lee_ultimas_obras_u(lista().c_str(), nullptr)); }
-
 std::string ultima_finalizada() {
     return vn::toma(ultiobra_lee_nombre_ultima_obra_finalizada_u(lista().c_str(), nullptr));
 }
-
 vnbool existe_la_b(const vnwchar *nombre) { return nombre[0] == VNU('b') ? CIERTO : FALSO; }
 
 } // namespace
@@ -85,10 +81,11 @@ PRUEBA(ultiobra, la_obra_que_falta_se_quita_si_el_usuario_quiere) {
     const vn::textos ext = vn::textos_de({"obr"});
     vnwchar *nombre = nullptr;
     vnbool eliminada = CIERTO;
-    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 1, ext.get(), existe_la_b, &nombre, &eliminada),
-              CIERTO);
-    EXPECT_EQ(vn::toma(nombre), "b.obr");
-    nombre = nullptr;
+    const auto existe = [&](uint32_t i, vnwchar **n, vnbool *e) {
+        return ultiobra_indice_existe_obra_reciente(lista().c_str(), i, ext.get(), existe_la_b, n, e);
+    };
+    EXPECT_EQ(existe(1, &nombre, &eliminada), CIERTO);
+    EXPECT_EQ(vn::toma(std::exchange(nombre, nullptr)), "b.obr");
     EXPECT_EQ(eliminada, FALSO);
 
     vn::Prueba::responde(FALSO);
@@ -102,13 +99,11 @@ PRUEBA(ultiobra, la_obra_que_falta_se_quita_si_el_usuario_quiere) {
               "accessed.\nDo you want to delete this entry from the list?");
 
     vn::Prueba::responde(CIERTO);
-    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 0, ext.get(), existe_la_b, nullptr, &eliminada),
-              FALSO);
+    EXPECT_EQ(existe(0, nullptr, &eliminada), FALSO);
     EXPECT_EQ(eliminada, CIERTO);
     EXPECT_EQ(vn::Prueba::toma_avisos().size(), 1u);
     EXPECT_EQ(obras(), "b.obr|c.txt"); // what the filter hid is still there
-    EXPECT_EQ(ultiobra_indice_existe_obra_reciente(lista().c_str(), 9, ext.get(), existe_la_b, nullptr, nullptr),
-              FALSO);
+    EXPECT_EQ(existe(9, nullptr, nullptr), FALSO);
 }
 
 // The same work in another case takes the place of itself. What fails is told to nobody, and loses nothing.

@@ -2,72 +2,34 @@
 
 using namespace vn;
 
-namespace {
-
-// Two sections, the second with one inside, and a word after them.
-void graba_secciones(vornsave *d) {
-    vornsave_graba_inicio_seccion("UNO", d);
-    vornsave_graba_long(11, d);
-    vornsave_graba_fin_seccion("UNO", d);
-    vornsave_graba_inicio_seccion("DOS", d);
-    vornsave_graba_inicio_seccion("dentro", d);
-    vornsave_graba_double(2.5, d);
-    vornsave_graba_fin_seccion("dentro", d);
-    vornsave_graba_fin_seccion("DOS", d);
-    vornsave_graba_cadena("fin", d);
-}
-
-} // namespace
-
 PRUEBA(vornsave_bloques, bytes_de_un_bloque_y_de_una_seccion) {
-    static const std::string cien(100, 'x');
+    const auto nueve = [](vornsave *d) { return [=] { vornsave_graba_uchar(9, d); }; };
     // clang-format off
-    const std::pair<std::string, void (*)(vornsave *)> filas[] = {
-        {cien + bytes("ABC\0\x6c\0\0\0ABC\0"),
-         HACE(vornsave_graba_buffer(cien.data(), 100, d); vornsave_graba_inicio_bloque("ABC", d); vornsave_graba_fin_bloque("ABC", d))},
-        {bytes("A\0\0\0\0\0\xb\0\0\0\011A\0"),
-         HACE(vornsave_graba_inicio_bloque64("A", d); vornsave_graba_uchar(9, d); vornsave_graba_fin_bloque64("A", d))},
-        {bytes("\2\0AB\x9\0\0\0\x9\2\0AB"),
-         HACE(vornsave_graba_inicio_seccion("AB", d); vornsave_graba_uchar(9, d); vornsave_graba_fin_seccion("AB", d))},
+    const std::pair<std::string, std::function<void(vornsave *)>> filas[] = {
+        {std::string(100, 'x') + bytes("ABC\0\x6d\0\0\0\011ABC\0"),
+         [&](auto d) { vornsave_graba_buffer(std::string(100, 'x').data(), 100, d); BLOQUE.graba("ABC", d, nueve(d)); }},
+        {bytes("A\0\0\0\0\0\xb\0\0\0\011A\0"), [&](auto d) { BLOQUE64.graba("A", d, nueve(d)); }},
+        {bytes("\2\0AB\x9\0\0\0\x9\2\0AB"), [&](auto d) { SECCION.graba("AB", d, nueve(d)); }},
     };
     // clang-format on
     for (const auto &[espera, escribe] : filas) EXPECT_EQ(grabado(EN_BIN, escribe), espera);
 }
 
-PRUEBA(vornsave_bloques, un_bloque_se_abre_se_salta_o_no_esta) {
-    const std::string datos = grabado(EN_BIN, [](vornsave *d) {
-        vornsave_graba_inicio_bloque("EXTRA", d);
-        vornsave_graba_inicio_bloque64("dentro", d);
-        vornsave_graba_long(7, d);
-        vornsave_graba_fin_bloque64("dentro", d);
-        vornsave_graba_fin_bloque("EXTRA", d);
-        vornsave_graba_long(1, d);
-    });
-    leido(EN_BIN, datos, [](vornsave *d) {
+PRUEBA(vornsave_bloques, un_bloque_que_no_esta_no_se_abre_ni_se_salta) {
+    leido(EN_BIN, grabado(EN_BIN, HACE(BLOQUE.graba("EXTRA", d, [=] { vornsave_graba_long(7, d); }))), [](vornsave *d) {
         EXPECT_EQ(vornsave_se_inicia_lectura_bloque("OTRO", d), FALSO);
         EXPECT_EQ(vornsave_se_salta_bloque("OTRO", d), FALSO);
         EXPECT_EQ(vornsave_get_posicion(d), 0);
-        EXPECT_EQ(vornsave_se_inicia_lectura_bloque("EXTRA", d), CIERTO);
-        EXPECT_EQ(vornsave_se_inicia_lectura_bloque64("dentro", d), CIERTO);
-        EXPECT_EQ(vornsave_lee_long(d), 7);
-        vornsave_lee_final_bloque64("dentro", d);
-        vornsave_lee_final_bloque("EXTRA", d);
-        EXPECT_EQ(vornsave_lee_long(d), 1);
-        EXPECT_EQ(vornsave_se_inicia_lectura_bloque("EXTRA", d), FALSO); // at the end of the stream
-    });
-    leido(EN_BIN, datos, [](vornsave *d) {
-        EXPECT_EQ(vornsave_se_salta_bloque("EXTRA", d), CIERTO);
-        EXPECT_EQ(vornsave_lee_long(d), 1);
-        vornsave_set_posicion(d, 10);
-        EXPECT_EQ(vornsave_se_salta_bloque64("dentro", d), CIERTO);
         // A name that goes on where this one ends.
-        vornsave_set_posicion(d, 0);
         EXPECT_EQ(ESPERA_INFORME("fin_cadena == '\\0'", vornsave_se_inicia_lectura_bloque("EXT", d)), FALSO);
         EXPECT_EQ(vornsave_get_posicion(d), 0);
         EXPECT_EQ(vornsave_comprueba_marca_fichero("EXT", d), CIERTO);
         EXPECT_EQ(vornsave_se_comprueba_cabecera_bin("RA", d), CIERTO);
         EXPECT_EQ(vornsave_comprueba_marca_fichero("X", d), FALSO);
         EXPECT_EQ(vornsave_get_posicion(d), 5);
+        vornsave_set_posicion(d, 0);
+        EXPECT_EQ(vornsave_se_salta_bloque("EXTRA", d), CIERTO);
+        EXPECT_EQ(vornsave_se_inicia_lectura_bloque("EXTRA", d), FALSO); // at the end of the stream
     });
 }
 
@@ -137,10 +99,12 @@ PRUEBA(vornsave_bloques, los_finales_danyados_no_hacen_dar_vueltas) {
         leido(EN_BIN, bytes("\1\0S") + final + bytes("\1\0S\1\0S"), no_se_lee);
     }
     // A section that ends after the one that holds it.
-    std::string datos = grabado(EN_BIN, graba_secciones);
+    std::string datos = grabado(EN_BIN, [](vornsave *d) {
+        SECCION.graba("DOS", d, [=] { SECCION.graba("dentro", d, [=] { vornsave_graba_double(2.5, d); }); });
+        vornsave_graba_cadena("fin", d);
+    });
     datos[datos.find("dentro") + 6] = static_cast<char>(datos.size() - 1);
     leido(EN_BIN, datos, [&](vornsave *d) {
-        vornsave_set_posicion(d, 18);
         EXPECT_EQ(toma(vornsave_lee_seccion(d)), "DOS");
         no_se_lee(d);
         vornsave_set_tipo_status_lectura(d, 1, nullptr);
@@ -166,13 +130,8 @@ PRUEBA(vornsave_bloques, los_finales_danyados_no_hacen_dar_vueltas) {
 
 PRUEBA(vornsave_bloques, tras_lo_leido_a_medias_se_sigue_en_su_final) {
     const std::string datos = grabado(EN_BIN, [](vornsave *d) {
-        for (const char *id : {"A", "B"}) {
-            vornsave_graba_inicio_seccion(id, d);
-            vornsave_graba_inicio_bloque("dentro", d);
-            for (int32_t i = 0; i < 3; ++i) vornsave_graba_long(i, d);
-            vornsave_graba_fin_bloque("dentro", d);
-            vornsave_graba_fin_seccion(id, d);
-        }
+        const auto tres = [=] { vornsave_graba_long(0, d), vornsave_graba_long(1, d), vornsave_graba_long(2, d); };
+        for (const char *id : {"A", "B"}) SECCION.graba(id, d, [&] { BLOQUE.graba("dentro", d, tres); });
         vornsave_graba_long(77, d);
     });
     for (const size_t leidos : {0u, 1u, 3u, 5u}) // in the body, whole, past it
@@ -212,15 +171,12 @@ PRUEBA(vornsave_bloques, posiciones_de_mas_de_31_bits) {
     const abierto a(EN_BIN, "w+");
     const int64_t lejos = (int64_t(1) << 32) + 5;
     ASSERT_EQ(vornio_fseek_i64(a.fichero(), lejos, VN_DESDE_EL_PRINCIPIO), CIERTO);
-    vornsave_graba_inicio_bloque64("L", a);
-    vornsave_graba_long(3, a);
-    vornsave_graba_fin_bloque64("L", a);
+    BLOQUE64.graba("L", a, [&] { vornsave_graba_long(3, a); });
     vornio_fseek_i64(a.fichero(), lejos, VN_DESDE_EL_PRINCIPIO);
     EXPECT_EQ(vornsave_se_salta_bloque64("L", a), CIERTO);
     EXPECT_EQ(vornio_ftell_i64(a.fichero()), lejos + 16);
     ESPERA_INFORME("posicion <= LONG_MAX", vornsave_get_posicion(a));
-    vornsave_graba_inicio_bloque("C", a);
-    vornsave_graba_fin_bloque("C", a);
+    BLOQUE.graba("C", a, [] {});
     espera_informes({"posicion <= LONG_MAX", "posicion <= LONG_MAX", "posicion <= LONG_MAX"}, __FILE__, __LINE__);
     EXPECT_EQ(vornio_ftell_i64(a.fichero()), lejos + 24);
 }

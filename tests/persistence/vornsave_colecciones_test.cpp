@@ -38,25 +38,6 @@ std::string le(double x) { return {reinterpret_cast<const char *>(&x), 8}; }
 
 // ---- Random programs: values of every kind, and frames with more of them inside.
 
-struct marco {
-    void (*abre)(const char *, vornsave *), (*cierra)(const char *, vornsave *);
-    vnbool (*se_abre)(const char *, vornsave *), (*se_salta)(const char *, vornsave *);
-    void (*lee_final)(const char *, vornsave *);
-};
-vnbool se_abre_seccion(const char *id, vornsave *d) { return toma(vornsave_lee_seccion(d)) == id; }
-vnbool se_salta_seccion(const char *id, vornsave *d) {
-    const vnbool es = se_abre_seccion(id, d);
-    vornsave_ir_final_seccion(id, d);
-    vornsave_lee_final_seccion(id, d);
-    return es;
-}
-constexpr marco SECCION{vornsave_graba_inicio_seccion, vornsave_graba_fin_seccion, se_abre_seccion, se_salta_seccion,
-                        vornsave_lee_final_seccion};
-constexpr marco BLOQUE{vornsave_graba_inicio_bloque, vornsave_graba_fin_bloque, vornsave_se_inicia_lectura_bloque,
-                       vornsave_se_salta_bloque, vornsave_lee_final_bloque};
-constexpr marco BLOQUE64{vornsave_graba_inicio_bloque64, vornsave_graba_fin_bloque64,
-                         vornsave_se_inicia_lectura_bloque64, vornsave_se_salta_bloque64, vornsave_lee_final_bloque64};
-
 struct paso {
     const fila *valor = nullptr;
     const marco *de = nullptr;
@@ -72,9 +53,7 @@ std::vector<paso> graba_programa(const destino_de_prueba &destino, azar &a, vorn
                    : hasta(a, 2) == 0                    ? &BLOQUE
                                                          : &BLOQUE64; // tags hide the marks of blocks
             p.id = "m" + std::to_string(hasta(a, 99));
-            p.de->abre(p.id.c_str(), d);
-            p.dentro = graba_programa(destino, a, d, profundidad + 1);
-            p.de->cierra(p.id.c_str(), d);
+            p.de->graba(p.id.c_str(), d, [&] { p.dentro = graba_programa(destino, a, d, profundidad + 1); });
             continue;
         }
         do p.valor = &filas()[hasta(a, static_cast<uint32_t>(filas().size()))];

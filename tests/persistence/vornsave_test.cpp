@@ -206,6 +206,7 @@ struct barra {
     static void valor(barra *b, uint32_t posicion) { b->pasos += std::to_string(posicion) + " "; }
     static void fin(barra *b) { b->pasos += "f"; }
     static void refresca(barra *b) { b->pasos += "r "; }
+    void al_leer(vornsave *d) { vornsave_inicia_progreso_lectura(d, this, barra, inicia, valor, fin); }
 };
 
 } // namespace
@@ -221,8 +222,7 @@ PRUEBA(vornsave, el_progreso_sigue_la_posicion) {
         vornsave_graba_ulong(1, d);                                                 // past the estimate
         vornsave_graba_arr_long(dueno<arr_DestruyeLong>(arr_CreaLong(3)).get(), d); // once for the whole array
         vornsave_graba_arr_puntos2D(dueno<arr_DestruyePunto2D>(arr_CreaPunto2D(0)).get(), d); // nor do these
-        ESPERA_INFORME("vornsave_no_const->con_progreso == FALSO",
-                       vornsave_inicia_progreso_lectura(d, &b, barra, barra::inicia, barra::valor, barra::fin));
+        ESPERA_INFORME("vornsave_no_const->con_progreso == FALSO", b.al_leer(d));
         vornsave_fin_progreso(d);
         vornsave_graba_long(1, d);
         ESPERA_INFORME("vornsave->con_progreso == CIERTO", vornsave_fin_progreso(d));
@@ -230,7 +230,7 @@ PRUEBA(vornsave, el_progreso_sigue_la_posicion) {
     EXPECT_EQ(b.pasos, "i6 0 2 4 r r f");
     b.pasos.clear();
     leido(EN_BIN, datos, [&](vornsave *d) {
-        vornsave_inicia_progreso_lectura(d, &b, barra, barra::inicia, barra::valor, barra::fin);
+        b.al_leer(d);
         vornsave_lee_bool(d);
         vornsave_lee_char(d);
         vornsave_salta_enum(d);
@@ -242,7 +242,5 @@ PRUEBA(vornsave, el_progreso_sigue_la_posicion) {
         vornsave_fin_progreso(d);
     });
     EXPECT_EQ(b.pasos, "i36 0 2 4 8 12 f");
-    const abierto a(EN_TXT, "w");
-    ESPERA_INFORME("(vornsave->fncptr_get_tamanyo) != NULL",
-                   vornsave_inicia_progreso_lectura(a, &b, barra, barra::inicia, barra::valor, barra::fin));
+    ESPERA_INFORME("(vornsave->fncptr_get_tamanyo) != NULL", b.al_leer(abierto(EN_TXT, "w")));
 }
