@@ -306,10 +306,7 @@ inline const std::vector<fila> &filas() {
         SUYA(int64, 0, un<int64_t>), SUYA(uint64, 0, un<uint64_t>), SUYA(fecha, 0, un<int64_t>), SUYA(size64, 0, un<uint64_t>),
         SUYA(fecha_64, 0, un<int64_t>), SUYA(time, 0, un<int64_t>), SUYA(time32, 0, un<int32_t>),
         hace("punto", 0, [](azar &a) { return Punto2D{un<double>(a), un<double>(a)}; }, ESCRIBE(vornsave_graba_punto(&v, d)),
-             [](vornsave *d) {
-                 const propio<Punto2D> p(vornsave_lee_punto(d));
-                 return p ? *p : Punto2D{};
-             }),
+             [](vornsave *d) { const propio<Punto2D> p(vornsave_lee_punto(d)); return p ? *p : Punto2D{}; }),
         SUYA(cadena, 0, una, vornsave_salta_cadena), SUYA(cadena_unicode, 0, ancha, vornsave_salta_cadena_unicode),
         SUYA(cadena_UTF8, 0, utf8, vornsave_salta_cadena), SUYA(cadena_como_buffer, CON_CUENTA, sin_retornos),
         SUYA(cadena_opcional, 0, quiza<una>, vornsave_salta_cadena_opcional),
@@ -318,23 +315,13 @@ inline const std::vector<fila> &filas() {
         hace("cadena_campo", 0, una, ESCRIBE(vornsave_graba_cadena_campo(v, "campo", d)),
              LEE(vornsave_lee_cadena_campo(d, "campo")), [](vornsave *d) { vornsave_salta_cadena_campo(d, "campo"); }),
         hace("cadena como ancha", SIN_COPIA, [](azar &a) { return texto_ansi("A" + std::to_string(hasta(a, 9))); }, vornsave_graba_cadena,
-             [](vornsave *d) {
-                 const texto_ancho t = toma(vornsave_lee_cadena_ANSI_a_unicode(d));
-                 return t ? texto_ansi(std::string(t->begin(), t->end())) : std::nullopt;
-             }),
+             [](vornsave *d) { const auto t = toma(vornsave_lee_cadena_ANSI_a_unicode(d)); return t ? texto_ansi(std::string(t->begin(), t->end())) : std::nullopt; }),
         hace("buffer", 0, [](azar &a) { return std::string{'\0', '\x1a', static_cast<char>(14 + hasta(a, 200)), '\n', '\xff'}; },
              ESCRIBE(vornsave_graba_buffer(v.data(), 5, d)),
-             [](vornsave *d) {
-                 const propio<uint8_t> b(vornsave_lee_buffer(5, d));
-                 return b ? std::string(reinterpret_cast<char *>(b.get()), 5) : std::string();
-             },
+             [](vornsave *d) { const propio<char> b(reinterpret_cast<char *>(vornsave_lee_buffer(5, d))); return b ? std::string(b.get(), 5) : ""; },
              [](vornsave *d) { vornsave_salta_buffer(5, d); }),
         hace("comentario", 0, logico, ESCRIBE(vornsave_graba_bool(v, d); vornsave_graba_comentario("uno\ndos", d)),
-             [](vornsave *d) {
-                 const vnbool v = vornsave_lee_bool(d);
-                 vornsave_salta_comentario(d);
-                 return v;
-             }),
+             [](vornsave *d) { const vnbool v = vornsave_lee_bool(d); vornsave_salta_comentario(d); return v; }),
         SUYA(fichmem, CON_CUENTA, crea_memoria),
         VALORES(Double, double, vornsave_salta_arr_double), VALORES(Long, long), VALORES(Long64, long64),
         VALORES(UChar, uchar), VALORES(UShort, ushort, vornsave_salta_arr_ushort), VALORES(ULong, ulong, vornsave_salta_arr_ulong),
@@ -342,10 +329,7 @@ inline const std::vector<fila> &filas() {
         VALORES(Punto2D, puntos2D, vornsave_salta_arr_puntos2D), VALORES(Punto3D, puntos3D, vornsave_salta_arr_puntos3D),
         SUYA(arulong, CON_CUENTA, crea_lean), SUYA(arulong64, CON_CUENTA, crea_lean64),
         hace("arr_double con posible error", CON_CUENTA | SOLO_BIN, crea_Double, vornsave_graba_arr_double,
-             [](vornsave *d) {
-                 vnbool malo = 7, denormal = 7;
-                 return vornsave_lee_arr_double_con_posible_error(d, &malo, &denormal);
-             }),
+             [](vornsave *d) { vnbool malo = 7, denormal = 7; return vornsave_lee_arr_double_con_posible_error(d, &malo, &denormal); }),
         hace("arr_double_con_valores_iguales", CON_CUENTA, crea_iguales, ESCRIBE(vornsave_graba_arr_double_con_valores_iguales(v, 0, d)),
              vornsave_lee_arr_double_con_valores_iguales),
         SUYA(arr_cadenas, CON_CUENTA, crea_cadenas<false>, vornsave_salta_arr_cadena),
