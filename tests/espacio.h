@@ -51,7 +51,7 @@ inline marco marco_al_azar(vn::azar &a, double lado, const vn::lugar &l = {}) {
 // The vectors of a text, three numbers each.
 inline std::vector<vec> vectores(const std::string &texto) {
     std::vector<vec> r;
-    const auto v = vn::numeros(texto);
+    const auto v = vn::los_numeros(texto);
     for (size_t i = 0; i + 2 < v.size(); i += 3) r.push_back({v[i], v[i + 1], v[i + 2]});
     return r;
 }

@@ -5,7 +5,7 @@
 //   EXPECT_EQ(h(), 0x1234u);                  the same number natively and under Wine: for results without libm
 //   const vn::lugar l = vn::lugar_de(caso);   near the origin, and at the coordinates of a survey
 //   EXPECT_TRUE(vn::cerca(x, 0.25, 10.));     within 1e-12 x scale of a value kept in the test: for those with libm
-//   vn::numeros("0 0, 4 2.5")                 the numbers of a text
+//   vn::los_numeros("0 0, 4 2.5")                 the numbers of a text
 //   HASTA(5e-5, 1, igual({d, 0}, {0, 0}));    a limit: what is said of d holds there, and not one step further
 //   for (const auto &fila : vn::tabla("C_polygons/segment_pairs.tsv")) fila[0]...    rows made by others
 #pragma once
@@ -94,7 +94,7 @@ template <class F> void hasta(double ultimo, double hacia, F vale, const char *q
         ultimo, hacia, [&]([[maybe_unused]] double d) -> bool { return __VA_ARGS__; }, #__VA_ARGS__, __LINE__)
 
 // The numbers of a text, in order, whatever stands between them.
-inline std::vector<double> numeros(std::string_view s) {
+inline std::vector<double> los_numeros(std::string_view s) {
     std::vector<double> r;
     for (const char *p = s.data(), *const fin = p + s.size(); p < fin;) {
         double x = 0.;

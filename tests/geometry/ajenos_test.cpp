@@ -35,7 +35,7 @@ PRUEBA(ajenos, las_fronteras_tienen_su_envolvente_y_giran_como_la_mayoria_de_sus
     int paises = 0, exactas = 0, vueltas = 0;
     for (const auto &f : vn::tabla("C_polygons/borders.tsv")) {
         SCOPED_TRACE(f[1]);
-        const auto v = vn::numeros(f[13].substr(0, f[13].find(')')));
+        const auto v = vn::los_numeros(f[13].substr(0, f[13].find(')')));
         poligono e(redondos(v, 1e7));
         const puntos_t antes = e.todos();
         int64_t doble = 0;

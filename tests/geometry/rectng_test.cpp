@@ -18,7 +18,7 @@ using limites = std::array<double, 4>;
 rectangulo_t de(const limites &l) { return {l[0], l[1], l[2], l[3], CIERTO}; }
 limites limites_de(const rectangulo_t &r) { return {r.xmin, r.ymin, r.xmax, r.ymax}; }
 limites limites_de(const texto &t) {
-    const auto v = vn::numeros(t);
+    const auto v = vn::los_numeros(t);
     return {v.at(0), v.at(1), v.at(2), v.at(3)};
 }
 void anade(const rectangulos &a, const limites &l) {
@@ -27,7 +27,7 @@ void anade(const rectangulos &a, const limites &l) {
 // From a text: four numbers each.
 rectangulos tiras(const texto &t) {
     rectangulos a(arr_CreaPunteroST(0, rectangulo_t));
-    const auto v = vn::numeros(t);
+    const auto v = vn::los_numeros(t);
     for (size_t i = 0; i < v.size(); i += 4) anade(a, {v.at(i), v.at(i + 1), v.at(i + 2), v.at(i + 3)});
     return a;
 }

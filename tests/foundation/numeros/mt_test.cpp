@@ -146,7 +146,7 @@ PRUEBA(mt, cada_tolerancia_esta_en_su_limite) {
 // A cut at an end is that end, and its own segment is not cut; the inside test of polygons stands on this.
 PRUEBA(mt, los_cortes_de_segmentos_dicen_cual_queda_partido) {
     for (const auto &[segmentos, cortes] : filas<std::string, std::string>("foundation/mt.tsv", "cortes")) {
-        const auto v = vn::numeros(segmentos);
+        const auto v = vn::los_numeros(segmentos);
         mt_segmento_t a = seg(v.at(0), v[1], v[2], v[3]), b = seg(v[4], v[5], v[6], v.at(7));
         mt_calcula_inter_segmentos(&a, &b);
         std::string s;
