@@ -14,8 +14,8 @@ vnbool idcolor_dame_indice_color_autocad(uint32_t rgb, VN_SALIDA_OPC uint8_t *in
     highest. The greys from 250 on are never chosen, nor is white. */
 uint8_t idcolor_dame_indice_color_autocad_mas_cercano_a_RGB(uint32_t rgb);
 
-/** RGB value of an index of the own palette, on a light background; on one that is light or not; on one of this RGB value;
-    on a kind of background. What is out of range is reported: 0. */
+/** RGB value of an index of the own palette, on a light background; on one that is light or not; on one of this RGB
+    value; on a kind of background. What is out of range is reported: 0. */
 uint32_t idcolor_colorRGB(VN_RANGO(0, 255) uint32_t indice);
 uint32_t idcolor_colorRGBSegunColorFondo(VN_RANGO(0, 255) uint32_t indice, vnbool fondo_claro);
 uint32_t idcolor_colorRGBSegunFondo(VN_RANGO(0, 255) uint32_t indice, uint32_t rgb_fondo);

@@ -20,55 +20,56 @@ idcolor *idcolor_crea_color_rgba(uint32_t rgba);
 /** New colour of the AutoCAD palette if the value stands in it, with the lowest such index; else direct and opaque. */
 idcolor *idcolor_crea_color_ajustando_paleta_autocad(uint32_t rgb);
 /** New copy. */
-idcolor *idcolor_copia(const idcolor *idcolor);
+idcolor *idcolor_copia(const idcolor *color);
 /** New copy, in which an index of the own palette has become that of the AutoCAD palette. */
-idcolor *idcolor_transforma_a_color_autocad_si_es_color_paleta(const idcolor *idcolor);
-/** Frees the colour and leaves `*idcolor` null. */
-void idcolor_destruye(idcolor **idcolor);
+idcolor *idcolor_transforma_a_color_autocad_si_es_color_paleta(const idcolor *color);
+/** Frees the colour and leaves `*color` null. */
+void idcolor_destruye(idcolor **color);
 
 /** `destino` becomes what `origen` is. */
 void idcolor_asigna(idcolor *destino, const idcolor *origen);
 /** The colour becomes one of the own palette (the reserved indices too), or a direct one. */
-void idcolor_set_color_paleta_vorn(idcolor *idcolor, uint8_t indice);
-void idcolor_set_color_rgba(idcolor *idcolor, uint32_t rgba);
+void idcolor_set_color_paleta_vorn(idcolor *color, uint8_t indice);
+void idcolor_set_color_rgba(idcolor *color, uint32_t rgba);
 
 /** Whether the colour is an index, of either palette; of AutoCAD's. */
-vnbool idcolor_es_color_paleta(const idcolor *idcolor);
-vnbool idcolor_es_color_paleta_autocad(const idcolor *idcolor);
+vnbool idcolor_es_color_paleta(const idcolor *color);
+vnbool idcolor_es_color_paleta_autocad(const idcolor *color);
 /** Whether it is "that of the layer": index 254 of the own palette, not of AutoCAD's. */
-vnbool idcolor_es_vplan_porcapa(const idcolor *idcolor);
+vnbool idcolor_es_vplan_porcapa(const idcolor *color);
 /** Whether both are of one kind and have the same index or value. */
-vnbool idcolor_es_igual(const idcolor *idcolor1, const idcolor *idcolor2);
+vnbool idcolor_es_igual(const idcolor *color1, const idcolor *color2);
 /** Whether it is a direct colour of this value; the first form leaves its alpha out. */
-vnbool idcolor_es_igual_color_RGB(const idcolor *idcolor, uint32_t rgb);
-vnbool idcolor_es_igual_color_RGBA(const idcolor *idcolor, uint32_t rgba);
+vnbool idcolor_es_igual_color_RGB(const idcolor *color, uint32_t rgb);
+vnbool idcolor_es_igual_color_RGBA(const idcolor *color, uint32_t rgba);
 
 /** The index as it stands, of either palette; a direct colour is reported: 0. */
-uint8_t idcolor_color_paleta(const idcolor *idcolor);
+uint8_t idcolor_color_paleta(const idcolor *color);
 /** The index in the AutoCAD palette; of a direct colour the nearest. */
-uint8_t idcolor_color_paleta_autocad(const idcolor *idcolor);
+uint8_t idcolor_color_paleta_autocad(const idcolor *color);
 /** The index in the own palette; of a direct colour the nearest of the AutoCAD palette, as it stands there. */
-uint8_t idcolor_color_paleta_vorn(const idcolor *idcolor);
+uint8_t idcolor_color_paleta_vorn(const idcolor *color);
 /** The RGB value on a light background; the second form with alpha, 255 for an index. */
-uint32_t idcolor_color_rgb(const idcolor *idcolor);
-uint32_t idcolor_color_rgba(const idcolor *idcolor);
-/** The RGB value on a background. An index has its value on a light one, but white (on 0) becomes black and black (on 2)
-    white. In the second form the own colours have their values for dark backgrounds on 2 (black stays black). A kind of
-    background out of range is reported: the value is not adapted. */
-uint32_t idcolor_color_rgb_segun_fondo(const idcolor *idcolor, VN_RANGO(0, 2) uint32_t tipo_fondo);
-uint32_t idcolor_color_rgb_segun_fondo_para_vplanglsl(const idcolor *idcolor, VN_RANGO(0, 2) uint32_t tipo_fondo);
-/** The RGB value dimmed: of an AutoCAD index, that of a darker index of its hue; of a direct colour as idcolor_rgb_tenue.
-    An own index is reported: 0. */
-uint32_t idcolor_color_rgb_tenue(const idcolor *idcolor);
-/** As other programs take colours: of an index, `tipo` 0, the AutoCAD index, all bytes 255; of a direct colour, `tipo` 1,
-    index 0xFFFF, its bytes. */
-void idcolor_color_para_ARX_DWG_y_ALLPLAN(const idcolor *idcolor, VN_SALIDA uint32_t *tipo, VN_SALIDA uint16_t *indice,
+uint32_t idcolor_color_rgb(const idcolor *color);
+uint32_t idcolor_color_rgba(const idcolor *color);
+/** The RGB value on a background. An index has its value on a light one; in the second form an own one on 2 that on a
+    dark one. Of an index white on 0 becomes black then, and black on 2 white. A kind of background out of range is
+    reported: nothing is adapted. */
+uint32_t idcolor_color_rgb_segun_fondo(const idcolor *color, VN_RANGO(0, 2) uint32_t tipo_fondo);
+uint32_t idcolor_color_rgb_segun_fondo_para_vplanglsl(const idcolor *color, VN_RANGO(0, 2) uint32_t tipo_fondo);
+/** The RGB value dimmed: of an AutoCAD index, that of a darker index of its hue; of a direct colour as
+    idcolor_rgb_tenue. An own index is reported: 0. */
+uint32_t idcolor_color_rgb_tenue(const idcolor *color);
+/** As other programs take colours: of an index, `tipo` 0, the AutoCAD index, all bytes 255; of a direct colour,
+    `tipo` 1, index 0xFFFF, its bytes. */
+void idcolor_color_para_ARX_DWG_y_ALLPLAN(const idcolor *color, VN_SALIDA uint32_t *tipo, VN_SALIDA uint16_t *indice,
                                           VN_SALIDA uint8_t *r, VN_SALIDA uint8_t *g, VN_SALIDA uint8_t *b,
                                           VN_SALIDA_OPC uint8_t *a);
 
-/** Writes the kind (16 bits), the index and the value, and reads them: a new colour. The own palette is not for storing:
-    it is reported, and written and read all the same. Null if the reading failed. */
-void idcolor_graba(const idcolor *idcolor, vornsave *save);
+/** Writes the kind (16 bits), the index and the value, and reads them: a new colour. The own palette, whose colours
+    depend on the background, is not for storing: it is reported, and written and read all the same; so is a kind that
+    there is not. */
+void idcolor_graba(const idcolor *color, vornsave *save);
 idcolor *idcolor_lee(vornsave *save);
 /** The version of the stored form: 0. */
 uint32_t idcolor_version_DB(void);

@@ -1,6 +1,6 @@
-/* Colours: arithmetic of RGB and RGBA values. idcolor.h tells what holds for all. Values of RGB operations have alpha 0, and
-   that of their arguments is passed over. A proportion out of its range, or no number, is reported: the first value
-   comes back as it was. */
+/* Colours: arithmetic of RGB and RGBA values. idcolor.h tells what holds for all. Values of RGB operations have alpha
+   0, and that of their arguments is passed over. A proportion out of its range, or no number, is reported: the first
+   value comes back as it was. */
 #ifndef VN_IDCOLOR_RGB_H
 #define VN_IDCOLOR_RGB_H
 

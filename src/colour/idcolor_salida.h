@@ -10,14 +10,14 @@ typedef void (*vnfunc_color_rgba)(void *salida, uint32_t rgba);
 
 VN_C_INICIO
 
-/** Called through idcolor_escr_color: an index goes to the first function as it stands, a direct colour to the second. Index
-    255 of the AutoCAD palette, which an output would take for "no change", goes to the second as 0xFFFFFF: white, of
-    alpha 0. */
-void idcolor_nousar_escr_color(VN_DATO void *salida, const idcolor *idcolor, vnfunc_color_paleta func_escr_color_paleta,
+/** Called through idcolor_escr_color: an index goes to the first function as it stands, a direct colour to the
+    second. Index 255 of the AutoCAD palette, which an output would take for "no change", goes to the second as
+    0xFFFFFF: white, of alpha 0. */
+void idcolor_nousar_escr_color(VN_DATO void *salida, const idcolor *color, vnfunc_color_paleta func_escr_color_paleta,
                                vnfunc_color_rgba func_escr_color_rgba);
 /** Called through idcolor_escr_color_con_paleta_vorn: the same with indices of the own palette alone. 255 of the
     AutoCAD palette is 15 there. */
-void idcolor_nousar_escr_color_con_paleta_vorn(VN_DATO void *salida, const idcolor *idcolor,
+void idcolor_nousar_escr_color_con_paleta_vorn(VN_DATO void *salida, const idcolor *color,
                                                vnfunc_color_paleta func_escr_color_paleta,
                                                vnfunc_color_rgba func_escr_color_rgba);
 

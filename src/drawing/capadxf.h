@@ -6,8 +6,8 @@
 
 VN_C_INICIO
 
-/** The code of a pen for a device: 0 and 1 give 1, 2 to 4 themselves, 6 gives 7, 254 (of the layer) 5, 255 (no change) 0.
-    Another pen is reported: 0. */
+/** The code of a pen for a device: 0 and 1 give 1, 2 to 4 themselves, 6 gives 7, 254 (of the layer) 5, 255 (no
+    change) 0. Another pen is reported: 0. */
 uint32_t capadxf_convertir_pluma(uint8_t pluma);
 
 /** New name fit for a layer: upper case without accents, "_" for blanks, commas, points, slashes, colons and double

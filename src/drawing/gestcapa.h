@@ -12,7 +12,8 @@ VN_C_INICIO
 gestcapa *gestcapa_crea(void);
 /** Frees it and leaves `*gestionCapas` null. Groups still open are reported at class 1. */
 void gestcapa_destruye(gestcapa **gestionCapas);
-/** Begins a group: the current table is kept, and a new one with its current attributes and no layers takes its place. */
+/** Begins a group: the current table is kept, and a new one with its current attributes and no layers takes its
+    place. */
 void gestcapa_guardar_capas(gestcapa *gestionCapas);
 /** Ends a group: the table of before is current again, and that of the group is freed. No group is reported. */
 void gestcapa_fin_grupos_capas(gestcapa *gestionCapas);
