@@ -109,7 +109,7 @@ uint8_t idcolor_dame_indice_color_autocad_mas_cercano_a_RGB(uint32_t rgb) {
 uint32_t idcolor_colorRGB(uint32_t indice) { return rgb_de_indice(indice, true); }
 
 uint32_t idcolor_colorRGBSegunColorFondo(uint32_t indice, vnbool fondo_claro) {
-    return rgb_de_indice(indice, fondo_claro == CIERTO);
+    return AFIRMA_LOGICO(fondo_claro) ? rgb_de_indice(indice, fondo_claro == CIERTO) : 0;
 }
 
 uint32_t idcolor_colorRGBSegunFondo(uint32_t indice, uint32_t rgb_fondo) {

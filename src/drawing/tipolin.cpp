@@ -96,7 +96,7 @@ bool es_valido(const tipolin *tipo) {
 
 arrDouble *array_de(const patron_fijo &p) {
     dueno<arr_DestruyeDouble> a(arr_CreaDouble(p.n));
-    std::copy_n(p.elementos, p.n, listas::tramo(a.get()).begin());
+    if (a != nullptr) std::copy_n(p.elementos, p.n, listas::tramo(a.get()).begin());
     return a.release();
 }
 
@@ -106,6 +106,7 @@ tipolin *tipolin_crea(const vnwchar *nombre, const vnwchar *descripcion, const a
     if (!EXIGE(nombre, descripcion, patron)) return nullptr;
     propio<vnwchar> su_nombre(widestr_copia(nombre)), su_descripcion(widestr_copia(descripcion));
     dueno<arr_DestruyeDouble> su_patron(arr_CopiaDouble(patron));
+    if (su_patron == nullptr) return nullptr; // there was no memory for it
     return new (vornspy_malloc(sizeof(tipolin)))
         tipolin{std::move(su_nombre), std::move(su_descripcion), std::move(su_patron), estilo_de(punteado_de(patron))};
 }

@@ -11,7 +11,7 @@ using namespace vn;
 namespace {
 
 constexpr idcolor AUTOCAD_15{0, 15, 0xFFFFFFFF}, DIRECTO{1, 255, 0x80C86403}, VORN_4{2, 4, 0xFFFFFFFF},
-    POR_CAPA{2, VPLAN_PORCAPA, 0xFFFFFFFF}, NO_CAMBIAR{2, VPLAN_NOCAMBIAR, 0xFFFFFFFF};
+    POR_CAPA{2, VPLAN_PORCAPA, 0xFFFFFFFF};
 
 bool operator==(const idcolor &a, const idcolor &b) {
     return a.tipo_color == b.tipo_color && a.color_paleta == b.color_paleta && a.rgba == b.rgba;
@@ -31,6 +31,36 @@ std::string texto(const idcolor &c) {
 }
 
 uint32_t un_rgb(azar &a) { return static_cast<uint32_t>(a.siguiente() >> 40); }
+
+// What a colour answers to every question, as one line.
+std::string respuestas(const idcolor &c) {
+    std::string r;
+    const auto di = [&](const char *formato, auto... v) {
+        char t[80];
+        std::snprintf(t, sizeof t, formato, v...);
+        r += t;
+    };
+    di("%d%d%d ", idcolor_es_color_paleta(&c), idcolor_es_color_paleta_autocad(&c), idcolor_es_vplan_porcapa(&c));
+    di("%d %d %d; ", idcolor_color_paleta(&c), idcolor_color_paleta_autocad(&c), idcolor_color_paleta_vorn(&c));
+    di("%X %X %X;", idcolor_color_rgb(&c), idcolor_color_rgba(&c), idcolor_color_rgb_tenue(&c));
+    for (const uint32_t fondo : {0u, 1u, 2u}) di(" %X", idcolor_color_rgb_segun_fondo(&c, fondo));
+    for (const uint32_t fondo : {0u, 1u, 2u}) di(" %X", idcolor_color_rgb_segun_fondo_para_vplanglsl(&c, fondo));
+    uint32_t tipo = 9;
+    uint16_t indice = 9;
+    uint8_t bytes[4] = {};
+    idcolor_color_para_ARX_DWG_y_ALLPLAN(&c, &tipo, &indice, &bytes[0], &bytes[1], &bytes[2], &bytes[3]);
+    di("; %u %d %d %d %d %d;", tipo, indice, bytes[0], bytes[1], bytes[2], bytes[3]);
+    // To an output.
+    void (*const escribe_indice)(std::string *, uint8_t) = [](std::string *t, uint8_t i) {
+        *t += " #" + std::to_string(i);
+    };
+    void (*const escribe_rgba)(std::string *, uint32_t) = [](std::string *t, uint32_t v) {
+        *t += " rgba " + std::to_string(v);
+    };
+    idcolor_escr_color(std::string, &r, &c, escribe_indice, escribe_rgba);
+    idcolor_escr_color_con_paleta_vorn(std::string, &r, &c, escribe_indice, escribe_rgba);
+    return r;
+}
 
 } // namespace
 
@@ -106,36 +136,27 @@ PRUEBA(idcolor, el_indice_exacto_y_el_mas_cercano) {
     EXPECT_EQ(rgb(idcolor_dame_indice_color_autocad_mas_cercano_a_RGB(0xFFFFFF)), 0xC0C0C0u);
 }
 
+// Kinds out of range among them, as a file may bring one: reported by every question, and nothing is answered.
 PRUEBA(idcolor, lo_que_contesta_cada_tipo) {
-    const struct {
-        idcolor c;
-        bool es_paleta, es_autocad, es_porcapa;
-        const char *arx; // type, index, bytes
-    } casos[] = {
-        {AUTOCAD_15, true, true, false, "0 15 255 255 255 255"},
-        {DIRECTO, false, false, false, "1 65535 3 100 200 128"},
-        {VORN_4, true, false, false, "0 16 255 255 255 255"},
-        {POR_CAPA, true, false, true, "0 254 255 255 255 255"},
-        {{0, VPLAN_PORCAPA, 0xFFFFFFFF}, true, true, false, "0 254 255 255 255 255"},
-        {NO_CAMBIAR, true, false, false, "0 255 255 255 255 255"},
-        {{1, 255, 0xFEC86403}, false, false, false, "1 65535 3 100 200 254"},
-    };
-    for (const auto &f : casos) {
-        EXPECT_EQ(idcolor_es_color_paleta(&f.c), f.es_paleta);
-        EXPECT_EQ(idcolor_es_color_paleta_autocad(&f.c), f.es_autocad);
-        EXPECT_EQ(idcolor_es_vplan_porcapa(&f.c), f.es_porcapa);
-        uint32_t tipo = 9;
-        uint16_t indice = 9;
-        uint8_t r, g, b, al;
-        idcolor_color_para_ARX_DWG_y_ALLPLAN(&f.c, &tipo, &indice, &r, &g, &b, &al);
-        std::string arx = std::to_string(tipo);
-        for (const int n : {int{indice}, int{r}, int{g}, int{b}, int{al}}) arx += " " + std::to_string(n);
-        EXPECT_EQ(arx, f.arx);
-        for (const auto &g2 : casos) EXPECT_EQ(idcolor_es_igual(&f.c, &g2.c), &f.c == &g2.c) << texto(f.c);
-        idcolor copia{};
-        idcolor_asigna(&copia, &f.c);
-        EXPECT_TRUE(copia == f.c && toma(idcolor_copia(&f.c)) == f.c);
+    std::vector<idcolor> todos;
+    for (const auto &[tipo, indice, rgba, informes, esperadas] :
+         filas<int32_t, uint8_t, uint32_t, size_t, std::string>("colour/idcolor.tsv", "tipos")) {
+        const idcolor c{tipo, indice, rgba};
+        EXPECT_EQ(respuestas(c), esperadas) << texto(c);
+        EXPECT_EQ(toma_informes().size(), informes) << texto(c);
+        if (tipo >= 0 && tipo <= 2) todos.push_back(c);
     }
+    for (const idcolor &c : todos) {
+        for (const idcolor &otro : todos) EXPECT_EQ(idcolor_es_igual(&c, &otro), &c == &otro) << texto(c);
+        idcolor copia{};
+        idcolor_asigna(&copia, &c);
+        EXPECT_TRUE(copia == c && toma(idcolor_copia(&c)) == c);
+        EXPECT_EQ(idcolor_color_rgb_segun_fondo(&c, 3), idcolor_color_rgb_segun_fondo(&c, 1));
+        EXPECT_EQ(toma_informes().size(), 1u);
+    }
+}
+
+PRUEBA(idcolor, como_se_hace_cada_uno) {
     EXPECT_TRUE(toma(idcolor_crea_color_por_capa()) == POR_CAPA);
     EXPECT_TRUE(toma(idcolor_crea_color_paleta_vorn(4)) == VORN_4);
     EXPECT_TRUE(toma(idcolor_crea_color_paleta_autocad(15)) == AUTOCAD_15);
@@ -143,8 +164,8 @@ PRUEBA(idcolor, lo_que_contesta_cada_tipo) {
     EXPECT_TRUE(toma(idcolor_crea_color_rgb(0x80C86403)) == (idcolor{1, 255, 0xFFC86403}));
     EXPECT_TRUE(toma(idcolor_transforma_a_color_autocad_si_es_color_paleta(&DIRECTO)) == DIRECTO);
     idcolor c = DIRECTO;
-    idcolor_set_color_paleta_vorn(&c, VPLAN_NOCAMBIAR);
-    EXPECT_TRUE(c == NO_CAMBIAR);
+    idcolor_set_color_paleta_vorn(&c, VPLAN_PORCAPA);
+    EXPECT_TRUE(c == POR_CAPA);
     idcolor_set_color_rgba(&c, 0x80C86403);
     EXPECT_TRUE(c == DIRECTO);
     EXPECT_EQ(idcolor_es_igual_color_RGB(&c, 0xC86403), CIERTO);
@@ -154,32 +175,6 @@ PRUEBA(idcolor, lo_que_contesta_cada_tipo) {
         EXPECT_TRUE(toma(ESPERA_INFORME("color_paleta != VPLAN_PORCAPA && color_paleta != VPLAN_NOCAMBIAR",
                                         idcolor_crea_color_paleta_vorn(reservado))) ==
                     (idcolor{2, reservado, 0xFFFFFFFF}));
-}
-
-PRUEBA(idcolor, sobre_cada_fondo) {
-    constexpr idcolor BLANCO_ACI{0, 255, 0xFFFFFFFF}, NEGRO_ACI{0, 7, 0xFFFFFFFF}, BLANCO{2, 15, 0xFFFFFFFF},
-        NEGRO{2, 7, 0xFFFFFFFF}, BLANCO_DIRECTO{1, 255, 0xFFFFFFFF}, NEGRO_DIRECTO{1, 255, 0xFF000000};
-    const struct {
-        idcolor c;
-        uint32_t fondos[3], glsl[3];
-    } casos[] = {
-        {BLANCO_ACI, {0, 0xFFFFFF, 0xFFFFFF}, {0, 0xFFFFFF, 0xFFFFFF}},
-        {NEGRO_ACI, {0, 0, 0xFFFFFF}, {0, 0, 0xFFFFFF}},
-        {BLANCO, {0, 0xFFFFFF, 0xFFFFFF}, {0, 0xFFFFFF, 0xFFFFFF}},
-        {NEGRO, {0, 0, 0xFFFFFF}, {0, 0, 0xFFFFFF}},
-        {BLANCO_DIRECTO, {0xFFFFFF, 0xFFFFFF, 0xFFFFFF}, {0xFFFFFF, 0xFFFFFF, 0xFFFFFF}},
-        {NEGRO_DIRECTO, {0, 0, 0}, {0, 0, 0}},
-        {VORN_4, {0x000080, 0x000080, 0x000080}, {0x000080, 0x000080, 0x0066CC}},
-    };
-    for (const auto &f : casos) {
-        SCOPED_TRACE(texto(f.c));
-        for (uint32_t fondo = 0; fondo < 3; ++fondo) {
-            EXPECT_EQ(idcolor_color_rgb_segun_fondo(&f.c, fondo), f.fondos[fondo]);
-            EXPECT_EQ(idcolor_color_rgb_segun_fondo_para_vplanglsl(&f.c, fondo), f.glsl[fondo]);
-        }
-        EXPECT_EQ(idcolor_color_rgb_segun_fondo(&f.c, 3), f.fondos[1]);
-        EXPECT_EQ(toma_informes().size(), 1u);
-    }
 }
 
 PRUEBA(idcolor, cuentas_con_valores) {
@@ -207,7 +202,6 @@ PRUEBA(idcolor, cuentas_con_valores) {
         const idcolor c{0, indice, 0xFFFFFFFF};
         EXPECT_EQ(idcolor_color_rgb_tenue(&c), idcolor_dame_RGB_de_indice_color_autocad(su_tenue)) << int{indice};
     }
-    EXPECT_EQ(idcolor_color_rgb_tenue(&DIRECTO), idcolor_rgb_tenue(0xC86403));
     EXPECT_EQ(idcolor_color_rgb_igual(0x20102030, 0x00121E31, 2), CIERTO);
     EXPECT_EQ(idcolor_color_rgb_igual(0x00102030, 0x00121E31, 1), FALSO);
     EXPECT_EQ(idcolor_color_con_transparencia(0xFEFFFFFF), CIERTO);
@@ -260,69 +254,4 @@ PRUEBA(idcolor, textos_y_colores_de_listas) {
     EXPECT_EQ(idcolor_color_texto_selector(6), 0u);
     EXPECT_EQ(idcolor_color_texto_selector(7), 0x323232u);
     EXPECT_EQ(ESPERA_INFORME("tabuladores < 8", idcolor_color_fondo_selector(8)), 0u);
-}
-
-// What an output is told, as text.
-PRUEBA(idcolor, a_una_salida) {
-    std::string dicho;
-    const auto indice = [](std::string *s, uint8_t i) { *s += "indice " + std::to_string(i); };
-    const auto rgba = [](std::string *s, uint32_t v) {
-        char t[20];
-        std::snprintf(t, sizeof t, "rgba %08X", v);
-        *s += t;
-    };
-    void (*const fi)(std::string *, uint8_t) = indice;
-    void (*const fr)(std::string *, uint32_t) = rgba;
-    const struct {
-        idcolor c;
-        const char *tal_cual, *con_paleta_vorn;
-    } casos[] = {
-        {AUTOCAD_15, "indice 15", "indice 245"},
-        {{0, 1, 0xFFFFFFFF}, "indice 1", "indice 12"},
-        {{0, 255, 0xFFFFFFFF}, "rgba 00FFFFFF", "indice 15"},
-        {DIRECTO, "rgba 80C86403", "rgba 80C86403"},
-        {VORN_4, "indice 4", "indice 4"},
-        {POR_CAPA, "indice 254", "indice 254"},
-        {NO_CAMBIAR, "indice 255", "indice 255"},
-        {{3, 0, 0}, "", ""},
-    };
-    for (const auto &f : casos) {
-        dicho.clear();
-        idcolor_escr_color(std::string, &dicho, &f.c, fi, fr);
-        EXPECT_EQ(dicho, f.tal_cual);
-        dicho.clear();
-        idcolor_escr_color_con_paleta_vorn(std::string, &dicho, &f.c, fi, fr);
-        EXPECT_EQ(dicho, f.con_paleta_vorn);
-    }
-    EXPECT_EQ(toma_informes().size(), 2u);
-}
-
-// A kind out of range, as a file may bring one: one report, and a neutral answer.
-PRUEBA(idcolor, un_tipo_que_no_hay) {
-    const std::function<uint32_t(const idcolor *)> preguntas[] = {
-        idcolor_es_color_paleta,
-        idcolor_es_color_paleta_autocad,
-        idcolor_es_vplan_porcapa,
-        idcolor_color_paleta,
-        idcolor_color_paleta_autocad,
-        idcolor_color_paleta_vorn,
-        idcolor_color_rgb,
-        idcolor_color_rgba,
-        idcolor_color_rgb_tenue,
-        [](const idcolor *c) { return idcolor_color_rgb_segun_fondo(c, 0); },
-        [](const idcolor *c) { return idcolor_color_rgb_segun_fondo_para_vplanglsl(c, 0); },
-        [](const idcolor *c) { return idcolor_es_igual(c, c); },
-        [](const idcolor *c) { return idcolor_es_igual_color_RGB(c, 0); },
-    };
-    for (const int32_t tipo : {-1, 3, INT32_MIN, INT32_MAX}) {
-        const idcolor malo{tipo, 12, 0};
-        for (const auto &pregunta : preguntas) {
-            EXPECT_EQ(pregunta(&malo), 0u);
-            EXPECT_EQ(toma_informes().size(), 1u) << tipo << " " << &pregunta - preguntas;
-        }
-    }
-    // Questions that have no answer for a kind.
-    EXPECT_EQ(idcolor_color_paleta(&DIRECTO), 0);
-    EXPECT_EQ(idcolor_color_rgb_tenue(&VORN_4), 0u);
-    EXPECT_EQ(toma_informes().size(), 2u);
 }

@@ -36,21 +36,23 @@ struct modelo {
     int actual = 255, mas_alta = 0;
     std::vector<std::pair<atributos, int>> pila;
 
-    void repone() {
-        if (pila.empty()) return;
-        std::tie(actuales, actual) = pila.back();
-        pila.pop_back();
-    }
-    int define(int numero, const std::string &nombre, atributos como) {
-        if (capas.contains(numero)) return numero;
+    void completa(atributos &como) const {
         if (como.pluma == 0) como.pluma = actuales.pluma;
         if (como.grosor == 0) como.grosor = actuales.grosor;
         if (como.color == -1) como.color = actuales.color;
         if (como.tipo == 255) como.tipo = actuales.tipo;
         if (como.extra == 255) como.extra = actuales.extra;
+    }
+    // Of the lowest layer like that; -1 if there is none.
+    int busca(const std::string &nombre, const atributos &como) const {
+        for (const auto &[n, c] : capas)
+            if (c == std::pair(nombre, como)) return n;
+        return -1;
+    }
+    int define(int numero, const std::string &nombre, const atributos &como) {
+        if (capas.contains(numero)) return numero;
         if (numero == 255) {
-            for (const auto &[n, c] : capas)
-                if (c == std::pair(nombre, como)) return n;
+            if (const int n = busca(nombre, como); n != -1) return n;
             if (mas_alta >= 253) return 0;
             numero = mas_alta + 1;
         }
@@ -61,7 +63,7 @@ struct modelo {
 };
 
 constexpr const char *SIN_DEFINIR = "arr_GetBOOL(array->capas_definidas, num_capa) == CIERTO";
-const char *const DEFINIDAS[] = {"EJE", "Eje"};
+const char *const DEFINIDAS[] = {"", "EJE", "Eje"};
 
 // What the library says that is current; a colour is its index.
 std::tuple<atributos, int, std::string> actuales(const arraydxf *a) {
@@ -71,126 +73,112 @@ std::tuple<atributos, int, std::string> actuales(const arraydxf *a) {
     const idcolor *color;
     const vnwchar *definida;
     arraydxf_obtener_atributos_actuales_u(a, &capa, &pluma, &grosor, &color, &tipo, &definida, &extra);
-    const int cual = definida == nullptr ? -1 : utf8_de(definida) != DEFINIDAS[0];
+    const int cual = definida == nullptr ? -1 : utf8_de(definida) == DEFINIDAS[2];
     return {{int(pluma), int(std::lround(grosor * 100.)), color->color_paleta, tipo, cual, extra},
             capa,
             utf8_de(arraydxf_obtener_nombre_capa_actual_u(a))};
 }
 
+// A stack of tables and its model, and what may be done to both.
+struct pareja {
+    azar al;
+    int nombres; // many fill the table up
+    dueno<gestcapa_destruye> g{gestcapa_crea()};
+    std::vector<modelo> pila = std::vector<modelo>(1);
+
+    arraydxf *a() const { return g->actual.get(); }
+    modelo &m() { return pila.back(); }
+    int uno_de(int n) { return static_cast<int>(al.entero(static_cast<uint32_t>(n))); }
+
+    void define() {
+        const auto nombre = "capa" + std::to_string(uno_de(nombres));
+        const int numero = uno_de(3) == 0 ? uno_de(255) : 255;
+        atributos como{uno_de(3), uno_de(2) * 25, uno_de(3) - 1, uno_de(2) * 255, uno_de(3) - 1, uno_de(2) * 255};
+        const idcolor c = como.color == -1 ? NO_CAMBIAR : aci(como.color);
+        const auto n = ancho(nombre), d = ancho(DEFINIDAS[como.definida + 1]);
+        const vnwchar *const definida = como.definida < 0 ? nullptr : d.c_str();
+        const auto pluma = static_cast<uint32_t>(como.pluma);
+        const auto tipo = static_cast<uint8_t>(como.tipo), extra = static_cast<uint8_t>(como.extra);
+        const double grosor = como.grosor / 100.;
+        m().completa(como);
+        uint8_t hallada = 255;
+        const int esperada = m().busca(nombre, como);
+        EXPECT_EQ(arraydxf_existe_la_capa_con_mismos_atributos_u(a(), n.c_str(), pluma, grosor, &c, tipo, definida,
+                                                                 extra, &hallada),
+                  esperada != -1);
+        EXPECT_EQ(hallada, static_cast<uint8_t>(esperada));
+        EXPECT_EQ(arraydxf_define_capas_u(a(), static_cast<uint8_t>(numero), n.c_str(), pluma, grosor, &c, tipo,
+                                          definida, extra),
+                  m().define(numero, nombre, como));
+    }
+    void cambia_capa() {
+        const int numero = uno_de(m().mas_alta + 1);
+        vnbool pluma, color, tipo;
+        con_informe(m().capas.contains(numero) ? nullptr : SIN_DEFINIR,
+                    [&] { arraydxf_cambiar_capa_u(a(), static_cast<uint8_t>(numero), &pluma, &color, &tipo); });
+        const atributos de = m().actuales;
+        atributos &es = m().actuales;
+        if (m().capas.contains(numero)) {
+            es = m().capas[m().actual = numero].second;
+            es.extra = de.extra;
+        }
+        EXPECT_EQ(pluma, std::pair(de.pluma, de.grosor) != std::pair(es.pluma, es.grosor));
+        EXPECT_EQ(color, de.color != es.color);
+        EXPECT_EQ(tipo, std::pair(de.tipo, de.definida) != std::pair(es.tipo, es.definida));
+    }
+    void cambia_atributos() {
+        const atributos de = m().actuales;
+        atributos &es = m().actuales;
+        const bool por_capa = uno_de(2) == 0 && m().capas.contains(m().actual);
+        es = {1 + uno_de(3), uno_de(2) * 25, uno_de(4), uno_de(3), uno_de(3) - 1, de.extra};
+        if (por_capa) es.color = m().capas[m().actual].second.color;
+        const idcolor c = por_capa ? POR_CAPA : aci(es.color);
+        const auto d = ancho(DEFINIDAS[es.definida + 1]);
+        EXPECT_EQ(arraydxf_cambiar_idcolor(a(), &c), de.color != es.color);
+        EXPECT_EQ(arraydxf_cambiar_pluma(a(), static_cast<uint32_t>(es.pluma), es.grosor / 100.),
+                  std::pair(de.pluma, de.grosor) != std::pair(es.pluma, es.grosor));
+        EXPECT_EQ(
+            arraydxf_cambiar_tipo_linea_u(a(), static_cast<uint8_t>(es.tipo), es.definida < 0 ? nullptr : d.c_str()),
+            std::pair(de.tipo, de.definida) != std::pair(es.tipo, es.definida));
+    }
+    void guarda() {
+        arraydxf_guardar_atributos_actuales(a());
+        m().pila.emplace_back(m().actuales, m().actual);
+    }
+    void repone() {
+        con_informe(m().pila.empty() ? "num_apilados > 0" : nullptr, [&] { arraydxf_reponer_atributos_u(a()); });
+        if (m().pila.empty()) return;
+        std::tie(m().actuales, m().actual) = m().pila.back();
+        m().pila.pop_back();
+    }
+    void abre_grupo() {
+        gestcapa_guardar_capas(g.get());
+        pila.push_back({{}, m().actuales, m().actual, 0, {}});
+    }
+    void cierra_grupo() {
+        while (!m().pila.empty()) repone();
+        con_informe(pila.size() == 1 ? "num_apilados > 0" : nullptr, [&] { gestcapa_fin_grupos_capas(g.get()); });
+        if (pila.size() > 1) pila.pop_back();
+    }
+};
+
 } // namespace
 
 PRUEBA(arraydxf, programas_al_azar_contra_un_modelo) {
+    constexpr void (pareja::*OPERACIONES[])() = {
+        &pareja::define,           &pareja::define, &pareja::define, &pareja::define,     &pareja::cambia_capa,
+        &pareja::cambia_atributos, &pareja::guarda, &pareja::repone, &pareja::abre_grupo, &pareja::cierra_grupo};
     for (uint64_t semilla = 1; semilla <= 30; ++semilla) {
-        azar al(semilla);
-        dueno<gestcapa_destruye> g(gestcapa_crea());
-        std::vector<modelo> pila(1);
-        const int nombres = semilla % 3 == 0 ? 400 : 4; // many fill the table up
-        for (int paso = 0; paso < 600; ++paso) {
-            arraydxf *const a = g->actual.get();
-            modelo &m = pila.back();
+        pareja p{azar(semilla), semilla % 3 == 0 ? 400 : 4};
+        for (int paso = 0; paso < 600 && !HasFailure(); ++paso) {
             SCOPED_TRACE(testing::Message() << semilla << ", " << paso);
-            const auto uno_de = [&](int n) { return static_cast<int>(al.entero(static_cast<uint32_t>(n))); };
-            const char *const otra = uno_de(2) == 0 ? nullptr : DEFINIDAS[uno_de(2)];
-            const int definida = otra == nullptr ? -1 : otra == DEFINIDAS[1];
-            switch (uno_de(11)) {
-            case 0:
-            case 1:
-            case 2:
-            case 3: {
-                const std::string nombre = "capa" + std::to_string(uno_de(nombres));
-                const int numero = uno_de(3) == 0 ? uno_de(255) : 255, color = uno_de(3) - 1;
-                const atributos como{uno_de(3), uno_de(2) * 25, color, uno_de(2) * 255, definida, uno_de(2) * 255};
-                const idcolor c = color == -1 ? NO_CAMBIAR : aci(color);
-                uint8_t hallada = 99;
-                const vnbool hay = arraydxf_existe_la_capa_con_mismos_atributos_u(
-                    a, ancho(nombre).c_str(), uint32_t(como.pluma), como.grosor / 100., &c, uint8_t(como.tipo),
-                    otra ? ancho(otra).c_str() : nullptr, uint8_t(como.extra), &hallada);
-                const bool es_nueva = !m.capas.contains(numero);
-                const size_t antes = m.capas.size();
-                const int esperada = m.define(numero, nombre, como);
-                ASSERT_EQ(define(a, numero, nombre.c_str(), uint32_t(como.pluma), como.grosor / 100., c, como.tipo,
-                                 otra, como.extra),
-                          esperada);
-                if (numero == 255 && es_nueva && esperada != 0) {
-                    ASSERT_EQ(hay, m.capas.size() == antes);
-                }
-                if (hay == CIERTO) {
-                    ASSERT_TRUE(m.capas.contains(hallada) && m.capas[hallada].first == nombre);
-                }
-                break;
-            }
-            case 4: {
-                const int numero = uno_de(m.mas_alta + 1);
-                vnbool pluma, color, tipo;
-                const bool hay = m.capas.contains(numero);
-                con_informe(hay ? nullptr : SIN_DEFINIR,
-                            [&] { arraydxf_cambiar_capa_u(a, uint8_t(numero), &pluma, &color, &tipo); });
-                const atributos de = m.actuales;
-                if (hay) {
-                    const atributos &por = m.capas[numero].second;
-                    m.actual = numero;
-                    m.actuales = {por.pluma, por.grosor, por.color, por.tipo, por.definida, de.extra};
-                }
-                ASSERT_EQ(pluma, std::pair(de.pluma, de.grosor) != std::pair(m.actuales.pluma, m.actuales.grosor));
-                ASSERT_EQ(color, de.color != m.actuales.color);
-                ASSERT_EQ(tipo, std::pair(de.tipo, de.definida) != std::pair(m.actuales.tipo, m.actuales.definida));
-                break;
-            }
-            case 5: {
-                const bool por_capa = uno_de(2) == 0 && m.capas.contains(m.actual);
-                const int de = m.actuales.color;
-                m.actuales.color = por_capa ? m.capas[m.actual].second.color : uno_de(4);
-                const idcolor c = por_capa ? POR_CAPA : aci(m.actuales.color);
-                ASSERT_EQ(arraydxf_cambiar_idcolor(a, &c), de != m.actuales.color);
-                break;
-            }
-            case 6: {
-                const auto de = std::pair(m.actuales.pluma, m.actuales.grosor);
-                const auto por = std::pair(1 + uno_de(3), uno_de(2) * 25);
-                std::tie(m.actuales.pluma, m.actuales.grosor) = por;
-                ASSERT_EQ(arraydxf_cambiar_pluma(a, uint32_t(por.first), por.second / 100.), de != por);
-                break;
-            }
-            case 7: {
-                const auto de = std::pair(m.actuales.tipo, m.actuales.definida);
-                const auto por = std::pair(uno_de(3), definida);
-                std::tie(m.actuales.tipo, m.actuales.definida) = por;
-                ASSERT_EQ(arraydxf_cambiar_tipo_linea_u(a, uint8_t(por.first), otra ? ancho(otra).c_str() : nullptr),
-                          de != por);
-                break;
-            }
-            case 8:
-                arraydxf_guardar_atributos_actuales(a);
-                m.pila.emplace_back(m.actuales, m.actual);
-                break;
-            case 9:
-                con_informe(m.pila.empty() ? "num_apilados > 0" : nullptr, [&] { arraydxf_reponer_atributos_u(a); });
-                m.repone();
-                break;
-            default:
-                if (uno_de(2) == 0) {
-                    gestcapa_guardar_capas(g.get());
-                    modelo del_grupo;
-                    del_grupo.actuales = m.actuales;
-                    del_grupo.actual = m.actual;
-                    pila.push_back(del_grupo);
-                    break;
-                }
-                for (; !m.pila.empty(); m.repone()) arraydxf_reponer_atributos_u(a);
-                con_informe(pila.size() == 1 ? "num_apilados > 0" : nullptr,
-                            [&] { gestcapa_fin_grupos_capas(g.get()); });
-                if (pila.size() > 1) pila.pop_back();
-            }
-            const modelo &ahora = pila.back();
-            const auto nombre = ahora.capas.contains(ahora.actual) ? ahora.capas.at(ahora.actual).first : "NO_NAME";
-            ASSERT_EQ(actuales(g->actual.get()), std::tuple(ahora.actuales, ahora.actual, nombre));
+            (p.*OPERACIONES[p.uno_de(std::size(OPERACIONES))])();
+            const auto capa = p.m().capas.find(p.m().actual);
+            EXPECT_EQ(actuales(p.a()), std::tuple(p.m().actuales, p.m().actual,
+                                                  capa != p.m().capas.end() ? capa->second.first : "NO_NAME"));
         }
-        for (; pila.size() > 1; pila.pop_back()) {
-            for (; !pila.back().pila.empty(); pila.back().pila.pop_back())
-                arraydxf_reponer_atributos_u(g->actual.get());
-            gestcapa_fin_grupos_capas(g.get());
-        }
-        for (; !pila[0].pila.empty(); pila[0].pila.pop_back()) arraydxf_reponer_atributos_u(g->actual.get());
+        while (p.pila.size() > 1) p.cierra_grupo();
+        while (!p.m().pila.empty()) p.repone();
     }
 }
 

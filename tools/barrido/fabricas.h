@@ -3,6 +3,9 @@
 #pragma once
 
 #include "barrido.h"
+#include "colour/idcolor.h"
+#include "drawing/arraydxf_priv.h"
+#include "drawing/tipolin.h"
 #include "environment/ultfichsel.h"
 #include "foundation/ficheros/dirwin.h"
 #include "foundation/ficheros/fichmem.h"
@@ -310,6 +313,38 @@ inline poligono_t *poligono_de_tres() {
     poligono_t *pol = poligono_vacio();
     for (const int32_t i : {0, 1, 3}) poligono_anade_punto_a_poligono_convexo(pol, i, i * i);
     return pol;
+}
+// Layers 1 and 2, the second current; its attributes saved, or not.
+inline arraydxf *capas() {
+    arraydxf *a = arraydxf_crea();
+    const idcolor rojo{0, 1, 0xFFFFFFFF};
+    for (const vnwchar *nombre : {VNU("muros"), VNU("ejes")})
+        arraydxf_define_capas_u(a, 255, nombre, 1, 0.25, &rojo, 0, nullptr, 0);
+    return a;
+}
+inline arraydxf *capas_con_guardados() {
+    arraydxf *a = capas();
+    arraydxf_guardar_atributos_actuales(a);
+    return a;
+}
+inline void destruye_capas(arraydxf *a) {
+    a->pila_de_atributos_actuales.clear();
+    arraydxf_destruye(&a);
+}
+inline gestcapa *grupo_de_capas() {
+    gestcapa *g = gestcapa_crea();
+    gestcapa_guardar_capas(g);
+    return g;
+}
+inline void destruye_grupos(gestcapa *g) {
+    g->pilaDeCapas.clear();
+    gestcapa_destruye(&g);
+}
+inline tipolin *linea_de_trazos() {
+    arrDouble *patron = tipolin_dame_patron_aproximado(2);
+    tipolin *t = tipolin_crea(VNU("trazos"), VNU("- -"), patron);
+    arr_DestruyeDouble(&patron);
+    return t;
 }
 inline void destruye_poligono(poligono_t *&pol) {
     poligono_destruye_pol(pol);

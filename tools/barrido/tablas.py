@@ -27,7 +27,7 @@ MANEJOS = [
     ("arrPuntero", r"", "punteros()", "arr_DestruyePunteroConTipo(&p)", 3),
     ("arrPunto3D", r"(?!arr_)", "triangulo()", "arr_DestruyePunto3D(&p)", 3),
     ("tmtime", r"", "vtm_crea(23, 59, 58, 31, 12, 2005)", "vtm_destruye(&p)", 0),
-    (r"arr(\w+)", r"", r"arr_Crea\1(3)", r"arr_Destruye\1(&p)", 3),
+    (r"arr([A-Z]\w+)", r"", r"arr_Crea\1(3)", r"arr_Destruye\1(&p)", 3),
     (r"(arulong(?:64)?)", r"", r"\1_de_tres()", r"\1_destruye(&p)", 3),
     (r"(acadorde)", r"", r"\1_de_tres()", r"\1_destruye(&p)", 3),
     (r"(acadordeu)", r"", r"\1_de_tres()", r"\1_destruye(&p)", 3),
@@ -53,6 +53,12 @@ MANEJOS = [
     ("poligono_t", r"poligono_crea_pol", "poligono_vacio()", "destruye_poligono(p)", 0),
     ("poligono_t", r"", "poligono_de_tres()", "destruye_poligono(p)", 0),
     ("ejes2d", r"", "ejes2d_crea(0., 0., 0., 1., 0., 0., 0., 1., 0.)", "ejes2d_destruye(&p)", 0),
+    ("idcolor", r"", "idcolor_crea_color_paleta_autocad(1)", "idcolor_destruye(&p)", 0),
+    ("arraydxf", r"arraydxf_destruye", "capas()", "destruye_capas(p)", 0),
+    ("arraydxf", r"", "capas_con_guardados()", "destruye_capas(p)", 0),
+    ("gestcapa", r"gestcapa_fin.*", "grupo_de_capas()", "destruye_grupos(p)", 0),
+    ("gestcapa", r"", "gestcapa_crea()", "destruye_grupos(p)", 0),
+    ("tipolin", r"", "linea_de_trazos()", "tipolin_destruye(&p)", 0),
     ("planoABCD", r"", "ejes2d_crea_planoABCD(0., 0., 1., 0.)", "ejes2d_destruye_planoABCD(&p)", 0),
     # Owned texts and blocks.
     ("char", r"", "nuevo_texto()", "vornspy_free_pp(&p, 1)", 0),
@@ -74,7 +80,7 @@ OTROS = [
     ("arrPuntero", r"(?!ultfichsel_)", "arr_CreaPunteroConTipo(0)", "arr_DestruyePunteroConTipo(&p)"),
     ("arrPuntero", r"", "ultfichsel_lee_todos_los_ultimos_ficheros_seleccionados()", "ultfichsel_destruye(&p)"),
     (r"arr(CADENA(?:_u)?)", r"", r"arr_Crea\1(2)", r"arr_Destruye\1(&p)"),  # of null texts
-    (r"arr(\w+)", r"", r"arr_Crea\1(0)", r"arr_Destruye\1(&p)"),
+    (r"arr([A-Z]\w+)", r"", r"arr_Crea\1(0)", r"arr_Destruye\1(&p)"),
     (r"(arulong(?:64)?)", r"", r"\1_crea()", r"\1_destruye(&p)"),
     (r"(acadordeu?)", r"", r"\1_crea(FALSO)", r"\1_destruye(&p)"),
     ("apunorde", r"", "apunorde_nousar_crea(compara_direcciones, nullptr, nullptr)", "apunorde_nousar_destruye(&p)"),
@@ -82,6 +88,8 @@ OTROS = [
     ("vmatr", r"", "vmatr_crea_matriz_nula(2, 5)", "vmatr_destruir_matriz(&p)"),
     ("pto3dord", r"", "pto3dord_crea_vacio()", "pto3dord_destruye(&p)"),
     ("poligono_t", r"", "poligono_vacio()", "destruye_poligono(p)"),
+    ("idcolor", r"", "idcolor_crea_color_por_capa()", "idcolor_destruye(&p)"),
+    ("arraydxf", r"", "arraydxf_crea()", "destruye_capas(p)"),
 ]
 
 # What an object stood on, which goes after it, whoever destroyed it.
@@ -99,6 +107,7 @@ REGISTROS = {
     # No two points alike, nor three in a line.
     "Punto2D": "Punto2D{{{i}., {i}. * {i}.}}",
     "fichmem": None,  # through its factory
+    "idcolor": None,
     "poligono_t": None,
 }
 
@@ -154,6 +163,11 @@ PARAMETROS = [
     (r"vornspy_parametro", r"n", "enteros({n}, {{1, 3, 16}})"),
     (r"vornspy_parametro_\w+", r"i", "enteros({n}, {{0, 1, 2, 4294967295}})"),
     (r"arr_AumentaTamanyoBIT", r"n", "enteros({n}, {{8, 3, 2, 0, 1000000}})"),
+    # Layers, pens and line types that there are.
+    (r"arraydxf_cambiar_capa_u", r"num_capa", "enteros({n}, {{1, 0, 2, 254, 255}})"),
+    (r"capadxf_convertir_pluma", r"pluma", "enteros({n}, {{1, 0, 5, 254, 255}})"),
+    (r"tipolin_dame_patron_aproximado", r"tipo_linea", "enteros({n}, {{1, 0, 8, 11, 255}})"),
+    (r"idcolor_crea_color_paleta_vorn", r"color_paleta", "enteros({n}, {{1, 0, 254, 255}})"),
     # Not to sleep through the whole range.
     (r"vtm_delay", r"segundos", "enteros({n}, {{0, 900, 4294967295}})"),
     # Texts of a form.
@@ -220,6 +234,9 @@ NEUTROS = [
     (r"cnv_strextunids", "*", "an empty text"),
     (r"lc_texto_error_u", "*", "an empty text"),
     (r"convers_valor_.*", "*", "the value as it came"),
+    (r"idcolor_color_rgb(_iluminado|_oscurecido|_modificado|_mezcla|a_lighten)", "*", "the value as it came"),
+    (r"idcolor_color_rgb_segun_fondo\w*", "*", "the value of the light background"),
+    (r"idcolor_crea_color_paleta_vorn|idcolor_lee", "*", "a colour all the same"),
     (r"vtm_crea", "*", "the start of 1970"),
     (r"vornspy_(nousar_(malloc|calloc|realloc)|reserva_seguro)", "*", "a block all the same"),
     (r"unicode_pagina_ANSI_idioma", "1252", ""),
@@ -251,6 +268,7 @@ INFORMAN = [
 # What an operation may have set for the whole process, and how it is brought back: operation, expression.
 RESTAURA = [
     ("p_cambia_eps", "p_cambia_eps(0.00005)"),
+    ("arraydxf_defensivo_set_es_dibujo_capas_pilares_estructa", "arraydxf_defensivo_set_es_dibujo_capas_pilares_estructa(FALSO)"),
     ("setroundoff", "setroundoff(0.00001)"),
     ("operaciones_fichero_instala", "operaciones_fichero_instala(nullptr)"),
     ("msidioma_establece_idioma", "msidioma_establece_idioma(0)"),
