@@ -74,8 +74,8 @@ bool cambia_pluma(capa_dxf &actuales, const capa_dxf &por) {
 }
 bool cambia_tipo_linea(capa_dxf &actuales, const capa_dxf &por) {
     const bool otro = !mismo_tipo_linea(actuales, por);
-    actuales.tipo_linea = por.tipo_linea;
     actuales.tipo_linea_definida = por.tipo_linea_definida;
+    actuales.tipo_linea = por.tipo_linea;
     return otro;
 }
 bool cambia_color(arraydxf &array, const idcolor &por) {

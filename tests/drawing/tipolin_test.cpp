@@ -47,7 +47,7 @@ int estilo_lento(const std::vector<double> &patron) {
         for (int giro = 0; giro < 16; ++giro) {
             const size_t distintos = (std::bitset<16>(bits) ^ std::bitset<16>(girado)).count();
             if (distintos < menos) menos = distintos, mejor = i;
-            std::ranges::rotate(girado, girado.begin() + 1);
+            std::rotate(girado.begin(), girado.begin() + 1, girado.end());
         }
     }
     return mejor;

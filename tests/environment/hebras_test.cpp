@@ -1,5 +1,8 @@
 // Every family from several threads at once, each with objects of its own, while another thread changes what is set for
 // the whole process. What is wrong here is seen by ThreadSanitizer, or in an answer that is of no setting.
+#include "colour/idcolor.h"
+#include "drawing/arraydxf.h"
+#include "drawing/tipolin.h"
 #include "foundation/sistema/fichconf.h"
 #include "foundation/sistema/vnregional.h"
 #include "foundation/suelo/contexto.h"
@@ -74,6 +77,24 @@ bool textos(int vuelta) {
            !toma(unicode_UNICODE_a_ANSI(VNU("ñandú Ł"))).empty();
 }
 
+void capa_que_no_hay(arraydxf *a) {
+    vnbool pluma, color, tipo;
+    arraydxf_cambiar_capa_u(a, 9, &pluma, &color, &tipo);
+}
+
+bool capas(int vuelta) {
+    arraydxf *a = arraydxf_crea();
+    idcolor *c = idcolor_crea_color_rgb(static_cast<uint32_t>(vuelta) * 0x010203);
+    bool bien = arraydxf_define_capas_u(a, 0, VNU("muros"), 2, 0.25, c, 1, nullptr, 0) == 0 &&
+                arraydxf_define_capas_u(a, 255, VNU("muros"), 2, 0.25, c, 1, nullptr, 0) == 0;
+    trapable_ejecuta_funcion_segura(arraydxf, capa_que_no_hay, a, nullptr); // reported or tolerated, as it is just then
+    bien = bien && idcolor_es_igual(arraydxf_dame_color_capa_activa(a), c) == CIERTO &&
+           idcolor_color_paleta_autocad(c) != 0 && tipolin_es_tipo_linea_vorn(VNU("vorn_raya"), nullptr) == CIERTO;
+    idcolor_destruye(&c);
+    arraydxf_destruye(&a);
+    return bien;
+}
+
 } // namespace
 
 PRUEBA(hebras, cada_familia_a_la_vez_mientras_cambia_lo_comun) {
@@ -90,6 +111,7 @@ PRUEBA(hebras, cada_familia_a_la_vez_mientras_cambia_lo_comun) {
             vornconf_Internacional_set_sistema_unidades(1 + static_cast<uint32_t>(i % 3));
             unicode_establece_pagina_ANSI(i % 2 == 0 ? 1252 : 1250);
             vnregional_establece(REGIONES[i % 3]);
+            arraydxf_defensivo_set_es_dibujo_capas_pilares_estructa(i % 2 == 0 ? CIERTO : FALSO);
         }
     });
     vn::en_hebras(6, [&](int h) {
@@ -98,6 +120,7 @@ PRUEBA(hebras, cada_familia_a_la_vez_mientras_cambia_lo_comun) {
             mal += !guarda_y_lee(h, vuelta);
             mal += !valores();
             mal += !textos(vuelta);
+            mal += !capas(vuelta);
             mal += trapable_ejecuta_funcion_segura(const int, informa, &nada, nullptr) != FALSO;
         }
     });
@@ -105,4 +128,5 @@ PRUEBA(hebras, cada_familia_a_la_vez_mientras_cambia_lo_comun) {
     cambia.join();
     EXPECT_EQ(mal, 0);
     vornconf_Internacional_set_sistema_unidades(VORNCONF_SU_MKS);
+    arraydxf_defensivo_set_es_dibujo_capas_pilares_estructa(FALSO);
 }
