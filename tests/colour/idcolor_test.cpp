@@ -82,8 +82,6 @@ PRUEBA(idcolor, las_dos_paletas_y_sus_correspondencias) {
         EXPECT_EQ(idcolor_color_paleta_autocad(&c), autocad);
         EXPECT_EQ(toma(idcolor_crea_color_paleta_autocad_con_color_vorn(i)).color_paleta, autocad);
         EXPECT_EQ(toma(idcolor_transforma_a_color_autocad_si_es_color_paleta(&c)).color_paleta, autocad);
-        EXPECT_EQ(idcolor_color_rgb(&c), claro);
-        EXPECT_EQ(idcolor_color_rgba(&c), claro | 0xFF000000);
         EXPECT_EQ(idcolor_colorRGB(i), claro);
         uint32_t indice = 0;
         EXPECT_EQ(idcolor_color_fondo_RGB_es_claro(claro, &indice), es_claro);
@@ -233,15 +231,6 @@ PRUEBA(idcolor, propiedades_de_las_cuentas) {
             const int sube = int(otro >> bits & 255) - int(v >> bits & 255);
             ASSERT_TRUE(p >= 0. ? sube >= 0 : sube <= 0) << p;
         }
-        // The ends of each proportion.
-        ASSERT_EQ(idcolor_color_rgb_iluminado(rgba, 0.), v);
-        ASSERT_EQ(idcolor_color_rgb_iluminado(rgba, 1.), 0xFFFFFFu);
-        ASSERT_EQ(idcolor_color_rgb_oscurecido(rgba, 0.), v);
-        ASSERT_EQ(idcolor_color_rgb_oscurecido(rgba, 1.), 0u);
-        ASSERT_EQ(idcolor_color_rgb_modificado(rgba, 0.), v);
-        ASSERT_EQ(idcolor_color_rgb_mezcla(rgba, 0x123456, 1.), 0x123456u);
-        ASSERT_EQ(idcolor_color_rgb_superpuesto(0x123456, v, 255), v);
-        ASSERT_EQ(idcolor_color_rgb_superpuesto(v, 0x123456, 0), v);
     }
     EXPECT_EQ(h(), 1396473927508616183u);
 }

@@ -1,5 +1,5 @@
 #include "drawing/capadxf.h"
-#include "prueba.h"
+#include "filas.h"
 #include <map>
 
 using namespace vn;
@@ -18,18 +18,11 @@ PRUEBA(capadxf, codigos_de_las_plumas) {
 }
 
 PRUEBA(capadxf, nombres_que_admite_el_fichero) {
-    const struct {
-        const char *nombre, *de_capa, *de_bloque;
-    } casos[] = {
-        {"Muro de fábrica 1.5/2", "MURO_DE_FABRICA_1_5_2", "Muro de fábrica 1.5/2"},
-        {"a,b.c/d:e\"f g", "A_B_C_D_E_F_G", "a,b.c/d:e_f g"},
-        {"ñandú_çA-9\\;", "NANDU_CA-9\\;", "ñandú_çA-9\\;"},
-        {"\"\"", "__", "__"},
-        {"", "", ""},
-    };
-    for (const auto &f : casos) {
-        EXPECT_EQ(toma(capadxf_nombre_valido_para_capa_u(ancho(f.nombre).c_str())), f.de_capa);
-        EXPECT_EQ(toma(capadxf_nombre_valido_para_bloque_u(ancho(f.nombre).c_str())), f.de_bloque);
+    using ancha = std::basic_string<vnwchar>;
+    for (const auto &[nombre, de_capa, de_bloque] :
+         filas<ancha, std::string, std::string>("drawing/capadxf.tsv", "nombres")) {
+        EXPECT_EQ(toma(capadxf_nombre_valido_para_capa_u(nombre.c_str())), de_capa);
+        EXPECT_EQ(toma(capadxf_nombre_valido_para_bloque_u(nombre.c_str())), de_bloque);
     }
     EXPECT_EQ(toma(capadxf_nombre_valido_para_capa("Pilar \xE1.\xD1/\xE7")), "PILAR_A_N_C"); // in the ANSI page
 }
