@@ -16,18 +16,30 @@ namespace {
 
 // The own palette: its values on light and on dark backgrounds, 0xRRGGBB; whether it is light as a background; its
 // index in the AutoCAD palette.
+// clang-format off
 constexpr struct {
     uint32_t con_fondo_claro, con_fondo_oscuro;
     bool es_claro;
     uint8_t autocad;
 } VORN[] = {
-    {0xC0C0C0, 0xDCDCEC, true, 9},    {0x000080, 0x9F7FFF, false, 176}, {0x008000, 0x80DF80, false, 96},
-    {0x008080, 0x8899CC, false, 136}, {0x800000, 0xCC6600, false, 16},  {0x800080, 0xDF80DF, false, 216},
-    {0x808000, 0xFFBF00, true, 56},   {0x000000, 0x000000, false, 7},   {0x808080, 0xC0C0C0, false, 8},
-    {0x0000FF, 0x0000FF, false, 5},   {0x00FF00, 0x00FF00, true, 3},    {0x00FFFF, 0x00FFFF, true, 4},
-    {0xFF0000, 0xFF0000, true, 1},    {0xFF00FF, 0xFF00FF, true, 6},    {0xFFFF00, 0xFFFF00, true, 2},
+    {0xC0C0C0, 0xDCDCEC, true, 9},
+    {0x000080, 0x9F7FFF, false, 176},
+    {0x008000, 0x80DF80, false, 96},
+    {0x008080, 0x8899CC, false, 136},
+    {0x800000, 0xCC6600, false, 16},
+    {0x800080, 0xDF80DF, false, 216},
+    {0x808000, 0xFFBF00, true, 56},
+    {0x000000, 0x000000, false, 7},
+    {0x808080, 0xC0C0C0, false, 8},
+    {0x0000FF, 0x0000FF, false, 5},
+    {0x00FF00, 0x00FF00, true, 3},
+    {0x00FFFF, 0x00FFFF, true, 4},
+    {0xFF0000, 0xFF0000, true, 1},
+    {0xFF00FF, 0xFF00FF, true, 6},
+    {0xFFFF00, 0xFFFF00, true, 2},
     {0xFFFFFF, 0xFFFFFF, true, 255},
 };
+// clang-format on
 static_assert(std::size(VORN) == 16);
 
 // AutoCAD indices whose own index is another. 11 and 13 to 15 go beyond the own palette on purpose: those are bright
