@@ -1,0 +1,124 @@
+// What the generators make meshes with: their primitives, vertices that are shared or not, the normals of faces.
+#pragma once
+
+#include "foundation/suelo/logico_int.h"
+#include "mesh/vornmesh_teselador_priv.h"
+#include <cmath>
+#include <vector>
+
+namespace vn {
+
+// The normal of a plane face that has none given, whatever its corners say.
+inline constexpr Punto3D HACIA_ARRIBA{0., 0., 1.};
+
+// Unit normal of a triangle; upwards if it has no area, to 1e-05 between its points and 1e-06 to its line.
+Punto3D normal_plana(Punto3D p1, Punto3D p2, Punto3D p3);
+// The normal of the plane of the points, if they lie in one; otherwise upwards.
+Punto3D normal_de_contorno(const arrPunto3D *contorno);
+Punto3D normal_de_contorno(std::span<const Punto3D> contorno);
+// The unit vector, or what there is instead where it has no direction.
+Punto3D unitario_o(Punto3D v, Punto3D si_no);
+
+inline std::span<const Punto3D> puntos_de(const arrPunto3D *a) { return listas::tramo(a); }
+
+// The primitives of a mesh under way.
+class primitivas {
+  public:
+    void abre(uint32_t tipo) {
+        tipos_.push_back(tipo);
+        finales_.push_back(indices_.size());
+    }
+    void indice(uint32_t i) {
+        indices_.push_back(i);
+        ++finales_.back();
+    }
+    void triangulo(uint32_t a, uint32_t b, uint32_t c) {
+        abre(VPLAN_TRIANGULOS);
+        for (const uint32_t i : {a, b, c}) indice(i);
+    }
+    // The last one the other way around.
+    void invierte() {
+        std::reverse(indices_.begin() + static_cast<ptrdiff_t>(inicio(tipos_.size() - 1)), indices_.end());
+    }
+    bool vacias() const { return tipos_.empty(); }
+    // Into the arrays of a mesh, each index as `lugar` tells; false, and reported, if there is no memory for them.
+    template <class F> bool da(mesh &m, F &&lugar) const {
+        m.tipos_primitivas.reset(arr_CreaULong(static_cast<uint32_t>(tipos_.size())));
+        m.inds_caras.reset(arr_CreaPunteroConTipo(static_cast<uint32_t>(tipos_.size())));
+        if (m.tipos_primitivas == nullptr || m.inds_caras == nullptr) return false;
+        for (size_t i = 0; i < tipos_.size(); ++i) {
+            const auto n = static_cast<uint32_t>(finales_[i] - inicio(i));
+            arr_GetBufferULong(m.tipos_primitivas.get())[i] = tipos_[i];
+            arrULong *indices = arr_CreaULong(n);
+            if (indices == nullptr) return false;
+            arr_GetBufferPuntero(m.inds_caras.get())[i] = indices;
+            uint32_t *donde = arr_GetBufferULong(indices);
+            for (uint32_t k = 0; k < n; ++k) donde[k] = lugar(indices_[inicio(i) + k]);
+        }
+        return true;
+    }
+
+  private:
+    size_t inicio(size_t i) const { return i > 0 ? finales_[i - 1] : 0; }
+    std::vector<uint32_t> tipos_, indices_;
+    std::vector<size_t> finales_;
+};
+
+// A mesh whose equal vertices are one: its vertices come out rounded, in their order, with unit normals.
+class malla_compacta {
+  public:
+    primitivas caras;
+    uint32_t vertice(const vn::vertice &v, bool borde) { return unicos_.anade(v, borde); }
+    // Contours as triangles: their vertices are added, and, if asked for, their primitives.
+    void contornos(const contornos_t &c, bool con_caras, bool invertidas = false);
+    mesh_propia termina(bool con_texturas);
+
+  private:
+    vertices_unicos unicos_;
+};
+
+// A mesh whose vertices are as they were added, each with its own.
+class malla_suelta {
+  public:
+    struct esquina {
+        Punto3D p, n;
+        bool borde = true;
+    };
+    primitivas caras;
+    void reserva(size_t n) { puntos_.reserve(n), normales_.reserve(n), bordes_.reserve(n); }
+    uint32_t vertice(const esquina &e) {
+        puntos_.push_back(e.p);
+        normales_.push_back(e.n);
+        bordes_.push_back(logico(e.borde));
+        return static_cast<uint32_t>(puntos_.size() - 1);
+    }
+    // Vertices whose edges are all borders, after those that there are.
+    void vertices(std::span<const Punto3D> puntos, std::span<const Punto3D> normales) {
+        puntos_.insert(puntos_.end(), puntos.begin(), puntos.end());
+        normales_.insert(normales_.end(), normales.begin(), normales.end());
+        bordes_.resize(puntos_.size(), CIERTO);
+    }
+    // Two triangles, a, b, c and c, d, a, whose common edge is no border.
+    void quad(const esquina &a, const esquina &b, const esquina &c, const esquina &d);
+    void contornos(const contornos_t &c);
+    mesh_propia termina();
+
+  private:
+    std::vector<Punto3D> puntos_, normales_;
+    std::vector<vnbool> bordes_;
+};
+
+// The normal of the side of a prism between an edge of its lower polygon, a to b, and that of its upper one, c to d;
+// false if the side has no area.
+bool normal_cara_lateral(Punto3D a, Punto3D b, Punto3D c, Punto3D d, Punto3D &n);
+
+// The axes of a plane across a direction, a unit vector.
+struct ejes_de_circulo {
+    Punto3D u, v;
+    explicit ejes_de_circulo(Punto3D w);
+    Punto3D en(Punto2D p) const { return p.x * u + p.y * v; }
+};
+// The points of a circle of radius 1 about the origin, of the plane. Null after a report.
+puntos2D_propios circulo_unidad(uint32_t num_puntos);
+
+} // namespace vn
