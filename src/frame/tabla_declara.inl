@@ -4,6 +4,7 @@
 //     VN_TABLA_FILAS    the file of the rows: X(entry, result, PRIMERO or ULTIMO, (arguments), what the list adds...)
 //     VN_TABLA_PREFIJO  what the members' names begin with
 //     VN_TABLA_DONDE    how a check says where the table is found
+//     VN_TABLA_DE_C     only of a table whose struct, with the same members, a public header declares: its name
 #define VN_TABLA_UNE_(a, b) a##b
 #define VN_TABLA_UNE(a, b) VN_TABLA_UNE_(a, b)
 #define VN_TABLA_MIEMBRO(entrada) VN_TABLA_UNE(VN_TABLA_PREFIJO, entrada)
@@ -12,10 +13,14 @@
 
 namespace vn {
 
+#ifdef VN_TABLA_DE_C
+struct VN_TABLA : VN_TABLA_DE_C {
+#else
 struct VN_TABLA {
 #define X(entrada, resultado, sitio, argumentos, ...) resultado(*VN_TABLA_MIEMBRO(entrada)) argumentos = nullptr;
 #include VN_TABLA_FILAS
 #undef X
+#endif
     enum : size_t {
 #define X(entrada, ...) numero_de_##entrada,
 #include VN_TABLA_FILAS
@@ -46,6 +51,7 @@ static_assert(sizeof(VN_TABLA) == VN_TABLA::NUM_ENTRADAS * sizeof(void *));
 #undef VN_TABLA_LETRAS_
 #undef VN_TABLA_LETRAS
 #undef VN_TABLA
+#undef VN_TABLA_DE_C
 #undef VN_TABLA_FILAS
 #undef VN_TABLA_PREFIJO
 #undef VN_TABLA_DONDE

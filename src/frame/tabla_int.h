@@ -106,7 +106,7 @@ template <class O, auto ENTRADA, class R, class... A> struct puente<O, ENTRADA, 
     }
 };
 template <class T, class O> constexpr T hacia() {
-    T t;
+    T t{};
     T::recorre([&]<auto ENTRADA>() {
         t.*ENTRADA = puente<O, ENTRADA, FILA<ENTRADA>.dato, typename miembro<decltype(ENTRADA)>::funcion>::entra;
     });

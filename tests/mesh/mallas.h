@@ -2,7 +2,7 @@
 #pragma once
 
 #include "foundation/suelo/dueno.hpp"
-#include "geometry/espacio.h"
+#include "espacio.h"
 #include "mesh/vornmesh.h"
 #include <array>
 #include <map>

@@ -126,6 +126,7 @@ struct matriz4 {
         return a;
     }
 
+    bool operator==(const matriz4 &) const = default;
     // Whether there is no perspective: what is parallel stays so.
     bool es_afin() const { return m[3][0] == 0 && m[3][1] == 0 && m[3][2] == 0 && m[3][3] == 1; }
 

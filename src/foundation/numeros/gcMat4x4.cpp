@@ -55,5 +55,5 @@ void gcMat4x4_get_row(const gcMat4x4 *m, uint32_t i, double *c0, double *c1, dou
 }
 
 void gcMat4x4_free(gcMat4x4 **m) {
-    if (AFIRMA_NO_NULO(m) && AFIRMA_NO_NULO(*m)) vornspy_free_pp(m, sizeof **m);
+    if (EXIGE(m, *m)) vornspy_free_pp(m, sizeof **m);
 }
