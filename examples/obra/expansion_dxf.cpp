@@ -52,11 +52,15 @@ class expansion {
     bool hazlo() {
         p_.version_dxf.assign(m_.version.begin(), m_.version.end());
         for (uint32_t i = 0; i < m_.tipos_de_linea.cuantos(); ++i) p_.tipos_de_linea.push_back(m_.tipos_de_linea[i]);
+        p_.trazos_de_linea = m_.trazos;
+        for (auto &patron : p_.trazos_de_linea)
+            for (double &x : patron) x *= m_.escala_de_linea;
         for (const capa_dxf &c : m_.tabla_de_capas) {
             capa &d = de_lugar(c.nombre);
             d.tipo_linea = c.tipo_linea;
             d.color = c.color;
             d.apagada = c.apagada;
+            d.grosor_mm = c.grosor_mm;
         }
         coloca(m_.modelo, {}, nullptr, 0);
         return !excedido_;

@@ -16,16 +16,18 @@ struct registro {
     std::string clase, texto, trozos, nombre, tipo_linea, capa, texto_empotrado;
     std::array<double, 80> valor; // of codes 10 to 79
     std::array<bool, 80> dicho;
+    std::vector<double> trazos; // of code 49
     Punto3D normal;
-    double rgb;
+    double rgb, grosor;
     bool danado, empotrado; // a number that is none; an object inside the record began
 
     void empieza(const std::string &de_clase) {
         clase = de_clase;
         texto.clear(), trozos.clear(), nombre.clear(), tipo_linea.clear(), capa.clear(), texto_empotrado.clear();
         valor.fill(0), dicho.fill(false);
+        trazos.clear();
         normal = {0, 0, 1};
-        rgb = -1;
+        rgb = grosor = -1;
         danado = empotrado = false;
     }
     double real(int codigo, double si_no = 0) const {
@@ -121,6 +123,7 @@ class lector {
         else if (variable_ == "$DWGCODEPAGE") pagina_ = g_.nombre();
         else if (double x; variable_ == "$INSUNITS")
             m_.unidades = g_.numero(x) && std::fabs(x) < INT_MAX ? static_cast<int>(x) : -1;
+        else if (variable_ == "$LTSCALE" && g_.numero(x) && x > 0) m_.escala_de_linea = x;
     }
     void campo(int c) {
         switch (c) {
@@ -132,6 +135,7 @@ class lector {
         case 210: numero(r_.normal.x); return;
         case 220: numero(r_.normal.y); return;
         case 230: numero(r_.normal.z); return;
+        case 370: numero(r_.grosor); return;
         case 420: numero(r_.rgb); return;
         default: break;
         }
@@ -140,6 +144,7 @@ class lector {
         numero(r_.valor[i]);
         r_.dicho[i] = true;
         if (r_.clase == "LWPOLYLINE") vertice_ligero(c, r_.valor[i]);
+        if (r_.clase == "LTYPE" && c == 49) r_.trazos.push_back(r_.valor[i]);
     }
     void numero(double &x) {
         if (!g_.numero(x)) r_.danado = true;
@@ -166,14 +171,19 @@ class lector {
     }
     void fila() {
         if (r_.nombre.empty()) return;
-        if (r_.clase == "LTYPE") m_.tipos_de_linea.lugar(textos().sencillo(r_.nombre));
+        if (r_.clase == "LTYPE") {
+            const uint32_t i = m_.tipos_de_linea.lugar(textos().sencillo(r_.nombre));
+            if (i == m_.trazos.size()) m_.trazos.push_back(std::move(r_.trazos)); // the first of a name
+        }
         if (r_.clase != "LAYER") return;
         constexpr int CONGELADA = 1;
+        constexpr double MM_POR_GROSOR = 0.01; // below 0 it is some default
         const bool sin_tipo = r_.tipo_linea.empty() || r_.tipo_linea == "BYLAYER" || r_.tipo_linea == "BYBLOCK";
         const uint32_t color = r_.color(7);
         m_.tabla_de_capas.push_back({capa_de(r_.nombre), textos().sencillo(sin_tipo ? "CONTINUOUS" : r_.tipo_linea),
                                      color == COLOR_DE_CAPA ? 7 : color,
-                                     r_.entero(62) < 0 || (r_.entero(70) & CONGELADA) != 0});
+                                     r_.entero(62) < 0 || (r_.entero(70) & CONGELADA) != 0,
+                                     r_.grosor > 0 ? r_.grosor * MM_POR_GROSOR : 0});
     }
 
     void entidad() {

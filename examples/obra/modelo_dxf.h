@@ -69,11 +69,14 @@ struct capa_dxf {
     texto tipo_linea;
     uint32_t color;
     bool apagada;
+    double grosor_mm;
 };
 struct modelo_dxf {
     std::string version;
     int unidades = 0;
+    double escala_de_linea = 1;
     nombres_dxf capas, tipos_de_linea, nombres_de_bloque;
+    std::vector<std::vector<double>> trazos; // of each line type
     std::vector<capa_dxf> tabla_de_capas;
     std::vector<bloque_dxf> bloques; // by the place of their names
     bloque_dxf modelo;

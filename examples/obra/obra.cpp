@@ -2,10 +2,15 @@
 //   obra importa PLANO.dxf OBRA [CAMPO=VALOR...]   a drawing into a project file
 //   obra informa OBRA [--sistema ...] [--energia ...] [--idioma N]
 //                                                  what a project file holds, in a system of units and a language
+//   obra dibuja OBRA DIBUJO.svg [--ancho-px N | --escala N] [--fondo N]
+//                                                  its drawing as a picture
+//   obra malla OBRA MALLA.obj [--alto METROS] ...  its closed outlines as prisms
 // A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or
 // left half written.
+#include "dibuja.h"
 #include "dxf.h"
 #include "informe.h"
+#include "malla.h"
 #include "mensajes.h"
 #include "opciones.h"
 #include "plataforma/argumentos.h"
@@ -13,12 +18,14 @@
 #include <cstdio>
 #include <new>
 #include <nucleos/foundation/ficheros/vdir.h>
+#include <nucleos/foundation/ficheros/vornfile.h>
 #include <nucleos/foundation/sistema/avisos.h>
 #include <nucleos/foundation/sistema/nucleos_version.h>
 #include <nucleos/foundation/sistema/version.h>
 #include <nucleos/foundation/suelo/error_interno.h>
 #include <nucleos/foundation/suelo/vornspy.h>
 #include <nucleos/foundation/texto/unicode.h>
+#include <utility>
 
 namespace {
 
@@ -98,22 +105,152 @@ int importa(const std::vector<std::string> &args) {
     return 0;
 }
 
+// 0, or the exit status when there is no such project.
+int abre_obra(const std::string &nombre, obra_leida &o) {
+    if (const int e = comprueba_que_se_lee(nombre); e != 0) return e;
+    std::string motivo;
+    switch (lee_obra(ancho(nombre), o, motivo)) {
+    case lectura_obra::bien: return 0;
+    case lectura_obra::version_superior: return falla(nombre, di(mensaje::superior));
+    case lectura_obra::no_es_obra: break;
+    }
+    return falla(nombre, di(mensaje::no_es_obra));
+}
+
 int informa(const std::vector<std::string> &args) {
     opciones dichas;
     std::string falta;
     if (!lee_opciones({args.begin() + 2, args.end()}, dichas, falta)) return uso(falta);
     aplica(dichas);
-    const std::string &nombre = dichas.obra;
-    if (const int e = comprueba_que_se_lee(nombre); e != 0) return e;
     obra_leida o;
-    std::string motivo;
-    switch (lee_obra(ancho(nombre), o, motivo)) {
-    case lectura_obra::bien: break;
-    case lectura_obra::version_superior: return falla(nombre, di(mensaje::superior));
-    case lectura_obra::no_es_obra: return falla(nombre, di(mensaje::no_es_obra));
-    }
-    std::fputs(informe_de(nombre, o).c_str(), stdout);
+    if (const int e = abre_obra(dichas.obra, o); e != 0) return e;
+    std::fputs(informe_de(dichas.obra, o).c_str(), stdout);
     return 0;
+}
+
+// ---------------------------------------------------------------- pictures
+
+// A file that takes its name's place at the end, or is given up.
+class resultado {
+  public:
+    explicit resultado(const std::string &nombre)
+        : nombre_(ancho(nombre)),
+          f_(vornfile_abrir_fichero_escritura_con_temporal_u(nombre_.c_str(), VNU("_TM$"), FALSO)) {}
+    ~resultado() {
+        if (f_ != nullptr) vornfile_abandonar_fichero_escritura(f_);
+    }
+    resultado(const resultado &) = delete;
+    resultado &operator=(const resultado &) = delete;
+
+    vnfichero *fichero() const { return f_; }
+    bool cierra() {
+        return vornfile_cerrar_fichero_escritura_se_hace_definitivo_al_cerrar_u(std::exchange(f_, nullptr),
+                                                                                nombre_.c_str()) == CIERTO;
+    }
+
+  private:
+    const texto nombre_;
+    vnfichero *f_;
+};
+
+// Says how far it is, of what takes long: by tenths.
+class marcha {
+  public:
+    marcha(std::string que, size_t total) : que_(std::move(que)), total_(total) {}
+    void operator()(size_t hechas) {
+        if (total_ < MUCHAS || hechas * 10 / total_ <= decimas_) return;
+        decimas_ = hechas * 10 / total_;
+        std::fprintf(stderr, "obra: %s: %d %%\n", que_.c_str(), static_cast<int>(decimas_ * 10));
+    }
+
+  private:
+    static constexpr size_t MUCHAS = 200'000;
+    std::string que_;
+    size_t total_, decimas_ = 0;
+};
+
+std::string extension_de(const std::string &nombre) {
+    const size_t punto = nombre.find_last_of("./\\");
+    if (punto == std::string::npos || nombre[punto] != '.') return {};
+    std::string s = nombre.substr(punto + 1);
+    for (char &c : s)
+        if (c >= 'A' && c <= 'Z') c += 'a' - 'A';
+    return s;
+}
+
+// What is common to both: the arguments, the project, the file.
+struct pedido {
+    opciones_dibujo o;
+    const clase_de_lienzo *clase = nullptr; // null: `otra`
+    obra_leida leida;
+    tamano t;
+};
+// 0, or the exit status. `otra`: an extension that is taken beside those of pictures, or null.
+int prepara(const std::vector<std::string> &args, const char *otra, pedido &p) {
+    std::string falta;
+    if (!lee_opciones_dibujo({args.begin() + 2, args.end()}, otra != nullptr, p.o, falta)) return uso(falta);
+    const std::string extension = extension_de(p.o.destino);
+    std::string validas = otra != nullptr ? otra : "";
+    for (const clase_de_lienzo &c : clases_de_lienzo()) {
+        if (extension == c.extension) p.clase = &c;
+        validas += (validas.empty() ? "" : ", ") + std::string(c.extension);
+    }
+    if (p.clase == nullptr && (otra == nullptr || extension != otra))
+        return uso(p.o.destino + ": " + di(mensaje::no_vale) + " " + validas);
+    if (p.o.ancho_px) p.t.ancho_px = static_cast<uint32_t>(*p.o.ancho_px);
+    if (p.o.escala) p.t.divisor = static_cast<uint16_t>(*p.o.escala);
+    if (vdir_existe_directorio_UNICODE(ancho(p.o.destino).c_str()) == CIERTO)
+        return falla(p.o.destino, di(mensaje::es_directorio));
+    return abre_obra(p.o.obra, p.leida);
+}
+int graba(const pedido &p, const std::function<bool(vnfichero *)> &escribe) {
+    resultado r(p.o.destino);
+    if (r.fichero() == nullptr) return falla(p.o.destino, con_motivo(mensaje::no_se_graba));
+    if (!escribe(r.fichero())) throw std::bad_alloc();
+    if (!r.cierra()) return falla(p.o.destino, con_motivo(mensaje::no_se_graba));
+    std::printf("%s: %s %s\n", p.o.obra.c_str(), di(mensaje::dibujado).c_str(), p.o.destino.c_str());
+    return 0;
+}
+// A picture of what `dibuja` draws, framed by its limits.
+int graba_imagen(const pedido &p, const extension &caja, const std::function<void(lienzo &)> &dibuja) {
+    const hoja h = hoja_para(caja, p.t, static_cast<uint32_t>(p.o.fondo.value_or(0)));
+    return graba(p, [&](vnfichero *f) {
+        const dueno_lienzo l = p.clase->abre(h, f);
+        {
+            const encuadre e(l->salida(), h, caja, p.t);
+            dibuja(*l);
+        }
+        return l->acaba();
+    });
+}
+
+int dibuja_obra(const std::vector<std::string> &args) {
+    pedido p;
+    if (const int e = prepara(args, nullptr, p); e != 0) return e;
+    const size_t cuantas = cuantas_se_dibujan(p.leida.p);
+    marcha avisa(p.o.destino, 2 * cuantas);
+    const extension caja = limites_de(p.leida.p, std::ref(avisa));
+    if (!caja.hay) return falla(p.o.obra, di(mensaje::nada_que_dibujar));
+    return graba_imagen(p, caja, [&](lienzo &l) {
+        dibuja(p.leida.p, l.salida(), [&](size_t hechas) {
+            avisa(cuantas + hechas);
+            l.vuelca();
+        });
+    });
+}
+
+int malla_de_obra(const std::vector<std::string> &args) {
+    constexpr double ALTO = 3;
+    pedido p;
+    if (const int e = prepara(args, "obj", p); e != 0) return e;
+    const prismas m(p.leida.p, p.o.alto.value_or(ALTO));
+    if (m.vacio()) return falla(p.o.obra, di(mensaje::sin_contornos));
+    if (p.clase == nullptr)
+        return graba(p, [&](vnfichero *f) {
+            m.escribe_obj(f);
+            return true;
+        });
+    return graba_imagen(p, m.limites_en_axonometria(), [&](lienzo &l) { m.dibuja_en_axonometria(l); });
 }
 
 int ejecuta(const std::vector<std::string> &args) {
@@ -125,6 +262,8 @@ int ejecuta(const std::vector<std::string> &args) {
     if (args.size() < 2) return uso(di(mensaje::falta_orden));
     if (args[1] == "importa") return importa(args);
     if (args[1] == "informa") return informa(args);
+    if (args[1] == "dibuja") return dibuja_obra(args);
+    if (args[1] == "malla") return malla_de_obra(args);
     return uso(args[1] + ": " + di(mensaje::sobra));
 }
 

@@ -45,25 +45,83 @@ bool toma_opcion(const std::string &cual, const std::string &dicho, opciones &o,
     return cual == "--idioma" && !o.idioma && toma_idioma(dicho, o.idioma, validos);
 }
 
-} // namespace
+// A number between two, whole or not.
+struct opcion_numerica {
+    const char *nombre;
+    std::optional<double> opciones_dibujo::*donde;
+    double minimo, maximo;
+    bool entera, de_malla;
+};
+constexpr opcion_numerica NUMERICAS[] = {{"--ancho-px", &opciones_dibujo::ancho_px, 16, 100000, true, false},
+                                         {"--escala", &opciones_dibujo::escala, 1, 65535, true, false},
+                                         {"--fondo", &opciones_dibujo::fondo, 0, 2, true, false},
+                                         {"--alto", &opciones_dibujo::alto, 0.001, 1000, false, true}};
 
-bool lee_opciones(const std::vector<std::string> &palabras, opciones &o, std::string &falta) {
-    o = {};
+std::string corto(double x) {
+    char b[32];
+    return {b, std::to_chars(b, b + sizeof b, x).ptr};
+}
+
+bool toma_numero(const std::string &cual, const std::string &dicho, bool con_alto, opciones_dibujo &o,
+                 std::string &validos) {
+    // A picture is as wide as it is told or as its scale asks for, not both.
+    if ((cual == "--escala" && o.ancho_px) || (cual == "--ancho-px" && o.escala)) return false;
+    for (const opcion_numerica &n : NUMERICAS) {
+        if (cual != n.nombre || (n.de_malla && !con_alto) || o.*n.donde) continue;
+        validos = corto(n.minimo) + ".." + corto(n.maximo);
+        double x = 0;
+        const auto [fin, error] = std::from_chars(dicho.data(), dicho.data() + dicho.size(), x);
+        if (error != std::errc() || fin != dicho.data() + dicho.size() || !(x >= n.minimo && x <= n.maximo) ||
+            (n.entera && x != static_cast<int>(x)))
+            return false;
+        o.*n.donde = x;
+        return true;
+    }
+    return false;
+}
+
+// Names, as many as there is room for, and options anywhere; `toma` takes an option and its value.
+template <class T> bool lee_palabras(const std::vector<std::string> &palabras,
+                                     std::initializer_list<std::string *> nombres, std::string &falta, T toma) {
+    auto nombre = nombres.begin();
     for (size_t i = 0; i < palabras.size(); ++i) {
         const std::string &p = palabras[i];
         if (!p.starts_with("--")) {
-            if (!o.obra.empty()) return falta = p + ": " + di(mensaje::sobra), false;
-            o.obra = p;
+            if (nombre == nombres.end()) return falta = p + ": " + di(mensaje::sobra), false;
+            **nombre++ = p;
             continue;
         }
         const std::string dicho = i + 1 < palabras.size() ? palabras[++i] : "";
         std::string validos;
-        if (toma_opcion(p, dicho, o, validos)) continue;
+        if (toma(p, dicho, validos)) continue;
         falta = p + (dicho.empty() ? "" : " " + dicho) + ": " +
                 (validos.empty() ? di(mensaje::sobra) : di(mensaje::no_vale) + " " + validos);
         return false;
     }
+    return true;
+}
+
+} // namespace
+
+bool lee_opciones(const std::vector<std::string> &palabras, opciones &o, std::string &falta) {
+    o = {};
+    const auto toma = [&](const auto &cual, const auto &dicho, auto &validos) {
+        return toma_opcion(cual, dicho, o, validos);
+    };
+    if (!lee_palabras(palabras, {&o.obra}, falta, toma)) return false;
     if (o.obra.empty()) return falta = di(mensaje::falta_obra), false;
+    return true;
+}
+
+bool lee_opciones_dibujo(const std::vector<std::string> &palabras, bool con_alto, opciones_dibujo &o,
+                         std::string &falta) {
+    o = {};
+    const auto toma = [&](const auto &cual, const auto &dicho, auto &validos) {
+        return toma_numero(cual, dicho, con_alto, o, validos);
+    };
+    if (!lee_palabras(palabras, {&o.obra, &o.destino}, falta, toma)) return false;
+    if (o.obra.empty()) return falta = di(mensaje::falta_obra), false;
+    if (o.destino.empty()) return falta = di(mensaje::falta_destino), false;
     return true;
 }
 

@@ -4,12 +4,10 @@
 #include <numbers>
 
 namespace obra {
-namespace {
 
 constexpr double DOS_PI = 2 * std::numbers::pi;
 
-// Points of a curve centre + u cos t + v sin t where x or y turns, for t from `desde` counter-clockwise to `hasta`.
-void anade_curva(extension &e, Punto2D centro, Punto2D u, Punto2D v, double desde, double hasta) {
+void anade_arco(extension &e, Punto2D centro, Punto2D u, Punto2D v, double desde, double hasta) {
     const auto anade = [&](double t) {
         e.anade(centro.x + u.x * std::cos(t) + v.x * std::sin(t), centro.y + u.y * std::cos(t) + v.y * std::sin(t));
     };
@@ -27,12 +25,14 @@ void anade_curva(extension &e, Punto2D centro, Punto2D u, Punto2D v, double desd
     }
 }
 
+namespace {
+
 void anade_tramo(extension &e, Punto2D a, Punto2D b, double curvatura) {
     e.anade(a.x, a.y);
     e.anade(b.x, b.y);
     if (curvatura == 0) return;
     const arco k = arco_de(a, b, curvatura);
-    anade_curva(e, k.centro, {k.radio, 0}, {0, k.radio}, k.desde, k.hasta);
+    anade_arco(e, k.centro, {k.radio, 0}, {0, k.radio}, k.desde, k.hasta);
 }
 
 } // namespace
@@ -52,9 +52,9 @@ extension extension_de(const capa &c) {
         e.anade(k.centro.x - k.radio, k.centro.y - k.radio);
         e.anade(k.centro.x + k.radio, k.centro.y + k.radio);
     }
-    for (const arco &a : c.arcos) anade_curva(e, a.centro, {a.radio, 0}, {0, a.radio}, a.desde, a.hasta);
+    for (const arco &a : c.arcos) anade_arco(e, a.centro, {a.radio, 0}, {0, a.radio}, a.desde, a.hasta);
     for (const elipse &k : c.elipses)
-        anade_curva(e, k.centro, k.eje, {-k.eje.y * k.razon, k.eje.x * k.razon}, k.desde, k.hasta);
+        anade_arco(e, k.centro, k.eje, {-k.eje.y * k.razon, k.eje.x * k.razon}, k.desde, k.hasta);
     for (const polilinea &p : c.polilineas) {
         const size_t n = p.vertices.size();
         if (n == 1) e.anade(p.vertices[0].x, p.vertices[0].y);

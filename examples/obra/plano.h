@@ -47,6 +47,7 @@ struct capa {
     texto nombre, tipo_linea;
     uint32_t color = 7;
     bool apagada = false;
+    double grosor_mm = 0; // 0: none is said
     std::vector<linea> lineas;
     std::vector<circulo> circulos;
     std::vector<arco> arcos;
@@ -74,6 +75,8 @@ struct plano {
     texto version_dxf;
     double metros_por_unidad = 1;
     std::vector<texto> tipos_de_linea;
+    // The pattern of each of them: lengths drawn and, below 0, left free; empty: without gaps. Fewer in old files.
+    std::vector<std::vector<double>> trazos_de_linea;
     std::vector<capa> capas;
     // What the drawing holds and this program does not take, by kind.
     std::map<std::string, uint32_t> sin_importar;
@@ -81,6 +84,8 @@ struct plano {
 
 // The arc, counter-clockwise, of a piece of a polyline whose bulge is not 0.
 arco arco_de(Punto2D a, Punto2D b, double curvatura);
+// Adds the points of the curve centre + u cos t + v sin t, for t from `desde` counter-clockwise to `hasta`, that bound it.
+void anade_arco(extension &e, Punto2D centro, Punto2D u, Punto2D v, double desde, double hasta);
 // The box of lines, circles, arcs, ellipses and polylines; texts do not count.
 extension extension_de(const capa &c);
 

@@ -68,6 +68,25 @@ template <class A> void describe_polilineas(A &a, capa &c) {
     describe_colores(a, c.polilineas.size(), c.color_polilineas);
 }
 
+// The patterns of all line types one after another, and how many lengths each has.
+template <class A> void describe_trazos(A &a, std::vector<std::vector<double>> &trazos) {
+    std::vector<uint32_t> cuantos;
+    std::vector<double> seguidos;
+    for (const auto &t : trazos) {
+        cuantos.push_back(static_cast<uint32_t>(t.size()));
+        seguidos.insert(seguidos.end(), t.begin(), t.end());
+    }
+    a(cuantos)(seguidos);
+    if constexpr (A::LEE) {
+        auto desde = seguidos.begin();
+        for (const uint32_t n : cuantos) {
+            if (!a.exige(n <= seguidos.end() - desde, "num_trazos_tipo <= num_trazos")) return;
+            trazos.emplace_back(desde, desde + n);
+            desde += n;
+        }
+    }
+}
+
 } // namespace
 
 template <class A> void describe(A &a, capa &c) {
@@ -94,6 +113,7 @@ template <class A> void describe(A &a, capa &c) {
         a.columna("num_textos == num_puntos", c.rotulos, &rotulo::letras);
         describe_colores(a, c.rotulos.size(), c.color_rotulos);
     });
+    a.bloque("GROSOR", c.grosor_mm != 0, [&] { a(c.grosor_mm); });
 }
 
 // What is told of the drawing as a whole; its layers are sections of their own.
@@ -109,6 +129,9 @@ template <class A> void describe(A &a, plano &p) {
         if (!a.exige(cuantas.size() == clases.size(), "num_cuentas == num_clases")) return;
         for (size_t i = 0; i < clases.size(); ++i) p.sin_importar[clases[i]] = cuantas[i];
     }
+    const bool hay =
+        std::any_of(p.trazos_de_linea.begin(), p.trazos_de_linea.end(), [](const auto &t) { return !t.empty(); });
+    a.bloque("TRAZOS", hay, [&] { describe_trazos(a, p.trazos_de_linea); });
 }
 
 namespace {
