@@ -34,11 +34,32 @@ struct bloqueos {
         con_relleno_bloqueado, con_giro_texto_bloqueado, con_xor_bloqueado, con_material_bloqueado;
 };
 
+// What a system does to points of which the plan is asked, x and y at once; `directo`: it is all of it, as there is
+// neither a perspective nor a kind that is identity whatever its numbers. Sums in the order of a point's own.
+struct en_planta {
+    using par [[gnu::vector_size(16)]] = double;
+    par U, V, W, D;
+    bool directo = false;
+    explicit en_planta(const sistema_coordenadas &s)
+        : U{s.m.m[0][0], s.m.m[1][0]}, V{s.m.m[0][1], s.m.m[1][1]}, W{s.m.m[0][2], s.m.m[1][2]}, D{s.m.m[0][3],
+                                                                                                   s.m.m[1][3]},
+          directo(!i_es_sistema_coordenadas_identidad(&s) && s.m.es_afin()) {}
+    en_planta() : en_planta(sistema_coordenadas{}) {}
+    par punto(double x, double y, double z) const { return U * x + V * y + W * z + D; }
+};
+
 // The transformation of a chain, and of what it was made: it holds as long as no stage up to `fin` has changed.
 struct compuesta {
     sistema_coordenadas sistema;
+    en_planta planta;
     const salida_t *fin = nullptr;
     uint64_t cambios = 0; // 0: none made yet
+    // That of the stages beyond the first, which mostly stay while the first one changes; `llano`: none of them has
+    // switched anything off.
+    sistema_coordenadas resto;
+    const salida_t *fin_del_resto = nullptr;
+    uint64_t cambios_del_resto = 0;
+    bool resto_llano = false;
 };
 
 } // namespace vn
@@ -78,17 +99,16 @@ template <auto SLOT> inline salida_t *implementa(salida_t *s) {
     return s;
 }
 // Of a figure with a form of the plane and one of space: the first that has either. None may have both.
+template <auto PLANO, auto ESPACIO> inline bool tiene_una(const salida_t &s) {
+    const auto func_salida2D = s.funciones.*PLANO;
+    const auto func_salida3D = s.funciones.*ESPACIO;
+    if (func_salida2D == nullptr) return func_salida3D != nullptr;
+    AFIRMA_TEXTO(func_salida3D == nullptr, "func_salida3D == NULL");
+    return true;
+}
 template <auto PLANO, auto ESPACIO> inline salida_t *implementa(salida_t *s) {
-    for (; s != nullptr; s = s->salida_destino) {
-        const auto func_salida2D = s->funciones.*PLANO;
-        const auto func_salida3D = s->funciones.*ESPACIO;
-        if (func_salida2D != nullptr) [[likely]] {
-            AFIRMA_TEXTO(func_salida3D == nullptr, "func_salida3D == NULL");
-            return s;
-        }
-        if (func_salida3D != nullptr) return s;
-    }
-    return nullptr;
+    while (s != nullptr && !tiene_una<PLANO, ESPACIO>(*s)) s = s->salida_destino;
+    return s;
 }
 // The call of a slot of the output that implements it, with its item before the values.
 template <auto SLOT, class... V> inline tabla::resultado_de<SLOT> llama(const salida_t *s, V... valores) {
@@ -110,14 +130,18 @@ inline bool hay(const salida_t *salida_con_implementacion) { return AFIRMA_NO_NU
 inline bool es_valida(const salida_t *salida) { return EXIGE(salida, salida->sistema_coordenadas_actual); }
 // From `s` to `fin`, both taking part, or to the end of the chain for null. The record is the output's, until its next
 // composition.
-const sistema_coordenadas &compone_cadena(salida_t *s, const salida_t *fin);
-inline const sistema_coordenadas &encadenado(salida_t *s, const salida_t *fin) {
-    uint64_t cambios = 0;
-    for (const salida_t *i = s; i != nullptr; i = i == fin ? nullptr : i->salida_destino) cambios += i->cambios;
+const sistema_coordenadas &compone_cadena(salida_t *s, const salida_t *fin, uint64_t cambios);
+// `cambios`: the sum of theirs.
+inline const sistema_coordenadas &encadenado(salida_t *s, const salida_t *fin, uint64_t cambios) {
     const compuesta &c = *s->sistema_coordenadas_encadenado;
     if (c.cambios == cambios && c.fin == fin) [[likely]]
         return c.sistema;
-    return compone_cadena(s, fin);
+    return compone_cadena(s, fin, cambios);
+}
+inline const sistema_coordenadas &encadenado(salida_t *s, const salida_t *fin) {
+    uint64_t cambios = 0;
+    for (const salida_t *i = s; i != nullptr; i = i == fin ? nullptr : i->salida_destino) cambios += i->cambios;
+    return encadenado(s, fin, cambios);
 }
 // The same anew, as a value; the second as texts see it.
 sistema_coordenadas compone_aparte(const salida_t *s, const salida_t *fin);

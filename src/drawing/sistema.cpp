@@ -5,6 +5,7 @@
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include <cmath>
+#include <cstring>
 
 namespace vn {
 
@@ -46,27 +47,9 @@ bool invierte(matriz4 &m) {
 
 } // namespace
 
-const rasgos_de_tipo &rasgos(tipo_transformacion tipo) {
-    // identity, identity for texts, cuts
-    static constexpr rasgos_de_tipo TIPOS[] = {
-        {true, true, false},   // 0
-        {false, false, false}, // 1
-        {false, false, false}, // 2
-        {false, true, false},  // 3
-        {false, false, false}, // 4
-        {false, false, false}, // 5
-        {false, false, false}, // 6
-        {false, false, false}, // 7
-        {false, false, false}, // 8
-        {true, true, true},    // 9
-        {false, true, true},   // 10
-        {true, true, true},    // 11
-        {true, true, true},    // 12
-    };
-    if (tipo < std::size(TIPOS)) [[likely]]
-        return TIPOS[tipo];
+const rasgos_de_tipo &rasgos_de_ninguno() {
     AFIRMA_DEFECTO();
-    return TIPOS[i_MATRIZ_SISTEMA_COORDENADAS];
+    return RASGOS_DE_TIPOS[i_MATRIZ_SISTEMA_COORDENADAS];
 }
 
 // ---------------------------------------------------------------- constructors
@@ -104,6 +87,34 @@ sistema_coordenadas extrusion(Punto3D normal, Punto3D origen) {
 
 // ---------------------------------------------------------------- products
 
+namespace {
+
+// r = a x b, of affine ones; r may be either. By pairs of columns, which a stack that changes for each figure feels.
+void multiplica(matriz4 &r, const matriz4 &a, const matriz4 &b) {
+    static constexpr double CUARTA[] = {0, 0, 0, 1};
+    if (std::memcmp(a.m[3], CUARTA, sizeof CUARTA) != 0 || std::memcmp(b.m[3], CUARTA, sizeof CUARTA) != 0) {
+        r = a * b;
+        return;
+    }
+    using par [[gnu::vector_size(16)]] = double;
+    par izquierda[3], derecha[3];
+    for (int k = 0; k < 3; ++k) {
+        std::memcpy(&izquierda[k], &b.m[k][0], sizeof(par));
+        std::memcpy(&derecha[k], &b.m[k][2], sizeof(par));
+    }
+    for (int i = 0; i < 3; ++i) {
+        const double x = a.m[i][0], y = a.m[i][1], z = a.m[i][2];
+        const par d{-0., a.m[i][3]}; // -0 leaves what it is added to
+        const par primera = izquierda[0] * x + izquierda[1] * y + izquierda[2] * z,
+                  segunda = derecha[0] * x + derecha[1] * y + derecha[2] * z + d;
+        std::memcpy(&r.m[i][0], &primera, sizeof(par));
+        std::memcpy(&r.m[i][2], &segunda, sizeof(par));
+    }
+    std::memcpy(r.m[3], CUARTA, sizeof CUARTA);
+}
+
+} // namespace
+
 void compone(const sistema_coordenadas *sistema_total, const sistema_coordenadas *sistema_parcial,
              sistema_coordenadas *sistema_resultado) {
     if (!EXIGE(sistema_total, sistema_parcial)) return;
@@ -111,21 +122,23 @@ void compone(const sistema_coordenadas *sistema_total, const sistema_coordenadas
         if (sistema_resultado != sistema_total) *sistema_resultado = *sistema_total;
         return;
     }
-    sistema_coordenadas r{sistema_parcial->tipo};
+    // Each part is taken from both before it is written: the result may be either of them.
+    sistema_coordenadas &r = *sistema_resultado;
+    const tipo_transformacion tipo = sistema_parcial->tipo;
+    vnbool desactivada = sistema_total->se_ha_aplicado_previamente_desactiva_todas_transformaciones_glsl;
     // A total that is identity by its kind leaves each column as it is, whatever its numbers.
-    r.m =
-        i_es_sistema_coordenadas_identidad(sistema_total) ? sistema_parcial->m : sistema_total->m * sistema_parcial->m;
+    if (!i_es_sistema_coordenadas_identidad(sistema_total)) multiplica(r.m, sistema_total->m, sistema_parcial->m);
+    else if (sistema_resultado != sistema_parcial) r.m = sistema_parcial->m;
     r.factor_escala_textos = sistema_total->factor_escala_textos * sistema_parcial->factor_escala_textos;
     r.profundidad = sistema_parcial->profundidad > sistema_total->profundidad ? sistema_parcial->profundidad
                                                                               : sistema_total->profundidad;
-    r.se_ha_aplicado_previamente_desactiva_todas_transformaciones_glsl =
-        sistema_total->se_ha_aplicado_previamente_desactiva_todas_transformaciones_glsl;
-    if (sistema_parcial->tipo == i_MATRIZ_DESACTIVA_TRANSFORMACIONES_GLSL) {
-        AFIRMA_TEXTO(r.se_ha_aplicado_previamente_desactiva_todas_transformaciones_glsl == FALSO,
+    if (tipo == i_MATRIZ_DESACTIVA_TRANSFORMACIONES_GLSL) {
+        AFIRMA_TEXTO(desactivada == FALSO,
                      "sistema_resultado->se_ha_aplicado_previamente_desactiva_todas_transformaciones_glsl == FALSO");
-        r.se_ha_aplicado_previamente_desactiva_todas_transformaciones_glsl = CIERTO;
+        desactivada = CIERTO;
     }
-    *sistema_resultado = r;
+    r.se_ha_aplicado_previamente_desactiva_todas_transformaciones_glsl = desactivada;
+    r.tipo = tipo;
 }
 
 void transforma_con_respecto_a(sistema_coordenadas *sistema, const sistema_coordenadas *matriz_destransformar,
@@ -159,9 +172,7 @@ dueno<vmatr_destruir_matriz> a_vmatr(const sistema_coordenadas &s) {
 
 // ---------------------------------------------------------------- what goes through one
 
-Punto3D transforma_punto(const sistema_coordenadas &s, Punto3D p) {
-    if (!i_es_sistema_coordenadas_identidad(&s)) [[likely]]
-        return s.m.punto(p);
+Punto3D transforma_punto_identidad(const sistema_coordenadas &s, Punto3D p) {
     const auto &cuarta = s.m.m[3];
     const double w = cuarta[0] * p.x + cuarta[1] * p.y + cuarta[2] * p.z + cuarta[3];
     return w == 1. ? p : p / w;

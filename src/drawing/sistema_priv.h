@@ -6,6 +6,7 @@
 #include "foundation/numeros/afin.hpp"
 #include "foundation/suelo/dueno.hpp"
 #include "foundation/suelo/tipos.h"
+#include <iterator>
 
 namespace vn {
 
@@ -38,7 +39,27 @@ struct rasgos_de_tipo {
     bool identidad, identidad_para_texto;
     bool corta; // the stages beyond it take no part
 };
-const rasgos_de_tipo &rasgos(tipo_transformacion tipo);
+// identity, identity for texts, cuts
+inline constexpr rasgos_de_tipo RASGOS_DE_TIPOS[] = {
+    {true, true, false},   // 0
+    {false, false, false}, // 1
+    {false, false, false}, // 2
+    {false, true, false},  // 3
+    {false, false, false}, // 4
+    {false, false, false}, // 5
+    {false, false, false}, // 6
+    {false, false, false}, // 7
+    {false, false, false}, // 8
+    {true, true, true},    // 9
+    {false, true, true},   // 10
+    {true, true, true},    // 11
+    {true, true, true},    // 12
+};
+// Those of a kind that is none, reported.
+const rasgos_de_tipo &rasgos_de_ninguno();
+inline const rasgos_de_tipo &rasgos(tipo_transformacion tipo) {
+    return tipo < std::size(RASGOS_DE_TIPOS) ? RASGOS_DE_TIPOS[tipo] : rasgos_de_ninguno();
+}
 inline bool i_es_sistema_coordenadas_identidad(const sistema_coordenadas *s) { return rasgos(s->tipo).identidad; }
 
 // ---- Constructors
@@ -72,7 +93,11 @@ dueno<vmatr_destruir_matriz> a_vmatr(const sistema_coordenadas &s);
 
 // ---- What goes through one
 
-Punto3D transforma_punto(const sistema_coordenadas &s, Punto3D p);
+// Through one that is identity by its kind: as it is, but for a perspective.
+Punto3D transforma_punto_identidad(const sistema_coordenadas &s, Punto3D p);
+inline Punto3D transforma_punto(const sistema_coordenadas &s, Punto3D p) {
+    return i_es_sistema_coordenadas_identidad(&s) ? transforma_punto_identidad(s, p) : s.m.punto(p);
+}
 inline Punto2D transforma_punto_2d(const sistema_coordenadas &s, double x, double y, double z) {
     const Punto3D p = transforma_punto(s, {x, y, z});
     return {p.x, p.y};

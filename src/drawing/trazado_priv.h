@@ -23,9 +23,15 @@ template <auto SLOT> inline camino busca(salida_t *s) {
     salida_t *const donde = implementa<SLOT>(s);
     return {donde, &encadenado(s, donde)};
 }
+// In one walk of the chain, as it is done for each line.
 template <auto PLANO, auto ESPACIO> inline camino busca(salida_t *s) {
-    salida_t *const donde = implementa<PLANO, ESPACIO>(s);
-    return {donde, &encadenado(s, donde)};
+    uint64_t cambios = 0;
+    salida_t *i = s;
+    for (; i != nullptr; i = i->salida_destino) {
+        cambios += i->cambios;
+        if (tiene_una<PLANO, ESPACIO>(*i)) break;
+    }
+    return {i, &encadenado(s, i, cambios)};
 }
 template <auto SLOT> inline bool tiene(const salida_t *s) { return s->funciones.*SLOT != nullptr; }
 

@@ -18,12 +18,17 @@ constexpr double MISMO_EN_RAYO = 1e-05, MISMO_EN_REFERENCIA = 1e-06, MISMO_EN_ES
 Punto2D planta(Punto3D p) { return {p.x, p.y}; }
 
 // A figure of two points, in its form of the plane or of space.
-template <auto PLANO, auto ESPACIO> void dibuja_recta(salida_t *salida, Punto3D p, Punto3D q) {
+template <auto PLANO, auto ESPACIO>
+[[gnu::always_inline]] inline void dibuja_recta(salida_t *salida, Punto3D p, Punto3D q) {
     const camino c = busca<PLANO, ESPACIO>(salida);
     if (!hay(c.donde)) return;
+    const en_planta &planta = salida->sistema_coordenadas_encadenado->planta;
+    if (tiene<PLANO>(c.donde) && planta.directo) [[likely]] {
+        const en_planta::par a = planta.punto(p.x, p.y, p.z), b = planta.punto(q.x, q.y, q.z);
+        return llama<PLANO>(c.donde, a[0], a[1], b[0], b[1]);
+    }
     const Punto3D a = transforma_punto(*c.sistema, p), b = transforma_punto(*c.sistema, q);
-    if (tiene<PLANO>(c.donde)) [[likely]]
-        llama<PLANO>(c.donde, a.x, a.y, b.x, b.y);
+    if (tiene<PLANO>(c.donde)) llama<PLANO>(c.donde, a.x, a.y, b.x, b.y);
     else llama<ESPACIO>(c.donde, a.x, a.y, a.z, b.x, b.y, b.z);
 }
 

@@ -27,16 +27,45 @@ void compone_en(sistema_coordenadas &r, const salida_t *s, const salida_t *salid
 }
 
 bool identidad(tipo_transformacion t) { return rasgos(t).identidad; }
+// Whether a stage only multiplies: it switches nothing off, nor stands after one that did.
+bool es_llano(const salida_t &s) {
+    const sistema_coordenadas &a = *s.sistema_coordenadas_actual;
+    return a.tipo < i_MATRIZ_DESACTIVA_TRANSFORMACIONES && a.profundidad == 0 &&
+           a.se_ha_aplicado_previamente_desactiva_todas_transformaciones_glsl == FALSO;
+}
 bool identidad_para_texto(tipo_transformacion t) { return rasgos(t).identidad_para_texto; }
 
 } // namespace
 
-const sistema_coordenadas &compone_cadena(salida_t *s, const salida_t *fin) {
+namespace {
+
+// Into the record of `s`, from its product of the stages beyond where that is enough.
+void compone_lo_cambiado(compuesta &c, const salida_t *s, const salida_t *fin, uint64_t cambios) {
+    const salida_t *const otra = s->salida_destino;
+    if (s == fin || otra == nullptr || !es_llano(*s)) {
+        compone_en(c.sistema, s, fin, identidad);
+        return;
+    }
+    if (c.cambios_del_resto != cambios - s->cambios || c.fin_del_resto != fin) {
+        compone_en(c.resto, otra, fin, identidad);
+        c.fin_del_resto = fin;
+        c.cambios_del_resto = cambios - s->cambios;
+        c.resto_llano = true;
+        for (const salida_t *i = otra; i != nullptr; i = i == fin ? nullptr : i->salida_destino)
+            c.resto_llano = c.resto_llano && es_llano(*i);
+    }
+    if (c.resto_llano) compone(&c.resto, s->sistema_coordenadas_actual, &c.sistema);
+    else compone_en(c.sistema, s, fin, identidad);
+}
+
+} // namespace
+
+const sistema_coordenadas &compone_cadena(salida_t *s, const salida_t *fin, uint64_t cambios) {
     compuesta &c = *s->sistema_coordenadas_encadenado;
-    compone_en(c.sistema, s, fin, identidad);
+    compone_lo_cambiado(c, s, fin, cambios);
+    c.planta = en_planta(c.sistema);
     c.fin = fin;
-    c.cambios = 0;
-    for (const salida_t *i = s; i != nullptr; i = i == fin ? nullptr : i->salida_destino) c.cambios += i->cambios;
+    c.cambios = cambios;
     return c.sistema;
 }
 

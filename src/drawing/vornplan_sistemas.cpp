@@ -79,10 +79,10 @@ void vplan_append_giro_xy(salida_t *salida, double x, double y, double coseno, d
     apila_si_valida(salida, s);
 }
 void vplan_append_giro_xy_y_posiciona(salida_t *salida, double x, double y, double coseno, double seno) {
-    const sistema_coordenadas lugar = desplazamiento(x, y, z_o_cero(salida)), vuelta = giro(coseno, seno);
-    sistema_coordenadas s;
-    compone(&lugar, &vuelta, &s);
-    apila_si_valida(salida, s);
+    if (!es_valida(salida)) return;
+    const sistema_coordenadas s{i_MATRIZ_GIRO, matriz4::de_ejes({x, y, z_del_plano(*salida)}, {coseno, seno, 0},
+                                                                {-seno, coseno, 0}, {0, 0, 1})};
+    apila(salida, &s);
 }
 
 void vplan_append_escala_gira_xy_y_desplaza_con_respecto_a_un_eje(salida_t *salida, double x, double y,
