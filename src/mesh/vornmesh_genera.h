@@ -12,9 +12,8 @@
    rounded so and sorted by position: such a mesh and one of the others (tubes, cones, spheres, grids, paths, boxes)
    may differ by 5e-06 where they touch. The normals of a compacting generator are made unit again.
 
-   Contours are triangulated by the GLU library, one tessellator kept for each thread; what it finds wrong is reported
-   with its own text, and what it gave is kept. A coordinate that is not finite is reported, and its contours are
-   empty. */
+   Contours are triangulated by the system's GLU; what it finds wrong is reported with its own text, and what it gave
+   is kept. A coordinate that is not finite is reported, and its contours are empty. */
 #ifndef VN_VORNMESH_GENERA_H
 #define VN_VORNMESH_GENERA_H
 

@@ -2,8 +2,10 @@
 #include "mesh/vornmesh_teselador_priv.h"
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cmath>
 #include <GL/glu.h>
+#include <utility>
 
 // The tessellator of the system's GLU.
 using namespace vn;
@@ -91,33 +93,39 @@ struct genera_triangulos {
     }
 };
 
-// Kept by each thread, since making one takes as long as a small contour; one that found something wrong is not used
-// again.
-class teselador {
-  public:
-    ~teselador() { suelta(); }
-    GLUtesselator *dame() {
-        if (t_ != nullptr || (t_ = gluNewTess()) == nullptr) return t_;
-        const auto pon = [this](GLenum cual, auto *funcion) {
-            gluTessCallback(t_, cual, reinterpret_cast<llamada>(funcion));
-        };
-        pon(GLU_TESS_BEGIN_DATA, genera_triangulos::empieza);
-        pon(GLU_TESS_EDGE_FLAG_DATA, genera_triangulos::borde);
-        pon(GLU_TESS_VERTEX_DATA, genera_triangulos::pon_vertice);
-        pon(GLU_TESS_END_DATA, genera_triangulos::termina);
-        pon(GLU_TESS_COMBINE_DATA, genera_triangulos::combina);
-        pon(GLU_TESS_ERROR_DATA, genera_triangulos::falla);
-        return t_;
-    }
-    void suelta() {
-        if (t_ != nullptr) gluDeleteTess(t_);
-        t_ = nullptr;
-    }
+// Tessellators at rest, since making one takes as long as a small contour: whoever needs one takes it, and gives it
+// back for the next. Not one to each thread, which would have to be destroyed when the thread ends: the runtime of one
+// of our platforms has freed a thread's variables by then. There are as many as threads that triangulated at once.
+constinit std::array<std::atomic<GLUtesselator *>, 16> en_reposo{};
 
-  private:
-    GLUtesselator *t_ = nullptr;
-};
-thread_local teselador teselador_de_la_hebra;
+void suelta(GLUtesselator *t) { gluDeleteTess(t); }
+using teselador = dueno<suelta>;
+
+teselador toma_teselador() {
+    for (auto &sitio : en_reposo)
+        if (GLUtesselator *t = sitio.exchange(nullptr, std::memory_order_acquire)) return teselador(t);
+    teselador nuevo(gluNewTess());
+    const auto pon = [&nuevo](GLenum cual, auto *funcion) {
+        if (nuevo != nullptr) gluTessCallback(nuevo.get(), cual, reinterpret_cast<llamada>(funcion));
+    };
+    pon(GLU_TESS_BEGIN_DATA, genera_triangulos::empieza);
+    pon(GLU_TESS_EDGE_FLAG_DATA, genera_triangulos::borde);
+    pon(GLU_TESS_VERTEX_DATA, genera_triangulos::pon_vertice);
+    pon(GLU_TESS_END_DATA, genera_triangulos::termina);
+    pon(GLU_TESS_COMBINE_DATA, genera_triangulos::combina);
+    pon(GLU_TESS_ERROR_DATA, genera_triangulos::falla);
+    return nuevo;
+}
+
+void devuelve(teselador t) {
+    for (auto &sitio : en_reposo) {
+        GLUtesselator *nadie = nullptr;
+        if (!sitio.compare_exchange_strong(nadie, t.get(), std::memory_order_release, std::memory_order_relaxed))
+            continue;
+        t.release();
+        return;
+    }
+}
 
 Punto3D minimo(Punto3D a, Punto3D b) { return {std::min(a.x, b.x), std::min(a.y, b.y), std::min(a.z, b.z)}; }
 Punto3D maximo(Punto3D a, Punto3D b) { return {std::max(a.x, b.x), std::max(a.y, b.y), std::max(a.z, b.z)}; }
@@ -186,7 +194,8 @@ void vn::tesela(const contornos_t &c, triangulos &r) {
     // What nearly every contour needs; crossings may ask for more.
     r.nuevos.reserve(genera_triangulos::BLOQUES);
     const size_t esquinas = 3 * (c.vertices().size() + 2 * c.finales().size());
-    GLUtesselator *t = teselador_de_la_hebra.dame();
+    teselador propio = toma_teselador();
+    GLUtesselator *t = propio.get();
     if (!AFIRMA_TEXTO(r.vertices.reserva(esquinas) && r.bordes.reserva(esquinas) && t != nullptr, "memoria != NULL"))
         return;
 
@@ -206,7 +215,8 @@ void vn::tesela(const contornos_t &c, triangulos &r) {
     }
     gluTessEndPolygon(t);
 
-    if (g.num_errores > 0 || g.sin_memoria) teselador_de_la_hebra.suelta();
+    // One that found something wrong may not be at its beginning.
+    if (g.num_errores == 0 && !g.sin_memoria) devuelve(std::move(propio));
     for (size_t i = 0; i < g.num_errores; ++i) {
         const auto *texto = reinterpret_cast<const char *>(gluErrorString(g.errores[i]));
         error_interno(texto != nullptr ? texto : "GLU_TESS_ERROR", VN_AQUI, 0);

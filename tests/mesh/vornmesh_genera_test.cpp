@@ -148,7 +148,9 @@ PRUEBA(vornmesh_genera, donde_se_cruzan_los_contornos_hay_vertices_nuevos_cada_u
             EXPECT_TRUE(normales_hacia_fuera(triangulos(x.get())) || suma(triangulos(x.get()), o).vector.z < 0.);
         }
     }
-    // Several threads at once, each with its own tessellator, give what one gives alone.
+}
+
+PRUEBA(vornmesh_genera, varias_hebras_a_la_vez_dan_lo_que_una_sola) {
     vn::azar a(63);
     const lista estrellado({estrella(a, 200, 1., 20.), estrella(a, 200, 1., 20.)});
     const malla sola(vornmesh_genera_contorno(estrellado));

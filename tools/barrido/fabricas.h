@@ -15,6 +15,8 @@
 #include "foundation/listas/acadorde.h"
 #include "foundation/listas/apunorde.h"
 #include "foundation/listas/arr.h"
+#include "foundation/listas/gcarray.h"
+#include "foundation/numeros/gcMat4x4.h"
 #include "foundation/sistema/avisos.h"
 #include "foundation/sistema/vnmutex.h"
 #include "foundation/suelo/callback.h"
@@ -25,6 +27,8 @@
 #include "geometry/poligono.h"
 #include "geometry/pto3dord.h"
 #include "geometry/rectng.h"
+#include "mesh/vornmesh.h"
+#include "mesh/vornmesh_genera.h"
 #include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
 #include "time/vorntime.h"
@@ -266,6 +270,21 @@ inline arrPuntero *ultimos_ficheros() {
 inline arrPunto3D *triangulo() {
     arrPunto3D *a = arr_CreaPunto3D(0);
     for (const double x : {0., 1., 2.}) arr_AppendPunto3D(a, x, x * x, 0);
+    return a;
+}
+// Two triangles, one above the other, which are contours, faces, sections and rows.
+inline arrPuntero *contornos() {
+    arrPuntero *a = arr_CreaPunteroConTipo(0);
+    for (const double z : {0., 1.}) {
+        arrPunto3D *p = triangulo();
+        for (uint32_t i = 0; i < 3; ++i) arr_GetBufferPunto3D(p)[i].z = z;
+        arr_AppendPunteroST(a, p, arrPunto3D);
+    }
+    return a;
+}
+inline arrPuntero *listas_de_indices() {
+    arrPuntero *a = arr_CreaPunteroConTipo(0);
+    for (uint32_t i = 0; i < 3; ++i) arr_AppendPunteroST(a, arr_CreaULong(3), arrULong);
     return a;
 }
 inline vnmutex *mutex_por_dentro() {
