@@ -23,8 +23,14 @@ puntos3D_propios copia(const arrPunto3D *a) { return copia_opcional<arr_CopiaPun
 puntos2D_propios copia(const arrPunto2D *a) { return copia_opcional<arr_CopiaPunto2D, arr_DestruyePunto2D>(a); }
 logicos_propios copia(const arrBOOL *a) { return copia_opcional<arr_CopiaBOOL, arr_DestruyeBOOL>(a); }
 enteros_propios copia(const arrULong *a) { return copia_opcional<arr_CopiaULong, arr_DestruyeULong>(a); }
+// Each copy is owned as soon as it is made.
 indices_propios copia(const arrPuntero *a) {
-    return indices_propios(arr_CopiaEstructurasST(a, arrULong, arr_CopiaULong));
+    const auto de = listas::tramo(a);
+    indices_propios r(arr_CreaPunteroConTipo(static_cast<uint32_t>(de.size())));
+    if (r == nullptr) return nullptr;
+    for (size_t i = 0; i < de.size(); ++i)
+        if (de[i] != nullptr) listas::tramo(r.get())[i] = arr_CopiaULong(static_cast<const arrULong *>(de[i]));
+    return r;
 }
 
 // Takes an array out of its owner's pointer.
@@ -39,6 +45,17 @@ mesh vacia() {
     m.tipos_primitivas.reset(arr_CreaULong(0));
     m.inds_caras.reset(arr_CreaPunteroConTipo(0));
     return m;
+}
+
+// What a transformation leaves as it is.
+mesh copia_sin_geometria(const mesh &m) {
+    mesh r;
+    r.coord_texturas_opc = copia(m.coord_texturas_opc.get());
+    r.es_borde = copia(m.es_borde.get());
+    r.ids_parametricos_puntos_opc = copia(m.ids_parametricos_puntos_opc.get());
+    r.tipos_primitivas = copia(m.tipos_primitivas.get());
+    r.inds_caras = copia(m.inds_caras.get());
+    return r;
 }
 
 uint32_t cuantos(const arrULong *a) { return arr_NumElemsULong(a); }
@@ -160,21 +177,21 @@ mesh *vornmesh_crea_vacio_para_vnsmsolid(void) {
 
 mesh *vornmesh_copia(const mesh *m) {
     if (!AFIRMA_NO_NULO(m)) return nullptr;
-    return nueva_mesh({copia(m->puntos.get()), copia(m->normales.get()), copia(m->tangentes_opc.get()),
-                       copia(m->coord_texturas_opc.get()), copia(m->es_borde.get()),
-                       copia(m->ids_parametricos_puntos_opc.get()), copia(m->tipos_primitivas.get()),
-                       copia(m->inds_caras.get())})
-        .release();
+    mesh copiada = copia_sin_geometria(*m);
+    copiada.puntos = copia(m->puntos.get());
+    copiada.normales = copia(m->normales.get());
+    copiada.tangentes_opc = copia(m->tangentes_opc.get());
+    return nueva_mesh(std::move(copiada)).release();
 }
 
 mesh *vornmesh_copia_para_transformacion_vornplan(const mesh *m, arrPunto3D **puntos, arrPunto3D **normales,
                                                   arrPunto3D **tangentes_opc) {
     if (!EXIGE(m, puntos, *puntos, normales, *normales, tangentes_opc)) return nullptr;
-    return nueva_mesh({toma<puntos3D_propios>(puntos), toma<puntos3D_propios>(normales),
-                       toma<puntos3D_propios>(tangentes_opc), copia(m->coord_texturas_opc.get()),
-                       copia(m->es_borde.get()), copia(m->ids_parametricos_puntos_opc.get()),
-                       copia(m->tipos_primitivas.get()), copia(m->inds_caras.get())})
-        .release();
+    mesh copiada = copia_sin_geometria(*m);
+    copiada.puntos = toma<puntos3D_propios>(puntos);
+    copiada.normales = toma<puntos3D_propios>(normales);
+    copiada.tangentes_opc = toma<puntos3D_propios>(tangentes_opc);
+    return nueva_mesh(std::move(copiada)).release();
 }
 
 void vornmesh_destruye(mesh **m) {
@@ -267,8 +284,11 @@ void vornmesh_concatena(const mesh *mesh_origen, mesh *mesh_destino) {
         rellena_ids(*mesh_destino, antes + nuevos);
     }
     arr_ConcatenaULong(mesh_destino->tipos_primitivas.get(), mesh_origen->tipos_primitivas.get());
-    // Handed over, and so not destroyed with the list that brought them.
+    const uint32_t primitivas = arr_NumElemsPuntero(mesh_destino->inds_caras.get());
     arr_ConcatenaEstructurasConTipo(mesh_destino->inds_caras.get(), indices.get(), nullptr, VN_AQUI);
+    // There was no memory for them, which was reported.
+    if (arr_NumElemsPuntero(mesh_destino->inds_caras.get()) == primitivas) return;
+    // Handed over, and so not destroyed with the list that brought them.
     arrPuntero *lista = indices.release();
     arr_DestruyePunteroConTipo(&lista);
 }

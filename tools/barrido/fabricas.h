@@ -272,6 +272,11 @@ inline arrPunto3D *triangulo() {
     for (const double x : {0., 1., 2.}) arr_AppendPunto3D(a, x, x * x, 0);
     return a;
 }
+inline arrPunto3D *hacia_arriba() {
+    arrPunto3D *a = arr_CreaPunto3D(0);
+    arr_AppendPunto3D(a, 0, 0, 1);
+    return a;
+}
 // Two triangles, one above the other, which are contours, faces, sections and rows.
 inline arrPuntero *contornos() {
     arrPuntero *a = arr_CreaPunteroConTipo(0);

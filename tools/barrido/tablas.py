@@ -26,10 +26,14 @@ MANEJOS = [
     ("arrPuntero", r"polin3d_ejes2d", "arr_CreaPunteroConTipo(0)", "arr_DestruyeEstructurasST(&p, ejes2d, ejes2d_destruye)", 0),
     ("arrPuntero", r"vornmesh_crea", "listas_de_indices()",
      "arr_DestruyeEstructurasArrayST(&p, arrULong, arr_DestruyeULong)", 1),
-    ("arrPuntero", r"vornmesh_genera_contorno(_ex|_con_coords_textura)", "vacios()", "arr_DestruyePunteroConTipo(&p)", 1),
+    ("arrPuntero", r"vornmesh_genera_contorno(_ex|_con_coords_textura)", "arr_CreaPunteroConTipo(0)", "arr_DestruyePunteroConTipo(&p)", 0),
     ("arrPuntero", r"vornmesh_(genera|obtener)", "contornos()",
      "arr_DestruyeEstructurasArrayST(&p, arrPunto3D, arr_DestruyePunto3D)", 2),
     ("arrPuntero", r"", "punteros()", "arr_DestruyePunteroConTipo(&p)", 3),
+    # As many as the vertices of the mesh.
+    ("arrPunto3D", r"vornmesh_copia_para", "arr_CreaPunto3D(36)", "arr_DestruyePunto3D(&p)", 36),
+    ("arrPunto2D", r"vornmesh_set", "arr_CreaPunto2D(36)", "arr_DestruyePunto2D(&p)", 36),
+    ("arrPunto3D", r"vornmesh_genera_vectores", "hacia_arriba()", "arr_DestruyePunto3D(&p)", 1),
     ("arrPunto3D", r"(?!arr_)", "triangulo()", "arr_DestruyePunto3D(&p)", 3),
     ("mesh", r"", "vornmesh_genera_cubo(1., 2., 3.)", "vornmesh_destruye(&p)", 0),
     ("gcMat4x4", r"", "gcMat4x4_make_translation(1., 2., 3.)", "gcMat4x4_free(&p)", 0),
@@ -154,6 +158,7 @@ PARAMETROS = [
     (r"pto3dord_ind_punto", r"y|z", "real({n}, 0)"),
     (r"rectng_AnchosDesdePuntoFijo", r"coord_._cdg", "real({n}, 0)"),
     (r"vornmat_modulo_poisson", r"modulo_elasticidad", "real({n}, 2.5)"),
+    (r"vornmesh_obten_indices.*", r"tipo_primitiva", "enteros({n}, {{4, 5, 7, 8, 6, 0}})"),
     # The address of a pointer of any type.
     (r"vornspy_nousar_(free_pp|asigna_doble_puntero_no_null)", r"p", "hueco({n}, fab_void, EXIGE)"),
     (r"vornspy_nousar_(asigna_doble_puntero|destruye_puntero_opcional)", r"p", "hueco({n}, fab_void, HUECO_OPCIONAL)"),
@@ -218,7 +223,7 @@ LLAMADAS = {
 
 # Results that are T * and stay another's.
 PRESTADOS = [
-    r"arr_GetBuffer\w+", r"vmatr_get_buffer_matriz", r"arr_GetPunteroConTipo", r"apunorde_nousar_(get|quita|busca|dame)", r"vornspy_parametro_puntero",
+    r"arr_GetBuffer\w+", r"gc\w+_get_(elements_)?buffer", r"vmatr_get_buffer_matriz", r"arr_GetPunteroConTipo", r"apunorde_nousar_(get|quita|busca|dame)", r"vornspy_parametro_puntero",
     r"vornspy_nousar_copia_puntero_opcional", r"lc_fgetws", r"vtxt_lee_linea",
 ]
 
