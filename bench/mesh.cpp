@@ -1,5 +1,5 @@
-// Meshes: contours beside the tessellator alone, unique vertices beside hash tables and a sort, normals of a grid beside
-// a plain loop. usage: bench_mesh [passes]
+// Meshes: contours beside the tessellator alone, unique vertices beside hash tables and a sort, normals of a grid
+// beside a plain loop. usage: bench_mesh [passes]
 #include "mesh.h"
 
 int main(int argc, char **argv) {

@@ -1,5 +1,5 @@
-// A grid of a million vertices with its normals, beside loops over plain arrays: central differences, the limit, and the
-// sum over the triangles about each vertex. The mesh's own arrays and its strips are in the time of ours alone.
+// A grid of a million vertices with its normals, beside loops over plain arrays: central differences, the limit, and
+// the sum over the triangles about each vertex. The mesh's own arrays and its strips are in the time of ours alone.
 #include "foundation/numeros/vector_int.h"
 #include "foundation/suelo/dueno.hpp"
 #include "mesh.h"

@@ -57,9 +57,10 @@ void malla_compacta::contornos(const contornos_t &c, bool con_caras, bool invert
     unicos_.reserva(c.vertices().size());
     for (size_t i = 0; i < t.primitivas.size(); ++i) {
         const auto &primitiva = t.primitivas[i];
+        if (con_caras && caras.vacias()) caras.reserva(primitiva.hasta - primitiva.desde);
         if (con_caras) caras.abre(primitiva.tipo);
         for (size_t k = primitiva.desde; k < primitiva.hasta; ++k) {
-            const uint32_t v = unicos_.anade(*t.vertices[k], t.bordes[k]);
+            const uint32_t v = unicos_.anade(*t.esquinas[k].v, t.esquinas[k].borde);
             if (con_caras) caras.indice(v);
         }
         if (con_caras && invertidas) caras.invierte();
@@ -108,13 +109,15 @@ void malla_suelta::contornos(const contornos_t &c) {
     for (size_t i = 0; i < t.primitivas.size(); ++i) {
         const auto &primitiva = t.primitivas[i];
         const size_t num_puntos_triangulo = primitiva.hasta;
-        if (primitiva.desde == primitiva.hasta ||
-            !AFIRMA_TEXTO(num_puntos_triangulo <= t.bordes.size(),
+        if (primitiva.desde == primitiva.hasta || // an empty record adds nothing
+            !AFIRMA_TEXTO(num_puntos_triangulo <= t.esquinas.size(),
                           "num_puntos_triangulo == arr_NumElemsBOOL(triangulo->es_borde)"))
             continue;
+        const size_t n = primitiva.hasta - primitiva.desde;
+        if (puntos_.empty()) reserva(n), caras.reserva(n);
         caras.abre(primitiva.tipo);
         for (size_t k = primitiva.desde; k < primitiva.hasta; ++k)
-            caras.indice(vertice({t.vertices[k]->p, t.vertices[k]->n, t.bordes[k]}));
+            caras.indice(vertice({t.esquinas[k].v->p, t.esquinas[k].v->n, t.esquinas[k].borde}));
     }
 }
 

@@ -40,6 +40,7 @@ class primitivas {
     void invierte() {
         std::reverse(indices_.begin() + static_cast<ptrdiff_t>(inicio(tipos_.size() - 1)), indices_.end());
     }
+    void reserva(size_t n) { indices_.reserve(n); }
     bool vacias() const { return tipos_.empty(); }
     // Into the arrays of a mesh, each index as `lugar` tells; false, and reported, if there is no memory for them.
     template <class F> bool da(mesh &m, F &&lugar) const {

@@ -20,11 +20,11 @@ using llamada = void (*)();
 // One tessellation under way. Its functions are called by GLU, so that they neither throw nor ask for memory that must
 // be had: what they could not do is said when GLU has returned.
 struct genera_triangulos {
-    static constexpr size_t ERRORES = 8, BLOQUES = 40, PRIMER_BLOQUE = 32;
+    static constexpr size_t ERRORES = 8, PRIMER_BLOQUE = 32;
 
     triangulos &r;
     Punto3D cgeom;
-    bool en_primitiva = false, sin_memoria = false;
+    bool en_primitiva = false, sin_memoria = false, hay_borde = false, es_borde = false;
     std::array<GLenum, ERRORES> errores{};
     size_t num_errores = 0;
 
@@ -35,30 +35,29 @@ struct genera_triangulos {
     static void empieza(GLenum tipo, void *estado) {
         auto &g = de(estado);
         AFIRMA_TEXTO(!g.en_primitiva, "genera_triangulos->puntos_triangulos == NULL");
-        AFIRMA_TEXTO(g.sin_memoria || g.r.bordes.size() == g.r.vertices.size(), "genera_triangulos->es_borde == NULL");
+        AFIRMA_TEXTO(!g.hay_borde, "genera_triangulos->es_borde == NULL");
         g.en_primitiva = true;
-        g.anota(g.r.primitivas.anade({tipo, g.r.vertices.size(), g.r.vertices.size()}));
+        g.anota(g.r.primitivas.anade({tipo, g.r.esquinas.size(), g.r.esquinas.size()}));
     }
     static void borde(GLboolean es_borde, void *estado) {
         auto &g = de(estado);
-        g.anota(g.r.bordes.anade(es_borde == GL_TRUE));
+        g.hay_borde = true;
+        g.es_borde = es_borde == GL_TRUE;
     }
+    // Only a change of the flag is told: it holds until the next one.
     static void pon_vertice(void *v, void *estado) {
         auto &g = de(estado);
-        g.anota(g.r.vertices.anade(static_cast<const vertice *>(v)));
-        // Only a change of the flag is told.
-        const size_t num_puntos = g.r.vertices.size(), num_bordes = g.r.bordes.size();
-        if (g.sin_memoria || num_bordes == num_puntos) return;
-        if (AFIRMA(num_bordes == num_puntos - 1)) g.anota(g.r.bordes.anade(num_bordes > 0 && g.r.bordes.ultimo()));
+        AFIRMA_TEXTO(g.hay_borde, "num_bordes == num_puntos - 1");
+        g.anota(g.r.esquinas.anade({static_cast<const vertice *>(v), g.es_borde}));
     }
     static void termina(void *estado) {
         auto &g = de(estado);
-        g.en_primitiva = false;
+        g.en_primitiva = g.hay_borde = false;
         if (g.sin_memoria || !AFIRMA_TEXTO(g.r.primitivas.size() > 0, "(genera_triangulos->triangulos) != NULL"))
             return;
-        const size_t num_vertices = g.r.vertices.size(), num_caras = g.r.bordes.size();
-        AFIRMA(num_vertices == num_caras);
-        g.r.primitivas.ultimo().hasta = num_vertices;
+        auto &p = g.r.primitivas.ultimo();
+        p.hasta = g.r.esquinas.size();
+        AFIRMA_TEXTO(p.tipo != GL_TRIANGLES || (p.hasta - p.desde) % 3 == 0, "num_vertices == num_caras");
     }
     // A new corner out of up to four, its normal and texture coordinate by their weights.
     static void combina(GLdouble c[3], void *vertices[4], GLfloat pesos[4], void **nuevo, void *estado) {
@@ -80,16 +79,17 @@ struct genera_triangulos {
     }
 
     vertice *hueco() {
-        auto &nuevos = r.nuevos; // as many blocks as there can be are reserved
-        if (nuevos.empty() || nuevos.back().n == nuevos.back().capacidad) {
-            const size_t n = nuevos.empty() ? PRIMER_BLOQUE : 2 * nuevos.back().capacidad;
+        auto *ultimo = r.num_nuevos > 0 ? &r.nuevos[r.num_nuevos - 1] : nullptr;
+        if (ultimo == nullptr || ultimo->n == ultimo->capacidad) {
+            const size_t n = ultimo == nullptr ? PRIMER_BLOQUE : 2 * ultimo->capacidad;
             propio<vertice> bloque(static_cast<vertice *>(
-                nuevos.size() < BLOQUES ? vornspy_reserva_seguro(n, sizeof(vertice), FALSO, VN_AQUI) : nullptr));
+                r.num_nuevos < r.nuevos.size() ? vornspy_reserva_seguro(n, sizeof(vertice), FALSO, VN_AQUI) : nullptr));
             anota(bloque != nullptr);
             if (bloque == nullptr) return nullptr;
-            nuevos.push_back({std::move(bloque), 0, n});
+            ultimo = &r.nuevos[r.num_nuevos++];
+            *ultimo = {std::move(bloque), 0, n};
         }
-        return nuevos.back().vertices.get() + nuevos.back().n++;
+        return ultimo->vertices.get() + ultimo->n++;
     }
 };
 
@@ -149,6 +149,8 @@ bool coinciden(Punto3D a, Punto3D b) { return numeros::mayor_coordenada(a - b) <
 
 void contornos_t::anade(std::span<const Punto3D> contorno, Punto3D normal, bool al_reves) {
     const size_t n = contorno.size();
+    if (vertices_.capacity() - vertices_.size() < n)
+        vertices_.reserve(std::max(2 * vertices_.size(), vertices_.size() + n));
     for (size_t i = 0; i < n; ++i) vertices_.push_back({contorno[al_reves ? n - 1 - i : i], normal, {}});
     finales_.push_back(vertices_.size());
 }
@@ -192,12 +194,10 @@ void vn::tesela(const contornos_t &c, triangulos &r) {
     if (!AFIRMA_TEXTO(centro(c.vertices(), cgeom), "defmath_es_numero_valido(x) == CIERTO")) return;
     genera_triangulos g{r, cgeom};
     // What nearly every contour needs; crossings may ask for more.
-    r.nuevos.reserve(genera_triangulos::BLOQUES);
     const size_t esquinas = 3 * (c.vertices().size() + 2 * c.finales().size());
     teselador propio = toma_teselador();
     GLUtesselator *t = propio.get();
-    if (!AFIRMA_TEXTO(r.vertices.reserva(esquinas) && r.bordes.reserva(esquinas) && t != nullptr, "memoria != NULL"))
-        return;
+    if (!AFIRMA_TEXTO(r.esquinas.reserva(esquinas) && t != nullptr, "memoria != NULL")) return;
 
     gluTessBeginPolygon(t, &g);
     size_t desde = 0;
@@ -222,5 +222,5 @@ void vn::tesela(const contornos_t &c, triangulos &r) {
         error_interno(texto != nullptr ? texto : "GLU_TESS_ERROR", VN_AQUI, 0);
     }
     // What could not be kept whole is not kept.
-    if (!AFIRMA_TEXTO(!g.sin_memoria && !g.en_primitiva, "memoria != NULL")) r.primitivas = {};
+    if (!AFIRMA_TEXTO(!g.sin_memoria && !g.en_primitiva, "memoria != NULL")) r.primitivas.vacia();
 }

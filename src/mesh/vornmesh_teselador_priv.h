@@ -4,6 +4,8 @@
 #include "foundation/suelo/propio_int.h"
 #include "mesh/vornmesh_priv.h"
 #include "mesh/vornmesh_vertices_priv.h"
+#include <algorithm>
+#include <array>
 #include <span>
 #include <vector>
 
@@ -30,34 +32,46 @@ class contornos_t {
 
 // Values at the end of a block that asks for its memory and takes no for an answer: what grows while the code of others
 // is on the stack, through which nothing may be thrown.
-template <class T> class lista_segura {
+// The first of them, what a small contour needs, take no block.
+template <class T, size_t PROPIOS> class lista_segura {
   public:
+    lista_segura() = default;
+    lista_segura(const lista_segura &) = delete;
+    lista_segura &operator=(const lista_segura &) = delete;
     bool reserva(size_t n) {
         if (n <= capacidad_) return true;
         propio<T> nuevos(static_cast<T *>(vornspy_reserva_seguro(n, sizeof(T), FALSO, VN_AQUI)));
         if (nuevos == nullptr) return false;
-        if (n_ > 0) std::memcpy(static_cast<void *>(nuevos.get()), datos_.get(), n_ * sizeof(T));
-        datos_ = std::move(nuevos);
+        std::copy_n(datos_, n_, nuevos.get());
+        bloque_ = std::move(nuevos);
+        datos_ = bloque_.get();
         capacidad_ = n;
         return true;
     }
     bool anade(T v) {
-        if (n_ == capacidad_ && !reserva(2 * capacidad_ + 8)) return false;
-        datos_.get()[n_++] = v;
+        if (n_ == capacidad_ && !reserva(2 * capacidad_)) return false;
+        datos_[n_++] = v;
         return true;
     }
+    void vacia() { n_ = 0; }
     size_t size() const { return n_; }
-    const T &operator[](size_t i) const { return datos_.get()[i]; }
-    T &ultimo() { return datos_.get()[n_ - 1]; }
+    const T &operator[](size_t i) const { return datos_[i]; }
+    T &ultimo() { return datos_[n_ - 1]; }
 
   private:
-    propio<T> datos_;
-    size_t n_ = 0, capacidad_ = 0;
+    T primeros_[PROPIOS];
+    T *datos_ = primeros_;
+    propio<T> bloque_;
+    size_t n_ = 0, capacidad_ = PROPIOS;
 };
 
 // What a tessellation gives: corners in the order of their triangles, whether the edge that leaves each is one of the
 // contours', and the primitives that they make.
 struct triangulos {
+    struct esquina {
+        const vertice *v;
+        bool borde;
+    };
     struct primitiva {
         uint32_t tipo;
         size_t desde, hasta;
@@ -67,10 +81,10 @@ struct triangulos {
         propio<vertice> vertices;
         size_t n = 0, capacidad = 0;
     };
-    std::vector<cruces> nuevos;
-    lista_segura<const vertice *> vertices;
-    lista_segura<bool> bordes;
-    lista_segura<primitiva> primitivas;
+    std::array<cruces, 32> nuevos;
+    size_t num_nuevos = 0;
+    lista_segura<esquina, 64> esquinas;
+    lista_segura<primitiva, 2> primitivas;
 };
 
 // Triangulates by the odd winding rule. What the tessellator finds wrong is reported, and what it gave is kept;

@@ -28,7 +28,7 @@ class vertices_unicos {
   public:
     // Room for as many corners without growing.
     void reserva(size_t n) {
-        claves_.reserve(n);
+        if (claves_.empty()) claves_.reserve(2 * n); // most corners come with both flags
         if (n > TABLA_MINIMA / 2) rehace(std::bit_ceil(2 * n));
     }
 

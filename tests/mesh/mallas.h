@@ -1,4 +1,5 @@
-// Meshes as the tests look at them: through their walks, as triangles whose corners are points, and what holds of solids.
+// Meshes as the tests look at them: through their walks, as triangles whose corners are points, and what holds of
+// solids.
 #pragma once
 
 #include "foundation/suelo/dueno.hpp"
@@ -58,8 +59,8 @@ struct suma {
     }
 };
 
-// Whether each edge is met as often one way as the other: no opening, and all faces turned alike. Points nearer than the
-// tolerance are one.
+// Whether each edge is met as often one way as the other: no opening, and all faces turned alike. Points nearer than
+// the tolerance are one.
 inline bool cerrada(const std::vector<triangulo> &t, double tolerancia) {
     std::vector<vec> vertices;
     const auto cual = [&](vec p) {

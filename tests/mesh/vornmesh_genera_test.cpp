@@ -123,8 +123,8 @@ PRUEBA(vornmesh_genera, los_vertices_iguales_son_uno_y_estan_en_su_orden) {
 }
 
 PRUEBA(vornmesh_genera, donde_se_cruzan_los_contornos_hay_vertices_nuevos_cada_uno_con_lo_suyo) {
-    // A bow of several crossings: the odd rule covers what is inside an odd number of times, and what each new corner has
-    // of texture is what the plane of the texture has there.
+    // A bow of several crossings: the odd rule covers what is inside an odd number of times, and what each new corner
+    // has of texture is what the plane of the texture has there.
     for (int caso = 0; caso < 2; ++caso) {
         const vec o = sitio(vn::lugar_de(caso));
         const std::vector<vec> arco{{0, 0, 0},   {10, 4, 0}, {0, 4, 0},  {10, 0, 0},

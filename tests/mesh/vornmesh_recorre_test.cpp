@@ -205,7 +205,8 @@ PRUEBA(vornmesh_recorre, un_quad_sin_area_en_una_mitad_o_alabeado_da_triangulos)
     const malla m = hecha(x, VPLAN_QUADS);
     arr_SetPunto3D(m->normales.get(), 3, 0., 0., -3.);
     EXPECT_NEAR(segmentos(m).largo(), 2. + std::sqrt(2.), 1e-12);
-    // Captures take the first face of triangles and quads, and say so when there is another number of indices than three.
+    // Captures take the first face of triangles and quads, and say so when there is another number of indices than
+    // three.
     puntos capturados(std::vector<vec>{});
     ESPERA_INFORME("arr_NumElemsULong(indices_vertices_primitiva) == 3",
                    vornmesh_append_coords_vertices_triangulos_para_captura(m.get(), capturados));
