@@ -6,8 +6,10 @@
 #include "foundation/sistema/fichconf.h"
 #include "foundation/sistema/vnregional.h"
 #include "foundation/suelo/contexto.h"
+#include "foundation/suelo/dueno.hpp"
 #include "foundation/texto/msglocal.h"
 #include "foundation/texto/unicode.h"
+#include "mesh/vornmesh_genera.h"
 #include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
 #include "prueba.h"
@@ -95,6 +97,20 @@ bool capas(int vuelta) {
     return bien;
 }
 
+// An arrow of so many points: as many triangles less two.
+bool mallas(int hebra, int vuelta) {
+    arrPunto3D *flecha = arr_CreaPunto3D(0);
+    const int n = 5 + (hebra + vuelta) % 7;
+    for (int i = 0; i < n; ++i) arr_AppendPunto3D(flecha, i, i * i, 0.);
+    arr_AppendPunto3D(flecha, n / 2., 0.75 * n * n, 0.);
+    const vn::dueno<arr_DestruyePunto3D> suya(flecha);
+    const vn::dueno<arr_DestruyePunteroConTipo> contornos(arr_CreaPunteroConTipo(0));
+    arr_AppendPunteroST(contornos.get(), flecha, arrPunto3D);
+    const vn::dueno<vornmesh_destruye> m(
+        vornmesh_genera_contorno_con_normal_sin_compactar_vertices(contornos.get(), 0., 0., 1.));
+    return vornmesh_num_puntos(m.get()) == static_cast<uint32_t>(3 * (n - 1));
+}
+
 } // namespace
 
 PRUEBA(hebras, cada_familia_a_la_vez_mientras_cambia_lo_comun) {
@@ -121,6 +137,7 @@ PRUEBA(hebras, cada_familia_a_la_vez_mientras_cambia_lo_comun) {
             mal += !valores();
             mal += !textos(vuelta);
             mal += !capas(vuelta);
+            mal += !mallas(h, vuelta);
             mal += trapable_ejecuta_funcion_segura(const int, informa, &nada, nullptr) != FALSO;
         }
     });
