@@ -16,6 +16,7 @@ constexpr double VUELTA = 2 * std::numbers::pi;
 constexpr double MARGEN_DE_VUELTA = 1e-9;
 // Codes of a device: the pen of the layer, one with a thickness.
 constexpr uint32_t PLUMA_DE_CAPA = 5, PLUMA_CON_GROSOR = 6;
+constexpr double GROSOR_NORMAL = 0.25; // mm, of layers that say none
 constexpr uint32_t COLOR_DE_CAPA = 256, RGB_DIRECTO = 0x1000000, SIN_COLOR = UINT32_MAX;
 // Layers of an output have numbers of a byte: a drawing with more has them in groups.
 constexpr size_t CAPAS_DE_GRUPO = 200;
@@ -70,9 +71,9 @@ class dibujo {
         }
         if (!propio && tipolin_es_tipo_linea_vorn(c.tipo_linea.c_str(), &tipo) == FALSO) tipo = 0;
         const idcolor color = color_de_capa(c);
-        const uint8_t numero =
-            vornplan_define_capa_u(s_, VPLAN_NOCAMBIAR, c.nombre.c_str(), c.grosor_mm > 0 ? PLUMA_CON_GROSOR : 1,
-                                   c.grosor_mm, &color, tipo, propio ? c.tipo_linea.c_str() : nullptr, VPLAN_NOCAMBIAR);
+        const uint8_t numero = vornplan_define_capa_u(s_, VPLAN_NOCAMBIAR, c.nombre.c_str(), PLUMA_CON_GROSOR,
+                                                      c.grosor_mm > 0 ? c.grosor_mm : GROSOR_NORMAL, &color, tipo,
+                                                      propio ? c.tipo_linea.c_str() : nullptr, VPLAN_NOCAMBIAR);
         vplan_escr_capadxf(s_, numero);
     }
 

@@ -129,7 +129,7 @@ template <class D> abierto<D> abre_dispositivo(uint32_t tipo, std::unique_ptr<D>
     return {dueno_salida(vplan_abre_dispositivo(dispositivo, tipo, nullptr, &item, D::NOMBRE, +destruye, &f)), suyo};
 }
 
-// The lengths of a pattern by turns, from a drawn one on: even in number, none below 0; empty where nothing is left free.
+// The lengths of a pattern by turns, from a drawn one on: even in number, none below 0; empty where nothing is free.
 std::vector<double> por_turnos(const double *trazos, size_t n);
 
 } // namespace obra

@@ -15,8 +15,8 @@ namespace {
 
 constexpr double VUELTA = 2 * std::numbers::pi;
 constexpr double LADOS_DE_VUELTA = 64;
-// Points nearer than this are one for a mesh, metres.
-constexpr double MISMO_PUNTO = 1e-5;
+// Points nearer than this are one, metres: a tenth of a thousandth of a millimetre.
+constexpr double MISMO_PUNTO = 1e-7;
 
 using dueno_malla = vn::dueno<vornmesh_destruye>;
 using dueno_puntos3D = vn::dueno<arr_DestruyePunto3D>;
@@ -114,11 +114,11 @@ class contorno {
 dueno_malla prisma_de(const std::vector<Punto2D> &base, double alto) {
     const contorno abajo(base, 0), arriba(base, alto);
     return dueno_malla(
-        vornmesh_genera_prisma_por_extrusion(abajo.lista(), 0, 0, -1, CIERTO, arriba.lista(), 0, 0, 1, CIERTO));
+        vornmesh_genera_prisma_por_extrusion2(abajo.lista(), 0, 0, -1, CIERTO, arriba.lista(), 0, 0, 1, CIERTO));
 }
 // Calls f with the ring of each face.
 template <class F> void cada_cara(const mesh *m, F f) {
-    const dueno_caras caras(vornmesh_obtener_caras_3d(m, MISMO_PUNTO, MISMO_PUNTO, nullptr));
+    const dueno_caras caras(vornmesh_obtener_caras_3d(m, 0, 0, nullptr));
     for (uint32_t i = 0; i < arr_NumElemsPuntero(caras.get()); ++i) f(arr_GetPunteroST(caras.get(), i, arrPunto3D));
 }
 

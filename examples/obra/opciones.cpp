@@ -59,7 +59,7 @@ constexpr opcion_numerica NUMERICAS[] = {{"--ancho-px", &opciones_dibujo::ancho_
 
 std::string corto(double x) {
     char b[32];
-    return {b, std::to_chars(b, b + sizeof b, x).ptr};
+    return {b, std::to_chars(b, b + sizeof b, x, std::chars_format::fixed).ptr};
 }
 
 bool toma_numero(const std::string &cual, const std::string &dicho, bool con_alto, opciones_dibujo &o,

@@ -84,7 +84,7 @@ struct plano {
 
 // The arc, counter-clockwise, of a piece of a polyline whose bulge is not 0.
 arco arco_de(Punto2D a, Punto2D b, double curvatura);
-// Adds the points of the curve centre + u cos t + v sin t, for t from `desde` counter-clockwise to `hasta`, that bound it.
+// Adds the points that bound the curve centre + u cos t + v sin t, for t from `desde` counter-clockwise to `hasta`.
 void anade_arco(extension &e, Punto2D centro, Punto2D u, Punto2D v, double desde, double hasta);
 // The box of lines, circles, arcs, ellipses and polylines; texts do not count.
 extension extension_de(const capa &c);

@@ -2,6 +2,7 @@
 #include "dxf.h"
 #include "filas.h"
 #include "informe.h"
+#include "propiedades.h"
 #include <algorithm>
 #include <cmath>
 #include <iomanip>
@@ -150,4 +151,14 @@ PRUEBA(obra_dxf, un_dibujo_no_pide_mas_de_lo_que_pesa) {
         EXPECT_TRUE(p.capas.empty());
         EXPECT_LE(n.visitadas, maximo_de_visitas(n.bytes));
     }
+}
+
+PRUEBA(obra_dxf, los_trazos_de_los_tipos_de_linea_y_las_plumas_de_las_capas) {
+    const plano p = lee("0\nSECTION\n2\nHEADER\n9\n$LTSCALE\n40\n2\n0\nENDSEC\n0\nSECTION\n2\nTABLES\n"
+                        "0\nLTYPE\n2\nA\n73\n2\n40\n1\n49\n.5\n74\n0\n49\n-.25\n0\nLTYPE\n2\nB\n73\n0\n"
+                        "0\nLTYPE\n2\na\n49\n9\n0\nLAYER\n2\nX\n6\nA\n370\n35\n0\nLAYER\n2\nY\n370\n-3\n"
+                        "0\nENDSEC\n0\nEOF\n");
+    EXPECT_EQ(p.trazos_de_linea, (std::vector<std::vector<double>>{{1, -0.5}, {}}));
+    ASSERT_EQ(p.capas.size(), 2u);
+    EXPECT_TRUE(vn::cerca(p.capas[0].grosor_mm, 0.35) && p.capas[1].grosor_mm == 0);
 }

@@ -71,6 +71,23 @@ PRUEBA(obra_fichero, lo_que_se_graba_se_lee_y_los_campos_se_conservan) {
     EXPECT_FALSE(vn::existe(f.utf8 + "_TM$"));
 }
 
+// Patterns and pens stand in blocks of their own, which old files have not.
+PRUEBA(obra_fichero, los_trazos_y_las_plumas_se_conservan) {
+    const Fichero f;
+    plano p = plano_de_prueba();
+    p.trazos_de_linea = {{}, {0.5, -0.25, 0, -0.25}};
+    p.capas[2].grosor_mm = 0.35;
+    ASSERT_TRUE(graba_obra(f.ancho, p, vn::ancho("t"), {}));
+    obra_leida o;
+    std::string motivo;
+    ASSERT_EQ(lee_obra(f.ancho, o, motivo), lectura_obra::bien) << motivo;
+    EXPECT_EQ(o.p.trazos_de_linea, p.trazos_de_linea);
+    EXPECT_TRUE(o.p.capas[2].grosor_mm == 0.35 && o.p.capas[0].grosor_mm == 0);
+    ASSERT_TRUE(graba(f));
+    ASSERT_EQ(lee_obra(f.ancho, o, motivo), lectura_obra::bien) << motivo;
+    EXPECT_TRUE(o.p.trazos_de_linea.empty() && o.p.capas[2].grosor_mm == 0);
+}
+
 // The same records give the same bytes on every platform: this number is of them all.
 PRUEBA(obra_fichero, los_bytes_son_los_mismos_en_toda_plataforma) {
     const Fichero f;

@@ -79,6 +79,22 @@ PRUEBA(obra_medidas, las_opciones_se_entienden_o_se_dice_cual_no) {
     }
 }
 
+PRUEBA(obra_medidas, las_opciones_de_un_dibujo_se_entienden_o_se_dice_cual_no) {
+    opciones_dibujo o;
+    std::string falta;
+    ASSERT_TRUE(
+        lee_opciones_dibujo({"--alto", "2.75", "a.obra", "--escala", "50", "b.svg", "--fondo", "2"}, true, o, falta))
+        << falta;
+    EXPECT_TRUE(o.obra == "a.obra" && o.destino == "b.svg" && o.alto == 2.75 && o.escala == 50 && o.fondo == 2);
+    EXPECT_FALSE(o.ancho_px.has_value());
+    msidioma_establece_idioma(0);
+    for (const auto &[orden, dicho] : vn::filas<std::string, std::string>("obra/obra.tsv", "opciones de un dibujo")) {
+        std::istringstream t(orden);
+        EXPECT_FALSE(lee_opciones_dibujo({std::istream_iterator<std::string>(t), {}}, false, o, falta)) << orden;
+        EXPECT_EQ(falta, dicho);
+    }
+}
+
 // What the user has configured rules where nothing is said, and stays as it is where something is.
 PRUEBA(obra_medidas, las_opciones_valen_para_esta_vez) {
     fichconf_establece_directorio_base(vn::ancho(directorio()).c_str());

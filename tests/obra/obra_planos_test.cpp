@@ -1,4 +1,5 @@
 // The DXF reader of the sample host on real drawings, which stand beside the checkout where there are any.
+#include "dibuja.h"
 #include "dxf.h"
 #include "geometria.h"
 #include "informe.h"
@@ -23,6 +24,19 @@ PRUEBA(obra_planos, los_planos_reales_dan_las_cuentas_y_las_medidas_de_otro_lect
         std::map<std::string, size_t> esperadas;
         std::istringstream todas(col[6]);
         for (std::string x; todas >> x;) esperadas[x.substr(0, x.find('='))] = std::stoul(x.substr(x.find('=') + 1));
+        // The picture's box is the report's, but for layers that are off.
+        extension vista;
+        for (const capa &c : p.capas)
+            if (const extension x = extension_de(c); x.hay && !c.apagada)
+                vista.anade(x.xmin, x.ymin), vista.anade(x.xmax, x.ymax);
+        const extension dibujada = limites_de(p, [](size_t) {});
+        const double m = p.metros_por_unidad,
+                     ajuste = 1e-9 * (1 + std::fabs(vista.xmax * m) + std::fabs(vista.ymax * m));
+        EXPECT_TRUE(vista.hay && dibujada.hay);
+        EXPECT_NEAR(dibujada.xmin, vista.xmin * m, ajuste);
+        EXPECT_NEAR(dibujada.ymin, vista.ymin * m, ajuste);
+        EXPECT_NEAR(dibujada.xmax, vista.xmax * m, ajuste);
+        EXPECT_NEAR(dibujada.ymax, vista.ymax * m, ajuste);
         // What is not taken is told, each kind; a reference may bring more of it.
         static const std::set<std::string> TOMADAS = {"ARC",        "CIRCLE", "ELLIPSE",  "INSERT", "LINE",
                                                       "LWPOLYLINE", "MTEXT",  "POLYLINE", "TEXT"};
