@@ -44,19 +44,6 @@ void anade_axonometria(salida_t *s) {
     vplan_append_sistema_coordenadas(s, r.x, u.x, d.x, r.y, u.y, d.y, r.z, u.z, d.z, 0, 0, 0);
 }
 
-// The normal of a face, of unit length, by the turns of its ring; zeros where it has no area.
-Punto3D normal_de(std::span<const Punto3D> v) {
-    Punto3D n{0, 0, 0};
-    for (size_t i = 0; i < v.size(); ++i) {
-        const Punto3D &o = v[0], &p = v[i], &q = v[(i + 1) % v.size()];
-        n.x += (p.y - o.y) * (q.z - o.z) - (p.z - o.z) * (q.y - o.y);
-        n.y += (p.z - o.z) * (q.x - o.x) - (p.x - o.x) * (q.z - o.z);
-        n.z += (p.x - o.x) * (q.y - o.y) - (p.y - o.y) * (q.x - o.x);
-    }
-    const double m = std::sqrt(escalar(n, n));
-    return m > 0 ? Punto3D{n.x / m, n.y / m, n.z / m} : Punto3D{0, 0, 0};
-}
-
 // In the fewest digits that give it back.
 std::string exacto(double x) {
     char b[32];
@@ -120,6 +107,50 @@ dueno_malla prisma_de(const std::vector<Punto2D> &base, double alto) {
 template <class F> void cada_cara(const mesh *m, F f) {
     const dueno_caras caras(vornmesh_obtener_caras_3d(m, 0, 0, nullptr));
     for (uint32_t i = 0; i < arr_NumElemsPuntero(caras.get()); ++i) f(arr_GetPunteroST(caras.get(), i, arrPunto3D));
+}
+
+// Fills in a tint of the colour, lighter the more of the background there is in it.
+void rellena(salida_t *s, const arrPunto3D *puntos, uint32_t rgb, uint32_t fondo, double claro) {
+    vornplan_escr_color_rgb(s, idcolor_color_rgb_mezcla(rgb, fondo, claro));
+    vplan_escr_poligono3D_relleno(s, puntos);
+    vornplan_escr_color_rgb(s, rgb);
+}
+// What is seen of a prism: its sides, the farthest first, with their edges, and its top over them.
+void dibuja_prisma(salida_t *s, const std::vector<Punto2D> &base, double alto, uint32_t rgb, uint32_t fondo) {
+    // A bend of less is that of a curve, and no edge.
+    const double SUAVE = std::cos(std::numbers::pi / 9);
+    constexpr double TAPA = 0.92, DE_FRENTE = 0.75, DE_LADO = 0.6;
+    const vista v = axonometria();
+    const size_t n = base.size();
+    std::vector<Punto3D> normales;
+    std::vector<std::pair<double, size_t>> vistos;
+    for (size_t i = 0; i < n; ++i) {
+        const Punto2D &a = base[i], &b = base[(i + 1) % n];
+        const double largo = std::hypot(b.x - a.x, b.y - a.y);
+        normales.push_back({(b.y - a.y) / largo, (a.x - b.x) / largo, 0});
+        if (escalar(normales[i], v.hacia) > 0) vistos.emplace_back(escalar({a.x + b.x, a.y + b.y, 0}, v.hacia), i);
+    }
+    std::sort(vistos.begin(), vistos.end());
+    const auto arista = [&](size_t i, size_t lado, size_t otro) {
+        const bool borde = escalar(normales[otro], v.hacia) <= 0 || escalar(normales[lado], normales[otro]) < SUAVE;
+        if (borde) vplan_escr_linea_3D(s, base[i].x, base[i].y, 0, base[i].x, base[i].y, alto);
+    };
+    for (const auto &[lejos, i] : vistos) {
+        const size_t j = (i + 1) % n;
+        const Punto2D &a = base[i], &b = base[j];
+        const double de_lado = std::fabs(escalar(normales[i], v.derecha));
+        const dueno_puntos3D cara(arr_CreaPunto3D(0));
+        for (const Punto3D &p : {Punto3D{a.x, a.y, 0}, {b.x, b.y, 0}, {b.x, b.y, alto}, {a.x, a.y, alto}})
+            arr_AppendPunto3D(cara.get(), p.x, p.y, p.z);
+        rellena(s, cara.get(), rgb, fondo, DE_FRENTE + (DE_LADO - DE_FRENTE) * de_lado);
+        vplan_escr_linea_3D(s, a.x, a.y, 0, b.x, b.y, 0);
+        arista(i, i, (i + n - 1) % n);
+        arista(j, i, j);
+    }
+    const dueno_puntos3D tapa(arr_CreaPunto3D(0));
+    for (const Punto2D &p : base) arr_AppendPunto3D(tapa.get(), p.x, p.y, alto);
+    rellena(s, tapa.get(), rgb, fondo, TAPA);
+    vplan_escr_poligono3D(s, tapa.get());
 }
 
 } // namespace
@@ -234,22 +265,8 @@ void prismas::dibuja_en_axonometria(lienzo &l) const {
     const uint32_t fondo = vplan_color_rgb_fondo(s), tipo_fondo = vplan_get_tipo_fondo(s);
     anade_axonometria(s);
     for (const auto &[lejos, b] : orden) {
-        const dueno_malla m = prisma_de(b->puntos, alto_);
-        if (m == nullptr) continue;
         const idcolor color = color_de_capa(p_.capas[b->capa]);
-        const uint32_t rgb = idcolor_color_rgb_segun_fondo(&color, tipo_fondo);
-        cada_cara(m.get(), [&](const arrPunto3D *cara) {
-            const Punto3D n = normal_de(puntos_de(cara));
-            if (escalar(n, v.hacia) <= 0) return;
-            // The less it looks up, the more of its colour.
-            constexpr double CLARO = 0.92, OSCURO = 0.6;
-            const double de_lado = std::fabs(escalar(n, v.derecha));
-            const double mezcla = n.z > 0.5 ? CLARO : CLARO - (CLARO - OSCURO) * (0.4 + 0.6 * de_lado);
-            vornplan_escr_color_rgb(s, idcolor_color_rgb_mezcla(rgb, fondo, mezcla));
-            vplan_escr_poligono3D_relleno(s, cara);
-        });
-        vornplan_escr_color_rgb(s, rgb);
-        vplan_escr_mesh(s, m.get(), 0);
+        dibuja_prisma(s, b->puntos, alto_, idcolor_color_rgb_segun_fondo(&color, tipo_fondo), fondo);
         l.vuelca();
     }
     vplan_desapila_transformacion(s);

@@ -320,7 +320,9 @@ PRUEBA(obra_dibujo, los_contornos_se_levantan_en_prismas_cerrados) {
         q.dibuja_en_axonometria(*l);
         l->acaba();
     });
-    // Of the box three faces are seen, its roof in two triangles, and then its edges; all lies on the sheet.
-    EXPECT_NE(s.find("<path d=\"M"), s.npos);
+    // Of the box three faces are seen, of the drum half its sides and its top; all lies on the sheet.
+    size_t rellenos = 0;
+    for (size_t k = s.find(" fill=\"#", s.find("<g")); k != s.npos; k = s.find(" fill=\"#", k + 1)) ++rellenos;
+    EXPECT_EQ(rellenos, 3u + 32 + 1);
     EXPECT_EQ(s.find("\"M-"), s.npos);
 }
