@@ -71,19 +71,21 @@ class dispositivo {
     const aspecto &actual();
     // Another layer is drawn on from now on; the appearance has become that of the layer.
     virtual void cambia_capa() {}
+    // For a device that keeps layers and line types itself, beside its own.
+    uint8_t define_capa(uint8_t capa, const vnwchar *nombre, uint32_t pluma, double grosor_mm, const idcolor *color,
+                        uint8_t tipo_linea, const vnwchar *tipo_linea_definida, uint8_t atributo_extra);
+    void define_tipo_linea(const vnwchar *nombre, const vnwchar *descripcion, const arrDouble *trazos);
 
     const uint32_t tipo_fondo_;
     const double unidades_por_mm_;
+    atributos pedidos_{{2, VPLAN_PORCAPA, 0xFFFFFFFF}, 0, 0, {}}; // as they were told
 
   private:
     using tabla_de_capas = std::vector<std::optional<capa_definida>>;
 
-    uint8_t define_capa(uint8_t capa, const vnwchar *nombre, uint32_t pluma, double grosor_mm, const idcolor *color,
-                        uint8_t tipo_linea, const vnwchar *tipo_linea_definida, uint8_t atributo_extra);
     void pon_capa(uint8_t capa);
     void pon_pluma(uint32_t pluma, double grosor_mm);
     void pon_color(const idcolor *color);
-    void define_tipo_linea(const vnwchar *nombre, const vnwchar *descripcion, const arrDouble *trazos);
     void pon_tipo_linea_definida(const vnwchar *nombre);
     void pon_tipo_linea(uint8_t tipo);
     void guarda_capas();
@@ -96,7 +98,6 @@ class dispositivo {
     std::vector<tabla_de_capas> capas_{1}; // that of each open group
     std::map<texto, std::vector<double>> tipos_de_linea_;
     uint8_t capa_ = VPLAN_NOCAMBIAR;
-    atributos pedidos_{{2, VPLAN_PORCAPA, 0xFFFFFFFF}, 0, 0, {}};
     std::optional<aspecto> aspecto_; // none: it has changed
     bool completo_ = true;
 };

@@ -6,8 +6,9 @@
 namespace obra {
 namespace {
 
-constexpr clase_de_lienzo CLASES[] = {
-    {"svg", abre_svg}, {"txt", abre_apunte}, // what the drawing is made of, a line for each call of a device
+const clase_de_lienzo CLASES[] = {
+    {"svg", abre_svg},       {"pdf", abre_pdf},    {"png", abre_png},
+    {"dxf", abre_dxf, true}, {"txt", abre_apunte}, // what the drawing is made of, a line for each call of a device
 };
 
 // The library's own recorder.

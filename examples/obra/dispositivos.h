@@ -28,9 +28,11 @@ class lienzo {
 };
 using dueno_lienzo = std::unique_ptr<lienzo>;
 
+using abre_lienzo = dueno_lienzo(const hoja &h, vnfichero *f);
 struct clase_de_lienzo {
-    const char *extension; // in lower case
-    dueno_lienzo (*abre)(const hoja &h, vnfichero *f);
+    const char *extension;  // in lower case
+    abre_lienzo *abre;      // null: this build has none
+    bool en_metros = false; // it has no sheet: what is drawn keeps its coordinates
 };
 std::span<const clase_de_lienzo> clases_de_lienzo();
 
@@ -55,7 +57,8 @@ class escritor {
 // A text as XML holds it, in its content and in its attributes: what XML does not have becomes a question mark.
 std::string xml_de(const std::string &utf8);
 
-dueno_lienzo abre_svg(const hoja &h, vnfichero *f);
-dueno_lienzo abre_apunte(const hoja &h, vnfichero *f);
+abre_lienzo abre_svg, abre_apunte, abre_dxf;
+// Null where cairo is not.
+extern abre_lienzo *const abre_pdf, *const abre_png;
 
 } // namespace obra

@@ -6,56 +6,56 @@
 M(uso,
   ES("uso: obra importa PLANO.dxf OBRA [CAMPO=VALOR...]\n"
      "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-     "     obra dibuja OBRA DIBUJO.svg|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
-     "     obra malla OBRA MALLA.obj|svg|txt [--alto M] [...]\n"
+     "     obra dibuja OBRA DIBUJO.svg|pdf|png|dxf|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
+     "     obra malla OBRA MALLA.obj|svg|pdf|png|dxf|txt [--alto M] [...]\n"
      "     --idioma: 0 español, 1 francés, 2 portugués de Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés,\n"
      "     9 gallego, 13 alemán"),
   FR("utilisation : obra importa PLAN.dxf PROJET [CHAMP=VALEUR...]\n"
      "              obra informa PROJET [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-     "              obra dibuja PROJET DESSIN.svg|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
-     "              obra malla PROJET MAILLAGE.obj|svg|txt [--alto M] [...]\n"
+     "              obra dibuja PROJET DESSIN.svg|pdf|png|dxf|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
+     "              obra malla PROJET MAILLAGE.obj|svg|pdf|png|dxf|txt [--alto M] [...]\n"
      "              --idioma : 0 espagnol, 1 français, 2 portugais du Brésil, 3 catalan, 4 italien, 5 portugais, 8 anglais,\n"
      "              9 galicien, 13 allemand"),
   PT_BR("uso: obra importa PLANTA.dxf OBRA [CAMPO=VALOR...]\n"
         "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-        "     obra dibuja OBRA DESENHO.svg|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
-        "     obra malla OBRA MALHA.obj|svg|txt [--alto M] [...]\n"
+        "     obra dibuja OBRA DESENHO.svg|pdf|png|dxf|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
+        "     obra malla OBRA MALHA.obj|svg|pdf|png|dxf|txt [--alto M] [...]\n"
         "     --idioma: 0 espanhol, 1 francês, 2 português do Brasil, 3 catalão, 4 italiano, 5 português, 8 inglês,\n"
         "     9 galego, 13 alemão"),
   PT("utilização: obra importa PLANTA.dxf OBRA [CAMPO=VALOR...]\n"
      "            obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-     "            obra dibuja OBRA DESENHO.svg|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
-     "            obra malla OBRA MALHA.obj|svg|txt [--alto M] [...]\n"
+     "            obra dibuja OBRA DESENHO.svg|pdf|png|dxf|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
+     "            obra malla OBRA MALHA.obj|svg|pdf|png|dxf|txt [--alto M] [...]\n"
      "            --idioma: 0 espanhol, 1 francês, 2 português do Brasil, 3 catalão, 4 italiano, 5 português, 8 inglês,\n"
      "            9 galego, 13 alemão"),
   CA("ús: obra importa PLÀNOL.dxf OBRA [CAMP=VALOR...]\n"
      "    obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-     "    obra dibuja OBRA DIBUIX.svg|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
-     "    obra malla OBRA MALLA.obj|svg|txt [--alto M] [...]\n"
+     "    obra dibuja OBRA DIBUIX.svg|pdf|png|dxf|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
+     "    obra malla OBRA MALLA.obj|svg|pdf|png|dxf|txt [--alto M] [...]\n"
      "    --idioma: 0 espanyol, 1 francès, 2 portuguès del Brasil, 3 català, 4 italià, 5 portuguès, 8 anglès, 9 gallec,\n"
      "    13 alemany"),
   IT("uso: obra importa DISEGNO.dxf PROGETTO [CAMPO=VALORE...]\n"
      "     obra informa PROGETTO [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-     "     obra dibuja PROGETTO DISEGNO.svg|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
-     "     obra malla PROGETTO MESH.obj|svg|txt [--alto M] [...]\n"
+     "     obra dibuja PROGETTO DISEGNO.svg|pdf|png|dxf|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
+     "     obra malla PROGETTO MESH.obj|svg|pdf|png|dxf|txt [--alto M] [...]\n"
      "     --idioma: 0 spagnolo, 1 francese, 2 portoghese del Brasile, 3 catalano, 4 italiano, 5 portoghese, 8 inglese,\n"
      "     9 galiziano, 13 tedesco"),
   EN("usage: obra importa DRAWING.dxf PROJECT [FIELD=VALUE...]\n"
      "       obra informa PROJECT [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-     "       obra dibuja PROJECT PICTURE.svg|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
-     "       obra malla PROJECT MESH.obj|svg|txt [--alto M] [...]\n"
+     "       obra dibuja PROJECT PICTURE.svg|pdf|png|dxf|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
+     "       obra malla PROJECT MESH.obj|svg|pdf|png|dxf|txt [--alto M] [...]\n"
      "       --idioma: 0 Spanish, 1 French, 2 Portuguese of Brazil, 3 Catalan, 4 Italian, 5 Portuguese, 8 English,\n"
      "       9 Galician, 13 German"),
   GL("uso: obra importa PLANO.dxf OBRA [CAMPO=VALOR...]\n"
      "     obra informa OBRA [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-     "     obra dibuja OBRA DEBUXO.svg|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
-     "     obra malla OBRA MALLA.obj|svg|txt [--alto M] [...]\n"
+     "     obra dibuja OBRA DEBUXO.svg|pdf|png|dxf|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
+     "     obra malla OBRA MALLA.obj|svg|pdf|png|dxf|txt [--alto M] [...]\n"
      "     --idioma: 0 español, 1 francés, 2 portugués do Brasil, 3 catalán, 4 italiano, 5 portugués, 8 inglés,\n"
      "     9 galego, 13 alemán"),
   DE("Aufruf: obra importa PLAN.dxf PROJEKT [FELD=WERT...]\n"
      "        obra informa PROJEKT [--sistema mks|si|imperial] [--energia julio|kcal|btu] [--idioma N]\n"
-     "        obra dibuja PROJEKT BILD.svg|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
-     "        obra malla PROJEKT NETZ.obj|svg|txt [--alto M] [...]\n"
+     "        obra dibuja PROJEKT BILD.svg|pdf|png|dxf|txt [--ancho-px N] [--escala N] [--fondo 0|1|2]\n"
+     "        obra malla PROJEKT NETZ.obj|svg|pdf|png|dxf|txt [--alto M] [...]\n"
      "        --idioma: 0 Spanisch, 1 Französisch, 2 brasilianisches Portugiesisch, 3 Katalanisch, 4 Italienisch,\n"
      "        5 Portugiesisch, 8 Englisch, 9 Galicisch, 13 Deutsch"))
 
@@ -151,6 +151,13 @@ M(importado, ES("importado en"), FR("importé dans"), PT_BR("importado para"), C
 M(falta_destino, ES("falta el nombre del resultado"), FR("il manque le nom du résultat"),
   PT_BR("falta o nome do resultado"), CA("falta el nom del resultat"), IT("manca il nome del risultato"),
   EN("the name of the result is missing"), GL("falta o nome do resultado"), DE("der Name des Ergebnisses fehlt"))
+M(clase_ausente, ES("este programa se ha hecho sin esa clase de dibujos"),
+  FR("ce programme a été fait sans ce genre de dessins"), PT_BR("este programa foi feito sem essa classe de desenhos"),
+  CA("aquest programa s'ha fet sense aquesta classe de dibuixos"),
+  IT("questo programma è stato fatto senza questo genere di disegni"),
+  EN("this program was built without that kind of pictures"),
+  GL("este programa fíxose sen esa clase de debuxos"),
+  DE("dieses Programm ist ohne diese Art von Bildern gebaut"))
 M(nada_que_dibujar, ES("no hay nada que dibujar"), FR("il n'y a rien à dessiner"), PT_BR("não há nada para desenhar"),
   CA("no hi ha res per dibuixar"), IT("non c'è nulla da disegnare"), EN("there is nothing to draw"),
   GL("non hai nada que debuxar"), DE("es gibt nichts zu zeichnen"))

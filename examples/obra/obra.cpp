@@ -2,7 +2,7 @@
 //   obra importa PLANO.dxf OBRA [CAMPO=VALOR...]   a drawing into a project file
 //   obra informa OBRA [--sistema ...] [--energia ...] [--idioma N]
 //                                                  what a project file holds, in a system of units and a language
-//   obra dibuja OBRA DIBUJO.svg [--ancho-px N | --escala N] [--fondo N]
+//   obra dibuja OBRA DIBUJO.svg|pdf|png|dxf [--ancho-px N | --escala N] [--fondo N]
 //                                                  its drawing as a picture
 //   obra malla OBRA MALLA.obj [--alto METROS] ...  its closed outlines as prisms
 // A failure is one line on the error stream and exit status 1, or 2 when the arguments are wrong; nothing is lost or
@@ -197,6 +197,7 @@ int prepara(const std::vector<std::string> &args, const char *otra, pedido &p) {
     }
     if (p.clase == nullptr && (otra == nullptr || extension != otra))
         return uso(p.o.destino + ": " + di(mensaje::no_vale) + " " + validas);
+    if (p.clase != nullptr && p.clase->abre == nullptr) return falla(p.o.destino, di(mensaje::clase_ausente));
     if (p.o.ancho_px) p.t.ancho_px = static_cast<uint32_t>(*p.o.ancho_px);
     if (p.o.escala) p.t.divisor = static_cast<uint16_t>(*p.o.escala);
     if (vdir_existe_directorio_UNICODE(ancho(p.o.destino).c_str()) == CIERTO)
@@ -217,7 +218,8 @@ int graba_imagen(const pedido &p, const extension &caja, const std::function<voi
     return graba(p, [&](vnfichero *f) {
         const dueno_lienzo l = p.clase->abre(h, f);
         {
-            const encuadre e(l->salida(), h, caja, p.t);
+            std::optional<encuadre> e;
+            if (!p.clase->en_metros) e.emplace(l->salida(), h, caja, p.t);
             dibuja(*l);
         }
         return l->acaba();
