@@ -54,7 +54,13 @@ puntos2D copia_en_planta(const sistema_coordenadas &s, const arrPunto2D *puntos,
 inline const arrPunto2D *vista(const puntos2D &p) { return p.get(); }
 inline const arrPunto3D *vista(const puntos3D &p) { return p.get(); }
 
-// An array of pointers to arrays, each of which goes through f; what f gives is owned.
+// The call of a slot whose first value is an array; without memory for one, which was reported, there is no call.
+template <auto SLOT, class A, class... V> inline void llama_con(const salida_t *s, const A *puntos, V... resto) {
+    if (puntos != nullptr) llama<SLOT>(s, puntos, resto...);
+}
+
+// An array of pointers to arrays, each of which goes through f; what f gives is owned. None at all where there was no
+// memory for one of them.
 template <class T, auto DESTRUYE> struct grupo {
     arrPuntero *arr = nullptr;
     grupo() = default;
@@ -74,9 +80,12 @@ using grupo_trazos = grupo<arrDouble, arr_DestruyeDouble>;
 template <class G, class T, class F> G pasa_grupo(const arrPuntero *de, F f) {
     const auto origen = listas::tramo(de);
     G g(static_cast<uint32_t>(origen.size()));
+    if (g.arr == nullptr) return g;
     const auto destino = listas::tramo(g.arr);
-    for (size_t i = 0; i < origen.size(); ++i)
-        if (const auto *a = static_cast<const T *>(origen[i]); a != nullptr) destino[i] = f(a).release();
+    for (size_t i = 0; i < origen.size(); ++i) {
+        const auto *a = static_cast<const T *>(origen[i]);
+        if (a != nullptr && (destino[i] = f(a).release()) == nullptr) return G();
+    }
     return g;
 }
 

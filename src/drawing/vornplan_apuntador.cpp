@@ -113,19 +113,22 @@ template <class O> constexpr vplan_funciones tabla_de(bool en_espacio) {
     return d;
 }
 
+template <class O> void destruye_dispositivo(O **o) {
+    (*o)->~O();
+    vornspy_free_pp(o, sizeof(O));
+}
+
 template <class O> salida_t *abre(uint32_t tipo, salida_t *destino, vnbool en_espacio, const char *nombre) {
     if (!AFIRMA_LOGICO(en_espacio)) return nullptr;
     static constexpr vplan_funciones PLANO = tabla_de<O>(false), ESPACIO = tabla_de<O>(true);
-    auto *const o = new (vornspy_malloc(sizeof(O))) O{};
-    void *item = o;
-    return vplan_nousar_abre_dispositivo_con_tabla(
-        tipo, destino, &item, nombre,
-        [](void *pp) {
-            auto **const p = static_cast<O **>(pp);
-            (*p)->~O();
-            vornspy_free_pp(p, sizeof(O));
-        },
+    // The output takes the datum over at its end: until then it is ours.
+    dueno<destruye_dispositivo<O>> propio(new (vornspy_malloc(sizeof(O))) O{});
+    void *item = propio.get();
+    salida_t *const s = vplan_nousar_abre_dispositivo_con_tabla(
+        tipo, destino, &item, nombre, [](void *o) { destruye_dispositivo(static_cast<O **>(o)); },
         en_espacio == CIERTO ? &ESPACIO : &PLANO);
+    if (item == nullptr) static_cast<void>(propio.release());
+    return s;
 }
 
 } // namespace

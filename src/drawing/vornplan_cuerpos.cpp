@@ -17,21 +17,23 @@ namespace {
 
 constexpr uint32_t LADOS = 32;
 
-arrPunto3D *pasa_direcciones(const sistema_coordenadas &s, const arrPunto3D *v) {
-    if (v == nullptr) return nullptr;
+puntos3D pasa_direcciones(const sistema_coordenadas &s, const arrPunto3D *v) {
+    if (v == nullptr) return nullptr; // a mesh may be without tangents
     const auto origen = tramo(v);
     puntos3D r(arr_CreaPunto3D(static_cast<uint32_t>(origen.size())));
     const auto destino = tramo(r.get());
-    for (size_t i = 0; i < origen.size(); ++i)
+    for (size_t i = 0; i < destino.size(); ++i)
         transforma_direccion(s, origen[i], &destino[i].x, &destino[i].y, &destino[i].z);
-    return r.release();
+    return r;
 }
 
 mesh_propia pasa_malla(const sistema_coordenadas &s, const mesh *m) {
-    arrPunto3D *puntos = pasa_puntos(s, m->puntos.get()).copia.release(),
-               *normales = pasa_direcciones(s, m->normales.get()),
-               *tangentes = pasa_direcciones(s, m->tangentes_opc.get());
-    return mesh_propia(vornmesh_copia_para_transformacion_vornplan(m, &puntos, &normales, &tangentes));
+    puntos3D puntos = pasa_puntos(s, m->puntos.get()).copia, normales = pasa_direcciones(s, m->normales.get()),
+             tangentes = pasa_direcciones(s, m->tangentes_opc.get());
+    if (puntos == nullptr || normales == nullptr || (m->tangentes_opc != nullptr && tangentes == nullptr))
+        return nullptr;
+    arrPunto3D *p = puntos.release(), *n = normales.release(), *t = tangentes.release();
+    return mesh_propia(vornmesh_copia_para_transformacion_vornplan(m, &p, &n, &t));
 }
 
 // A mesh in the space of a device that draws meshes, or lines.
@@ -68,12 +70,14 @@ void vplan_escr_mesh(salida_t *salida, const mesh *malla, uint32_t modo) {
 void vplan_escr_tubo3D(salida_t *salida, const arrPunto3D *puntos, double diametro) {
     if (!es_valida(salida) || !EXIGE(puntos)) return;
     if (const camino c = busca<&D::func_DibujaTubo3D>(salida); c.donde != nullptr)
-        return llama<&D::func_DibujaTubo3D>(c.donde, pasa_puntos(*c.sistema, puntos).vista,
-                                            magnitud_x(*c.sistema, diametro));
+        return llama_con<&D::func_DibujaTubo3D>(c.donde, pasa_puntos(*c.sistema, puntos).vista,
+                                                magnitud_x(*c.sistema, diametro));
     const camino c = busca<&D::func_DibujaMesh>(salida);
     if (c.donde == nullptr) return vplan_escr_polilinea3D(salida, puntos);
-    const mesh_propia tubo(vornmesh_genera_prisma_tubos(pasa_puntos(*c.sistema, puntos).vista,
-                                                        magnitud_x(*c.sistema, diametro / 2.), LADOS, FALSO));
+    const pasados3D eje = pasa_puntos(*c.sistema, puntos);
+    if (eje.vista == nullptr) return;
+    const mesh_propia tubo(
+        vornmesh_genera_prisma_tubos(eje.vista, magnitud_x(*c.sistema, diametro / 2.), LADOS, FALSO));
     if (tubo != nullptr) llama<&D::func_DibujaMesh>(c.donde, static_cast<const mesh *>(tubo.get()), 0u);
 }
 
@@ -103,10 +107,13 @@ void vplan_escr_grid3d(salida_t *salida, const arrPuntero *filas) {
     const camino c = propio.donde != nullptr ? propio : busca_malla(salida);
     if (!hay(c.donde)) return;
     grupo3D pasadas;
-    if (!i_es_sistema_coordenadas_identidad(c.sistema))
+    const arrPuntero *suyas = filas;
+    if (!i_es_sistema_coordenadas_identidad(c.sistema)) {
         pasadas = pasa_grupo<grupo3D, arrPunto3D>(
             filas, [&](const arrPunto3D *fila) { return std::move(pasa_puntos(*c.sistema, fila).copia); });
-    const arrPuntero *const suyas = pasadas.arr != nullptr ? pasadas.arr : filas;
+        if (pasadas.arr == nullptr) return;
+        suyas = pasadas.arr;
+    }
     if (propio.donde != nullptr) return llama<&D::func_DibujaGrid3D>(c.donde, suyas);
     if (const mesh_propia m(vornmesh_genera_grid3d(suyas)); m != nullptr) dibuja_malla(c.donde, m.get(), 0);
 }
@@ -125,7 +132,7 @@ void vplan_escr_xref(salida_t *salida, const void *referencia) {
     const camino c = busca<&D::func_DibujaXRef>(salida);
     if (c.donde == nullptr) return;
     const auto matriz = a_vmatr(*c.sistema);
-    llama<&D::func_DibujaXRef>(c.donde, static_cast<const vmatr *>(matriz.get()), referencia);
+    llama_con<&D::func_DibujaXRef>(c.donde, static_cast<const vmatr *>(matriz.get()), referencia);
 }
 
 void vornplan_set_num_puntos_circulo(salida_t *salida, uint32_t num_puntos, uint32_t *anterior) {

@@ -34,6 +34,7 @@ Punto2D planta(Punto3D p) { return {p.x, p.y}; }
 // The way of what no device draws as it is: points of the plane, at a depth.
 void dibuja_poligonal(salida_t *salida, const puntos2D &puntos, double z, vnbool relleno) {
     const puntos3D p = sube({}, puntos.get(), z);
+    if (p == nullptr) return; // for want of memory, which was reported
     if (relleno != FALSO) vplan_escr_poligono3D_relleno(salida, p.get());
     else vplan_escr_polilinea3D(salida, p.get());
 }
@@ -191,6 +192,7 @@ void vplan_escr_arco(salida_t *salida, double xc, double yc, double x1, double y
 }
 void vplan_escr_arco_con_sentido(salida_t *salida, double xc, double yc, double x1, double y1, double x2, double y2,
                                  vnbool horario) {
+    if (!es_valida(salida) || !AFIRMA_LOGICO(horario)) return;
     if (horario == CIERTO) vplan_escr_arco(salida, xc, yc, x2, y2, x1, y1);
     else vplan_escr_arco(salida, xc, yc, x1, y1, x2, y2);
 }

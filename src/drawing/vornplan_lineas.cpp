@@ -64,12 +64,12 @@ void dibuja_punto(salida_t *salida, Punto3D p) {
 
 puntos2D poligono(std::initializer_list<Punto2D> vertices) {
     puntos2D r(arr_CreaPunto2D(static_cast<uint32_t>(vertices.size())));
-    std::copy(vertices.begin(), vertices.end(), tramo(r.get()).begin());
+    if (r != nullptr) std::copy(vertices.begin(), vertices.end(), tramo(r.get()).begin());
     return r;
 }
 puntos3D poligono(std::initializer_list<Punto3D> vertices) {
     puntos3D r(arr_CreaPunto3D(static_cast<uint32_t>(vertices.size())));
-    std::copy(vertices.begin(), vertices.end(), tramo(r.get()).begin());
+    if (r != nullptr) std::copy(vertices.begin(), vertices.end(), tramo(r.get()).begin());
     return r;
 }
 
@@ -167,17 +167,17 @@ void vplan_escr_polilinea(salida_t *salida, const arrPunto2D *puntos, vnbool cer
         for (size_t i = 1; i < p.size(); ++i) vplan_escr_linea(salida, p[i - 1].x, p[i - 1].y, p[i].x, p[i].y);
         if (cierra) vplan_escr_linea(salida, p.back().x, p.back().y, p.front().x, p.front().y);
     } else if (tiene<&D::func_DrawPolilinea3D>(c.donde)) {
-        llama<&D::func_DrawPolilinea3D>(c.donde, vista(sube(*c.sistema, puntos, 0., cierra)), FALSO);
+        llama_con<&D::func_DrawPolilinea3D>(c.donde, vista(sube(*c.sistema, puntos, 0., cierra)), FALSO);
     } else if (const double z = z_del_plano(*salida); cierra)
-        llama<&D::func_DrawPolilinea>(c.donde, vista(copia_en_planta(*c.sistema, puntos, z, true)));
-    else llama<&D::func_DrawPolilinea>(c.donde, pasa_puntos(*c.sistema, puntos, z).vista);
+        llama_con<&D::func_DrawPolilinea>(c.donde, vista(copia_en_planta(*c.sistema, puntos, z, true)));
+    else llama_con<&D::func_DrawPolilinea>(c.donde, pasa_puntos(*c.sistema, puntos, z).vista);
 }
 
 void vn::dibuja_polilinea3D(salida_t *salida, const arrPunto3D *puntos, bool cerrado, vnbool relleno) {
     const camino c = cerrado ? busca<&D::func_DrawPoligono, &D::func_DrawPoligono3D>(salida)
                              : busca<&D::func_DrawPoligono, &D::func_DrawPolilinea3D>(salida);
     if (!hay(c.donde)) return;
-    const size_t n = tramo(puntos).size();
+    const size_t n = puntos != nullptr ? tramo(puntos).size() : 0;
     if (n == 0) return;
     const vnbool con_relleno = logico(relleno != FALSO && n > 2);
     if (!tiene<&D::func_DrawPoligono>(c.donde)) {
@@ -187,13 +187,14 @@ void vn::dibuja_polilinea3D(salida_t *salida, const arrPunto3D *puntos, bool cer
             return;
         const pasados3D suyos = pasa_puntos(*c.sistema, puntos);
         if (!cerrado && tiene<&D::func_DrawPolilinea3D>(c.donde))
-            llama<&D::func_DrawPolilinea3D>(c.donde, suyos.vista, con_relleno);
-        else llama<&D::func_DrawPoligono3D>(c.donde, suyos.vista, con_relleno);
+            llama_con<&D::func_DrawPolilinea3D>(c.donde, suyos.vista, con_relleno);
+        else llama_con<&D::func_DrawPoligono3D>(c.donde, suyos.vista, con_relleno);
         return;
     }
     // A device of the plane: a polygon where it is one, else its polyline, else a line back from each vertex.
     const puntos2D suyos = baja(*c.sistema, puntos);
     const arrPunto2D *const vista = suyos.get();
+    if (vista == nullptr) return;
     const auto p = tramo(vista);
     const bool se_cierra = n > 2 && son_iguales(p.front(), p.back(), TOLERANCIA_CIERRE);
     if (cerrado || con_relleno != FALSO || se_cierra) llama<&D::func_DrawPoligono>(c.donde, vista, con_relleno);
@@ -207,12 +208,12 @@ void vn::dibuja_polilinea3D(salida_t *salida, const arrPunto3D *puntos, bool cer
 
 void vn::dibuja_poligono2D(salida_t *salida, const arrPunto2D *puntos, vnbool relleno) {
     const camino c = busca<&D::func_DrawPoligono, &D::func_DrawPoligono3D>(salida);
-    if (!hay(c.donde)) return;
+    if (!hay(c.donde) || puntos == nullptr) return;
     if (relleno != FALSO && !AFIRMA(arr_NumElemsPunto2D(puntos) > 2)) return;
     const double z = z_del_plano(*salida);
     if (tiene<&D::func_DrawPoligono>(c.donde))
-        llama<&D::func_DrawPoligono>(c.donde, pasa_puntos(*c.sistema, puntos, z).vista, relleno);
-    else llama<&D::func_DrawPoligono3D>(c.donde, vista(sube(*c.sistema, puntos, z)), relleno);
+        llama_con<&D::func_DrawPoligono>(c.donde, pasa_puntos(*c.sistema, puntos, z).vista, relleno);
+    else llama_con<&D::func_DrawPoligono3D>(c.donde, vista(sube(*c.sistema, puntos, z)), relleno);
 }
 
 void vplan_escr_polilinea3D(salida_t *salida, const arrPunto3D *puntos) {
@@ -235,7 +236,7 @@ void vplan_escr_polilinea3D_con_cambio_de_color(salida_t *salida, const arrPunto
     const uint32_t num_puntos = arr_NumElemsPunto3D(puntos);
     if (!AFIRMA(num_puntos == arr_NumElemsULong(rgba))) return;
     if (c.donde != nullptr)
-        return llama<&D::func_Polilinea3DConCambioDeColor>(c.donde, pasa_puntos(*c.sistema, puntos).vista, rgba);
+        return llama_con<&D::func_Polilinea3DConCambioDeColor>(c.donde, pasa_puntos(*c.sistema, puntos).vista, rgba);
     const auto p = tramo(puntos);
     const auto color = tramo(rgba);
     for (size_t i = 1; i < p.size(); ++i) dibuja_gradiente(salida, p[i - 1], color[i - 1], p[i], color[i]);

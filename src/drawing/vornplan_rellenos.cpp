@@ -39,6 +39,8 @@ struct region {
         exteriores = exteriores_pasados.arr;
         interiores = interiores_pasados.arr;
     }
+    // Not so for want of memory, which was reported.
+    bool entera() const { return exteriores != nullptr && interiores != nullptr; }
 };
 
 void dibuja_regiones(salida_t *salida, const arrPuntero *exteriores, const arrPuntero *interiores, vnbool con_borde) {
@@ -47,11 +49,13 @@ void dibuja_regiones(salida_t *salida, const arrPuntero *exteriores, const arrPu
     if (c.donde == nullptr) return;
     if (tiene<&D::func_DibujaRellenoRegiones>(c.donde)) {
         const region r(*c.sistema, exteriores, interiores, z_del_plano(*salida));
-        return llama<&D::func_DibujaRellenoRegiones>(c.donde, r.exteriores, r.interiores, con_borde);
+        if (r.entera()) llama<&D::func_DibujaRellenoRegiones>(c.donde, r.exteriores, r.interiores, con_borde);
+        return;
     }
     const auto al_espacio = [&](const arrPunto2D *p) { return sube(*c.sistema, p, 0.); };
     const auto fuera = pasa_grupo<grupo3D, arrPunto2D>(exteriores, al_espacio),
                dentro = pasa_grupo<grupo3D, arrPunto2D>(interiores, al_espacio);
+    if (fuera.arr == nullptr || dentro.arr == nullptr) return;
     llama<&D::func_DibujaRellenoRegiones3D>(c.donde, static_cast<const arrPuntero *>(fuera.arr),
                                             static_cast<const arrPuntero *>(dentro.arr), con_borde);
 }
@@ -108,11 +112,16 @@ void vplan_escr_relleno_regiones_con_gradiente(salida_t *salida, const arrPunter
                                                const arrPuntero *interiores, double angulo, uint32_t tipo,
                                                uint32_t rgba1, uint32_t rgba2) {
     if (!es_valida(salida) || !EXIGE(exteriores, interiores)) return;
+    if (tipo > 4) {
+        AFIRMA_DEFECTO();
+        return;
+    }
     if (!son_contornos(exteriores) || !son_contornos(interiores)) return;
     if (relleno_si_no_bloqueado(CIERTO, salida) == FALSO) return;
     const camino c = busca<&D::func_DibujaRellenoRegionesConGradiente>(salida);
     if (c.donde == nullptr) return;
     const region r(*c.sistema, exteriores, interiores, z_del_plano(*salida));
+    if (!r.entera()) return;
     const caja limites = caja_de(r.exteriores);
     if (!(limites.min.x <= limites.max.x)) return; // no contours
     Punto2D d;
@@ -124,12 +133,10 @@ void vplan_escr_relleno_regiones_con_gradiente(salida_t *salida, const arrPunter
         l = al_sesgo(limites, d);
         if (!(modulo(l.b - l.a) > GRADIENTE_MINIMO)) return;
         break;
-    case 2:
-    case 3: break;
     case 4:
         if (!por_el_medio(limites, d, &l)) return;
         break;
-    default: AFIRMA_DEFECTO(); return;
+    default: break; // 2, 3: the box from corner to corner
     }
     llama<&D::func_DibujaRellenoRegionesConGradiente>(c.donde, r.exteriores, r.interiores, tipo, l.a.x, l.a.y, l.b.x,
                                                       l.b.y, rgba1, rgba2);
@@ -144,6 +151,7 @@ void vplan_escr_relleno_regiones_con_gradiente_lineal(salida_t *salida, const ar
     const camino c = busca<&D::func_DibujaRellenoRegionesConGradiente>(salida);
     if (c.donde == nullptr) return;
     const region r(*c.sistema, exteriores, interiores, z_del_plano(*salida));
+    if (!r.entera()) return;
     const Punto2D a = transforma_punto_2d(*c.sistema, x1, y1, 0.), b = transforma_punto_2d(*c.sistema, x2, y2, 0.);
     llama<&D::func_DibujaRellenoRegionesConGradiente>(c.donde, r.exteriores, r.interiores, uint32_t{4}, a.x, a.y, b.x,
                                                       b.y, rgba1, rgba2);
@@ -158,7 +166,7 @@ dueno<arr_DestruyeDouble> pasa_angulos(const sistema_coordenadas &s, const arrDo
     const auto origen = tramo(angulos);
     dueno<arr_DestruyeDouble> r(arr_CreaDouble(static_cast<uint32_t>(origen.size())));
     const auto destino = tramo(r.get());
-    for (size_t i = 0; i < origen.size(); ++i) {
+    for (size_t i = 0; i < destino.size(); ++i) {
         Punto2D d = transforma_punto_2d(s, vnstdc_cos(origen[i]), vnstdc_sin(origen[i]), 0.);
         if (mayor_coordenada(d) < SIN_DIRECCION) d = {1., 0.};
         destino[i] = vnstdc_atan2(d.y, d.x);
@@ -181,6 +189,7 @@ void vplan_escr_hatch(salida_t *salida, const arrPuntero *contornos, const arrDo
     if (i_es_sistema_coordenadas_identidad(&s))
         return llama<&D::func_DrawHatch>(c.donde, contornos, angulos, origenes, desplazamientos, trazos);
     const grupo2D suyos = pasa_contornos(s, contornos, z_del_plano(*salida));
+    if (suyos.arr == nullptr) return;
     // The lines turn and scale about the origin; where they stand is each one's own point.
     sistema_coordenadas giro = solo_giro(s);
     if (giro.m == matriz4{})

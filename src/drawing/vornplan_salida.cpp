@@ -79,6 +79,19 @@ void hereda(salida_t *s) {
 
 template <class T> T *nuevo() { return new (vornspy_malloc(sizeof(T))) T{}; }
 
+// An output's own, whole or as far as it was made.
+void deshace(salida_t **salida) {
+    salida_t *const s = *salida;
+    if (s->capas_dxf != nullptr) gestcapa_destruye(&s->capas_dxf);
+    if (s->tipo_datos_dispositivo != nullptr) vornstr_destruye(&s->tipo_datos_dispositivo);
+    if (s->sistema_coordenadas_actual != nullptr)
+        vornspy_free_pp(&s->sistema_coordenadas_actual, sizeof(sistema_coordenadas));
+    if (s->sistema_coordenadas_encadenado != nullptr)
+        vornspy_free_pp(&s->sistema_coordenadas_encadenado, sizeof(compuesta));
+    s->~salida_t();
+    vornspy_free_pp(salida, sizeof(salida_t));
+}
+
 } // namespace
 
 // ---------------------------------------------------------------- opening and closing
@@ -88,7 +101,8 @@ salida_t *vplan_nousar_abre_dispositivo_con_tabla(uint32_t tipo, salida_t *salid
                                                   vnfunc_destruye func_destruye_datos_dispositivo,
                                                   const vplan_funciones *funciones) {
     if (!EXIGE(item, *item, tipo_datos_dispositivo, funciones)) return nullptr;
-    auto *const s = nuevo<salida_t>();
+    dueno<deshace> nueva(nuevo<salida_t>());
+    salida_t *const s = nueva.get();
     s->tipo = tipo;
     if (salida_destino != nullptr) {
         if (salida_destino->tipo >= std::size(TIPOS) || salida_destino->tipo == NO_ES_DESTINO) AFIRMA_DEFECTO();
@@ -98,7 +112,6 @@ salida_t *vplan_nousar_abre_dispositivo_con_tabla(uint32_t tipo, salida_t *salid
     s->sistema_coordenadas_actual = nuevo<sistema_coordenadas>();
     s->sistema_coordenadas_encadenado = nuevo<compuesta>();
     s->tipo_datos_dispositivo = cad_copia_cadena(tipo_datos_dispositivo);
-    s->item_datos_dispositivo = vornspy_asigna_doble_puntero_no_null(void, item);
     s->func_destruye_datos_dispositivo = func_destruye_datos_dispositivo;
     // By the kind asked for, not by the one taken from the destination.
     if (tipo < std::size(TIPOS) && TIPOS[tipo].con_capas) s->capas_dxf = gestcapa_crea();
@@ -106,7 +119,8 @@ salida_t *vplan_nousar_abre_dispositivo_con_tabla(uint32_t tipo, salida_t *salid
     if (salida_destino != nullptr) hereda(s);
     else s->tipo_fondo = tipo < std::size(TIPOS) ? TIPOS[tipo].tipo_fondo : 0;
     static_cast<vplan_funciones &>(s->funciones) = *funciones;
-    return s;
+    s->item_datos_dispositivo = vornspy_asigna_doble_puntero_no_null(void, item);
+    return nueva.release();
 }
 
 salida_t *vplan_nousar_abre_dispositivo_generico(
@@ -123,17 +137,11 @@ salida_t *vplan_nousar_abre_dispositivo_generico(
 void vplan_cierra(salida_t **salida) {
     if (!EXIGE(salida, *salida)) return;
     salida_t *const s = *salida;
-    if (s->capas_dxf != nullptr) gestcapa_destruye(&s->capas_dxf);
-    vornstr_destruye(&s->tipo_datos_dispositivo);
-    s->tipos_linea.clear();
     if (s->func_destruye_datos_dispositivo != nullptr && AFIRMA_NO_NULO((*salida)->item_datos_dispositivo))
         s->func_destruye_datos_dispositivo(&s->item_datos_dispositivo);
-    vornspy_free_pp(&s->sistema_coordenadas_actual, sizeof(sistema_coordenadas));
     AFIRMA_TEXTO(s->pila_sistema_de_coordenadas.empty(),
                  "arr_NumElemsPunteroST((*salida)->pila_sistema_de_coordenadas, i_sistema_coordenadas_t) == 0");
-    vornspy_free_pp(&s->sistema_coordenadas_encadenado, sizeof(compuesta));
-    s->~salida_t();
-    vornspy_free_pp(salida, sizeof(salida_t));
+    deshace(salida);
 }
 
 // ---------------------------------------------------------------- kind and datum

@@ -5,7 +5,10 @@
 #include "barrido.h"
 #include "colour/idcolor.h"
 #include "drawing/arraydxf_priv.h"
+#include "drawing/salida_priv.h"
 #include "drawing/tipolin.h"
+#include "drawing/vornplan.h"
+#include "drawing/vornplan_apuntador.h"
 #include "environment/ultfichsel.h"
 #include "foundation/ficheros/dirwin.h"
 #include "foundation/ficheros/fichmem.h"
@@ -27,13 +30,13 @@
 #include "geometry/poligono.h"
 #include "geometry/pto3dord.h"
 #include "geometry/rectng.h"
-#include "mesh/vornmesh.h"
 #include "mesh/vornmesh_genera.h"
 #include "persistence/vornbin.h"
 #include "persistence/vornsave.h"
 #include "time/vorntime.h"
 #include <cstring>
 #include <deque>
+#include <utility>
 
 namespace barrido {
 
@@ -272,24 +275,9 @@ inline arrPunto3D *triangulo() {
     for (const double x : {0., 1., 2.}) arr_AppendPunto3D(a, x, x * x, 0);
     return a;
 }
-inline arrPunto3D *hacia_arriba() {
+inline arrPunto3D *normales() {
     arrPunto3D *a = arr_CreaPunto3D(0);
-    arr_AppendPunto3D(a, 0, 0, 1);
-    return a;
-}
-// Two triangles, one above the other, which are contours, faces, sections and rows.
-inline arrPuntero *contornos() {
-    arrPuntero *a = arr_CreaPunteroConTipo(0);
-    for (const double z : {0., 1.}) {
-        arrPunto3D *p = triangulo();
-        for (uint32_t i = 0; i < 3; ++i) arr_GetBufferPunto3D(p)[i].z = z;
-        arr_AppendPunteroST(a, p, arrPunto3D);
-    }
-    return a;
-}
-inline arrPuntero *listas_de_indices() {
-    arrPuntero *a = arr_CreaPunteroConTipo(0);
-    for (uint32_t i = 0; i < 3; ++i) arr_AppendPunteroST(a, arr_CreaULong(3), arrULong);
+    for (const double z : {1., -1.}) arr_AppendPunto3D(a, 0, 0, z);
     return a;
 }
 inline vnmutex *mutex_por_dentro() {
@@ -369,6 +357,62 @@ inline tipolin *linea_de_trazos() {
     tipolin *t = tipolin_crea(VNU("trazos"), VNU("- -"), patron);
     arr_DestruyeDouble(&patron);
     return t;
+}
+// Lists of arrays, which they own.
+template <class T, auto DESTRUYE> void destruye_listas(arrPuntero *a) {
+    arr_DestruyeEstructurasArrayConTipo(&a, reinterpret_cast<vnfunc_destruye>(DESTRUYE));
+}
+inline arrPuntero *contornos_3D() {
+    arrPuntero *a = arr_CreaPunteroConTipo(0);
+    for (int i = 0; i < 2; ++i) arr_AppendPunteroConTipo(a, triangulo());
+    return a;
+}
+inline arrPuntero *contornos_2D() {
+    arrPuntero *a = arr_CreaPunteroConTipo(0);
+    for (const double x : {0., 4.}) {
+        arrPunto2D *p = arr_CreaPunto2D(0);
+        arr_AppendPunto2D(p, x, 0), arr_AppendPunto2D(p, x + 1, 0), arr_AppendPunto2D(p, x, 1);
+        arr_AppendPunteroConTipo(a, p);
+    }
+    return a;
+}
+// The one triangle of a mesh of three vertices.
+inline arrULong *tipos_de_caras() {
+    arrULong *a = arr_CreaULong(0);
+    arr_AppendULong(a, VPLAN_TRIANGULOS);
+    return a;
+}
+inline arrPuntero *caras_de_tres() {
+    arrULong *cara = arr_CreaULong(0);
+    for (uint32_t i = 0; i < 3; ++i) arr_AppendULong(cara, i);
+    arrPuntero *a = arr_CreaPunteroConTipo(0);
+    arr_AppendPunteroConTipo(a, cara);
+    return a;
+}
+// Outputs with tables of layers: over a device that takes all, and over one that does nothing.
+inline salida_t *salida() {
+    salida_t *s = vplan_abre_nada(0, nullptr, FALSO);
+    if (s != nullptr) vplan_define_capa_u(s, 1, VNU("muros"), 1, 1, 0);
+    return s;
+}
+inline salida_t *salida_sin_funciones(salida_t *destino) {
+    static const vplan_funciones NINGUNA{};
+    void *item = elemento(1);
+    return vplan_nousar_abre_dispositivo_con_tabla(0, destino, &item, "barrido", nullptr, &NINGUNA);
+}
+inline void apila_una(salida_t *s) { vplan_append_giro_xy(s, 1, 1, 0.6, 0.8); }
+inline salida_t *cadena() {
+    salida_t *fin = vplan_abre_nada(0, nullptr, CIERTO);
+    return salida_sin_funciones(con(salida_sin_funciones(con(fin, apila_una)), apila_una));
+}
+// Transformations and groups that calls have left are not told of.
+inline void cierra_salida(salida_t *s) {
+    s->pila_sistema_de_coordenadas.clear();
+    if (s->capas_dxf != nullptr) s->capas_dxf->pilaDeCapas.clear();
+    vplan_cierra(&s);
+}
+inline void cierra_cadena(salida_t *s) {
+    while (s != nullptr) cierra_salida(std::exchange(s, s->salida_destino));
 }
 inline void destruye_poligono(poligono_t *&pol) {
     poligono_destruye_pol(pol);

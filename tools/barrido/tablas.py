@@ -24,16 +24,15 @@ MANEJOS = [
     ("arrPuntero", r"polin3d_contorno", "arr_CreaPunteroConTipo(0)",
      "arr_DestruyeEstructurasArrayST(&p, arrPunto3D, arr_DestruyePunto3D)", 0),
     ("arrPuntero", r"polin3d_ejes2d", "arr_CreaPunteroConTipo(0)", "arr_DestruyeEstructurasST(&p, ejes2d, ejes2d_destruye)", 0),
-    ("arrPuntero", r"vornmesh_crea", "listas_de_indices()",
-     "arr_DestruyeEstructurasArrayST(&p, arrULong, arr_DestruyeULong)", 1),
-    ("arrPuntero", r"vornmesh_genera_contorno(_ex|_con_coords_textura)", "arr_CreaPunteroConTipo(0)", "arr_DestruyePunteroConTipo(&p)", 0),
-    ("arrPuntero", r"vornmesh_(genera|obtener)", "contornos()",
-     "arr_DestruyeEstructurasArrayST(&p, arrPunto3D, arr_DestruyePunto3D)", 2),
+    ("arrPuntero", r"vornmesh_crea", "caras_de_tres()", "destruye_listas<arrULong, arr_DestruyeULong>(p)", 1),
+    ("arrPuntero", r"vornmesh_(genera|obtener_caras)|vplan_escr_grid3d",
+     "contornos_3D()", "destruye_listas<arrPunto3D, arr_DestruyePunto3D>(p)", 2),
+    ("arrPuntero", r"vplan_escr_", "contornos_2D()", "destruye_listas<arrPunto2D, arr_DestruyePunto2D>(p)", 2),
     ("arrPuntero", r"", "punteros()", "arr_DestruyePunteroConTipo(&p)", 3),
-    # As many as the vertices of the mesh.
-    ("arrPunto3D", r"vornmesh_copia_para", "arr_CreaPunto3D(36)", "arr_DestruyePunto3D(&p)", 36),
-    ("arrPunto2D", r"vornmesh_set", "arr_CreaPunto2D(36)", "arr_DestruyePunto2D(&p)", 36),
-    ("arrPunto3D", r"vornmesh_genera_vectores", "hacia_arriba()", "arr_DestruyePunto3D(&p)", 1),
+    *(("arrPunto3D", f"vornmesh_{de}", crea, "arr_DestruyePunto3D(&p)", 0)
+      for de, crea in (("copia_para", "arr_CreaPunto3D(36)"), ("crea", "arr_CreaPunto3D(3)"), ("genera_vectores", "normales()"))),
+    ("arrPunto2D", r"vornmesh_set_coord", "arr_CreaPunto2D(36)", "arr_DestruyePunto2D(&p)", 36),
+    ("arrULong", r"vornmesh_crea", "tipos_de_caras()", "arr_DestruyeULong(&p)", 1),
     ("arrPunto3D", r"(?!arr_)", "triangulo()", "arr_DestruyePunto3D(&p)", 3),
     ("mesh", r"", "vornmesh_genera_cubo(1., 2., 3.)", "vornmesh_destruye(&p)", 0),
     ("gcMat4x4", r"", "gcMat4x4_make_translation(1., 2., 3.)", "gcMat4x4_free(&p)", 0),
@@ -60,6 +59,7 @@ MANEJOS = [
     ("vornsave", r"vtm_lee_hora_y_fecha", "leyendo(graba_fecha, [](vornsave *) {})", "destruye_protocolo(p)", 0),
     ("vornsave", r"", "protocolo()", "destruye_protocolo(p)", 0),
     ("rectangulo_t", r"", "rec_CreaDefinido(0, 0, 4, 1)", "rec_Destruye(&p)", 0),
+    ("vmatr", r"vplan_append_matriz_transformacion", "vmatr_crea_matriz_identidad(4)", "vmatr_destruir_matriz(&p)", 0),
     ("vmatr", r"", "vmatr_crea_matriz_identidad(3)", "vmatr_destruir_matriz(&p)", 0),
     ("pto3dord", r"", "puntos_ordenados()", "pto3dord_destruye(&p)", 0),
     ("poligono_t", r"poligono_crea_pol", "poligono_vacio()", "destruye_poligono(p)", 0),
@@ -71,6 +71,16 @@ MANEJOS = [
     ("gestcapa", r"gestcapa_fin.*", "grupo_de_capas()", "destruye_grupos(p)", 0),
     ("gestcapa", r"", "gestcapa_crea()", "destruye_grupos(p)", 0),
     ("tipolin", r"", "linea_de_trazos()", "tipolin_destruye(&p)", 0),
+    ("gcMat4x4", r"", "gcMat4x4_make_translation(1, 2, 3)", "gcMat4x4_free(&p)", 0),
+    (r"(gc(?:Float|Uint)\d+Array)", r"", r"\1_crea(3)", r"\1_free(&p)", 3),
+    ("mesh", r"", "vornmesh_genera_cubo(1, 1, 1)", "vornmesh_destruye(&p)", 0),
+    # Outputs: what the operation is about is there.
+    ("salida_t", r"vplan_desapila_transformacion", "con(salida(), apila_una)", "cierra_salida(p)", 0),
+    ("salida_t", r"vplan_fin_grupo_de_capas", "con(salida(), vplan_guardar_capas)", "cierra_salida(p)", 0),
+    ("salida_t", r"vplan_toma_lo_apuntado", "vplan_abre_apuntador(0, nullptr, FALSO)", "cierra_salida(p)", 0),
+    ("salida_t", r"vplan_veces_contado", "vplan_abre_contador(0, nullptr, FALSO)", "cierra_salida(p)", 0),
+    ("salida_t", r"\w+_nousar_(set_|es_datos|obtener_datos)", "salida_sin_funciones(nullptr)", "cierra_salida(p)", 0),
+    ("salida_t", r"", "salida()", "cierra_salida(p)", 0),
     ("planoABCD", r"", "ejes2d_crea_planoABCD(0., 0., 1., 0.)", "ejes2d_destruye_planoABCD(&p)", 0),
     # Owned texts and blocks.
     ("char", r"", "nuevo_texto()", "vornspy_free_pp(&p, 1)", 0),
@@ -103,6 +113,10 @@ OTROS = [
     ("vmatr", r"", "vmatr_crea_matriz_nula(2, 5)", "vmatr_destruir_matriz(&p)"),
     ("pto3dord", r"", "pto3dord_crea_vacio()", "pto3dord_destruye(&p)"),
     ("poligono_t", r"", "poligono_vacio()", "destruye_poligono(p)"),
+    (r"(gc(?:Float|Uint)\d+Array)", r"", r"\1_crea(0)", r"\1_free(&p)"),
+    ("mesh", r"", "vornmesh_crea_vacio_sin_coords_textura()", "vornmesh_destruye(&p)"),
+    # Two stages before one that draws in space.
+    ("salida_t", r"", "cadena()", "cierra_cadena(p)"),
     ("idcolor", r"", "idcolor_crea_color_por_capa()", "idcolor_destruye(&p)"),
     ("arraydxf", r"", "arraydxf_crea()", "destruye_capas(p)"),
 ]
@@ -111,7 +125,7 @@ OTROS = [
 DESPUES = {"vornsave": "el_flujo().cierra()"}
 
 # Types that are only declared so far: no object of theirs can exist, an address stands for one.
-SIN_OBJETOS = {"idxdatos", "insocket"}
+SIN_OBJETOS = {"escal", "idxdatos", "insocket"}
 
 # Record -> a good value of it, for the parameter number {i}. One that is not here and has only numbers is all zero.
 REGISTROS = {
@@ -121,6 +135,7 @@ REGISTROS = {
     "vnFILETIME": "vnFILETIME{{0, 0x1C60D9D}}",  # of 2005
     # No two points alike, nor three in a line.
     "Punto2D": "Punto2D{{{i}., {i}. * {i}.}}",
+    "vplan_funciones": "vplan_funciones{{}}",
     "fichmem": None,  # through its factory
     "idcolor": None,
     "poligono_t": None,
@@ -179,6 +194,14 @@ PARAMETROS = [
     (r"vornspy_parametro", r"n", "enteros({n}, {{1, 3, 16}})"),
     (r"vornspy_parametro_\w+", r"i", "enteros({n}, {{0, 1, 2, 4294967295}})"),
     (r"arr_AumentaTamanyoBIT", r"n", "enteros({n}, {{8, 3, 2, 0, 1000000}})"),
+    # Axes that have an inverse, circles one within the other.
+    (r"vplan_append_(ejes2D|sistema_coordenadas)", r"U[yz]|V[xz]|X[yz]|Y[xz]|Z[xy]", "real({n}, 0)"),
+    (r"vplan_escr_arandela", r"radio_mayor", "real({n}, 2)"),
+    (r"vornmesh_obten_indices_triangulos.*", r"tipo_primitiva", "enteros({n}, {{4, 5, 6, 7, 8, 0, 4294967295}})"),
+    # The datum of a device is anybody's; the name is the one that the factories give.
+    (r"vplan_nousar_abre_.*", r"item", "registro_de({n}, elemento(1), EXIGE)"),
+    (r"\w+_nousar_(set_|es_datos|obtener_datos).*", r"tipo|tipo_datos_dispositivo", 'textos({n}, {{"barrido", "otro", "", "%s"}})'),
+    (r"vplan_veces_contado", r"slot", 'textos({n}, {{"func_DrawLinea", "otra", ""}})'),
     # Layers, pens and line types that there are.
     (r"arraydxf_cambiar_capa_u", r"num_capa", "enteros({n}, {{1, 0, 2, 254, 255}})"),
     (r"capadxf_convertir_pluma", r"pluma", "enteros({n}, {{1, 0, 5, 254, 255}})"),
@@ -223,8 +246,9 @@ LLAMADAS = {
 
 # Results that are T * and stay another's.
 PRESTADOS = [
-    r"arr_GetBuffer\w+", r"gc\w+_get_(elements_)?buffer", r"vmatr_get_buffer_matriz", r"arr_GetPunteroConTipo", r"apunorde_nousar_(get|quita|busca|dame)", r"vornspy_parametro_puntero",
-    r"vornspy_nousar_copia_puntero_opcional", r"lc_fgetws", r"vtxt_lee_linea",
+    r"arr_GetBuffer\w+", r"vmatr_get_buffer_matriz", r"arr_GetPunteroConTipo", r"apunorde_nousar_(get|quita|busca|dame)", r"vornspy_parametro_puntero",
+    r"vornspy_nousar_copia_puntero_opcional", r"lc_fgetws", r"vtxt_lee_linea", r"gc\w+Array_get_\w*buffer", r"vplan_get_escalas\w*",
+    r"vornplan_salida_con_implementacion_cotas_dwg", r"vornplan_nousar_obtener_datos_\w+",
 ]
 
 # Memory that stays on purpose after the calls.
@@ -253,6 +277,10 @@ NEUTROS = [
     (r"idcolor_color_rgb(_iluminado|_oscurecido|_modificado|_mezcla|a_lighten)", "*", "the value as it came"),
     (r"idcolor_color_rgb_segun_fondo\w*", "*", "the value of the light background"),
     (r"idcolor_crea_color_paleta_vorn|idcolor_lee", "*", "a colour all the same"),
+    (r"vplan_(separacion_visible|tamanyo_punto_visible)\w*", "*", "the length where no device tells"),
+    (r"vplan_obtener_factor_escala\w*|vornplan_transforma_magnitud", "*", "as without transformations"),
+    (r"vplan_(id_color|color_rgb|hay_que_cambiar)\w*", "*", "as on a white background"),
+    (r"vplan_capadxf_actual", "255", ""),
     (r"vtm_crea", "*", "the start of 1970"),
     (r"vornspy_(nousar_(malloc|calloc|realloc)|reserva_seguro)", "*", "a block all the same"),
     (r"unicode_pagina_ANSI_idioma", "1252", ""),
@@ -275,6 +303,8 @@ INFORMAN = [
     ("it is the report", """
         error_interno error_interno_default_error error_interno_liberando_mensaje_u error_interno_msg error_interno_msg_u
         error_interno_punto_2D lc_error_escribiendo_fichero lc_error_leyendo_fichero"""),
+    ("no device of the factories knows", """
+        vplan_get_escalas vplan_get_escalas_overlay2d vplan_obtener_limites vplan_set_escalas vplan_tamanyo_texto_visible"""),
     ("its destination is not part of the library yet", """
         vornsave_cierra_fichmem_para_escritura vornsave_cierra_fichmem_para_lectura
         vornsave_cierra_fichmem_para_lectura_al_final vornsave_fichmem_para_escritura vornsave_fichmem_para_escritura_ex
