@@ -1,7 +1,6 @@
 #define VN_MODULO "vornplan (NUCLEOS.DLL)"
 #include "drawing/trazado_priv.h"
 #include "foundation/listas/arr.h"
-#include <algorithm>
 #include <cstring>
 #include <type_traits>
 
@@ -16,10 +15,10 @@ Punto3D en_espacio(Punto3D p, double) { return p; }
 void pon(Punto2D &p, Punto3D q) { p = {q.x, q.y}; }
 void pon(Punto3D &p, Punto3D q) { p = q; }
 
-// Points, those of the plane at a depth, through a system, as many as there is room for.
+// Points, those of the plane at a depth, through a system.
 template <class P, class Q>
 void pasa_todos(const sistema_coordenadas &s, std::span<const P> de, double z, std::span<Q> a) {
-    const size_t n = std::min(de.size(), a.size());
+    const size_t n = de.size();
     const en_planta planta(s);
     if (!planta.directo) {
         for (size_t i = 0; i < n; ++i) pon(a[i], transforma_punto(s, en_espacio(de[i], z)));
@@ -48,6 +47,7 @@ pasados3D pasa_puntos(const sistema_coordenadas &s, const arrPunto3D *puntos) {
     if (i_es_sistema_coordenadas_identidad(&s)) return {nullptr, puntos};
     const auto origen = tramo(puntos);
     puntos3D copia(arr_CreaPunto3D(static_cast<uint32_t>(origen.size())));
+    if (copia == nullptr) return {nullptr, nullptr};
     pasa_todos(s, origen, 0., tramo(copia.get()));
     const arrPunto3D *const vista = copia.get();
     return {std::move(copia), vista};
@@ -58,15 +58,17 @@ puntos3D sube(const sistema_coordenadas &s, const arrPunto2D *puntos, double z, 
     const size_t n = origen.size();
     const bool uno_mas = cierra && n > 0;
     puntos3D r(arr_CreaPunto3D(static_cast<uint32_t>(n + (uno_mas ? 1 : 0))));
+    if (r == nullptr) return nullptr;
     const auto destino = tramo(r.get());
     pasa_todos(s, origen, z, destino);
-    if (uno_mas && destino.size() > n) destino[n] = destino[0];
+    if (uno_mas) destino[n] = destino[0];
     return r;
 }
 
 puntos2D baja(const sistema_coordenadas &s, const arrPunto3D *puntos) {
     const auto origen = tramo(puntos);
     puntos2D r(arr_CreaPunto2D(static_cast<uint32_t>(origen.size())));
+    if (r == nullptr) return nullptr;
     pasa_todos(s, origen, 0., tramo(r.get()));
     return r;
 }
@@ -76,9 +78,10 @@ puntos2D copia_en_planta(const sistema_coordenadas &s, const arrPunto2D *puntos,
     const size_t n = origen.size();
     const bool uno_mas = cierra && n > 0;
     puntos2D r(arr_CreaPunto2D(static_cast<uint32_t>(n + (uno_mas ? 1 : 0))));
+    if (r == nullptr) return nullptr;
     const auto destino = tramo(r.get());
     pasa_todos(s, origen, z, destino);
-    if (uno_mas && destino.size() > n) destino[n] = destino[0];
+    if (uno_mas) destino[n] = destino[0];
     return r;
 }
 
