@@ -13,5 +13,9 @@
 #include "vornplan_rellenos.h"
 #include "vornplan_salida.h"
 #include "vornplan_sistemas.h"
+#include "vornplan_texto.h"
+#include "vornplan_texto_lineas.h"
+#include "vornplan_texto_longitud.h"
+#include "vornplan_texto_variable.h"
 
 #endif

@@ -1,33 +1,19 @@
 #define VN_MODULO "vornplan (NUCLEOS.DLL)"
 #include "drawing/vornplan_caja_texto.h"
+#include "drawing/caja_texto_priv.h"
 #include "foundation/numeros/mt.h"
 #include "foundation/numeros/vnmath.h"
 #include "foundation/suelo/afirma_int.h"
-#include <cstdint>
-#include <iterator>
+
+using namespace vn;
 
 namespace {
 
-// A row of three codes: how much of the height stands below and above the anchor, where the middle is, in half heights.
-struct banda {
-    double abajo, arriba, al_centro;
-};
-constexpr banda BANDAS[] = {
-    {0., 1., 1.},              // 1 to 3: bottom
-    {.5, .5, 0.},              // 4 to 6: middle
-    {1., 0., -1.},             // 7 to 9: top
-    {1. - 8. / 9, 8. / 9, .6}, // 10 to 12: low band
-    {1. - 4. / 9, 4. / 9, -.2} // 13 to 15: high band
-};
-// Left, centre, right: to which sides of the anchor the text runs.
-enum columna : uint8_t { IZQUIERDA, CENTRO, DERECHA };
-
+// Reports a code that is none.
 const banda *banda_de(uint8_t justificacion) {
-    const size_t fila = (justificacion - 1u) / 3;
-    return justificacion > 0 && fila < std::size(BANDAS) ? &BANDAS[fila]
-                                                         : (static_cast<void>(AFIRMA_DEFECTO()), nullptr);
+    const banda *const b = banda_si_hay(justificacion);
+    return b != nullptr ? b : (static_cast<void>(AFIRMA_DEFECTO()), nullptr);
 }
-columna columna_de(uint8_t justificacion) { return static_cast<columna>((justificacion - 1) % 3); }
 
 } // namespace
 
@@ -68,7 +54,6 @@ void vplan_dame_centro_y_proyecciones(double x, double y, uint8_t justificacion,
     *largo_y = longitud * seno / 2.;
     *alto_x = -alto * seno / 2.;
     *alto_y = alto * coseno / 2.;
-    constexpr double LADOS[] = {1., 0., -1.}; // left, centre, right
     const double lado = LADOS[columna_de(justificacion)];
     *xc += lado * *largo_x + b->al_centro * *alto_x;
     *yc += lado * *largo_y + b->al_centro * *alto_y;
