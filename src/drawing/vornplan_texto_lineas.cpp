@@ -1,6 +1,7 @@
 #define VN_MODULO "vornplan (NUCLEOS.DLL)"
 #include "drawing/vornplan_texto_lineas.h"
 #include "drawing/caja_texto_priv.h"
+#include "drawing/mascaras_priv.h"
 #include "drawing/texto_priv.h"
 #include "drawing/vornplan_caja_texto.h"
 #include "drawing/vornplan_lineas.h"
@@ -15,17 +16,16 @@ using namespace vn;
 
 namespace {
 
-using vista = std::basic_string_view<vnwchar>;
 using cadena = std::basic_string<vnwchar>;
 
-constexpr vista FIN_DE_LINEA = VNU("\\P");
+constexpr vista_u FIN_DE_LINEA = VNU("\\P");
 
 // The words of a text, and the ends of line in it as words of their own.
-std::vector<vista> palabras_de(vista texto) {
-    std::vector<vista> r;
+std::vector<vista_u> palabras_de(vista_u texto) {
+    std::vector<vista_u> r;
     for (size_t i = 0; i < texto.size();) {
         const size_t blanco = std::min(texto.find(VNU(' '), i), texto.size());
-        vista palabra = texto.substr(i, blanco - i);
+        vista_u palabra = texto.substr(i, blanco - i);
         i = blanco + 1;
         while (!palabra.empty()) {
             const size_t corte = palabra.find(FIN_DE_LINEA);
@@ -60,18 +60,18 @@ struct parrafo {
         vplan_longitud_texto_u(salida, t.c_str(), alto, ancho, 0, &l);
         return l * estirado;
     }
-    cadena con_blanco(vista palabra, bool empieza) const {
+    cadena con_blanco(vista_u palabra, bool empieza) const {
         cadena t(palabra);
         if (!blanco_delante) t += VNU(' ');
         else if (!empieza) t.insert(t.begin(), VNU(' '));
         return t;
     }
     // None if one word alone is too long.
-    std::vector<linea> lineas(vista texto) const {
+    std::vector<linea> lineas(vista_u texto) const {
         std::vector<linea> r;
         linea l;
         const auto acaba = [&] { r.push_back(std::exchange(l, {})); };
-        for (const vista palabra : palabras_de(texto)) {
+        for (const vista_u palabra : palabras_de(texto)) {
             if (palabra == FIN_DE_LINEA) {
                 acaba();
                 continue;
@@ -113,28 +113,14 @@ void dibuja_lineas(salida_t *salida, const rotulo &r, Punto3D ancla, double max_
 }
 
 // Whether a text has a mask; its brackets that do not pair are reported.
-enum class mascaras { ninguna, alguna, mal };
-mascaras busca_mascaras(vista texto) {
-    constexpr ptrdiff_t NO = -1;
-    const auto numCars = static_cast<ptrdiff_t>(texto.size());
-    ptrdiff_t primero = NO, ultimo = NO;
-    if (!AFIRMA(numCars > 0)) return mascaras::mal;
-    for (ptrdiff_t i = 0; i < numCars; ++i) {
-        const vnwchar c = texto[static_cast<size_t>(i)];
-        if (c == VNU('[')) {
-            if (!AFIRMA_TEXTO((primero == NO && ultimo == NO) || (primero != NO && ultimo > primero),
-                              "primero == -1 && ultimo == -1 || primero != -1 && ultimo > primero"))
-                return mascaras::mal;
-            primero = i;
-            ultimo = NO;
-        } else if (c == VNU(']')) {
-            if (!AFIRMA_TEXTO(primero != NO, "primero != -1") || !AFIRMA_TEXTO(ultimo == NO, "ultimo == -1"))
-                return mascaras::mal;
-            ultimo = i;
-        }
-    }
-    if (primero == NO) return mascaras::ninguna;
-    return AFIRMA(ultimo > primero) ? mascaras::alguna : mascaras::mal;
+mascaras busca_mascaras(vista_u texto) {
+    return recorre_mascaras(
+        texto,
+        [](ptrdiff_t primero, ptrdiff_t ultimo) {
+            return AFIRMA_TEXTO((primero == -1 && ultimo == -1) || (primero != -1 && ultimo > primero),
+                                "primero == -1 && ultimo == -1 || primero != -1 && ultimo > primero");
+        },
+        [](vnwchar) {}, [](vista_u) { return true; });
 }
 
 } // namespace

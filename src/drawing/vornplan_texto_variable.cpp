@@ -1,5 +1,6 @@
 #define VN_MODULO "vornplan (NUCLEOS.DLL)"
 #include "drawing/vornplan_texto_variable.h"
+#include "drawing/mascaras_priv.h"
 #include "drawing/texto_priv.h"
 #include "foundation/suelo/vornspy.h"
 #include "foundation/texto/widestr.h"
@@ -12,7 +13,6 @@ using namespace vn;
 
 namespace {
 
-using vista = std::basic_string_view<vnwchar>;
 using cadena = std::basic_string<vnwchar>;
 using tabla_de_textos = ::textoVar;
 using valores = ::totales;
@@ -20,12 +20,12 @@ using valores = ::totales;
 constexpr uint32_t MAX_ANCHO = 99;
 
 bool es_cifra(vnwchar c) { return c >= VNU('0') && c <= VNU('9'); }
-size_t pasa_cifras(vista t, size_t i) {
+size_t pasa_cifras(vista_u t, size_t i) {
     while (i < t.size() && es_cifra(t[i])) ++i;
     return i;
 }
 // Held at what no host counts to.
-int64_t numero_de(vista cifras) {
+int64_t numero_de(vista_u cifras) {
     int64_t n = 0;
     for (const vnwchar c : cifras) n = std::min<int64_t>(n * 10 + (c - VNU('0')), int64_t{1} << 53);
     return n;
@@ -38,18 +38,18 @@ cadena texto_de(int64_t n) {
 // ---- The format of a mask
 
 // The end of the conversion of a number that begins at `i`, the place of a %; 0 if it is none.
-size_t fin_de_conversion(vista t, size_t i) {
+size_t fin_de_conversion(vista_u t, size_t i) {
     const auto lee = [&](size_t de) {
         const size_t a = pasa_cifras(t, de);
-        return numero_de(t.substr(de, a - de)) <= MAX_ANCHO ? a : vista::npos;
+        return numero_de(t.substr(de, a - de)) <= MAX_ANCHO ? a : vista_u::npos;
     };
     i = std::min(t.find_first_not_of(VNU("-+ #0"), i + 1), t.size());
     i = lee(i);
     if (i < t.size() && t[i] == VNU('.')) i = lee(i + 1);
-    return i < t.size() && vista(VNU("efgEFG")).find(t[i]) != vista::npos ? i + 1 : 0;
+    return i < t.size() && vista_u(VNU("efgEFG")).find(t[i]) != vista_u::npos ? i + 1 : 0;
 }
 
-cadena formatea(vista formato, double valor) {
+cadena formatea(vista_u formato, double valor) {
     cadena r;
     bool hecho = false;
     for (size_t i = 0; i < formato.size();) {
@@ -73,7 +73,7 @@ cadena formatea(vista formato, double valor) {
 // ---- Masks
 
 // What stands for a mask, without its brackets: nothing after a report.
-std::optional<cadena> valor_de_mascara(vista textoOrigen, const valores *totales, int32_t cuantos_mas) {
+std::optional<cadena> valor_de_mascara(vista_u textoOrigen, const valores *totales, int32_t cuantos_mas) {
     const size_t ultimo = textoOrigen.size();
     const bool es_total = textoOrigen.starts_with(VNU('E'));
     size_t i = pasa_cifras(textoOrigen, es_total);
@@ -93,30 +93,20 @@ std::optional<cadena> valor_de_mascara(vista textoOrigen, const valores *totales
     return formatea(textoOrigen.substr(i + 1), valor);
 }
 
-std::optional<cadena> con_mascaras_reemplazadas(vista texto, const valores *totales, int32_t numero) {
-    constexpr ptrdiff_t NO = -1;
-    const auto numCars = static_cast<ptrdiff_t>(texto.size());
-    if (!AFIRMA(numCars > 0)) return {};
+std::optional<cadena> con_mascaras_reemplazadas(vista_u texto, const valores *totales, int32_t numero) {
     cadena r;
-    ptrdiff_t primero = NO, ultimo = NO;
-    for (ptrdiff_t i = 0; i < numCars; ++i) {
-        const vnwchar c = texto[static_cast<size_t>(i)];
-        if (c == VNU('[')) {
-            if (!AFIRMA_TEXTO(primero == NO || ultimo > primero, "ultimo > primero")) return {};
-            primero = i;
-            ultimo = NO;
-        } else if (c == VNU(']')) {
-            if (!AFIRMA_TEXTO(primero != NO, "primero != -1") || !AFIRMA_TEXTO(ultimo == NO, "ultimo == -1")) return {};
-            ultimo = i;
-            const auto v = valor_de_mascara(
-                texto.substr(static_cast<size_t>(primero + 1), static_cast<size_t>(ultimo - primero - 1)), totales,
-                numero);
-            if (!v) return {};
-            r += *v;
-        } else if (primero == NO || ultimo != NO) r += c;
-    }
-    if (primero != NO && !AFIRMA(ultimo > primero)) return {};
-    return r;
+    const mascaras m = recorre_mascaras(
+        texto,
+        [](ptrdiff_t primero, ptrdiff_t ultimo) {
+            return primero == -1 || AFIRMA_TEXTO(ultimo > primero, "ultimo > primero");
+        },
+        [&](vnwchar c) { r += c; },
+        [&](vista_u mascara) {
+            const auto v = valor_de_mascara(mascara, totales, numero);
+            if (v) r += *v;
+            return v.has_value();
+        });
+    return m == mascaras::mal ? std::nullopt : std::optional(std::move(r));
 }
 
 // ---- Names

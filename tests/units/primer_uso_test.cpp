@@ -1,4 +1,5 @@
 #include "foundation/sistema/fichconf.h"
+#include "foundation/sistema/textowin.h"
 #include "foundation/sistema/vnmutex.h"
 #include "foundation/sistema/vnregional.h"
 #include "foundation/suelo/vnatexit.h"
@@ -38,6 +39,7 @@ bool cuenta_bajo_mutex(int) {
 }
 
 int idiomas[HEBRAS];
+double anchos[HEBRAS];
 std::string textos[HEBRAS], mensajes[HEBRAS], paginas[HEBRAS], regiones[HEBRAS];
 std::string region() {
     vnwchar decimal = 0, millares = 0;
@@ -93,6 +95,12 @@ constexpr vn::uso USOS[] = {
     {"code page", [](int h) { return (paginas[h] = en_mayusculas()) == "\321AND\xDA"; },
      [] { return todos_son(paginas, en_mayusculas()); }},
     {"region", [](int h) { return !(regiones[h] = region()).empty(); }, [] { return todos_son(regiones, region()); }},
+    {"widths of a font",
+     [](int h) {
+         constexpr const vnwchar *TEXTO = VNU("ancho de \u4E00");
+         return (anchos[h] = textowin_calcula_longitudTrozoTexto(TEXTO, 0, 99, VNU("Arial"), 10)) > 30;
+     },
+     [] { return todos_son(anchos, anchos[0]); }},
     {"mutex between programs", cuenta_bajo_mutex, [] { return cuenta == 50 * HEBRAS; }},
 };
 
