@@ -136,6 +136,8 @@ REGISTROS = {
     # No two points alike, nor three in a line.
     "Punto2D": "Punto2D{{{i}., {i}. * {i}.}}",
     "vplan_funciones": "vplan_funciones{{}}",
+    "textoVar": "textoVar{{}}",
+    "totales": "totales{{}}",
     "fichmem": None,  # through its factory
     "idcolor": None,
     "poligono_t": None,
@@ -285,6 +287,9 @@ NEUTROS = [
     (r"vornspy_(nousar_(malloc|calloc|realloc)|reserva_seguro)", "*", "a block all the same"),
     (r"unicode_pagina_ANSI_idioma", "1252", ""),
     (r"f_lc_fopen_modo_escritura_u", "*", "a stream all the same"),
+    (r"vplan_dame_texto_var", "*", "the text as it came"),
+    (r"vplan_orientacion_correcta_para_texto", "1", ""),
+    (r"vplan_justificacion_correcta_para_texto", "first", ""),
 ]
 
 # Broken values that the documentation accepts: operation, parameter, value.
@@ -322,5 +327,6 @@ RESTAURA = [
     ("fichconf_establece_directorio_base", "fichconf_establece_directorio_base(nullptr)"),
     ("vnmutex_establece_plazo", "vnmutex_establece_plazo(100)"),
     ("vnregional_establece", "vnregional_establece(nullptr)"),
+    ("vornplan_set_permitir_orientacion_correcta_textos", "vornplan_set_permitir_orientacion_correcta_textos(CIERTO, nullptr)"),
     ("vornbin_abre_fichero_para_escritura_u", "prepara_proyecto()"),
 ]
