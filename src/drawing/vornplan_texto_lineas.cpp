@@ -164,7 +164,9 @@ void vplan_escr_texto_con_longit_con_lineas_u(salida_t *salida, const vnwchar *t
                                               double seno, double longitud, vnbool linea_superior,
                                               vnbool linea_inferior) {
     if (!es_valida(salida) || !EXIGE(texto) || !AFIRMA_LOGICO(linea_superior) || !AFIRMA_LOGICO(linea_inferior)) return;
-    vplan_escr_texto_con_longit_u(salida, texto, x, y, justificacion, alto, ancho, coseno, seno, longitud);
+    const rotulo r{texto, justificacion, alto, ancho, coseno, seno};
+    dibuja_texto(salida, r, {x, y, z_del_plano(*salida)}, longitud, 0.);
+    if (longitud == MIDE_EL_DISPOSITIVO) longitud = mide_antes_de_dibujar(salida, r, 0);
     const banda *const b = banda_si_hay(justificacion);
     if (b == nullptr) return static_cast<void>(AFIRMA_DEFECTO());
     const double medio = LADOS[columna_de(justificacion)] * longitud / 2., izquierda = medio - longitud / 2.,

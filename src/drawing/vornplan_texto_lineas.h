@@ -27,8 +27,8 @@ void vplan_escr_texto_u_tabla_con_orientacion_correcta_para_texto(salida_t *sali
                                                                   double y, VN_RANGO(0, 18) uint8_t justificacion,
                                                                   double alto, double ancho, double coseno, double seno,
                                                                   int32_t estilo);
-/** Draws a text of a length, and lines of that length along its top and its bottom. A code that has no box is reported,
-    and has no lines. */
+/** Draws a text of a length, and lines of that length along its top and its bottom; for -1 of the one it is measured to
+    have with estilo 0. A code that has no box is reported, and has no lines. */
 void vplan_escr_texto_con_longit_con_lineas_u(salida_t *salida, const vnwchar *texto, double x, double y,
                                               VN_RANGO(1, 15) uint8_t justificacion, double alto, double ancho,
                                               double coseno, double seno, double longitud, vnbool linea_superior,

@@ -250,9 +250,9 @@ PRUEBA(texto, tablas_y_lineas_a_lo_largo) {
     vplan_escr_texto_tabla_u(s.get(), VNU("["), 0, 0, 1, 1, 1, 1, 0, -1);
     EXPECT_EQ(d.longitud, -1) << "a style of -1 is not looked at";
 
-    const auto lineas = [](uint8_t j, double c, double n) {
+    const auto lineas = [](uint8_t j, double c, double n, double l = 4) {
         const salida_propia a(vplan_abre_apuntador(3, nullptr, FALSO));
-        vplan_escr_texto_con_longit_con_lineas_u(a.get(), VNU("a"), 10, 10, j, 3, 3, c, n, 4, CIERTO, CIERTO);
+        vplan_escr_texto_con_longit_con_lineas_u(a.get(), VNU("a"), 10, 10, j, 3, 3, c, n, l, CIERTO, CIERTO);
         const std::string t = vn::toma(vplan_toma_lo_apuntado(a.get()));
         return t.substr(std::min(t.find("func_DrawLinea"), t.size()));
     };
@@ -261,5 +261,8 @@ PRUEBA(texto, tablas_y_lineas_a_lo_largo) {
     EXPECT_EQ(lineas(9, 0, 1), "func_DrawLinea 10 6 10 10\nfunc_DrawLinea 13 6 13 10\n");
     EXPECT_EQ(lineas(10, 1, 0), "func_DrawLinea 10 12 14 12\nfunc_DrawLinea 10 9 14 9\n");
     EXPECT_EQ(lineas(13, 1, 0), "func_DrawLinea 10 11 14 11\nfunc_DrawLinea 10 8 14 8\n");
+    double medida;
+    vplan_longitud_texto_u(nullptr, VNU("a"), 3, 3, 0, &medida);
+    EXPECT_EQ(lineas(3, 1, 0, -1), lineas(3, 1, 0, medida));
     EXPECT_EQ(ESPERA_INFORME("", lineas(16, 1, 0)), "");
 }

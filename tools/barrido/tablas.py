@@ -314,6 +314,8 @@ INFORMAN = [
         vornsave_cierra_fichmem_para_escritura vornsave_cierra_fichmem_para_lectura
         vornsave_cierra_fichmem_para_lectura_al_final vornsave_fichmem_para_escritura vornsave_fichmem_para_escritura_ex
         vornsave_fichmem_para_lectura vornsave_registra_idx vornsave_registra_soc vornsave_registra_texto_editable"""),
+    ("its output draws in the plane, and heights in pixels ask for a device that keeps texts in one of space",
+     "vplan_escr_texto_con_alto_en_pixeles_con_orientacion_correcta_u"),
 ]
 
 # What an operation may have set for the whole process, and how it is brought back: operation, expression.
