@@ -69,8 +69,20 @@ std::vector<Punto3D> normales_de(const rejilla &g, bool cerrada) {
 mesh *genera(const arrPuntero *filas, bool cerrada, bool tapa_inicial, bool tapa_final) {
     rejilla g;
     if (!AFIRMA_NO_NULO(filas) || !lee_filas(filas, g)) return nullptr;
+    // The rows of the caps, before the grid takes its points over.
+    const auto contorno = [&](uint32_t r, bool al_reves) {
+        std::vector<Punto3D> puntos(g.fila(r), g.fila(r) + g.columnas);
+        if (al_reves) std::reverse(puntos.begin(), puntos.end());
+        contornos_t c;
+        c.anade(puntos, normal_de_contorno(puntos));
+        return c;
+    };
+    std::vector<contornos_t> tapas;
+    if (tapa_inicial) tapas.push_back(contorno(0, true));
+    if (tapa_final) tapas.push_back(contorno(g.filas - 1, false));
+    std::vector<Punto3D> normales = normales_de(g, cerrada);
     malla_suelta malla;
-    malla.vertices(g.puntos, normales_de(g, cerrada));
+    malla.empieza(std::move(g.puntos), std::move(normales));
     for (uint32_t r = 0; r + 1 < g.filas && g.columnas > 1; ++r) {
         malla.caras.abre(VPLAN_TIRA_DE_QUADS);
         for (uint32_t c = 0; c < g.columnas + (cerrada ? 1 : 0); ++c) {
@@ -79,15 +91,7 @@ mesh *genera(const arrPuntero *filas, bool cerrada, bool tapa_inicial, bool tapa
             malla.caras.indice(r * g.columnas + k);
         }
     }
-    const auto tapa = [&](uint32_t r, bool al_reves) {
-        std::vector<Punto3D> puntos(g.fila(r), g.fila(r) + g.columnas);
-        if (al_reves) std::reverse(puntos.begin(), puntos.end());
-        contornos_t c;
-        c.anade(puntos, normal_de_contorno(puntos));
-        malla.contornos(c);
-    };
-    if (tapa_inicial) tapa(0, true);
-    if (tapa_final) tapa(g.filas - 1, false);
+    for (const contornos_t &tapa : tapas) malla.contornos(tapa);
     return malla.termina().release();
 }
 

@@ -4,6 +4,7 @@
 #include "foundation/suelo/logico_int.h"
 #include "mesh/vornmesh_teselador_priv.h"
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace vn {
@@ -93,11 +94,11 @@ class malla_suelta {
         bordes_.push_back(logico(e.borde));
         return static_cast<uint32_t>(puntos_.size() - 1);
     }
-    // Vertices whose edges are all borders, after those that there are.
-    void vertices(std::span<const Punto3D> puntos, std::span<const Punto3D> normales) {
-        puntos_.insert(puntos_.end(), puntos.begin(), puntos.end());
-        normales_.insert(normales_.end(), normales.begin(), normales.end());
-        bordes_.resize(puntos_.size(), CIERTO);
+    // The first vertices, whose edges are all borders.
+    void empieza(std::vector<Punto3D> puntos, std::vector<Punto3D> normales) {
+        puntos_ = std::move(puntos);
+        normales_ = std::move(normales);
+        bordes_.assign(puntos_.size(), CIERTO);
     }
     // Two triangles, a, b, c and c, d, a, whose common edge is no border.
     void quad(const esquina &a, const esquina &b, const esquina &c, const esquina &d);
