@@ -9,9 +9,6 @@ using namespace vn;
 
 namespace {
 
-// Points of a face that are nearer than this to the next one are one with it.
-constexpr double MISMO_PUNTO = 1e-05;
-
 // Fills the lower contours, which look down, and the upper ones. Their vertices are there without faces too.
 void tapas(malla_compacta &malla, const contornos_t &inferior, bool hay_inferior, const contornos_t &superior,
            bool hay_superior) {

@@ -12,8 +12,6 @@ namespace {
 
 using numeros::modulo, numeros::vectorial;
 
-// A triangle has no area: its points are one, or the third is on the line of the others.
-constexpr double MISMO_PUNTO = 1e-05, MISMA_RECTA = 1e-06;
 // The product of two edges of a side says nothing of its normal.
 constexpr double SIN_NORMAL = 1e-06;
 
@@ -21,17 +19,9 @@ constexpr double SIN_NORMAL = 1e-06;
 
 Punto3D vn::unitario_o(Punto3D v, Punto3D si_no) { return numeros::unitario(v) ? v : si_no; }
 
-Punto3D vn::normal_plana(Punto3D p1, Punto3D p2, Punto3D p3) {
-    const Punto3D d12 = p2 - p1, d13 = p3 - p1, n = vectorial(d12, d13);
-    const double n2 = numeros::cuadrado(n), l2 = numeros::cuadrado(d12), l3 = numeros::cuadrado(d13);
-    // The common case, far from every limit: the height over the first edge is |n| / |d12|.
-    constexpr double HOLGURA = 1e4;
-    if (n2 > HOLGURA * MISMA_RECTA * MISMA_RECTA * l2 && n2 < numeros::CUADRADO_MAXIMO &&
-        l2 > HOLGURA * MISMO_PUNTO * MISMO_PUNTO && l3 > HOLGURA * MISMO_PUNTO * MISMO_PUNTO &&
-        numeros::cuadrado(p3 - p2) > HOLGURA * MISMO_PUNTO * MISMO_PUNTO) [[likely]]
-        return n / std::sqrt(n2);
+Punto3D vn::normal_plana_dudosa(Punto3D p1, Punto3D p2, Punto3D p3) {
     if (tres_puntos_degenerados(p1, p2, p3, MISMO_PUNTO, MISMA_RECTA)) return HACIA_ARRIBA;
-    Punto3D u = d12, v = d13;
+    Punto3D u = p2 - p1, v = p3 - p1;
     if (!numeros::unitario(u) || !numeros::unitario(v)) return HACIA_ARRIBA;
     return unitario_o(vectorial(u, v), HACIA_ARRIBA);
 }

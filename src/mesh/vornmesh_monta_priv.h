@@ -12,8 +12,20 @@ namespace vn {
 // The normal of a plane face that has none given, whatever its corners say.
 inline constexpr Punto3D HACIA_ARRIBA{0., 0., 1.};
 
-// Unit normal of a triangle; upwards if it has no area, to 1e-05 between its points and 1e-06 to its line.
-Punto3D normal_plana(Punto3D p1, Punto3D p2, Punto3D p3);
+// A triangle has no area: its points are one, or the third is on the line of the others.
+inline constexpr double MISMO_PUNTO = 1e-05, MISMA_RECTA = 1e-06;
+// Unit normal of a triangle; upwards if it has no area. One that may have none goes the long way.
+Punto3D normal_plana_dudosa(Punto3D p1, Punto3D p2, Punto3D p3);
+inline Punto3D normal_plana(Punto3D p1, Punto3D p2, Punto3D p3) {
+    constexpr double HOLGURA = 1e4, PUNTO = HOLGURA * MISMO_PUNTO * MISMO_PUNTO,
+                     RECTA = HOLGURA * MISMA_RECTA * MISMA_RECTA;
+    const Punto3D d12 = p2 - p1, n = numeros::vectorial(d12, p3 - p1);
+    const double n2 = numeros::cuadrado(n), l2 = numeros::cuadrado(d12);
+    // Far from every limit: the height over the first edge is |n| / |d12|.
+    if (n2 > RECTA * l2 && n2 < numeros::CUADRADO_MAXIMO && l2 > PUNTO && numeros::cuadrado(p3 - p2) > PUNTO) [[likely]]
+        return n / std::sqrt(n2);
+    return normal_plana_dudosa(p1, p2, p3);
+}
 // The normal of the plane of the points, if they lie in one; otherwise upwards.
 Punto3D normal_de_contorno(const arrPunto3D *contorno);
 Punto3D normal_de_contorno(std::span<const Punto3D> contorno);
