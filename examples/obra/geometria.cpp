@@ -1,5 +1,6 @@
 #include "geometria.h"
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <map>
@@ -53,33 +54,65 @@ class anillos {
   public:
     // `medio` and `giro` tell pieces with the same ends apart: the middle, or the centre, and how it turns.
     void anade(const Punto2D &a, const Punto2D &b, const Punto2D &medio, double giro) {
-        if (!es_finito(a) || !es_finito(b) || p_igual(&a, &b) == CIERTO) return;
+        const size_t cual = cuantas_++;
+        if (!es_finito(a) || !es_finito(b) || !es_finito(medio) || !std::isfinite(giro)) return;
+        if (p_igual(&a, &b) == CIERTO) return;
         const size_t i = nudo_en(a), j = nudo_en(b);
-        piezas_.emplace_back(std::min(i, j), std::max(i, j), medio.x, medio.y, i < j ? giro : -giro);
+        piezas_.push_back({{std::min(i, j), std::max(i, j), medio.x, medio.y, i < j ? giro : -giro}, cual, i > j});
     }
 
-    size_t cuenta() {
-        std::sort(piezas_.begin(), piezas_.end());
-        piezas_.erase(std::unique(piezas_.begin(), piezas_.end()), piezas_.end());
+    std::vector<anillo> todos() {
+        std::sort(piezas_.begin(), piezas_.end(),
+                  [](const pieza &p, const pieza &q) { return std::tie(p.clave, p.cual) < std::tie(q.clave, q.cual); });
+        piezas_.erase(std::unique(piezas_.begin(), piezas_.end(),
+                                  [](const pieza &p, const pieza &q) { return p.clave == q.clave; }),
+                      piezas_.end());
         std::vector<size_t> grado(nudos_.size()), grupo(nudos_.size());
         std::iota(grupo.begin(), grupo.end(), size_t{0});
         const auto raiz = [&grupo](size_t i) {
             while (grupo[i] != i) i = grupo[i] = grupo[grupo[i]];
             return i;
         };
-        for (const auto &[i, j, x, y, giro] : piezas_) {
-            ++grado[i], ++grado[j];
+        std::vector<std::array<size_t, 2>> llegan(nudos_.size()); // the first two pieces of each end
+        for (size_t k = 0; k < piezas_.size(); ++k) {
+            const auto [i, j, x, y, giro] = piezas_[k].clave;
+            for (const size_t n : {i, j}) {
+                if (grado[n] < 2) llegan[n][grado[n]] = k;
+                ++grado[n];
+            }
             grupo[raiz(i)] = raiz(j);
         }
         std::vector<bool> abierto(nudos_.size());
         for (size_t i = 0; i < nudos_.size(); ++i)
             if (grado[i] != 2) abierto[raiz(i)] = true;
-        size_t n = 0;
-        for (size_t i = 0; i < nudos_.size(); ++i) n += grupo[i] == i && !abierto[i];
-        return n;
+        std::vector<anillo> v;
+        for (size_t i = 0; i < nudos_.size(); ++i)
+            if (grupo[i] == i && !abierto[i]) v.push_back(desde(i, llegan));
+        return v;
     }
 
   private:
+    struct pieza {
+        std::tuple<size_t, size_t, double, double, double> clave; // both ends, the lower first, and what tells it apart
+        size_t cual;
+        bool al_reves; // it was added from the higher end
+    };
+
+    // From piece to piece, until the first comes again.
+    anillo desde(size_t nudo, const std::vector<std::array<size_t, 2>> &llegan) const {
+        anillo a;
+        const size_t primera = llegan[nudo][0];
+        size_t k = primera;
+        do {
+            const size_t i = std::get<0>(piezas_[k].clave), j = std::get<1>(piezas_[k].clave);
+            const bool baja = nudo == j;
+            a.push_back({piezas_[k].cual, baja != piezas_[k].al_reves});
+            nudo = baja ? i : j;
+            k = llegan[nudo][0] == k ? llegan[nudo][1] : llegan[nudo][0];
+        } while (k != primera);
+        return a;
+    }
+
     // The first one that is near enough, or a new one. Near ones stand in the same square of a grid or in one beside
     // it.
     size_t nudo_en(const Punto2D &p) {
@@ -93,15 +126,23 @@ class anillos {
         return nudos_.size() - 1;
     }
 
-    std::vector<std::tuple<size_t, size_t, double, double, double>> piezas_;
+    std::vector<pieza> piezas_;
+    size_t cuantas_ = 0;
     std::vector<Punto2D> nudos_;
     std::multimap<std::pair<double, double>, size_t> cuadros_;
 };
 
 Punto2D medio_de(const Punto2D &a, const Punto2D &b) { return {(a.x + b.x) / 2, (a.y + b.y) / 2}; }
 
-size_t contornos_de(const capa &c, double metros) {
-    size_t n = c.circulos.size();
+bool cierra(const polilinea &p, double metros) {
+    if (p.vertices.size() < 2) return false;
+    const Punto2D primero = por(p.vertices.front(), metros), ultimo = por(p.vertices.back(), metros);
+    return p.cerrada || (p.vertices.size() > 2 && p_igual(&primero, &ultimo) == CIERTO);
+}
+
+} // namespace
+
+std::vector<anillo> anillos_de(const capa &c, double metros) {
     anillos sueltas;
     for (const linea &l : c.lineas) sueltas.anade(por(l.a, metros), por(l.b, metros), medio_de(l.a, l.b), 0);
     for (const arco &a : c.arcos) {
@@ -110,17 +151,23 @@ size_t contornos_de(const capa &c, double metros) {
         };
         sueltas.anade(en(a.desde), en(a.hasta), a.centro, barrido_de(a.desde, a.hasta));
     }
-    for (const elipse &e : c.elipses) n += SON_IGUALES(barrido_de(e.desde, e.hasta), VUELTA) == CIERTO;
-    for (const polilinea &p : c.polilineas) {
-        if (p.vertices.size() < 2) continue;
-        const Punto2D primero = por(p.vertices.front(), metros), ultimo = por(p.vertices.back(), metros);
-        if (p.cerrada || (p.vertices.size() > 2 && p_igual(&primero, &ultimo) == CIERTO)) ++n;
+    const Punto2D ninguno{NAN, NAN};
+    for (const polilinea &p : c.polilineas)
+        if (p.vertices.size() < 2 || cierra(p, metros)) sueltas.anade(ninguno, ninguno, ninguno, 0);
         else
-            sueltas.anade(primero, ultimo,
+            sueltas.anade(por(p.vertices.front(), metros), por(p.vertices.back(), metros),
                           medio_de(p.vertices[p.vertices.size() / 2], p.vertices[(p.vertices.size() - 1) / 2]),
                           std::accumulate(p.curvaturas.begin(), p.curvaturas.end(), 0.));
-    }
-    return n + sueltas.cuenta();
+    return sueltas.todos();
+}
+
+namespace {
+
+size_t contornos_de(const capa &c, double metros) {
+    size_t n = c.circulos.size() + anillos_de(c, metros).size();
+    for (const elipse &e : c.elipses) n += SON_IGUALES(barrido_de(e.desde, e.hasta), VUELTA) == CIERTO;
+    for (const polilinea &p : c.polilineas) n += cierra(p, metros);
+    return n;
 }
 
 // ---------------------------------------------------------------- crossings

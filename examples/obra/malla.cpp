@@ -1,6 +1,7 @@
 #include "malla.h"
 #include "dibuja.h"
 #include "dispositivo_limites.h"
+#include "geometria.h"
 #include "informe.h"
 #include "posesion.h"
 #include <algorithm>
@@ -56,10 +57,15 @@ template <class F> void anade_curva(std::vector<Punto2D> &v, double barrido, F e
     for (double i = 0; i < lados; ++i) v.push_back(en(barrido * i / lados));
 }
 
-std::vector<Punto2D> contorno_de(const polilinea &l) {
+// The points of a polyline; of one that is gone through to its end only, that end is the last.
+std::vector<Punto2D> contorno_de(const polilinea &l, bool hasta_el_final) {
     std::vector<Punto2D> v;
     const size_t n = l.vertices.size();
     for (size_t i = 0; i < n; ++i) {
+        if (hasta_el_final && i + 1 == n) {
+            v.push_back(l.vertices[i]);
+            break;
+        }
         const Punto2D &a = l.vertices[i], &b = l.vertices[(i + 1) % n];
         const double curvatura = i < l.curvaturas.size() ? l.curvaturas[i] : 0;
         if (curvatura == 0 || !std::isfinite(curvatura)) {
@@ -71,6 +77,33 @@ std::vector<Punto2D> contorno_de(const polilinea &l) {
             const double x = a.x - c.x, y = a.y - c.y;
             return Punto2D{c.x + x * std::cos(t) - y * std::sin(t), c.y + x * std::sin(t) + y * std::cos(t)};
         });
+    }
+    return v;
+}
+
+// The points of a piece, both ends included.
+std::vector<Punto2D> puntos_de(const capa &c, size_t cual) {
+    if (cual < c.lineas.size()) return {c.lineas[cual].a, c.lineas[cual].b};
+    cual -= c.lineas.size();
+    if (cual >= c.arcos.size()) return contorno_de(c.polilineas[cual - c.arcos.size()], true);
+    const arco &a = c.arcos[cual];
+    const auto en = [&](double t) {
+        return Punto2D{a.centro.x + a.radio * std::cos(t), a.centro.y + a.radio * std::sin(t)};
+    };
+    double barrido = std::fmod(a.hasta - a.desde, VUELTA);
+    if (barrido <= 0) barrido += VUELTA;
+    std::vector<Punto2D> v;
+    anade_curva(v, barrido, [&](double t) { return en(a.desde + t); });
+    v.push_back(en(a.hasta));
+    return v;
+}
+// The points of a ring, the end of each piece left to the next.
+std::vector<Punto2D> contorno_de(const capa &c, const anillo &pedazos) {
+    std::vector<Punto2D> v;
+    for (const auto &[cual, al_reves] : pedazos) {
+        std::vector<Punto2D> suyos = puntos_de(c, cual);
+        if (al_reves) std::reverse(suyos.begin(), suyos.end());
+        v.insert(v.end(), suyos.begin(), suyos.end() - 1);
     }
     return v;
 }
@@ -176,7 +209,8 @@ prismas::prismas(const plano &p, double alto) : p_(p), alto_(alto) {
             anade(i, std::move(v));
         }
         for (const polilinea &l : c.polilineas)
-            if (cierra(l)) anade(i, contorno_de(l));
+            if (cierra(l)) anade(i, contorno_de(l, false));
+        for (const anillo &a : anillos_de(c, metros_de(p))) anade(i, contorno_de(c, a));
     }
 }
 

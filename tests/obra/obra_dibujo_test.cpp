@@ -304,7 +304,15 @@ PRUEBA(obra_dibujo, los_contornos_se_levantan_en_prismas_cerrados) {
             EXPECT_EQ(s.sin_pareja, 0u) << figura << m;
             EXPECT_NEAR(s.volumen / (m * m), volumen, 1e-3 * volumen) << figura << m; // curves have 64 sides
         }
+    // A ring of pieces of each kind, one drawn backwards and one twice, beside one that does not close.
     plano p;
+    p.capas = {capa_con("arco 2 2 2 0 180")};
+    p.capas[0].lineas = {{{0, 0}, {4, 0}}, {{4, 2}, {4, 0}}, {{0, 0}, {4, 0}}, {{9, 9}, {9, 8}}, {{9, 8}, {7, 9}}};
+    p.capas[0].polilineas = {{false, {{0, 2}, {0, 1}, {0, 0}}, {0, 0, 0}}};
+    const prismas anillo_solo(p, 2);
+    const solido unico = solido_de(hecho([&](vnfichero *f) { anillo_solo.escribe_obj(f); }));
+    EXPECT_EQ(unico.sin_pareja, 0u);
+    EXPECT_NEAR(unico.volumen, 2 * (8 + 64 * std::sin(pi / 32)), 1e-9);
     p.capas = {capa_con("cerrada 0 0 0 4 0 0 4 3 0 0 3 0"), capa_con("circulo 9 9 1")};
     p.capas[0].nombre = vn::ancho("con blanco");
     const prismas q(p, 3);
