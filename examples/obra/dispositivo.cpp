@@ -57,7 +57,7 @@ void dispositivo::pon_funciones(vplan_funciones &f) {
 uint8_t dispositivo::define_capa(uint8_t capa, const vnwchar *nombre, uint32_t pluma, double grosor_mm,
                                  const idcolor *color, uint8_t tipo_linea, const vnwchar *tipo_linea_definida,
                                  uint8_t) {
-    tabla_de_capas &t = capas_.back();
+    tabla_de_capas &t = grupos_.back().tabla;
     const uint8_t n = capa < VPLAN_PORCAPA ? capa : static_cast<uint8_t>(std::min<size_t>(t.size(), ULTIMA_CAPA));
     if (n >= t.size()) t.resize(n + 1u);
     t[n] = capa_definida{utf8(nombre),
@@ -66,21 +66,26 @@ uint8_t dispositivo::define_capa(uint8_t capa, const vnwchar *nombre, uint32_t p
 }
 
 const dispositivo::capa_definida *dispositivo::capa_actual() const {
-    const tabla_de_capas &t = capas_.back();
-    return capa_ < t.size() && t[capa_] ? &*t[capa_] : nullptr;
+    const auto &[t, capa] = grupos_.back();
+    return capa < t.size() && t[capa] ? &*t[capa] : nullptr;
 }
 
 void dispositivo::pon_capa(uint8_t capa) {
-    capa_ = capa;
+    grupos_.back().capa = capa;
     pedidos_ = {{2, VPLAN_PORCAPA, 0xFFFFFFFF}, PLUMA_DE_CAPA, 0, {}};
     aspecto_.reset();
     cambia_capa();
 }
 
-void dispositivo::guarda_capas() { capas_.emplace_back(); }
-void dispositivo::acaba_capas() {
-    if (capas_.size() > 1) capas_.pop_back();
+void dispositivo::guarda_capas() {
+    grupos_.emplace_back();
     aspecto_.reset();
+    cambia_capa();
+}
+void dispositivo::acaba_capas() {
+    if (grupos_.size() > 1) grupos_.pop_back();
+    aspecto_.reset();
+    cambia_capa();
 }
 
 // ---------------------------------------------------------------- appearance

@@ -66,7 +66,7 @@ class dispositivo {
 
     // The layer that is drawn on, null before the first, and its number.
     const capa_definida *capa_actual() const;
-    uint8_t numero_de_capa() const { return capa_; }
+    uint8_t numero_de_capa() const { return grupos_.back().capa; }
     // What a figure is drawn with now.
     const aspecto &actual();
     // Another layer is drawn on from now on; the appearance has become that of the layer.
@@ -95,9 +95,12 @@ class dispositivo {
     double grosor_de(const atributos &a) const;
     std::vector<double> trazos_de(const linea_pedida &l) const;
 
-    std::vector<tabla_de_capas> capas_{1}; // that of each open group
+    struct grupo_de_capas {
+        tabla_de_capas tabla;
+        uint8_t capa = VPLAN_NOCAMBIAR; // the one that is drawn on
+    };
+    std::vector<grupo_de_capas> grupos_{1}; // those that are open
     std::map<texto, std::vector<double>> tipos_de_linea_;
-    uint8_t capa_ = VPLAN_NOCAMBIAR;
     std::optional<aspecto> aspecto_; // none: it has changed
     bool completo_ = true;
 };

@@ -261,7 +261,7 @@ class svg : public dispositivo {
         extension caja;
         cada_contorno(contornos, [&](std::span<const Punto2D> v) {
             for (const Punto2D &p : v)
-                if (son_finitos(p.x, p.y)) caja.anade(p.x, p.y);
+                if (son_finitos(p.x, p.y)) caja.anade(std::clamp(p.x, 0., h_.ancho), std::clamp(p.y, 0., h_.alto));
         });
         if (!caja.hay) return;
         const std::string id = nuevo_id();
@@ -287,8 +287,8 @@ class svg : public dispositivo {
         const double salto = -paso.x * d.y + paso.y * d.x, avance = paso.x * d.x + paso.y * d.y;
         if (!son_finitos(angulo, origen.x, origen.y, salto, avance)) return;
         // So near that they are a surface.
-        constexpr double JUNTAS_MM = 0.05;
-        if (!(std::fabs(salto) > JUNTAS_MM * unidades_por_mm_)) {
+        const double juntas = 0.05 * unidades_por_mm_;
+        if (!(std::fabs(salto) > juntas)) {
             escribe_ << "<path fill-rule=\"evenodd\" d=\"";
             pon_region(contornos, nullptr);
             escribe_ << "\"";
@@ -307,7 +307,11 @@ class svg : public dispositivo {
         for (const double t : trazos) periodo += t;
         const double primera = std::ceil(std::min(lejos_min / salto, lejos_max / salto)),
                      ultima = std::floor(std::max(lejos_min / salto, lejos_max / salto));
+        // So far away that a line and the next are one number.
+        constexpr double MUCHAS = 1e12;
+        if (!(std::fabs(primera) < MUCHAS && std::fabs(ultima) < MUCHAS)) return;
         escribe_ << "<path";
+        if (periodo < juntas) periodo = 0;
         if (periodo > 0) pon_trazo(actual().grosor_mm, trazos);
         escribe_ << " d=\"";
         for (double k = primera; k <= ultima; ++k) {

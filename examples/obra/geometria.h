@@ -19,8 +19,8 @@ struct geometria_capa {
 };
 geometria_capa geometria_de(const capa &c, double metros_por_unidad);
 
-// A ring of lines, arcs and open polylines end to end: each piece by its number, lines first, then arcs, then polylines,
-// and whether it is gone through from its last point to its first.
+// A ring of lines, arcs and open polylines end to end: each piece by its number, lines first, then arcs, then
+// polylines, and whether it is gone through from its last point to its first.
 struct pieza_de_anillo {
     size_t cual;
     bool al_reves;

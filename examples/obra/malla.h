@@ -7,7 +7,8 @@ namespace obra {
 
 class prismas {
   public:
-    // Circles, whole ellipses, closed polylines and rings of pieces end to end, of the layers that are seen. `alto`: metres.
+    // Circles, whole ellipses, closed polylines and rings of pieces end to end, of the layers that are seen. `alto`:
+    // metres.
     prismas(const plano &p, double alto);
 
     bool vacio() const { return bases_.empty(); }

@@ -56,6 +56,13 @@ std::string con_motivo(vnfunc_mensaje que) {
     return motivo.empty() ? di(que) : di(que) + " (" + motivo + ")";
 }
 
+int falla_al_grabar(const std::string &destino) {
+    // The one failure after which the new file stands; its reason says so.
+    if (const auto e = lc_ultimo_error(nullptr); e == VN_FICH_SIN_ASEGURAR)
+        return falla(destino, utf8(lc_texto_error_u(e)));
+    return falla(destino, con_motivo(mensaje::no_se_graba));
+}
+
 // 0, or the exit status when there is no such file to read.
 int comprueba_que_se_lee(const std::string &nombre) {
     const texto u = ancho(nombre);
@@ -95,12 +102,7 @@ int importa(const std::vector<std::string> &args) {
     if (const int e = lee_plano(dxf, p); e != 0) return e;
     const size_t barra = dxf.find_last_of("/\\");
     const texto titulo = ancho(barra == std::string::npos ? dxf : dxf.substr(barra + 1));
-    if (!graba_obra(ancho(destino), p, titulo, campos)) {
-        // The one failure after which the new file stands; its reason says so.
-        if (const auto e = lc_ultimo_error(nullptr); e == VN_FICH_SIN_ASEGURAR)
-            return falla(destino, utf8(lc_texto_error_u(e)));
-        return falla(destino, con_motivo(mensaje::no_se_graba));
-    }
+    if (!graba_obra(ancho(destino), p, titulo, campos)) return falla_al_grabar(destino);
     std::printf("%s: %s %s\n", dxf.c_str(), di(mensaje::importado).c_str(), destino.c_str());
     return 0;
 }
@@ -206,9 +208,9 @@ int prepara(const std::vector<std::string> &args, const char *otra, pedido &p) {
 }
 int graba(const pedido &p, const std::function<bool(vnfichero *)> &escribe) {
     resultado r(p.o.destino);
-    if (r.fichero() == nullptr) return falla(p.o.destino, con_motivo(mensaje::no_se_graba));
+    if (r.fichero() == nullptr) return falla_al_grabar(p.o.destino);
     if (!escribe(r.fichero())) throw std::bad_alloc();
-    if (!r.cierra()) return falla(p.o.destino, con_motivo(mensaje::no_se_graba));
+    if (!r.cierra()) return falla_al_grabar(p.o.destino);
     std::printf("%s: %s %s\n", p.o.obra.c_str(), di(mensaje::dibujado).c_str(), p.o.destino.c_str());
     return 0;
 }

@@ -132,6 +132,15 @@ PRUEBA(obra_dibujo, rellenos_con_huecos_rayados_y_degradados) {
         EXPECT_EQ(s, antes + std::get<0>(esperados[i]) + "</g>\n") << i;
     }
     arr_DestruyePunteroST(&trazos, arrDouble);
+    // One of a region, or from an origin, that is beyond all measure ends all the same.
+    for (const double lejos : {1e6, 1e18, 1e300}) {
+        const contornos enorme{{{-lejos, -lejos}, {lejos, -lejos}, {0, lejos}}};
+        arr_SetPunto2D(origen.get(), 0, lejos > 1e17 ? lejos : 0, lejos);
+        EXPECT_LT(svg_de([&](salida_t *s) {
+                      vplan_escr_hatch(s, enorme, angulo.get(), origen.get(), paso.get(), nullptr);
+                  }).size(),
+                  5000u);
+    }
 }
 
 // Colour, pen and line type by the layer or by themselves, on each background.
