@@ -19,15 +19,17 @@ constexpr uint8_t ULTIMA_CAPA = VPLAN_PORCAPA - 1;
 
 using dueno_reales = vn::dueno<arr_DestruyeDouble>;
 
-std::vector<double> valores_de(const arrDouble *a) {
-    const double *const v = arr_GetBufferConstDouble(a);
-    return {v, v + arr_NumElemsDouble(a)};
-}
-
 } // namespace
 
-std::vector<double> por_turnos(const double *trazos, size_t n) {
+std::optional<double> grosor_de_pluma(uint32_t pluma, double grosor_mm) {
+    if (pluma >= 1 && pluma <= std::size(GROSORES)) return GROSORES[pluma - 1];
+    if (pluma == PLUMA_CON_GROSOR && grosor_mm > 0 && grosor_mm <= MAXIMO_GROSOR) return grosor_mm;
+    return std::nullopt;
+}
+
+std::vector<double> por_turnos(std::span<const double> trazos) {
     std::vector<double> v;
+    const size_t n = trazos.size();
     size_t desde = 0;
     while (desde < n && trazos[desde] < 0) ++desde;
     bool dibuja = false;
@@ -100,8 +102,7 @@ void dispositivo::pon_color(const idcolor *color) {
     aspecto_.reset();
 }
 void dispositivo::define_tipo_linea(const vnwchar *nombre, const vnwchar *, const arrDouble *trazos) {
-    const std::vector<double> v = valores_de(trazos);
-    tipos_de_linea_[nombre] = por_turnos(v.data(), v.size());
+    tipos_de_linea_[nombre] = por_turnos(numeros_de(trazos));
 }
 void dispositivo::pon_tipo_linea_definida(const vnwchar *nombre) {
     pedidos_.linea = {VPLAN_NOCAMBIAR, nombre};
@@ -116,10 +117,6 @@ uint32_t dispositivo::rgba_de(const idcolor &c) const {
     if (c.tipo_color == 1) return c.rgba;
     return idcolor_color_rgb_segun_fondo(&c, tipo_fondo_) | OPACO;
 }
-double dispositivo::grosor_de(const atributos &a) const {
-    if (a.pluma >= 1 && a.pluma <= std::size(GROSORES)) return GROSORES[a.pluma - 1];
-    return a.pluma == PLUMA_CON_GROSOR && a.grosor_mm > 0 && a.grosor_mm <= MAXIMO_GROSOR ? a.grosor_mm : GROSOR;
-}
 std::vector<double> dispositivo::trazos_de(const linea_pedida &l) const {
     if (!l.nombre.empty()) {
         const auto i = tipos_de_linea_.find(l.nombre);
@@ -128,7 +125,8 @@ std::vector<double> dispositivo::trazos_de(const linea_pedida &l) const {
     constexpr uint8_t MAXIMO = 10;
     if (l.numero > MAXIMO) return {};
     const dueno_reales patron(tipolin_dame_patron_aproximado_px_glsl(l.numero));
-    std::vector<double> v = valores_de(patron.get());
+    const auto pixeles = numeros_de(patron.get());
+    std::vector<double> v(pixeles.begin(), pixeles.end());
     for (double &x : v) x *= MM_POR_PIXEL * unidades_por_mm_;
     return v.size() % 2 == 0 ? v : std::vector<double>();
 }
@@ -140,7 +138,8 @@ const aspecto &dispositivo::actual() {
     aspecto a;
     const idcolor &color = elige(idcolor_es_vplan_porcapa(&pedidos_.color) == CIERTO).color;
     a.rgba = idcolor_es_vplan_porcapa(&color) == CIERTO ? OPACO : rgba_de(color);
-    a.grosor_mm = grosor_de(elige(pedidos_.pluma == PLUMA_DE_CAPA));
+    const atributos &pluma = elige(pedidos_.pluma == PLUMA_DE_CAPA);
+    a.grosor_mm = grosor_de_pluma(pluma.pluma, pluma.grosor_mm).value_or(GROSOR);
     a.trazos = trazos_de(elige(pedidos_.linea.nombre.empty() && pedidos_.linea.numero == VPLAN_PORCAPA).linea);
     // Gaps that nobody would see.
     constexpr double MINIMO_MM = 0.3;

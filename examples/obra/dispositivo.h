@@ -14,12 +14,15 @@
 #pragma once
 
 #include "plano.h"
+#include <cmath>
 #include <memory>
 #include <new>
 #include <nucleos/colour/idcolor.h>
 #include <nucleos/drawing/vornplan.h>
+#include <nucleos/foundation/listas/arr.h>
 #include <nucleos/foundation/suelo/dueno.hpp>
 #include <optional>
+#include <span>
 
 namespace obra {
 
@@ -92,7 +95,6 @@ class dispositivo {
     void acaba_capas();
 
     uint32_t rgba_de(const idcolor &c) const;
-    double grosor_de(const atributos &a) const;
     std::vector<double> trazos_de(const linea_pedida &l) const;
 
     struct grupo_de_capas {
@@ -133,7 +135,22 @@ template <class D> abierto<D> abre_dispositivo(uint32_t tipo, std::unique_ptr<D>
     return {dueno_salida(vplan_abre_dispositivo(dispositivo, tipo, nullptr, &item, D::NOMBRE, +destruye, &f)), suyo};
 }
 
+// The thickness of a device's pen, mm: of 1 to 4, and of the one that is told with it. None: the layer's, or nobody's.
+std::optional<double> grosor_de_pluma(uint32_t pluma, double grosor_mm);
+
+// What a device is handed.
+inline std::span<const Punto2D> puntos_de(const arrPunto2D *a) {
+    return {arr_GetBufferConstPunto2D(a), arr_NumElemsPunto2D(a)};
+}
+inline std::span<const double> numeros_de(const arrDouble *a) {
+    return {arr_GetBufferConstDouble(a), arr_NumElemsDouble(a)};
+}
+template <class F> void cada_contorno(const arrPuntero *a, F f) {
+    for (uint32_t i = 0; i < arr_NumElemsPuntero(a); ++i) f(puntos_de(arr_GetPunteroST(a, i, arrPunto2D)));
+}
+template <class... N> bool son_finitos(N... n) { return (std::isfinite(n) && ...); }
+
 // The lengths of a pattern by turns, from a drawn one on: even in number, none below 0; empty where nothing is free.
-std::vector<double> por_turnos(const double *trazos, size_t n);
+std::vector<double> por_turnos(std::span<const double> trazos);
 
 } // namespace obra

@@ -6,7 +6,6 @@
 #include <cairo-pdf.h>
 #include <cairo.h>
 #include <cmath>
-#include <nucleos/foundation/listas/arr.h>
 #include <numbers>
 
 namespace obra {
@@ -15,21 +14,10 @@ namespace {
 constexpr double VUELTA = 2 * std::numbers::pi, MM_POR_PULGADA = 25.4, PUNTOS_POR_PULGADA = 72;
 // Of a PNG on a sheet of paper, as many pixels as this, but no side longer.
 constexpr double PIXELES_POR_PULGADA = 150, MAXIMO_DE_PIXELES = 16000;
-constexpr double JUNTAS_MM = 0.05; // lines so near are a surface
 
 using dueno_superficie = vn::dueno<cairo_surface_destroy>;
 using dueno_cairo = vn::dueno<cairo_destroy>;
 using dueno_color = vn::dueno<cairo_pattern_destroy>;
-
-template <class... N> bool son_finitos(N... n) { return (std::isfinite(n) && ...); }
-
-std::span<const Punto2D> puntos_de(const arrPunto2D *a) {
-    return {arr_GetBufferConstPunto2D(a), arr_NumElemsPunto2D(a)};
-}
-template <class F> void cada_contorno(const arrPuntero *a, F f) {
-    if (a == nullptr) return;
-    for (uint32_t i = 0; i < arr_NumElemsPuntero(a); ++i) f(puntos_de(arr_GetPunteroST(a, i, arrPunto2D)));
-}
 
 struct canales {
     double r, g, b, a;
@@ -134,7 +122,7 @@ class con_cairo : public dispositivo {
     }
     void traza_region(const arrPuntero *exteriores, const arrPuntero *interiores) {
         for (const arrPuntero *a : {exteriores, interiores})
-            cada_contorno(a, [&](std::span<const Punto2D> v) { traza(v, true); });
+            if (a != nullptr) cada_contorno(a, [&](std::span<const Punto2D> v) { traza(v, true); });
     }
     // The part of an ellipse, its pen as wide all around.
     void traza_curva(double xc, double yc, double ra, double rb, double angulo, double desde, double hasta) {
@@ -223,27 +211,16 @@ class con_cairo : public dispositivo {
         cairo_clip(c_.get());
         extension dentro;
         cairo_clip_extents(c_.get(), &dentro.xmin, &dentro.ymin, &dentro.xmax, &dentro.ymax);
-        const auto o = puntos_de(origenes), p = puntos_de(pasos);
-        const size_t n = std::min({size_t{arr_NumElemsDouble(angulos)}, o.size(), p.size()});
-        for (uint32_t i = 0; i < n; ++i) {
-            familia_de_rayado f = {arr_GetDouble(angulos, i), o[i], p[i], {}};
-            if (trazos != nullptr && i < arr_NumElemsPuntero(trazos)) {
-                const arrDouble *const t = arr_GetPunteroST(trazos, i, arrDouble);
-                f.trazos = por_turnos(arr_GetBufferConstDouble(t), arr_NumElemsDouble(t));
-            }
-            familia(f, dentro);
+        for (const familia_de_rayado &f : familias_de(angulos, origenes, pasos, trazos)) {
+            pon_trazos(f.trazos, grosor());
+            const auto da = [&](Punto2D a, Punto2D b) {
+                cairo_move_to(c_.get(), a.x, a.y);
+                cairo_line_to(c_.get(), b.x, b.y);
+            };
+            if (rectas_de(f, dentro, JUNTAS_MM * unidades_por_mm_, da)) cairo_stroke(c_.get());
+            else cairo_paint(c_.get());
         }
         cairo_restore(c_.get());
-    }
-    void familia(const familia_de_rayado &f, const extension &dentro) {
-        if (!std::isfinite(f.angulo)) return;
-        pon_trazos(f.trazos, grosor());
-        const auto da = [&](Punto2D a, Punto2D b) {
-            cairo_move_to(c_.get(), a.x, a.y);
-            cairo_line_to(c_.get(), b.x, b.y);
-        };
-        if (rectas_de(f, dentro, JUNTAS_MM * unidades_por_mm_, da)) cairo_stroke(c_.get());
-        else cairo_paint(c_.get());
     }
 };
 

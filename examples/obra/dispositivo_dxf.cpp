@@ -67,25 +67,8 @@ struct contorno {
 // What stands for a gradient, which this version of the format has none of.
 uint32_t intermedio(uint32_t a, uint32_t b) { return idcolor_color_rgb_mezcla(a, b, 0.5); }
 
-// What the pens by number are, mm.
-constexpr double PLUMAS[] = {0.18, 0.25, 0.35, 0.5};
-constexpr uint32_t PLUMA_CON_GROSOR = 6;
 // Line types by number; the second continuous one has no pattern of its own.
 constexpr uint8_t TIPO_MAXIMO = 10, CONTINUA_REPETIDA = 8;
-std::optional<double> grosor_de_pluma(uint32_t pluma, double grosor_mm) {
-    if (pluma >= 1 && pluma <= std::size(PLUMAS)) return PLUMAS[pluma - 1];
-    if (pluma == PLUMA_CON_GROSOR && grosor_mm > 0) return grosor_mm;
-    return std::nullopt;
-}
-
-std::span<const Punto2D> puntos_de(const arrPunto2D *a) {
-    return {arr_GetBufferConstPunto2D(a), arr_NumElemsPunto2D(a)};
-}
-std::span<const double> numeros_de(const arrDouble *a) { return {arr_GetBufferConstDouble(a), arr_NumElemsDouble(a)}; }
-template <class F> void cada_contorno(const arrPuntero *a, F f) {
-    for (uint32_t i = 0; i < arr_NumElemsPuntero(a); ++i) f(puntos_de(arr_GetPunteroST(a, i, arrPunto2D)));
-}
-
 class dxf : public dispositivo {
   public:
     static constexpr const char *NOMBRE = "obra: dxf";

@@ -2,9 +2,9 @@
 // what is drawn alike; figures of curves stay curves.
 #include "dispositivos.h"
 #include "informe.h"
+#include "rayado.h"
 #include <algorithm>
 #include <cmath>
-#include <nucleos/foundation/listas/arr.h>
 #include <nucleos/foundation/numeros/vnmath.h>
 #include <numbers>
 
@@ -14,15 +14,6 @@ namespace {
 constexpr double VUELTA = 2 * std::numbers::pi, MEDIA_VUELTA = std::numbers::pi, GRADOS_POR_RADIAN = 180 / MEDIA_VUELTA;
 // What is smaller is not written: a curve flatter than this is a line, a figure smaller a point.
 constexpr double MINIMO = 0.0005;
-
-template <class... N> bool son_finitos(N... n) { return (std::isfinite(n) && ...); }
-
-std::span<const Punto2D> puntos_de(const arrPunto2D *a) {
-    return {arr_GetBufferConstPunto2D(a), arr_NumElemsPunto2D(a)};
-}
-template <class F> void cada_contorno(const arrPuntero *a, F f) {
-    for (uint32_t i = 0; i < arr_NumElemsPuntero(a); ++i) f(puntos_de(arr_GetPunteroST(a, i, arrPunto2D)));
-}
 
 class svg : public dispositivo {
   public:
@@ -268,64 +259,26 @@ class svg : public dispositivo {
         escribe_ << "<clipPath id=\"" << id << "\"><path clip-rule=\"evenodd\" d=\"";
         pon_region(contornos, nullptr);
         escribe_ << "\"/></clipPath>\n<g clip-path=\"url(#" << id << ")\">\n";
-        const uint32_t n =
-            std::min({arr_NumElemsDouble(angulos), arr_NumElemsPunto2D(origenes), arr_NumElemsPunto2D(pasos)});
-        for (uint32_t i = 0; i < n; ++i) {
-            std::vector<double> suyos;
-            if (trazos != nullptr && i < arr_NumElemsPuntero(trazos)) {
-                const arrDouble *const t = arr_GetPunteroST(trazos, i, arrDouble);
-                suyos = por_turnos(arr_GetBufferConstDouble(t), arr_NumElemsDouble(t));
-            }
-            familia(caja, contornos, arr_GetDouble(angulos, i), puntos_de(origenes)[i], puntos_de(pasos)[i], suyos);
-        }
+        for (const familia_de_rayado &f : familias_de(angulos, origenes, pasos, trazos)) familia(f, caja, contornos);
         escribe_ << "</g>\n";
     }
-    // The lines of a family that cross a box, in one path. Each begins where its pattern does.
-    void familia(const extension &caja, const arrPuntero *contornos, double angulo, Punto2D origen, Punto2D paso,
-                 const std::vector<double> &trazos) {
-        const Punto2D d = {std::cos(angulo), std::sin(angulo)};
-        const double salto = -paso.x * d.y + paso.y * d.x, avance = paso.x * d.x + paso.y * d.y;
-        if (!son_finitos(angulo, origen.x, origen.y, salto, avance)) return;
-        // So near that they are a surface.
-        const double juntas = 0.05 * unidades_por_mm_;
-        if (!(std::fabs(salto) > juntas)) {
-            escribe_ << "<path fill-rule=\"evenodd\" d=\"";
-            pon_region(contornos, nullptr);
-            escribe_ << "\"";
-            pon_relleno(CIERTO);
-            escribe_ << "/>\n";
-            return;
-        }
-        double largo_min = INFINITY, largo_max = -INFINITY, lejos_min = INFINITY, lejos_max = -INFINITY;
-        for (const Punto2D &p :
-             {Punto2D{caja.xmin, caja.ymin}, {caja.xmax, caja.ymin}, {caja.xmin, caja.ymax}, {caja.xmax, caja.ymax}}) {
-            const double x = p.x - origen.x, y = p.y - origen.y, l = x * d.x + y * d.y, e = y * d.x - x * d.y;
-            largo_min = std::min(largo_min, l), largo_max = std::max(largo_max, l);
-            lejos_min = std::min(lejos_min, e), lejos_max = std::max(lejos_max, e);
-        }
-        double periodo = 0;
-        for (const double t : trazos) periodo += t;
-        const double primera = std::ceil(std::min(lejos_min / salto, lejos_max / salto)),
-                     ultima = std::floor(std::max(lejos_min / salto, lejos_max / salto));
-        // So far away that a line and the next are one number.
-        constexpr double MUCHAS = 1e12;
-        if (!(std::fabs(primera) < MUCHAS && std::fabs(ultima) < MUCHAS)) return;
+    // In one path, in which a line begins where its pattern does.
+    void familia(const familia_de_rayado &f, const extension &caja, const arrPuntero *contornos) {
+        std::vector<Punto2D> extremos;
+        const auto da = [&](Punto2D a, Punto2D b) { extremos.insert(extremos.end(), {a, b}); };
+        const bool son_lineas = rectas_de(f, caja, JUNTAS_MM * unidades_por_mm_, da);
         escribe_ << "<path";
-        if (periodo < juntas) periodo = 0;
-        if (periodo > 0) pon_trazo(actual().grosor_mm, trazos);
+        if (!son_lineas) escribe_ << " fill-rule=\"evenodd\"";
+        else if (!f.trazos.empty()) pon_trazo(actual().grosor_mm, f.trazos);
         escribe_ << " d=\"";
-        for (double k = primera; k <= ultima; ++k) {
-            double desde = largo_min;
-            if (periodo > 0) desde = k * avance + std::floor((largo_min - k * avance) / periodo) * periodo;
-            const auto en = [&](double l) {
-                return Punto2D{origen.x + d.x * l - d.y * k * salto, origen.y + d.y * l + d.x * k * salto};
-            };
-            escribe_ << "M";
-            pon(en(desde));
-            escribe_ << "L";
-            pon(en(largo_max));
+        if (!son_lineas) pon_region(contornos, nullptr);
+        for (size_t i = 0; i < extremos.size(); ++i) {
+            escribe_ << (i % 2 == 0 ? "M" : "L");
+            pon(extremos[i]);
         }
-        escribe_ << "\"/>\n";
+        escribe_ << "\"";
+        if (!son_lineas) pon_relleno(CIERTO);
+        escribe_ << "/>\n";
     }
 };
 

@@ -1,7 +1,7 @@
 // The lines of a hatch: families of parallel ones.
 #pragma once
 
-#include "plano.h"
+#include "dispositivo.h"
 #include <functional>
 
 namespace obra {
@@ -12,6 +12,11 @@ struct familia_de_rayado {
     std::vector<double> trazos; // drawn and free by turns; empty: without gaps
 };
 
+constexpr double JUNTAS_MM = 0.05; // lines so near are a surface
+
+// The families of a device's slot; those that are no numbers are left out.
+std::vector<familia_de_rayado> familias_de(const arrDouble *angulos, const arrPunto2D *origenes,
+                                           const arrPunto2D *pasos, const arrPuntero *trazos);
 // Gives those that cross a box, each from where its pattern begins to where the box ends. False, and gives none, where
 // they stand nearer to each other than `minimo`: they are a surface.
 bool rectas_de(const familia_de_rayado &f, const extension &caja, double minimo,
