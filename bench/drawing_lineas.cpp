@@ -49,14 +49,14 @@ salida_propia abre(cuenta *c, salida_t *destino, const vplan_funciones &f) {
     return salida_propia(vplan_nousar_abre_dispositivo_con_tabla(3, destino, &item, "banco", nullptr, &f));
 }
 
-// Four outputs, each with a turn and a displacement; the last one draws.
+// Outputs, each with a turn and a displacement; the last one draws.
 struct cadena {
     cuenta c;
     std::vector<salida_propia> salidas;
-    cadena() {
+    explicit cadena(int cuantas) {
         vplan_funciones ninguna{}, funciones{};
         funciones.func_DrawLinea = dibuja_linea;
-        for (int k = 0; k < 4; ++k) {
+        for (int k = 0; k < cuantas; ++k) {
             salida_t *const destino = k == 0 ? nullptr : salidas.back().get();
             salidas.push_back(abre(&c, destino, k == 0 ? funciones : ninguna));
             vplan_append_giro_xy_y_posiciona(salidas.back().get(), k, -k, std::cos(0.1 * k), std::sin(0.1 * k));
@@ -130,9 +130,10 @@ class de_cairo {
 
 int lineas(int pasadas) {
     const std::vector<linea> v = lineas_al_azar();
-    cadena d;
+    cadena d(4), sola(1);
     salida_t *const s = d.primera();
-    const auto traza = [s](const linea &l) { vplan_escr_linea(s, l.x1, l.y1, l.x2, l.y2); };
+    const auto traza_en = [](salida_t *o, const linea &l) { vplan_escr_linea(o, l.x1, l.y1, l.x2, l.y2); };
+    const auto traza = [s, traza_en](const linea &l) { traza_en(s, l); };
     const auto todas = [&v](const auto &dibuja) {
         return [&v, dibuja] {
             for (const linea &l : v) dibuja(l);
@@ -154,46 +155,54 @@ int lineas(int pasadas) {
     for (const linea &l : v) traza(l), a_mano(l);
     debe(d.c.veces == N && std::fabs(d.c.suma - sin_nada.suma) < 1e-6 * std::fabs(d.c.suma), "lines of a chain");
 
-    std::vector<camino> kept{{"kept: a line through a chain of four", N, todas(traza)},
-                             {"kept: the products and the call alone", N, todas(a_mano)}};
+    std::vector<camino> caminos{{"kept: a line through a chain of four", N, todas(traza)},
+                                {"kept: the products and the call alone", N, todas(a_mano)}};
     // The transformation of the output that is drawn on changes, as when a figure is placed.
     uint32_t par = 0;
-    const auto coloca_y_traza = [&, s](const linea &l) {
-        vplan_append_giro_xy_y_posiciona(s, 1, 2, 0.8, (++par & 1) != 0 ? 0.6 : -0.6);
-        traza(l);
-        vplan_desapila_transformacion(s);
+    const auto colocada_en = [&par, traza_en](salida_t *o) {
+        return [&par, o, traza_en](const linea &l) {
+            vplan_append_giro_xy_y_posiciona(o, 1, 2, 0.8, (++par & 1) != 0 ? 0.6 : -0.6);
+            traza_en(o, l);
+            vplan_desapila_transformacion(o);
+        };
     };
-    const auto desplaza_y_traza = [s, traza](const linea &l) {
-        vplan_append_desplaza_origen_coordenadas(s, 1, 2);
-        traza(l);
-        vplan_desapila_transformacion(s);
+    const auto desplazada_en = [traza_en](salida_t *o) {
+        return [o, traza_en](const linea &l) {
+            vplan_append_desplaza_origen_coordenadas(o, 1, 2);
+            traza_en(o, l);
+            vplan_desapila_transformacion(o);
+        };
     };
-    kept.push_back({"changed: turned and placed, a line, taken off", N, todas(coloca_y_traza)});
-    kept.push_back({"changed: displaced, a line, taken off", N, todas(desplaza_y_traza)});
-    std::vector<razon> razones{{kept[0].nombre, kept[1].nombre, 0}};
+    const std::vector<camino> cambiadas{
+        {"changed: turned, a line, taken off", N, todas(colocada_en(sola.primera()))},
+        {"changed: displaced, a line, taken off", N, todas(desplazada_en(sola.primera()))},
+        {"changed: turned, a chain of four", N, todas(colocada_en(s))},
+        {"changed: displaced, a chain of four", N, todas(desplazada_en(s))}};
+    caminos.insert(caminos.end(), cambiadas.begin(), cambiadas.end());
+    std::vector<razon> razones{{caminos[0].nombre, caminos[1].nombre, 0}};
 #ifdef CON_QTGUI
     dispositivo_nulo qt;
     QPainter pintor(&qt);
     pintor.setTransform(QTransform(0.9, 0.1, -0.1, 0.9, 5, 7));
-    kept.push_back({"kept: QPainter to nothing", N,
-                    todas([&pintor](const linea &l) { pintor.drawLine(QPointF(l.x1, l.y1), QPointF(l.x2, l.y2)); })});
-    razones.push_back({kept[0].nombre, kept.back().nombre, 1.});
+    caminos.push_back({"kept: QPainter to nothing", N, todas([&pintor](const linea &l) {
+                           pintor.drawLine(QPointF(l.x1, l.y1), QPointF(l.x2, l.y2));
+                       })});
+    razones.push_back({caminos[0].nombre, caminos.back().nombre, 1.});
 #endif
 #ifdef CON_CAIRO
     de_cairo quieto, movido;
     cairo_matrix_t paso;
     cairo_matrix_init(&paso, 1, 0, 0, 1, 1e-9, 0);
-    kept.push_back({"kept: path of cairo", N, todas([&quieto](const linea &l) { quieto.pon(l); })});
-    kept.push_back({"changed: path of cairo", N, todas([&movido, &paso](const linea &l) {
-                        cairo_save(movido.c);
-                        cairo_transform(movido.c, &paso);
-                        movido.pon(l);
-                        cairo_restore(movido.c);
-                    })});
-    razones.push_back({kept[2].nombre, kept.back().nombre, 0.3});
-    razones.push_back({kept[3].nombre, kept.back().nombre, 0.3});
+    caminos.push_back({"kept: path of cairo", N, todas([&quieto](const linea &l) { quieto.pon(l); })});
+    caminos.push_back({"changed: path of cairo", N, todas([&movido, &paso](const linea &l) {
+                           cairo_save(movido.c);
+                           cairo_transform(movido.c, &paso);
+                           movido.pon(l);
+                           cairo_restore(movido.c);
+                       })});
+    for (const camino &c : cambiadas) razones.push_back({c.nombre, caminos.back().nombre, 0.3});
 #endif
-    const int fuera = mide("a line of a drawing", kept, razones, pasadas);
+    const int fuera = mide("a line of a drawing", caminos, razones, pasadas);
 #ifdef CON_QTGUI
     pintor.end();
     debe(qt.motor.c.veces >= N, "lines that reach the other painter");

@@ -1,5 +1,5 @@
-// Polylines of a thousand points, of the plane and of space, to a device that takes them, beside the loop that transforms
-// their points into room that is there.
+// Polylines of a thousand points, of the plane and of space, to a device that takes them, beside the loop that
+// transforms their points into room that is there.
 #include "drawing.h"
 #include "drawing/vornplan.h"
 #include "foundation/listas/arr.h"

@@ -69,8 +69,8 @@ sistema_coordenadas desplazamiento(double dx, double dy, double dz);
 sistema_coordenadas escala(tipo_transformacion tipo, double factor_x, double factor_y, double factor_z,
                            double factor_escala_textos);
 sistema_coordenadas giro(double coseno, double seno);
-// A point (x, y, z) goes to origin + x X + y Y + z Z, of orthonormal axes; of others, by the inverse of the matrix whose
-// rows they are.
+// A point (x, y, z) goes to origin + x X + y Y + z Z, of orthonormal axes; of others, by the inverse of the matrix
+// whose rows they are.
 sistema_coordenadas ejes(tipo_transformacion tipo, Punto3D X, Punto3D Y, Punto3D Z, Punto3D origen);
 sistema_coordenadas extrusion(Punto3D normal, Punto3D origen);
 

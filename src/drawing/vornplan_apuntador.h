@@ -12,8 +12,8 @@ VN_C_INICIO
 salida_t *vplan_abre_apuntador(uint32_t tipo, VN_OPC salida_t *salida_destino, vnbool en_espacio);
 salida_t *vplan_abre_contador(uint32_t tipo, VN_OPC salida_t *salida_destino, vnbool en_espacio);
 salida_t *vplan_abre_nada(uint32_t tipo, VN_OPC salida_t *salida_destino, vnbool en_espacio);
-/** What the first of them has written since it was last asked, a new text in UTF-8: a line for each call, the name of the
-    slot and its values; numbers in the fewest digits that give them back, points in brackets. Reported on another
+/** What the first of them has written since it was last asked, a new text in UTF-8: a line for each call, the name of
+    the slot and its values; numbers in the fewest digits that give them back, points in brackets. Reported on another
     output: null. */
 char *vplan_toma_lo_apuntado(salida_t *salida);
 /** How often the second has been told a slot, by its name ("func_DrawLinea"). No such slot, and another output, are

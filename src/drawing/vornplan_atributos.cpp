@@ -188,8 +188,8 @@ void vornplan_bloquea_material_vnmatvis3d(salida_t *salida, vnbool bloquea) {
     bloquea_aqui(salida, &bloqueos::con_material_bloqueado, bloquea);
 }
 
-// A change in the device may have reset a forced appearance: it is sent again. With it the count of the line type's locks
-// becomes that of the colour's, so a line type locked alone is unlocked.
+// A change in the device may have reset a forced appearance: it is sent again. With it the count of the line type's
+// locks becomes that of the colour's, so a line type locked alone is unlocked.
 void vn::reafirma_bloqueos(salida_t *salida) {
     bloqueos &b = salida->bloqueos;
     const uint32_t color = b.con_color_bloqueado, pluma = b.con_pluma_bloqueada;

@@ -1,5 +1,6 @@
-/* The appearance of what is drawn: colour, pen, line type, layer, text style; and the locks, with which a group is drawn
-   in one appearance whatever its drawing code asks for. Locks are those of the output that is called, and count. */
+/* The appearance of what is drawn: colour, pen, line type, layer, text style; and the locks, with which a group is
+   drawn in one appearance whatever its drawing code asks for. Locks are those of the output that is called, and
+   count. */
 #ifndef VN_VORNPLAN_ATRIBUTOS_H
 #define VN_VORNPLAN_ATRIBUTOS_H
 
@@ -45,8 +46,8 @@ void vornplan_escr_material_bd3d(salida_t *salida, uint32_t material);
 void vornplan_escr_material_bd3d_con_nombre(salida_t *salida, const vnwchar *nombre);
 void vornplan_escr_material_vnmatvis3d(salida_t *salida, const void *material);
 
-/** Locks, with CIERTO, and unlocks, with any other value: one that is not locked is reported. A host in C that passes -1
-    or 2 for true unlocks. */
+/** Locks, with CIERTO, and unlocks, with any other value: one that is not locked is reported. A host in C that passes
+    -1 or 2 for true unlocks. */
 void vplan_bloquea_color(salida_t *salida, vnbool bloquea);
 void vplan_bloquea_pluma(salida_t *salida, vnbool bloquea);
 void vplan_bloquea_tipo_linea(salida_t *salida, vnbool bloquea);
@@ -59,8 +60,8 @@ void vplan_bloquea_aplicacion_sistema_coordenadas_a_giro_texto(salida_t *salida,
 void vplan_bloquea_XOR(salida_t *salida, vnbool bloquea);
 void vornplan_bloquea_material_vnmatvis3d(salida_t *salida, vnbool bloquea);
 
-/** The kind of background: 0 white, 1 grey and light, 2 black. Each output has its own; another kind is reported when it
-    is asked about. */
+/** The kind of background: 0 white, 1 grey and light, 2 black. Each output has its own; another kind is reported when
+    it is asked about. */
 uint32_t vplan_get_tipo_fondo(const salida_t *salida);
 void vplan_set_tipo_fondo(salida_t *salida, VN_RANGO(0, 2) uint32_t tipo_fondo);
 /** The palette colour that stands for a kind of background, and the kind that a palette colour stands for. */

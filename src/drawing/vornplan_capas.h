@@ -7,8 +7,8 @@
 
 VN_C_INICIO
 
-/** Goes to a layer, by its number (VPLAN_NOCAMBIAR: nothing), on each output down to the device that has layers; what is
-    locked is sent again. The second: that of this output, VPLAN_NOCAMBIAR while there is none. */
+/** Goes to a layer, by its number (VPLAN_NOCAMBIAR: nothing), on each output down to the device that has layers; what
+    is locked is sent again. The second: that of this output, VPLAN_NOCAMBIAR while there is none. */
 void vplan_escr_capadxf(salida_t *salida, uint8_t capa);
 uint8_t vplan_capadxf_actual(const salida_t *salida);
 
@@ -17,8 +17,8 @@ uint8_t vplan_capadxf_actual(const salida_t *salida);
 uint8_t vornplan_define_capa_u(salida_t *salida, uint8_t capa, const vnwchar *nombre, uint32_t pluma, double grosor_mm,
                                const idcolor *color, uint8_t tipo_linea, VN_OPC const vnwchar *tipo_linea_definida,
                                uint8_t atributo_extra);
-/** The same of a pen (1 to 4, VPLAN_PORCAPA, VPLAN_NOCAMBIAR) and a colour of the own palette; the other three number the
-    layer themselves, the last with any colour. */
+/** The same of a pen (1 to 4, VPLAN_PORCAPA, VPLAN_NOCAMBIAR) and a colour of the own palette; the other three number
+    the layer themselves, the last with any colour. */
 uint8_t vplan_define_capa_u(salida_t *salida, uint8_t capa, const vnwchar *nombre, uint8_t pluma, uint8_t color,
                             uint8_t tipo_linea);
 uint8_t vplan_define_capa_dxf(salida_t *salida, const char *nombre, uint8_t pluma, uint8_t color, uint8_t tipo_linea);

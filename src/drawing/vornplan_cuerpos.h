@@ -1,4 +1,5 @@
-/* Meshes and bodies of space of an output. Where no device draws one, a mesh of it; where none draws meshes, its lines. */
+/* Meshes and bodies of space of an output. Where no device draws one, a mesh of it; where none draws meshes, its
+   lines. */
 #ifndef VN_VORNPLAN_CUERPOS_H
 #define VN_VORNPLAN_CUERPOS_H
 
@@ -6,8 +7,8 @@
 
 VN_C_INICIO
 
-/** A mesh. `modo` is the device's. An output of limits gets its vertices as a polyline; where no device draws meshes, the
-    edges that are seen from above are lines; where none draws those it is reported. Normals go as vectors, of unit
+/** A mesh. `modo` is the device's. An output of limits gets its vertices as a polyline; where no device draws meshes,
+    the edges that are seen from above are lines; where none draws those it is reported. Normals go as vectors, of unit
     length: under a scale that is not the same along all axes they are not normal to the face. */
 void vplan_escr_mesh(salida_t *salida, const mesh *malla, uint32_t modo);
 /** A tube along an axis. Nobody: a mesh of 32 sides, or else its axis. */

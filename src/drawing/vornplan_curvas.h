@@ -1,5 +1,5 @@
-/* Circles, arcs and ellipses of an output. Where no device draws one, or what it goes through would deform it, an ellipse
-   or a polygon of 64 points a turn takes its place. Angles in radians, counter-clockwise. */
+/* Circles, arcs and ellipses of an output. Where no device draws one, or what it goes through would deform it, an
+   ellipse or a polygon of 64 points a turn takes its place. Angles in radians, counter-clockwise. */
 #ifndef VN_VORNPLAN_CURVAS_H
 #define VN_VORNPLAN_CURVAS_H
 

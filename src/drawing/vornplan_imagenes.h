@@ -1,5 +1,5 @@
-/* Images of an output. The image itself is the host's: the layer hands it on. `justificacion`: 1 to 9, which point of the
-   box the one given is: lower left, lower middle, lower right, then the middle and the upper row. */
+/* Images of an output. The image itself is the host's: the layer hands it on. `justificacion`: 1 to 9, which point of
+   the box the one given is: lower left, lower middle, lower right, then the middle and the upper row. */
 #ifndef VN_VORNPLAN_IMAGENES_H
 #define VN_VORNPLAN_IMAGENES_H
 

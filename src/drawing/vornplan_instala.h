@@ -26,8 +26,8 @@ void vplan_nousar_set_dibuja_bloque_con_plano_definido(
 /** Whether a reference to a block is seen. */
 void vplan_nousar_set_func_visibilidad_bloques(salida_t *salida,
                                                const char *tipo VPLAN_GRUPO_VISIBILIDAD(VPLAN_PARAMETRO_OPC));
-/** A database of objects of space: layers of the view, state, blocks and materials; its objects; texts and planes of the
-    screen, levels of detail. */
+/** A database of objects of space: layers of the view, state, blocks and materials; its objects; texts and planes of
+    the screen, levels of detail. */
 void vornplan_nousar_set_funciones_base_de_datos_3D_1(salida_t *salida,
                                                       const char *tipo VPLAN_GRUPO_BD3D_1(VPLAN_PARAMETRO_OPC));
 void vornplan_nousar_set_funciones_base_de_datos_3D_2(salida_t *salida,

@@ -1,4 +1,5 @@
 #define VN_MODULO "vornplan (NUCLEOS.DLL)"
+// The stack of an output and the composition of a chain.
 #include "drawing/salida_priv.h"
 #include "drawing/vornplan_salida.h"
 #include "drawing/vornplan_sistemas.h"

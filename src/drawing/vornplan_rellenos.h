@@ -1,5 +1,5 @@
-/* Fills of regions of the plane. A region: its outer contours and its inner ones, arrays of pointers to arrPunto2D, none
-   of them null. */
+/* Fills of regions of the plane. A region: its outer contours and its inner ones, arrays of pointers to arrPunto2D,
+   none of them null. */
 #ifndef VN_VORNPLAN_RELLENOS_H
 #define VN_VORNPLAN_RELLENOS_H
 

@@ -10,8 +10,8 @@
 
 VN_C_INICIO
 
-/** Opens an output over a device. `salida_destino`: the next of the chain, which must outlive this one; kind 11 cannot be
-    one. `*item`, the device's datum and the first argument of all its functions, is taken over and left null;
+/** Opens an output over a device. `salida_destino`: the next of the chain, which must outlive this one; kind 11 cannot
+    be one. `*item`, the device's datum and the first argument of all its functions, is taken over and left null;
     `func_destruye_datos_dispositivo` frees it at the close. `tipo_datos_dispositivo` names the device (the text is
     copied): the installers ask for the same. Returns the new output, which vplan_cierra closes; the functions of the
     plane and of space are installed afterwards. */
@@ -38,8 +38,8 @@ vnbool vornplan_es_salida_imagen(const salida_t *salida);
 vnbool vornplan_es_salida_dxf_3d(const salida_t *salida);
 vnbool vornplan_es_salida_pdf(const salida_t *salida);
 vnbool vornplan_es_salida_oblayout(const salida_t *salida);
-/** Whether some output of the chain projects points of space (func_proyecta_punto_2d). The first answer is kept: install
-    those functions before. */
+/** Whether some output of the chain projects points of space (func_proyecta_punto_2d). The first answer is kept:
+    install those functions before. */
 vnbool vornplan_es_salida_sobre_base_de_datos_3D(salida_t *salida);
 
 /** Whether the name is that of this output's device, or of the last one's of the chain. */

@@ -20,9 +20,9 @@ void vplan_append_escala(salida_t *salida, double factor_x, double factor_y);
 void vplan_append_escala_3d(salida_t *salida, double factor_x, double factor_y, double factor_z);
 void vplan_append_escala_xyz(salida_t *salida, double factor);
 void vplan_append_escala_con_origen(salida_t *salida, double x, double y, double factor_x, double factor_y);
-/** A scale that leaves the size of texts. It must be the last one appended: the kind of an output's system is that of its
-    last transformation, so an earlier scale leaves texts as well while this one stands, and one appended after it takes
-    texts along. */
+/** A scale that leaves the size of texts. It must be the last one appended: the kind of an output's system is that of
+    its last transformation, so an earlier scale leaves texts as well while this one stands, and one appended after it
+    takes texts along. */
 void vplan_append_escala_excepto_texto(salida_t *salida, double factor_x, double factor_y);
 /** All divided by a whole number above 0, and the scale of texts with it. */
 void vplan_append_divisor_escala(salida_t *salida, uint16_t div_escala);

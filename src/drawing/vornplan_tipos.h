@@ -1,8 +1,8 @@
 /* What the operations over a drawing output share: its type, the constants, a device's functions.
 
-   An output (`salida`) is opened by whoever draws, over a device: functions that receive what is drawn, and their datum,
-   the item. Outputs chain: what an output's device does not do goes on to its destination. Coordinates are the host's,
-   in metres; a device receives them in its own space. An output belongs to one thread at a time. */
+   An output (`salida`) is opened by whoever draws, over a device: functions that receive what is drawn, and their
+   datum, the item. Outputs chain: what an output's device does not do goes on to its destination. Coordinates are the
+   host's, in metres; a device receives them in its own space. An output belongs to one thread at a time. */
 #ifndef VN_VORNPLAN_TIPOS_H
 #define VN_VORNPLAN_TIPOS_H
 
