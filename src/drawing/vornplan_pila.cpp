@@ -43,7 +43,12 @@ namespace {
 // Into the record of `s`, from its product of the stages beyond where that is enough.
 void compone_lo_cambiado(compuesta &c, const salida_t *s, const salida_t *fin, uint64_t cambios) {
     const salida_t *const otra = s->salida_destino;
-    if (s == fin || otra == nullptr || !es_llano(*s)) {
+    const bool sola = s == fin || otra == nullptr, llano = es_llano(*s);
+    if (sola && llano && !i_es_sistema_coordenadas_identidad(s->sistema_coordenadas_actual)) {
+        c.sistema = *s->sistema_coordenadas_actual;
+        return;
+    }
+    if (sola || !llano) {
         compone_en(c.sistema, s, fin, identidad);
         return;
     }
