@@ -31,7 +31,10 @@ idcolor color_de(uint32_t c) {
 
 class dibujo {
   public:
-    dibujo(const plano &p, salida_t *s, const avisado &avisa) : p_(p), s_(s), avisa_(avisa) {}
+    dibujo(const plano &p, salida_t *s, const avisado &avisa) : p_(p), s_(s), avisa_(avisa) {
+        for (size_t i = 0; i < std::min(p.tipos_de_linea.size(), p.trazos_de_linea.size()); ++i)
+            if (!p.trazos_de_linea[i].empty()) con_trazos_.emplace(clave_de(p.tipos_de_linea[i]), i);
+    }
 
     void hazlo() {
         vplan_append_escala_xyz(s_, metros_de(p_));
@@ -55,25 +58,26 @@ class dibujo {
     const plano &p_;
     salida_t *s_;
     const avisado &avisa_;
+    std::map<texto, size_t> con_trazos_; // the line types with a pattern
     size_t hechas_ = 0;
     uint32_t color_ = SIN_COLOR;
 
     // The drawing's own pattern by its name, or the library's.
     void define_capa(const capa &c) {
         uint8_t tipo = 0;
-        const auto i = std::find(p_.tipos_de_linea.begin(), p_.tipos_de_linea.end(), c.tipo_linea);
-        const auto n = static_cast<size_t>(i - p_.tipos_de_linea.begin());
-        const bool propio = n < p_.trazos_de_linea.size() && !p_.trazos_de_linea[n].empty();
-        if (propio && vornplan_esta_definido_tipo_linea_u(s_, c.tipo_linea.c_str()) == FALSO) {
+        const texto clave = clave_de(c.tipo_linea);
+        const auto propio = con_trazos_.find(clave);
+        const bool hay = propio != con_trazos_.end();
+        if (hay && vornplan_esta_definido_tipo_linea_u(s_, clave.c_str()) == FALSO) {
             const dueno_reales trazos(arr_CreaDouble(0));
-            for (const double x : p_.trazos_de_linea[n]) arr_AppendDouble(trazos.get(), x);
-            vplan_define_tipo_linea_u(s_, c.tipo_linea.c_str(), VNU(""), trazos.get());
+            for (const double x : p_.trazos_de_linea[propio->second]) arr_AppendDouble(trazos.get(), x);
+            vplan_define_tipo_linea_u(s_, clave.c_str(), VNU(""), trazos.get());
         }
-        if (!propio && tipolin_es_tipo_linea_vorn(c.tipo_linea.c_str(), &tipo) == FALSO) tipo = 0;
+        if (!hay && tipolin_es_tipo_linea_vorn(c.tipo_linea.c_str(), &tipo) == FALSO) tipo = 0;
         const idcolor color = color_de_capa(c);
         const uint8_t numero = vornplan_define_capa_u(s_, VPLAN_NOCAMBIAR, c.nombre.c_str(), PLUMA_CON_GROSOR,
                                                       c.grosor_mm > 0 ? c.grosor_mm : GROSOR_NORMAL, &color, tipo,
-                                                      propio ? c.tipo_linea.c_str() : nullptr, VPLAN_NOCAMBIAR);
+                                                      hay ? clave.c_str() : nullptr, VPLAN_NOCAMBIAR);
         vplan_escr_capadxf(s_, numero);
     }
 

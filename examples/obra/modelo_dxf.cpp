@@ -3,7 +3,6 @@
 #include <array>
 #include <climits>
 #include <cmath>
-#include <nucleos/foundation/texto/widestr.h>
 #include <unordered_map>
 
 namespace obra {
@@ -289,9 +288,7 @@ class lector {
 } // namespace
 
 uint32_t nombres_dxf::lugar(const texto &nombre) {
-    texto clave = nombre;
-    for (vnwchar &c : clave) c = widestr_convertir_caracter_a_mayusculas(c);
-    const auto [i, nuevo] = indice_.try_emplace(std::move(clave), static_cast<uint32_t>(nombres_.size()));
+    const auto [i, nuevo] = indice_.try_emplace(clave_de(nombre), static_cast<uint32_t>(nombres_.size()));
     if (nuevo) nombres_.push_back(nombre);
     return i->second;
 }

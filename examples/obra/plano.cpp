@@ -1,6 +1,7 @@
 // Extents of the drawing's curves, exact: an arc counts by its ends and by the quadrants that it goes through.
 #include "plano.h"
 #include <cmath>
+#include <nucleos/foundation/texto/widestr.h>
 #include <numbers>
 
 namespace obra {
@@ -36,6 +37,11 @@ void anade_tramo(extension &e, Punto2D a, Punto2D b, double curvatura) {
 }
 
 } // namespace
+
+texto clave_de(texto nombre) {
+    for (vnwchar &c : nombre) c = widestr_convertir_caracter_a_mayusculas(c);
+    return nombre;
+}
 
 arco arco_de(Punto2D a, Punto2D b, double curvatura) {
     // Centre of the arc whose bulge is the tangent of a quarter of its angle.

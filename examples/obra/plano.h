@@ -82,6 +82,8 @@ struct plano {
     std::map<std::string, uint32_t> sin_importar;
 };
 
+// Names of layers and line types have no case: those that are one have this in common.
+texto clave_de(texto nombre);
 // The arc, counter-clockwise, of a piece of a polyline whose bulge is not 0.
 arco arco_de(Punto2D a, Punto2D b, double curvatura);
 // Adds the points that bound the curve centre + u cos t + v sin t, for t from `desde` counter-clockwise to `hasta`.

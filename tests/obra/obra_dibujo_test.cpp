@@ -149,7 +149,7 @@ PRUEBA(obra_dibujo, el_aspecto_es_el_de_la_capa_o_el_pedido) {
     p.tipos_de_linea = {vn::ancho("EJES"), vn::ancho("SIN")};
     p.trazos_de_linea = {{-1, 2, 3, 0}, {}};
     capa c = capa_con("linea 0 0 9 0");
-    c.tipo_linea = vn::ancho("EJES");
+    c.tipo_linea = vn::ancho("Ejes"); // names have no case
     c.color = 1;
     c.grosor_mm = 0.5;
     c.lineas.resize(5, c.lineas[0]);
