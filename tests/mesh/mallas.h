@@ -2,8 +2,8 @@
 // solids.
 #pragma once
 
-#include "foundation/suelo/dueno.hpp"
 #include "espacio.h"
+#include "foundation/suelo/dueno.hpp"
 #include "mesh/vornmesh.h"
 #include <array>
 #include <map>

@@ -47,7 +47,7 @@ set shared_mutex source_location span sstream stack stdexcept stop_token streamb
 syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility valarray
 variant vector version""".split())
 # Libraries made for the job, by folder of the tree.
-OTRAS = {"src": ("Eigen/", "GL/glu.h"), "tests": ("gtest/",), "bench": ("benchmark/", "GL/glu.h", "Q", "double-conversion/", "udunits2.h", "date/", "CGAL/", "geos", "Eigen/"), "fuzz": (), "examples": ("cairo",)}
+OTRAS = {"src": ("Eigen/", "GL/glu.h"), "tests": ("gtest/", "cairo"), "bench": ("benchmark/", "GL/glu.h", "Q", "double-conversion/", "udunits2.h", "date/", "CGAL/", "geos", "Eigen/", "cairo.h"), "fuzz": (), "examples": ("cairo",)}
 # Hosts: they have nothing of ours on their include path but nucleos/.
 ANFITRIONES = ("examples/", "tests/anfitriones/", "tests/obra/", "tests/paquete/")
 PLATAFORMA = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b.*\b(_WIN32|_WIN64|WIN32|__linux__|__unix__|__MINGW\w*|__APPLE__|"
