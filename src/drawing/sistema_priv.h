@@ -29,7 +29,9 @@ enum tipo_transformacion : uint32_t {
 
 struct sistema_coordenadas {
     tipo_transformacion tipo = i_MATRIZ_SISTEMA_COORDENADAS;
-    matriz4 m{}; // rows U, V, W with D in the fourth column, and the fourth row
+    // Rows U, V, W with D in the fourth column, and the fourth row. Aligned, so that a copy of the record reads by the
+    // pairs in which it was written.
+    alignas(16) matriz4 m{};
     double factor_escala_textos = 1., profundidad = 0.;
     vnbool se_ha_aplicado_previamente_desactiva_todas_transformaciones_glsl = FALSO;
 };
