@@ -4,6 +4,7 @@
 #include <cmath>
 #include <nucleos/drawing/tipolin.h>
 #include <nucleos/foundation/listas/arr.h>
+#include <numbers>
 
 namespace obra {
 namespace {
@@ -25,6 +26,12 @@ std::optional<double> grosor_de_pluma(uint32_t pluma, double grosor_mm) {
     if (pluma >= 1 && pluma <= std::size(GROSORES)) return GROSORES[pluma - 1];
     if (pluma == PLUMA_CON_GROSOR && grosor_mm > 0 && grosor_mm <= MAXIMO_GROSOR) return grosor_mm;
     return std::nullopt;
+}
+
+double barrido_de(double desde, double hasta) {
+    constexpr double VUELTA = 2 * std::numbers::pi;
+    const double resto = std::fmod(hasta - desde, VUELTA);
+    return resto > 0 ? resto : resto + VUELTA;
 }
 
 std::vector<double> por_turnos(std::span<const double> trazos) {

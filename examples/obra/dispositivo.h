@@ -148,6 +148,8 @@ inline std::span<const double> numeros_de(const arrDouble *a) {
 template <class F> void cada_contorno(const arrPuntero *a, F f) {
     for (uint32_t i = 0; i < arr_NumElemsPuntero(a); ++i) f(puntos_de(arr_GetPunteroST(a, i, arrPunto2D)));
 }
+// From an angle counter-clockwise to another: above 0, up to a whole turn.
+double barrido_de(double desde, double hasta);
 template <class... N> bool son_finitos(N... n) { return (std::isfinite(n) && ...); }
 
 // The lengths of a pattern by turns, from a drawn one on: even in number, none below 0; empty where nothing is free.

@@ -167,8 +167,9 @@ class con_cairo : public dispositivo {
             const double t = angulo + (rb > ra ? VUELTA / 4 : 0);
             return linea(xc - r * std::cos(t), yc - r * std::sin(t), xc + r * std::cos(t), yc + r * std::sin(t));
         }
-        traza_curva(xc, yc, ra, rb, angulo, desde, hasta);
-        if (relleno != FALSO || hasta - desde >= VUELTA) cairo_close_path(c_.get());
+        const double barrido = barrido_de(desde, hasta);
+        traza_curva(xc, yc, ra, rb, angulo, desde, desde + barrido);
+        if (relleno != FALSO || barrido >= VUELTA) cairo_close_path(c_.get());
         pinta(relleno);
     }
     void poligono(const arrPunto2D *puntos, vnbool relleno) {

@@ -111,8 +111,7 @@ class dxf : public dispositivo {
         const double radio = std::hypot(x1 - xc, y1 - yc), desde = std::atan2(y1 - yc, x1 - xc),
                      hasta = std::atan2(y2 - yc, x2 - xc);
         if (relleno != FALSO) {
-            const double barrido = hasta > desde ? hasta - desde : hasta - desde + VUELTA;
-            return rellena({{{{x1, y1}, {x2, y2}}, {std::tan(barrido / 4), 0}}});
+            return rellena({{{{x1, y1}, {x2, y2}}, {std::tan(barrido_de(desde, hasta) / 4), 0}}});
         }
         anade_arco(caja_, {xc, yc}, {radio, 0}, {0, radio}, desde, hasta);
         const figura f(*this, "ARC", "AcDbCircle");
@@ -127,16 +126,22 @@ class dxf : public dispositivo {
     }
     void arco_elipse(double xc, double yc, double ra, double rb, double desde, double hasta, double angulo,
                      vnbool relleno) {
+        const double barrido = barrido_de(desde, hasta);
         // The first axis is the longer one.
         if (rb > ra) {
             std::swap(ra, rb);
             angulo += VUELTA / 4;
-            if (desde != 0 || hasta != VUELTA) desde -= VUELTA / 4, hasta -= VUELTA / 4;
+            if (barrido < VUELTA) desde -= VUELTA / 4;
         }
+        desde = std::fmod(desde, VUELTA);
+        if (desde < 0) desde += VUELTA;
+        if (barrido >= VUELTA) desde = 0;
+        hasta = desde + barrido;
+        if (hasta > VUELTA) hasta -= VUELTA;
         const Punto2D centro = {xc, yc}, u = {ra * std::cos(angulo), ra * std::sin(angulo)},
                       v = {-rb * std::sin(angulo), rb * std::cos(angulo)};
         anade_arco(caja_, centro, u, v, desde, hasta);
-        if (relleno != FALSO) return rellena_elipse(centro, u, v, rb / ra, desde, hasta);
+        if (relleno != FALSO) return rellena_elipse(centro, u, v, rb / ra, desde, hasta, barrido >= VUELTA);
         const figura f(*this, "ELLIPSE", "AcDbEllipse");
         e_.pon(10, Punto3D{xc, yc, 0});
         e_.pon(11, Punto3D{u.x, u.y, 0});
@@ -437,8 +442,7 @@ class dxf : public dispositivo {
         }
         e_.pon(97, 0);
     }
-    void rellena_elipse(Punto2D centro, Punto2D u, Punto2D v, double razon, double desde, double hasta) {
-        const bool entera = hasta - desde >= VUELTA;
+    void rellena_elipse(Punto2D centro, Punto2D u, Punto2D v, double razon, double desde, double hasta, bool entera) {
         const figura_rellena f(*this, true, 1);
         const auto en = [&](double t) {
             return Punto2D{centro.x + u.x * std::cos(t) + v.x * std::sin(t),

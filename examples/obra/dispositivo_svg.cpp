@@ -177,8 +177,7 @@ class svg : public dispositivo {
     // With the ends of a circle's as they were told.
     void curva(Punto2D c, double ra, double rb, double angulo, double desde, double hasta, std::optional<Punto2D> a,
                std::optional<Punto2D> b, vnbool relleno) {
-        double barrido = std::fmod(hasta - desde, VUELTA);
-        if (barrido <= 0) barrido += VUELTA;
+        const double barrido = barrido_de(desde, hasta);
         const double ca = std::cos(angulo), sa = std::sin(angulo);
         const auto en = [&](double t) {
             const double x = ra * std::cos(t), y = rb * std::sin(t);

@@ -61,7 +61,7 @@ constexpr idcolor BLANCO_O_NEGRO = {0, 7, 0xFFFFFFFF}; // by the background
 
 // Each figure in a cell of its own, by what is seen at some of its pixels.
 PRUEBA(obra_cairo, cada_figura_pinta_sus_pixeles) {
-    dibuja_en(abre_png, {.ancho = 400, .alto = 100, .unidades_por_mm = 4}, [](salida_t *s) {
+    dibuja_en(abre_png, {.ancho = 500, .alto = 100, .unidades_por_mm = 4}, [](salida_t *s) {
         vornplan_escr_color_rgb(s, 0x0000FF); // red
         const contornos fuera{cuadrado(50, 50, 40)}, dentro{cuadrado(50, 50, 20), cuadrado(50, 50, 10)};
         vplan_escr_relleno_regiones(s, fuera.arr, dentro.arr);
@@ -81,12 +81,13 @@ PRUEBA(obra_cairo, cada_figura_pinta_sus_pixeles) {
         vornplan_set_pluma(s, 6, 0.001);
         vplan_escr_linea(s, 300, 20.5, 400, 20.5);
         vplan_escr_circulo(s, 350, 60, 30);
+        vplan_escr_arco_elipse(s, 450, 50, 40, 20, 0, 10, 0, FALSO); // more than a turn: the rest of it
         vornplan_set_pluma(s, 6, 1);
         vplan_escr_tipo_linea(s, 2); // 9.525 mm and half of that
         vplan_escr_linea(s, 300, 6, 400, 6);
     });
     const imagen im;
-    EXPECT_EQ(im.ancho(), 400);
+    EXPECT_EQ(im.ancho(), 500);
     EXPECT_EQ(im.alto(), 100);
     const struct {
         const char *que;
@@ -104,6 +105,8 @@ PRUEBA(obra_cairo, cada_figura_pinta_sus_pixeles) {
         {"the thin line", 350, 20, NEGRO},
         {"below it", 350, 19, BLANCO},
         {"the circle's inside", 350, 60, BLANCO},
+        {"the arc's part that is not", 450, 30, BLANCO},
+        {"its chord", 453, 44, BLANCO},
         {"a dash", 310, 6, NEGRO},
         {"its gap", 345, 6, BLANCO},
     };
@@ -111,8 +114,9 @@ PRUEBA(obra_cairo, cada_figura_pinta_sus_pixeles) {
     const uint32_t izquierda = im(112, 50), derecha = im(188, 50);
     EXPECT_TRUE(izquierda >> 16 > 0xF0 && (izquierda & 0xFF) < 0x10) << izquierda;
     EXPECT_TRUE(derecha >> 16 < 0x10 && (derecha & 0xFF) > 0xF0) << derecha;
-    // The circle is where it is asked for and nowhere else: four of its points.
-    for (const auto &[x, y] : {std::pair{379, 60}, {320, 60}, {350, 89}, {350, 30}}) EXPECT_LT(im(x, y), 0xC0C0C0u);
+    // The circle is where it is asked for and nowhere else, and the arc too.
+    for (const auto &[x, y] : {std::pair{379, 60}, {320, 60}, {350, 89}, {350, 30}, {450, 69}})
+        EXPECT_LT(im(x, y), 0xC0C0C0u);
 }
 
 // White on white and black on black are seen; a sheet of paper has its size in points and its resolution in pixels.

@@ -154,6 +154,7 @@ PRUEBA(obra_salida_dxf, cada_figura_es_su_entidad) {
     // The longer axis comes first.
     EXPECT_NEAR(std::hypot(cero.elipses[0].eje.x, cero.elipses[0].eje.y), 6, 1e-12);
     EXPECT_NEAR(cero.elipses[0].razon, 1. / 3, 1e-12);
+    EXPECT_NEAR(cero.elipses[1].hasta - cero.elipses[1].desde, 10 - 2 * std::numbers::pi, 1e-12);
     // In the header, whatever is drawn: circles whole, an arc by its quadrants.
     const std::string s = vn::lee_fichero(vn::Prueba::directorio() + "/d.dxf");
     EXPECT_NE(s.find("$EXTMIN\n10\n-6\n"), std::string::npos);
