@@ -212,7 +212,7 @@ class con_cairo : public dispositivo {
         cairo_clip(c_.get());
         extension dentro;
         cairo_clip_extents(c_.get(), &dentro.xmin, &dentro.ymin, &dentro.xmax, &dentro.ymax);
-        for (const familia_de_rayado &f : familias_de(angulos, origenes, pasos, trazos)) {
+        for (const familia_de_rayado &f : familias_de(angulos, origenes, pasos, trazos, JUNTAS_MM * unidades_por_mm_)) {
             pon_trazos(f.trazos, grosor());
             const auto da = [&](Punto2D a, Punto2D b) {
                 cairo_move_to(c_.get(), a.x, a.y);

@@ -258,7 +258,8 @@ class svg : public dispositivo {
         escribe_ << "<clipPath id=\"" << id << "\"><path clip-rule=\"evenodd\" d=\"";
         pon_region(contornos, nullptr);
         escribe_ << "\"/></clipPath>\n<g clip-path=\"url(#" << id << ")\">\n";
-        for (const familia_de_rayado &f : familias_de(angulos, origenes, pasos, trazos)) familia(f, caja, contornos);
+        for (const familia_de_rayado &f : familias_de(angulos, origenes, pasos, trazos, JUNTAS_MM * unidades_por_mm_))
+            familia(f, caja, contornos);
         escribe_ << "</g>\n";
     }
     // In one path, in which a line begins where its pattern does.
