@@ -351,8 +351,9 @@ class dxf : public dispositivo {
     }
     // One that no layer of another name has in this file.
     const std::string &nombre_de_capa(const std::string &dado) {
-        const auto [i, nuevo] = nombres_de_capa_.try_emplace(dado);
-        if (!nuevo) return i->second;
+        const auto puesto = nombres_de_capa_.try_emplace(dado);
+        const auto i = puesto.first;
+        if (!puesto.second) return i->second;
         const dueno_ancho ancho(unicode_convierte_UTF8_a_UNICODE(dado.c_str()));
         const dueno_ancho valido(capadxf_nombre_valido_para_capa_u(ancho.get()));
         const std::string base = nombre_de_dxf(valido.get());

@@ -11,7 +11,7 @@
 namespace obra {
 namespace {
 
-constexpr double VUELTA = 2 * std::numbers::pi, MEDIA_VUELTA = std::numbers::pi, GRADOS_POR_RADIAN = 180 / MEDIA_VUELTA;
+constexpr double MEDIA_VUELTA = std::numbers::pi, GRADOS_POR_RADIAN = 180 / MEDIA_VUELTA;
 // What is smaller is not written: a curve flatter than this is a line, a figure smaller a point.
 constexpr double MINIMO = 0.0005;
 

@@ -92,9 +92,9 @@ PRUEBA(obra_dibujo, cada_figura_se_escribe_corta_y_con_la_y_hacia_abajo) {
 
 PRUEBA(obra_dibujo, los_numeros_y_los_nombres_caben_en_xml) {
     for (const auto &[x, dicho] : vn::filas<double, std::string>("obra/dibujo.tsv", "numeros"))
-        EXPECT_EQ(hecho([&](vnfichero *f) {
+        EXPECT_EQ(hecho([&numero = x](vnfichero *f) {
                       escritor e(f);
-                      e << x, e.vuelca();
+                      e << numero, e.vuelca();
                   }),
                   dicho);
     for (const auto &[nombre, dicho] : vn::filas<std::string, std::string>("obra/dibujo.tsv", "nombres"))

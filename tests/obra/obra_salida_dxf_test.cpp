@@ -137,7 +137,6 @@ PRUEBA(obra_salida_dxf, cada_figura_es_su_entidad) {
     EXPECT_EQ(clases, 11u);
     std::string nombres;
     size_t lineas = 0, polilineas = 0;
-    extension e;
     for (const capa &c : p.capas) {
         nombres += utf8(c.nombre) + "|";
         lineas += c.lineas.size(), polilineas += c.polilineas.size();
