@@ -9,7 +9,7 @@ import sys
 ENTEROS = {"uint8_t": ctypes.c_uint8, "uint16_t": ctypes.c_uint16, "vnbool": ctypes.c_uint16, "int32_t": ctypes.c_int32,
            "uint32_t": ctypes.c_uint32, "uint64_t": ctypes.c_uint64, "double": ctypes.c_double, "void": None}
 FILA = re.compile(r"^X\((\w+), ([\w ]+\**), PRIMERO,\s*\(([^)]*)\),\s*(\w+)\)", re.M)
-# What texts reach, which have no operations of their own yet.
+# What texts reach, which tests/drawing drives.
 SIN_OPERACION = {"func_DrawTexto", "func_LongitudTrozoTexto", "func_DrawTexto3D", "func_SetPlanoTexto"}
 PASO = (10., 20., 5.)
 
