@@ -1,5 +1,6 @@
 #define VN_MODULO "vornbin (NUCLEOS.DLL)"
 #include "persistence/vornbin.h"
+#include "foundation/ficheros/trata_int.h"
 #include "foundation/sistema/vnstdc.h"
 #include "foundation/suelo/afirma_int.h"
 #include "persistence/vornbin_priv.h"
@@ -110,8 +111,7 @@ char bin_lee_SN(vnfichero *f) {
 SALTOS(X)
 #undef X
 
-// The checks of an operation that goes both ways.
-#define AFIRMA_TRATA(dato) (EXIGE(dato, f) && AFIRMA_LOGICO(graba))
+// The members that go both ways.
 #define TRATOS(X)                                                                                                      \
     X(vnbool, bin_trata_bool, bin_graba_bool, bin_lee_bool)                                                            \
     X(uint8_t, bin_trata_byte, bin_graba_byte, bin_lee_byte)                                                           \
@@ -126,14 +126,7 @@ SALTOS(X)
     X(double, bin_trata_double, bin_graba_double, bin_lee_double)                                                      \
     X(char *, bin_trata_cadena, bin_graba_cadena, bin_lee_cadena)                                                      \
     X(vnwchar *, bin_trata_cadena_u, bin_graba_cadena_unicode, bin_lee_cadena_unicode)
-#define X(tipo, trata, escribe, lee)                                                                                   \
-    void trata(tipo *dato, vnfichero *f, vnbool graba) {                                                               \
-        if (!AFIRMA_TRATA(dato)) return;                                                                               \
-        if (graba == CIERTO) escribe(*dato, f);                                                                        \
-        else *dato = lee(f);                                                                                           \
-    }
-TRATOS(X)
-#undef X
+TRATOS(VN_TRATA)
 
 void bin_trata_cadena_ansi_ascii(char **dato, vnfichero *f, vnbool graba, uint16_t version, uint16_t version_ascii) {
     if (!AFIRMA_TRATA(dato)) return;

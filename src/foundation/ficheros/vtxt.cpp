@@ -1,6 +1,7 @@
 #define VN_MODULO "vtxt (NUCLEOS_FOUNDATION.DLL)"
 #include "foundation/ficheros/vtxt.h"
 #include "foundation/ficheros/lc_fichero.h"
+#include "foundation/ficheros/trata_int.h"
 #include "foundation/ficheros/vtxt_int.h"
 #include "foundation/listas/arreglo_int.h"
 #include "foundation/suelo/afirma_int.h"
@@ -136,22 +137,14 @@ void vtxt_trata_bool(vnfichero *f, vnbool *dato, const char *texto1, const char 
     else *dato = vtxt_lee_bool(f, texto1, texto2);
 }
 
-// The other members that go both ways; each checks the two pointers and the direction.
-#define AFIRMA_TRATA(dato) (EXIGE(dato, f) && AFIRMA_LOGICO(graba))
+// The members that go both ways.
 #define TRATOS(X)                                                                                                      \
     X(char *, vtxt_trata_cadena, vtxt_escr_string, vtxt_lee_cadena)                                                    \
     X(vnwchar *, vtxt_trata_cadena_u, vtxt_escr_cadena_unicode, vtxt_lee_cadena_unicode)                               \
     X(double, vtxt_trata_double, vtxt_escr_double, vtxt_lee_double)                                                    \
     X(uint16_t, vtxt_trata_ushrt, vtxt_escr_ushrt, vtxt_lee_ushrt)                                                     \
     X(uint8_t, vtxt_trata_uchar_como_ushrt, vtxt_escr_ushrt, vtxt_lee_uchar)
-#define X(tipo, trata, escribe, lee)                                                                                   \
-    void trata(tipo *dato, vnfichero *f, vnbool graba) {                                                               \
-        if (!AFIRMA_TRATA(dato)) return;                                                                               \
-        if (graba == CIERTO) escribe(*dato, f);                                                                        \
-        else *dato = lee(f);                                                                                           \
-    }
-TRATOS(X)
-#undef X
+TRATOS(VN_TRATA)
 
 void vtxt_trata_cadena_ansi_ascii(char **dato, vnfichero *f, vnbool graba, uint16_t version, uint16_t version_ascii) {
     if (!AFIRMA_TRATA(dato)) return;
